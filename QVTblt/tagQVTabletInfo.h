@@ -1,0 +1,161 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+/**
+ * @file
+ * The settings record of the one attached tablet.
+ *
+ * The record is a wire format: the driver receives its 5077 bytes as they lie in memory. It has no
+ * padding, and its integers are in the host's byte order. The assertions below hold every offset.
+ *
+ * Tablet units count from the upper left corner of the tablet's surface. Screen areas are in points
+ * of the global display coordinates: origin at the upper left corner of the main display, y growing
+ * downwards.
+ */
+
+/** Longest string of the record, its terminating NUL included. */
+inline constexpr std::size_t kQVStringSize = 256;
+
+/** Number of buttons: sixteen express keys, then the upper and the lower pen button. */
+inline constexpr std::size_t kQVSlotCount = 18;
+
+/** A NUL-terminated ASCII string in a field of fixed size. */
+using QVString = std::array<char, kQVStringSize>;
+
+#pragma pack(push, 1)
+
+/** What the configuration file says of the model. The panel only carries it. */
+struct tagQVTabletInfoBasic {
+    std::int16_t VendorID; ///< USB vendor ID
+    std::int16_t ProductID; ///< USB product ID; read it as unsigned
+    std::int16_t VersionNumber;
+    std::int16_t InputLength; ///< bytes of one input report
+    std::int16_t KeyNum; ///< number of express keys
+    std::int16_t ScrollNum; ///< number of scroll strips
+    std::int16_t PressureMax; ///< highest pressure value
+    std::uint16_t TabletXmin; ///< full active area, in tablet units
+    std::uint16_t TabletXmax;
+    std::uint16_t TabletYmin;
+    std::uint16_t TabletYmax;
+    std::int16_t BasicReserved1; ///< always 0
+    std::int16_t BasicReserved2; ///< always 0
+    std::uint8_t isUpdate; ///< 0 or 1
+    QVString UpdateFilename;
+};
+
+/** How the pen answers to the hand. */
+struct tagQVTabletInfoPen {
+    std::int16_t PressureThreshold; ///< 0 to 200; 100 is the straight line
+    std::int16_t Speed;
+};
+
+/** Where the tablet's surface lies on the screen. The spelling is the section's name. */
+struct tagQVTabletInfoMonitior {
+    std::int16_t num; ///< chosen entry of the display list, from 0
+    std::int16_t Speed; ///< report mode: 180 or 220
+    std::int16_t rotationFlag; ///< degrees: 180 or 0
+    std::int16_t disableFlag; ///< 1 while a calibration collects points
+    std::int16_t XOrg; ///< mapped screen area, in points
+    std::int16_t Width;
+    std::int16_t YOrg;
+    std::int16_t Height;
+    std::uint16_t cTabletXmin; ///< part of the tablet that maps onto the area, in tablet units
+    std::uint16_t cTabletXmax;
+    std::uint16_t cTabletYmin;
+    std::uint16_t cTabletYmax;
+    std::int16_t MonitorReserved1; ///< always 0
+    std::int16_t MonitorReserved2; ///< always 0
+    std::int16_t MonitorReserved3; ///< always 0
+    std::int16_t MonitorReserved4; ///< always 0
+};
+
+/** One button's assignment. */
+struct tagQVTabletInfoSubKey {
+    std::int16_t Valid; ///< kind of assignment; 0 is none
+    std::int16_t Mouse; ///< mouse action, where the kind is a mouse button
+    std::uint32_t Key; ///< key codes in bytes 0 to 2, their number in byte 3
+    QVString App; ///< path of the application to start
+};
+
+/** All buttons and scroll strips. */
+struct tagQVTabletInfoKey {
+    std::array<tagQVTabletInfoSubKey, kQVSlotCount> SubKey; ///< Key0 to Key15, penKeyU, penKeyL
+    std::int16_t Scrollbar0; ///< left strip: 0 when it is on, 1 when it is off
+    std::int16_t Scrollbar1; ///< right strip, in the same sense
+    std::int16_t ScrollSpeed;
+};
+
+/** The whole record. */
+struct tagQVTabletInfo {
+    tagQVTabletInfoBasic Basic;
+    tagQVTabletInfoPen Pen;
+    tagQVTabletInfoMonitior Monitor;
+    tagQVTabletInfoKey Key;
+};
+
+#pragma pack(pop)
+
+/** Bytes of the record, and of every push. */
+inline constexpr std::int32_t kQVRecordSize = 5077;
+
+static_assert(sizeof(tagQVTabletInfo) == kQVRecordSize);
+static_assert(alignof(tagQVTabletInfo) == 1);
+
+static_assert(offsetof(tagQVTabletInfo, Basic) == 0);
+static_assert(sizeof(tagQVTabletInfoBasic) == 283);
+static_assert(offsetof(tagQVTabletInfo, Basic.VendorID) == 0);
+static_assert(offsetof(tagQVTabletInfo, Basic.ProductID) == 2);
+static_assert(offsetof(tagQVTabletInfo, Basic.VersionNumber) == 4);
+static_assert(offsetof(tagQVTabletInfo, Basic.InputLength) == 6);
+static_assert(offsetof(tagQVTabletInfo, Basic.KeyNum) == 8);
+static_assert(offsetof(tagQVTabletInfo, Basic.ScrollNum) == 10);
+static_assert(offsetof(tagQVTabletInfo, Basic.PressureMax) == 12);
+static_assert(offsetof(tagQVTabletInfo, Basic.TabletXmin) == 14);
+static_assert(offsetof(tagQVTabletInfo, Basic.TabletXmax) == 16);
+static_assert(offsetof(tagQVTabletInfo, Basic.TabletYmin) == 18);
+static_assert(offsetof(tagQVTabletInfo, Basic.TabletYmax) == 20);
+static_assert(offsetof(tagQVTabletInfo, Basic.BasicReserved1) == 22);
+static_assert(offsetof(tagQVTabletInfo, Basic.BasicReserved2) == 24);
+static_assert(offsetof(tagQVTabletInfo, Basic.isUpdate) == 26);
+static_assert(offsetof(tagQVTabletInfo, Basic.UpdateFilename) == 27);
+
+static_assert(offsetof(tagQVTabletInfo, Pen) == 283);
+static_assert(sizeof(tagQVTabletInfoPen) == 4);
+static_assert(offsetof(tagQVTabletInfo, Pen.PressureThreshold) == 283);
+static_assert(offsetof(tagQVTabletInfo, Pen.Speed) == 285);
+
+static_assert(offsetof(tagQVTabletInfo, Monitor) == 287);
+static_assert(sizeof(tagQVTabletInfoMonitior) == 32);
+static_assert(offsetof(tagQVTabletInfo, Monitor.num) == 287);
+static_assert(offsetof(tagQVTabletInfo, Monitor.Speed) == 289);
+static_assert(offsetof(tagQVTabletInfo, Monitor.rotationFlag) == 291);
+static_assert(offsetof(tagQVTabletInfo, Monitor.disableFlag) == 293);
+static_assert(offsetof(tagQVTabletInfo, Monitor.XOrg) == 295);
+static_assert(offsetof(tagQVTabletInfo, Monitor.Width) == 297);
+static_assert(offsetof(tagQVTabletInfo, Monitor.YOrg) == 299);
+static_assert(offsetof(tagQVTabletInfo, Monitor.Height) == 301);
+static_assert(offsetof(tagQVTabletInfo, Monitor.cTabletXmin) == 303);
+static_assert(offsetof(tagQVTabletInfo, Monitor.cTabletXmax) == 305);
+static_assert(offsetof(tagQVTabletInfo, Monitor.cTabletYmin) == 307);
+static_assert(offsetof(tagQVTabletInfo, Monitor.cTabletYmax) == 309);
+static_assert(offsetof(tagQVTabletInfo, Monitor.MonitorReserved1) == 311);
+static_assert(offsetof(tagQVTabletInfo, Monitor.MonitorReserved2) == 313);
+static_assert(offsetof(tagQVTabletInfo, Monitor.MonitorReserved3) == 315);
+static_assert(offsetof(tagQVTabletInfo, Monitor.MonitorReserved4) == 317);
+
+static_assert(offsetof(tagQVTabletInfo, Key) == 319);
+static_assert(sizeof(tagQVTabletInfoKey) == 4758);
+static_assert(sizeof(tagQVTabletInfoSubKey) == 264);
+static_assert(offsetof(tagQVTabletInfoSubKey, Valid) == 0);
+static_assert(offsetof(tagQVTabletInfoSubKey, Mouse) == 2);
+static_assert(offsetof(tagQVTabletInfoSubKey, Key) == 4);
+static_assert(offsetof(tagQVTabletInfoSubKey, App) == 8);
+static_assert(offsetof(tagQVTabletInfo, Key.SubKey) == 319);
+static_assert(offsetof(tagQVTabletInfo, Key.Scrollbar0) == 5071);
+static_assert(offsetof(tagQVTabletInfo, Key.Scrollbar1) == 5073);
+static_assert(offsetof(tagQVTabletInfo, Key.ScrollSpeed) == 5075);
