@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "HomeFolder.h"
+
+#include <cstdlib>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+std::string homeFolder()
+{
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): nothing here changes the environment
+    if (const char* const home = std::getenv("HOME"); home != nullptr && *home != '\0') {
+        return home;
+    }
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): called on the main thread alone
+    const passwd* const user = ::getpwuid(::getuid());
+    return user == nullptr || user->pw_dir == nullptr ? std::string() : user->pw_dir;
+}
+
+} // namespace
+
+std::string expandTilde(std::string_view path)
+{
+    const bool isHome = path == "~" || path.starts_with("~/");
+    const std::string home = isHome ? homeFolder() : std::string();
+    return home.empty() ? std::string(path) : home + std::string(path.substr(1));
+}
+
+} // namespace platform

@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+/**
+ * @file
+ * Property lists: trees of dictionaries, numbers and strings in files.
+ *
+ * A list is loaded from its XML or its binary form and written as XML. Everything that was not
+ * changed comes back as it was. Errors are results, never exceptions; nothing here writes to the
+ * log. A list and its handles belong to one thread at a time.
+ */
+namespace platform {
+
+/** Longest file that is taken for a property list, in bytes. A configuration has about 12,000. */
+inline constexpr std::size_t kPropertyListMaxSize = std::size_t{1} << 20U;
+
+/** Deepest nesting of containers that is loaded. A configuration nests three deep. */
+inline constexpr int kPropertyListMaxDepth = 64;
+
+/** A number of a property list: an integer, a real or a boolean. */
+class Number {
+public:
+    static constexpr Number integer(std::uint64_t bits) { return Number(bits, 0.0, false); }
+    static constexpr Number real(double value) { return Number(0, value, true); }
+
+    /** The low 16 bits of the whole part. */
+    std::int16_t shortValue() const;
+
+    /**
+     * The whole part: a real is truncated toward zero and saturates at the ends of 64 bits, no
+     * number (NaN) is 0. An unsigned integer above INT64_MAX keeps its bits.
+     */
+    std::int64_t longValue() const;
+
+    /** Whether the number is not zero. */
+    bool boolValue() const;
+
+private:
+    constexpr Number(std::uint64_t bits, double value, bool isReal)
+        : mBits(bits)
+        , mReal(value)
+        , mIsReal(isReal)
+    {
+    }
+
+    std::uint64_t mBits;
+    double mReal;
+    bool mIsReal;
+};
+
+/** What stands under a key. */
+enum class EntryKind : std::uint8_t { Absent, Number, String, Dictionary, Array, Data, Date, Uid };
+
+/**
+ * A handle on a dictionary inside a PropertyList; valid as long as the list and that dictionary.
+ * A handle on no dictionary answers every look-up with nothing and ignores every change.
+ */
+class Dictionary {
+public:
+    Dictionary() = default;
+
+    /** Whether there is a dictionary. */
+    bool exists() const { return mNode != nullptr; }
+
+    EntryKind kind(const char* key) const;
+
+    /** The number under the key; nothing where there is none or it is no number. */
+    std::optional<Number> number(const char* key) const;
+
+    /** The string's bytes (UTF-8); valid until the entry changes. */
+    std::optional<std::string_view> string(const char* key) const;
+
+    /** The dictionary under the key; a handle on none where there is none. */
+    Dictionary dictionary(const char* key) const;
+
+    /** The keys in the file's order. */
+    std::vector<std::string> keys() const;
+
+    /** Sets or replaces an entry. */
+    void setInteger(const char* key, std::int64_t value);
+    void setBoolean(const char* key, bool value);
+    void setString(const char* key, const std::string& value);
+
+    /** Puts an empty dictionary under the key and gives a handle on it. */
+    Dictionary addDictionary(const char* key);
+
+private:
+    friend class PropertyList;
+    explicit Dictionary(void* node)
+        : mNode(node)
+    {
+    }
+
+    void* mNode = nullptr;
+};
+
+/** Why a file could not be loaded or saved. */
+struct PropertyListError {
+    bool missing = false; ///< there is no such file
+    std::string message; ///< what was being done, then the system's text
+};
+
+/** A property list whose root is a dictionary. */
+class PropertyList {
+public:
+    /** A new list with an empty root. */
+    PropertyList();
+
+    /**
+     * Loads a regular file of at most kPropertyListMaxSize bytes. Never waits for a writer: a
+     * directory, a FIFO or a device in the file's place is an error.
+     */
+    static std::optional<PropertyList> load(const std::string& path, PropertyListError& error);
+
+    /** The same from bytes in memory. */
+    static std::optional<PropertyList> parse(std::string_view bytes, PropertyListError& error);
+
+    Dictionary root() const { return Dictionary(mRoot.get()); }
+
+    /** The list in XML. */
+    std::string toXml() const;
+
+    /**
+     * Writes the list as XML: to a temporary file in the same folder, flushed to disk, then renamed
+     * over the file. The file's mode stays. On failure the old file stands and the temporary one is
+     * gone.
+     */
+    bool save(const std::string& path, PropertyListError& error) const;
+
+    /** Like save, but fails where a file already stands at the path. */
+    bool saveNew(const std::string& path, PropertyListError& error) const;
+
+private:
+    struct Free {
+        void operator()(void* node) const;
+    };
+    using Node = std::unique_ptr<void, Free>;
+
+    explicit PropertyList(Node root);
+
+    Node mRoot;
+};
+
+} // namespace platform
