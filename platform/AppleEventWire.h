@@ -1,0 +1,48 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AppleEvents.h"
+
+#include <QString>
+#include <QVariant>
+
+#include <optional>
+
+/**
+ * @file
+ * How events travel over D-Bus; docs/driver-protocol.md describes it for people.
+ *
+ * A parameter list has the signature a(u(uv)): keyword, then the descriptor's type and data. The
+ * data is ay (bytes), a(uv) (a list) or a(u(uv)) (a record).
+ */
+namespace platform::wire {
+
+inline constexpr auto kObjectPath = "/org/quorvia/AppleEvents";
+inline constexpr auto kInterface = "org.quorvia.AppleEvents1";
+inline constexpr auto kSendMethod = "Send";
+inline constexpr auto kEventNotHandled = "org.quorvia.AppleEvents.Error.EventNotHandled";
+inline constexpr auto kCoercionFail = "org.quorvia.AppleEvents.Error.CoercionFail";
+
+/** Signature of the method's arguments. */
+inline constexpr auto kSendSignature = "uua(u(uv))";
+
+/** Deepest nesting of lists and records; a parameter's own descriptor is at depth 1. */
+inline constexpr int kMaxDepth = 8;
+
+/** Most entries of one parameter list, list or record. */
+inline constexpr std::size_t kMaxItems = 4096;
+
+/**
+ * The bus name of the application with that signature. Characters that a bus name cannot hold are
+ * the reason to write the whole code as "_x" and eight hex digits.
+ */
+QString busName(FourCharCode signature);
+
+/** The parameter list as an argument of a D-Bus message. */
+QVariant encode(const AERecord& parameters);
+
+/** The parameter list of a D-Bus message's argument; nothing when it is malformed. */
+std::optional<AERecord> decode(const QVariant& argument);
+
+} // namespace platform::wire

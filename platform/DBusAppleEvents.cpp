@@ -1,0 +1,371 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "DBusAppleEvents.h"
+
+#include "AppleEventWire.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusError>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
+#include <QDBusServiceWatcher>
+#include <QDBusVirtualObject>
+#include <QLoggingCategory>
+#include <QSet>
+
+#include <cstring>
+#include <deque>
+#include <map>
+#include <optional>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcEvents, "org.quorvia.tablet.events", QtInfoMsg)
+
+QDBusMessage methodCall(const AppleEvent& event, const QString& destination)
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(destination, QLatin1String(wire::kObjectPath),
+            QLatin1String(wire::kInterface), QLatin1String(wire::kSendMethod));
+    call << event.eventClass << event.eventID << wire::encode(event.parameters);
+    return call;
+}
+
+/** Where an address leads to on the bus; empty for an address of no known kind. */
+QString destination(const AEDesc& address)
+{
+    const QByteArray* const bytes = address.bytes();
+    if (bytes == nullptr) {
+        return {};
+    }
+    if (address.type == typeBusName) {
+        return QString::fromUtf8(*bytes);
+    }
+    FourCharCode signature = 0;
+    if (address.type != typeApplSignature || bytes->size() != sizeof signature) {
+        return {};
+    }
+    std::memcpy(&signature, bytes->constData(), sizeof signature);
+    return wire::busName(signature);
+}
+
+OSErr errorCode(const QDBusMessage& error)
+{
+    const QString name = error.errorName();
+    if (name == QLatin1String(wire::kEventNotHandled)) {
+        return errAEEventNotHandled;
+    }
+    if (name == QLatin1String(wire::kCoercionFail)) {
+        return errAECoercionFail;
+    }
+    if (name.startsWith(QLatin1String("org.freedesktop.DBus.Error.Spawn."))) {
+        return procNotFound; // the bus tried to start it
+    }
+    switch (QDBusError(error).type()) {
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+        return errAETimeout;
+    case QDBusError::ServiceUnknown:
+        return procNotFound;
+    case QDBusError::Disconnected:
+        return connectionInvalid;
+    default:
+        return errAEEventNotHandled;
+    }
+}
+
+QDBusMessage errorReply(const QDBusMessage& call, OSErr error, const QString& why)
+{
+    const auto* const name =
+        error == errAECoercionFail ? wire::kCoercionFail : wire::kEventNotHandled;
+    return call.createErrorReply(QLatin1String(name), why);
+}
+
+int milliseconds(std::int32_t ticks)
+{
+    return static_cast<int>(std::int64_t{ticks} * 1000 / kTicksPerSecond);
+}
+
+} // namespace
+
+/** The object on the bus, and everything that lives as long as one connection. */
+class DBusAppleEvents::Private final : public QDBusVirtualObject {
+public:
+    Private()
+        : mName(QStringLiteral("org.quorvia.AppleEvents-%1").arg(reinterpret_cast<quintptr>(this)))
+    {
+    }
+    ~Private() override { disconnect(); }
+    Private(const Private&) = delete;
+    Private& operator=(const Private&) = delete;
+    Private(Private&&) = delete;
+    Private& operator=(Private&&) = delete;
+
+    QDBusConnection& connection()
+    {
+        if (!mConnection || !mConnection->isConnected()) {
+            connectAgain();
+        }
+        return *mConnection;
+    }
+
+    QString introspect(const QString& path) const override
+    {
+        static_cast<void>(path);
+        return QStringLiteral("<interface name=\"org.quorvia.AppleEvents1\">"
+                              "<method name=\"Send\">"
+                              "<arg name=\"eventClass\" type=\"u\" direction=\"in\"/>"
+                              "<arg name=\"eventID\" type=\"u\" direction=\"in\"/>"
+                              "<arg name=\"parameters\" type=\"a(u(uv))\" direction=\"in\"/>"
+                              "<arg name=\"reply\" type=\"a(u(uv))\" direction=\"out\"/>"
+                              "</method></interface>");
+    }
+
+    bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override
+    {
+        if (call.interface() != QLatin1String(wire::kInterface)
+            || call.member() != QLatin1String(wire::kSendMethod)) {
+            return false;
+        }
+        const QDBusMessage answer = dispatch(call);
+        if (call.isReplyRequired()) {
+            bus.send(answer);
+        }
+        return true;
+    }
+
+    std::map<std::pair<AEEventClass, AEEventID>, Handler> mHandlers;
+    std::deque<QDBusPendingCallWatcher*> mPending;
+    OSErr mLastError = noErr;
+    std::optional<FourCharCode> mSource; ///< whose events are taken
+    bool mIsApplication = false; ///< everybody's events are taken
+
+    void watchSource()
+    {
+        mOwner.reset();
+        mWatcher.reset();
+        if (!mSource || !mConnection || !mConnection->isConnected()) {
+            return;
+        }
+        mWatcher = std::make_unique<QDBusServiceWatcher>(
+            wire::busName(*mSource), *mConnection, QDBusServiceWatcher::WatchForOwnerChange);
+        QObject::connect(mWatcher.get(), &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString&, const QString&, const QString& owner) {
+                mOwner = owner;
+                mRefused.clear();
+            });
+    }
+
+    void noteAnswer(QDBusPendingCallWatcher* watcher)
+    {
+        if (std::erase(mPending, watcher) == 0) {
+            return;
+        }
+        if (watcher->isError()) {
+            mLastError = errorCode(watcher->reply());
+            // The sender has gone on long ago. Whether nobody listened is not its concern, so this
+            // is for those who look for it.
+            qCDebug(
+                lcEvents, "an event was not taken: %s", qUtf8Printable(watcher->error().message()));
+        }
+        watcher->deleteLater();
+    }
+
+private:
+    void connectAgain()
+    {
+        disconnect();
+        mConnection = QDBusConnection::connectToBus(QDBusConnection::SessionBus, mName);
+        if (mConnection->isConnected()) {
+            mConnection->registerVirtualObject(QLatin1String(wire::kObjectPath), this);
+            watchSource();
+        } else {
+            qCWarning(
+                lcEvents, "no session bus: %s", qUtf8Printable(mConnection->lastError().message()));
+        }
+    }
+
+    void disconnect()
+    {
+        mWatcher.reset();
+        if (mConnection) {
+            mConnection->unregisterObject(QLatin1String(wire::kObjectPath));
+            mConnection.reset();
+            QDBusConnection::disconnectFromBus(mName);
+        }
+    }
+
+    QDBusMessage dispatch(const QDBusMessage& call)
+    {
+        const QString sender = call.service();
+        if (!mayDeliver(sender)) {
+            if (!mRefused.contains(sender) && mRefused.size() < kMaxRefused) {
+                mRefused.insert(sender);
+                qCWarning(lcEvents, "refused an event from %s, which is not %s",
+                    qUtf8Printable(sender),
+                    mSource ? qUtf8Printable(wire::busName(*mSource)) : "expected by anyone");
+            }
+            return call.createErrorReply(QDBusError::AccessDenied,
+                QStringLiteral("only the tablet's driver may send events here"));
+        }
+        const QList<QVariant> arguments = call.arguments();
+        std::optional<AERecord> parameters;
+        if (call.signature() == QLatin1String(wire::kSendSignature)) {
+            parameters = wire::decode(arguments[2]);
+        }
+        if (!parameters) {
+            qCWarning(lcEvents, "refused a malformed event from %s", qUtf8Printable(sender));
+            return errorReply(call, errAECoercionFail, QStringLiteral("the event is malformed"));
+        }
+        const AppleEvent event{arguments[0].toUInt(), arguments[1].toUInt(),
+            {typeBusName, sender.toUtf8()}, std::move(*parameters)};
+        const auto handler = mHandlers.find({event.eventClass, event.eventID});
+        if (handler == mHandlers.end()) {
+            return errorReply(call, errAEEventNotHandled,
+                QStringLiteral("nobody handles the event %1/%2")
+                    .arg(QLatin1String(quoted(event.eventClass)),
+                        QLatin1String(quoted(event.eventID))));
+        }
+        AppleEvent reply;
+        // A copy, since a handler may remove itself.
+        const Handler handle = handler->second;
+        const OSErr error = handle(event, reply);
+        if (error != noErr) {
+            const AEDesc* const text = find(reply.parameters, keyErrorString);
+            const QByteArray* const why = text == nullptr ? nullptr : text->bytes();
+            return errorReply(
+                call, error, why == nullptr ? QString::number(error) : QString::fromUtf8(*why));
+        }
+        return call.createReply(wire::encode(reply.parameters));
+    }
+
+    bool mayDeliver(const QString& sender)
+    {
+        if (mIsApplication) {
+            return true;
+        }
+        if (!mSource) {
+            return false;
+        }
+        if (!mOwner) {
+            mOwner = mConnection->interface()->serviceOwner(wire::busName(*mSource)).value();
+        }
+        return !sender.isEmpty() && sender == *mOwner;
+    }
+
+    static constexpr int kMaxRefused = 64; ///< log lines that strangers can cause
+
+    QString mName;
+    std::optional<QDBusConnection> mConnection;
+    std::unique_ptr<QDBusServiceWatcher> mWatcher;
+    std::optional<QString> mOwner; ///< who owns the source's name; nothing until somebody asks
+    QSet<QString> mRefused;
+};
+
+DBusAppleEvents::DBusAppleEvents()
+    : d(std::make_unique<Private>())
+{
+}
+
+DBusAppleEvents::~DBusAppleEvents() = default;
+
+OSErr DBusAppleEvents::send(const AppleEvent& event, AppleEvent* reply, AESendMode mode,
+    AESendPriority priority, std::int32_t timeOut)
+{
+    // The bus knows no priorities, and every event here waits for a reply.
+    static_cast<void>(mode);
+    static_cast<void>(priority);
+
+    QDBusConnection& bus = d->connection();
+    const QString receiver = destination(event.address);
+    if (!bus.isConnected() || receiver.isEmpty()) {
+        return connectionInvalid;
+    }
+    const QDBusMessage call = methodCall(event, receiver);
+    if (reply == nullptr) {
+        auto* const watcher =
+            new QDBusPendingCallWatcher(bus.asyncCall(call, milliseconds(timeOut)), d.get());
+        d->mPending.push_back(watcher);
+        QObject::connect(watcher, &QDBusPendingCallWatcher::finished, d.get(),
+            [this](QDBusPendingCallWatcher* answered) { d->noteAnswer(answered); });
+        return noErr;
+    }
+    const QDBusMessage answer = bus.call(call, QDBus::Block, milliseconds(timeOut));
+    if (answer.type() != QDBusMessage::ReplyMessage) {
+        qCDebug(lcEvents, "%s did not answer: %s", qUtf8Printable(receiver),
+            qUtf8Printable(answer.errorMessage()));
+        return errorCode(answer);
+    }
+    std::optional<AERecord> parameters;
+    if (answer.arguments().size() == 1) {
+        parameters = wire::decode(answer.arguments().constFirst());
+    }
+    if (!parameters) {
+        qCWarning(lcEvents, "%s sent a malformed reply", qUtf8Printable(receiver));
+        return errAECoercionFail;
+    }
+    reply->parameters = std::move(*parameters);
+    return noErr;
+}
+
+OSErr DBusAppleEvents::finishSends()
+{
+    while (!d->mPending.empty()) {
+        QDBusPendingCallWatcher* const watcher = d->mPending.front();
+        watcher->waitForFinished();
+        d->noteAnswer(watcher);
+    }
+    return std::exchange(d->mLastError, noErr);
+}
+
+OSErr DBusAppleEvents::installEventHandler(
+    AEEventClass eventClass, AEEventID eventID, Handler handler)
+{
+    d->mHandlers.insert_or_assign({eventClass, eventID}, std::move(handler));
+    return noErr;
+}
+
+OSErr DBusAppleEvents::removeEventHandler(AEEventClass eventClass, AEEventID eventID)
+{
+    return d->mHandlers.erase({eventClass, eventID}) == 1 ? noErr : errAEHandlerNotFound;
+}
+
+void DBusAppleEvents::acceptEventsFrom(FourCharCode signature)
+{
+    d->mSource = signature;
+    const QDBusConnection& bus = d->connection();
+    if (bus.isConnected()) {
+        d->watchSource();
+    } else {
+        qCWarning(lcEvents, "no session bus: %s", qUtf8Printable(bus.lastError().message()));
+    }
+}
+
+QString DBusAppleEvents::registerApplication(FourCharCode signature)
+{
+    QDBusConnection& bus = d->connection();
+    if (!bus.isConnected()) {
+        return bus.lastError().message();
+    }
+    const QString name = wire::busName(signature);
+    d->mIsApplication = true;
+    const auto request = bus.interface()->registerService(name,
+        QDBusConnectionInterface::DontQueueService, QDBusConnectionInterface::DontAllowReplacement);
+    if (request.value() == QDBusConnectionInterface::ServiceRegistered) {
+        return {};
+    }
+    d->mIsApplication = false;
+    return QStringLiteral("another program has the name %1").arg(name);
+}
+
+QDBusConnection DBusAppleEvents::connection()
+{
+    return d->connection();
+}
+
+} // namespace platform

@@ -1,0 +1,50 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AppleEvents.h"
+
+#include <QDBusConnection>
+#include <QString>
+
+#include <memory>
+
+namespace platform {
+
+/**
+ * Events over the D-Bus session bus, on a connection of its own, made when it is first needed and
+ * made again after it was lost.
+ */
+class DBusAppleEvents final : public AppleEvents {
+public:
+    DBusAppleEvents();
+    ~DBusAppleEvents() override;
+    DBusAppleEvents(const DBusAppleEvents&) = delete;
+    DBusAppleEvents& operator=(const DBusAppleEvents&) = delete;
+    DBusAppleEvents(DBusAppleEvents&&) = delete;
+    DBusAppleEvents& operator=(DBusAppleEvents&&) = delete;
+
+    OSErr send(const AppleEvent& event, AppleEvent* reply, AESendMode mode, AESendPriority priority,
+        std::int32_t timeOut) override;
+    OSErr finishSends() override;
+    OSErr installEventHandler(AEEventClass eventClass, AEEventID eventID, Handler handler) override;
+    OSErr removeEventHandler(AEEventClass eventClass, AEEventID eventID) override;
+    void acceptEventsFrom(FourCharCode signature) override;
+
+    /**
+     * Becomes the application with that signature, to which everybody on the bus may send events.
+     *
+     * @return why it failed, for people: there is no bus, or another program has the name; empty on
+     *     success
+     */
+    QString registerApplication(FourCharCode signature);
+
+    /** The connection to the session bus; not connected when there is none. */
+    QDBusConnection connection();
+
+private:
+    class Private;
+    std::unique_ptr<Private> d;
+};
+
+} // namespace platform

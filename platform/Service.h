@@ -1,0 +1,37 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <utility>
+
+namespace platform {
+
+/**
+ * Puts another implementation in a service's place for as long as the scope lives; scopes nest.
+ * Main thread only. The implementation must outlive the scope.
+ */
+template <class Service>
+class ServiceScope {
+public:
+    explicit ServiceScope(Service& service)
+        : mBefore(std::exchange(current(), &service))
+    {
+    }
+    ~ServiceScope() { current() = mBefore; }
+    ServiceScope(const ServiceScope&) = delete;
+    ServiceScope& operator=(const ServiceScope&) = delete;
+    ServiceScope(ServiceScope&&) = delete;
+    ServiceScope& operator=(ServiceScope&&) = delete;
+
+    /** The implementation in place; null for the desktop's own. */
+    static Service*& current()
+    {
+        static Service* service = nullptr;
+        return service;
+    }
+
+private:
+    Service* mBefore;
+};
+
+} // namespace platform
