@@ -1,0 +1,55 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Bundle.h"
+
+#include "PropertyList.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <QLoggingCategory>
+
+namespace platform {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcBundle, "org.quorvia.tablet.bundle", QtInfoMsg)
+
+} // namespace
+
+std::optional<QString> Bundle::pathForResource(const QString& name, const QString& type) const
+{
+    const QString path = mFolder + u'/' + name + u'.' + type;
+    if (mFolder.isEmpty() || !QFileInfo(path).isFile()) {
+        return std::nullopt;
+    }
+    return path;
+}
+
+QString Bundle::localizedString(
+    const QString& key, const QString& value, const QString& table) const
+{
+    QStringList languages = QLocale::system().uiLanguages();
+    languages.append(QStringLiteral("en"));
+    for (const QString& language : std::as_const(languages)) {
+        const std::optional<QString> path = pathForResource(
+            language + QStringLiteral(".lproj/") + table, QStringLiteral("strings"));
+        if (!path) {
+            continue;
+        }
+        PropertyListError error;
+        const std::optional<PropertyList> strings =
+            PropertyList::load(QFile::encodeName(*path).toStdString(), error);
+        if (!strings) {
+            qCWarning(lcBundle, "%s", error.message.c_str());
+            continue;
+        }
+        const auto text = strings->root().string(key.toUtf8().constData());
+        if (text) {
+            return QString::fromUtf8(text->data(), static_cast<int>(text->size()));
+        }
+    }
+    return value.isEmpty() ? key : value;
+}
+
+} // namespace platform

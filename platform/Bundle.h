@@ -1,0 +1,43 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+
+namespace platform {
+
+/**
+ * A folder of resources: files by name and type, and localized string tables.
+ *
+ * A string table is the file <language>.lproj/<table>.strings, a property list with one dictionary
+ * of strings. The user's preferred languages are those of the desktop's settings, best first.
+ */
+class Bundle {
+public:
+    /** A bundle without resources. */
+    Bundle() = default;
+
+    explicit Bundle(QString folder)
+        : mFolder(std::move(folder))
+    {
+    }
+
+    const QString& folder() const { return mFolder; }
+
+    /** Path of the file name.type, capitals as given; nothing where there is none. */
+    std::optional<QString> pathForResource(const QString& name, const QString& type) const;
+
+    /**
+     * The string under the key, in the best language whose table has it, English last. Where none
+     * has it: the value, or, when that is empty, the key itself.
+     */
+    QString localizedString(const QString& key, const QString& value, const QString& table) const;
+
+private:
+    QString mFolder;
+};
+
+} // namespace platform

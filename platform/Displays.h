@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Geometry.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+/**
+ * @file
+ * The displays of the desktop, in the order in which the desktop lists them.
+ *
+ * Global display coordinates are in points, with their origin at the upper left corner of the main
+ * display and y growing downwards.
+ */
+namespace platform {
+
+/** Names an active display until the displays change. */
+using DisplayID = std::uint32_t;
+
+/** Main thread only. */
+class Displays {
+public:
+    Displays() = default;
+    virtual ~Displays() = default;
+    Displays(const Displays&) = delete;
+    Displays& operator=(const Displays&) = delete;
+    Displays(Displays&&) = delete;
+    Displays& operator=(Displays&&) = delete;
+
+    /** How many displays are active; nothing when the window system does not tell. */
+    virtual std::optional<std::uint32_t> activeDisplayCount() const = 0;
+
+    /** The active displays; nothing when the window system does not tell. */
+    virtual std::optional<std::vector<DisplayID>> activeDisplays() const = 0;
+
+    /** A display's place and size in global display coordinates; empty for an unknown display. */
+    virtual Rect bounds(DisplayID display) const = 0;
+};
+
+/** The desktop's displays, or what a ServiceScope<Displays> has put in their place. */
+Displays& displays();
+
+} // namespace platform

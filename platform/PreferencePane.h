@@ -1,0 +1,78 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Bundle.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+#include <QtPlugin>
+
+#include <memory>
+
+namespace platform {
+
+/**
+ * A pane of settings that a host shows in a window of its own. The host calls, on the main thread:
+ * initWithBundle once; loadMainView once, whose widget it puts into its window; then, for every
+ * showing, willSelect before and didSelect after the pane appears, willUnselect before and
+ * didUnselect after it goes.
+ *
+ * The header is all that a host needs: host and pane may be built apart and share no other code.
+ */
+class PreferencePane : public QObject {
+public:
+    /** Takes the module's bundle. @return the pane, or null when it cannot work */
+    virtual PreferencePane* initWithBundle(const Bundle& bundle)
+    {
+        mBundle = bundle;
+        return this;
+    }
+
+    /** Makes the main view. It belongs to whoever gives it a parent. */
+    virtual QWidget* loadMainView()
+    {
+        if (mMainView == nullptr) {
+            mMainView = makeMainView();
+            mainViewDidLoad();
+        }
+        return mMainView;
+    }
+
+    /** The main view; null before it is loaded and after it is gone. */
+    virtual QWidget* mainView() const { return mMainView; }
+
+    virtual void mainViewDidLoad() { }
+    virtual void willSelect() { }
+    virtual void didSelect() { }
+    virtual void willUnselect() { }
+    virtual void didUnselect() { }
+
+protected:
+    const Bundle& bundle() const { return mBundle; }
+
+private:
+    /** Builds the main view from the interface file. */
+    virtual QWidget* makeMainView() = 0;
+
+    Bundle mBundle;
+    QPointer<QWidget> mMainView;
+};
+
+/** What a module's plug-in is: a maker of panes. */
+class PreferencePanePlugin {
+public:
+    PreferencePanePlugin() = default;
+    virtual ~PreferencePanePlugin() = default;
+    PreferencePanePlugin(const PreferencePanePlugin&) = delete;
+    PreferencePanePlugin& operator=(const PreferencePanePlugin&) = delete;
+    PreferencePanePlugin(PreferencePanePlugin&&) = delete;
+    PreferencePanePlugin& operator=(PreferencePanePlugin&&) = delete;
+
+    virtual std::unique_ptr<PreferencePane> makePane() const = 0;
+};
+
+} // namespace platform
+
+Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/1")
