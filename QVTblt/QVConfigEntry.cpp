@@ -1,0 +1,152 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVConfigEntry.h"
+
+#include <algorithm>
+#include <cstring>
+#include <string_view>
+
+namespace {
+
+/** The record is packed: a field's bytes may lie at any address. */
+template <class Value>
+Value load(const std::byte* from)
+{
+    Value value{};
+    std::memcpy(&value, from, sizeof value);
+    return value;
+}
+
+template <class Value>
+void store(std::byte* to, Value value)
+{
+    std::memcpy(to, &value, sizeof value);
+}
+
+bool isAscii(std::string_view text)
+{
+    return std::ranges::all_of(text, [](char c) { return c > 0; });
+}
+
+/** XML can hold no control characters but these. */
+bool isWritable(std::string_view text)
+{
+    return std::ranges::all_of(
+        text, [](char c) { return c >= ' ' || c == '\t' || c == '\n' || c == '\r' || c < 0; });
+}
+
+void storeNumber(QVFieldType type, platform::Number number, std::byte* to)
+{
+    switch (type) {
+    case QVFieldType::Int16:
+    case QVFieldType::UInt16:
+        store(to, number.shortValue());
+        break;
+    case QVFieldType::UInt32:
+        store(to, static_cast<std::uint32_t>(number.longValue()));
+        break;
+    case QVFieldType::Boolean:
+        store(to, static_cast<std::uint8_t>(number.boolValue() ? 1 : 0));
+        break;
+    case QVFieldType::String:
+        break;
+    }
+}
+
+} // namespace
+
+QVEntryResult QVReadEntry(
+    const platform::Dictionary& dictionary, const QVField& field, std::byte* base)
+{
+    std::byte* const to = base + field.offset;
+    if (field.type == QVFieldType::String) {
+        const auto text = dictionary.string(field.key);
+        if (text && (text->size() >= kQVStringSize || !isAscii(*text))) {
+            return QVEntryResult::Unfit;
+        }
+        if (text) {
+            std::fill_n(
+                std::copy_n(reinterpret_cast<const std::byte*>(text->data()), text->size(), to),
+                kQVStringSize - text->size(), std::byte{0});
+            return QVEntryResult::Copied;
+        }
+    } else if (const auto number = dictionary.number(field.key)) {
+        storeNumber(field.type, *number, to);
+        return QVEntryResult::Copied;
+    }
+    return dictionary.kind(field.key) == platform::EntryKind::Absent ? QVEntryResult::Absent
+                                                                     : QVEntryResult::WrongType;
+}
+
+bool QVWriteEntry(platform::Dictionary dictionary, const QVField& field, const std::byte* base)
+{
+    switch (field.type) {
+    case QVFieldType::String: {
+        const std::string text = QVFieldString(field, base);
+        if (!isAscii(text) || !isWritable(text)) {
+            return false;
+        }
+        dictionary.setString(field.key, text);
+        return true;
+    }
+    case QVFieldType::UInt16:
+        // The file has always held signed numbers here: 40000 stands as -25536.
+        dictionary.setInteger(field.key, load<std::int16_t>(base + field.offset));
+        return true;
+    case QVFieldType::Boolean:
+        dictionary.setBoolean(field.key, QVFieldNumber(field, base) != 0);
+        return true;
+    case QVFieldType::Int16:
+    case QVFieldType::UInt32:
+        dictionary.setInteger(field.key, QVFieldNumber(field, base));
+        return true;
+    }
+    return false;
+}
+
+std::int64_t QVFieldNumber(const QVField& field, const std::byte* base)
+{
+    const std::byte* const from = base + field.offset;
+    switch (field.type) {
+    case QVFieldType::Int16:
+        return load<std::int16_t>(from);
+    case QVFieldType::UInt16:
+        return load<std::uint16_t>(from);
+    case QVFieldType::UInt32:
+        return load<std::uint32_t>(from);
+    case QVFieldType::Boolean:
+        return load<std::uint8_t>(from);
+    case QVFieldType::String:
+        break;
+    }
+    return 0;
+}
+
+std::string QVFieldString(const QVField& field, const std::byte* base)
+{
+    const auto* const text = reinterpret_cast<const char*>(base + field.offset);
+    return {text, ::strnlen(text, kQVStringSize)};
+}
+
+const char* QVKindName(platform::EntryKind kind)
+{
+    switch (kind) {
+    case platform::EntryKind::Absent:
+        return "nothing";
+    case platform::EntryKind::Number:
+        return "a number";
+    case platform::EntryKind::String:
+        return "a string";
+    case platform::EntryKind::Dictionary:
+        return "a dictionary";
+    case platform::EntryKind::Array:
+        return "an array";
+    case platform::EntryKind::Data:
+        return "data";
+    case platform::EntryKind::Date:
+        return "a date";
+    case platform::EntryKind::Uid:
+        return "a reference";
+    }
+    return "nothing";
+}

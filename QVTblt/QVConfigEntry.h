@@ -1,0 +1,54 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PropertyList.h"
+#include "QVTabletFields.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+/**
+ * @file
+ * One entry of the configuration file, one field of the record, and the way between them.
+ */
+
+/** What became of an entry on its way into the record. */
+enum class QVEntryResult : std::uint8_t {
+    Copied,
+    Absent, ///< the file does not have it; the field keeps its value
+    WrongType, ///< no number, or no string, where one belongs; the field keeps its value
+    Unfit, ///< a string that is too long or not ASCII; the field keeps its value
+};
+
+/**
+ * Copies an entry into its field.
+ *
+ * Integers keep their low 16 or 32 bits, reals are truncated toward zero first, booleans are 0 and
+ * 1. A string must be ASCII without NUL and leave room for its terminating NUL; the rest of its
+ * field becomes zero.
+ *
+ * @param dictionary where the entry stands; one that does not exist has no entries
+ * @param base first byte of the record or the slot that the field's offset counts from
+ */
+QVEntryResult QVReadEntry(
+    const platform::Dictionary& dictionary, const QVField& field, std::byte* base);
+
+/**
+ * Sets an entry from its field, whether or not it was there. A string that is not ASCII, or holds a
+ * control character that a property list cannot, leaves the entry as it is.
+ *
+ * @return false when the entry was left
+ */
+bool QVWriteEntry(platform::Dictionary dictionary, const QVField& field, const std::byte* base);
+
+/** The number in a field of any type but String. */
+std::int64_t QVFieldNumber(const QVField& field, const std::byte* base);
+
+/** The bytes of a String field before its NUL; all of them when it has none. */
+std::string QVFieldString(const QVField& field, const std::byte* base);
+
+/** What an entry's kind is called in messages: "a string", "an array". */
+const char* QVKindName(platform::EntryKind kind);

@@ -1,0 +1,185 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVConfigStore.h"
+
+#include "Displays.h"
+#include "HomeFolder.h"
+#include "QVConfigEntry.h"
+#include "QVTruncate.h"
+#include "rzkApplication.h"
+
+#include <QLoggingCategory>
+
+#include <array>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcStore, "org.quorvia.tablet.store", QtInfoMsg)
+
+constexpr const char* kConfigFolder = "~/Library/Preferences/QuorviaTablet/config/";
+
+std::byte* slotBytes(std::size_t slot)
+{
+    return reinterpret_cast<std::byte*>(&qvTabletInfo) + QVSlotOffset(slot);
+}
+
+/** Copies the entries of one dictionary; logs those that are there but do not fit. */
+void readEntries(const platform::Dictionary& dictionary, const char* name,
+    std::span<const QVField> fields, std::byte* base)
+{
+    for (const QVField& field : fields) {
+        switch (QVReadEntry(dictionary, field, base)) {
+        case QVEntryResult::Copied:
+        case QVEntryResult::Absent:
+            break;
+        case QVEntryResult::WrongType:
+            qCWarning(lcStore, "skipped %s of %s: %s where %s belongs", field.key, name,
+                QVKindName(dictionary.kind(field.key)),
+                field.type == QVFieldType::String ? "a string" : "a number");
+            break;
+        case QVEntryResult::Unfit:
+            qCWarning(lcStore, "skipped %s of %s: longer than %zu characters, or not ASCII",
+                field.key, name, kQVStringSize - 1);
+            break;
+        }
+    }
+}
+
+void writeEntries(const platform::Dictionary& dictionary, const char* name,
+    std::span<const QVField> fields, const std::byte* base)
+{
+    for (const QVField& field : fields) {
+        if (!QVWriteEntry(dictionary, field, base)) {
+            qCWarning(
+                lcStore, "kept the old %s of %s: the new one cannot be written", field.key, name);
+        }
+    }
+}
+
+/** The dictionary under a key; logs anything else that stands there. */
+platform::Dictionary dictionaryIn(const platform::Dictionary& parent, const char* key)
+{
+    const platform::EntryKind kind = parent.kind(key);
+    if (kind != platform::EntryKind::Absent && kind != platform::EntryKind::Dictionary) {
+        qCWarning(lcStore, "skipped %s: %s where a dictionary belongs", key, QVKindName(kind));
+    }
+    return parent.dictionary(key);
+}
+
+/**
+ * With a single display there is nothing to choose: the mapped area is the whole of it, whatever
+ * the file says. With several, the file's choice stands.
+ */
+void mapSingleDisplay()
+{
+    const platform::Displays& displays = platform::displays();
+    if (displays.activeDisplayCount().value_or(1) != 1) {
+        return;
+    }
+    const std::optional<std::vector<platform::DisplayID>> active = displays.activeDisplays();
+    if (!active || active->empty()) {
+        return;
+    }
+    const platform::Rect area = displays.bounds(active->front());
+    tagQVTabletInfoMonitior& monitor = qvTabletInfo.Monitor;
+    monitor.XOrg = QVTruncate(area.x);
+    monitor.Width = QVTruncate(area.width);
+    monitor.YOrg = QVTruncate(area.y);
+    monitor.Height = QVTruncate(area.height);
+}
+
+} // namespace
+
+std::string QVConfigStore::configPath()
+{
+    std::array<char, 256> path{};
+    std::strncat(path.data(), kConfigFolder, path.size() - 1);
+    std::strncat(path.data(), GetPListName(), path.size() - 1 - std::strlen(path.data()));
+    return platform::expandTilde(path.data());
+}
+
+void QVConfigStore::ReadQVConfigPlist()
+{
+    platform::PropertyListError error;
+    const std::optional<platform::PropertyList> list = loadRecord(configPath(), error);
+    if (!list) {
+        if (!error.missing) {
+            qCWarning(lcStore, "%s", error.message.c_str());
+        }
+        return;
+    }
+    if (list->root().dictionary(kQVMonitorSection.key).exists()) {
+        mapSingleDisplay();
+    }
+}
+
+void QVConfigStore::WriteQVConfigPlist()
+{
+    const std::string path = configPath();
+    platform::PropertyListError error;
+    const std::optional<platform::PropertyList> list = platform::PropertyList::load(path, error);
+    if (list) {
+        for (const QVSection& section : kQVSections) {
+            const platform::Dictionary dictionary = list->root().dictionary(section.key);
+            if (section.saved && dictionary.exists()) {
+                writeSection(dictionary, section);
+            }
+        }
+        if (list->save(path, error)) {
+            return;
+        }
+    }
+    if (!error.missing) {
+        qCWarning(lcStore, "%s", error.message.c_str());
+    }
+}
+
+std::optional<platform::PropertyList> QVConfigStore::loadRecord(
+    const std::string& path, platform::PropertyListError& error)
+{
+    std::optional<platform::PropertyList> list = platform::PropertyList::load(path, error);
+    if (list) {
+        for (const QVSection& section : kQVSections) {
+            readSection(dictionaryIn(list->root(), section.key), section);
+        }
+    }
+    return list;
+}
+
+void QVConfigStore::readSection(const platform::Dictionary& dictionary, const QVSection& section)
+{
+    readEntries(
+        dictionary, section.key, section.fields, reinterpret_cast<std::byte*>(&qvTabletInfo));
+    for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
+        const platform::Dictionary object = dictionaryIn(dictionary, kQVSlotKeys[slot]);
+        if (object.exists()) {
+            GetSubKeyInfo(static_cast<std::int32_t>(slot), object);
+        }
+    }
+}
+
+void QVConfigStore::writeSection(const platform::Dictionary& dictionary, const QVSection& section)
+{
+    writeEntries(
+        dictionary, section.key, section.fields, reinterpret_cast<const std::byte*>(&qvTabletInfo));
+    for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
+        const platform::Dictionary object = dictionary.dictionary(kQVSlotKeys[slot]);
+        if (object.exists()) {
+            SetSubKeyInfo(static_cast<std::int32_t>(slot), object);
+        }
+    }
+}
+
+void QVConfigStore::GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object)
+{
+    const auto slot = static_cast<std::size_t>(i);
+    readEntries(object, kQVSlotKeys[slot], kQVSlotFields, slotBytes(slot));
+}
+
+void QVConfigStore::SetSubKeyInfo(std::int32_t i, const platform::Dictionary& object)
+{
+    const auto slot = static_cast<std::size_t>(i);
+    writeEntries(object, kQVSlotKeys[slot], kQVSlotFields, slotBytes(slot));
+}

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PropertyList.h"
+#include "QVTabletFields.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+/**
+ * The configuration file of the attached tablet, loaded into and saved from the record.
+ *
+ * The file belongs to the driver: it is never created here, and dictionaries and slots that it
+ * lacks stay missing. No failure is an error to the caller: an unusable file leaves the record, and
+ * an unwritable one the file, as they are, with a line in the log. A missing file is normal and not
+ * logged. Main thread only.
+ */
+class QVConfigStore {
+public:
+    /**
+     * Loads the file into the record. What it lacks, and what is of the wrong type, keeps its
+     * value. With a single display, the mapped area is that display's, whatever the file says.
+     */
+    void ReadQVConfigPlist();
+
+    /** Saves the record's Pen, Monitor and Key sections into the file. */
+    void WriteQVConfigPlist();
+
+    /** Copies a slot's dictionary into slot i of the record, i from 0 to 17. */
+    void GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
+
+    /** Copies slot i of the record into a slot's dictionary, i from 0 to 17. */
+    void SetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
+
+    /** The file's path: its folder below the user's home, and pListname. */
+    static std::string configPath();
+
+    /**
+     * Loads any configuration file into the record, without regard to displays.
+     *
+     * @return the file's contents; nothing when it cannot be used, and error then says why
+     */
+    std::optional<platform::PropertyList> loadRecord(
+        const std::string& path, platform::PropertyListError& error);
+
+private:
+    void readSection(const platform::Dictionary& dictionary, const QVSection& section);
+    void writeSection(const platform::Dictionary& dictionary, const QVSection& section);
+};
