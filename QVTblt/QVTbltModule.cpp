@@ -1,0 +1,20 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVTblt_prefPanePref.h"
+
+#include <QObject>
+
+/** The module's plug-in, by which a host makes the panel. */
+class QVTbltModule final : public QObject, public platform::PreferencePanePlugin {
+    Q_OBJECT
+    Q_PLUGIN_METADATA(IID "org.quorvia.PreferencePanePlugin/1")
+    Q_INTERFACES(platform::PreferencePanePlugin)
+
+public:
+    std::unique_ptr<platform::PreferencePane> makePane() const override
+    {
+        return std::make_unique<QVTblt_prefPanePref>();
+    }
+};
+
+#include "QVTbltModule.moc"

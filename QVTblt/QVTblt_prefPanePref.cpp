@@ -1,0 +1,141 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVTblt_prefPanePref.h"
+
+#include "AppleEvents.h"
+#include "Client.h"
+#include "QVTabletModels.h"
+#include "rzkApplication.h"
+
+#include <QFontDatabase>
+
+#include <initializer_list>
+#include <memory>
+
+platform::Bundle rzkBundle;
+
+platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bundle& bundle)
+{
+    platform::PreferencePane* const pane = PreferencePane::initWithBundle(bundle);
+    rzkBundle = bundle;
+    platform::events().acceptEventsFrom(kQVDriverSignature);
+    return pane;
+}
+
+QWidget* QVTblt_prefPanePref::makeMainView()
+{
+    auto view = std::make_unique<QWidget>();
+    setupUi(view.get());
+    keyFrame_org = platform::frame(*mKey1_1);
+    keyFrame_org_scroll_l = platform::frame(*mKeyLScroll);
+    keyFrame_org_scroll_r = platform::frame(*mKeyRScroll);
+
+    connect(mSave, &QPushButton::clicked, this, &QVTblt_prefPanePref::SaveSet);
+    connect(mCancel, &QPushButton::clicked, this, &QVTblt_prefPanePref::CancelSet);
+    for (QCheckBox* const box : {mKeyLScroll, mKeyRScroll}) {
+        connect(box, &QCheckBox::clicked, this, &QVTblt_prefPanePref::SelectScroll);
+    }
+    return view.release();
+}
+
+void QVTblt_prefPanePref::willSelect()
+{
+    const bool hasDevice = rzkgetQVDevice();
+    tabView->setVisible(hasDevice);
+    NoDevTitle->setVisible(!hasDevice);
+    // Without a tablet there is nothing to name, to save or to cancel.
+    for (QWidget* const control : std::initializer_list<QWidget*>{mSoft, mSave, mCancel}) {
+        control->setVisible(hasDevice);
+    }
+    if (!hasDevice) {
+        showNoDevice();
+        return;
+    }
+    ReadQVConfigPlist();
+    showModel();
+    InitComboBoxWithKey();
+}
+
+void QVTblt_prefPanePref::showModel()
+{
+    const auto productID = static_cast<std::uint16_t>(qvTabletInfo.Basic.ProductID);
+    const QVTabletModel* const model = QVFindModel(productID);
+    mSoft->setText(model == nullptr
+            ? tr("Unknown tablet, product %1").arg(productID, 4, 16, QLatin1Char('0'))
+            : QString::fromUtf8(model->name));
+}
+
+void QVTblt_prefPanePref::showNoDevice()
+{
+    // A point of a frame is a pixel of the widget's, so the font is measured in those too.
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setBold(true);
+    font.setPixelSize(20);
+    NoDevTitle->setFont(font);
+    QPalette palette = NoDevTitle->palette();
+    palette.setColor(QPalette::WindowText, QColor::fromRgbF(1.0F, 0.2F, 0.2F, 0.6F));
+    NoDevTitle->setPalette(palette);
+
+    // The label moves on from where it stands: each showing without a tablet shifts it further.
+    platform::Rect frame = platform::frame(*NoDevTitle);
+    frame.x += 20.0;
+    frame.y -= 150.0;
+    frame.width *= 5.0;
+    platform::setFrame(*NoDevTitle, frame);
+    NoDevTitle->setText(rzkBundle.localizedString(
+        QStringLiteral("NoDevice"), QString(), QStringLiteral("InfoPlist")));
+    platform::sizeToFit(*NoDevTitle);
+}
+
+void QVTblt_prefPanePref::didSelect()
+{
+    mSoft->setFocus();
+}
+
+void QVTblt_prefPanePref::willUnselect()
+{
+    WriteQVConfigPlist();
+}
+
+void QVTblt_prefPanePref::didUnselect()
+{
+    platform::setFrame(*mKey1_1, keyFrame_org);
+    platform::setFrame(*mKeyLScroll, keyFrame_org_scroll_l);
+    platform::setFrame(*mKeyRScroll, keyFrame_org_scroll_r);
+}
+
+void QVTblt_prefPanePref::InitComboBoxWithKey()
+{
+    keyFrame_org = platform::frame(*mKey1_1);
+    keyFrame_org_scroll_l = platform::frame(*mKeyLScroll);
+    keyFrame_org_scroll_r = platform::frame(*mKeyRScroll);
+
+    // A strip is on when its field is 0.
+    mKeyLScroll->setChecked(qvTabletInfo.Key.Scrollbar0 == 0);
+    mKeyRScroll->setChecked(qvTabletInfo.Key.Scrollbar1 == 0);
+}
+
+void QVTblt_prefPanePref::takeScrollBoxes()
+{
+    qvTabletInfo.Key.Scrollbar0 = mKeyLScroll->isChecked() ? 0 : 1;
+    qvTabletInfo.Key.Scrollbar1 = mKeyRScroll->isChecked() ? 0 : 1;
+}
+
+void QVTblt_prefPanePref::SelectScroll()
+{
+    takeScrollBoxes();
+    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+}
+
+void QVTblt_prefPanePref::SaveSet()
+{
+    takeScrollBoxes();
+    WriteQVConfigPlist();
+    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+}
+
+void QVTblt_prefPanePref::CancelSet()
+{
+    ReadQVConfigPlist();
+    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+}
