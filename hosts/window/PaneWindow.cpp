@@ -1,0 +1,88 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "PaneWindow.h"
+
+#include <QCloseEvent>
+#include <QDir>
+#include <QPixmap>
+#include <QScreen>
+#include <QTabWidget>
+
+#include <optional>
+#include <utility>
+
+PaneWindow::PaneWindow(std::unique_ptr<platform::PreferencePane> pane)
+    : mPane(std::move(pane))
+{
+    QWidget* const view = mPane->loadMainView();
+    const QSize size = view->size();
+    setFrameShape(QFrame::NoFrame);
+    setWidgetResizable(true);
+    setWidget(view);
+    setWindowTitle(view->windowTitle());
+    resize(size.expandedTo(view->sizeHint()).boundedTo(screen()->availableSize()));
+}
+
+PaneWindow::~PaneWindow() = default;
+
+void PaneWindow::select()
+{
+    mPane->willSelect();
+    mSelected = true;
+    show();
+    mPane->didSelect();
+}
+
+void PaneWindow::unselect()
+{
+    if (!std::exchange(mSelected, false)) {
+        return;
+    }
+    mPane->willUnselect();
+    hide();
+    mPane->didUnselect();
+}
+
+void PaneWindow::closeEvent(QCloseEvent* event)
+{
+    unselect();
+    event->accept();
+}
+
+QTabWidget* PaneWindow::pages() const
+{
+    return mPane->mainView()->findChild<QTabWidget*>();
+}
+
+bool PaneWindow::hasPages() const
+{
+    const QTabWidget* const tabs = pages();
+    return tabs != nullptr && !tabs->isHidden();
+}
+
+QStringList PaneWindow::render(const QString& folder)
+{
+    QStringList files;
+    const auto save = [&](const QString& name) {
+        const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
+        if (!grab().save(file)) {
+            return false;
+        }
+        files.append(file);
+        return true;
+    };
+    mPane->willSelect();
+    ensurePolished();
+    if (!hasPages()) {
+        save(QStringLiteral("noDevice"));
+        return files;
+    }
+    QTabWidget* const tabs = pages();
+    for (int page = 0; page < tabs->count(); ++page) {
+        tabs->setCurrentIndex(page);
+        if (!save(tabs->widget(page)->objectName())) {
+            return {};
+        }
+    }
+    return files;
+}
