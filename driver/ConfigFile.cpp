@@ -1,0 +1,81 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "ConfigFile.h"
+
+#include "PropertyList.h"
+#include "QVConfigEntry.h"
+#include "QVConfigStore.h"
+#include "rzkApplication.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace {
+
+/** The settings of a tablet fresh out of its box. */
+tagQVTabletInfo defaults(const QVTabletModel& model)
+{
+    tagQVTabletInfo record{};
+    record.Basic.VendorID = static_cast<std::int16_t>(kQVVendorID);
+    record.Basic.ProductID = static_cast<std::int16_t>(model.productID);
+    record.Basic.VersionNumber = 1;
+    record.Basic.InputLength = 12;
+    record.Basic.KeyNum = static_cast<std::int16_t>(model.keyNum);
+    record.Basic.ScrollNum = static_cast<std::int16_t>(model.scrollNum);
+    record.Basic.PressureMax = static_cast<std::int16_t>(model.pressureMax);
+    record.Basic.TabletXmax = model.tabletXmax;
+    record.Basic.TabletYmax = model.tabletYmax;
+    record.Pen.PressureThreshold = 100;
+    record.Pen.Speed = 10;
+    record.Monitor.Speed = 220;
+    record.Monitor.Width = 1920;
+    record.Monitor.Height = 1080;
+    record.Monitor.cTabletXmax = model.tabletXmax;
+    record.Monitor.cTabletYmax = model.tabletYmax;
+    record.Key.ScrollSpeed = 5;
+    // The pen's buttons are the right and the middle button of a mouse.
+    record.Key.SubKey[16].Valid = 1;
+    record.Key.SubKey[16].Mouse = 1;
+    record.Key.SubKey[17].Valid = 1;
+    record.Key.SubKey[17].Mouse = 3;
+    return record;
+}
+
+} // namespace
+
+InstalledConfig installConfigFile(const QVTabletModel& model)
+{
+    std::snprintf(GetPListName(), kQVListNameSize, "%u.plist", unsigned{model.productID});
+    const std::string path = QVConfigStore::configPath();
+    InstalledConfig config{QFile::decodeName(path.c_str()), false, {}};
+    // Also where it is a broken link or a folder: it is the user's.
+    if (QFileInfo(config.path).exists() || QFileInfo(config.path).isSymLink()) {
+        return config;
+    }
+    if (!QDir().mkpath(QFileInfo(config.path).path())) {
+        config.error = QStringLiteral("cannot make the folder of %1").arg(config.path);
+        return config;
+    }
+    const tagQVTabletInfo record = defaults(model);
+    const auto* const bytes = reinterpret_cast<const std::byte*>(&record);
+    platform::PropertyList list;
+    for (const QVSection& section : kQVSections) {
+        platform::Dictionary dictionary = list.root().addDictionary(section.key);
+        for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
+            dictionary.addDictionary(kQVSlotKeys[slot]);
+        }
+    }
+    QVForEachField(
+        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
+            const platform::Dictionary dictionary = list.root().dictionary(section.key);
+            QVWriteEntry(
+                slot == nullptr ? dictionary : dictionary.dictionary(slot), field, bytes + base);
+        });
+    platform::PropertyListError error;
+    config.created = list.saveNew(path, error);
+    config.error = QString::fromStdString(error.message);
+    return config;
+}

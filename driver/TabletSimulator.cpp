@@ -1,0 +1,83 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "TabletSimulator.h"
+
+#include "Driver.h"
+#include "QVConfigEntry.h"
+#include "QVTabletModels.h"
+
+#include <QDBusMetaType>
+
+TabletSimulator::TabletSimulator(Driver& driver)
+    : mDriver(driver)
+{
+    qDBusRegisterMetaType<ModelNames>();
+    connect(&driver, &Driver::attachedChanged, this, &TabletSimulator::AttachedChanged);
+    connect(&driver, &Driver::pushed, this, &TabletSimulator::Pushed);
+}
+
+ushort TabletSimulator::Attached() const
+{
+    return mDriver.attached();
+}
+
+uint TabletSimulator::Pushes() const
+{
+    return mDriver.pushes();
+}
+
+ModelNames TabletSimulator::Models() const
+{
+    ModelNames models;
+    for (const QVTabletModel& model : kQVTabletModels) {
+        models.insert(model.productID, QString::fromUtf8(model.name));
+    }
+    return models;
+}
+
+void TabletSimulator::Attach(ushort productID)
+{
+    const QString error = mDriver.attach(productID);
+    if (!error.isEmpty()) {
+        say(error);
+        sendErrorReply(QStringLiteral("org.quorvia.TabletSimulator.Error.Failed"), error);
+    }
+}
+
+void TabletSimulator::Detach()
+{
+    mDriver.detach();
+}
+
+void TabletSimulator::Stall(uint milliseconds)
+{
+    mDriver.stall(milliseconds);
+}
+
+QByteArray TabletSimulator::LastRecord() const
+{
+    return mDriver.lastRecord();
+}
+
+QVariantMap TabletSimulator::LastRecordDecoded() const
+{
+    const QByteArray record = mDriver.lastRecord();
+    QVariantMap entries;
+    if (record.size() != kQVRecordSize) {
+        return entries;
+    }
+    QVForEachField(
+        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
+            const auto* const bytes = reinterpret_cast<const std::byte*>(record.constData()) + base;
+            QStringList path{QString::fromLatin1(section.key)};
+            if (slot != nullptr) {
+                path.append(QString::fromLatin1(slot));
+            }
+            path.append(QString::fromLatin1(field.key));
+            entries.insert(path.join(QLatin1Char('/')),
+                field.type == QVFieldType::String
+                    ? QVariant(QString::fromLatin1(QVFieldString(field, bytes).c_str()))
+                    : QVariant(static_cast<qlonglong>(QVFieldNumber(field, bytes))));
+        });
+    return entries;
+}
