@@ -4,7 +4,9 @@
 
 #include <algorithm>
 #include <cstring>
+#include <limits>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -35,15 +37,35 @@ bool isWritable(std::string_view text)
         text, [](char c) { return c >= ' ' || c == '\t' || c == '\n' || c == '\r' || c < 0; });
 }
 
-void storeNumber(QVFieldType type, platform::Number number, std::byte* to)
+/** Least and greatest whole number that keeps all its bits in a field of the type. */
+std::pair<std::int64_t, std::int64_t> range(QVFieldType type)
 {
+    switch (type) {
+    case QVFieldType::Int16:
+    case QVFieldType::UInt16:
+        return {
+            std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::uint16_t>::max()};
+    case QVFieldType::UInt32:
+        return {
+            std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::uint32_t>::max()};
+    case QVFieldType::Boolean:
+        return {0, 1};
+    case QVFieldType::String:
+        break;
+    }
+    return {0, 0};
+}
+
+QVEntryResult storeNumber(QVFieldType type, platform::Number number, std::byte* to)
+{
+    const std::int64_t whole = number.longValue();
     switch (type) {
     case QVFieldType::Int16:
     case QVFieldType::UInt16:
         store(to, number.shortValue());
         break;
     case QVFieldType::UInt32:
-        store(to, static_cast<std::uint32_t>(number.longValue()));
+        store(to, static_cast<std::uint32_t>(whole));
         break;
     case QVFieldType::Boolean:
         store(to, static_cast<std::uint8_t>(number.boolValue() ? 1 : 0));
@@ -51,6 +73,9 @@ void storeNumber(QVFieldType type, platform::Number number, std::byte* to)
     case QVFieldType::String:
         break;
     }
+    const auto [least, greatest] = range(type);
+    return number.isWhole() && whole >= least && whole <= greatest ? QVEntryResult::Copied
+                                                                   : QVEntryResult::Truncated;
 }
 
 } // namespace
@@ -71,8 +96,7 @@ QVEntryResult QVReadEntry(
             return QVEntryResult::Copied;
         }
     } else if (const auto number = dictionary.number(field.key)) {
-        storeNumber(field.type, *number, to);
-        return QVEntryResult::Copied;
+        return storeNumber(field.type, *number, to);
     }
     return dictionary.kind(field.key) == platform::EntryKind::Absent ? QVEntryResult::Absent
                                                                      : QVEntryResult::WrongType;

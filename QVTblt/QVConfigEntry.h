@@ -18,6 +18,7 @@
 /** What became of an entry on its way into the record. */
 enum class QVEntryResult : std::uint8_t {
     Copied,
+    Truncated, ///< the number does not fit: only its whole part's low bits were copied
     Absent, ///< the file does not have it; the field keeps its value
     WrongType, ///< no number, or no string, where one belongs; the field keeps its value
     Unfit, ///< a string that is too long or not ASCII; the field keeps its value

@@ -32,6 +32,7 @@ void readEntries(const platform::Dictionary& dictionary, const char* name,
     for (const QVField& field : fields) {
         switch (QVReadEntry(dictionary, field, base)) {
         case QVEntryResult::Copied:
+        case QVEntryResult::Truncated:
         case QVEntryResult::Absent:
             break;
         case QVEntryResult::WrongType:
@@ -117,21 +118,8 @@ void QVConfigStore::ReadQVConfigPlist()
 
 void QVConfigStore::WriteQVConfigPlist()
 {
-    const std::string path = configPath();
     platform::PropertyListError error;
-    const std::optional<platform::PropertyList> list = platform::PropertyList::load(path, error);
-    if (list) {
-        for (const QVSection& section : kQVSections) {
-            const platform::Dictionary dictionary = list->root().dictionary(section.key);
-            if (section.saved && dictionary.exists()) {
-                writeSection(dictionary, section);
-            }
-        }
-        if (list->save(path, error)) {
-            return;
-        }
-    }
-    if (!error.missing) {
+    if (!saveRecord(configPath(), error) && !error.missing) {
         qCWarning(lcStore, "%s", error.message.c_str());
     }
 }
@@ -146,6 +134,21 @@ std::optional<platform::PropertyList> QVConfigStore::loadRecord(
         }
     }
     return list;
+}
+
+bool QVConfigStore::saveRecord(const std::string& path, platform::PropertyListError& error)
+{
+    const std::optional<platform::PropertyList> list = platform::PropertyList::load(path, error);
+    if (!list) {
+        return false;
+    }
+    for (const QVSection& section : kQVSections) {
+        const platform::Dictionary dictionary = list->root().dictionary(section.key);
+        if (section.saved && dictionary.exists()) {
+            writeSection(dictionary, section);
+        }
+    }
+    return list->save(path, error);
 }
 
 void QVConfigStore::readSection(const platform::Dictionary& dictionary, const QVSection& section)

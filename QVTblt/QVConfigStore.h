@@ -45,6 +45,13 @@ public:
     std::optional<platform::PropertyList> loadRecord(
         const std::string& path, platform::PropertyListError& error);
 
+    /**
+     * Saves the record's sections into any configuration file that is there.
+     *
+     * @return false when the file cannot be used or written, and error then says why
+     */
+    bool saveRecord(const std::string& path, platform::PropertyListError& error);
+
 private:
     void readSection(const platform::Dictionary& dictionary, const QVSection& section);
     void writeSection(const platform::Dictionary& dictionary, const QVSection& section);

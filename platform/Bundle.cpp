@@ -15,6 +15,23 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcBundle, "org.quorvia.tablet.bundle", QtInfoMsg)
 
+/** The user's languages, best first, each followed by what it is a variant of: de-AT, de. */
+QStringList preferredLanguages()
+{
+    QStringList languages;
+    const QStringList preferred = QLocale().uiLanguages();
+    for (const QString& language : preferred) {
+        QString tag = language;
+        for (auto dash = tag.size(); dash > 0; dash = tag.lastIndexOf(u'-')) {
+            tag.truncate(dash);
+            languages.append(tag);
+        }
+    }
+    languages.append(QStringLiteral("en"));
+    languages.removeDuplicates();
+    return languages;
+}
+
 } // namespace
 
 std::optional<QString> Bundle::pathForResource(const QString& name, const QString& type) const
@@ -29,9 +46,8 @@ std::optional<QString> Bundle::pathForResource(const QString& name, const QStrin
 QString Bundle::localizedString(
     const QString& key, const QString& value, const QString& table) const
 {
-    QStringList languages = QLocale::system().uiLanguages();
-    languages.append(QStringLiteral("en"));
-    for (const QString& language : std::as_const(languages)) {
+    const QStringList languages = preferredLanguages();
+    for (const QString& language : languages) {
         const std::optional<QString> path = pathForResource(
             language + QStringLiteral(".lproj/") + table, QStringLiteral("strings"));
         if (!path) {

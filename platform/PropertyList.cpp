@@ -194,6 +194,11 @@ bool Number::boolValue() const
     return mIsReal ? mReal != 0.0 : mBits != 0;
 }
 
+bool Number::isWhole() const
+{
+    return !mIsReal || static_cast<double>(longValue()) == mReal;
+}
+
 // Dictionary --------------------------------------------------------------------------------------
 
 namespace {

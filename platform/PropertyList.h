@@ -44,6 +44,9 @@ public:
     /** Whether the number is not zero. */
     bool boolValue() const;
 
+    /** Whether it is a whole number, so that longValue() is all of it. */
+    bool isWhole() const;
+
 private:
     constexpr Number(std::uint64_t bits, double value, bool isReal)
         : mBits(bits)

@@ -174,7 +174,9 @@ private:
         text.remove_prefix(std::min(text.find_first_not_of(kBlank), text.size()));
         text = text.substr(0, text.find_last_not_of(kBlank) + 1);
         const std::string shown = "'" + std::string(text.substr(0, 32)) + "'";
-        if (!isEmpty && !mText.substr(end).starts_with("</" + std::string(name))) {
+        const bool isClosed = isEmpty
+            || (end != mText.npos && mText.substr(end).starts_with("</" + std::string(name)));
+        if (!isClosed) {
             return shown + " is interrupted";
         }
         if (name == "integer") {

@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "CheckFile.h"
+
+#include "PropertyList.h"
+#include "QVConfigEntry.h"
+#include "RecordText.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+struct Tally {
+    int good = 0;
+    int bad = 0;
+    int unknown = 0;
+};
+
+void printLine(const char* verdict, const QString& path, const QString& remark = {})
+{
+    const QString tail = remark.isEmpty() ? QString() : QStringLiteral(": ") + remark;
+    std::printf("%-9s %s%s\n", verdict, qUtf8Printable(path), qUtf8Printable(tail));
+}
+
+void checkEntry(const platform::Dictionary& dictionary, const QString& path, const QVField& field,
+    std::byte* base, Tally& tally)
+{
+    const QVEntryResult result = QVReadEntry(dictionary, field, base);
+    const QString value = field.type == QVFieldType::String
+        ? QString::fromStdString(QVFieldString(field, base))
+        : QString::number(QVFieldNumber(field, base));
+    ++(result == QVEntryResult::Copied ? tally.good : tally.bad);
+    switch (result) {
+    case QVEntryResult::Copied:
+        printLine("ok", path, value);
+        break;
+    case QVEntryResult::Truncated:
+        printLine("truncated", path, QStringLiteral("only %1 of the number fits").arg(value));
+        break;
+    case QVEntryResult::Absent:
+        printLine("missing", path);
+        break;
+    case QVEntryResult::WrongType:
+        printLine("wrong", path,
+            QStringLiteral("%1 where %2 belongs")
+                .arg(QLatin1String(QVKindName(dictionary.kind(field.key))),
+                    field.type == QVFieldType::String ? QStringLiteral("a string")
+                                                      : QStringLiteral("a number")));
+        break;
+    case QVEntryResult::Unfit:
+        printLine("wrong", path,
+            QStringLiteral("longer than %1 characters, or not ASCII").arg(kQVStringSize - 1));
+        break;
+    }
+}
+
+/** Names what the panel does not know and will keep. */
+template <class IsKnown>
+void listUnknown(
+    const platform::Dictionary& dictionary, const QString& prefix, IsKnown isKnown, Tally& tally)
+{
+    for (const std::string& key : dictionary.keys()) {
+        if (!isKnown(key)) {
+            ++tally.unknown;
+            printLine("unknown", prefix + QString::fromStdString(key));
+        }
+    }
+}
+
+bool isField(std::span<const QVField> fields, const std::string& key)
+{
+    return std::ranges::find(fields, key, &QVField::key) != fields.end();
+}
+
+bool isSlot(const std::string& key)
+{
+    return std::ranges::find(kQVSlotKeys, key) != kQVSlotKeys.end();
+}
+
+void listAllUnknown(const platform::Dictionary& root, Tally& tally)
+{
+    listUnknown(
+        root, {},
+        [](const std::string& key) {
+            return std::ranges::find(kQVSections, key, &QVSection::key) != kQVSections.end();
+        },
+        tally);
+    for (const QVSection& section : kQVSections) {
+        const platform::Dictionary dictionary = root.dictionary(section.key);
+        const QString prefix = QString::fromLatin1(section.key) + QLatin1Char('/');
+        listUnknown(
+            dictionary, prefix,
+            [&](const std::string& key) {
+                return isField(section.fields, key) || (section.hasSlots && isSlot(key));
+            },
+            tally);
+        for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
+            listUnknown(
+                dictionary.dictionary(kQVSlotKeys[slot]),
+                prefix + QString::fromLatin1(kQVSlotKeys[slot]) + QLatin1Char('/'),
+                [](const std::string& key) { return isField(kQVSlotFields, key); }, tally);
+        }
+    }
+}
+
+} // namespace
+
+bool checkFile(const QString& path)
+{
+    platform::PropertyListError error;
+    const auto list = platform::PropertyList::load(QFile::encodeName(path).toStdString(), error);
+    if (!list) {
+        std::printf("unusable  %s\n", error.message.c_str());
+        return false;
+    }
+    tagQVTabletInfo record{};
+    Tally tally;
+    QVForEachField(
+        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
+            const platform::Dictionary dictionary = list->root().dictionary(section.key);
+            checkEntry(slot == nullptr ? dictionary : dictionary.dictionary(slot),
+                entryPath(section, slot, field), field,
+                reinterpret_cast<std::byte*>(&record) + base, tally);
+        });
+    listAllUnknown(list->root(), tally);
+    std::printf("%d of %d entries are usable, %d unknown ones are kept\n", tally.good,
+        tally.good + tally.bad, tally.unknown);
+    return tally.bad == 0;
+}

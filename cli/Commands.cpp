@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Commands.h"
+
+#include "AppleEvents.h"
+#include "CheckFile.h"
+#include "Client.h"
+#include "QVConfigStore.h"
+#include "QVTabletModels.h"
+#include "RecordText.h"
+#include "rzkApplication.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusReply>
+#include <QFile>
+
+#include <cstdio>
+#include <cstring>
+#include <optional>
+
+namespace {
+
+int fail(const QString& why)
+{
+    std::fprintf(stderr, "qvtbltctl: %s\n", qUtf8Printable(why));
+    return kExitBad;
+}
+
+QString modelName(const tagQVTabletInfo& record)
+{
+    const auto productID = static_cast<std::uint16_t>(record.Basic.ProductID);
+    const QVTabletModel* const model = QVFindModel(productID);
+    return QStringLiteral("%1 (product %2)")
+        .arg(model == nullptr ? QStringLiteral("unknown model") : QString::fromUtf8(model->name))
+        .arg(productID);
+}
+
+/** Finds the tablet and loads its file. @return why that failed; empty on success */
+QString loadTablet(QVConfigStore& store)
+{
+    if (!rzkgetQVDevice()) {
+        return *GetPListName() == '\0' ? QStringLiteral("the driver does not answer")
+                                       : QStringLiteral("no tablet is attached");
+    }
+    platform::PropertyListError error;
+    return store.loadRecord(QVConfigStore::configPath(), error)
+        ? QString()
+        : QString::fromStdString(error.message);
+}
+
+/** Pushes the record and waits for the driver. @return why it was not taken; empty on success */
+QString pushRecord()
+{
+    if (!ConnectToDriver(GetqvTabletInfo(), kQVRecordSize)) {
+        return QStringLiteral("the record could not be sent");
+    }
+    const platform::OSErr error = platform::events().finishSends();
+    return error == platform::noErr
+        ? QString()
+        : QStringLiteral("the driver did not take the record (error %1)").arg(error);
+}
+
+/** What the driver got last; an error in words when it cannot be had. */
+std::optional<tagQVTabletInfo> lastRecord(QString& why)
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(QStringLiteral("org.quorvia.AppleEvents.TdSg"),
+            QStringLiteral("/org/quorvia/TabletSimulator"),
+            QStringLiteral("org.quorvia.TabletSimulator1"), QStringLiteral("LastRecord"));
+    call.setAutoStartService(false);
+    const QDBusReply<QByteArray> reply = QDBusConnection::sessionBus().call(call);
+    if (!reply.isValid()) {
+        why =
+            QStringLiteral("the driver does not tell what it got: %1").arg(reply.error().message());
+        return std::nullopt;
+    }
+    if (reply.value().size() != kQVRecordSize) {
+        why = QStringLiteral("the driver has not got a record yet");
+        return std::nullopt;
+    }
+    tagQVTabletInfo record{};
+    std::memcpy(&record, reply.value().constData(), sizeof record);
+    return record;
+}
+
+} // namespace
+
+int runStatus()
+{
+    const bool hasTablet = rzkgetQVDevice();
+    const bool hasDriver = *GetPListName() != '\0';
+    std::printf("driver  %s\n", hasDriver ? "running" : "does not answer");
+    if (!hasTablet) {
+        std::printf("tablet  %s\n", hasDriver ? "none attached" : "unknown");
+        return kExitBad;
+    }
+    const std::string path = QVConfigStore::configPath();
+    QVConfigStore store;
+    platform::PropertyListError error;
+    const bool isUsable = store.loadRecord(path, error).has_value();
+    std::printf(
+        "tablet  %s\n", isUsable ? qUtf8Printable(modelName(*GetqvTabletInfo())) : "attached");
+    std::printf("file    %s\n", isUsable ? path.c_str() : error.message.c_str());
+    return isUsable ? kExitGood : kExitBad;
+}
+
+int runShow(const QString& file, bool asJson)
+{
+    if (file.isEmpty()) {
+        QString why;
+        const std::optional<tagQVTabletInfo> record = lastRecord(why);
+        if (!record) {
+            return fail(why);
+        }
+        *GetqvTabletInfo() = *record;
+    } else {
+        QVConfigStore store;
+        platform::PropertyListError error;
+        if (!store.loadRecord(QFile::encodeName(file).toStdString(), error)) {
+            return fail(QString::fromStdString(error.message));
+        }
+    }
+    const tagQVTabletInfo& record = *GetqvTabletInfo();
+    const QByteArray text = asJson ? recordJson(record) : recordTable(record).toUtf8();
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+    return kExitGood;
+}
+
+int runCheck(const QString& file)
+{
+    return checkFile(file) ? kExitGood : kExitBad;
+}
+
+int runPush()
+{
+    QVConfigStore store;
+    QString why = loadTablet(store);
+    if (why.isEmpty()) {
+        why = pushRecord();
+    }
+    if (!why.isEmpty()) {
+        return fail(why);
+    }
+    std::printf("pushed the settings of %s\n", qUtf8Printable(modelName(*GetqvTabletInfo())));
+    return kExitGood;
+}
+
+int runSet(const QString& entry, const QString& value)
+{
+    const std::optional<RecordEntry> found = findEntry(entry);
+    if (!found || !found->saved) {
+        fail(found ? QStringLiteral("%1 belongs to the tablet and cannot be set").arg(entry)
+                   : QStringLiteral("there is no entry %1; 'show' lists them all").arg(entry));
+        return kExitUsage;
+    }
+    QVConfigStore store;
+    QString why = loadTablet(store);
+    if (!why.isEmpty()) {
+        return fail(why);
+    }
+    why = setEntry(*GetqvTabletInfo(), *found, value);
+    if (!why.isEmpty()) {
+        fail(why);
+        return kExitUsage;
+    }
+    why = pushRecord();
+    if (!why.isEmpty()) {
+        return fail(why);
+    }
+    platform::PropertyListError error;
+    if (!store.saveRecord(QVConfigStore::configPath(), error)) {
+        return fail(QString::fromStdString(error.message));
+    }
+    std::printf("set %s to %s\n", qUtf8Printable(entry), qUtf8Printable(value));
+    return kExitGood;
+}

@@ -1,0 +1,242 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVConfigEntry.h"
+
+#include "SampleConfig.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+
+using platform::PropertyList;
+
+namespace {
+
+/** A field with guard bytes around it, filled with a pattern. */
+class Field {
+public:
+    explicit Field(QVFieldType type)
+        : mField{"k", kGuard, type}
+    {
+        mBytes.fill(kPattern);
+    }
+
+    QVEntryResult read(const QByteArray& value)
+    {
+        platform::PropertyListError error;
+        const auto list = PropertyList::parse(
+            plist("<dict><key>k</key>" + value + "</dict>").toStdString(), error);
+        EXPECT_TRUE(list) << error.message;
+        return list ? QVReadEntry(list->root(), mField, mBytes.data()) : QVEntryResult::Absent;
+    }
+
+    std::int64_t number() const { return QVFieldNumber(mField, mBytes.data()); }
+    std::string string() const { return QVFieldString(mField, mBytes.data()); }
+    char* text() { return reinterpret_cast<char*>(mBytes.data()) + kGuard; }
+
+    /** How many bytes from the field's first one are no longer the pattern. */
+    std::size_t changed() const
+    {
+        std::size_t last = 0;
+        for (std::size_t i = 0; i < mBytes.size(); ++i) {
+            if (mBytes[i] != kPattern) {
+                EXPECT_GE(i, kGuard);
+                last = i - kGuard + 1;
+            }
+        }
+        return last;
+    }
+
+    /** What the field becomes in a list that already has the entry "old". */
+    std::string written(bool& taken) const
+    {
+        PropertyList list;
+        list.root().setString("k", "old");
+        taken = QVWriteEntry(list.root(), mField, mBytes.data());
+        const auto number = list.root().number("k");
+        return number ? std::to_string(number->longValue()) : std::string(*list.root().string("k"));
+    }
+
+private:
+    static constexpr std::size_t kGuard = 16;
+    static constexpr std::byte kPattern{0xA5};
+
+    QVField mField;
+    std::array<std::byte, kGuard + kQVStringSize + kGuard> mBytes{};
+};
+
+} // namespace
+
+TEST(QVReadEntry, takesNumbersOfAnyKindByTheirValue)
+{
+    Field field(QVFieldType::Int16);
+    EXPECT_EQ(field.read("<integer>-5</integer>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.number(), -5);
+    EXPECT_EQ(field.read("<true/>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.number(), 1);
+    EXPECT_EQ(field.read("<real>7.0</real>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.number(), 7);
+    EXPECT_EQ(field.read("<real>-7.9</real>"), QVEntryResult::Truncated);
+    EXPECT_EQ(field.number(), -7);
+    EXPECT_EQ(field.changed(), 2U);
+}
+
+TEST(QVReadEntry, keeps16BitsOfALargerNumber)
+{
+    Field field(QVFieldType::UInt16);
+    EXPECT_EQ(field.read("<integer>65541</integer>"), QVEntryResult::Truncated);
+    EXPECT_EQ(field.number(), 5);
+    EXPECT_EQ(field.read("<integer>40000</integer>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.number(), 40000);
+    EXPECT_EQ(field.read("<integer>-25536</integer>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.number(), 40000);
+}
+
+TEST(QVReadEntry, keeps32BitsOfALargerKeyCombination)
+{
+    Field field(QVFieldType::UInt32);
+    EXPECT_EQ(field.read("<integer>4294967301</integer>"), QVEntryResult::Truncated);
+    EXPECT_EQ(field.number(), 5);
+    EXPECT_EQ(field.read("<integer>4294967295</integer>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.number(), 4294967295);
+    EXPECT_EQ(field.read("<integer>-1</integer>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.number(), 4294967295);
+    EXPECT_EQ(field.changed(), 4U);
+}
+
+TEST(QVReadEntry, takesABooleanAs0Or1)
+{
+    Field field(QVFieldType::Boolean);
+    EXPECT_EQ(field.read("<true/>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.number(), 1);
+    EXPECT_EQ(field.read("<integer>256</integer>"), QVEntryResult::Truncated);
+    EXPECT_EQ(field.number(), 1);
+    EXPECT_EQ(field.read("<real>0.5</real>"), QVEntryResult::Truncated);
+    EXPECT_EQ(field.number(), 1);
+    EXPECT_EQ(field.read("<false/>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.number(), 0);
+    EXPECT_EQ(field.changed(), 1U);
+}
+
+TEST(QVReadEntry, skipsWhatIsNoNumber)
+{
+    for (const QVFieldType type :
+        {QVFieldType::Int16, QVFieldType::UInt16, QVFieldType::UInt32, QVFieldType::Boolean}) {
+        for (const char* const value : {"<string>5</string>", "<data>BQ==</data>",
+                 "<date>2026-11-21T00:00:00Z</date>", "<array/>", "<dict/>"}) {
+            Field field(type);
+            EXPECT_EQ(field.read(value), QVEntryResult::WrongType) << value;
+            EXPECT_EQ(field.changed(), 0U) << value;
+        }
+    }
+}
+
+TEST(QVReadEntry, skipsWhatIsNoString)
+{
+    for (const char* const value :
+        {"<integer>5</integer>", "<true/>", "<real>1.5</real>", "<data>BQ==</data>", "<array/>"}) {
+        Field field(QVFieldType::String);
+        EXPECT_EQ(field.read(value), QVEntryResult::WrongType) << value;
+        EXPECT_EQ(field.changed(), 0U) << value;
+    }
+}
+
+TEST(QVReadEntry, leavesAnAbsentEntrysFieldAlone)
+{
+    Field field(QVFieldType::Int16);
+    PropertyList list;
+    std::array<std::byte, 64> bytes{};
+    bytes.fill(std::byte{1});
+    EXPECT_EQ(QVReadEntry(list.root(), {"k", 0, QVFieldType::Int16}, bytes.data()),
+        QVEntryResult::Absent);
+    EXPECT_EQ(QVReadEntry({}, {"k", 0, QVFieldType::String}, bytes.data()), QVEntryResult::Absent);
+    EXPECT_EQ(bytes[0], std::byte{1});
+}
+
+TEST(QVReadEntry, takesAStringThatLeavesRoomForItsEnd)
+{
+    Field field(QVFieldType::String);
+    const QByteArray longest(255, 'x');
+    EXPECT_EQ(field.read("<string>" + longest + "</string>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.string(), longest.toStdString());
+    EXPECT_EQ(field.text()[255], '\0');
+    EXPECT_EQ(field.changed(), kQVStringSize);
+}
+
+TEST(QVReadEntry, leavesNothingOfALongerStringBehindAShorterOne)
+{
+    Field field(QVFieldType::String);
+    field.read("<string>" + QByteArray(255, 'x') + "</string>");
+    EXPECT_EQ(field.read("<string>ab</string>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.string(), "ab");
+    for (std::size_t i = 2; i < kQVStringSize; ++i) {
+        ASSERT_EQ(field.text()[i], '\0') << i;
+    }
+}
+
+TEST(QVReadEntry, skipsAStringThatDoesNotFit)
+{
+    for (const int length : {256, 257, 10'000}) {
+        Field field(QVFieldType::String);
+        EXPECT_EQ(
+            field.read("<string>" + QByteArray(length, 'x') + "</string>"), QVEntryResult::Unfit)
+            << length;
+        EXPECT_EQ(field.changed(), 0U);
+    }
+}
+
+TEST(QVReadEntry, skipsAStringThatIsNotAscii)
+{
+    for (const char* const value : {"caf\xC3\xA9", "\xE2\x8C\x98", "\x7F\xC2\x80"}) {
+        Field field(QVFieldType::String);
+        EXPECT_EQ(field.read(QByteArray("<string>") + value + "</string>"), QVEntryResult::Unfit);
+        EXPECT_EQ(field.changed(), 0U);
+    }
+}
+
+TEST(QVWriteEntry, writesUnsignedFieldsAsSignedNumbers)
+{
+    Field field(QVFieldType::UInt16);
+    field.read("<integer>40000</integer>");
+    bool taken = false;
+    EXPECT_EQ(field.written(taken), "-25536");
+    EXPECT_TRUE(taken);
+}
+
+TEST(QVWriteEntry, writesKeyCombinationsNeverNegative)
+{
+    Field field(QVFieldType::UInt32);
+    field.read("<integer>4294967295</integer>");
+    bool taken = false;
+    EXPECT_EQ(field.written(taken), "4294967295");
+}
+
+TEST(QVWriteEntry, writesAStringUpToItsNul)
+{
+    Field field(QVFieldType::String);
+    field.read("<string>/usr/bin/a b&amp;c</string>");
+    bool taken = false;
+    EXPECT_EQ(field.written(taken), "/usr/bin/a b&c");
+    EXPECT_TRUE(taken);
+}
+
+TEST(QVWriteEntry, readsNothingBehindAFieldWithoutANul)
+{
+    Field field(QVFieldType::String);
+    std::memset(field.text(), 'y', kQVStringSize);
+    bool taken = false;
+    EXPECT_EQ(field.written(taken), std::string(kQVStringSize, 'y'));
+}
+
+TEST(QVWriteEntry, keepsTheOldEntryForAStringThatCannotBeWritten)
+{
+    for (const char c : {'\x01', '\x1B', '\x80', '\xFF'}) {
+        Field field(QVFieldType::String);
+        field.read("<string>path</string>");
+        field.text()[1] = c;
+        bool taken = true;
+        EXPECT_EQ(field.written(taken), "old") << int{c};
+        EXPECT_FALSE(taken);
+    }
+}

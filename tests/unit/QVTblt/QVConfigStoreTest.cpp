@@ -1,0 +1,416 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVConfigStore.h"
+
+#include "FakeDisplays.h"
+#include "SampleConfig.h"
+#include "TemporaryHome.h"
+#include "rzkApplication.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstring>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/** Two displays, so that the file's mapped area stands. */
+const std::vector<platform::Rect> kTwoDisplays{{0, 0, 1920, 1080}, {1920, 0, 1280, 1024}};
+
+class QVConfigStoreFile : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        std::strcpy(GetPListName(), "7.plist");
+        writeFile(mPath, sampleConfig());
+    }
+
+    /** Loads the file. @return what was logged */
+    std::string read()
+    {
+        testing::internal::CaptureStderr();
+        mStore.ReadQVConfigPlist();
+        return testing::internal::GetCapturedStderr();
+    }
+
+    std::string write()
+    {
+        testing::internal::CaptureStderr();
+        mStore.WriteQVConfigPlist();
+        return testing::internal::GetCapturedStderr();
+    }
+
+    std::int64_t numberInFile(const char* section, const char* key)
+    {
+        platform::PropertyListError error;
+        const auto list = platform::PropertyList::load(mPath.toStdString(), error);
+        EXPECT_TRUE(list) << error.message;
+        const auto number = list->root().dictionary(section).number(key);
+        EXPECT_TRUE(number) << section << '/' << key;
+        return number ? number->longValue() : 0;
+    }
+
+    TemporaryHome mHome;
+    QString mPath = mHome.configFile(7);
+    FakeDisplays mDisplays{kTwoDisplays};
+    QVConfigStore mStore;
+};
+
+int countOf(const std::string& text, const std::string& part)
+{
+    int count = 0;
+    for (std::size_t at = text.find(part); at != std::string::npos;
+         at = text.find(part, at + part.size())) {
+        ++count;
+    }
+    return count;
+}
+
+} // namespace
+
+TEST_F(QVConfigStoreFile, liesInTheUsersLibrary)
+{
+    EXPECT_EQ(QVConfigStore::configPath(),
+        mHome.path().toStdString() + "/Library/Preferences/QuorviaTablet/config/7.plist");
+}
+
+TEST_F(QVConfigStoreFile, isTheFolderItselfWhileThereIsNoName)
+{
+    *GetPListName() = '\0';
+    EXPECT_EQ(QVConfigStore::configPath(),
+        mHome.path().toStdString() + "/Library/Preferences/QuorviaTablet/config/");
+    read();
+    write();
+    EXPECT_TRUE(sameBytes(qvTabletInfo, {}));
+    EXPECT_EQ(readFile(mPath), sampleConfig());
+}
+
+TEST_F(QVConfigStoreFile, loadsEveryEntryIntoItsField)
+{
+    EXPECT_EQ(read(), "");
+    EXPECT_TRUE(sameBytes(qvTabletInfo, sampleRecord()));
+}
+
+TEST_F(QVConfigStoreFile, keepsTheFilesMappedAreaWithTwoDisplays)
+{
+    writeFile(mPath,
+        plist("<dict><key>Monitor</key><dict><key>XOrg</key><integer>100</integer>"
+              "<key>Width</key><integer>200</integer></dict></dict>"));
+    read();
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, 100);
+    EXPECT_EQ(+qvTabletInfo.Monitor.Width, 200);
+}
+
+TEST_F(QVConfigStoreFile, mapsTheOneDisplayWhateverTheFileSays)
+{
+    const FakeDisplays one({{-1.9, 2.9, 1366.9, 768.2}});
+    read();
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, -1);
+    EXPECT_EQ(+qvTabletInfo.Monitor.Width, 1366);
+    EXPECT_EQ(+qvTabletInfo.Monitor.YOrg, 2);
+    EXPECT_EQ(+qvTabletInfo.Monitor.Height, 768);
+    EXPECT_EQ(+qvTabletInfo.Monitor.cTabletXmin, 22);
+}
+
+TEST_F(QVConfigStoreFile, countsOneDisplayWhenTheWindowSystemDoesNotTell)
+{
+    FakeDisplays displays({{5, 6, 70, 80}, {0, 0, 1, 1}});
+    displays.failCount = true;
+    read();
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, 5);
+    EXPECT_EQ(+qvTabletInfo.Monitor.Height, 80);
+}
+
+TEST_F(QVConfigStoreFile, keepsTheFilesMappedAreaWhenTheDisplayCannotBeFetched)
+{
+    FakeDisplays displays({{5, 6, 70, 80}});
+    displays.failList = true;
+    read();
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, 18);
+    const FakeDisplays none({});
+    read();
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, 18);
+}
+
+TEST_F(QVConfigStoreFile, leavesTheMappedAreaAloneWithoutAMonitorSection)
+{
+    const FakeDisplays one({{5, 6, 70, 80}});
+    qvTabletInfo.Monitor.XOrg = 1234;
+    writeFile(mPath, plist("<dict><key>Pen</key><dict/></dict>"));
+    read();
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, 1234);
+    writeFile(mPath, plist("<dict><key>Monitor</key><string>x</string></dict>"));
+    read();
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, 1234);
+}
+
+TEST_F(QVConfigStoreFile, leavesTheFieldsOfAMissingTabletSection)
+{
+    writeFile(mPath,
+        plist("<dict><key>Pen</key><dict><key>Speed</key><integer>9</integer></dict>"
+              "</dict>"));
+    read();
+    const tagQVTabletInfoBasic zero{};
+    EXPECT_EQ(std::memcmp(&qvTabletInfo.Basic, &zero, sizeof zero), 0);
+    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 9);
+
+    writeFile(mPath, sampleConfig());
+    read();
+    writeFile(mPath, plist("<dict/>"));
+    read();
+    EXPECT_TRUE(sameBytes(qvTabletInfo, sampleRecord()));
+}
+
+TEST_F(QVConfigStoreFile, keepsSlot17WhenTheFileLacksPenKeyL)
+{
+    QByteArray config = sampleConfig();
+    const auto from = config.indexOf("<key>penKeyL</key>");
+    const auto to = config.indexOf("</dict>", from) + 7;
+    config.remove(from, to - from);
+    writeFile(mPath, config);
+    qvTabletInfo.Key.SubKey[17].Valid = 77;
+    read();
+    EXPECT_EQ(+qvTabletInfo.Key.SubKey[17].Valid, 77);
+    EXPECT_EQ(+qvTabletInfo.Key.SubKey[16].Valid, 116);
+    write();
+    EXPECT_FALSE(readFile(mPath).contains("penKeyL"));
+}
+
+TEST_F(QVConfigStoreFile, storesACTabletXmaxOf40000AsMinus25536AndReadsItBack)
+{
+    read();
+    qvTabletInfo.Monitor.cTabletXmax = 40000;
+    write();
+    EXPECT_EQ(numberInFile("Monitor", "cTabletXmax"), -25536);
+    qvTabletInfo.Monitor.cTabletXmax = 0;
+    read();
+    EXPECT_EQ(+qvTabletInfo.Monitor.cTabletXmax, 40000);
+}
+
+TEST_F(QVConfigStoreFile, loadsAKeyBeyond32BitsByItsLowBitsAndSavesThose)
+{
+    writeFile(mPath,
+        plist("<dict><key>Key</key><dict><key>Key3</key><dict><key>Key</key>"
+              "<integer>4294967301</integer></dict></dict></dict>"));
+    read();
+    EXPECT_EQ(+qvTabletInfo.Key.SubKey[3].Key, 5U);
+    write();
+    EXPECT_TRUE(readFile(mPath).contains("<integer>5</integer>"));
+    EXPECT_FALSE(readFile(mPath).contains("4294967301"));
+}
+
+TEST_F(QVConfigStoreFile, savesEveryFieldOfTheThreeSectionsAndNothingOfTheTablet)
+{
+    auto* const bytes = reinterpret_cast<unsigned char*>(&qvTabletInfo);
+    const tagQVTabletInfo sample = sampleRecord();
+    std::memcpy(bytes, &sample, sizeof sample);
+    // Everything but the strings changes.
+    qvTabletInfo.Basic.VendorID = -1;
+    qvTabletInfo.Basic.TabletXmax = 999;
+    qvTabletInfo.Pen = {-101, -102};
+    qvTabletInfo.Monitor.num = -103;
+    qvTabletInfo.Monitor.cTabletYmax = 65535;
+    qvTabletInfo.Key.Scrollbar0 = -104;
+    qvTabletInfo.Key.SubKey[0].Valid = -105;
+    qvTabletInfo.Key.SubKey[17].Key = 0xFFFFFFFF;
+    std::strcpy(qvTabletInfo.Key.SubKey[9].App.data(), "/opt/new app");
+    tagQVTabletInfo expected = qvTabletInfo;
+    expected.Basic = sample.Basic;
+
+    EXPECT_EQ(write(), "");
+    qvTabletInfo = {};
+    read();
+    EXPECT_TRUE(sameBytes(qvTabletInfo, expected));
+    EXPECT_EQ(numberInFile("Tablet", "VendorID"), 1);
+}
+
+TEST_F(QVConfigStoreFile, writingNeverAddsSectionsOrSlots)
+{
+    writeFile(mPath, plist("<dict><key>Pen</key><dict/></dict>"));
+    write();
+    const QByteArray saved = readFile(mPath);
+    for (const char* const absent : {"Tablet", "Monitor", "<key>Key", "Key0"}) {
+        EXPECT_FALSE(saved.contains(absent)) << absent;
+    }
+    EXPECT_TRUE(saved.contains("<key>PressureThreshold</key>"));
+    EXPECT_TRUE(saved.contains("<key>Speed</key>"));
+}
+
+TEST_F(QVConfigStoreFile, whatThePanelDoesNotKnowSurvivesASave)
+{
+    QByteArray config = sampleConfig();
+    config.replace("<key>Pen</key><dict>",
+        "<key>Future</key><dict><key>a</key><real>0.1</real></dict>"
+        "<key>Pen</key><dict><key>Tilt</key><array><integer>1</integer></array>");
+    config.replace(
+        "<key>Key4</key><dict>", "<key>Key4</key><dict><key>Colour</key><data>AQI=</data>");
+    writeFile(mPath, config);
+    read();
+    write();
+    platform::PropertyListError error;
+    const auto list = platform::PropertyList::load(mPath.toStdString(), error);
+    ASSERT_TRUE(list);
+    const platform::Dictionary root = list->root();
+    EXPECT_TRUE(root.dictionary("Future").number("a"));
+    EXPECT_EQ(root.dictionary("Pen").kind("Tilt"), platform::EntryKind::Array);
+    EXPECT_EQ(root.dictionary("Key").dictionary("Key4").kind("Colour"), platform::EntryKind::Data);
+}
+
+TEST_F(QVConfigStoreFile, isNeverCreated)
+{
+    ASSERT_TRUE(QFile::remove(mPath));
+    EXPECT_EQ(read(), "");
+    EXPECT_EQ(write(), "");
+    EXPECT_FALSE(QFile::exists(mPath));
+    EXPECT_TRUE(mHome.configFolder().isEmpty());
+}
+
+TEST_F(QVConfigStoreFile, isLeftAloneWithTheRecordWhenItIsUnusable)
+{
+    read();
+    std::string deep = "<plist><dict><key>Pen</key>";
+    for (int i = 0; i < 100'000; ++i) {
+        deep += "<array>";
+    }
+    const QByteArray truncated = sampleConfig().left(2000);
+    for (const QByteArray& bytes : {QByteArray(), QByteArray("no list"), truncated,
+             QByteArray::fromStdString(deep), plist("<array/>"),
+             plist("<dict><key>Pen</key><dict><key>Speed</key>"
+                   "<integer>99999999999999999999</integer></dict></dict>")}) {
+        writeFile(mPath, bytes);
+        EXPECT_NE(read().find("7.plist"), std::string::npos) << "the log must name the file";
+        EXPECT_TRUE(sameBytes(qvTabletInfo, sampleRecord()));
+        EXPECT_NE(write(), "");
+        EXPECT_EQ(readFile(mPath), bytes);
+    }
+    EXPECT_EQ(mHome.configFolder().entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+TEST_F(QVConfigStoreFile, ofAHundredMegabytesIsLeftAlone)
+{
+    ASSERT_EQ(::truncate(mPath.toStdString().c_str(), 100'000'000), 0);
+    EXPECT_NE(read().find("larger than"), std::string::npos);
+    write();
+    EXPECT_EQ(QFileInfo(mPath).size(), 100'000'000);
+    EXPECT_TRUE(sameBytes(qvTabletInfo, {}));
+}
+
+TEST_F(QVConfigStoreFile, replacedByAFolderOrAFifoIsLeftAlone)
+{
+    ASSERT_TRUE(QFile::remove(mPath));
+    ASSERT_EQ(::mkfifo(mPath.toStdString().c_str(), S_IRUSR | S_IWUSR), 0);
+    read();
+    write();
+    struct stat status { };
+    ASSERT_EQ(::stat(mPath.toStdString().c_str(), &status), 0);
+    EXPECT_TRUE(S_ISFIFO(status.st_mode));
+    ASSERT_TRUE(QFile::remove(mPath));
+    ASSERT_TRUE(QDir().mkdir(mPath));
+    EXPECT_NE(read(), "");
+    write();
+    EXPECT_TRUE(QFileInfo(mPath).isDir());
+    EXPECT_TRUE(sameBytes(qvTabletInfo, {}));
+}
+
+TEST_F(QVConfigStoreFile, skipsAndLogsOnceEachEntryOfTheWrongType)
+{
+    for (const char* const wrong :
+        {"<array/>", "<data>AQI=</data>", "<dict/>", "<date>2026-11-21T00:00:00Z</date>"}) {
+        qvTabletInfo = {};
+        QByteArray config = sampleConfig();
+        // Every number and every string of the sample becomes something else.
+        for (const char* const tag : {"integer", "string"}) {
+            const QByteArray begin = QByteArray("<") + tag + ">";
+            const QByteArray end = QByteArray("</") + tag + ">";
+            for (auto at = config.indexOf(begin); at >= 0; at = config.indexOf(begin, at)) {
+                const auto to = config.indexOf(end, at) + end.size();
+                config.replace(at, to - at, wrong);
+            }
+        }
+        config.replace("<true/>", wrong);
+        writeFile(mPath, config);
+        const std::string log = read();
+        EXPECT_TRUE(sameBytes(qvTabletInfo, {})) << wrong;
+        EXPECT_EQ(countOf(log, "skipped "), 13 + 2 + 12 + 3 + 18 * 4) << wrong;
+        EXPECT_EQ(countOf(log, "skipped XOrg of Monitor:"), 1) << log;
+        EXPECT_EQ(countOf(log, "skipped App of penKeyU:"), 1) << log;
+    }
+}
+
+TEST_F(QVConfigStoreFile, skipsStringsWhereNumbersBelongAndNumbersWhereStringsBelong)
+{
+    writeFile(mPath,
+        plist("<dict><key>Tablet</key><dict><key>VendorID</key><string>5</string>"
+              "<key>UpdateFilename</key><integer>5</integer></dict>"
+              "<key>Key</key><dict><key>Key0</key><string>x</string></dict>"
+              "<key>Pen</key><array/></dict>"));
+    const std::string log = read();
+    EXPECT_TRUE(sameBytes(qvTabletInfo, {}));
+    EXPECT_NE(
+        log.find("skipped VendorID of Tablet: a string where a number belongs"), std::string::npos)
+        << log;
+    EXPECT_NE(log.find("skipped UpdateFilename of Tablet: a number where a string belongs"),
+        std::string::npos)
+        << log;
+    EXPECT_EQ(countOf(log, "skipped Key0: a string where a dictionary belongs"), 1);
+    EXPECT_EQ(countOf(log, "skipped Pen: an array where a dictionary belongs"), 1);
+}
+
+TEST_F(QVConfigStoreFile, takesRealsAndBooleansByTheirValue)
+{
+    writeFile(mPath,
+        plist("<dict><key>Pen</key><dict><key>PressureThreshold</key><real>37.9</real>"
+              "<key>Speed</key><true/></dict></dict>"));
+    EXPECT_EQ(read(), "");
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 37);
+    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 1);
+}
+
+TEST_F(QVConfigStoreFile, leavesAnUpdateFilenameThatDoesNotFitAsItWas)
+{
+    read();
+    for (const QByteArray& name :
+        {QByteArray(256, 'x'), QByteArray(10'000, 'x'), QByteArray("caf\xC3\xA9")}) {
+        writeFile(mPath,
+            plist("<dict><key>Tablet</key><dict><key>UpdateFilename</key><string>" + name
+                + "</string></dict></dict>"));
+        EXPECT_EQ(countOf(read(), "skipped UpdateFilename of Tablet:"), 1);
+        EXPECT_STREQ(qvTabletInfo.Basic.UpdateFilename.data(), "update.bin");
+    }
+}
+
+TEST_F(QVConfigStoreFile, keepsAnAppThatCannotBeWritten)
+{
+    read();
+    qvTabletInfo.Key.SubKey[2].App[0] = '\xE9';
+    const std::string log = write();
+    EXPECT_EQ(countOf(log, "kept the old App of Key2"), 1) << log;
+    EXPECT_TRUE(readFile(mPath).contains("<string>/app/2</string>"));
+}
+
+TEST_F(QVConfigStoreFile, copiesASingleSlotEitherWay)
+{
+    platform::PropertyList list;
+    platform::Dictionary object = list.root().addDictionary("slot");
+    object.setInteger("Valid", 2);
+    object.setString("App", "/bin/true");
+    mStore.GetSubKeyInfo(16, object);
+    EXPECT_EQ(+qvTabletInfo.Key.SubKey[16].Valid, 2);
+    EXPECT_STREQ(qvTabletInfo.Key.SubKey[16].App.data(), "/bin/true");
+
+    qvTabletInfo.Key.SubKey[16].Key = 0x03063836;
+    qvTabletInfo.Key.SubKey[16].Mouse = -2;
+    mStore.SetSubKeyInfo(16, object);
+    EXPECT_EQ(object.number("Key")->longValue(), 0x03063836);
+    EXPECT_EQ(object.number("Mouse")->longValue(), -2);
+    EXPECT_EQ(object.keys().size(), 4U);
+}
+
+TEST_F(QVConfigStoreFile, isFoundByANameOfAnyLengthInItsBuffer)
+{
+    std::memset(GetPListName(), 'n', kQVListNameSize - 1);
+    EXPECT_EQ(QVConfigStore::configPath(),
+        mHome.configFolder().path().toStdString() + '/' + std::string(kQVListNameSize - 1, 'n'));
+}

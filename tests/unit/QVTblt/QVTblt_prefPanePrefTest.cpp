@@ -1,0 +1,318 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVTblt_prefPanePref.h"
+
+#include "FakeDisplays.h"
+#include "FakeEvents.h"
+#include "SampleConfig.h"
+#include "TemporaryHome.h"
+#include "rzkApplication.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QPushButton>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using platform::Rect;
+
+namespace {
+
+class Pane : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        writeFile(mHome.configFile(7), sampleConfig());
+        mEvents.answer(7);
+        ASSERT_EQ(
+            mPane.initWithBundle(platform::Bundle(QStringLiteral(QVTBLT_STAGE_RESOURCES))), &mPane);
+        mWindow.reset(mPane.loadMainView());
+    }
+
+    template <class Widget>
+    Widget& outlet(const char* name)
+    {
+        auto* const widget = mWindow->findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return *widget;
+    }
+
+    /** Shows the pane as a host does. */
+    void show()
+    {
+        mPane.willSelect();
+        mWindow->show();
+        mPane.didSelect();
+    }
+
+    /** Leaves it as a host does. */
+    void leave()
+    {
+        mPane.willUnselect();
+        mWindow->hide();
+        mPane.didUnselect();
+    }
+
+    /** The records pushed so far. */
+    std::vector<tagQVTabletInfo> pushes() const
+    {
+        std::vector<tagQVTabletInfo> records;
+        for (const FakeEvents::Sent& sent : mEvents.sent) {
+            if (sent.event.eventID == platform::fourCharCode("WSnd")) {
+                const QByteArray bytes = *sent.event.parameters.front().desc.bytes();
+                EXPECT_EQ(bytes.size(), 5077);
+                std::memcpy(&records.emplace_back(), bytes.constData(), sizeof(tagQVTabletInfo));
+            }
+        }
+        return records;
+    }
+
+    tagQVTabletInfo recordInFile()
+    {
+        const tagQVTabletInfo before = qvTabletInfo;
+        platform::PropertyListError error;
+        QVConfigStore().loadRecord(mHome.configFile(7).toStdString(), error);
+        return std::exchange(qvTabletInfo, before);
+    }
+
+    TemporaryHome mHome;
+    FakeEvents mEvents;
+    FakeDisplays mDisplays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
+    QVTblt_prefPanePref mPane;
+    std::unique_ptr<QWidget> mWindow;
+};
+
+} // namespace
+
+TEST_F(Pane, hasItsOutletsUnderTheirNames)
+{
+    outlet<QTabWidget>("tabView");
+    outlet<QLabel>("NoDevTitle");
+    for (const char* const bank : {"mKey1_", "mKey2_"}) {
+        for (int key = 1; key <= 8; ++key) {
+            outlet<QComboBox>((bank + std::to_string(key)).c_str());
+        }
+    }
+    outlet<QCheckBox>("mKeyLScroll");
+    outlet<QCheckBox>("mKeyRScroll");
+    outlet<QSlider>("mScrollSpeed");
+    outlet<QWidget>("mMonitorSpeed");
+    outlet<QComboBox>("penKeyUpper");
+    outlet<QComboBox>("penKeyLower");
+    outlet<QWidget>("mSoft");
+}
+
+TEST_F(Pane, keepsItsBundleForEveryLookUp)
+{
+    EXPECT_EQ(rzkBundle.folder(), QStringLiteral(QVTBLT_STAGE_RESOURCES));
+}
+
+TEST_F(Pane, givesEveryComboBoxItsSlotAsTag)
+{
+    for (int key = 0; key < 16; ++key) {
+        const std::string name =
+            "mKey" + std::to_string(key / 8 + 1) + '_' + std::to_string(key % 8 + 1);
+        EXPECT_EQ(outlet<QComboBox>(name.c_str()).property("tag").toInt(), key) << name;
+    }
+    EXPECT_EQ(outlet<QComboBox>("penKeyUpper").property("tag").toInt(), 16);
+    EXPECT_EQ(outlet<QComboBox>("penKeyLower").property("tag").toInt(), 17);
+}
+
+TEST_F(Pane, showsThePagesAndTheFilesStateWithATablet)
+{
+    show();
+    EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible());
+    EXPECT_FALSE(outlet<QLabel>("NoDevTitle").isVisible());
+    EXPECT_TRUE(sameBytes(qvTabletInfo, sampleRecord()));
+    // The sample has 26 and 27 there: both strips are off.
+    EXPECT_FALSE(outlet<QCheckBox>("mKeyLScroll").isChecked());
+    EXPECT_FALSE(outlet<QCheckBox>("mKeyRScroll").isChecked());
+    EXPECT_TRUE(pushes().empty()) << "showing the pane must not push";
+}
+
+TEST_F(Pane, showsOnlyTheLabelWithoutATablet)
+{
+    mEvents.sendResult = platform::procNotFound;
+    show();
+    EXPECT_FALSE(outlet<QTabWidget>("tabView").isVisible());
+    const QLabel& label = outlet<QLabel>("NoDevTitle");
+    EXPECT_TRUE(label.isVisible());
+    EXPECT_EQ(label.text(), QStringLiteral("No tablet was found"));
+    EXPECT_TRUE(label.font().bold());
+    EXPECT_EQ(label.font().pixelSize(), 20);
+    const QColor color = label.palette().color(QPalette::WindowText);
+    EXPECT_NEAR(color.redF(), 1.0, 1e-4);
+    EXPECT_NEAR(color.greenF(), 0.2, 1e-4);
+    EXPECT_NEAR(color.blueF(), 0.2, 1e-4);
+    EXPECT_NEAR(color.alphaF(), 0.6, 1e-4);
+    for (const char* const name : {"mSave", "mCancel", "mSoft"}) {
+        EXPECT_FALSE(outlet<QWidget>(name).isVisible()) << name;
+    }
+    EXPECT_TRUE(sameBytes(qvTabletInfo, {})) << "no file may be loaded";
+}
+
+TEST_F(Pane, movesTheLabelFurtherAtEachShowingWithoutATablet)
+{
+    mEvents.answer(0);
+    const QLabel& label = outlet<QLabel>("NoDevTitle");
+    const Rect first = platform::frame(label);
+    show();
+    const Rect second = platform::frame(label);
+    leave();
+    show();
+    const Rect third = platform::frame(label);
+    EXPECT_EQ(second.x, first.x + 20);
+    EXPECT_EQ(second.y, first.y - 150);
+    EXPECT_EQ(third.x, second.x + 20);
+    EXPECT_EQ(third.y, second.y - 150);
+    EXPECT_EQ(third.width, label.sizeHint().width());
+    EXPECT_EQ(third.height, label.sizeHint().height());
+}
+
+TEST_F(Pane, comesBackWhenATabletIsThereAgain)
+{
+    mEvents.answer(0);
+    show();
+    leave();
+    mEvents.answer(7);
+    show();
+    EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible());
+    EXPECT_TRUE(outlet<QPushButton>("mSave").isVisible());
+    EXPECT_FALSE(outlet<QLabel>("NoDevTitle").isVisible());
+}
+
+TEST_F(Pane, putsTheFocusOnMSoft)
+{
+    show();
+    mWindow->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mWindow.get()));
+    EXPECT_TRUE(outlet<QWidget>("mSoft").hasFocus());
+}
+
+TEST_F(Pane, namesTheTablet)
+{
+    show();
+    EXPECT_EQ(outlet<QLabel>("mSoft").text(), QStringLiteral("Unknown tablet, product 0002"));
+}
+
+TEST_F(Pane, pushesTheStripsAtOnceWhenABoxIsClicked)
+{
+    show();
+    QTest::mouseClick(&outlet<QCheckBox>("mKeyLScroll"), Qt::LeftButton, {}, QPoint(8, 8));
+    ASSERT_EQ(pushes().size(), 1U);
+    tagQVTabletInfo expected = sampleRecord();
+    expected.Key.Scrollbar0 = 0;
+    expected.Key.Scrollbar1 = 1;
+    EXPECT_TRUE(sameBytes(pushes().front(), expected));
+    EXPECT_TRUE(sameBytes(qvTabletInfo, expected));
+
+    QTest::keyClick(&outlet<QCheckBox>("mKeyRScroll"), Qt::Key_Space);
+    ASSERT_EQ(pushes().size(), 2U);
+    expected.Key.Scrollbar1 = 0;
+    EXPECT_TRUE(sameBytes(pushes().back(), expected));
+}
+
+TEST_F(Pane, pushesNothingWhenCodeChangesABox)
+{
+    show();
+    outlet<QCheckBox>("mKeyLScroll").setChecked(true);
+    outlet<QCheckBox>("mKeyRScroll").toggle();
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(Pane, saveStoresZeroForABoxThatIsOnAndOneForABoxThatIsOff)
+{
+    show();
+    outlet<QCheckBox>("mKeyLScroll").setChecked(true);
+    outlet<QCheckBox>("mKeyRScroll").setChecked(false);
+    QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
+    EXPECT_EQ(+qvTabletInfo.Key.Scrollbar0, 0);
+    EXPECT_EQ(+qvTabletInfo.Key.Scrollbar1, 1);
+    EXPECT_TRUE(sameBytes(recordInFile(), qvTabletInfo));
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
+}
+
+TEST_F(Pane, cancelPushesTheFilesValuesWhileTheBoxKeepsTheChoice)
+{
+    show();
+    QTest::mouseClick(&outlet<QCheckBox>("mKeyLScroll"), Qt::LeftButton, {}, QPoint(8, 8));
+    ASSERT_TRUE(outlet<QCheckBox>("mKeyLScroll").isChecked());
+    QTest::mouseClick(&outlet<QPushButton>("mCancel"), Qt::LeftButton);
+    ASSERT_EQ(pushes().size(), 2U);
+    EXPECT_TRUE(sameBytes(pushes().back(), sampleRecord()));
+    EXPECT_TRUE(outlet<QCheckBox>("mKeyLScroll").isChecked());
+    leave();
+    show();
+    EXPECT_FALSE(outlet<QCheckBox>("mKeyLScroll").isChecked());
+}
+
+TEST_F(Pane, leavingSavesWithoutPushing)
+{
+    show();
+    QTest::mouseClick(&outlet<QCheckBox>("mKeyLScroll"), Qt::LeftButton, {}, QPoint(8, 8));
+    const std::size_t before = pushes().size();
+    leave();
+    EXPECT_EQ(pushes().size(), before);
+    EXPECT_EQ(+recordInFile().Key.Scrollbar0, 0);
+    EXPECT_TRUE(sameBytes(recordInFile(), qvTabletInfo));
+}
+
+TEST_F(Pane, leavingSavesIntoTheFormerTabletsFileAfterTheTabletWasUnplugged)
+{
+    show();
+    leave();
+    mEvents.sendResult = platform::procNotFound;
+    show();
+    qvTabletInfo.Pen.Speed = 99;
+    leave();
+    EXPECT_EQ(+recordInFile().Pen.Speed, 99);
+}
+
+TEST_F(Pane, leavingWithoutATabletEverCreatesNothing)
+{
+    mEvents.sendResult = platform::procNotFound;
+    show();
+    leave();
+    EXPECT_EQ(readFile(mHome.configFile(7)), sampleConfig());
+    EXPECT_EQ(mHome.configFolder().entryList(QDir::Files).size(), 1);
+}
+
+TEST_F(Pane, putsTheMovedControlsBackWhenItIsLeft)
+{
+    show();
+    const std::vector<QWidget*> controls{&outlet<QComboBox>("mKey1_1"),
+        &outlet<QCheckBox>("mKeyLScroll"), &outlet<QCheckBox>("mKeyRScroll")};
+    std::vector<QRect> before;
+    for (QWidget* const control : controls) {
+        before.push_back(control->geometry());
+        control->move(control->pos() + QPoint(5, 65));
+    }
+    leave();
+    for (std::size_t i = 0; i < controls.size(); ++i) {
+        EXPECT_EQ(controls[i]->geometry(), before[i]) << i;
+    }
+}
+
+TEST_F(Pane, leavesTheControlsInPlaceWhenItWasNeverShownWithATablet)
+{
+    const QRect before = outlet<QComboBox>("mKey1_1").geometry();
+    mEvents.answer(0);
+    show();
+    leave();
+    EXPECT_EQ(outlet<QComboBox>("mKey1_1").geometry(), before);
+}
+
+TEST_F(Pane, loadsItsMainViewOnce)
+{
+    EXPECT_EQ(mPane.loadMainView(), mWindow.get());
+    EXPECT_EQ(mPane.mainView(), mWindow.get());
+    mWindow.reset();
+    EXPECT_EQ(mPane.mainView(), nullptr);
+}

@@ -1,0 +1,111 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVTabletFields.h"
+#include "rzkApplication.h"
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <set>
+#include <string>
+
+// The compiler holds the offsets by assertions in the header. These tests hold what it cannot: that
+// the table of fields covers the record, and how the bytes lie in memory.
+
+namespace {
+
+std::size_t widthOf(QVFieldType type)
+{
+    switch (type) {
+    case QVFieldType::Int16:
+    case QVFieldType::UInt16:
+        return 2;
+    case QVFieldType::UInt32:
+        return 4;
+    case QVFieldType::Boolean:
+        return 1;
+    case QVFieldType::String:
+        return kQVStringSize;
+    }
+    return 0;
+}
+
+} // namespace
+
+TEST(tagQVTabletInfo, is5077BytesWithTheKeysAt319AndTheScrollStripsAt5071)
+{
+    EXPECT_EQ(sizeof(tagQVTabletInfo), 5077U);
+    EXPECT_EQ(offsetof(tagQVTabletInfo, Key), 319U);
+    EXPECT_EQ(offsetof(tagQVTabletInfo, Key.Scrollbar0), 5071U);
+}
+
+TEST(tagQVTabletInfo, startsZeroFilledAndIsAlwaysTheSameOne)
+{
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(GetqvTabletInfo());
+    for (std::size_t i = 0; i < sizeof(tagQVTabletInfo); ++i) {
+        ASSERT_EQ(bytes[i], 0) << "at " << i;
+    }
+    EXPECT_EQ(GetqvTabletInfo(), &qvTabletInfo);
+    EXPECT_EQ(GetPListName(), pListname.data());
+    EXPECT_STREQ(GetPListName(), "");
+    EXPECT_EQ(pListname.size(), 32U);
+}
+
+TEST(tagQVTabletInfo, liesInMemoryAsItTravels)
+{
+    tagQVTabletInfo record{};
+    record.Basic.ProductID = 0x5101;
+    record.Monitor.MonitorReserved4 = 0x1234;
+    record.Key.SubKey[0].Valid = 0x0201;
+    record.Key.SubKey[17].Key = 0x03063836;
+    record.Key.ScrollSpeed = -2;
+    const auto* const bytes = reinterpret_cast<const unsigned char*>(&record);
+    EXPECT_EQ(bytes[2], 0x01);
+    EXPECT_EQ(bytes[3], 0x51);
+    EXPECT_EQ(bytes[318], 0x12);
+    EXPECT_EQ(bytes[319], 0x01);
+    EXPECT_EQ(bytes[320], 0x02);
+    EXPECT_EQ(bytes[319 + 264 * 17 + 4], 0x36);
+    EXPECT_EQ(bytes[319 + 264 * 17 + 7], 0x03);
+    EXPECT_EQ(bytes[5075], 0xFE);
+    EXPECT_EQ(bytes[5076], 0xFF);
+}
+
+TEST(QVTabletFields, coverEveryByteButTheReservedOnesOnce)
+{
+    std::set<std::size_t> covered;
+    QVForEachField([&](const QVSection&, const char*, const QVField& field, std::size_t base) {
+        for (std::size_t i = 0; i < widthOf(field.type); ++i) {
+            EXPECT_TRUE(covered.insert(base + field.offset + i).second)
+                << field.key << " overlaps another at " << base + field.offset + i;
+        }
+    });
+    std::set<std::size_t> reserved;
+    for (std::size_t i = 0; i < 4; ++i) {
+        reserved.insert(22 + i);
+    }
+    for (std::size_t i = 0; i < 8; ++i) {
+        reserved.insert(311 + i);
+    }
+    for (std::size_t i = 0; i < sizeof(tagQVTabletInfo); ++i) {
+        EXPECT_NE(covered.contains(i), reserved.contains(i)) << "at " << i;
+    }
+    EXPECT_EQ(*covered.rbegin(), sizeof(tagQVTabletInfo) - 1);
+}
+
+TEST(QVTabletFields, nameTheSlotsInTheOrderOfTheRecord)
+{
+    for (std::size_t slot = 0; slot < 16; ++slot) {
+        EXPECT_EQ(kQVSlotKeys[slot], "Key" + std::to_string(slot));
+    }
+    EXPECT_STREQ(kQVSlotKeys[16], "penKeyU");
+    EXPECT_STREQ(kQVSlotKeys[17], "penKeyL");
+    EXPECT_EQ(QVSlotOffset(17), 319U + 264 * 17);
+}
+
+TEST(QVTabletFields, leaveTheTabletSectionOutOfSaving)
+{
+    for (const QVSection& section : kQVSections) {
+        EXPECT_EQ(section.saved, std::string(section.key) != "Tablet");
+    }
+}

@@ -1,0 +1,100 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Bundle.h"
+
+#include "SampleConfig.h"
+#include "TemporaryHome.h"
+
+#include <QLocale>
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+using platform::Bundle;
+
+namespace {
+
+class BundleFolder : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        add("en", "<key>Hello</key><string>Hello</string><key>Only</key><string>English</string>");
+        add("de", "<key>Hello</key><string>Gr\xC3\xBC\xC3\x9F Gott</string>");
+        add("fr", "no list at all");
+    }
+    void TearDown() override { QLocale::setDefault(QLocale::system()); }
+
+    void add(const char* language, const QByteArray& strings)
+    {
+        const QDir folder(mHome.path());
+        const QString name = QString::fromLatin1(language) + QStringLiteral(".lproj");
+        ASSERT_TRUE(folder.mkpath(name));
+        writeFile(folder.filePath(name + QStringLiteral("/Table.strings")),
+            plist("<dict>" + strings + "</dict>"));
+    }
+
+    QString lookUp(const char* language, const char* key, const char* value = "") const
+    {
+        QLocale::setDefault(QLocale(QString::fromLatin1(language)));
+        return inTable(key, value);
+    }
+
+    QString inTable(const char* key, const char* value = "") const
+    {
+        return mBundle.localizedString(
+            QString::fromLatin1(key), QString::fromLatin1(value), QStringLiteral("Table"));
+    }
+
+    TemporaryHome mHome;
+    Bundle mBundle{mHome.path()};
+};
+
+} // namespace
+
+TEST_F(BundleFolder, takesTheStringInTheUsersBestLanguage)
+{
+    EXPECT_EQ(lookUp("de", "Hello"), QString::fromUtf8("Gr\xC3\xBC\xC3\x9F Gott"));
+    EXPECT_EQ(lookUp("en", "Hello"), QStringLiteral("Hello"));
+    EXPECT_EQ(lookUp("de_AT", "Hello"), QString::fromUtf8("Gr\xC3\xBC\xC3\x9F Gott"));
+}
+
+TEST_F(BundleFolder, followsTheOrderOfTheUsersPreferences)
+{
+    // Qt reads the preferences once in a process, so this needs a new one.
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    qputenv("LC_ALL", "");
+    qputenv("LANG", "en_US.UTF-8");
+    qputenv("LANGUAGE", "es:de:en");
+    EXPECT_EXIT(std::_Exit(inTable("Hello").startsWith(QStringLiteral("Gr")) ? 0 : 1),
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(BundleFolder, fallsBackToEnglishForALanguageOrAKeyThatIsNotThere)
+{
+    EXPECT_EQ(lookUp("es", "Hello"), QStringLiteral("Hello"));
+    EXPECT_EQ(lookUp("de", "Only"), QStringLiteral("English"));
+}
+
+TEST_F(BundleFolder, passesOverATableThatIsBroken)
+{
+    EXPECT_EQ(lookUp("fr", "Hello"), QStringLiteral("Hello"));
+}
+
+TEST_F(BundleFolder, givesTheValueAndElseTheKeyWhereNoTableHasIt)
+{
+    EXPECT_EQ(lookUp("de", "None", "a value"), QStringLiteral("a value"));
+    EXPECT_EQ(lookUp("de", "None"), QStringLiteral("None"));
+    EXPECT_EQ(Bundle().localizedString(QStringLiteral("Key"), QString(), QStringLiteral("Table")),
+        QStringLiteral("Key"));
+}
+
+TEST_F(BundleFolder, findsResourcesByNameAndExactType)
+{
+    writeFile(mHome.path() + QStringLiteral("/picture.PNG"), "x");
+    EXPECT_EQ(mBundle.pathForResource(QStringLiteral("picture"), QStringLiteral("PNG")),
+        mHome.path() + QStringLiteral("/picture.PNG"));
+    EXPECT_FALSE(mBundle.pathForResource(QStringLiteral("picture"), QStringLiteral("png")));
+    EXPECT_FALSE(mBundle.pathForResource(QStringLiteral("other"), QStringLiteral("PNG")));
+    EXPECT_FALSE(Bundle().pathForResource(QStringLiteral("picture"), QStringLiteral("PNG")));
+}
