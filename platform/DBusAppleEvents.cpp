@@ -128,11 +128,14 @@ public:
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override
     {
-        if (call.interface() != QLatin1String(wire::kInterface)
-            || call.member() != QLatin1String(wire::kSendMethod)) {
+        // A caller need not name the interface.
+        if (!call.interface().isEmpty() && call.interface() != QLatin1String(wire::kInterface)) {
             return false;
         }
-        const QDBusMessage answer = dispatch(call);
+        const QDBusMessage answer = call.member() == QLatin1String(wire::kSendMethod)
+            ? dispatch(call)
+            : call.createErrorReply(QDBusError::UnknownMethod,
+                QStringLiteral("there is no method %1").arg(call.member()));
         if (call.isReplyRequired()) {
             bus.send(answer);
         }
@@ -184,9 +187,6 @@ private:
         if (mConnection->isConnected()) {
             mConnection->registerVirtualObject(QLatin1String(wire::kObjectPath), this);
             watchSource();
-        } else {
-            qCWarning(
-                lcEvents, "no session bus: %s", qUtf8Printable(mConnection->lastError().message()));
         }
     }
 

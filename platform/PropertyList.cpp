@@ -143,8 +143,16 @@ std::optional<std::string> readFile(const std::string& path, PropertyListError& 
 /** Writes all bytes and has them on the disk before it returns. */
 std::string writeThrough(QFileDevice& file, const std::string& bytes)
 {
-    const auto size = static_cast<qint64>(bytes.size());
-    if (file.write(bytes.data(), size) != size || !file.flush()) {
+    // The last bytes that fit are written without an error; the next ones tell why no more do.
+    for (std::size_t done = 0; done < bytes.size();) {
+        const qint64 written =
+            file.write(bytes.data() + done, static_cast<qint64>(bytes.size() - done));
+        if (written <= 0) {
+            return file.errorString().toStdString();
+        }
+        done += static_cast<std::size_t>(written);
+    }
+    if (!file.flush()) {
         return file.errorString().toStdString();
     }
     // Some file systems tell of a full disk only here.
@@ -408,7 +416,7 @@ bool PropertyList::save(const std::string& path, PropertyListError& error) const
 {
     QSaveFile file(QFile::decodeName(QByteArray::fromStdString(path)));
     std::string why;
-    if (!file.open(QIODevice::WriteOnly)) {
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         why = file.errorString().toStdString();
     } else {
         why = writeThrough(file, toXml());

@@ -1,0 +1,699 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// The link to the driver over a real session bus: against the driver itself, and against a peer
+// that answers as no driver should.
+
+#include "Client.h"
+#include "DBusAppleEvents.h"
+#include "DriverProcess.h"
+#include "Peer.h"
+#include "PrivateBus.h"
+#include "Service.h"
+#include "TemporaryHome.h"
+#include "rzkApplication.h"
+
+#include <QCoreApplication>
+#include <QDBusArgument>
+#include <QDBusMetaType>
+#include <QDBusVariant>
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+using namespace platform;
+
+// The wire's types once more, so that the tests do not see with the program's own eyes.
+struct TestDesc {
+    uint type;
+    QDBusVariant data;
+};
+struct TestParameter {
+    uint keyword;
+    TestDesc desc;
+};
+Q_DECLARE_METATYPE(TestDesc)
+Q_DECLARE_METATYPE(TestParameter)
+
+static QDBusArgument& operator<<(QDBusArgument& argument, const TestDesc& desc)
+{
+    argument.beginStructure();
+    argument << desc.type << desc.data;
+    argument.endStructure();
+    return argument;
+}
+static const QDBusArgument& operator>>(const QDBusArgument& argument, TestDesc& desc)
+{
+    argument.beginStructure();
+    argument >> desc.type >> desc.data;
+    argument.endStructure();
+    return argument;
+}
+static QDBusArgument& operator<<(QDBusArgument& argument, const TestParameter& parameter)
+{
+    argument.beginStructure();
+    argument << parameter.keyword << parameter.desc;
+    argument.endStructure();
+    return argument;
+}
+static const QDBusArgument& operator>>(const QDBusArgument& argument, TestParameter& parameter)
+{
+    argument.beginStructure();
+    argument >> parameter.keyword >> parameter.desc;
+    argument.endStructure();
+    return argument;
+}
+
+namespace {
+
+using Parameters = QList<TestParameter>;
+using Descriptors = QList<TestDesc>;
+
+const QString kDriverName = QStringLiteral("org.quorvia.AppleEvents.TdSg");
+constexpr const char* kEventNotHandled = "org.quorvia.AppleEvents.Error.EventNotHandled";
+constexpr const char* kCoercionFail = "org.quorvia.AppleEvents.Error.CoercionFail";
+
+/** How long a query may block: its time-out, and room for a busy machine. */
+constexpr qint64 kQueryLimit = 1000;
+
+template <class Value>
+QByteArray bytes(Value value)
+{
+    return {reinterpret_cast<const char*>(&value), static_cast<int>(sizeof value)};
+}
+
+QVariant parameters(const Parameters& list)
+{
+    return QVariant::fromValue(list);
+}
+
+/** The driver's answer with one parameter. */
+Peer::Answer replyWith(uint keyword, uint type, const QVariant& data)
+{
+    return [=](const QDBusMessage& call) {
+        return call.createReply(parameters({TestParameter{keyword, {type, QDBusVariant(data)}}}));
+    };
+}
+
+Peer::Answer replyWithLong(std::int32_t number)
+{
+    return replyWith(keyDirectObject, typeLongInteger, bytes(number));
+}
+
+class DriverLink : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        qDBusRegisterMetaType<TestDesc>();
+        qDBusRegisterMetaType<Descriptors>();
+        qDBusRegisterMetaType<TestParameter>();
+        qDBusRegisterMetaType<Parameters>();
+        pListname = {};
+    }
+
+    /** Pushes without the diagnostics in the test's output. @return what they were */
+    static std::string push()
+    {
+        testing::internal::CaptureStderr();
+        EXPECT_TRUE(ConnectToDriver(GetqvTabletInfo(), kQVRecordSize));
+        return testing::internal::GetCapturedStderr();
+    }
+
+    TemporaryHome mHome;
+    PrivateBus mBus;
+    DBusAppleEvents mEvents;
+    ServiceScope<AppleEvents> mScope{mEvents};
+};
+
+} // namespace
+
+// The query ---------------------------------------------------------------------------------------
+
+TEST_F(DriverLink, findsNoTabletWithoutADriver)
+{
+    EXPECT_FALSE(rzkgetQVDevice());
+    EXPECT_STREQ(GetPListName(), "");
+    EXPECT_FALSE(GetQVTabeltDevices());
+}
+
+TEST_F(DriverLink, findsTheTabletThatTheRealDriverHas)
+{
+    const DriverProcess driver;
+    EXPECT_TRUE(rzkgetQVDevice());
+    EXPECT_STREQ(GetPListName(), "20737.plist");
+    DriverProcess::ask<void>("Attach", ushort{0x5103});
+    EXPECT_TRUE(rzkgetQVDevice());
+    EXPECT_STREQ(GetPListName(), "20739.plist");
+    DriverProcess::ask<void>("Detach");
+    EXPECT_FALSE(rzkgetQVDevice());
+    EXPECT_STREQ(GetPListName(), "0.plist");
+}
+
+TEST_F(DriverLink, asksInExactlyTheWiresForm)
+{
+    Peer driver(mBus, kDriverName);
+    driver.answer = replyWithLong(7);
+    EXPECT_TRUE(rzkgetQVDevice());
+    EXPECT_STREQ(GetPListName(), "7.plist");
+
+    ASSERT_EQ(driver.calls().size(), 1U);
+    const QDBusMessage call = driver.calls().front();
+    EXPECT_EQ(call.path(), QStringLiteral("/org/quorvia/AppleEvents"));
+    EXPECT_EQ(call.interface(), QStringLiteral("org.quorvia.AppleEvents1"));
+    EXPECT_EQ(call.member(), QStringLiteral("Send"));
+    EXPECT_EQ(call.signature(), QStringLiteral("uua(u(uv))"));
+    EXPECT_EQ(call.arguments()[0].toUInt(), 0x636F7265U); // core
+    EXPECT_EQ(call.arguments()[1].toUInt(), 0x67657464U); // getd
+    const auto list = qdbus_cast<Parameters>(call.arguments()[2]);
+    ASSERT_EQ(list.size(), 2);
+    EXPECT_EQ(list[0].keyword, 0x72747970U); // rtyp
+    EXPECT_EQ(list[0].desc.type, 0x74797065U); // type
+    EXPECT_EQ(list[0].desc.data.variant().toByteArray(), bytes(0x6C6F6E67U)); // long
+    EXPECT_EQ(list[1].keyword, 0x2D2D2D2DU); // ----
+    EXPECT_EQ(list[1].desc.type, 0x6F626A20U); // obj
+    const auto specifier = qdbus_cast<Parameters>(list[1].desc.data.variant());
+    ASSERT_EQ(specifier.size(), 4);
+    EXPECT_EQ(specifier[2].keyword, 0x73656C64U); // seld
+    EXPECT_EQ(specifier[2].desc.data.variant().toByteArray(),
+        bytes(0x51434647U) + bytes(0x54645367U)); // QCFG, TdSg
+    EXPECT_EQ(specifier[3].desc.type, 0x6E756C6CU); // null
+    EXPECT_EQ(specifier[3].desc.data.variant().toByteArray(), QByteArray());
+}
+
+TEST_F(DriverLink, takesTheAnswersAsTheyAre)
+{
+    struct Case {
+        std::int32_t answer;
+        const char* name;
+        bool present;
+    };
+    for (const Case& c : {Case{0, "0.plist", false}, {1, "1.plist", true},
+             {65535, "65535.plist", true}, {65536, "0.plist", true}, {-1, "65535.plist", true}}) {
+        Peer driver(mBus, kDriverName);
+        driver.answer = replyWithLong(c.answer);
+        EXPECT_EQ(rzkgetQVDevice(), c.present) << c.answer;
+        EXPECT_STREQ(GetPListName(), c.name) << c.answer;
+    }
+}
+
+TEST_F(DriverLink, takesA64BitAnswerByItsFirstFourBytes)
+{
+    Peer driver(mBus, kDriverName);
+    driver.answer = replyWith(keyDirectObject, typeLongInteger, bytes(std::int64_t{0x5'0000'0007}));
+    EXPECT_TRUE(rzkgetQVDevice());
+    EXPECT_STREQ(GetPListName(), "7.plist");
+}
+
+TEST_F(DriverLink, takesAnEmptyReplyOrOneOfAnotherTypeForZero)
+{
+    const std::vector<Peer::Answer> answers{
+        [](const QDBusMessage& call) { return call.createReply(parameters({})); },
+        replyWith(keyDirectObject, typeUTF8Text, QByteArray("7.plist")),
+        replyWith(keyDirectObject, typeLongInteger, QVariant::fromValue(Descriptors())),
+        replyWith(keyErrorString, typeLongInteger, bytes(std::int32_t{7})),
+    };
+    for (const Peer::Answer& answer : answers) {
+        std::strcpy(GetPListName(), "former");
+        Peer driver(mBus, kDriverName);
+        driver.answer = answer;
+        EXPECT_FALSE(rzkgetQVDevice());
+        EXPECT_STREQ(GetPListName(), "0.plist");
+    }
+}
+
+TEST_F(DriverLink, takesAnErrorOrAReplyOfAnotherFormForNoAnswer)
+{
+    const std::vector<Peer::Answer> answers{
+        [](const QDBusMessage& call) {
+            return call.createErrorReply(
+                QString::fromLatin1(kEventNotHandled), QStringLiteral("no"));
+        },
+        [](const QDBusMessage& call) {
+            return call.createErrorReply(QStringLiteral("org.example.Other"), QStringLiteral("no"));
+        },
+        [](const QDBusMessage& call) { return call.createReply(); },
+        [](const QDBusMessage& call) { return call.createReply(QStringLiteral("7")); },
+        [](const QDBusMessage& call) { return call.createReply(7); },
+        replyWith(keyDirectObject, typeLongInteger, 7),
+        replyWith(keyDirectObject, typeLongInteger, QStringList{QStringLiteral("7")}),
+    };
+    for (const Peer::Answer& answer : answers) {
+        std::strcpy(GetPListName(), "former");
+        Peer driver(mBus, kDriverName);
+        driver.answer = answer;
+        EXPECT_FALSE(rzkgetQVDevice());
+        EXPECT_STREQ(GetPListName(), "former");
+    }
+}
+
+TEST_F(DriverLink, waitsForADriverThatNeeds200Milliseconds)
+{
+    Peer driver(mBus, kDriverName);
+    driver.delay = std::chrono::milliseconds(200);
+    driver.answer = replyWithLong(7);
+    EXPECT_TRUE(rzkgetQVDevice());
+}
+
+TEST_F(DriverLink, givesUpOnADriverThatNeeds300Milliseconds)
+{
+    Peer driver(mBus, kDriverName);
+    driver.delay = std::chrono::milliseconds(300);
+    driver.answer = replyWithLong(7);
+    EXPECT_FALSE(rzkgetQVDevice());
+    EXPECT_STREQ(GetPListName(), "");
+}
+
+TEST_F(DriverLink, givesUpOnADriverThatIsStopped)
+{
+    const DriverProcess driver;
+    driver.signal(SIGSTOP);
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_FALSE(rzkgetQVDevice());
+    EXPECT_GE(timer.elapsed(), 200);
+    EXPECT_LT(timer.elapsed(), kQueryLimit);
+    driver.signal(SIGCONT);
+    EXPECT_TRUE(rzkgetQVDevice());
+}
+
+TEST_F(DriverLink, doesNotRunTheUserInterfaceWhileItWaits)
+{
+    Peer driver(mBus, kDriverName);
+    driver.delay = std::chrono::milliseconds(100);
+    driver.answer = replyWithLong(7);
+    bool ran = false;
+    QMetaObject::invokeMethod(
+        QCoreApplication::instance(), [&] { ran = true; }, Qt::QueuedConnection);
+    EXPECT_TRUE(rzkgetQVDevice());
+    EXPECT_FALSE(ran);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(ran);
+}
+
+TEST_F(DriverLink, findsNoTabletWithoutABus)
+{
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+    EXPECT_FALSE(rzkgetQVDevice());
+    EXPECT_EQ(push(), "ConnectToDriver 0 0 0 0\nConnectToDriver ok\n");
+}
+
+// The push ----------------------------------------------------------------------------------------
+
+TEST_F(DriverLink, pushesTheRecordByteForByte)
+{
+    const DriverProcess driver;
+    auto* const record = reinterpret_cast<unsigned char*>(GetqvTabletInfo());
+    for (int i = 0; i < kQVRecordSize; ++i) {
+        record[i] = static_cast<unsigned char>(i * 31 + 7);
+    }
+    push();
+    EXPECT_EQ(mEvents.finishSends(), noErr);
+    EXPECT_EQ(DriverProcess::ask<QByteArray>("LastRecord"),
+        QByteArray(reinterpret_cast<const char*>(record), kQVRecordSize));
+}
+
+TEST_F(DriverLink, pushesInExactlyTheWiresForm)
+{
+    Peer driver(mBus, kDriverName);
+    driver.answer = [](const QDBusMessage& call) { return call.createReply(parameters({})); };
+    push();
+    EXPECT_EQ(mEvents.finishSends(), noErr);
+    ASSERT_EQ(driver.calls().size(), 1U);
+    const QDBusMessage call = driver.calls().front();
+    EXPECT_EQ(call.signature(), QStringLiteral("uua(u(uv))"));
+    EXPECT_EQ(call.arguments()[0].toUInt(), 0x54645367U); // TdSg
+    EXPECT_EQ(call.arguments()[1].toUInt(), 0x57536E64U); // WSnd
+    const auto list = qdbus_cast<Parameters>(call.arguments()[2]);
+    ASSERT_EQ(list.size(), 1);
+    EXPECT_EQ(list[0].keyword, 0x64617461U); // data
+    EXPECT_EQ(list[0].desc.type, 0x75746638U); // utf8
+    EXPECT_EQ(list[0].desc.data.variant().toByteArray().size(), 5077);
+}
+
+TEST_F(DriverLink, pushesArriveInOrder)
+{
+    Peer driver(mBus, kDriverName);
+    driver.answer = [](const QDBusMessage& call) { return call.createReply(parameters({})); };
+    for (std::int16_t i = 0; i < 200; ++i) {
+        qvTabletInfo.Pen.Speed = i;
+        push();
+    }
+    EXPECT_EQ(mEvents.finishSends(), noErr);
+    const std::vector<QDBusMessage> calls = driver.calls();
+    ASSERT_EQ(calls.size(), 200U);
+    for (std::int16_t i = 0; i < 200; ++i) {
+        const auto list = qdbus_cast<Parameters>(calls[static_cast<std::size_t>(i)].arguments()[2]);
+        EXPECT_EQ(list[0].desc.data.variant().toByteArray().mid(285, 2), bytes(i));
+    }
+}
+
+TEST_F(DriverLink, aPushWithoutADriverSaysOkAndFails)
+{
+    EXPECT_EQ(push(), "ConnectToDriver 0 0 0 0\nConnectToDriver ok\n");
+    EXPECT_EQ(mEvents.finishSends(), procNotFound);
+    EXPECT_EQ(mEvents.finishSends(), noErr) << "an error is told once";
+}
+
+TEST_F(DriverLink, aPushAfterTheDriverWasKilledSaysOk)
+{
+    DriverProcess driver;
+    EXPECT_TRUE(rzkgetQVDevice());
+    driver.kill();
+    EXPECT_EQ(push(), "ConnectToDriver 0 0 0 0\nConnectToDriver ok\n");
+    EXPECT_NE(mEvents.finishSends(), noErr);
+}
+
+TEST_F(DriverLink, aPushNeverHoldsTheCallerWhileTheDriverHangs)
+{
+    const DriverProcess driver;
+    driver.signal(SIGSTOP);
+    QElapsedTimer timer;
+    timer.start();
+    for (std::int16_t i = 1; i <= 40; ++i) {
+        qvTabletInfo.Pen.Speed = i;
+        push();
+    }
+    // Waiting for each would have taken ten seconds.
+    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_EQ(mEvents.finishSends(), errAETimeout);
+    driver.signal(SIGCONT);
+    while (DriverProcess::ask<uint>("Pushes") < 40) {
+        QThread::msleep(5);
+    }
+    EXPECT_EQ(DriverProcess::ask<QByteArray>("LastRecord").mid(285, 2), bytes(std::int16_t{40}));
+}
+
+TEST_F(DriverLink, aPushHoldsNobodyWhileTheBusItselfHangs)
+{
+    const DriverProcess driver;
+    EXPECT_TRUE(rzkgetQVDevice());
+    ::kill(static_cast<pid_t>(mBus.pid()), SIGSTOP);
+    QElapsedTimer timer;
+    timer.start();
+    for (int i = 0; i < 200; ++i) {
+        push(); // more than a socket takes
+    }
+    EXPECT_LT(timer.elapsed(), 5000);
+    ::kill(static_cast<pid_t>(mBus.pid()), SIGCONT);
+    mEvents.finishSends();
+    while (DriverProcess::ask<uint>("Pushes") < 200) {
+        QThread::msleep(5);
+    }
+}
+
+TEST_F(DriverLink, goesOnAfterTheDriverWasStartedAgain)
+{
+    {
+        DriverProcess driver;
+        EXPECT_TRUE(rzkgetQVDevice());
+        driver.kill();
+    }
+    EXPECT_FALSE(rzkgetQVDevice());
+    const DriverProcess driver;
+    EXPECT_TRUE(rzkgetQVDevice());
+    push();
+    EXPECT_EQ(mEvents.finishSends(), noErr);
+}
+
+TEST_F(DriverLink, goesOnAfterTheBusWasStartedAgain)
+{
+    {
+        const DriverProcess driver;
+        EXPECT_TRUE(rzkgetQVDevice());
+        mBus.stop();
+        EXPECT_FALSE(rzkgetQVDevice());
+    }
+    mBus.start();
+    const DriverProcess driver;
+    EXPECT_TRUE(rzkgetQVDevice());
+}
+
+TEST(DriverActivation, theBusStartsTheDriverOnDemand)
+{
+    const TemporaryHome home;
+    const PrivateBus bus(PrivateBus::Activation::On);
+    DBusAppleEvents events;
+    const ServiceScope<AppleEvents> scope(events);
+    // The first query may time out on a machine that needs longer to start a program.
+    bool found = false;
+    for (int i = 0; i < 20 && !found; ++i) {
+        found = rzkgetQVDevice();
+    }
+    EXPECT_TRUE(found);
+    EXPECT_TRUE(QFile::exists(home.configFile(20737)));
+}
+
+// What arrives ------------------------------------------------------------------------------------
+
+namespace {
+
+class Inbound : public DriverLink {
+protected:
+    void SetUp() override
+    {
+        DriverLink::SetUp();
+        mEvents.acceptEventsFrom(kQVDriverSignature);
+    }
+
+    /** Sends a call to the panel and runs the event loop until its answer is there. */
+    QDBusMessage send(Peer& sender, const QList<QVariant>& arguments)
+    {
+        QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
+            QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
+            QStringLiteral("Send"));
+        call.setArguments(arguments);
+        const QDBusPendingCall pending = sender.connection().asyncCall(call, 5000);
+        while (!pending.isFinished()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        }
+        return pending.reply();
+    }
+
+    static QList<QVariant> event(uint eventClass, uint eventID, const Parameters& list)
+    {
+        return {eventClass, eventID, parameters(list)};
+    }
+};
+
+/** A list within a list within …, so deep; the innermost is empty. */
+TestDesc nestedList(int depth)
+{
+    Descriptors list;
+    if (depth > 1) {
+        list.append(nestedList(depth - 1));
+    }
+    return {fourCharCode("list"), QDBusVariant(QVariant::fromValue(list))};
+}
+
+} // namespace
+
+TEST_F(Inbound, theDriversEventReachesItsHandler)
+{
+    AppleEvent received;
+    mEvents.installEventHandler(
+        kAECoreSuite, kAEGetData, [&](const AppleEvent& event, AppleEvent& reply) {
+            received = event;
+            const std::int32_t answer = 42;
+            return mEvents.putParamPtr(reply, keyDirectObject, typeLongInteger, bytesOf(answer));
+        });
+    Peer driver(mBus, kDriverName);
+    const Descriptors items{{1, QDBusVariant(QByteArray("ab"))}, {2, QDBusVariant(QByteArray())},
+        {3,
+            QDBusVariant(
+                QVariant::fromValue(Parameters{{9, {8, QDBusVariant(QByteArray("x"))}}}))}};
+    const QDBusMessage reply = send(driver,
+        event(kAECoreSuite, kAEGetData,
+            {{keyDirectObject, {fourCharCode("list"), QDBusVariant(QVariant::fromValue(items))}}}));
+    ASSERT_EQ(reply.type(), QDBusMessage::ReplyMessage) << qPrintable(reply.errorMessage());
+    const auto answer = qdbus_cast<Parameters>(reply.arguments().constFirst());
+    ASSERT_EQ(answer.size(), 1);
+    EXPECT_EQ(answer[0].desc.data.variant().toByteArray(), bytes(std::int32_t{42}));
+
+    EXPECT_EQ(*received.address.bytes(), driver.uniqueName().toUtf8());
+    const auto& list = std::get<AEList>(find(received.parameters, keyDirectObject)->data);
+    ASSERT_EQ(list.size(), 3U);
+    EXPECT_EQ(*list[0].bytes(), "ab");
+    EXPECT_EQ(*list[1].bytes(), "");
+    EXPECT_EQ(*std::get<AERecord>(list[2].data).front().desc.bytes(), "x");
+}
+
+TEST_F(Inbound, anEventThatNobodyHandlesIsAnsweredSo)
+{
+    Peer driver(mBus, kDriverName);
+    EXPECT_EQ(send(driver, event(1, 2, {})).errorName(), QString::fromLatin1(kEventNotHandled));
+    mEvents.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
+    EXPECT_EQ(send(driver, event(1, 2, {})).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(mEvents.removeEventHandler(1, 2), noErr);
+    EXPECT_EQ(mEvents.removeEventHandler(1, 2), errAEHandlerNotFound);
+    EXPECT_EQ(send(driver, event(1, 2, {})).errorName(), QString::fromLatin1(kEventNotHandled));
+}
+
+TEST_F(Inbound, installingAgainReplacesTheHandler)
+{
+    int first = 0;
+    int second = 0;
+    mEvents.installEventHandler(1, 2, [&](const AppleEvent&, AppleEvent&) {
+        ++first;
+        return noErr;
+    });
+    mEvents.installEventHandler(1, 2, [&](const AppleEvent&, AppleEvent&) {
+        ++second;
+        return noErr;
+    });
+    Peer driver(mBus, kDriverName);
+    send(driver, event(1, 2, {}));
+    EXPECT_EQ(first, 0);
+    EXPECT_EQ(second, 1);
+}
+
+TEST_F(Inbound, aHandlersErrorAndReasonReachTheSender)
+{
+    mEvents.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent& reply) {
+        reply.parameters = {{keyErrorString, {typeUTF8Text, "too blue"}}};
+        return errAECoercionFail;
+    });
+    Peer driver(mBus, kDriverName);
+    const QDBusMessage reply = send(driver, event(1, 2, {}));
+    EXPECT_EQ(reply.errorName(), QString::fromLatin1(kCoercionFail));
+    EXPECT_EQ(reply.errorMessage(), QStringLiteral("too blue"));
+}
+
+TEST_F(Inbound, aHandlerMayRemoveItself)
+{
+    int count = 0;
+    mEvents.installEventHandler(1, 2, [&](const AppleEvent&, AppleEvent&) {
+        mEvents.removeEventHandler(1, 2);
+        ++count;
+        return noErr;
+    });
+    Peer driver(mBus, kDriverName);
+    send(driver, event(1, 2, {}));
+    send(driver, event(1, 2, {}));
+    EXPECT_EQ(count, 1);
+}
+
+TEST_F(Inbound, aStrangerIsRefusedAndLogged)
+{
+    bool handled = false;
+    mEvents.installEventHandler(1, 2, [&](const AppleEvent&, AppleEvent&) {
+        handled = true;
+        return noErr;
+    });
+    const DriverProcess driver;
+    Peer stranger(mBus);
+    testing::internal::CaptureStderr();
+    const QDBusMessage reply = send(stranger, event(1, 2, {}));
+    const std::string log = testing::internal::GetCapturedStderr();
+    EXPECT_EQ(reply.errorName(), QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
+    EXPECT_FALSE(handled);
+    EXPECT_NE(
+        log.find("refused an event from " + stranger.uniqueName().toStdString()), std::string::npos)
+        << log;
+}
+
+TEST_F(Inbound, everybodyIsRefusedWhileThereIsNoDriver)
+{
+    Peer stranger(mBus);
+    EXPECT_EQ(send(stranger, event(1, 2, {})).errorName(),
+        QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
+}
+
+TEST_F(Inbound, onlyThePresentOwnerOfTheDriversNameIsTaken)
+{
+    mEvents.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
+    Peer first(mBus, kDriverName);
+    EXPECT_EQ(send(first, event(1, 2, {})).type(), QDBusMessage::ReplyMessage);
+    ASSERT_TRUE(first.connection().unregisterService(kDriverName));
+    Peer second(mBus, kDriverName);
+    EXPECT_EQ(send(second, event(1, 2, {})).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(send(first, event(1, 2, {})).errorName(),
+        QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
+}
+
+TEST_F(Inbound, malformedEventsAreRefused)
+{
+    bool handled = false;
+    mEvents.installEventHandler(1, 2, [&](const AppleEvent&, AppleEvent&) {
+        handled = true;
+        return noErr;
+    });
+    Peer driver(mBus, kDriverName);
+    const QList<QList<QVariant>> malformed{
+        {},
+        {1U, 2U},
+        {1U, 2U, QStringLiteral("x")},
+        {1, 2, parameters({})},
+        {1U, 2U, parameters({}), 3U},
+        {1U, 2U, QVariant::fromValue(Descriptors())},
+        event(1, 2, {{3, {4, QDBusVariant(5)}}}),
+        event(1, 2, {{3, {4, QDBusVariant(QStringLiteral("text"))}}}),
+        event(1, 2, {{3, {4, QDBusVariant(QStringList())}}}),
+        event(1, 2, {{3, {4, QDBusVariant(QVariant::fromValue(QDBusVariant(QByteArray())))}}}),
+        event(1, 2, {{3, nestedList(9)}}),
+        event(1, 2, {{3, nestedList(20)}}),
+    };
+    for (const QList<QVariant>& arguments : malformed) {
+        EXPECT_EQ(send(driver, arguments).errorName(), QString::fromLatin1(kCoercionFail));
+    }
+    EXPECT_FALSE(handled);
+    EXPECT_EQ(send(driver, event(1, 2, {{3, nestedList(8)}})).type(), QDBusMessage::ReplyMessage);
+    EXPECT_TRUE(handled);
+}
+
+TEST_F(Inbound, moreThan4096ItemsAreMalformed)
+{
+    std::size_t count = 0;
+    mEvents.installEventHandler(1, 2, [&](const AppleEvent& event, AppleEvent&) {
+        count = std::get<AEList>(event.parameters.front().desc.data).size();
+        return noErr;
+    });
+    Peer driver(mBus, kDriverName);
+    Descriptors items;
+    for (int i = 0; i < 4096; ++i) {
+        items.append({1, QDBusVariant(QByteArray("123456789012"))});
+    }
+    const auto withItems = [&] {
+        return event(1, 2, {{3, {fourCharCode("list"), QDBusVariant(QVariant::fromValue(items))}}});
+    };
+    EXPECT_EQ(send(driver, withItems()).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(count, 4096U);
+    items.append({1, QDBusVariant(QByteArray())});
+    EXPECT_EQ(send(driver, withItems()).errorName(), QString::fromLatin1(kCoercionFail));
+}
+
+TEST_F(Inbound, otherInterfacesAndMethodsAreUnknown)
+{
+    Peer driver(mBus, kDriverName);
+    QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
+        QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
+        QStringLiteral("Receive"));
+    const QDBusPendingCall pending = driver.connection().asyncCall(call, 5000);
+    while (!pending.isFinished()) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+    EXPECT_EQ(pending.error().type(), QDBusError::UnknownMethod);
+}
+
+// Who is the driver -------------------------------------------------------------------------------
+
+TEST_F(DriverLink, theDriverDoesNotStartWhenAnotherProgramHasItsName)
+{
+    const Peer other(mBus, kDriverName);
+    QProcess driver;
+    driver.start(QStringLiteral(QVTBLT_STAGE_BIN "/tdsg-driver"), QStringList());
+    ASSERT_TRUE(driver.waitForFinished());
+    EXPECT_EQ(driver.exitCode(), 1);
+    EXPECT_EQ(driver.readAllStandardError(),
+        "tdsg-driver: another program has the name org.quorvia.AppleEvents.TdSg\n");
+    EXPECT_TRUE(mHome.configFolder().isEmpty()) << "it must leave the user's files alone";
+}
+
+TEST_F(DriverLink, nobodyTakesTheNameFromTheDriver)
+{
+    const DriverProcess driver;
+    Peer other(mBus);
+    EXPECT_FALSE(other.connection().registerService(kDriverName));
+    EXPECT_TRUE(rzkgetQVDevice());
+}

@@ -1,0 +1,79 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+/**
+ * A session bus of its own, a real dbus-daemon, for as long as it lives. It starts the driver of
+ * this build on demand where that is wished.
+ */
+class PrivateBus {
+public:
+    enum class Activation { Off, On };
+
+    explicit PrivateBus(Activation activation = Activation::Off)
+        : mBefore(qgetenv("DBUS_SESSION_BUS_ADDRESS"))
+    {
+        const QString services = activation == Activation::On
+            ? QStringLiteral("<servicedir>" QVTBLT_STAGE_SERVICES "</servicedir>")
+            : QString();
+        QFile file(mFolder.filePath(QStringLiteral("bus.conf")));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(
+            QStringLiteral("<busconfig><type>session</type><listen>unix:path=%1/bus</listen>%2"
+                           "<policy context=\"default\"><allow send_destination=\"*\"/>"
+                           "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy>"
+                           "<limit name=\"max_replies_per_connection\">50000</limit>"
+                           "</busconfig>")
+                .arg(mFolder.path(), services)
+                .toUtf8());
+        file.close();
+        start();
+        qputenv("DBUS_SESSION_BUS_ADDRESS", mAddress);
+    }
+    ~PrivateBus()
+    {
+        stop();
+        qputenv("DBUS_SESSION_BUS_ADDRESS", mBefore);
+    }
+    PrivateBus(const PrivateBus&) = delete;
+    PrivateBus& operator=(const PrivateBus&) = delete;
+    PrivateBus(PrivateBus&&) = delete;
+    PrivateBus& operator=(PrivateBus&&) = delete;
+
+    /** Everybody on the bus is disconnected; nobody can connect. */
+    void stop()
+    {
+        mDaemon.terminate();
+        mDaemon.waitForFinished();
+    }
+
+    /** A new bus at the same address. */
+    void start()
+    {
+        mDaemon.start(QStringLiteral("dbus-daemon"),
+            {QStringLiteral("--nofork"), QStringLiteral("--nosyslog"),
+                QStringLiteral("--print-address"),
+                QStringLiteral("--config-file=") + mFolder.filePath(QStringLiteral("bus.conf"))});
+        EXPECT_TRUE(mDaemon.waitForReadyRead());
+        // Without the identity of this very daemon, the address is also that of the next one.
+        mAddress = mDaemon.readLine().trimmed().split(',').constFirst();
+        EXPECT_FALSE(mAddress.isEmpty());
+    }
+
+    QString address() const { return QString::fromUtf8(mAddress); }
+
+    /** Process ID of the bus. */
+    qint64 pid() const { return mDaemon.processId(); }
+
+private:
+    QTemporaryDir mFolder;
+    QProcess mDaemon;
+    QByteArray mAddress;
+    QByteArray mBefore;
+};
