@@ -104,8 +104,16 @@ QString Driver::start(std::optional<std::uint16_t> productID)
     }
     const std::uint16_t remembered = state ? state->attached : kQVTabletModels.front().productID;
     mState.attached = 0;
-    const std::uint16_t wanted = productID.value_or(remembered);
-    return wanted == 0 ? QString() : attach(wanted);
+    if (productID) {
+        return *productID == 0 ? QString() : attach(*productID);
+    }
+    if (remembered != 0) {
+        const QString error = attach(remembered);
+        if (!error.isEmpty()) {
+            say(error);
+        }
+    }
+    return {};
 }
 
 QString Driver::attach(std::uint16_t productID)

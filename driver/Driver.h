@@ -27,7 +27,7 @@ public:
      *
      * @param productID the model to attach, 0 for none; by default the one that was attached, and
      *     the first of the table when there never was any
-     * @return why the model could not be attached; empty on success
+     * @return why the model of the parameter could not be attached; empty on success
      */
     QString start(std::optional<std::uint16_t> productID);
 

@@ -1,0 +1,191 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""The command line, against the real driver."""
+
+import json
+import plistlib
+import re
+import resource
+import signal
+import subprocess
+import unittest
+
+import session
+
+
+class Ctl(session.Session):
+    def assert_result(self, result, code, stdout="", stderr=""):
+        self.assertEqual(result.returncode, code, result)
+        self.assertIn(stdout, result.stdout)
+        self.assertIn(stderr, result.stderr)
+
+    def test_help_and_version(self):
+        for option in ("--help", "-h"):
+            self.assert_result(self.ctl(option), 0, "Usage: qvtbltctl COMMAND")
+        self.assert_result(self.ctl("show", "--help"), 0, "Usage: qvtbltctl COMMAND")
+        self.assertRegex(self.ctl("--version").stdout, r"^qvtbltctl \d+\.\d+\.\d+\n$")
+
+    def test_help_and_manual_page_name_the_same_commands(self):
+        manual = (session.SOURCE / "cli/qvtbltctl.1").read_text()
+        for command in re.findall(r"^  (\w+) ", self.ctl("--help").stdout, re.MULTILINE):
+            self.assertIn(f"qvtbltctl {command}", manual)
+
+    def test_manual_page_is_well_formed(self):
+        result = subprocess.run(
+            ["man", "--warnings", "-E", "UTF-8", "-l", "-Tutf8", "-Z",
+             session.SOURCE / "cli/qvtbltctl.1"], capture_output=True, text=True)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+
+    def test_misuse_is_told_with_exit_code_2(self):
+        for words in ([], ["what"], ["status", "x"], ["check"], ["set", "Pen/Speed"], ["--what"],
+                      ["--json", "status"], ["show", "a", "b"], ["push", "now"]):
+            with self.subTest(words):
+                self.assert_result(self.ctl(*words), 2, "", "Try 'qvtbltctl --help'.")
+
+    def test_status_of_every_state(self):
+        self.assert_result(self.ctl("status"), 1, "driver  does not answer\ntablet  unknown\n")
+        driver = self.start_driver()
+        self.assert_result(
+            self.ctl("status"), 0,
+            f"driver  running\ntablet  Quorvia Draft S (product 20737)\nfile    {self.config()}\n")
+        self.config().write_text("broken")
+        self.assert_result(self.ctl("status"), 1, "tablet  attached\nfile    cannot use ")
+        self.config().unlink()
+        self.assert_result(self.ctl("status"), 1, "No such file or directory")
+        self.simulator("Detach")
+        self.assert_result(self.ctl("status"), 1, "driver  running\ntablet  none attached\n")
+        self.stop_driver(driver)
+
+    def test_status_without_a_bus(self):
+        self.env["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/nowhere"
+        self.assert_result(self.ctl("status"), 1, "driver  does not answer\n")
+
+    def test_show_prints_a_files_record(self):
+        self.stop_driver(self.start_driver())
+        result = self.ctl("show", self.config())
+        self.assert_result(result, 0, "Tablet/TabletXmax         20320\n")
+        self.assertEqual(len(result.stdout.splitlines()), 102)
+        shown = json.loads(self.ctl("show", "--json", self.config()).stdout)
+        self.assertEqual(shown, plistlib.loads(self.config().read_bytes()))
+
+    def test_show_prints_what_the_driver_got_last(self):
+        self.assert_result(self.ctl("show"), 1, "", "does not tell what it got")
+        self.start_driver()
+        self.assert_result(self.ctl("show"), 1, "", "has not got a record yet")
+        self.ctl("set", "Monitor/cTabletXmax", "40000")
+        self.assert_result(self.ctl("show"), 0, "Monitor/cTabletXmax       40000\n")
+        self.assertEqual(json.loads(self.ctl("show", "--json").stdout)["Monitor"]["cTabletXmax"],
+                         40000)
+
+    def test_show_says_why_a_file_cannot_be_used(self):
+        self.assert_result(self.ctl("show", "/nowhere.plist"), 1, "", "No such file")
+        self.assert_result(self.ctl("show", "/"), 1, "", "no regular file")
+
+    def test_check_looks_at_every_entry(self):
+        self.stop_driver(self.start_driver())
+        self.assert_result(self.ctl("check", self.config()), 0, "102 of 102 entries are usable")
+        config = plistlib.loads(self.config().read_bytes())
+        config["Pen"]["Speed"] = "fast"
+        config["Monitor"]["num"] = 70000
+        config["Monitor"]["XOrg"] = 1.5
+        config["Key"]["Key0"]["App"] = "/opt/caf\u00e9"
+        config["Key"]["Key1"]["App"] = "x" * 256
+        config["Key"]["Key2"]["Colour"] = "blue"
+        del config["Key"]["penKeyL"]
+        config["Future"] = {}
+        self.config().write_bytes(plistlib.dumps(config))
+        before = self.config().read_bytes()
+        result = self.ctl("check", self.config())
+        self.assertEqual(result.returncode, 1)
+        for line in ("wrong     Pen/Speed: a string where a number belongs",
+                     "truncated Monitor/num: only 4464 of the number fits",
+                     "truncated Monitor/XOrg: only 1 of the number fits",
+                     "wrong     Key/Key0/App: longer than 255 characters, or not ASCII",
+                     "wrong     Key/Key1/App: longer than 255 characters, or not ASCII",
+                     "missing   Key/penKeyL/Valid",
+                     "unknown   Future",
+                     "unknown   Key/Key2/Colour",
+                     "ok        Tablet/ProductID: 20737",
+                     "93 of 102 entries are usable, 2 unknown ones are kept"):
+            self.assertIn(line + "\n", result.stdout)
+        self.assertEqual(self.config().read_bytes(), before)
+
+    def test_check_says_when_a_file_is_no_configuration(self):
+        path = self.home / "x.plist"
+        path.write_text("<plist><dict>")
+        self.assert_result(self.ctl("check", path), 1, "unusable  cannot use ")
+        self.assert_result(self.ctl("check", self.home), 1, "no regular file")
+
+    def test_push_sends_the_files_record(self):
+        self.assert_result(self.ctl("push"), 1, "", "the driver does not answer")
+        self.start_driver()
+        self.assert_result(self.ctl("push"), 0, "pushed the settings of Quorvia Draft S",
+                           "ConnectToDriver 0 0 0 0\nConnectToDriver ok\n")
+        self.assertEqual(self.simulator("Pushes"), ["u", "1"])
+        self.assertEqual(self.record()[0:4], bytes([0x3D, 0x6F, 0x01, 0x51]))
+        self.simulator("Detach")
+        self.assert_result(self.ctl("push"), 1, "", "no tablet is attached")
+
+    def test_push_tells_when_the_driver_did_not_take_it(self):
+        self.start_driver()
+        self.simulator("Stall", "u", "200")
+        # The query is in time; the push, behind the next one's sleep, is too.
+        self.assert_result(self.ctl("push"), 0)
+        self.config().unlink()
+        self.assert_result(self.ctl("push"), 1, "", "No such file")
+
+    def test_set_reaches_the_driver_and_the_file(self):
+        self.start_driver()
+        before = plistlib.loads(self.config().read_bytes())
+        self.assert_result(self.ctl("set", "Pen/PressureThreshold", "-5"), 0,
+                           "set Pen/PressureThreshold to -5\n")
+        self.assertEqual(self.record()[283:285], b"\xfb\xff")
+        before["Pen"]["PressureThreshold"] = -5
+        self.assertEqual(plistlib.loads(self.config().read_bytes()), before)
+        self.assert_result(self.ctl("set", "Key/penKeyU/Key", "0x03063836"), 0)
+        self.assertEqual(
+            plistlib.loads(self.config().read_bytes())["Key"]["penKeyU"]["Key"], 0x03063836)
+        self.assert_result(self.ctl("set", "Key/Key0/App", "--", "-h"), 0)
+        self.assertEqual(plistlib.loads(self.config().read_bytes())["Key"]["Key0"]["App"], "-h")
+
+    def test_set_refuses_what_is_no_setting_or_does_not_fit(self):
+        self.start_driver()
+        before = self.config().read_bytes()
+        for entry, value, why in (
+                ("Pen/Speeed", "5", "there is no entry Pen/Speeed"),
+                ("Tablet/KeyNum", "5", "belongs to the tablet"),
+                ("Pen/Speed", "fast", "'fast' is no number"),
+                ("Pen/Speed", "70000", "70000 does not fit"),
+                ("Pen/Speed", "-32769", "-32769 does not fit"),
+                ("Key/Key0/Key", "4294967296", "does not fit"),
+                ("Key/Key0/App", "caf\u00e9", "must be ASCII"),
+                ("Key/Key0/App", "x" * 256, "must be ASCII and at most 255")):
+            with self.subTest(entry=entry, value=value[:20]):
+                self.assert_result(self.ctl("set", entry, value), 2, "", why)
+        self.assertEqual(self.config().read_bytes(), before)
+        self.assertEqual(self.simulator("Pushes"), ["u", "0"])
+
+    def test_set_tells_when_the_file_cannot_be_written(self):
+        self.start_driver()
+        before = self.config().read_bytes()
+
+        def forbid_long_files():
+            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+            resource.setrlimit(resource.RLIMIT_FSIZE, (1000, 1000))
+
+        result = self.run_program(session.BIN / "qvtbltctl", "set", "Pen/Speed", "5",
+                                  preexec_fn=forbid_long_files)
+        self.assert_result(result, 1, "", f"cannot write {self.config()}: File too large")
+        self.assertEqual(self.config().read_bytes(), before)
+        self.assertEqual(list(self.config().parent.iterdir()), [self.config()])
+
+
+class CtlStartsTheDriver(session.Session):
+    ACTIVATION = True
+
+    def test_status_finds_a_driver_that_the_bus_has_to_start(self):
+        session.wait_for(lambda: self.ctl("status").returncode == 0, "the driver")
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,157 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""The panel in its own window, as a person uses it: mouse, real X server, real driver, real file."""
+
+import plistlib
+import signal
+import subprocess
+import unittest
+
+import desktop
+import session
+
+TITLE = "Quorvia Tablet"
+
+
+class Window(desktop.Desktop):
+    def start_panel(self):
+        panel = self.start([session.BIN / "qvtblt"], stderr=subprocess.PIPE)
+        self.find("qvtblt", "Left scroll strip", "check box")
+        return panel
+
+    def file_strips(self):
+        keys = plistlib.loads(self.config().read_bytes())["Key"]
+        return keys["Scrollbar0"], keys["Scrollbar1"]
+
+    def driver_strips(self):
+        record = self.record()
+        return (int.from_bytes(record[5071:5073], "little", signed=True),
+                int.from_bytes(record[5073:5075], "little", signed=True))
+
+    def click_strip(self, name="Left scroll strip"):
+        """Clicks a check box and waits until the driver has the push."""
+        before = int(self.simulator("Pushes")[1])
+        self.click(self.find("qvtblt", name, "check box"), 8)
+        session.wait_for(lambda: int(self.simulator("Pushes")[1]) > before, "the push", 5)
+
+    def test_an_edit_travels_to_the_driver_and_with_save_into_the_file(self):
+        self.start_driver()
+        self.start_panel()
+        self.assertEqual(self.file_strips(), (0, 0))
+        self.click_strip()
+        self.assertEqual(self.driver_strips(), (1, 0))
+        self.assertEqual(self.file_strips(), (0, 0))
+        self.click(self.find("qvtblt", "Save", "push button"))
+        session.wait_for(lambda: self.file_strips() == (1, 0), "the file")
+
+    def test_cancel_takes_the_edit_back_from_the_driver(self):
+        self.start_driver()
+        self.start_panel()
+        self.click_strip()
+        self.assertEqual(self.driver_strips(), (1, 0))
+        self.click(self.find("qvtblt", "Cancel", "push button"))
+        session.wait_for(lambda: self.driver_strips() == (0, 0), "the driver")
+        # The box keeps the choice until the panel is shown again.
+        self.assertFalse(self.find("qvtblt", "Left scroll strip")["checked"])
+
+    def test_an_edit_works_by_keyboard_alone(self):
+        self.start_driver()
+        self.start_panel()
+        before = int(self.simulator("Pushes")[1])
+        self.xdotool("search", "--sync", "--onlyvisible", "--name", TITLE, "windowactivate",
+                     "--sync", "key", "alt+r")
+        session.wait_for(lambda: int(self.simulator("Pushes")[1]) > before, "the push")
+        self.assertEqual(self.driver_strips(), (0, 1))
+        self.xdotool("key", "alt+v")
+        session.wait_for(lambda: self.file_strips() == (0, 1), "the file")
+
+    def test_closing_the_window_saves(self):
+        self.start_driver()
+        panel = self.start_panel()
+        self.click_strip()
+        self.close_window(TITLE)
+        self.assertEqual(panel.wait(timeout=20), 0)
+        self.assertEqual(self.file_strips(), (1, 0))
+
+    def test_being_told_to_end_saves(self):
+        self.start_driver()
+        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+            with self.subTest(number):
+                panel = self.start_panel()
+                before = self.file_strips()
+                self.click_strip()
+                self.assertEqual(self.file_strips(), before)
+                panel.send_signal(number)
+                self.assertEqual(panel.wait(timeout=20), 0)
+                self.assertEqual(self.file_strips(), (1 - before[0], 0))
+
+    def test_without_a_tablet_there_is_only_the_label(self):
+        self.start_driver("--attach", "none")
+        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.find("qvtblt", "No tablet was found", "label")
+        for thing in self.things("qvtblt"):
+            if thing["role"] in ("check box", "push button", "page tab", "combo box"):
+                self.assertFalse(thing["showing"], thing)
+
+    def test_the_panel_goes_on_when_the_driver_dies(self):
+        driver = self.start_driver()
+        panel = self.start_panel()
+        self.stop_driver(driver, signal.SIGKILL)
+        self.click(self.find("qvtblt", "Left scroll strip", "check box"), 8)
+        self.click(self.find("qvtblt", "Save", "push button"))
+        session.wait_for(lambda: self.file_strips() == (1, 0), "the file")
+        self.close_window(TITLE)
+        self.assertEqual(panel.wait(timeout=20), 0)
+
+
+class WithoutDisplay(session.Session):
+    def panel(self, *arguments):
+        return self.run_program(session.BIN / "qvtblt", *arguments)
+
+    def test_help_and_version(self):
+        self.assertIn("--render <DIR>", self.panel("--help").stdout)
+        self.assertRegex(self.panel("--version").stdout, r"^qvtblt \d+\.\d+\.\d+\n$")
+
+    def test_says_that_there_is_no_display(self):
+        result = self.panel()
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("there is no display", result.stderr)
+
+    def test_renders_each_page_with_and_without_a_tablet_and_saves_nothing(self):
+        self.start_driver()
+        before = self.config().read_bytes()
+        folder = self.home / "new/pages"
+        result = self.panel("--render", folder)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        names = sorted(path.name for path in folder.iterdir())
+        self.assertIn("keyPage.png", names)
+        self.assertIn("displayPage.png", names)
+        self.assertIn("noDevice.png", names)
+        self.assertEqual(sorted(result.stdout.split()), [str(folder / name) for name in names])
+        for name in names:
+            self.assertEqual((folder / name).read_bytes()[:4], b"\x89PNG")
+        self.assertEqual(self.config().read_bytes(), before)
+        self.assertEqual(self.simulator("Pushes"), ["u", "0"])
+
+    def test_renders_without_a_driver_what_there_is_to_see(self):
+        result = self.panel("--render", self.home)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.assertEqual(result.stdout, f"{self.home}/noDevice.png\n")
+
+    def test_says_when_it_cannot_write_the_pictures(self):
+        for folder in ("/proc/none", "/dev/null"):
+            result = self.panel("--render", folder)
+            self.assertEqual(result.returncode, 1)
+            self.assertIn("qvtblt: cannot", result.stderr)
+
+    def test_says_when_the_module_is_missing(self):
+        copy = self.folder / "qvtblt"
+        copy.write_bytes((session.BIN / "qvtblt").read_bytes())
+        copy.chmod(0o755)
+        result = self.run_program(copy, "--render", self.home)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("qvtblt: cannot load the panel", result.stderr)
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,62 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""Prints what an application tells screen readers, as JSON: one object for each accessible thing.
+
+A process of its own, since the library can speak to one session in its life.
+
+Usage: accessible.py APPLICATION
+"""
+
+import json
+import sys
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi, GLib  # noqa: E402
+
+
+def describe(thing, path, found):
+    """Adds the thing and all below it."""
+    try:
+        states = thing.get_state_set()
+        component = thing.get_component_iface()
+        extents = component.get_extents(Atspi.CoordType.SCREEN) if component else None
+        value = thing.get_value_iface()
+        found.append({
+            "name": thing.get_name(),
+            "role": thing.get_role_name(),
+            "description": thing.get_description(),
+            "path": path,
+            "showing": states.contains(Atspi.StateType.SHOWING),
+            "enabled": states.contains(Atspi.StateType.ENABLED),
+            "focusable": states.contains(Atspi.StateType.FOCUSABLE),
+            "focused": states.contains(Atspi.StateType.FOCUSED),
+            "checked": states.contains(Atspi.StateType.CHECKED),
+            "value": value.get_current_value() if value else None,
+            "x": extents.x if extents else 0,
+            "y": extents.y if extents else 0,
+            "width": extents.width if extents else 0,
+            "height": extents.height if extents else 0,
+        })
+        for i in range(thing.get_child_count()):
+            child = thing.get_child_at_index(i)
+            if child is not None:
+                describe(child, path + [i], found)
+    except GLib.Error:
+        pass  # the thing went away while it was looked at
+
+
+def main():
+    Atspi.init()
+    found = []
+    desktop = Atspi.get_desktop(0)
+    for i in range(desktop.get_child_count()):
+        application = desktop.get_child_at_index(i)
+        if application is not None and application.get_name() == sys.argv[1]:
+            describe(application, [i], found)
+    json.dump(found, sys.stdout)
+
+
+if __name__ == "__main__":
+    main()

@@ -1,0 +1,74 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""A session with a screen: an X server without hardware, a window manager, and the accessibility
+bus, through which a test finds what a person sees."""
+
+import json
+import os
+import pathlib
+import subprocess
+
+import session
+
+
+class Desktop(session.Session):
+    SCREEN = "1280x900x24"
+
+    def setUp(self):
+        super().setUp()
+        read, write = os.pipe()
+        self.start(["Xvfb", "-displayfd", write, "-screen", "0", self.SCREEN, "-nolisten", "tcp"],
+                   pass_fds=(write,), stderr=subprocess.DEVNULL)
+        os.close(write)
+        with os.fdopen(read) as pipe:
+            self.env["DISPLAY"] = ":" + pipe.readline().strip()
+        self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        quiet = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+        self.start(["openbox"], **quiet)
+        session.wait_for(
+            lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.run_program(
+                "xprop", "-root", "_NET_SUPPORTING_WM_CHECK").stdout, "the window manager")
+        self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"], **quiet)
+        session.wait_for(
+            lambda: self.run_program("busctl", "--user", "status", "org.a11y.Bus").returncode == 0,
+            "the accessibility bus")
+
+    def things(self, application):
+        """All that the application shows to screen readers."""
+        script = pathlib.Path(__file__).with_name("accessible.py")
+        result = self.run_program("/usr/bin/python3", "-B", script, application)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        return json.loads(result.stdout)
+
+    def find(self, application, name, role=None, showing=True):
+        """Waits for the thing with that name; gives its properties."""
+        def look():
+            for thing in self.things(application):
+                if thing["name"] == name and role in (None, thing["role"]) \
+                        and thing["showing"] == showing:
+                    return thing
+            return None
+        return session.wait_for(look, f"{role or 'thing'} '{name}' of {application}")
+
+    def xdotool(self, *words):
+        result = self.run_program("xdotool", *words)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        return result.stdout.strip()
+
+    def click(self, thing, x=None):
+        """Presses and releases the mouse on a thing, in its middle or x points from its left."""
+        across = thing["width"] // 2 if x is None else x
+        self.xdotool("mousemove", thing["x"] + across, thing["y"] + thing["height"] // 2,
+                     "click", 1)
+
+    def close_window(self, title):
+        """Asks the window to close, as its close button does."""
+        window = session.wait_for(
+            lambda: self.run_program("xdotool", "search", "--onlyvisible", "--name",
+                                     title).stdout.split(), f"the window '{title}'")[0]
+        self.xdotool("windowactivate", "--sync", window, "key", "alt+F4")
+
+    def screenshot(self, path):
+        """Writes a picture of the whole screen."""
+        result = self.run_program("import", "-window", "root", path)
+        self.assertEqual(result.returncode, 0, result.stderr)

@@ -1,0 +1,123 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""A session for tests of whole programs: a private bus, a fresh home, the programs of the build."""
+
+import os
+import pathlib
+import shutil
+import signal
+import subprocess
+import tempfile
+import time
+import unittest
+
+BIN = pathlib.Path(os.environ["QVTBLT_STAGE_BIN"])
+SERVICES = pathlib.Path(os.environ["QVTBLT_STAGE_SERVICES"])
+SOURCE = pathlib.Path(__file__).resolve().parent.parent.parent
+
+DRIVER_NAME = "org.quorvia.AppleEvents.TdSg"
+
+BUS_CONFIG = """<busconfig><type>session</type><listen>unix:path={folder}/bus</listen>{services}
+<policy context="default"><allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/>
+</policy><limit name="max_replies_per_connection">50000</limit></busconfig>"""
+
+
+def wait_for(condition, what, seconds=20):
+    """Waits until the condition gives something true, and gives that. For events of other
+    processes that send no word."""
+    end = time.monotonic() + seconds
+    while True:
+        value = condition()
+        if value:
+            return value
+        if time.monotonic() > end:
+            raise AssertionError(f"waited in vain for {what}")
+        time.sleep(0.02)
+
+
+class Session(unittest.TestCase):
+    """Each test has a bus, a home and the environment of a user of its own."""
+
+    ACTIVATION = False
+
+    def setUp(self):
+        self.folder = pathlib.Path(tempfile.mkdtemp(prefix="qvtblt-test-"))
+        self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
+        self.home = self.folder / "home"
+        runtime = self.folder / "runtime"
+        self.home.mkdir()
+        runtime.mkdir(mode=0o700)
+        services = f"<servicedir>{SERVICES}</servicedir>" if self.ACTIVATION else ""
+        config = self.folder / "bus.conf"
+        config.write_text(BUS_CONFIG.format(folder=self.folder, services=services))
+        self.env = {
+            "DBUS_SESSION_BUS_ADDRESS": f"unix:path={self.folder}/bus",
+            "HOME": str(self.home),
+            "LANG": "C.UTF-8",
+            "PATH": f"{BIN}:/usr/local/bin:/usr/bin:/bin",
+            "XDG_RUNTIME_DIR": str(runtime),
+        }
+        for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
+            if name in os.environ:
+                self.env[name] = os.environ[name]
+        bus = self.start(
+            ["dbus-daemon", "--nofork", "--nosyslog", "--print-address", f"--config-file={config}"],
+            stdout=subprocess.PIPE)
+        self.assertTrue(bus.stdout.readline())
+
+    def start(self, command, **options):
+        """Starts a program that is ended with the test, and with it all that it has started."""
+        options.setdefault("text", True)
+        program = subprocess.Popen([str(word) for word in command], env=self.env,
+                                   start_new_session=True, **options)
+        self.addCleanup(self.end, program)
+        return program
+
+    @staticmethod
+    def end(program):
+        try:
+            os.killpg(program.pid, signal.SIGKILL)
+        except ProcessLookupError:
+            pass  # all of them have ended
+        program.communicate()
+
+    def start_driver(self, *arguments):
+        """Starts the driver. Gives the process; what it says is read from its stdout."""
+        driver = self.start([BIN / "tdsg-driver", *arguments], stdout=subprocess.PIPE)
+        driver.said = []
+        while not driver.said or driver.said[-1] != "ready":
+            line = driver.stdout.readline()
+            self.assertTrue(line, f"the driver ended: {driver.said}")
+            driver.said.append(line.rstrip("\n"))
+        return driver
+
+    def stop_driver(self, driver, number=signal.SIGTERM):
+        """Ends the driver with a signal. Gives all that it has said."""
+        driver.send_signal(number)
+        rest, _ = driver.communicate(timeout=20)
+        driver.said += rest.splitlines()
+        return driver.said
+
+    def run_program(self, *command, **options):
+        """Runs a program to its end."""
+        return subprocess.run([str(word) for word in command], env=self.env, text=True,
+                              capture_output=True, timeout=60, **options)
+
+    def ctl(self, *arguments):
+        return self.run_program(BIN / "qvtbltctl", *arguments)
+
+    def simulator(self, method, *arguments):
+        """Calls the simulator with arguments in busctl's form. Gives the words of its answer."""
+        result = self.run_program(
+            "busctl", "--user", "call", DRIVER_NAME, "/org/quorvia/TabletSimulator",
+            "org.quorvia.TabletSimulator1", method, *arguments)
+        self.assertEqual(result.returncode, 0, result.stderr)
+        return result.stdout.split()
+
+    def record(self):
+        """The bytes of the driver's last record."""
+        return bytes(int(byte) for byte in self.simulator("LastRecord")[2:])
+
+    def config(self, number=20737):
+        """Path of a configuration file."""
+        return self.home / "Library/Preferences/QuorviaTablet/config" / f"{number}.plist"
