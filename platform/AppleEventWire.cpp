@@ -117,51 +117,46 @@ Desc toWire(const AEDesc& desc)
 }
 
 // Reading. QtDBus warns and gives zeroes where an argument has another signature than it is read
-// with, so every signature is compared first.
+// with, so every signature is compared first. It leaks what was begun and not ended, so that an
+// argument is read to its end also when it has proved malformed.
 
-std::optional<AEDesc> readDesc(const QDBusArgument& argument, int depth);
+bool readDesc(const QDBusArgument& argument, int depth, AEDesc& desc);
 
-std::optional<AEList> readList(const QDBusArgument& argument, int depth)
+bool readList(const QDBusArgument& argument, int depth, AEList& list)
 {
-    AEList list;
+    bool isGood = true;
     argument.beginArray();
     while (!argument.atEnd()) {
-        std::optional<AEDesc> item = readDesc(argument, depth);
-        if (!item || list.size() == kMaxItems) {
-            return std::nullopt;
+        AEDesc item;
+        isGood = readDesc(argument, depth, item) && isGood && list.size() < kMaxItems;
+        if (isGood) {
+            list.push_back(std::move(item));
         }
-        list.push_back(std::move(*item));
     }
     argument.endArray();
-    return list;
+    return isGood;
 }
 
-std::optional<AERecord> readRecord(const QDBusArgument& argument, int depth)
+bool readRecord(const QDBusArgument& argument, int depth, AERecord& record)
 {
-    AERecord record;
+    bool isGood = true;
     argument.beginArray();
     while (!argument.atEnd()) {
         AEKeyDesc entry;
         argument.beginStructure();
         argument >> entry.keyword;
-        std::optional<AEDesc> desc = readDesc(argument, depth);
-        if (!desc || record.size() == kMaxItems) {
-            return std::nullopt;
-        }
+        isGood = readDesc(argument, depth, entry.desc) && isGood && record.size() < kMaxItems;
         argument.endStructure();
-        entry.desc = std::move(*desc);
-        record.push_back(std::move(entry));
+        if (isGood) {
+            record.push_back(std::move(entry));
+        }
     }
     argument.endArray();
-    return record;
+    return isGood;
 }
 
-std::optional<AEDesc> readDesc(const QDBusArgument& argument, int depth)
+bool readDesc(const QDBusArgument& argument, int depth, AEDesc& desc)
 {
-    if (depth > kMaxDepth) {
-        return std::nullopt;
-    }
-    AEDesc desc;
     QDBusVariant variant;
     argument.beginStructure();
     argument >> desc.type >> variant;
@@ -170,26 +165,19 @@ std::optional<AEDesc> readDesc(const QDBusArgument& argument, int depth)
     const QVariant data = variant.variant();
     if (data.userType() == QMetaType::QByteArray) {
         desc.data = data.toByteArray();
-        return desc;
+        return depth <= kMaxDepth;
     }
-    if (data.userType() != qMetaTypeId<QDBusArgument>()) {
-        return std::nullopt;
+    if (depth > kMaxDepth || data.userType() != qMetaTypeId<QDBusArgument>()) {
+        return false;
     }
     const auto inner = data.value<QDBusArgument>();
     if (inner.currentSignature() == QLatin1String("a(uv)")) {
-        std::optional<AEList> list = readList(inner, depth + 1);
-        if (list) {
-            desc.data = std::move(*list);
-            return desc;
-        }
-    } else if (inner.currentSignature() == QLatin1String("a(u(uv))")) {
-        std::optional<AERecord> record = readRecord(inner, depth + 1);
-        if (record) {
-            desc.data = std::move(*record);
-            return desc;
-        }
+        return readList(inner, depth + 1, desc.data.emplace<AEList>());
     }
-    return std::nullopt;
+    if (inner.currentSignature() == QLatin1String("a(u(uv))")) {
+        return readRecord(inner, depth + 1, desc.data.emplace<AERecord>());
+    }
+    return false;
 }
 
 } // namespace
@@ -227,7 +215,8 @@ std::optional<AERecord> decode(const QVariant& argument)
     if (parameters.currentSignature() != QLatin1String("a(u(uv))")) {
         return std::nullopt;
     }
-    return readRecord(parameters, 1);
+    AERecord record;
+    return readRecord(parameters, 1, record) ? std::optional(std::move(record)) : std::nullopt;
 }
 
 } // namespace platform::wire
