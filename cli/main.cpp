@@ -39,7 +39,7 @@ int run(const QStringList& words, bool asJson)
     if (words.isEmpty()) {
         return usageError(QStringLiteral("a command is missing"));
     }
-    const QString command = words.constFirst();
+    const QString& command = words.constFirst();
     const auto count = words.size() - 1;
     if (asJson && command != QLatin1String("show")) {
         return usageError(QStringLiteral("--json goes with show alone"));

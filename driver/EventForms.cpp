@@ -65,7 +65,7 @@ QString specifierError(const AEDesc& desc)
     if (desc.type != typeObjectSpecifier || entries == nullptr) {
         return QStringLiteral("'----' is no object specifier");
     }
-    const QString error = keywordError("the object specifier", *entries,
+    QString error = keywordError("the object specifier", *entries,
         {keyAEDesiredClass, keyAEKeyForm, keyAEKeyData, keyAEContainer});
     if (!error.isEmpty()) {
         return error;
@@ -84,7 +84,7 @@ QString specifierError(const AEDesc& desc)
 QString queryFormError(const AppleEvent& event)
 {
     const AERecord& entry = event.parameters;
-    const QString error = keywordError("the query", entry, {keyAERequestedType, keyDirectObject});
+    QString error = keywordError("the query", entry, {keyAERequestedType, keyDirectObject});
     if (!error.isEmpty()) {
         return error;
     }
@@ -95,7 +95,7 @@ QString queryFormError(const AppleEvent& event)
 QString settingsFormError(const AppleEvent& event)
 {
     const AERecord& entry = event.parameters;
-    const QString error = keywordError("the settings", entry, {kSettingsData});
+    QString error = keywordError("the settings", entry, {kSettingsData});
     if (!error.isEmpty()) {
         return error;
     }

@@ -24,7 +24,7 @@ public:
 
     explicit TabletSimulator(Driver& driver);
 
-public Q_SLOTS:
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     /** The models that can be attached. */
     ModelNames Models() const;
     /** Attaches a model in place of any other; an error for an unknown product ID. */

@@ -21,9 +21,9 @@ QByteArray toByteArray(std::span<const std::byte> data)
     return {reinterpret_cast<const char*>(data.data()), static_cast<int>(data.size())};
 }
 
-AEKeyDesc codeEntry(AEKeyword keyword, DescType type, FourCharCode code)
+AEKeyDesc codeEntry(AEKeyword keyword, DescType type, FourCharCode value)
 {
-    return {keyword, {type, toByteArray(bytesOf(code))}};
+    return {keyword, {type, toByteArray(bytesOf(value))}};
 }
 
 } // namespace
@@ -62,6 +62,7 @@ OSErr AppleEvents::createObjSpecifier(
 {
     AERecord entries;
     entries.push_back(codeEntry(keyAEDesiredClass, typeType, desiredClass));
+    // NOLINTNEXTLINE(readability-suspicious-call-argument): the names are the interface's
     entries.push_back(codeEntry(keyAEKeyForm, typeEnumerated, keyForm));
     entries.push_back({keyAEKeyData, std::move(keyData)});
     entries.push_back({keyAEContainer, std::move(container)});

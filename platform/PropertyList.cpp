@@ -19,6 +19,7 @@
 #include <limits>
 #include <sys/stat.h>
 #include <system_error>
+#include <type_traits>
 #include <unistd.h>
 #include <utility>
 
@@ -45,12 +46,12 @@ public:
 private:
     static locale_t plain()
     {
-        struct Owner {
-            locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
-            ~Owner() { freelocale(locale); }
+        struct Free {
+            void operator()(locale_t locale) const { freelocale(locale); }
         };
-        static const Owner owner;
-        return owner.locale;
+        static const std::unique_ptr<std::remove_pointer_t<locale_t>, Free> locale(
+            newlocale(LC_ALL_MASK, "C", nullptr));
+        return locale.get();
     }
 
     locale_t mBefore;
@@ -309,9 +310,9 @@ std::vector<std::string> Dictionary::keys() const
             break;
         }
         keys.emplace_back(key);
-        std::free(key); // NOLINT(cppcoreguidelines-no-malloc): libplist hands out malloc's memory
+        std::free(key); // NOLINT(*-no-malloc): libplist hands out malloc's memory
     }
-    std::free(iterator); // NOLINT(cppcoreguidelines-no-malloc): as above
+    std::free(iterator); // NOLINT(*-no-malloc): as above
     return keys;
 }
 

@@ -43,14 +43,15 @@ public:
         for (;;) {
             const std::size_t tag = mText.find('<', mPos);
             if (mRootEnded
-                && mText.substr(mPos, tag - mPos).find_first_not_of(kBlank) != mText.npos) {
+                && mText.substr(mPos, tag - mPos).find_first_not_of(kBlank)
+                    != std::string_view::npos) {
                 return "text after the end of the list";
             }
-            if (tag == mText.npos) {
+            if (tag == std::string_view::npos) {
                 return mRootEnded ? std::string() : "the list does not end";
             }
             mPos = tag;
-            const std::string why = markup();
+            std::string why = markup();
             if (!why.empty()) {
                 return why;
             }
@@ -67,7 +68,7 @@ private:
     std::string skip(std::string_view begin, std::string_view end)
     {
         const std::size_t found = mText.find(end, mPos + begin.size());
-        if (found == mText.npos) {
+        if (found == std::string_view::npos) {
             return "a '" + std::string(end) + "' is missing";
         }
         mPos = found + end.size();
@@ -84,13 +85,14 @@ private:
             return "a '" + std::string(begin) + "' within the list";
         }
         const std::size_t from = mPos;
-        const std::string why = skip(begin, end);
+        std::string why = skip(begin, end);
         const std::string_view skipped = mText.substr(from, mPos - from);
         if (std::ranges::count(skipped, '"') % 2 != 0) {
             return "an end within quotes";
         }
         // Without definitions of its own, a document type can hide no tags.
-        return skipped.find('[') != skipped.npos ? "a document type with definitions" : why;
+        return skipped.find('[') != std::string_view::npos ? "a document type with definitions"
+                                                           : why;
     }
 
     std::string markup()
@@ -116,7 +118,7 @@ private:
     std::string tag()
     {
         const std::size_t end = mText.find('>', mPos);
-        if (end == mText.npos) {
+        if (end == std::string_view::npos) {
             return "a '>' is missing";
         }
         std::string_view inside = mText.substr(mPos + 1, end - mPos - 1);
@@ -134,7 +136,7 @@ private:
             return mRootEnded ? std::string() : "the list ends too early";
         }
         // Only <plist> has attributes. Elsewhere one could hold a '<' or a '>' in its quotes.
-        if (inside.find_first_not_of(kBlank, name.size()) != inside.npos
+        if (inside.find_first_not_of(kBlank, name.size()) != std::string_view::npos
             || std::ranges::find(kNames, name) == kNames.end()) {
             return "unknown tag <" + std::string(inside.substr(0, 32)) + ">";
         }
@@ -175,7 +177,8 @@ private:
         text = text.substr(0, text.find_last_not_of(kBlank) + 1);
         const std::string shown = "'" + std::string(text.substr(0, 32)) + "'";
         const bool isClosed = isEmpty
-            || (end != mText.npos && mText.substr(end).starts_with("</" + std::string(name)));
+            || (end != std::string_view::npos
+                && mText.substr(end).starts_with("</" + std::string(name)));
         if (!isClosed) {
             return shown + " is interrupted";
         }
@@ -327,7 +330,7 @@ private:
         }
         if (object.expanded == 0) {
             object.open = true;
-            const std::string why = measure(object, index, depth);
+            std::string why = measure(object, index, depth);
             object.open = false;
             if (!why.empty()) {
                 return why;
@@ -363,7 +366,7 @@ private:
                 if (part >= mObjects.size()) {
                     return "a container refers to an object that is not there";
                 }
-                const std::string why = visit(part, depth + 1);
+                std::string why = visit(part, depth + 1);
                 if (!why.empty()) {
                     return why;
                 }

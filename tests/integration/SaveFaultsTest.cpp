@@ -104,7 +104,8 @@ TEST_F(SaveFaults, aKillAtAnyMomentLeavesTheOldOrTheNewFileWhole)
     save();
     int advanced = 0;
     std::int16_t last = 0;
-    for (int round = 0; round < 400; ++round) {
+    // At least so many rounds, and more where the machine is so slow that few saves get through.
+    for (int round = 0; round < 400 || (advanced < 50 && round < 4000); ++round) {
         const pid_t child = ::fork();
         ASSERT_GE(child, 0);
         if (child == 0) {
@@ -126,7 +127,7 @@ TEST_F(SaveFaults, aKillAtAnyMomentLeavesTheOldOrTheNewFileWhole)
         last = found;
     }
     // Else the kills would all have come before the first save, and the test would show nothing.
-    EXPECT_GT(advanced, 50);
+    EXPECT_GE(advanced, 50);
 }
 
 TEST_F(SaveFaults, aFullDiskLeavesTheOldFileAndNothingElse)
