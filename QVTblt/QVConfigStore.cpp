@@ -62,11 +62,12 @@ void writeEntries(const platform::Dictionary& dictionary, const char* name,
 /** The dictionary under a key; logs anything else that stands there. */
 platform::Dictionary dictionaryIn(const platform::Dictionary& parent, const char* key)
 {
-    const platform::EntryKind kind = parent.kind(key);
-    if (kind != platform::EntryKind::Absent && kind != platform::EntryKind::Dictionary) {
-        qCWarning(lcStore, "skipped %s: %s where a dictionary belongs", key, QVKindName(kind));
+    const platform::Dictionary dictionary = parent.dictionary(key);
+    if (!dictionary.exists() && parent.kind(key) != platform::EntryKind::Absent) {
+        qCWarning(lcStore, "skipped %s: %s where a dictionary belongs", key,
+            QVKindName(parent.kind(key)));
     }
-    return parent.dictionary(key);
+    return dictionary;
 }
 
 /**

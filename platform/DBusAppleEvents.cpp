@@ -204,12 +204,7 @@ private:
     {
         const QString sender = call.service();
         if (!mayDeliver(sender)) {
-            if (!mRefused.contains(sender) && mRefused.size() < kMaxRefused) {
-                mRefused.insert(sender);
-                qCWarning(lcEvents, "refused an event from %s, which is not %s",
-                    qUtf8Printable(sender),
-                    mSource ? qUtf8Printable(wire::busName(*mSource)) : "expected by anyone");
-            }
+            logRefusal(sender, "an event from elsewhere than the driver");
             return call.createErrorReply(QDBusError::AccessDenied,
                 QStringLiteral("only the tablet's driver may send events here"));
         }
@@ -219,7 +214,7 @@ private:
             parameters = wire::decode(arguments[2]);
         }
         if (!parameters) {
-            qCWarning(lcEvents, "refused a malformed event from %s", qUtf8Printable(sender));
+            logRefusal(sender, "a malformed event");
             return errorReply(call, errAECoercionFail, QStringLiteral("the event is malformed"));
         }
         const AppleEvent event{arguments[0].toUInt(), arguments[1].toUInt(),
@@ -242,6 +237,15 @@ private:
                 call, error, why == nullptr ? QString::number(error) : QString::fromUtf8(*why));
         }
         return call.createReply(wire::encode(reply.parameters));
+    }
+
+    /** Logs the first refusal of each sender, so that nobody can flood the log. */
+    void logRefusal(const QString& sender, const char* what)
+    {
+        if (!mRefused.contains(sender) && mRefused.size() < kMaxRefused) {
+            mRefused.insert(sender);
+            qCWarning(lcEvents, "refused %s, from %s", what, qUtf8Printable(sender));
+        }
     }
 
     bool mayDeliver(const QString& sender)

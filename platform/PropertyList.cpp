@@ -160,17 +160,6 @@ std::string writeThrough(QFileDevice& file, const std::string& bytes)
     return ::fsync(file.handle()) == 0 ? std::string() : systemText(errno);
 }
 
-/** Makes a rename in the file's folder survive a power failure; some file systems cannot. */
-void flushFolder(const std::string& path)
-{
-    const std::size_t slash = path.rfind('/');
-    const std::string folder = slash == std::string::npos ? "." : path.substr(0, slash + 1);
-    const Descriptor directory(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-    if (directory.get() >= 0) {
-        ::fsync(directory.get());
-    }
-}
-
 } // namespace
 
 // Number ------------------------------------------------------------------------------------------
@@ -432,7 +421,6 @@ bool PropertyList::save(const std::string& path, PropertyListError& error) const
         error.message = doing("cannot write", path, why);
         return false;
     }
-    flushFolder(path);
     return true;
 }
 
@@ -456,7 +444,6 @@ bool PropertyList::saveNew(const std::string& path, PropertyListError& error) co
         error.message = doing("cannot create", path, why);
         return false;
     }
-    flushFolder(path);
     return true;
 }
 

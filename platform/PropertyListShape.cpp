@@ -8,6 +8,7 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -15,7 +16,6 @@ namespace platform {
 namespace {
 
 constexpr std::string_view kBinaryMagic = "bplist00";
-constexpr std::string_view kBlank = " \t\r\n";
 
 /** Objects that one binary list may expand to; sharing could otherwise make it exponential. */
 constexpr std::uint64_t kMaxObjects = 100'000;
@@ -25,7 +25,42 @@ std::string tooDeep()
     return "containers nest deeper than " + std::to_string(kPropertyListMaxDepth);
 }
 
+/** The beginning of a text in single quotes. */
+std::string shown(std::string_view text)
+{
+    std::string quoted(1, '\'');
+    quoted.append(text.substr(0, 32));
+    quoted += '\'';
+    return quoted;
+}
+
 // The XML form ------------------------------------------------------------------------------------
+
+/** What can stand between the '<' and the '>' of a list's tags, but for <plist>. */
+enum class Tag : std::uint8_t { Container, Number, Real, Date, Text, Unknown };
+
+Tag tagOf(std::string_view name)
+{
+    struct Known {
+        std::string_view name;
+        Tag tag;
+    };
+    constexpr std::array<Known, 10> kKnown{
+        {{"key", Tag::Text}, {"integer", Tag::Number}, {"string", Tag::Text},
+            {"dict", Tag::Container}, {"array", Tag::Container}, {"true", Tag::Text},
+            {"false", Tag::Text}, {"real", Tag::Real}, {"data", Tag::Text}, {"date", Tag::Date}}};
+    for (const Known& known : kKnown) {
+        if (known.name == name) {
+            return known.tag;
+        }
+    }
+    return Tag::Unknown;
+}
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
 
 /**
  * Walks the tags of the XML form. It need not see everything that is wrong, since the parser
@@ -40,158 +75,168 @@ public:
 
     std::string error()
     {
-        for (;;) {
-            const std::size_t tag = mText.find('<', mPos);
-            if (mRootEnded
-                && mText.substr(mPos, tag - mPos).find_first_not_of(kBlank)
-                    != std::string_view::npos) {
-                return "text after the end of the list";
-            }
-            if (tag == std::string_view::npos) {
-                return mRootEnded ? std::string() : "the list does not end";
-            }
-            mPos = tag;
-            std::string why = markup();
-            if (!why.empty()) {
-                return why;
-            }
-        }
+        while (step()) { }
+        return mError;
     }
 
 private:
-    bool startsWith(std::string_view prefix) const
+    /** Notes why the list is refused. @return false, to be passed on */
+    bool refuse(std::string why)
     {
-        return mText.compare(mPos, prefix.size(), prefix) == 0;
+        mError = std::move(why);
+        return false;
     }
 
-    /** Moves behind the next end mark that begins after the opening one. */
-    std::string skip(std::string_view begin, std::string_view end)
+    /** Moves behind the next piece of markup. @return false at the end, or when it is refused */
+    bool step()
     {
-        const std::size_t found = mText.find(end, mPos + begin.size());
-        if (found == std::string_view::npos) {
-            return "a '" + std::string(end) + "' is missing";
+        const std::size_t start = mPos;
+        mPos = std::min(mText.find('<', mPos), mText.size());
+        if (mRootEnded && !std::all_of(mText.begin() + start, mText.begin() + mPos, isBlank)) {
+            return refuse("text after the end of the list");
         }
-        mPos = found + end.size();
-        return {};
-    }
-
-    /**
-     * Skips markup that may hold quoted text. The parser looks for the end outside of the quotes;
-     * where that differs from the first end there is, the list is refused.
-     */
-    std::string skipProlog(std::string_view begin, std::string_view end)
-    {
-        if (mDepth != 0 || mRootEnded) {
-            return "a '" + std::string(begin) + "' within the list";
+        if (mPos == mText.size()) {
+            return mRootEnded ? false : refuse("the list does not end");
         }
-        const std::size_t from = mPos;
-        std::string why = skip(begin, end);
-        const std::string_view skipped = mText.substr(from, mPos - from);
-        if (std::ranges::count(skipped, '"') % 2 != 0) {
-            return "an end within quotes";
+        const char next = mPos + 1 < mText.size() ? mText[mPos + 1] : '\0';
+        if (next != '!' && next != '?' && next != 'p') {
+            return tag();
         }
-        // Without definitions of its own, a document type can hide no tags.
-        return skipped.find('[') != std::string_view::npos ? "a document type with definitions"
-                                                           : why;
-    }
-
-    std::string markup()
-    {
         if (startsWith("<!--")) {
             return skip("<!--", "-->");
         }
         if (startsWith("<![CDATA[")) {
             return skip("<![CDATA[", "]]>");
         }
-        if (startsWith("<?")) {
+        if (next == '?') {
             return skipProlog("<", "?>");
         }
-        if (startsWith("<!")) {
-            return skipProlog("<!", ">");
-        }
-        if (startsWith("<plist")) {
-            return skipProlog("<plist", ">");
-        }
-        return tag();
+        return next == '!' ? skipProlog("<!", ">") : skipProlog("<plist", ">");
     }
 
-    std::string tag()
+    bool startsWith(std::string_view prefix) const
     {
-        const std::size_t end = mText.find('>', mPos);
-        if (end == std::string_view::npos) {
-            return "a '>' is missing";
+        return mText.substr(mPos).starts_with(prefix);
+    }
+
+    /** Moves behind the next end mark that begins after the opening one. */
+    bool skip(std::string_view begin, std::string_view end)
+    {
+        const std::size_t found = mText.find(end, mPos + begin.size());
+        if (found == std::string_view::npos) {
+            return refuse(shown(end) + " is missing");
         }
-        std::string_view inside = mText.substr(mPos + 1, end - mPos - 1);
+        mPos = found + end.size();
+        return true;
+    }
+
+    /**
+     * Skips markup that may hold quoted text. The parser looks for the end outside of the quotes;
+     * where that differs from the first end there is, the list is refused.
+     */
+    bool skipProlog(std::string_view begin, std::string_view end)
+    {
+        if (!startsWith(begin)) {
+            return refuse("unknown tag " + shown(mText.substr(mPos, 12)));
+        }
+        if (mDepth != 0 || mRootEnded) {
+            return refuse(shown(begin) + " within the list");
+        }
+        const std::size_t from = mPos;
+        if (!skip(begin, end)) {
+            return false;
+        }
+        const std::string_view skipped = mText.substr(from, mPos - from);
+        if (std::ranges::count(skipped, '"') % 2 != 0) {
+            return refuse("an end within quotes");
+        }
+        // Without definitions of its own, a document type can hide no tags.
+        return skipped.find('[') == std::string_view::npos
+            || refuse("a document type with definitions");
+    }
+
+    bool tag()
+    {
+        // A tag is short, so a plain loop finds its end faster than a search would begin.
+        std::size_t end = mPos + 1;
+        while (end < mText.size() && mText[end] != '>') {
+            ++end;
+        }
+        if (end == mText.size()) {
+            return refuse(shown(">") + " is missing");
+        }
+        std::string_view name = mText.substr(mPos + 1, end - mPos - 1);
         mPos = end + 1;
-        const bool closes = inside.starts_with('/');
+        const bool closes = name.starts_with('/');
         if (closes) {
-            inside.remove_prefix(1);
+            name.remove_prefix(1);
         }
-        const bool isEmpty = !closes && inside.ends_with('/');
+        const bool isEmpty = !closes && name.ends_with('/');
         if (isEmpty) {
-            inside.remove_suffix(1);
-        }
-        const std::string_view name = inside.substr(0, inside.find_first_of(kBlank));
-        if (name == "plist") {
-            return mRootEnded ? std::string() : "the list ends too early";
+            name.remove_suffix(1);
         }
         // Only <plist> has attributes. Elsewhere one could hold a '<' or a '>' in its quotes.
-        if (inside.find_first_not_of(kBlank, name.size()) != std::string_view::npos
-            || std::ranges::find(kNames, name) == kNames.end()) {
-            return "unknown tag <" + std::string(inside.substr(0, 32)) + ">";
+        while (!name.empty() && isBlank(name.back())) {
+            name.remove_suffix(1);
+        }
+        if (closes && name == "plist") {
+            return mRootEnded || refuse("the list ends too early");
+        }
+        const Tag tag = tagOf(name);
+        if (tag == Tag::Unknown) {
+            return refuse("unknown tag " + shown(name));
         }
         if (mRootEnded) {
-            return "a second list follows the first";
+            return refuse("a second list follows the first");
         }
-        if (name == "dict" || name == "array") {
+        if (tag == Tag::Container) {
             return container(closes, isEmpty);
         }
-        if (!closes && (name == "integer" || name == "real" || name == "date")) {
-            return scalar(name, isEmpty);
-        }
-        return {};
+        return closes || tag == Tag::Text || scalar(tag, name, isEmpty);
     }
 
-    std::string container(bool closes, bool isEmpty)
+    bool container(bool closes, bool isEmpty)
     {
         if (closes) {
             if (mDepth == 0) {
-                return "a container ends that did not begin";
+                return refuse("a container ends that did not begin");
             }
             --mDepth;
         } else if (mDepth == kPropertyListMaxDepth) {
-            return tooDeep();
+            return refuse(tooDeep());
         } else if (!isEmpty) {
             ++mDepth;
         }
         mRootEnded = mDepth == 0;
-        return {};
+        return true;
     }
 
     /** Checks the text of a number or a date, which the parser would bend into shape. */
-    std::string scalar(std::string_view name, bool isEmpty)
+    bool scalar(Tag tag, std::string_view name, bool isEmpty)
     {
-        const std::size_t end = isEmpty ? mPos : mText.find('<', mPos);
+        const std::size_t end = isEmpty ? mPos : std::min(mText.find('<', mPos), mText.size());
         std::string_view text = mText.substr(mPos, end - mPos);
-        text.remove_prefix(std::min(text.find_first_not_of(kBlank), text.size()));
-        text = text.substr(0, text.find_last_not_of(kBlank) + 1);
-        const std::string shown = "'" + std::string(text.substr(0, 32)) + "'";
-        const bool isClosed = isEmpty
-            || (end != std::string_view::npos
-                && mText.substr(end).starts_with("</" + std::string(name)));
-        if (!isClosed) {
-            return shown + " is interrupted";
+        while (!text.empty() && isBlank(text.front())) {
+            text.remove_prefix(1);
         }
-        if (name == "integer") {
-            return integer(text, shown);
+        while (!text.empty() && isBlank(text.back())) {
+            text.remove_suffix(1);
         }
-        const bool good = name == "real" ? isReal(text) : isDate(text);
-        return good ? std::string() : shown + " is no " + std::string(name);
+        const std::string_view behind = mText.substr(end);
+        if (!isEmpty && !(behind.starts_with("</") && behind.substr(2).starts_with(name))) {
+            return refuse(shown(text) + " is interrupted");
+        }
+        if (tag == Tag::Number) {
+            return integer(text);
+        }
+        return (tag == Tag::Real ? isReal(text) : isDate(text))
+            || refuse(shown(text) + " is no " + std::string(name));
     }
 
     /** The parser saturates what is too big and takes a leading zero for base eight. */
-    static std::string integer(std::string_view text, const std::string& shown)
+    bool integer(std::string_view whole)
     {
+        std::string_view text = whole;
         const bool negative = text.starts_with('-');
         if (negative || text.starts_with('+')) {
             text.remove_prefix(1);
@@ -201,18 +246,18 @@ private:
             base = 16;
             text.remove_prefix(2);
         } else if (text.size() > 1 && text.starts_with('0')) {
-            return "integer " + shown + " has a leading zero";
+            return refuse("integer " + shown(whole) + " has a leading zero");
         }
         std::uint64_t value = 0;
         const auto [rest, status] = std::from_chars(text.begin(), text.end(), value, base);
         if (status == std::errc::invalid_argument || rest != text.end()) {
-            return shown + " is no integer";
+            return refuse(shown(whole) + " is no integer");
         }
         constexpr std::uint64_t kLargestNegative = std::uint64_t{1} << 63U;
         if (status == std::errc::result_out_of_range || (negative && value > kLargestNegative)) {
-            return "integer " + shown + " does not fit into 64 bits";
+            return refuse("integer " + shown(whole) + " does not fit into 64 bits");
         }
-        return {};
+        return true;
     }
 
     static bool isReal(std::string_view text)
@@ -233,13 +278,11 @@ private:
             [](char c, char form) { return form == '0' ? c >= '0' && c <= '9' : c == form; });
     }
 
-    static constexpr std::array<std::string_view, 10> kNames{
-        "dict", "key", "integer", "string", "true", "false", "array", "real", "data", "date"};
-
     std::string_view mText;
     std::size_t mPos = 0;
     int mDepth = 0;
     bool mRootEnded = false;
+    std::string mError;
 };
 
 // The binary form ---------------------------------------------------------------------------------

@@ -4,11 +4,12 @@
 
 #include "PaneLoader.h"
 
-#include <KPluginFactory>
 #include <QDir>
 #include <QFileInfo>
 #include <QLabel>
 #include <QVBoxLayout>
+
+#include <KPluginFactory>
 
 #include <dlfcn.h>
 
@@ -19,7 +20,7 @@ namespace {
 /** The folder of the file that this code was loaded from. */
 QDir ownFolder()
 {
-    Dl_info info {};
+    Dl_info info{};
     if (::dladdr(reinterpret_cast<const void*>(&ownFolder), &info) == 0) {
         return {};
     }
@@ -38,8 +39,8 @@ TabletModule::TabletModule(QWidget* parent, const QVariantList& arguments)
     LoadedPane loaded = loadPane(ownFolder().filePath(QStringLiteral(QVTBLT_MODULE_PATH)),
         QStringLiteral(QVTBLT_RESOURCES_PATH));
     if (!loaded.pane) {
-        auto* const label
-            = new QLabel(tr("The tablet's settings cannot be shown.\n%1").arg(loaded.error));
+        auto* const label =
+            new QLabel(tr("The tablet's settings cannot be shown.\n%1").arg(loaded.error));
         label->setWordWrap(true);
         layout->addWidget(label);
         return;

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+/**
+ * Times a piece of work against its floor, the least that any program would have to do for it, in
+ * turn in the same run, so that a machine that slows down slows both. The counters hold the medians
+ * in microseconds and their ratio.
+ *
+ * @param rest called untimed after each, to let what was set going come to rest
+ */
+template <class Work, class Floor, class Rest>
+void timePaired(benchmark::State& state, const Work& work, const Floor& floor, const Rest& rest)
+{
+    std::vector<double> worked;
+    std::vector<double> floored;
+    const auto time = [&](const auto& piece, std::vector<double>& times) {
+        const auto start = std::chrono::steady_clock::now();
+        piece();
+        const std::chrono::duration<double, std::micro> passed =
+            std::chrono::steady_clock::now() - start;
+        times.push_back(passed.count());
+        rest();
+        return passed.count() * 1e-6;
+    };
+    bool workFirst = false;
+    for ([[maybe_unused]] auto _ : state) {
+        workFirst = !workFirst;
+        if (workFirst) {
+            state.SetIterationTime(time(work, worked));
+            time(floor, floored);
+        } else {
+            time(floor, floored);
+            state.SetIterationTime(time(work, worked));
+        }
+    }
+    const auto median = [](std::vector<double>& times) {
+        const auto middle = times.begin() + static_cast<std::ptrdiff_t>(times.size() / 2);
+        std::nth_element(times.begin(), middle, times.end());
+        return *middle;
+    };
+    const double ours = median(worked);
+    const double least = median(floored);
+    state.counters["us"] = ours;
+    state.counters["floor_us"] = least;
+    state.counters["ratio"] = ours / least;
+}
+
+/** How many turns a pair takes. */
+inline constexpr int kTurns = 2000;

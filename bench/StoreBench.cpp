@@ -1,0 +1,86 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Paired.h"
+#include "QVConfigStore.h"
+#include "SampleConfig.h"
+#include "TemporaryHome.h"
+#include "rzkApplication.h"
+
+#include <benchmark/benchmark.h>
+#include <plist/plist.h>
+
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <string>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace {
+
+/** A full configuration file in a home of its own. */
+struct Files {
+    Files()
+    {
+        std::strcpy(GetPListName(), "7.plist");
+        writeFile(QString::fromStdString(path), sampleConfig());
+        // In the form in which the panel itself writes it.
+        store.ReadQVConfigPlist();
+        store.WriteQVConfigPlist();
+    }
+
+    TemporaryHome home;
+    std::string path = home.configFile(7).toStdString();
+    QVConfigStore store;
+};
+
+/** The file, parsed by libplist alone. */
+plist_t parse(const std::string& path)
+{
+    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    struct stat status { };
+    ::fstat(file, &status);
+    std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
+    benchmark::DoNotOptimize(::read(file, bytes.data(), bytes.size()));
+    ::close(file);
+    plist_t list = nullptr;
+    plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &list);
+    return list;
+}
+
+/** Floor: the file is read and libplist parses it. */
+void load(benchmark::State& state)
+{
+    Files files;
+    timePaired(
+        state, [&] { files.store.ReadQVConfigPlist(); }, [&] { plist_free(parse(files.path)); },
+        [] {});
+}
+BENCHMARK(load)->Iterations(kTurns)->UseManualTime();
+
+/** Floor: libplist parses and serialises the file, which is written, flushed and renamed. */
+void save(benchmark::State& state)
+{
+    Files files;
+    const std::string temporary = files.path + ".new";
+    timePaired(
+        state, [&] { files.store.WriteQVConfigPlist(); },
+        [&] {
+            plist_t const list = parse(files.path);
+            char* xml = nullptr;
+            std::uint32_t length = 0;
+            plist_to_xml(list, &xml, &length);
+            const int file =
+                ::open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0600);
+            benchmark::DoNotOptimize(::write(file, xml, length));
+            ::fsync(file);
+            ::close(file);
+            std::rename(temporary.c_str(), files.path.c_str());
+            plist_to_xml_free(xml);
+            plist_free(list);
+        },
+        [] {});
+}
+BENCHMARK(save)->Iterations(kTurns)->UseManualTime();
+
+} // namespace
