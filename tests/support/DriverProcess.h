@@ -42,7 +42,13 @@ public:
     DriverProcess(DriverProcess&&) = delete;
     DriverProcess& operator=(DriverProcess&&) = delete;
 
-    void signal(int number) const { ::kill(static_cast<pid_t>(mProcess.processId()), number); }
+    void signal(int number) const
+    {
+        // Once it has ended it has no number, and 0 would be the whole group: other tests too.
+        if (mProcess.processId() > 0) {
+            ::kill(static_cast<pid_t>(mProcess.processId()), number);
+        }
+    }
 
     /** Kills it and waits until it is gone. */
     void kill()

@@ -30,7 +30,9 @@ class Desktop(session.Session):
                 "xprop", "-root", "_NET_SUPPORTING_WM_CHECK").stdout, "the window manager")
         self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"], **quiet)
         session.wait_for(
-            lambda: self.run_program("busctl", "--user", "status", "org.a11y.Bus").returncode == 0,
+            lambda: self.run_program(
+                "busctl", "--user", "call", "org.freedesktop.DBus", "/org/freedesktop/DBus",
+                "org.freedesktop.DBus", "NameHasOwner", "s", "org.a11y.Bus").stdout == "b true\n",
             "the accessibility bus")
 
     def things(self, application):
