@@ -15,23 +15,81 @@
 /** The maker's USB vendor ID. */
 inline constexpr std::uint16_t kQVVendorID = 0x6F3D;
 
+/** How the key page is laid out; QVTblt_prefPanePref::InitComboBoxWithKey says what each does. */
+enum class QVKeyLayout : std::uint8_t {
+    A, ///< all eight keys and the left strip; also for every product that is not in the table
+    B, ///< nothing but the pen
+    C, ///< four keys, one report speed
+    D, ///< four keys
+    E, ///< five keys
+    F, ///< seven keys in groups of three, one and three
+    G, ///< two groups of four keys, a strip between them
+    H, ///< no keys at all
+};
+
+/** The picture of the key page: tabletpic1 to tabletpic7, or none. */
+enum class QVPicture : std::uint8_t { None, Pic1, Pic2, Pic3, Pic4, Pic5, Pic6, Pic7 };
+
 /** One model. */
 struct QVTabletModel {
     std::uint16_t productID;
     const char* name; ///< UTF-8; a proper name, never translated
+    QVKeyLayout layout;
+    QVPicture picture;
     std::uint16_t keyNum; ///< express keys
     std::uint16_t scrollNum; ///< scroll strips
+    std::uint16_t penButtons; ///< buttons of the pen that comes with it: 1 or 2
     std::uint16_t tabletXmax; ///< active area from (0, 0), in tablet units
     std::uint16_t tabletYmax;
     std::uint16_t pressureMax; ///< highest pressure value
 };
 
-inline constexpr std::array<QVTabletModel, 4> kQVTabletModels{{
-    {0x5101, "Quorvia Draft S", 4, 0, 20320, 12700, 1023},
-    {0x5102, "Quorvia Draft M", 8, 1, 25400, 15875, 2047},
-    {0x5103, "Quorvia Draft L", 8, 2, 40640, 25400, 2047},
-    {0x5104, "Quorvia Note", 0, 0, 15240, 10160, 1023},
+// clang-format off
+inline constexpr std::array<QVTabletModel, 34> kQVTabletModels {{
+    // Two groups of four keys around a strip
+    {0x5101, "Quorvia Draft S", QVKeyLayout::G, QVPicture::Pic6, 8, 1, 2, 20320, 12700, 1023},
+    {0x5102, "Quorvia Draft M", QVKeyLayout::G, QVPicture::Pic6, 8, 1, 2, 25400, 15875, 2047},
+    {0x5103, "Quorvia Draft L", QVKeyLayout::G, QVPicture::Pic6, 8, 1, 2, 40640, 25400, 2047},
+    {0x5104, "Quorvia Draft XL", QVKeyLayout::G, QVPicture::Pic6, 8, 1, 2, 50800, 31750, 2047},
+    {0x5105, "Quorvia Draft M Touch", QVKeyLayout::G, QVPicture::None, 8, 1, 2, 25400, 15875, 2047},
+    {0x5106, "Quorvia Draft L Touch", QVKeyLayout::G, QVPicture::None, 8, 1, 2, 40640, 25400, 2047},
+    // Four keys, one report speed
+    {0x5107, "Quorvia Sketch 5", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 12700, 7620, 1023},
+    {0x5108, "Quorvia Sketch 6", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 15240, 9525, 1023},
+    {0x5109, "Quorvia Sketch 7", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 17780, 11112, 1023},
+    {0x510A, "Quorvia Sketch 8", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 20320, 12700, 1023},
+    {0x510B, "Quorvia Sketch 9", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 22860, 14287, 1023},
+    {0x510C, "Quorvia Folio 6", QVKeyLayout::C, QVPicture::Pic4, 4, 0, 1, 15240, 9525, 1023},
+    {0x510D, "Quorvia Folio 8", QVKeyLayout::C, QVPicture::Pic4, 4, 0, 1, 20320, 12700, 1023},
+    {0x510E, "Quorvia Folio 10", QVKeyLayout::C, QVPicture::Pic4, 4, 0, 1, 25400, 15875, 1023},
+    {0x510F, "Quorvia Folio 12", QVKeyLayout::C, QVPicture::Pic4, 4, 0, 1, 30480, 19050, 1023},
+    // Four keys
+    {0x5110, "Quorvia Pocket", QVKeyLayout::D, QVPicture::None, 4, 0, 1, 10160, 6350, 1023},
+    {0x5111, "Quorvia Pocket Air", QVKeyLayout::D, QVPicture::None, 4, 0, 1, 10160, 6350, 1023},
+    {0x5112, "Quorvia Pocket Max", QVKeyLayout::D, QVPicture::None, 4, 0, 1, 15240, 9525, 1023},
+    // Five keys
+    {0x5113, "Quorvia Etch M", QVKeyLayout::E, QVPicture::Pic1, 5, 0, 1, 25400, 15875, 2047},
+    {0x5114, "Quorvia Etch L", QVKeyLayout::E, QVPicture::Pic1, 5, 0, 1, 40640, 25400, 2047},
+    // Seven keys; the first comes with a pen of one button
+    {0x5115, "Quorvia Contour Lite", QVKeyLayout::F, QVPicture::Pic2, 7, 0, 1, 25400, 15875, 1023},
+    {0x5116, "Quorvia Contour", QVKeyLayout::F, QVPicture::Pic2, 7, 0, 2, 30480, 19050, 2047},
+    {0x5117, "Quorvia Contour Pro", QVKeyLayout::F, QVPicture::Pic2, 7, 0, 2, 40640, 25400, 8191},
+    // Eight keys and a strip
+    {0x5118, "Quorvia Fresco 13", QVKeyLayout::A, QVPicture::Pic5, 8, 1, 2, 29376, 16524, 8191},
+    {0x5119, "Quorvia Fresco 16", QVKeyLayout::A, QVPicture::Pic5, 8, 1, 2, 34419, 19358, 8191},
+    {0x511A, "Quorvia Fresco 19", QVKeyLayout::A, QVPicture::None, 8, 1, 2, 41000, 25600, 8191},
+    {0x511B, "Quorvia Fresco 22", QVKeyLayout::A, QVPicture::None, 8, 1, 2, 47664, 26811, 8191},
+    {0x511C, "Quorvia Fresco 24", QVKeyLayout::A, QVPicture::None, 8, 1, 2, 52704, 29646, 8191},
+    {0x511D, "Quorvia Fresco 27", QVKeyLayout::A, QVPicture::None, 8, 1, 2, 59674, 33566, 8191},
+    // Nothing but the pen
+    {0x511E, "Quorvia Note A6", QVKeyLayout::B, QVPicture::None, 0, 0, 1, 14800, 10500, 1023},
+    {0x511F, "Quorvia Note A5", QVKeyLayout::B, QVPicture::None, 0, 0, 1, 21000, 14800, 1023},
+    {0x5120, "Quorvia Note A4", QVKeyLayout::B, QVPicture::None, 0, 0, 1, 29700, 21000, 1023},
+    {0x5121, "Quorvia Sign", QVKeyLayout::B, QVPicture::None, 0, 0, 1, 9600, 6000, 511},
+    // No keys at all
+    {0x5122, "Quorvia Slate", QVKeyLayout::H, QVPicture::Pic7, 0, 0, 1, 25400, 15875, 2047},
 }};
+// clang-format on
 
 /** The model with that product ID; null for one that is not ours. */
 constexpr const QVTabletModel* QVFindModel(std::uint16_t productID)

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
 #include <set>
 #include <string>
 
@@ -18,7 +19,6 @@ TEST(QVTabletModels, haveEachTheirOwnProductIDAndName)
         EXPECT_NE(model.productID, 0);
         EXPECT_EQ(QVFindModel(model.productID), &model);
     }
-    EXPECT_GE(kQVTabletModels.size(), 3U);
 }
 
 TEST(QVTabletModels, doNotHoldWhatIsNotOurs)
@@ -35,4 +35,61 @@ TEST(QVTabletModels, haveNoMoreKeysAndStripsThanTheRecord)
         EXPECT_GT(model.tabletXmax, 0) << model.name;
         EXPECT_GT(model.tabletYmax, 0) << model.name;
     }
+}
+
+TEST(QVTabletModels, haveTheirIDsInOneBlock)
+{
+    std::uint16_t expected = 0x5101;
+    for (const QVTabletModel& model : kQVTabletModels) {
+        EXPECT_EQ(model.productID, expected++) << model.name;
+    }
+}
+
+TEST(QVTabletModels, areSoManyOfEachLayout)
+{
+    std::map<QVKeyLayout, int> counts;
+    for (const QVTabletModel& model : kQVTabletModels) {
+        ++counts[model.layout];
+    }
+    EXPECT_GE(counts.at(QVKeyLayout::A), 1);
+    counts.erase(QVKeyLayout::A);
+    const std::map<QVKeyLayout, int> expected{{QVKeyLayout::B, 4}, {QVKeyLayout::C, 9},
+        {QVKeyLayout::D, 3}, {QVKeyLayout::E, 2}, {QVKeyLayout::F, 3}, {QVKeyLayout::G, 6},
+        {QVKeyLayout::H, 1}};
+    EXPECT_EQ(counts, expected);
+}
+
+TEST(QVTabletModels, areSoManyOfEachPictureAndThirteenWithout)
+{
+    std::map<QVPicture, int> counts;
+    for (const QVTabletModel& model : kQVTabletModels) {
+        ++counts[model.picture];
+    }
+    const std::map<QVPicture, int> expected{{QVPicture::None, 13}, {QVPicture::Pic1, 2},
+        {QVPicture::Pic2, 3}, {QVPicture::Pic3, 5}, {QVPicture::Pic4, 4}, {QVPicture::Pic5, 2},
+        {QVPicture::Pic6, 4}, {QVPicture::Pic7, 1}};
+    EXPECT_EQ(counts, expected);
+}
+
+TEST(QVTabletModels, ofOneLayoutHaveOneNumberOfKeys)
+{
+    const std::map<QVKeyLayout, int> keys{{QVKeyLayout::A, 8}, {QVKeyLayout::B, 0},
+        {QVKeyLayout::C, 4}, {QVKeyLayout::D, 4}, {QVKeyLayout::E, 5}, {QVKeyLayout::F, 7},
+        {QVKeyLayout::G, 8}, {QVKeyLayout::H, 0}};
+    for (const QVTabletModel& model : kQVTabletModels) {
+        EXPECT_EQ(model.keyNum, keys.at(model.layout)) << model.name;
+        EXPECT_EQ(model.scrollNum,
+            model.layout == QVKeyLayout::A || model.layout == QVKeyLayout::G ? 1 : 0)
+            << model.name;
+    }
+}
+
+TEST(QVTabletModels, ofLayoutFAreOneWithAPenOfOneButton)
+{
+    int count = 0;
+    for (const QVTabletModel& model : kQVTabletModels) {
+        EXPECT_TRUE(model.penButtons == 1 || model.penButtons == 2) << model.name;
+        count += model.layout == QVKeyLayout::F && model.penButtons == 1 ? 1 : 0;
+    }
+    EXPECT_EQ(count, 1);
 }
