@@ -43,6 +43,19 @@ std::optional<QString> Bundle::pathForResource(const QString& name, const QStrin
     return path;
 }
 
+std::optional<QString> Bundle::pathForLocalizedResource(
+    const QString& name, const QString& type) const
+{
+    const QStringList languages = preferredLanguages();
+    for (const QString& language : languages) {
+        const QString folder = language + QStringLiteral(".lproj");
+        if (!mFolder.isEmpty() && QFileInfo(mFolder + u'/' + folder).isDir()) {
+            return pathForResource(folder + u'/' + name, type);
+        }
+    }
+    return std::nullopt;
+}
+
 QString Bundle::localizedString(
     const QString& key, const QString& value, const QString& table) const
 {

@@ -31,6 +31,12 @@ public:
     std::optional<QString> pathForResource(const QString& name, const QString& type) const;
 
     /**
+     * Path of the file name.type of the user's language, which is the best one for which the
+     * bundle has a folder; nothing where that folder has no such file.
+     */
+    std::optional<QString> pathForLocalizedResource(const QString& name, const QString& type) const;
+
+    /**
      * The string under the key, in the best language whose table has it, English last. Where none
      * has it: the value, or, when that is empty, the key itself.
      */

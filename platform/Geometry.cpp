@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Geometry.h"
 
+#include "PointCanvas.h"
+
 #include <QWidget>
 
 #include <cmath>
@@ -10,6 +12,9 @@ namespace platform {
 
 Rect frame(const QWidget& control)
 {
+    if (const auto* const canvas = qobject_cast<const PointCanvas*>(control.parentWidget())) {
+        return canvas->frameOf(control);
+    }
     const QRect place = control.geometry();
     const QWidget* const parent = control.parentWidget();
     const int parentHeight = parent == nullptr ? 0 : parent->height();
@@ -22,6 +27,10 @@ void setFrame(QWidget& control, const Rect& frame)
 {
     const QWidget* const parent = control.parentWidget();
     if (parent == nullptr) {
+        return;
+    }
+    if (auto* const canvas = qobject_cast<PointCanvas*>(control.parentWidget())) {
+        canvas->setFrameOf(control, frame);
         return;
     }
     const double top = parent->height() - (frame.y + frame.height);

@@ -1,0 +1,89 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "PointCanvas.h"
+
+#include <QEvent>
+#include <QFontInfo>
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+/** The text's size for which an interface file is drawn: ten points at 96 dots to the inch. */
+constexpr double kUsualPixels = 13.0;
+
+} // namespace
+
+PointCanvas::PointCanvas(QWidget* parent)
+    : QWidget(parent)
+{
+}
+
+void PointCanvas::takePlaces()
+{
+    mSize = minimumSize();
+    const auto children = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* const child : children) {
+        const QRect place = child->geometry();
+        mFrames.insert(child,
+            {static_cast<double>(place.x()),
+                static_cast<double>(mSize.height() - place.y() - place.height()),
+                static_cast<double>(place.width()), static_cast<double>(place.height())});
+    }
+    mFramesAtFirst = mFrames;
+    rescale();
+}
+
+void PointCanvas::restorePlaces()
+{
+    mFrames = mFramesAtFirst;
+    rescale();
+}
+
+Rect PointCanvas::frameOf(const QWidget& child) const
+{
+    return mFrames.value(&child);
+}
+
+void PointCanvas::setFrameOf(QWidget& child, const Rect& frame)
+{
+    mFrames.insert(&child, frame);
+    place(child);
+}
+
+void PointCanvas::changeEvent(QEvent* event)
+{
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::FontChange && mSize.isValid()) {
+        rescale();
+    }
+}
+
+void PointCanvas::rescale()
+{
+    mScale = std::max(1.0, QFontInfo(font()).pixelSize() / kUsualPixels);
+    setFixedSize(static_cast<int>(std::ceil(mSize.width() * mScale)),
+        static_cast<int>(std::ceil(mSize.height() * mScale)));
+    const auto children = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* const child : children) {
+        place(*child);
+    }
+}
+
+void PointCanvas::place(QWidget& child) const
+{
+    const auto found = mFrames.constFind(&child);
+    if (found == mFrames.constEnd()) {
+        return;
+    }
+    const auto pixels = [this](double points) {
+        return static_cast<int>(std::lround(points * mScale));
+    };
+    const double top = mSize.height() - (found->y + found->height);
+    child.setGeometry(pixels(found->x), pixels(top), pixels(found->width), pixels(found->height));
+}
+
+} // namespace platform
