@@ -7,6 +7,7 @@
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
 
+#include <QCoreApplication>
 #include <QFontDatabase>
 
 #include <initializer_list>
@@ -18,6 +19,11 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
 {
     platform::PreferencePane* const pane = PreferencePane::initWithBundle(bundle);
     rzkBundle = bundle;
+    const auto translation =
+        bundle.pathForLocalizedResource(QStringLiteral("QVTblt"), QStringLiteral("qm"));
+    if (translation && mTranslator.load(*translation)) {
+        QCoreApplication::installTranslator(&mTranslator);
+    }
     platform::events().acceptEventsFrom(kQVDriverSignature);
     return pane;
 }
@@ -26,15 +32,9 @@ QWidget* QVTblt_prefPanePref::makeMainView()
 {
     auto view = std::make_unique<QWidget>();
     setupUi(view.get());
-    keyFrame_org = platform::frame(*mKey1_1);
-    keyFrame_org_scroll_l = platform::frame(*mKeyLScroll);
-    keyFrame_org_scroll_r = platform::frame(*mKeyRScroll);
-
+    setUpKeyPage();
     connect(mSave, &QPushButton::clicked, this, &QVTblt_prefPanePref::SaveSet);
     connect(mCancel, &QPushButton::clicked, this, &QVTblt_prefPanePref::CancelSet);
-    for (QCheckBox* const box : {mKeyLScroll, mKeyRScroll}) {
-        connect(box, &QCheckBox::clicked, this, &QVTblt_prefPanePref::SelectScroll);
-    }
     return view.release();
 }
 
@@ -53,6 +53,11 @@ void QVTblt_prefPanePref::willSelect()
     }
     ReadQVConfigPlist();
     showModel();
+    // No layout takes back what that of another product has done.
+    if (mLaidOutProduct
+        && *mLaidOutProduct != static_cast<std::uint16_t>(qvTabletInfo.Basic.ProductID)) {
+        restoreKeyPage();
+    }
     InitComboBoxWithKey();
 }
 
@@ -102,29 +107,6 @@ void QVTblt_prefPanePref::didUnselect()
     platform::setFrame(*mKey1_1, keyFrame_org);
     platform::setFrame(*mKeyLScroll, keyFrame_org_scroll_l);
     platform::setFrame(*mKeyRScroll, keyFrame_org_scroll_r);
-}
-
-void QVTblt_prefPanePref::InitComboBoxWithKey()
-{
-    keyFrame_org = platform::frame(*mKey1_1);
-    keyFrame_org_scroll_l = platform::frame(*mKeyLScroll);
-    keyFrame_org_scroll_r = platform::frame(*mKeyRScroll);
-
-    // A strip is on when its field is 0.
-    mKeyLScroll->setChecked(qvTabletInfo.Key.Scrollbar0 == 0);
-    mKeyRScroll->setChecked(qvTabletInfo.Key.Scrollbar1 == 0);
-}
-
-void QVTblt_prefPanePref::takeScrollBoxes()
-{
-    qvTabletInfo.Key.Scrollbar0 = mKeyLScroll->isChecked() ? 0 : 1;
-    qvTabletInfo.Key.Scrollbar1 = mKeyRScroll->isChecked() ? 0 : 1;
-}
-
-void QVTblt_prefPanePref::SelectScroll()
-{
-    takeScrollBoxes();
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
 }
 
 void QVTblt_prefPanePref::SaveSet()

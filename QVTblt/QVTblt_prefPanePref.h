@@ -8,6 +8,16 @@
 #include "QVConfigStore.h"
 #include "ui_QVTblt_prefPanePref.h"
 
+#include <QHash>
+#include <QTranslator>
+
+#include <array>
+#include <cstdint>
+#include <optional>
+
+class QVKeyComboBox;
+class QVKeySetClass;
+
 /** The module's own bundle: strings and pictures are looked up here, never in the host's. */
 extern platform::Bundle rzkBundle;
 
@@ -38,10 +48,33 @@ public:
     /** Loads the file again and pushes the record. The controls keep showing the choices. */
     void CancelSet();
 
-    /** Lays the key page out for the model and shows the record in its controls. */
+    /**
+     * Lays the key page out for the model and shows the record in its controls. The layouts move
+     * mKey1_1 and mKeyLScroll from where they stand, so a second call moves them again.
+     */
     void InitComboBoxWithKey();
+    /**
+     * Shows a slot of the record in its combo box and commits the item: maxVisibleItems becomes
+     * 100 plus its index.
+     *
+     * @param keyNo 0 to 15 for the express keys, 16 and 17 for the pen's upper and lower button
+     */
+    void InitSingleComboBoxWithKey(QVKeyComboBox* comboBox, std::int32_t keyNo);
+    /**
+     * Takes the user's choice into the slot that is the combo box's tag and pushes the record. The
+     * item of an application opens the chooser, that of a key combination its dialog; what the
+     * user cancels there brings the committed item back.
+     */
+    void SelectKey(QVKeyComboBox* comboBox);
     /** Takes both scroll check boxes into the record and pushes it. */
     void SelectScroll();
+    /** Takes the slider into the record and pushes it. */
+    void ScrollSpeed(const QSlider* slider);
+    /** Lets the user choose an application. @return whether there is one; it is in mFileName */
+    bool SetApplicationPath();
+    /** The text of a slot's key combination, whether or not the slot is one. @param keyNo 0 to 17
+     */
+    QString GetSubKeyString(std::int32_t keyNo) const;
 
 private:
     QWidget* makeMainView() override;
@@ -49,6 +82,21 @@ private:
     void showModel();
     void showNoDevice();
     void takeScrollBoxes();
+
+    void setUpKeyPage();
+    void restoreKeyPage();
+    void layOutKeyPage(std::uint16_t productID);
+    void takeApplication(QVKeyComboBox& comboBox, tagQVTabletInfoSubKey& slot);
+    void askForKeys(QVKeyComboBox& comboBox);
+
+    QTranslator mTranslator; ///< of the panel's own texts
+    QVKeySetClass* mKeyset = nullptr; ///< belongs to the main view
+    QString mFileName; ///< path of the application last chosen
+
+    std::array<QVKeyComboBox*, kQVSlotCount> mSlotBoxes{}; ///< by slot
+    std::array<QLabel*, kQVSlotCount> mSlotLabels{};
+    QHash<QWidget*, bool> mEnabledAtFirst; ///< the key page's controls, as in the interface file
+    std::optional<std::uint16_t> mLaidOutProduct;
 
     /** Frames in the interface file, and then before each layout moved them. */
     platform::Rect keyFrame_org;

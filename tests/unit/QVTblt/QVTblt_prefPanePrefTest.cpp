@@ -2,11 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "QVTblt_prefPanePref.h"
 
-#include "FakeDisplays.h"
-#include "FakeEvents.h"
-#include "SampleConfig.h"
-#include "TemporaryHome.h"
-#include "rzkApplication.h"
+#include "PaneTest.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -18,77 +14,9 @@
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 using platform::Rect;
 
-namespace {
-
-class Pane : public testing::Test {
-protected:
-    void SetUp() override
-    {
-        writeFile(mHome.configFile(7), sampleConfig());
-        mEvents.answer(7);
-        ASSERT_EQ(
-            mPane.initWithBundle(platform::Bundle(QStringLiteral(QVTBLT_STAGE_RESOURCES))), &mPane);
-        mWindow.reset(mPane.loadMainView());
-    }
-
-    template <class Widget>
-    Widget& outlet(const char* name)
-    {
-        auto* const widget = mWindow->findChild<Widget*>(QString::fromLatin1(name));
-        EXPECT_NE(widget, nullptr) << name;
-        return *widget;
-    }
-
-    /** Shows the pane as a host does. */
-    void show()
-    {
-        mPane.willSelect();
-        mWindow->show();
-        mPane.didSelect();
-    }
-
-    /** Leaves it as a host does. */
-    void leave()
-    {
-        mPane.willUnselect();
-        mWindow->hide();
-        mPane.didUnselect();
-    }
-
-    /** The records pushed so far. */
-    std::vector<tagQVTabletInfo> pushes() const
-    {
-        std::vector<tagQVTabletInfo> records;
-        for (const FakeEvents::Sent& sent : mEvents.sent) {
-            if (sent.event.eventID == platform::fourCharCode("WSnd")) {
-                const QByteArray bytes = *sent.event.parameters.front().desc.bytes();
-                EXPECT_EQ(bytes.size(), 5077);
-                std::memcpy(&records.emplace_back(), bytes.constData(), sizeof(tagQVTabletInfo));
-            }
-        }
-        return records;
-    }
-
-    tagQVTabletInfo recordInFile()
-    {
-        const tagQVTabletInfo before = qvTabletInfo;
-        platform::PropertyListError error;
-        QVConfigStore().loadRecord(mHome.configFile(7).toStdString(), error);
-        return std::exchange(qvTabletInfo, before);
-    }
-
-    TemporaryHome mHome;
-    FakeEvents mEvents;
-    FakeDisplays mDisplays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
-    QVTblt_prefPanePref mPane;
-    std::unique_ptr<QWidget> mWindow;
-};
-
-} // namespace
+using Pane = PaneTest;
 
 TEST_F(Pane, hasItsOutletsUnderTheirNames)
 {

@@ -1,0 +1,181 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVKeyComboBox.h"
+
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+#include <QStyledItemDelegate>
+#include <QToolTip>
+
+namespace {
+
+/** What an item says before the user has chosen anything through it. */
+QString textAtFirst(int item)
+{
+    switch (item) {
+    case QVKeyComboBox::NoAction:
+        return QVKeyComboBox::tr("No action");
+    case QVKeyComboBox::LeftButton:
+        return QVKeyComboBox::tr("Left mouse button");
+    case QVKeyComboBox::RightButton:
+        return QVKeyComboBox::tr("Right mouse button");
+    case QVKeyComboBox::MiddleButton:
+        return QVKeyComboBox::tr("Middle mouse button");
+    case QVKeyComboBox::BackButton:
+        return QVKeyComboBox::tr("Back mouse button");
+    case QVKeyComboBox::Application:
+        return QVKeyComboBox::tr("Open an application…");
+    case QVKeyComboBox::KeyCombination:
+        return QVKeyComboBox::tr("Press keys…");
+    case QVKeyComboBox::NextDisplay:
+        return QVKeyComboBox::tr("Go to the next display");
+    case QVKeyComboBox::FinePositioning:
+        return QVKeyComboBox::tr("Move finely while held");
+    case QVKeyComboBox::PauseTablet:
+        return QVKeyComboBox::tr("Pause the tablet");
+    default:
+        return {};
+    }
+}
+
+/** An item's text as it is drawn: in one line, and never empty. */
+QString drawnText(const QString& text, int item)
+{
+    QString drawn = text.isEmpty() ? textAtFirst(item) : text;
+    for (QChar& character : drawn) {
+        if (character.category() == QChar::Other_Control) {
+            character = QChar::ReplacementCharacter;
+        }
+    }
+    return drawn;
+}
+
+/** A tooltip that shows the text as it is, whatever a path may look like. */
+QString toolTipOf(const QString& text)
+{
+    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+}
+
+/** Draws the items of the open list. */
+class ItemDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        // Room to hit a row with a pen.
+        return QStyledItemDelegate::sizeHint(option, index)
+            + QSize(0, option.fontMetrics.height() / 3);
+    }
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text = drawnText(option->text, index.row());
+    }
+};
+
+/** Room for the text in the closed box, in pixels. */
+int textWidth(const QStyleOptionComboBox& option, const QWidget* box)
+{
+    constexpr int kMargins = 4;
+    const QRect field = box->style()->subControlRect(
+        QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box);
+    return field.width() - kMargins;
+}
+
+/** The key's usual effect on a closed box would be to choose another item at once. */
+bool wouldChoose(const QKeyEvent& event)
+{
+    switch (event.key()) {
+    case Qt::Key_Up:
+    case Qt::Key_Down:
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown:
+    case Qt::Key_Home:
+    case Qt::Key_End:
+        return true;
+    default:
+        return !event.text().isEmpty() && event.text().at(0).isPrint()
+            && (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
+            == 0;
+    }
+}
+
+} // namespace
+
+QVKeyComboBox::QVKeyComboBox(QWidget* parent)
+    : QComboBox(parent)
+{
+    setFocusPolicy(Qt::StrongFocus);
+    setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
+    setItemDelegate(new ItemDelegate(this));
+    view()->setTextElideMode(Qt::ElideMiddle);
+    resetItems();
+}
+
+void QVKeyComboBox::resetItems()
+{
+    clear();
+    for (int item = NoAction; item <= PauseTablet; ++item) {
+        addItem(textAtFirst(item));
+    }
+}
+
+void QVKeyComboBox::replaceItem(Item item, const QString& text)
+{
+    removeItem(item);
+    insertItem(item, text);
+    setItemData(item, toolTipOf(text), Qt::ToolTipRole);
+    setCurrentIndex(item);
+}
+
+void QVKeyComboBox::keyPressEvent(QKeyEvent* event)
+{
+    if (!wouldChoose(*event)) {
+        QComboBox::keyPressEvent(event);
+        return;
+    }
+    showPopup();
+    if (event->key() != Qt::Key_Space) {
+        // In the open list the key moves the mark, which Return then chooses.
+        QCoreApplication::sendEvent(view(), event);
+    }
+}
+
+void QVKeyComboBox::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
+}
+
+void QVKeyComboBox::paintEvent(QPaintEvent* event)
+{
+    static_cast<void>(event);
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    option.currentText = fontMetrics().elidedText(
+        drawnText(option.currentText, currentIndex()), Qt::ElideMiddle, textWidth(option, this));
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+}
+
+bool QVKeyComboBox::event(QEvent* event)
+{
+    if (event->type() == QEvent::ToolTip) {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        const bool fits = fontMetrics().horizontalAdvance(currentText()) <= textWidth(option, this);
+        if (!fits) {
+            QToolTip::showText(
+                static_cast<QHelpEvent*>(event)->globalPos(), toolTipOf(currentText()), this);
+            return true;
+        }
+    }
+    return QComboBox::event(event);
+}

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QComboBox>
+
+/**
+ * The list of one button's actions. The number of its slot is its property "tag".
+ *
+ * The list is chosen from as from a menu: nothing is chosen by the wheel, or by a key while the
+ * list is closed, since every choice works at once and some open a window. Two items stand for what
+ * the user has chosen through them; a text of theirs that does not fit is shortened in the middle
+ * and whole in the tooltip.
+ */
+class QVKeyComboBox final : public QComboBox {
+    Q_OBJECT
+
+public:
+    /** The items. */
+    enum Item {
+        NoAction,
+        LeftButton,
+        RightButton,
+        MiddleButton,
+        BackButton,
+        Application, ///< its text becomes the application's path
+        KeyCombination, ///< its text becomes the combination's keys
+        NextDisplay,
+        FinePositioning,
+        PauseTablet,
+    };
+
+    explicit QVKeyComboBox(QWidget* parent = nullptr);
+
+    /** The slot, from 0 to 17. */
+    int tag() const { return property("tag").toInt(); }
+
+    /** Puts a text in an item's place and selects it. */
+    void replaceItem(Item item, const QString& text);
+
+    /** Gives all items the texts that they have before any choice; selects the first. */
+    void resetItems();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+    bool event(QEvent* event) override;
+};

@@ -1,0 +1,128 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVKeySetClass.h"
+
+#include "QVKeyComboBox.h"
+#include "hid_usb_2_adb_keymap_char.h"
+#include "rzkApplication.h"
+#include "ui_QVKeySetClass.h"
+
+#include <QAbstractButton>
+#include <QButtonGroup>
+#include <QStringList>
+
+namespace {
+
+QString separator()
+{
+    return QString::fromUtf16(kQVKeySeparator.data(), static_cast<int>(kQVKeySeparator.size()));
+}
+
+/** The button's name without the mark that a desktop may have put in for the keyboard. */
+QString titleOf(const QAbstractButton& key)
+{
+    return key.text().remove(u'&');
+}
+
+} // namespace
+
+QVKeySetClass::QVKeySetClass(QWidget* parent)
+    : QDialog(parent)
+    , ui(std::make_unique<Ui::QVKeySetClass>())
+{
+    ui->setupUi(this);
+    setModal(true);
+    connect(ui->mKeys, qOverload<QAbstractButton*>(&QButtonGroup::buttonClicked), this,
+        &QVKeySetClass::ClickButton);
+    connect(ui->delBtn, &QPushButton::clicked, this, &QVKeySetClass::DeleteOneSet);
+    connect(ui->okBtn, &QPushButton::clicked, this, &QVKeySetClass::SaveKeyData);
+    connect(ui->cancelBtn, &QPushButton::clicked, this, &QVKeySetClass::CancelSet);
+}
+
+QVKeySetClass::~QVKeySetClass() = default;
+
+void QVKeySetClass::showWindow()
+{
+    show();
+}
+
+void QVKeySetClass::QVShowWindow(QVKeyComboBox* comboBox)
+{
+    mComboBox = comboBox;
+    ui->mKeyText->clear();
+    mNum = 0;
+    mKeyValue = 0;
+    setHasKeys(false);
+    ui->keyCtrl->setFocus(); // where most combinations begin
+}
+
+void QVKeySetClass::ClickButton(const QAbstractButton* key)
+{
+    if (mNum >= kQVMaxKeys) {
+        return;
+    }
+    const QString text = ui->mKeyText->text();
+    ui->mKeyText->setText(text.isEmpty() ? titleOf(*key) : text + separator() + titleOf(*key));
+    mKeyValue |= key->property("tag").toLongLong() << (8 * mNum);
+    setHasKeys(true);
+    ++mNum;
+}
+
+void QVKeySetClass::DeleteOneSet()
+{
+    QStringList names = ui->mKeyText->text().split(separator());
+    const auto count = names.size();
+    if (count == 1) {
+        ui->mKeyText->clear();
+        mKeyValue = 0;
+        setHasKeys(false);
+    } else {
+        names.removeLast();
+        ui->mKeyText->setText(names.join(separator()));
+        if (count == 3) {
+            mKeyValue = (mKeyValue & 0xFFFF) | 0x02000000;
+        } else if (count == 2) {
+            mKeyValue = (mKeyValue & 0xFF) | 0x01000000;
+        }
+    }
+    if (mNum > 0) {
+        --mNum;
+    }
+}
+
+void QVKeySetClass::SaveKeyData()
+{
+    const QString text = ui->mKeyText->text();
+    if (mNum == 0 || mComboBox.isNull()) {
+        done(Rejected);
+        return;
+    }
+    tagQVTabletInfoSubKey& slot =
+        qvTabletInfo.Key.SubKey[static_cast<std::size_t>(mComboBox->tag())];
+    slot.Valid = 3;
+    // The number is added to what DeleteOneSet() left there; so the stored files have it.
+    slot.Key = static_cast<std::uint32_t>(mNum) << 24U | static_cast<std::uint32_t>(mKeyValue);
+    mComboBox->setMaxVisibleItems(kStored);
+    done(Accepted);
+    mComboBox->replaceItem(QVKeyComboBox::KeyCombination, text);
+}
+
+void QVKeySetClass::CancelSet()
+{
+    done(Rejected);
+}
+
+void QVKeySetClass::reject()
+{
+    CancelSet();
+}
+
+void QVKeySetClass::setHasKeys(bool hasKeys)
+{
+    // A disabled button would pass the focus on to whatever comes next.
+    if (!hasKeys && (ui->delBtn->hasFocus() || ui->okBtn->hasFocus())) {
+        ui->keyCtrl->setFocus();
+    }
+    ui->delBtn->setEnabled(hasKeys);
+    ui->okBtn->setEnabled(hasKeys);
+}

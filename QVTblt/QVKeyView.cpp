@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVKeyView.h"
+
+#include "QVTabletModels.h"
+#include "QVTblt_prefPanePref.h"
+#include "rzkApplication.h"
+
+#include <array>
+#include <optional>
+
+namespace {
+
+/** A picture's resource. Types are matched as they are written, capitals included. */
+struct Resource {
+    const char* name;
+    const char* type;
+};
+
+/** In the order of QVPicture, without None. */
+constexpr std::array<Resource, 7> kPictures{
+    {{"tabletpic1", "jpg"}, {"tabletpic2", "jpg"}, {"tabletpic3", "jpg"}, {"tabletpic4", "jpg"},
+        {"tabletpic5", "png"}, {"tabletpic6", "PNG"}, {"tabletpic7", "png"}}};
+
+QImage pictureOf(std::uint16_t productID)
+{
+    const QVTabletModel* const model = QVFindModel(productID);
+    if (model == nullptr || model->picture == QVPicture::None) {
+        return {};
+    }
+    const Resource& picture = kPictures[static_cast<std::size_t>(model->picture) - 1];
+    const std::optional<QString> path = rzkBundle.pathForResource(
+        QString::fromLatin1(picture.name), QString::fromLatin1(picture.type));
+    return path ? QImage(*path) : QImage();
+}
+
+} // namespace
+
+void QVKeyView::drawRect(QPainter& painter, const platform::Rect& dirty)
+{
+    const auto productID = static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID);
+    if (productID != productID_cached) {
+        mBackgroundImage = pictureOf(productID);
+        productID_cached = productID;
+    }
+    if (!mBackgroundImage.isNull()) {
+        platform::drawImage(painter, mBackgroundImage, dirty, dirty);
+    }
+}

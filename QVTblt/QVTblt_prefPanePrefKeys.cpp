@@ -1,0 +1,404 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// The key page of the panel: its layouts, and what its controls do.
+
+#include "Client.h"
+#include "OpenPanel.h"
+#include "QVKeyComboBox.h"
+#include "QVKeySetClass.h"
+#include "QVTabletModels.h"
+#include "QVTblt_prefPanePref.h"
+#include "hid_usb_2_adb_keymap_char.h"
+#include "rzkApplication.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QSignalBlocker>
+
+#include <algorithm>
+#include <span>
+
+using platform::Rect;
+
+namespace {
+
+constexpr std::size_t kBankSize = 8;
+constexpr std::size_t kPenUpper = 16;
+
+/** What a box's maxVisibleItems has on top of the committed item's index. */
+constexpr int kCommitted = 100;
+
+/** From a box to its number, in points. */
+constexpr double kLabelDistance = 32.0;
+
+void push()
+{
+    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+}
+
+/** The item for a slot; NoAction where the slot says nothing that is known. */
+QVKeyComboBox::Item itemOf(const tagQVTabletInfoSubKey& slot)
+{
+    using enum QVKeyComboBox::Item;
+    switch (slot.Valid) {
+    case 1:
+        switch (slot.Mouse) {
+        case 0:
+            return LeftButton;
+        case 1:
+            return RightButton;
+        case 3:
+            return MiddleButton;
+        case 2:
+            return BackButton;
+        default:
+            return NoAction;
+        }
+    case 2:
+        return Application;
+    case 3:
+        return KeyCombination;
+    case 4:
+        return NextDisplay;
+    case 5:
+        return FinePositioning;
+    case 6:
+        return PauseTablet;
+    default:
+        return NoAction;
+    }
+}
+
+/** A field's text up to its NUL; bytes that are not ASCII show as replacement characters. */
+QString textOf(const QVString& field)
+{
+    const auto* const end = std::ranges::find(field, '\0');
+    QString text;
+    for (const char byte : std::span(field.data(), end)) {
+        const auto code = static_cast<unsigned char>(byte);
+        text += code < 0x80 ? QChar(char16_t{code}) : QChar(QChar::ReplacementCharacter);
+    }
+    return text;
+}
+
+/** Stores a path. What is not ASCII or does not fit with its NUL leaves the field empty. */
+void storePath(const QString& path, QVString& field)
+{
+    field.fill('\0');
+    const bool isAscii =
+        std::ranges::all_of(path, [](QChar character) { return character.unicode() < 0x80; });
+    if (isAscii && path.size() < static_cast<qsizetype>(field.size())) {
+        std::ranges::copy(path.toLatin1(), field.begin());
+    }
+}
+
+/** Light grey, with text that can be read on it in a dark theme too. */
+void tint(QVKeyComboBox& box)
+{
+    // The list stays as it is everywhere.
+    box.view()->setPalette(QApplication::palette(box.view()));
+    QPalette palette = box.palette();
+    for (const QPalette::ColorRole role : {QPalette::Button, QPalette::Base, QPalette::Window}) {
+        palette.setColor(role, QColor(170, 170, 170));
+    }
+    for (const QPalette::ColorRole role :
+        {QPalette::ButtonText, QPalette::Text, QPalette::WindowText}) {
+        palette.setColor(role, Qt::black);
+    }
+    box.setPalette(palette);
+}
+
+void hide(std::span<QVKeyComboBox* const> boxes)
+{
+    for (QVKeyComboBox* const box : boxes) {
+        box->hide();
+    }
+}
+
+void disable(std::span<QVKeyComboBox* const> boxes)
+{
+    for (QVKeyComboBox* const box : boxes) {
+        box->setEnabled(false);
+    }
+}
+
+/**
+ * Moves the first box by (x, y) from its frame, and puts the others below it, each at its distance
+ * from the first; distances in points, y growing upwards.
+ */
+void moveColumn(
+    std::span<QVKeyComboBox* const> boxes, double x, double y, std::span<const double> distances)
+{
+    Rect first = platform::frame(*boxes.front());
+    first.x += x;
+    first.y += y;
+    platform::setFrame(*boxes.front(), first);
+    for (std::size_t i = 0; i < distances.size(); ++i) {
+        platform::setFrame(
+            *boxes[i + 1], {first.x, first.y - distances[i], first.width, first.height});
+    }
+}
+
+} // namespace
+
+void QVTblt_prefPanePref::setUpKeyPage()
+{
+    keyCanvas->takePlaces();
+    keyFrame_org = platform::frame(*mKey1_1);
+    keyFrame_org_scroll_l = platform::frame(*mKeyLScroll);
+    keyFrame_org_scroll_r = platform::frame(*mKeyRScroll);
+
+    mSlotBoxes = {mKey1_1, mKey1_2, mKey1_3, mKey1_4, mKey1_5, mKey1_6, mKey1_7, mKey1_8, mKey2_1,
+        mKey2_2, mKey2_3, mKey2_4, mKey2_5, mKey2_6, mKey2_7, mKey2_8, penKeyUpper, penKeyLower};
+    mSlotLabels = {mLabel1_1, mLabel1_2, mLabel1_3, mLabel1_4, mLabel1_5, mLabel1_6, mLabel1_7,
+        mLabel1_8, mLabel2_1, mLabel2_2, mLabel2_3, mLabel2_4, mLabel2_5, mLabel2_6, mLabel2_7,
+        mLabel2_8, mPenUpperLabel, mPenLowerLabel};
+    const auto children = keyCanvas->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QWidget* const control : children) {
+        mEnabledAtFirst.insert(control, control->isEnabled());
+    }
+    mEnabledAtFirst.insert(mMonitorSpeed, mMonitorSpeed->isEnabled());
+
+    mKeyset = new QVKeySetClass(keyCanvas->window());
+    for (QVKeyComboBox* const box : mSlotBoxes) {
+        connect(box, qOverload<int>(&QComboBox::activated), this, [this, box] { SelectKey(box); });
+    }
+    for (QCheckBox* const box : {mKeyLScroll, mKeyRScroll}) {
+        connect(box, &QCheckBox::clicked, this, &QVTblt_prefPanePref::SelectScroll);
+    }
+    connect(mScrollSpeed, &QSlider::valueChanged, this, [this] { ScrollSpeed(mScrollSpeed); });
+}
+
+void QVTblt_prefPanePref::restoreKeyPage()
+{
+    keyCanvas->restorePlaces();
+    for (auto control = mEnabledAtFirst.cbegin(); control != mEnabledAtFirst.cend(); ++control) {
+        control.key()->setEnabled(control.value());
+        control.key()->setVisible(true);
+    }
+    for (QVKeyComboBox* const box : mSlotBoxes) {
+        box->setPalette(QPalette());
+        box->resetItems();
+    }
+    const QSignalBlocker blocker(mScrollSpeed);
+    mScrollSpeed->setValue(mScrollSpeed->minimum());
+}
+
+void QVTblt_prefPanePref::InitComboBoxWithKey()
+{
+    const auto productID = static_cast<std::uint16_t>(qvTabletInfo.Basic.ProductID);
+    hide(std::span(mSlotBoxes).subspan<kBankSize, kBankSize>());
+    mKeyRScroll->hide();
+    keyFrame_org = platform::frame(*mKey1_1);
+    keyFrame_org_scroll_l = platform::frame(*mKeyLScroll);
+    keyFrame_org_scroll_r = platform::frame(*mKeyRScroll);
+    layOutKeyPage(productID);
+    mLaidOutProduct = productID;
+
+    for (std::size_t slot = 0; slot < kPenUpper; ++slot) {
+        InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
+    }
+    // A strip is on when its field is 0.
+    mKeyLScroll->setChecked(qvTabletInfo.Key.Scrollbar0 == 0);
+    for (std::size_t slot = kPenUpper; slot < kQVSlotCount; ++slot) {
+        InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
+    }
+    mKeyRScroll->setChecked(qvTabletInfo.Key.Scrollbar1 == 0);
+}
+
+void QVTblt_prefPanePref::layOutKeyPage(std::uint16_t productID)
+{
+    const QVTabletModel* const model = QVFindModel(productID);
+    const std::span bank(mSlotBoxes.data(), kBankSize);
+    switch (model == nullptr ? QVKeyLayout::A : model->layout) {
+    case QVKeyLayout::A:
+        break;
+    case QVKeyLayout::B:
+        disable(bank);
+        mKeyLScroll->setEnabled(false);
+        penKeyLower->setEnabled(false);
+        mScrollSpeed->setEnabled(false);
+        break;
+    case QVKeyLayout::C:
+        mMonitorSpeed->setEnabled(false);
+        [[fallthrough]];
+    case QVKeyLayout::D:
+        hide(bank.subspan(4));
+        mKeyLScroll->hide();
+        penKeyLower->setEnabled(false);
+        moveColumn(bank, 5.0, -65.0, std::array{45.0, 90.0, 135.0});
+        mScrollSpeed->setEnabled(false);
+        break;
+    case QVKeyLayout::E:
+        mKeyLScroll->hide();
+        penKeyLower->setEnabled(false);
+        moveColumn(bank, 45.0, -50.0, std::array{45.0, 90.0, 135.0, 180.0});
+        hide(bank.subspan(5));
+        disable(bank.subspan(5));
+        mScrollSpeed->setEnabled(false);
+        break;
+    case QVKeyLayout::F:
+        if (model->penButtons == 1) {
+            penKeyLower->setEnabled(false);
+        }
+        mKeyLScroll->hide();
+        // The wider gaps set the middle key apart, as on the tablet.
+        moveColumn(bank, 45.0, -40.0, std::array{30.0, 60.0, 100.0, 140.0, 170.0, 200.0});
+        hide(bank.subspan(7));
+        mScrollSpeed->setEnabled(false);
+        break;
+    case QVKeyLayout::G: {
+        moveColumn(bank.first(4), 0.0, -25.0, std::array{25.0, 50.0, 75.0});
+        Rect strip = keyFrame_org_scroll_l;
+        strip.x += 15.0;
+        platform::setFrame(*mKeyLScroll, strip);
+        moveColumn(bank.subspan(4), 0.0, 0.0, std::array{25.0, 50.0, 75.0});
+        for (QVKeyComboBox* const box : bank) {
+            tint(*box);
+        }
+        const QSignalBlocker blocker(mScrollSpeed);
+        mScrollSpeed->setValue(qvTabletInfo.Key.ScrollSpeed);
+        break;
+    }
+    case QVKeyLayout::H:
+        mKeyLScroll->hide();
+        penKeyLower->setEnabled(false);
+        disable(std::span(mSlotBoxes).first(kPenUpper));
+        mScrollSpeed->setEnabled(false);
+        break;
+    }
+
+    // The numbers go with their boxes; the pen's are texts that stay.
+    for (std::size_t slot = 0; slot < kQVSlotCount; ++slot) {
+        const QVKeyComboBox& box = *mSlotBoxes[slot];
+        QLabel& label = *mSlotLabels[slot];
+        label.setVisible(!box.isHidden());
+        label.setEnabled(box.isEnabled());
+        if (slot < kPenUpper) {
+            Rect place = platform::frame(box);
+            place.x -= kLabelDistance;
+            place.width = platform::frame(label).width;
+            platform::setFrame(label, place);
+        }
+    }
+    mScrollSpeedLabel->setEnabled(mScrollSpeed->isEnabled());
+}
+
+QString QVTblt_prefPanePref::GetSubKeyString(std::int32_t keyNo) const
+{
+    return QString::fromStdU16String(
+        QVKeyCombinationText(qvTabletInfo.Key.SubKey[static_cast<std::size_t>(keyNo)].Key));
+}
+
+void QVTblt_prefPanePref::InitSingleComboBoxWithKey(QVKeyComboBox* comboBox, std::int32_t keyNo)
+{
+    const tagQVTabletInfoSubKey& slot = qvTabletInfo.Key.SubKey[static_cast<std::size_t>(keyNo)];
+    const QVKeyComboBox::Item item = itemOf(slot);
+    if (item == QVKeyComboBox::Application) {
+        comboBox->replaceItem(item, textOf(slot.App));
+    } else if (item == QVKeyComboBox::KeyCombination) {
+        comboBox->replaceItem(item, GetSubKeyString(keyNo));
+    } else {
+        comboBox->setCurrentIndex(item);
+    }
+    comboBox->setMaxVisibleItems(comboBox->currentIndex() + kCommitted);
+}
+
+void QVTblt_prefPanePref::SelectKey(QVKeyComboBox* comboBox)
+{
+    using Item = QVKeyComboBox::Item;
+    tagQVTabletInfoSubKey& slot =
+        qvTabletInfo.Key.SubKey[static_cast<std::size_t>(comboBox->tag())];
+    const auto mouse = [&slot](std::int16_t button) {
+        slot.Valid = 1;
+        slot.Mouse = button;
+    };
+    switch (comboBox->currentIndex()) {
+    case Item::NoAction:
+        slot.Valid = 0;
+        break;
+    case Item::LeftButton:
+        mouse(0);
+        break;
+    case Item::RightButton:
+        mouse(1);
+        break;
+    case Item::MiddleButton:
+        mouse(3);
+        break;
+    case Item::BackButton:
+        mouse(2);
+        break;
+    case Item::Application:
+        takeApplication(*comboBox, slot);
+        break;
+    case Item::KeyCombination:
+        askForKeys(*comboBox);
+        return;
+    case Item::NextDisplay:
+        slot.Valid = 4;
+        break;
+    case Item::FinePositioning:
+        slot.Valid = 5;
+        break;
+    case Item::PauseTablet:
+        slot.Valid = 6;
+        break;
+    default:
+        break;
+    }
+    push();
+}
+
+void QVTblt_prefPanePref::takeApplication(QVKeyComboBox& comboBox, tagQVTabletInfoSubKey& slot)
+{
+    if (!SetApplicationPath()) {
+        InitSingleComboBoxWithKey(&comboBox, comboBox.tag());
+        return;
+    }
+    comboBox.replaceItem(QVKeyComboBox::Application, mFileName);
+    slot.Valid = 2;
+    storePath(mFileName, slot.App);
+    push(); // and a second time on leaving, as after every choice
+}
+
+void QVTblt_prefPanePref::askForKeys(QVKeyComboBox& comboBox)
+{
+    mKeyset->QVShowWindow(&comboBox);
+    mKeyset->exec();
+    if (comboBox.maxVisibleItems() == QVKeySetClass::kStored) {
+        push();
+        comboBox.setMaxVisibleItems(kCommitted + QVKeyComboBox::KeyCombination);
+    } else if (qvTabletInfo.Key.SubKey[static_cast<std::size_t>(comboBox.tag())].Valid != 3) {
+        comboBox.setCurrentIndex(comboBox.maxVisibleItems() - kCommitted);
+    }
+}
+
+bool QVTblt_prefPanePref::SetApplicationPath()
+{
+    const std::optional<QString> path = platform::openPanel().chooseApplication(mainView());
+    if (!path) {
+        return false;
+    }
+    mFileName = *path;
+    return true;
+}
+
+void QVTblt_prefPanePref::takeScrollBoxes()
+{
+    qvTabletInfo.Key.Scrollbar0 = mKeyLScroll->isChecked() ? 0 : 1;
+    qvTabletInfo.Key.Scrollbar1 = mKeyRScroll->isChecked() ? 0 : 1;
+}
+
+void QVTblt_prefPanePref::SelectScroll()
+{
+    takeScrollBoxes();
+    push();
+}
+
+void QVTblt_prefPanePref::ScrollSpeed(const QSlider* slider)
+{
+    qvTabletInfo.Key.ScrollSpeed = static_cast<std::int16_t>(slider->value());
+    push();
+}

@@ -1,0 +1,49 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "hid_usb_2_adb_keymap_char.h"
+
+namespace {
+
+/** The name of the first entry with that code; empty when there is none. */
+std::u16string_view nameOf(std::uint8_t code)
+{
+    for (const QVKeyName& key : hid_usb_2_adb_keymap_char) {
+        if (key.isEnd()) {
+            break;
+        }
+        if (key.code == code) {
+            return key.name;
+        }
+    }
+    return {};
+}
+
+} // namespace
+
+std::u16string QVKeyCombinationText(std::uint32_t combination)
+{
+    const auto codeAt = [&](int position) {
+        return static_cast<std::uint8_t>(combination >> static_cast<unsigned>(8 * position));
+    };
+    std::uint32_t remaining = codeAt(3);
+    std::uint8_t code = codeAt(0);
+    std::u16string text;
+    if (code == 0 && remaining == 0) {
+        return text;
+    }
+    for (int position = 0;;) {
+        const std::u16string_view name = nameOf(code);
+        if (!name.empty()) {
+            text += position > 0 ? kQVKeySeparator : std::u16string_view();
+            text += name;
+        }
+        if (++position == kQVMaxKeys) {
+            return text;
+        }
+        --remaining; // wraps: 0 means that every later byte is a key
+        code = codeAt(position);
+        if (code == 0 && remaining == 0) {
+            return text;
+        }
+    }
+}

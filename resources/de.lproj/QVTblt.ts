@@ -1,0 +1,268 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>OpenPanel</name>
+    <message>
+        <source>Choose an application</source>
+        <translation>Anwendung auswählen</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Anwendungen</translation>
+    </message>
+</context>
+<context>
+    <name>QVKeyComboBox</name>
+    <message>
+        <source>No action</source>
+        <translation>Keine Aktion</translation>
+    </message>
+    <message>
+        <source>Left mouse button</source>
+        <translation>Linke Maustaste</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <translation>Rechte Maustaste</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <translation>Mittlere Maustaste</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <translation>Maustaste „Zurück“</translation>
+    </message>
+    <message>
+        <source>Open an application…</source>
+        <translation>Anwendung öffnen …</translation>
+    </message>
+    <message>
+        <source>Press keys…</source>
+        <translation>Tasten drücken …</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <translation>Zum nächsten Bildschirm</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <translation>Feinführung (halten)</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <translation>Tablett anhalten</translation>
+    </message>
+</context>
+<context>
+    <name>QVKeySetClass</name>
+    <message>
+        <source>Choose up to three keys, in the order in which they are held</source>
+        <translation>Bis zu drei Tasten wählen, in der Reihenfolge des Drückens</translation>
+    </message>
+    <message>
+        <source>Chosen keys</source>
+        <translation>Gewählte Tasten</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Take the last key back</source>
+        <translation>Die letzte Taste zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Escape</translation>
+    </message>
+    <message>
+        <source>Minus</source>
+        <translation>Minus</translation>
+    </message>
+    <message>
+        <source>Plus</source>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Rücktaste</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Steuerung</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Befehlstaste</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Bild auf</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Bild ab</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>&amp;OK</translation>
+    </message>
+    <message>
+        <source>Key Combination</source>
+        <translation>Tastenkombination</translation>
+    </message>
+</context>
+<context>
+    <name>QVTblt_prefPanePref</name>
+    <message>
+        <source>Quorvia Tablet</source>
+        <translation>Quorvia-Tablett</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>&amp;Tasten</translation>
+    </message>
+    <message>
+        <source>Picture of the tablet with its keys numbered</source>
+        <translation>Bild des Tabletts mit nummerierten Tasten</translation>
+    </message>
+    <message>
+        <source>Express key 1</source>
+        <translation>Expresstaste 1</translation>
+    </message>
+    <message>
+        <source>Express key 2</source>
+        <translation>Expresstaste 2</translation>
+    </message>
+    <message>
+        <source>Express key 3</source>
+        <translation>Expresstaste 3</translation>
+    </message>
+    <message>
+        <source>Express key 4</source>
+        <translation>Expresstaste 4</translation>
+    </message>
+    <message>
+        <source>&amp;Left scroll strip</source>
+        <translation>&amp;Linker Rollstreifen</translation>
+    </message>
+    <message>
+        <source>Express key 5</source>
+        <translation>Expresstaste 5</translation>
+    </message>
+    <message>
+        <source>Express key 6</source>
+        <translation>Expresstaste 6</translation>
+    </message>
+    <message>
+        <source>Express key 7</source>
+        <translation>Expresstaste 7</translation>
+    </message>
+    <message>
+        <source>Express key 8</source>
+        <translation>Expresstaste 8</translation>
+    </message>
+    <message>
+        <source>Express key 9</source>
+        <translation>Expresstaste 9</translation>
+    </message>
+    <message>
+        <source>Express key 10</source>
+        <translation>Expresstaste 10</translation>
+    </message>
+    <message>
+        <source>Express key 11</source>
+        <translation>Expresstaste 11</translation>
+    </message>
+    <message>
+        <source>Express key 12</source>
+        <translation>Expresstaste 12</translation>
+    </message>
+    <message>
+        <source>&amp;Right scroll strip</source>
+        <translation>&amp;Rechter Rollstreifen</translation>
+    </message>
+    <message>
+        <source>Express key 13</source>
+        <translation>Expresstaste 13</translation>
+    </message>
+    <message>
+        <source>Express key 14</source>
+        <translation>Expresstaste 14</translation>
+    </message>
+    <message>
+        <source>Express key 15</source>
+        <translation>Expresstaste 15</translation>
+    </message>
+    <message>
+        <source>Express key 16</source>
+        <translation>Expresstaste 16</translation>
+    </message>
+    <message>
+        <source>Scroll &amp;speed:</source>
+        <translation>&amp;Rolltempo:</translation>
+    </message>
+    <message>
+        <source>Scroll speed</source>
+        <translation>Rolltempo</translation>
+    </message>
+    <message>
+        <source>&amp;Upper pen button:</source>
+        <translation>&amp;Obere Stifttaste:</translation>
+    </message>
+    <message>
+        <source>Upper pen button</source>
+        <translation>Obere Stifttaste</translation>
+    </message>
+    <message>
+        <source>L&amp;ower pen button:</source>
+        <translation>&amp;Untere Stifttaste:</translation>
+    </message>
+    <message>
+        <source>Lower pen button</source>
+        <translation>Untere Stifttaste</translation>
+    </message>
+    <message>
+        <source>&amp;Display</source>
+        <translation>&amp;Bildschirm</translation>
+    </message>
+    <message>
+        <source>Report speed</source>
+        <translation>Meldegeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>Schnell</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Go back to the settings in the file</source>
+        <translation>Zu den gespeicherten Einstellungen zurückkehren</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Keep the settings as they are now</source>
+        <translation>Die jetzigen Einstellungen behalten</translation>
+    </message>
+    <message>
+        <source>Unknown tablet, product %1</source>
+        <translation>Unbekanntes Tablett, Produkt %1</translation>
+    </message>
+</context>
+</TS>

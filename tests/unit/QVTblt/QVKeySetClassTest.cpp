@@ -1,0 +1,301 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVKeySetClass.h"
+
+#include "QVKeyComboBox.h"
+#include "hid_usb_2_adb_keymap_char.h"
+#include "rzkApplication.h"
+
+#include <QApplication>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSet>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr int kSlot = 2;
+
+class KeySet : public testing::Test {
+protected:
+    KeySet()
+    {
+        qvTabletInfo = {};
+        mBox.setProperty("tag", kSlot);
+        mBox.setMaxVisibleItems(100);
+        mDialog.QVShowWindow(&mBox);
+        mDialog.showWindow();
+    }
+
+    static const tagQVTabletInfoSubKey& slot() { return qvTabletInfo.Key.SubKey[kSlot]; }
+
+    template <class Widget>
+    Widget& child(const char* name)
+    {
+        auto* const widget = mDialog.findChild<Widget*>(QString::fromLatin1(name));
+        EXPECT_NE(widget, nullptr) << name;
+        return *widget;
+    }
+    void click(std::initializer_list<const char*> keys)
+    {
+        for (const char* const key : keys) {
+            QTest::mouseClick(
+                &child<QToolButton>((std::string("key") + key).c_str()), Qt::LeftButton);
+        }
+    }
+    void press(const char* button)
+    {
+        QTest::mouseClick(&child<QPushButton>(button), Qt::LeftButton);
+    }
+    QString text() { return child<QLineEdit>("mKeyText").text(); }
+
+    /** Asserts that both buttons are enabled, or neither. */
+    void expectHasKeys(bool hasKeys)
+    {
+        EXPECT_EQ(child<QPushButton>("delBtn").isEnabled(), hasKeys);
+        EXPECT_EQ(child<QPushButton>("okBtn").isEnabled(), hasKeys);
+    }
+
+    QVKeyComboBox mBox;
+    QVKeySetClass mDialog;
+};
+
+} // namespace
+
+TEST_F(KeySet, hasAButtonForEveryKeyOfTheTableUnderItsName)
+{
+    QSet<QString> found;
+    const auto buttons = mDialog.findChildren<QToolButton*>();
+    for (const QToolButton* const button : buttons) {
+        found.insert(button->text() + u'/' + button->property("tag").toString());
+        EXPECT_FALSE(button->accessibleName().isEmpty() && button->text().isEmpty());
+    }
+    EXPECT_EQ(buttons.size(), 68);
+    for (const QVKeyName& key : hid_usb_2_adb_keymap_char) {
+        if (!key.isEnd()) {
+            const QString name = QString::fromUtf16(key.name.data(), int(key.name.size())) + u'/'
+                + QString::number(key.code);
+            EXPECT_TRUE(found.contains(name)) << qPrintable(name);
+        }
+    }
+}
+
+TEST_F(KeySet, opensEmptyWithNothingToDeleteOrStore)
+{
+    click({"A", "B"});
+    mDialog.QVShowWindow(&mBox);
+    EXPECT_EQ(text(), QString());
+    expectHasKeys(false);
+    click({"C"});
+    mDialog.SaveKeyData();
+    EXPECT_EQ(+slot().Key, 0x01000008U);
+}
+
+TEST_F(KeySet, doesNotShowItsWindowWhenItIsPrepared)
+{
+    mDialog.CancelSet();
+    mDialog.QVShowWindow(&mBox);
+    EXPECT_FALSE(mDialog.isVisible());
+    EXPECT_TRUE(mDialog.isModal());
+}
+
+TEST_F(KeySet, threeKeysAreStoredAndShown)
+{
+    click({"Ctrl", "Shift", "Z"});
+    EXPECT_EQ(text(), QStringLiteral("Ctrl  Shift  Z"));
+    press("okBtn");
+    EXPECT_EQ(+slot().Valid, 3);
+    EXPECT_EQ(+slot().Key, 0x03063836U);
+    EXPECT_EQ(mBox.maxVisibleItems(), 256);
+    EXPECT_EQ(mBox.currentIndex(), 6);
+    EXPECT_EQ(mBox.currentText(), QStringLiteral("Ctrl  Shift  Z"));
+    EXPECT_EQ(mBox.count(), 10);
+    EXPECT_FALSE(mDialog.isVisible());
+}
+
+TEST_F(KeySet, theKeyAAloneIsACountOfOne)
+{
+    click({"A"});
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x01000000U);
+}
+
+TEST_F(KeySet, theCommandKeyKeepsItsSign)
+{
+    click({"Command", "Minus", "Plus"});
+    EXPECT_EQ(text(), QStringLiteral("\u2318  -  +"));
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x03181B37U);
+}
+
+TEST_F(KeySet, aFourthClickChangesNothing)
+{
+    click({"Ctrl", "Shift", "Z", "X"});
+    EXPECT_EQ(text(), QStringLiteral("Ctrl  Shift  Z"));
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x03063836U);
+}
+
+TEST_F(KeySet, twentyClicksInARowStayThree)
+{
+    for (int i = 0; i < 20; ++i) {
+        click({"B"});
+    }
+    EXPECT_EQ(text(), QStringLiteral("B  B  B"));
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x030B0B0BU);
+}
+
+TEST_F(KeySet, deletingTheOnlyKeyLeavesNothing)
+{
+    click({"B"});
+    expectHasKeys(true);
+    press("delBtn");
+    EXPECT_EQ(text(), QString());
+    expectHasKeys(false);
+    click({"C"});
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x01000008U) << "nothing of the deleted key may be left";
+}
+
+TEST_F(KeySet, deleteOnAnEmptyTextChangesNothing)
+{
+    mDialog.DeleteOneSet();
+    mDialog.DeleteOneSet();
+    EXPECT_EQ(text(), QString());
+    expectHasKeys(false);
+    click({"B", "C"});
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x0200080BU);
+}
+
+TEST_F(KeySet, theCountAfterADeletionIsTheOrOfBothCounts)
+{
+    click({"X", "Y"});
+    press("delBtn");
+    EXPECT_EQ(text(), QStringLiteral("X"));
+    click({"Z"});
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x03000607U);
+    EXPECT_EQ(mBox.currentText(), QStringLiteral("X  Z"));
+}
+
+TEST_F(KeySet, deletingTwiceOfThreeKeepsTheFirst)
+{
+    click({"X", "Y", "Z"});
+    press("delBtn");
+    EXPECT_EQ(text(), QStringLiteral("X  Y"));
+    press("delBtn");
+    EXPECT_EQ(text(), QStringLiteral("X"));
+    expectHasKeys(true);
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x01000007U);
+}
+
+TEST_F(KeySet, okWithoutAKeyStoresNothing)
+{
+    mBox.setMaxVisibleItems(104);
+    mDialog.SaveKeyData();
+    EXPECT_FALSE(mDialog.isVisible());
+    EXPECT_EQ(mBox.maxVisibleItems(), 104);
+    EXPECT_EQ(+slot().Valid, 0);
+    EXPECT_EQ(+slot().Key, 0U);
+}
+
+TEST_F(KeySet, cancelStoresNothing)
+{
+    click({"B"});
+    press("cancelBtn");
+    EXPECT_FALSE(mDialog.isVisible());
+    EXPECT_EQ(mBox.maxVisibleItems(), 100);
+    EXPECT_EQ(+slot().Valid, 0);
+}
+
+TEST_F(KeySet, escapeCancels)
+{
+    click({"B"});
+    QTest::keyClick(&mDialog, Qt::Key_Escape);
+    EXPECT_FALSE(mDialog.isVisible());
+    EXPECT_EQ(+slot().Valid, 0);
+}
+
+TEST_F(KeySet, closingTheWindowCancels)
+{
+    click({"B"});
+    mDialog.close();
+    EXPECT_FALSE(mDialog.isVisible());
+    EXPECT_EQ(+slot().Valid, 0);
+}
+
+TEST_F(KeySet, returnIsOkOnceThereIsAKey)
+{
+    QTest::keyClick(&child<QToolButton>("keyCtrl"), Qt::Key_Return);
+    EXPECT_TRUE(mDialog.isVisible());
+    click({"B"});
+    QTest::keyClick(&child<QToolButton>("keyB"), Qt::Key_Return);
+    EXPECT_FALSE(mDialog.isVisible());
+    EXPECT_EQ(+slot().Key, 0x0100000BU);
+}
+
+TEST_F(KeySet, everyKeyIsReachedByArrowsAndByTab)
+{
+    mDialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog));
+    QSet<QWidget*> reached;
+    QList<QWidget*> open{&child<QToolButton>("keyCtrl")};
+    while (!open.isEmpty()) {
+        QWidget* const from = open.takeLast();
+        if (reached.contains(from)) {
+            continue;
+        }
+        reached.insert(from);
+        for (const Qt::Key arrow : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
+            from->setFocus();
+            QTest::keyClick(from, arrow);
+            if (qobject_cast<QToolButton*>(QApplication::focusWidget()) != nullptr) {
+                open.append(QApplication::focusWidget());
+            }
+        }
+    }
+    EXPECT_EQ(reached.size(), 68);
+
+    reached.clear();
+    child<QToolButton>("keyCtrl").setFocus();
+    for (int i = 0; i < 80; ++i) {
+        reached.insert(QApplication::focusWidget());
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    for (const QToolButton* const button : mDialog.findChildren<QToolButton*>()) {
+        EXPECT_TRUE(reached.contains(const_cast<QToolButton*>(button)))
+            << qPrintable(button->text());
+    }
+}
+
+TEST_F(KeySet, spacePressesTheKeyThatHasTheFocus)
+{
+    QTest::keyClick(&child<QToolButton>("keyF12"), Qt::Key_Space);
+    EXPECT_EQ(text(), QStringLiteral("F12"));
+}
+
+TEST_F(KeySet, aMarkThatTheDesktopPutsIntoATitleIsNotPartOfIt)
+{
+    child<QToolButton>("keyB").setText(QStringLiteral("&B"));
+    click({"B"});
+    EXPECT_EQ(text(), QStringLiteral("B"));
+}
+
+TEST_F(KeySet, endsItsLoopItself)
+{
+    mDialog.CancelSet();
+    mDialog.QVShowWindow(&mBox);
+    QTimer::singleShot(0, &mDialog, [this] {
+        click({"B"});
+        press("okBtn");
+    });
+    EXPECT_EQ(mDialog.exec(), QDialog::Accepted);
+    EXPECT_EQ(+slot().Key, 0x0100000BU);
+}

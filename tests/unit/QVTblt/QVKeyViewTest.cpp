@@ -1,0 +1,140 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVKeyView.h"
+
+#include "QVTabletModels.h"
+#include "QVTblt_prefPanePref.h"
+#include "TemporaryHome.h"
+#include "rzkApplication.h"
+
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+class KeyView : public testing::Test {
+protected:
+    KeyView()
+    {
+        qvTabletInfo = {};
+        rzkBundle = platform::Bundle(mFolder.path());
+        mView.resize(40, 30);
+    }
+    ~KeyView() override { rzkBundle = {}; }
+
+    void addPicture(const char* name, const QColor& color)
+    {
+        QImage image(80, 60, QImage::Format_RGB32);
+        image.fill(color);
+        image.setDotsPerMeterX(5669);
+        image.setDotsPerMeterY(5669);
+        ASSERT_TRUE(image.save(mFolder.filePath(QString::fromLatin1(name)), "PNG"));
+    }
+    void removePicture(const char* name)
+    {
+        ASSERT_TRUE(QFile::remove(mFolder.filePath(QString::fromLatin1(name))));
+    }
+
+    /** The colour in the view's middle after a draw; transparent where nothing was drawn. */
+    QColor draw(std::uint16_t productID)
+    {
+        qvTabletInfo.Basic.ProductID = static_cast<std::int16_t>(productID);
+        mView.setNeedsDisplay();
+        QImage image(mView.size(), QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        mView.render(&image, {}, {}, QWidget::DrawChildren);
+        return image.pixelColor(20, 15);
+    }
+
+    QTemporaryDir mFolder;
+    QVKeyView mView;
+};
+
+constexpr std::uint16_t kDraft = 0x5101; // tabletpic6
+constexpr std::uint16_t kSlate = 0x5122; // tabletpic7
+constexpr std::uint16_t kPocket = 0x5110; // none
+const QColor kNothing(0, 0, 0, 0);
+
+} // namespace
+
+TEST_F(KeyView, noProductDrawsNothing)
+{
+    addPicture("tabletpic6.PNG", Qt::red);
+    EXPECT_EQ(draw(0), kNothing);
+}
+
+TEST_F(KeyView, drawsTheModelsPicture)
+{
+    addPicture("tabletpic6.PNG", Qt::red);
+    addPicture("tabletpic7.png", Qt::blue);
+    EXPECT_EQ(draw(kDraft), QColor(Qt::red));
+    EXPECT_EQ(draw(kSlate), QColor(Qt::blue));
+}
+
+TEST_F(KeyView, aModelWithoutAPictureLeavesItEmpty)
+{
+    addPicture("tabletpic6.PNG", Qt::red);
+    EXPECT_EQ(draw(kDraft), QColor(Qt::red));
+    EXPECT_EQ(draw(kPocket), kNothing);
+    EXPECT_EQ(draw(0xFFFF), kNothing);
+}
+
+TEST_F(KeyView, switchingBackLoadsThePictureAgain)
+{
+    addPicture("tabletpic6.PNG", Qt::red);
+    EXPECT_EQ(draw(kDraft), QColor(Qt::red));
+    EXPECT_EQ(draw(kPocket), kNothing);
+    addPicture("tabletpic6.PNG", Qt::green);
+    EXPECT_EQ(draw(kDraft), QColor(Qt::green));
+}
+
+TEST_F(KeyView, readsTheFileOnlyWhenTheProductChanges)
+{
+    addPicture("tabletpic6.PNG", Qt::red);
+    EXPECT_EQ(draw(kDraft), QColor(Qt::red));
+    removePicture("tabletpic6.PNG");
+    EXPECT_EQ(draw(kDraft), QColor(Qt::red));
+}
+
+TEST_F(KeyView, aMissingFileDrawsNothingAndIsNotLookedForAgain)
+{
+    testing::internal::CaptureStderr();
+    EXPECT_EQ(draw(kDraft), kNothing);
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+    addPicture("tabletpic6.PNG", Qt::red);
+    EXPECT_EQ(draw(kDraft), kNothing);
+}
+
+TEST_F(KeyView, aFileThatIsNoPictureDrawsNothing)
+{
+    writeFile(mFolder.filePath(QStringLiteral("tabletpic6.PNG")), "no picture");
+    EXPECT_EQ(draw(kDraft), kNothing);
+}
+
+TEST_F(KeyView, aFileTypesCapitalsMatter)
+{
+    addPicture("tabletpic6.png", Qt::red);
+    addPicture("tabletpic7.PNG", Qt::blue);
+    EXPECT_EQ(draw(kDraft), kNothing);
+    EXPECT_EQ(draw(kSlate), kNothing);
+}
+
+TEST_F(KeyView, everyPictureOfTheTableIsInTheBundleAndFillsTheView)
+{
+    rzkBundle = platform::Bundle(QStringLiteral(QVTBLT_STAGE_RESOURCES));
+    mView.resize(384, 270);
+    for (const QVTabletModel& model : kQVTabletModels) {
+        EXPECT_EQ(draw(model.productID) != kNothing, model.picture != QVPicture::None)
+            << model.name;
+    }
+    for (const char* const name : {"tabletpic1.jpg", "tabletpic2.jpg", "tabletpic3.jpg",
+             "tabletpic4.jpg", "tabletpic5.png", "tabletpic6.PNG", "tabletpic7.png"}) {
+        const QImage picture(
+            QStringLiteral(QVTBLT_STAGE_RESOURCES "/") + QString::fromLatin1(name));
+        const platform::Rect bounds = platform::imageBounds(picture);
+        EXPECT_NEAR(bounds.width, 384, 0.1) << name;
+        EXPECT_NEAR(bounds.height, 270, 0.1) << name;
+    }
+}

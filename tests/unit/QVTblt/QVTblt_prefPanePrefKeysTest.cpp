@@ -1,0 +1,892 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// The key page: every layout, every choice, every slot that a file may hold.
+
+#include "OpenPanel.h"
+#include "PaneTest.h"
+#include "PointCanvas.h"
+#include "QVKeyComboBox.h"
+#include "QVKeySetClass.h"
+#include "QVTabletModels.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QRegularExpression>
+#include <QTest>
+#include <QTimer>
+#include <QToolButton>
+
+#include <cstring>
+#include <functional>
+#include <random>
+
+using platform::Rect;
+
+namespace {
+
+/** Gives paths without asking anybody. */
+class FakeOpenPanel final : public platform::OpenPanel {
+public:
+    std::optional<QString> chooseApplication(QWidget* parent) override
+    {
+        EXPECT_NE(parent, nullptr);
+        ++asked;
+        return path;
+    }
+
+    std::optional<QString> path;
+    int asked = 0;
+
+private:
+    platform::ServiceScope<platform::OpenPanel> mScope{*this};
+};
+
+// One product of each layout; of F, the one whose pen has one button and one of the others.
+constexpr std::uint16_t kProductA = 0x5118;
+constexpr std::uint16_t kProductB = 0x511E;
+constexpr std::uint16_t kProductC = 0x5107;
+constexpr std::uint16_t kProductD = 0x5110;
+constexpr std::uint16_t kProductE = 0x5113;
+constexpr std::uint16_t kProductFLite = 0x5115;
+constexpr std::uint16_t kProductF = 0x5116;
+constexpr std::uint16_t kProductG = 0x5101;
+constexpr std::uint16_t kProductH = 0x5122;
+
+class KeyPage : public PaneTest {
+protected:
+    /** The panel in a language. */
+    explicit KeyPage(QLocale::Language language = QLocale::English)
+    {
+        QLocale::setDefault(QLocale(language));
+    }
+    ~KeyPage() override { QLocale::setDefault(QLocale::c()); }
+
+    void SetUp() override
+    {
+        PaneTest::SetUp();
+        mFirst = frame("mKey1_1");
+        mStrip = frame("mKeyLScroll");
+        setProduct(kProductA);
+    }
+
+    /** Changes the file. */
+    void edit(const std::function<void(tagQVTabletInfo&)>& change)
+    {
+        const tagQVTabletInfo before = qvTabletInfo;
+        platform::PropertyListError error;
+        ASSERT_TRUE(QVConfigStore().loadRecord(mHome.configFile(7).toStdString(), error));
+        change(qvTabletInfo);
+        ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString(), error));
+        // The panel never writes what the file says of the model.
+        QString config = QString::fromUtf8(readFile(mHome.configFile(7)));
+        static const QRegularExpression kProduct(
+            QStringLiteral("(<key>ProductID</key>\\s*<integer>)[^<]*"));
+        config.replace(kProduct, QStringLiteral("\\1%1").arg(+qvTabletInfo.Basic.ProductID));
+        writeFile(mHome.configFile(7), config.toUtf8());
+        qvTabletInfo = before;
+    }
+    void setProduct(std::uint16_t productID)
+    {
+        edit([productID](tagQVTabletInfo& record) {
+            record.Basic.ProductID = static_cast<std::int16_t>(productID);
+        });
+    }
+    void showProduct(std::uint16_t productID)
+    {
+        setProduct(productID);
+        show();
+    }
+
+    Rect frame(const char* name) { return platform::frame(outlet<QWidget>(name)); }
+    Rect frame(const std::string& name) { return frame(name.c_str()); }
+    bool hidden(const std::string& name) { return outlet<QWidget>(name.c_str()).isHidden(); }
+    bool enabled(const std::string& name) { return outlet<QWidget>(name.c_str()).isEnabled(); }
+    QVKeyComboBox& box(int slot)
+    {
+        if (slot >= 16) {
+            return outlet<QVKeyComboBox>(slot == 16 ? "penKeyUpper" : "penKeyLower");
+        }
+        return outlet<QVKeyComboBox>(name(slot).c_str());
+    }
+    /** Every label, check box and item has room for its text, at twice the text size too. */
+    void expectTextsFit()
+    {
+        auto& canvas = outlet<QWidget>("keyCanvas");
+        for (const double factor : {1.0, 1.25, 1.5, 2.0}) {
+            QFont font = QApplication::font();
+            font.setPointSizeF(font.pointSizeF() * factor);
+            mWindow->setFont(font);
+            for (const QWidget* const control :
+                canvas.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+                const bool isText = qobject_cast<const QLabel*>(control) != nullptr
+                    || qobject_cast<const QCheckBox*>(control) != nullptr;
+                EXPECT_TRUE(!isText || control->sizeHint().width() <= control->width())
+                    << factor << ' ' << qPrintable(control->objectName());
+            }
+            for (int item = 0; item < box(0).count(); ++item) {
+                constexpr int kArrowAndFrame = 30;
+                EXPECT_LE(box(0).fontMetrics().horizontalAdvance(box(0).itemText(item))
+                        + kArrowAndFrame * factor,
+                    box(0).width())
+                    << factor << ' ' << qPrintable(box(0).itemText(item));
+            }
+        }
+    }
+    /** The name of an express key's box; slots from 0. */
+    static std::string name(int slot)
+    {
+        return "mKey" + std::to_string(slot / 8 + 1) + '_' + std::to_string(slot % 8 + 1);
+    }
+
+    /** The first n boxes stand at these distances below the first, with its x and size. */
+    void expectColumn(std::initializer_list<double> distances)
+    {
+        const Rect first = frame("mKey1_1");
+        int slot = 1;
+        for (const double distance : distances) {
+            EXPECT_EQ(
+                frame(name(slot)), (Rect{first.x, first.y - distance, first.width, first.height}))
+                << slot;
+            ++slot;
+        }
+    }
+    /** So many keys of the first bank are shown. */
+    void expectShown(int keys)
+    {
+        for (int slot = 0; slot < 16; ++slot) {
+            EXPECT_EQ(hidden(name(slot)), slot >= keys) << slot;
+            std::string label = name(slot);
+            label.replace(1, 3, "Label");
+            EXPECT_EQ(hidden(label), slot >= keys) << label;
+        }
+        EXPECT_TRUE(hidden("mKeyRScroll"));
+    }
+
+    /** Chooses as a person does: opens the list, goes to the item, takes it. */
+    static void choose(QVKeyComboBox& box, int item)
+    {
+        box.setFocus();
+        QTest::keyClick(&box, Qt::Key_Space);
+        QTest::keyClick(box.view(), Qt::Key_Home);
+        for (int i = 0; i < item; ++i) {
+            QTest::keyClick(box.view(), Qt::Key_Down);
+        }
+        QTest::keyClick(box.view(), Qt::Key_Return);
+    }
+
+    /** Chooses the key combination and does something in the dialog once it is open. */
+    void chooseKeys(QVKeyComboBox& box, const std::function<void(QVKeySetClass&)>& act)
+    {
+        bool wasOpen = false;
+        QTimer::singleShot(0, mWindow.get(), [&] {
+            auto* const dialog = qobject_cast<QVKeySetClass*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            wasOpen = true;
+            act(*dialog);
+            if (dialog->isVisible()) {
+                ADD_FAILURE() << "the dialog is still open";
+                dialog->reject();
+            }
+        });
+        choose(box, QVKeyComboBox::KeyCombination);
+        EXPECT_TRUE(wasOpen);
+    }
+    static void click(QVKeySetClass& dialog, std::initializer_list<const char*> buttons)
+    {
+        for (const char* const button : buttons) {
+            auto* const found = dialog.findChild<QAbstractButton*>(QString::fromLatin1(button));
+            ASSERT_NE(found, nullptr) << button;
+            QTest::mouseClick(found, Qt::LeftButton);
+        }
+    }
+
+    const tagQVTabletInfoSubKey& slot(int number)
+    {
+        return qvTabletInfo.Key.SubKey[static_cast<std::size_t>(number)];
+    }
+
+    FakeOpenPanel mPanel;
+    Rect mFirst; ///< mKey1_1 in the interface file
+    Rect mStrip; ///< mKeyLScroll in the interface file
+};
+
+} // namespace
+
+// Layouts -----------------------------------------------------------------------------------------
+
+TEST_F(KeyPage, layoutALeavesTheInterfaceFilesPlaces)
+{
+    showProduct(kProductA);
+    expectShown(8);
+    EXPECT_EQ(frame("mKey1_1"), mFirst);
+    EXPECT_EQ(frame("mKeyLScroll"), mStrip);
+    EXPECT_FALSE(hidden("mKeyLScroll"));
+    for (const char* const name : {"mKey1_1", "mKeyLScroll", "penKeyLower", "mScrollSpeed"}) {
+        EXPECT_TRUE(enabled(name)) << name;
+    }
+    EXPECT_EQ(outlet<QSlider>("mScrollSpeed").value(), 1) << "only layout G sets it";
+}
+
+TEST_F(KeyPage, anUnknownProductGetsLayoutAAndAllSixteenSlots)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Basic.ProductID = -1;
+        for (int i = 0; i < 16; ++i) {
+            record.Key.SubKey[static_cast<std::size_t>(i)].Valid = 6;
+        }
+    });
+    show();
+    expectShown(8);
+    for (int i = 0; i < 16; ++i) {
+        EXPECT_EQ(box(i).currentIndex(), 9) << i;
+    }
+}
+
+TEST_F(KeyPage, layoutBDisablesEverythingButTheUpperPenButton)
+{
+    showProduct(kProductB);
+    expectShown(8);
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_FALSE(box(i).isEnabled()) << i;
+    }
+    for (const char* const name : {"mKeyLScroll", "penKeyLower", "mScrollSpeed"}) {
+        EXPECT_FALSE(enabled(name)) << name;
+    }
+    EXPECT_TRUE(enabled("penKeyUpper"));
+    EXPECT_FALSE(hidden("mKeyLScroll"));
+    EXPECT_EQ(frame("mKey1_1"), mFirst);
+}
+
+TEST_F(KeyPage, layoutCShowsFourKeysAndDisablesTheReportSpeed)
+{
+    outlet<QWidget>("mMonitorSpeed").setEnabled(true);
+    showProduct(kProductC);
+    expectShown(4);
+    EXPECT_TRUE(hidden("mKeyLScroll"));
+    EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x + 5, mFirst.y - 65, mFirst.width, mFirst.height}));
+    expectColumn({45, 90, 135});
+    for (const char* const name : {"penKeyLower", "mScrollSpeed", "mMonitorSpeed"}) {
+        EXPECT_FALSE(enabled(name)) << name;
+    }
+    EXPECT_TRUE(enabled("mKey1_1"));
+}
+
+TEST_F(KeyPage, layoutDIsLikeCButKeepsTheReportSpeed)
+{
+    outlet<QWidget>("mMonitorSpeed").setEnabled(true);
+    showProduct(kProductD);
+    expectShown(4);
+    EXPECT_TRUE(hidden("mKeyLScroll"));
+    EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x + 5, mFirst.y - 65, mFirst.width, mFirst.height}));
+    expectColumn({45, 90, 135});
+    EXPECT_FALSE(enabled("penKeyLower"));
+    EXPECT_FALSE(enabled("mScrollSpeed"));
+    EXPECT_TRUE(enabled("mMonitorSpeed"));
+}
+
+TEST_F(KeyPage, layoutEShowsFiveKeysAndDisablesTheHiddenOnes)
+{
+    showProduct(kProductE);
+    expectShown(5);
+    EXPECT_TRUE(hidden("mKeyLScroll"));
+    EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x + 45, mFirst.y - 50, mFirst.width, mFirst.height}));
+    expectColumn({45, 90, 135, 180});
+    for (const char* const name :
+        {"mKey1_6", "mKey1_7", "mKey1_8", "penKeyLower", "mScrollSpeed"}) {
+        EXPECT_FALSE(enabled(name)) << name;
+    }
+}
+
+TEST_F(KeyPage, layoutFShowsSevenKeysWithWiderGapsAroundTheFourth)
+{
+    showProduct(kProductF);
+    expectShown(7);
+    EXPECT_TRUE(hidden("mKeyLScroll"));
+    EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x + 45, mFirst.y - 40, mFirst.width, mFirst.height}));
+    expectColumn({30, 60, 100, 140, 170, 200});
+    EXPECT_FALSE(enabled("mScrollSpeed"));
+    EXPECT_TRUE(enabled("penKeyLower"));
+}
+
+TEST_F(KeyPage, oneModelOfLayoutFHasNoLowerPenButton)
+{
+    showProduct(kProductFLite);
+    expectShown(7);
+    EXPECT_FALSE(enabled("penKeyLower"));
+    EXPECT_FALSE(enabled("mScrollSpeed"));
+}
+
+TEST_F(KeyPage, layoutGGroupsTheKeysAroundTheStripAndTintsThem)
+{
+    const Rect fifth = frame("mKey1_5");
+    showProduct(kProductG);
+    expectShown(8);
+    EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x, mFirst.y - 25, mFirst.width, mFirst.height}));
+    expectColumn({25, 50, 75});
+    EXPECT_EQ(frame("mKeyLScroll"), (Rect{mStrip.x + 15, mStrip.y, mStrip.width, mStrip.height}));
+    EXPECT_EQ(frame("mKey1_5"), fifth);
+    for (int i = 1; i < 4; ++i) {
+        EXPECT_EQ(frame(name(4 + i)), (Rect{fifth.x, fifth.y - 25 * i, fifth.width, fifth.height}));
+    }
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_EQ(box(i).palette().color(QPalette::Button), QColor(170, 170, 170)) << i;
+    }
+    EXPECT_NE(
+        outlet<QWidget>("penKeyUpper").palette().color(QPalette::Button), QColor(170, 170, 170));
+}
+
+TEST_F(KeyPage, layoutGShowsTheScrollSpeedWithoutPushingIt)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Basic.ProductID = kProductG;
+        record.Key.ScrollSpeed = 7;
+    });
+    show();
+    EXPECT_EQ(outlet<QSlider>("mScrollSpeed").value(), 7);
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(KeyPage, aScrollSpeedBeyondTheSliderIsKeptInTheRecord)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Basic.ProductID = kProductG;
+        record.Key.ScrollSpeed = 28;
+    });
+    show();
+    EXPECT_EQ(outlet<QSlider>("mScrollSpeed").value(), 10);
+    EXPECT_EQ(+qvTabletInfo.Key.ScrollSpeed, 28);
+}
+
+TEST_F(KeyPage, layoutHDisablesAllKeys)
+{
+    showProduct(kProductH);
+    expectShown(8);
+    EXPECT_TRUE(hidden("mKeyLScroll"));
+    for (int i = 0; i < 16; ++i) {
+        EXPECT_FALSE(box(i).isEnabled()) << i;
+    }
+    EXPECT_FALSE(enabled("penKeyLower"));
+    EXPECT_TRUE(enabled("penKeyUpper"));
+    EXPECT_FALSE(enabled("mScrollSpeed"));
+}
+
+TEST_F(KeyPage, laidOutTwiceMovesTheFirstKeyTwice)
+{
+    setProduct(kProductC);
+    mPane.willSelect();
+    mPane.willSelect();
+    EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x + 10, mFirst.y - 130, mFirst.width, mFirst.height}));
+    expectColumn({45, 90, 135});
+}
+
+TEST_F(KeyPage, leavingInBetweenLetsTheKeysStandStill)
+{
+    showProduct(kProductC);
+    const Rect first = frame("mKey1_1");
+    leave();
+    EXPECT_EQ(frame("mKey1_1"), mFirst);
+    show();
+    EXPECT_EQ(frame("mKey1_1"), first);
+}
+
+TEST_F(KeyPage, theNumbersStandBesideTheirBoxes)
+{
+    for (const QVTabletModel& model : kQVTabletModels) {
+        showProduct(model.productID);
+        for (int i = 0; i < 8; ++i) {
+            std::string label = name(i);
+            label.replace(1, 3, "Label");
+            const Rect box = frame(name(i));
+            EXPECT_EQ(frame(label), (Rect{box.x - 32, box.y, 26, box.height})) << model.name << i;
+            EXPECT_EQ(enabled(label), enabled(name(i))) << model.name << i;
+        }
+        leave();
+    }
+}
+
+TEST_F(KeyPage, nothingOverlapsOrLeavesThePageInAnyLayout)
+{
+    auto& canvas = outlet<QWidget>("keyCanvas");
+    for (const QVTabletModel& model : kQVTabletModels) {
+        showProduct(model.productID);
+        QList<QWidget*> shown;
+        for (QWidget* const control :
+            canvas.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            if (control->isHidden()) {
+                continue;
+            }
+            EXPECT_TRUE(canvas.rect().contains(control->geometry()))
+                << model.name << ' ' << qPrintable(control->objectName());
+            for (const QWidget* const other : shown) {
+                EXPECT_FALSE(other->geometry().intersects(control->geometry()))
+                    << model.name << ' ' << qPrintable(control->objectName()) << ' '
+                    << qPrintable(other->objectName());
+            }
+            shown.append(control);
+        }
+        leave();
+    }
+}
+
+TEST_F(KeyPage, noLayoutIsLeftOverForTheNextModel)
+{
+    // What each control is like in every layout when it is the first.
+    const auto state = [this] {
+        QStringList lines;
+        for (const QWidget* const control :
+            outlet<QWidget>("keyCanvas")
+                .findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
+            const Rect place = platform::frame(*control);
+            lines += QStringLiteral("%1 %2 %3 %4 %5 %6 %7 %8")
+                         .arg(control->objectName())
+                         .arg(place.x)
+                         .arg(place.y)
+                         .arg(place.width)
+                         .arg(place.height)
+                         .arg(control->isHidden())
+                         .arg(control->isEnabled())
+                         .arg(control->palette().color(QPalette::Button).name());
+        }
+        lines += QString::number(outlet<QSlider>("mScrollSpeed").value());
+        return lines.join(u'\n');
+    };
+    const std::vector products{kProductA, kProductB, kProductC, kProductD, kProductE, kProductFLite,
+        kProductF, kProductG, kProductH};
+    std::map<std::uint16_t, QString> expected;
+    for (const std::uint16_t product : products) {
+        QVTblt_prefPanePref pane;
+        pane.initWithBundle(platform::Bundle(QStringLiteral(QVTBLT_STAGE_RESOURCES)));
+        std::unique_ptr<QWidget> window(pane.loadMainView());
+        setProduct(product);
+        window.swap(mWindow);
+        pane.willSelect();
+        expected[product] = state();
+        pane.willUnselect();
+        pane.didUnselect();
+        window.swap(mWindow);
+    }
+    for (const std::uint16_t before : products) {
+        for (const std::uint16_t after : products) {
+            showProduct(before);
+            leave();
+            showProduct(after);
+            EXPECT_EQ(state(), expected[after]) << std::hex << before << ' ' << after;
+            leave();
+        }
+    }
+}
+
+TEST_F(KeyPage, anotherModelForgetsTheTextsOfTheLast)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Basic.ProductID = kProductA;
+        record.Key.SubKey[3].Valid = 2;
+    });
+    show();
+    EXPECT_EQ(box(3).itemText(5), QStringLiteral("/app/3"));
+    leave();
+    edit([](tagQVTabletInfo& record) {
+        record.Basic.ProductID = kProductG;
+        record.Key.SubKey[3].Valid = 0;
+    });
+    show();
+    EXPECT_NE(box(3).itemText(5), QStringLiteral("/app/3"));
+}
+
+// Showing a slot ----------------------------------------------------------------------------------
+
+TEST_F(KeyPage, everyValidAndMouseShowsItsItemAndCommitsIt)
+{
+    show();
+    tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
+    const auto expect = [&](int item) {
+        mPane.InitSingleComboBoxWithKey(&box(2), 2);
+        ASSERT_EQ(box(2).currentIndex(), item) << key.Valid << ' ' << key.Mouse;
+        ASSERT_EQ(box(2).maxVisibleItems(), 100 + item) << key.Valid << ' ' << key.Mouse;
+    };
+    for (int valid = -32768; valid <= 32767; ++valid) {
+        key.Valid = static_cast<std::int16_t>(valid);
+        key.Mouse = 7;
+        expect(valid >= 2 && valid <= 6 ? valid + 3 : 0);
+    }
+    key.Valid = 1;
+    for (int mouse = -32768; mouse <= 32767; ++mouse) {
+        key.Mouse = static_cast<std::int16_t>(mouse);
+        expect(mouse == 0 ? 1 : mouse == 1 ? 2 : mouse == 3 ? 3 : mouse == 2 ? 4 : 0);
+    }
+}
+
+TEST_F(KeyPage, anUnknownMouseButtonIsNoAction)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Key.SubKey[0].Valid = 1;
+        record.Key.SubKey[0].Mouse = 7;
+    });
+    show();
+    EXPECT_EQ(box(0).currentIndex(), 0);
+    EXPECT_EQ(box(0).maxVisibleItems(), 100);
+}
+
+TEST_F(KeyPage, anUnknownKindIsNoActionAndTheLastKnownIsTheLastItem)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Key.SubKey[0].Valid = 9;
+        record.Key.SubKey[1].Valid = 6;
+    });
+    show();
+    EXPECT_EQ(box(0).currentIndex(), 0);
+    EXPECT_EQ(box(1).currentIndex(), 9);
+}
+
+TEST_F(KeyPage, theStoredCombinationIsItsItemsText)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Key.SubKey[17].Valid = 3;
+        record.Key.SubKey[17].Key = 0x03063836;
+    });
+    show();
+    EXPECT_EQ(box(17).currentIndex(), 6);
+    EXPECT_EQ(box(17).currentText(), QStringLiteral("Ctrl  Shift  Z"));
+}
+
+TEST_F(KeyPage, theCombinationsTextDoesNotLookAtTheKind)
+{
+    qvTabletInfo.Key.SubKey[5].Valid = 0;
+    qvTabletInfo.Key.SubKey[5].Key = 0x0200000B;
+    const tagQVTabletInfo before = qvTabletInfo;
+    EXPECT_EQ(mPane.GetSubKeyString(5), QStringLiteral("B  A"));
+    EXPECT_TRUE(sameBytes(qvTabletInfo, before));
+}
+
+TEST_F(KeyPage, everyCombinationIsShownWithoutHarm)
+{
+    show();
+    std::mt19937 random(4711); // NOLINT(cert-msc51-cpp): the same values in every run
+    tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
+    key.Valid = 3;
+    for (int i = 0; i < 2000; ++i) {
+        key.Key = static_cast<std::uint32_t>(random());
+        mPane.InitSingleComboBoxWithKey(&box(2), 2);
+        ASSERT_EQ(box(2).count(), 10);
+        ASSERT_EQ(box(2).currentText(), mPane.GetSubKeyString(2));
+    }
+}
+
+TEST_F(KeyPage, aPathWithoutItsNulIsReadToTheFieldsEndOnly)
+{
+    show();
+    tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
+    key.Valid = 2;
+    key.App.fill('x');
+    qvTabletInfo.Key.SubKey[3].Valid = 0x7979;
+    mPane.InitSingleComboBoxWithKey(&box(2), 2);
+    EXPECT_EQ(box(2).currentText(), QString(256, u'x'));
+    box(2).grab();
+}
+
+TEST_F(KeyPage, aPathOfAnyBytesIsShownWithoutHarm)
+{
+    show();
+    tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
+    key.Valid = 2;
+    key.App.fill('\0');
+    std::strcpy(key.App.data(), "/a\n\x01\x7f\xC3\xBC");
+    mPane.InitSingleComboBoxWithKey(&box(2), 2);
+    EXPECT_EQ(box(2).currentText(), QStringLiteral("/a\n\u0001\u007f\uFFFD\uFFFD"));
+    box(2).grab();
+    box(2).showPopup();
+    box(2).view()->grab();
+    box(2).hidePopup();
+}
+
+TEST_F(KeyPage, theListOpensWithAllTenItems)
+{
+    show();
+    box(0).showPopup();
+    QAbstractItemView* const list = box(0).view();
+    for (int i = 0; i < 10; ++i) {
+        const QRect item = list->visualRect(box(0).model()->index(i, 0));
+        EXPECT_TRUE(list->viewport()->rect().contains(item)) << i;
+    }
+    box(0).hidePopup();
+}
+
+// Choosing ----------------------------------------------------------------------------------------
+
+TEST_F(KeyPage, everyPlainChoiceIsPushedAndNotCommitted)
+{
+    struct Choice {
+        int item;
+        std::int16_t valid;
+        std::int16_t mouse;
+    };
+    show();
+    constexpr std::int16_t kKept = 2;
+    for (const Choice& choice : std::vector<Choice>{{1, 1, 0}, {2, 1, 1}, {3, 1, 3}, {4, 1, 2},
+             {0, 0, kKept}, {7, 4, kKept}, {8, 5, kKept}, {9, 6, kKept}}) {
+        const std::size_t before = pushes().size();
+        choose(box(2), choice.item);
+        ASSERT_EQ(pushes().size(), before + 1) << choice.item;
+        EXPECT_EQ(+pushes().back().Key.SubKey[2].Valid, choice.valid) << choice.item;
+        EXPECT_EQ(+pushes().back().Key.SubKey[2].Mouse, choice.mouse) << choice.item;
+        EXPECT_EQ(box(2).maxVisibleItems(), 100) << choice.item;
+    }
+}
+
+TEST_F(KeyPage, aChoiceChangesNothingButItsSlot)
+{
+    show();
+    const tagQVTabletInfo before = qvTabletInfo;
+    choose(box(16), 3);
+    tagQVTabletInfo expected = before;
+    expected.Key.SubKey[16].Valid = 1;
+    expected.Key.SubKey[16].Mouse = 3;
+    EXPECT_TRUE(sameBytes(qvTabletInfo, expected));
+}
+
+TEST_F(KeyPage, theFourthItemIsMouseTwoAndIsShownAgain)
+{
+    show();
+    choose(box(0), 4);
+    EXPECT_EQ(+slot(0).Mouse, 2);
+    leave();
+    show();
+    EXPECT_EQ(box(0).currentIndex(), 4);
+    EXPECT_EQ(box(0).maxVisibleItems(), 104);
+}
+
+TEST_F(KeyPage, codeThatChangesABoxChoosesNothing)
+{
+    show();
+    box(0).setCurrentIndex(3);
+    EXPECT_TRUE(pushes().empty());
+    EXPECT_EQ(+slot(0).Valid, 100);
+}
+
+TEST_F(KeyPage, noItemOrAnUnknownOnePushesTheRecordAsItIs)
+{
+    show();
+    const tagQVTabletInfo before = qvTabletInfo;
+    box(0).setCurrentIndex(-1);
+    mPane.SelectKey(&box(0));
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_TRUE(sameBytes(pushes().back(), before));
+}
+
+TEST_F(KeyPage, anApplicationIsStoredShownAndPushedTwice)
+{
+    show();
+    mPanel.path = QStringLiteral("/usr/share/applications/draw.desktop");
+    choose(box(3), 5);
+    EXPECT_EQ(mPanel.asked, 1);
+    ASSERT_EQ(pushes().size(), 2U);
+    for (const tagQVTabletInfo& record : pushes()) {
+        EXPECT_EQ(+record.Key.SubKey[3].Valid, 2);
+        EXPECT_STREQ(record.Key.SubKey[3].App.data(), "/usr/share/applications/draw.desktop");
+    }
+    EXPECT_EQ(box(3).currentIndex(), 5);
+    EXPECT_EQ(box(3).currentText(), *mPanel.path);
+}
+
+TEST_F(KeyPage, aCancelledChooserShowsTheRecordAgainAndStillPushes)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Key.SubKey[3].Valid = 1;
+        record.Key.SubKey[3].Mouse = 1;
+    });
+    show();
+    const tagQVTabletInfo before = qvTabletInfo;
+    choose(box(3), 5);
+    EXPECT_EQ(mPanel.asked, 1);
+    EXPECT_EQ(box(3).currentIndex(), 2);
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_TRUE(sameBytes(pushes().back(), before));
+}
+
+TEST_F(KeyPage, aPathThatFitsIsStoredWhole)
+{
+    show();
+    mPanel.path = u'/' + QString(254, u'x');
+    choose(box(3), 5);
+    EXPECT_EQ(QByteArray(slot(3).App.data()), mPanel.path->toLatin1());
+}
+
+TEST_F(KeyPage, aPathThatCannotBeStoredLeavesTheFieldEmptyAndItsNeighboursAlone)
+{
+    for (const QString& path : {u'/' + QString(255, u'x'), u'/' + QString(4095, u'x'),
+             QStringLiteral("/opt/M\u00fcller/draw.desktop")}) {
+        show();
+        const tagQVTabletInfoSubKey next = slot(4);
+        mPanel.path = path;
+        choose(box(3), 5);
+        EXPECT_EQ(+slot(3).Valid, 2);
+        EXPECT_EQ(slot(3).App, QVString{}) << path.size();
+        EXPECT_EQ(std::memcmp(&slot(4), &next, sizeof next), 0);
+        leave();
+    }
+}
+
+TEST_F(KeyPage, aShorterPathLeavesNothingOfALongerOne)
+{
+    show();
+    mPanel.path = QStringLiteral("/usr/share/applications/draw.desktop");
+    choose(box(3), 5);
+    mPanel.path = QStringLiteral("/a.app");
+    choose(box(3), 5);
+    QVString expected{};
+    std::strcpy(expected.data(), "/a.app");
+    EXPECT_EQ(slot(3).App, expected);
+}
+
+// Key combinations --------------------------------------------------------------------------------
+
+TEST_F(KeyPage, aCombinationIsStoredShownCommittedAndPushedOnce)
+{
+    show();
+    chooseKeys(box(2), [](QVKeySetClass& dialog) {
+        click(dialog, {"keyCtrl", "keyShift", "keyZ", "okBtn"});
+    });
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_EQ(+pushes().back().Key.SubKey[2].Valid, 3);
+    EXPECT_EQ(+pushes().back().Key.SubKey[2].Key, 0x03063836U);
+    EXPECT_EQ(box(2).currentIndex(), 6);
+    EXPECT_EQ(box(2).currentText(), QStringLiteral("Ctrl  Shift  Z"));
+    EXPECT_EQ(box(2).maxVisibleItems(), 106);
+}
+
+TEST_F(KeyPage, aCancelledDialogChangesNothingAndPushesNothing)
+{
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[2].Valid = 5; });
+    show();
+    const tagQVTabletInfo before = qvTabletInfo;
+    chooseKeys(box(2), [](QVKeySetClass& dialog) { click(dialog, {"keyZ", "cancelBtn"}); });
+    EXPECT_TRUE(pushes().empty());
+    EXPECT_TRUE(sameBytes(qvTabletInfo, before));
+    EXPECT_EQ(box(2).currentIndex(), 8);
+}
+
+TEST_F(KeyPage, okWithoutAKeyIsLikeCancel)
+{
+    show();
+    const tagQVTabletInfo before = qvTabletInfo;
+    chooseKeys(box(2), [](QVKeySetClass& dialog) { dialog.SaveKeyData(); });
+    EXPECT_TRUE(pushes().empty());
+    EXPECT_TRUE(sameBytes(qvTabletInfo, before));
+    EXPECT_EQ(box(2).currentIndex(), 0);
+}
+
+TEST_F(KeyPage, cancellingOverAStoredCombinationKeepsItShown)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Key.SubKey[2].Valid = 3;
+        record.Key.SubKey[2].Key = 0x01000006;
+    });
+    show();
+    chooseKeys(box(2), [](QVKeySetClass& dialog) { dialog.reject(); });
+    EXPECT_EQ(box(2).currentIndex(), 6);
+    EXPECT_EQ(box(2).currentText(), QStringLiteral("Z"));
+}
+
+TEST_F(KeyPage, cancellingGoesBackToTheCommittedItemNotToTheChoiceInBetween)
+{
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[2].Valid = 4; });
+    show();
+    choose(box(2), 9);
+    chooseKeys(box(2), [](QVKeySetClass& dialog) { dialog.reject(); });
+    EXPECT_EQ(box(2).currentIndex(), 7);
+    EXPECT_EQ(+slot(2).Valid, 6) << "the record keeps the choice in between";
+}
+
+TEST_F(KeyPage, aDriverThatDiesWhileTheDialogIsOpenLosesNothing)
+{
+    show();
+    chooseKeys(box(2), [this](QVKeySetClass& dialog) {
+        mEvents.sendResult = platform::procNotFound;
+        click(dialog, {"keyB", "okBtn"});
+    });
+    EXPECT_EQ(+slot(2).Key, 0x0100000BU);
+    EXPECT_EQ(box(2).maxVisibleItems(), 106);
+    leave();
+    EXPECT_EQ(+recordInFile().Key.SubKey[2].Key, 0x0100000BU);
+}
+
+TEST_F(KeyPage, theOneDialogServesEveryBox)
+{
+    show();
+    chooseKeys(box(2), [](QVKeySetClass& dialog) { click(dialog, {"keyB", "okBtn"}); });
+    chooseKeys(box(17), [](QVKeySetClass& dialog) { click(dialog, {"keyC", "okBtn"}); });
+    EXPECT_EQ(+slot(2).Key, 0x0100000BU);
+    EXPECT_EQ(+slot(17).Key, 0x01000008U);
+    EXPECT_EQ(box(2).currentText(), QStringLiteral("B"));
+}
+
+TEST_F(KeyPage, theOrOfCountsIsShownAsStoredAtTheNextShowing)
+{
+    show();
+    chooseKeys(box(2), [](QVKeySetClass& dialog) {
+        click(dialog, {"keyX", "keyY", "delBtn", "keyZ", "okBtn"});
+    });
+    EXPECT_EQ(box(2).currentText(), QStringLiteral("X  Z"));
+    leave();
+    show();
+    EXPECT_EQ(box(2).currentText(), QStringLiteral("X  Z  A"));
+}
+
+// Slider, cancel ----------------------------------------------------------------------------------
+
+TEST_F(KeyPage, theSlidersValueIsPushedAtOnce)
+{
+    showProduct(kProductG);
+    auto& slider = outlet<QSlider>("mScrollSpeed");
+    slider.setValue(4);
+    QTest::keyClick(&slider, Qt::Key_Right);
+    ASSERT_GE(pushes().size(), 1U);
+    EXPECT_EQ(+pushes().back().Key.ScrollSpeed, 5);
+}
+
+TEST_F(KeyPage, cancelPushesTheFileWhileTheBoxesKeepTheChoices)
+{
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[0].Valid = 4; });
+    show();
+    choose(box(0), 9);
+    QTest::mouseClick(&outlet<QPushButton>("mCancel"), Qt::LeftButton);
+    EXPECT_EQ(+pushes().back().Key.SubKey[0].Valid, 4);
+    EXPECT_EQ(box(0).currentIndex(), 9);
+    leave();
+    show();
+    EXPECT_EQ(box(0).currentIndex(), 7);
+}
+
+// Languages ---------------------------------------------------------------------------------------
+
+class GermanKeyPage : public KeyPage {
+protected:
+    GermanKeyPage()
+        : KeyPage(QLocale::German)
+    {
+    }
+};
+
+TEST_F(KeyPage, isEnglishWhereThereIsNoTranslation)
+{
+    EXPECT_EQ(box(0).itemText(1), QStringLiteral("Left mouse button"));
+}
+
+TEST_F(GermanKeyPage, hasItsTextsTranslated)
+{
+    EXPECT_EQ(box(0).itemText(1), QStringLiteral("Linke Maustaste"));
+    EXPECT_EQ(outlet<QCheckBox>("mKeyLScroll").text(), QStringLiteral("&Linker Rollstreifen"));
+}
+
+TEST_F(KeyPage, noTextIsCutOff)
+{
+    showProduct(kProductG);
+    expectTextsFit();
+}
+
+TEST_F(GermanKeyPage, noTextIsCutOff)
+{
+    showProduct(kProductG);
+    expectTextsFit();
+}
