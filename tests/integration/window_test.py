@@ -59,11 +59,11 @@ class Window(desktop.Desktop):
         self.start_panel()
         before = int(self.simulator("Pushes")[1])
         self.xdotool("search", "--sync", "--onlyvisible", "--name", TITLE, "windowactivate",
-                     "--sync", "key", "alt+r")
+                     "--sync", "key", "alt+l")
         session.wait_for(lambda: int(self.simulator("Pushes")[1]) > before, "the push")
-        self.assertEqual(self.driver_strips(), (0, 1))
+        self.assertEqual(self.driver_strips(), (1, 0))
         self.xdotool("key", "alt+v")
-        session.wait_for(lambda: self.file_strips() == (0, 1), "the file")
+        session.wait_for(lambda: self.file_strips() == (1, 0), "the file")
 
     def test_closing_the_window_saves(self):
         self.start_driver()

@@ -4,7 +4,7 @@
 
 A process of its own, since the library can speak to one session in its life.
 
-Usage: accessible.py APPLICATION
+Usage: accessible.py APPLICATION [--items]: with the items of lists, of which there are many
 """
 
 import json
@@ -39,6 +39,8 @@ def describe(thing, path, found):
             "width": extents.width if extents else 0,
             "height": extents.height if extents else 0,
         })
+        if thing.get_role() == Atspi.Role.COMBO_BOX and "--items" not in sys.argv:
+            return
         for i in range(thing.get_child_count()):
             child = thing.get_child_at_index(i)
             if child is not None:

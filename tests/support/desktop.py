@@ -35,19 +35,23 @@ class Desktop(session.Session):
                 "org.freedesktop.DBus", "NameHasOwner", "s", "org.a11y.Bus").stdout == "b true\n",
             "the accessibility bus")
 
-    def things(self, application):
-        """All that the application shows to screen readers."""
+    def things(self, application, *options):
+        """All that the application shows to screen readers; the items of lists with "--items"."""
         script = pathlib.Path(__file__).with_name("accessible.py")
-        result = self.run_program("/usr/bin/python3", "-B", script, application)
+        result = self.run_program("/usr/bin/python3", "-B", script, application, *options)
         self.assertEqual(result.returncode, 0, result.stderr)
         return json.loads(result.stdout)
 
-    def find(self, application, name, role=None, showing=True):
-        """Waits for the thing with that name; gives its properties."""
+    def find(self, application, name, role=None, showing=True, inside=()):
+        """Waits for the thing with that name or description; gives its properties. The thing is below
+        the one whose path is given."""
+        options = ["--items"] if role == "list item" else []
+
         def look():
-            for thing in self.things(application):
-                if thing["name"] == name and role in (None, thing["role"]) \
-                        and thing["showing"] == showing:
+            for thing in self.things(application, *options):
+                if name in (thing["name"], thing["description"]) and role in (None, thing["role"]) \
+                        and thing["showing"] == showing \
+                        and thing["path"][:len(inside)] == list(inside):
                     return thing
             return None
         return session.wait_for(look, f"{role or 'thing'} '{name}' of {application}")

@@ -1,0 +1,126 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""The key page as a person uses it: a combination by mouse and by keyboard, an application, a model
+that is changed and comes back."""
+
+import subprocess
+import unittest
+
+import desktop
+import session
+
+TITLE = "Quorvia Tablet"
+CTRL_SHIFT_Z = 0x03063836
+
+
+class KeyPage(desktop.Desktop):
+    def setUp(self):
+        super().setUp()
+        self.start_driver()
+        self.application = self.home / "draw.desktop"
+        self.application.write_text("[Desktop Entry]\n")
+
+    def start_panel(self):
+        panel = self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.find("qvtblt", "Express key 3", "combo box")
+        return panel
+
+    def close_panel(self, panel):
+        self.close_window(TITLE)
+        self.assertEqual(panel.wait(timeout=20), 0)
+
+    def slot(self, number):
+        """Kind, combination and path of a slot of the driver's record."""
+        start = 319 + 264 * number
+        record = self.record()[start:start + 264]
+        return (int.from_bytes(record[0:2], "little", signed=True),
+                int.from_bytes(record[4:8], "little"), record[8:].split(b"\0")[0].decode())
+
+    def choose(self, box, item):
+        """Opens a box's list with the mouse and clicks one of its items."""
+        found = self.find("qvtblt", box, "combo box")
+        self.click(found)
+        # The list's window slides into its place.
+        place = [None]
+
+        def has_settled():
+            thing = self.find("qvtblt", item, "list item", inside=found["path"])
+            before, place[0] = place[0], (thing["x"], thing["y"])
+            return thing if place[0] == before and thing["height"] > 0 else None
+        self.click(session.wait_for(has_settled, "the list"))
+
+    def wait_for_slot(self, number, expected):
+        session.wait_for(lambda: len(self.record()) and self.slot(number) == expected,
+                         f"{expected} in slot {number}")
+
+    def shown(self):
+        """How many boxes show the combination, and how many the application."""
+        names = [thing["name"] for thing in self.things("qvtblt") if thing["role"] == "combo box"]
+        return names.count("Ctrl  Shift  Z"), names.count(str(self.application))
+
+    def assign_by_mouse(self):
+        self.choose("Express key 3", "Press keys…")
+        for key in ("Control", "Shift", "Z"):
+            self.click(self.find("qvtblt", key, "push button"))
+        self.click(self.find("qvtblt", "OK", "push button"))
+        self.wait_for_slot(2, (3, CTRL_SHIFT_Z, ""))
+
+    def assign_application(self):
+        self.choose("Express key 4", "Open an application…")
+        session.wait_for(lambda: self.run_program(
+            "xdotool", "search", "--onlyvisible", "--name", "Choose an application").stdout,
+            "the chooser")
+        self.find("qvtblt", "File name:", "text")
+        self.xdotool("type", str(self.application))
+        self.xdotool("key", "Return")
+        self.wait_for_slot(3, (2, 0, str(self.application)))
+
+    def test_a_combination_by_mouse_and_an_application_last(self):
+        panel = self.start_panel()
+        self.assign_by_mouse()
+        self.assign_application()
+        self.assertEqual(self.slot(2), (3, CTRL_SHIFT_Z, ""))
+        self.assertEqual(self.shown(), (1, 1))
+        self.close_panel(panel)
+
+        panel = self.start_panel()
+        self.assertEqual(self.shown(), (1, 1))
+        self.close_panel(panel)
+
+        self.simulator("Attach", "q", "20752")  # four keys, and a file of its own
+        panel = self.start_panel()
+        self.find("qvtblt", "Quorvia Pocket", "label")
+        self.assertEqual(self.shown(), (0, 0))
+        self.close_panel(panel)
+        self.simulator("Attach", "q", "20737")
+        panel = self.start_panel()
+        self.assertEqual(self.shown(), (1, 1))
+        self.close_panel(panel)
+
+    def focus(self, name):
+        """Goes to a control with Tab."""
+        for _ in range(90):
+            if any(name in (thing["name"], thing["description"]) for thing in self.things("qvtblt")
+                   if thing["focused"]):
+                return
+            self.xdotool("key", "Tab")
+        self.fail(f"Tab does not reach '{name}'")
+
+    def test_a_combination_by_keyboard_alone(self):
+        self.start_panel()
+        self.xdotool("search", "--sync", "--onlyvisible", "--name", TITLE, "windowactivate",
+                     "--sync")
+        self.focus("Express key 3")
+        self.xdotool("key", "Down")
+        self.find("qvtblt", "Press keys…", "list item")
+        self.xdotool("key", "Home", *["Down"] * 6, "Return")
+        for key in ("Control", "Shift", "Z"):
+            self.find("qvtblt", key, "push button")
+            self.focus(key)
+            self.xdotool("key", "space")
+        self.xdotool("key", "Return")
+        self.wait_for_slot(2, (3, CTRL_SHIFT_Z, ""))
+
+
+if __name__ == "__main__":
+    unittest.main()
