@@ -1,0 +1,117 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "BenchSession.h"
+#include "Client.h"
+#include "Paired.h"
+#include "QVKeyComboBox.h"
+#include "QVTabletModels.h"
+#include "QVTblt_prefPanePref.h"
+#include "rzkApplication.h"
+
+#include <QAbstractItemView>
+#include <QCoreApplication>
+#include <QKeyEvent>
+
+#include <array>
+#include <cstring>
+
+namespace {
+
+/** The panel, shown, with a record that uses every kind of item. */
+class ShownPane {
+public:
+    ShownPane()
+    {
+        mPane.initWithBundle({});
+        mView.reset(mPane.loadMainView());
+        mPane.willSelect();
+        mView->show();
+        mPane.didSelect();
+        for (std::size_t slot = 0; slot < kQVSlotCount; ++slot) {
+            tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[slot];
+            key.Valid = static_cast<std::int16_t>(slot % 7);
+            key.Mouse = static_cast<std::int16_t>(slot % 4);
+            key.Key = 0x03063836;
+            std::strcpy(key.App.data(), "/usr/share/applications/draw.desktop");
+        }
+        mPane.InitComboBoxWithKey();
+        QCoreApplication::processEvents();
+    }
+
+    QVTblt_prefPanePref& pane() { return mPane; }
+    QVKeyComboBox& box(const char* name)
+    {
+        return *mView->findChild<QVKeyComboBox*>(QString::fromLatin1(name));
+    }
+
+private:
+    QVTblt_prefPanePref mPane;
+    std::unique_ptr<QWidget> mView;
+};
+
+/** Floor: eighteen bare combo boxes on a page are filled with the same ten items. */
+void showKeyPage(benchmark::State& state)
+{
+    benchSession();
+    ShownPane shown;
+    QWidget page;
+    std::array<QComboBox*, kQVSlotCount> bare{};
+    for (QComboBox*& box : bare) {
+        box = new QComboBox(&page);
+    }
+    QStringList items;
+    const QVKeyComboBox& model = shown.box("mKey1_1");
+    for (int i = 0; i < model.count(); ++i) {
+        items.append(model.itemText(i));
+    }
+    page.show();
+    timePaired(
+        state, [&] { shown.pane().InitComboBoxWithKey(); },
+        [&] {
+            for (QComboBox* const box : bare) {
+                box->clear();
+                box->addItems(items);
+            }
+        },
+        [] { QCoreApplication::processEvents(); });
+}
+BENCHMARK(showKeyPage)->Iterations(kTurns)->UseManualTime();
+
+void press(QWidget* widget, Qt::Key key)
+{
+    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &down);
+}
+
+/** From the key that takes an item of the open list to the driver's answer. Floor: the push alone.
+ */
+void choose(benchmark::State& state)
+{
+    BenchSession& session = benchSession();
+    ShownPane shown;
+    const NoDiagnostics quiet;
+    QVKeyComboBox& box = shown.box("mKey1_1");
+    const auto open = [&] {
+        QCoreApplication::processEvents();
+        if (!box.view()->isVisible()) {
+            box.showPopup();
+            press(box.view(), Qt::Key_Home);
+        }
+        QCoreApplication::processEvents();
+    };
+    open();
+    timePaired(
+        state,
+        [&] {
+            press(box.view(), Qt::Key_Return);
+            session.events.finishSends();
+        },
+        [&] {
+            ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+            session.events.finishSends();
+        },
+        open);
+}
+BENCHMARK(choose)->Iterations(kTurns)->UseManualTime();
+
+} // namespace
