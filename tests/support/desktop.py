@@ -17,8 +17,10 @@ class Desktop(session.Session):
     def setUp(self):
         super().setUp()
         read, write = os.pipe()
-        self.start(["Xvfb", "-displayfd", write, "-screen", "0", self.SCREEN, "-nolisten", "tcp"],
-                   pass_fds=(write,), stderr=subprocess.DEVNULL)
+        # Without -noreset it would start over when the first of its programs ends, and take with it
+        # the one that is just connecting.
+        self.start(["Xvfb", "-displayfd", write, "-screen", "0", self.SCREEN, "-nolisten", "tcp",
+                    "-noreset"], pass_fds=(write,), stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as pipe:
             self.env["DISPLAY"] = ":" + pipe.readline().strip()
