@@ -89,6 +89,11 @@ int textWidth(const QStyleOptionComboBox& option, const QWidget* box)
     return field.width() - kMargins;
 }
 
+bool isPrintable(const QKeyEvent& event)
+{
+    return !event.text().isEmpty() && event.text().at(0).isPrint();
+}
+
 /** The key's usual effect on a closed box would be to choose another item at once. */
 bool wouldChoose(const QKeyEvent& event)
 {
@@ -101,9 +106,7 @@ bool wouldChoose(const QKeyEvent& event)
     case Qt::Key_End:
         return true;
     default:
-        return !event.text().isEmpty() && event.text().at(0).isPrint()
-            && (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier))
-            == 0;
+        return isPrintable(event);
     }
 }
 
@@ -141,6 +144,11 @@ void QVKeyComboBox::keyPressEvent(QKeyEvent* event)
         QComboBox::keyPressEvent(event);
         return;
     }
+    constexpr auto kShortcut = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    if (isPrintable(*event) && (event->modifiers() & kShortcut) != 0) {
+        event->ignore(); // a shortcut of nobody's
+        return;
+    }
     showPopup();
     if (event->key() != Qt::Key_Space) {
         // In the open list the key moves the mark, which Return then chooses.
@@ -167,13 +175,13 @@ void QVKeyComboBox::paintEvent(QPaintEvent* event)
 
 bool QVKeyComboBox::event(QEvent* event)
 {
-    if (event->type() == QEvent::ToolTip) {
+    if (const auto* const help = dynamic_cast<QHelpEvent*>(event);
+        help != nullptr && help->type() == QEvent::ToolTip) {
         QStyleOptionComboBox option;
         initStyleOption(&option);
         const bool fits = fontMetrics().horizontalAdvance(currentText()) <= textWidth(option, this);
         if (!fits) {
-            QToolTip::showText(
-                static_cast<QHelpEvent*>(event)->globalPos(), toolTipOf(currentText()), this);
+            QToolTip::showText(help->globalPos(), toolTipOf(currentText()), this);
             return true;
         }
     }

@@ -9,6 +9,7 @@
 
 #include <QAbstractButton>
 #include <QButtonGroup>
+#include <QEvent>
 #include <QStringList>
 
 namespace {
@@ -115,6 +116,17 @@ void QVKeySetClass::CancelSet()
 void QVKeySetClass::reject()
 {
     CancelSet();
+}
+
+bool QVKeySetClass::event(QEvent* event)
+{
+    const bool isHandled = QDialog::event(event);
+    if (event->type() == QEvent::WindowActivate) {
+        // Styles show the focus only to those who have used Tab, and so not where the arrows start.
+        setAttribute(Qt::WA_KeyboardFocusChange);
+        update();
+    }
+    return isHandled;
 }
 
 void QVKeySetClass::setHasKeys(bool hasKeys)

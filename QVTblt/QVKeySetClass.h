@@ -59,6 +59,9 @@ public:
     /** Escape and the window's close button cancel. */
     void reject() override;
 
+protected:
+    bool event(QEvent* event) override;
+
 private:
     void setHasKeys(bool hasKeys);
 

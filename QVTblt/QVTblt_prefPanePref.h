@@ -59,7 +59,7 @@ public:
      *
      * @param keyNo 0 to 15 for the express keys, 16 and 17 for the pen's upper and lower button
      */
-    void InitSingleComboBoxWithKey(QVKeyComboBox* comboBox, std::int32_t keyNo);
+    void InitSingleComboBoxWithKey(QVKeyComboBox* comboBox, std::int32_t keyNo) const;
     /**
      * Takes the user's choice into the slot that is the combo box's tag and pushes the record. The
      * item of an application opens the chooser, that of a key combination its dialog; what the

@@ -14,6 +14,7 @@
 
 #include <QAbstractItemView>
 #include <QApplication>
+#include <QPointer>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -96,8 +97,17 @@ void storePath(const QString& path, QVString& field)
 /** Light grey, with text that can be read on it in a dark theme too. */
 void tint(QVKeyComboBox& box)
 {
-    // The list stays as it is everywhere.
-    box.view()->setPalette(QApplication::palette(box.view()));
+    if (box.testAttribute(Qt::WA_SetPalette)) {
+        return; // it is already
+    }
+    // The list stays as it is everywhere; without a say of its own it would be grey too.
+    const QPalette usual = QApplication::palette(box.view());
+    QPalette list;
+    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Text, QPalette::Window,
+             QPalette::WindowText, QPalette::Button, QPalette::ButtonText}) {
+        list.setColor(role, usual.color(role));
+    }
+    box.view()->setPalette(list);
     QPalette palette = box.palette();
     for (const QPalette::ColorRole role : {QPalette::Button, QPalette::Base, QPalette::Window}) {
         palette.setColor(role, QColor(170, 170, 170));
@@ -179,6 +189,7 @@ void QVTblt_prefPanePref::restoreKeyPage()
     }
     for (QVKeyComboBox* const box : mSlotBoxes) {
         box->setPalette(QPalette());
+        box->view()->setPalette(QPalette());
         box->resetItems();
     }
     const QSignalBlocker blocker(mScrollSpeed);
@@ -291,7 +302,8 @@ QString QVTblt_prefPanePref::GetSubKeyString(std::int32_t keyNo) const
         QVKeyCombinationText(qvTabletInfo.Key.SubKey[static_cast<std::size_t>(keyNo)].Key));
 }
 
-void QVTblt_prefPanePref::InitSingleComboBoxWithKey(QVKeyComboBox* comboBox, std::int32_t keyNo)
+void QVTblt_prefPanePref::InitSingleComboBoxWithKey(
+    QVKeyComboBox* comboBox, std::int32_t keyNo) const
 {
     const tagQVTabletInfoSubKey& slot = qvTabletInfo.Key.SubKey[static_cast<std::size_t>(keyNo)];
     const QVKeyComboBox::Item item = itemOf(slot);
@@ -353,7 +365,12 @@ void QVTblt_prefPanePref::SelectKey(QVKeyComboBox* comboBox)
 
 void QVTblt_prefPanePref::takeApplication(QVKeyComboBox& comboBox, tagQVTabletInfoSubKey& slot)
 {
-    if (!SetApplicationPath()) {
+    const QPointer<QVKeyComboBox> box(&comboBox);
+    const bool isChosen = SetApplicationPath();
+    if (box.isNull()) { // the host has closed the panel meanwhile
+        return;
+    }
+    if (!isChosen) {
         InitSingleComboBoxWithKey(&comboBox, comboBox.tag());
         return;
     }
@@ -365,8 +382,12 @@ void QVTblt_prefPanePref::takeApplication(QVKeyComboBox& comboBox, tagQVTabletIn
 
 void QVTblt_prefPanePref::askForKeys(QVKeyComboBox& comboBox)
 {
+    const QPointer<QVKeyComboBox> box(&comboBox);
     mKeyset->QVShowWindow(&comboBox);
     mKeyset->exec();
+    if (box.isNull()) { // the host has closed the panel meanwhile
+        return;
+    }
     if (comboBox.maxVisibleItems() == QVKeySetClass::kStored) {
         push();
         comboBox.setMaxVisibleItems(kCommitted + QVKeyComboBox::KeyCombination);
@@ -377,8 +398,9 @@ void QVTblt_prefPanePref::askForKeys(QVKeyComboBox& comboBox)
 
 bool QVTblt_prefPanePref::SetApplicationPath()
 {
+    const QPointer<QVTblt_prefPanePref> pane(this);
     const std::optional<QString> path = platform::openPanel().chooseApplication(mainView());
-    if (!path) {
+    if (!path || pane.isNull()) {
         return false;
     }
     mFileName = *path;

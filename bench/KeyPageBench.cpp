@@ -9,8 +9,9 @@
 #include "rzkApplication.h"
 
 #include <QAbstractItemView>
-#include <QCoreApplication>
-#include <QKeyEvent>
+#include <QApplication>
+#include <QMouseEvent>
+#include <QTest>
 
 #include <array>
 #include <cstring>
@@ -77,14 +78,23 @@ void showKeyPage(benchmark::State& state)
 }
 BENCHMARK(showKeyPage)->Iterations(kTurns)->UseManualTime();
 
-void press(QWidget* widget, Qt::Key key)
+/** A click of the left mouse button on a row of the box's open list. */
+void click(QVKeyComboBox& box, int row)
 {
-    QKeyEvent down(QEvent::KeyPress, key, Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &down);
+    QWidget* const list = box.view()->viewport();
+    const QPointF at = box.view()->visualRect(box.model()->index(row, 0)).center();
+    const QPointF global = list->mapToGlobal(at.toPoint());
+    for (const QEvent::Type type :
+        {QEvent::MouseMove, QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const bool isDown = type == QEvent::MouseButtonPress;
+        QMouseEvent event(type, at, global,
+            type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton,
+            isDown ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(list, &event);
+    }
 }
 
-/** From the key that takes an item of the open list to the driver's answer. Floor: the push alone.
- */
+/** From the click on an item of the open list to the driver's answer. Floor: the push alone. */
 void choose(benchmark::State& state)
 {
     BenchSession& session = benchSession();
@@ -95,15 +105,18 @@ void choose(benchmark::State& state)
         QCoreApplication::processEvents();
         if (!box.view()->isVisible()) {
             box.showPopup();
-            press(box.view(), Qt::Key_Home);
         }
         QCoreApplication::processEvents();
     };
     open();
+    // The list takes no click so soon after it was opened.
+    QTest::qWait(QApplication::doubleClickInterval() + 100);
+    const auto before = DriverProcess::ask<uint>("Pushes");
+    int turn = 0;
     timePaired(
         state,
         [&] {
-            press(box.view(), Qt::Key_Return);
+            click(box, 1 + ++turn % 3);
             session.events.finishSends();
         },
         [&] {
@@ -111,6 +124,9 @@ void choose(benchmark::State& state)
             session.events.finishSends();
         },
         open);
+    if (DriverProcess::ask<uint>("Pushes") != before + 2 * static_cast<uint>(state.iterations())) {
+        state.SkipWithError("not every click was pushed");
+    }
 }
 BENCHMARK(choose)->Iterations(kTurns)->UseManualTime();
 

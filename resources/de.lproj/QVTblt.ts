@@ -11,6 +11,10 @@
         <source>Applications</source>
         <translation>Anwendungen</translation>
     </message>
+    <message>
+        <source>This is not an application: choose a desktop entry, an AppImage or an application bundle.</source>
+        <translation>Das ist keine Anwendung: Bitte einen Desktop-Eintrag, ein AppImage oder ein Anwendungspaket wählen.</translation>
+    </message>
 </context>
 <context>
     <name>QVKeyComboBox</name>
@@ -127,10 +131,6 @@
     <message>
         <source>&amp;Keys</source>
         <translation>&amp;Tasten</translation>
-    </message>
-    <message>
-        <source>Picture of the tablet with its keys numbered</source>
-        <translation>Bild des Tabletts mit nummerierten Tasten</translation>
     </message>
     <message>
         <source>Express key 1</source>
@@ -263,6 +263,10 @@
     <message>
         <source>Unknown tablet, product %1</source>
         <translation>Unbekanntes Tablett, Produkt %1</translation>
+    </message>
+    <message>
+        <source>Picture of the tablet</source>
+        <translation>Bild des Tabletts</translation>
     </message>
 </context>
 </TS>

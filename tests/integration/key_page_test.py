@@ -107,7 +107,7 @@ class KeyPage(desktop.Desktop):
         self.fail(f"Tab does not reach '{name}'")
 
     def test_a_combination_by_keyboard_alone(self):
-        self.start_panel()
+        panel = self.start_panel()
         self.xdotool("search", "--sync", "--onlyvisible", "--name", TITLE, "windowactivate",
                      "--sync")
         self.focus("Express key 3")
@@ -120,6 +120,10 @@ class KeyPage(desktop.Desktop):
             self.xdotool("key", "space")
         self.xdotool("key", "Return")
         self.wait_for_slot(2, (3, CTRL_SHIFT_Z, ""))
+        self.xdotool("key", "alt+F4")
+        self.assertEqual(panel.wait(timeout=20), 0)
+        self.start_panel()
+        self.assertEqual(self.shown(), (1, 0))
 
 
 if __name__ == "__main__":

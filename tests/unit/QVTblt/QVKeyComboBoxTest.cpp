@@ -52,6 +52,20 @@ TEST_F(KeyBox, aLetterOpensTheListAtItsItem)
     ASSERT_TRUE(mBox.view()->isVisible());
     EXPECT_EQ(mChoices.count(), 0);
     EXPECT_EQ(mBox.currentIndex(), 0);
+    EXPECT_EQ(mBox.view()->currentIndex().row(), QVKeyComboBox::KeyCombination);
+}
+
+TEST_F(KeyBox, aShortcutChoosesNothing)
+{
+    for (const Qt::KeyboardModifier modifier :
+        {Qt::AltModifier, Qt::ControlModifier, Qt::MetaModifier}) {
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_P, modifier, QStringLiteral("p"));
+        QCoreApplication::sendEvent(&mBox, &event);
+        EXPECT_FALSE(event.isAccepted());
+    }
+    EXPECT_EQ(mChoices.count(), 0);
+    EXPECT_EQ(mBox.currentIndex(), 0);
+    EXPECT_FALSE(mBox.view()->isVisible());
 }
 
 TEST_F(KeyBox, escapeInTheListChoosesNothing)
@@ -98,6 +112,22 @@ TEST_F(KeyBox, showsATextThatDoesNotFitWholeInItsTooltip)
     QCoreApplication::sendEvent(&mBox, &event);
     EXPECT_TRUE(QToolTip::text().contains(path.toHtmlEscaped())) << qPrintable(QToolTip::text());
     QToolTip::hideText();
+}
+
+TEST_F(KeyBox, shortensALongTextInItsMiddle)
+{
+    // Texts that differ at their ends only look different; in their middles only, alike.
+    const auto drawn = [this](const QString& text) {
+        mBox.replaceItem(QVKeyComboBox::Application, text);
+        return mBox.grab().toImage();
+    };
+    const auto path = [](const char* start, const char* middle, const char* end) {
+        return QString::fromLatin1(start) + QString(240, u'm') + QString::fromLatin1(middle)
+            + QString(240, u'm') + QString::fromLatin1(end);
+    };
+    EXPECT_NE(drawn(path("/a/", "x", "/b")), drawn(path("/a/", "x", "/c")));
+    EXPECT_NE(drawn(path("/a/", "x", "/b")), drawn(path("/c/", "x", "/b")));
+    EXPECT_EQ(drawn(path("/a/", "x", "/b")), drawn(path("/a/", "y", "/b")));
 }
 
 TEST_F(KeyBox, drawsAnEmptyTextAsTheActionsName)

@@ -275,6 +275,31 @@ TEST_F(KeySet, everyKeyIsReachedByArrowsAndByTab)
     }
 }
 
+TEST_F(KeySet, noKeysNameIsCutOffAtAnyTextSize)
+{
+    for (const double factor : {1.0, 1.25, 1.5, 2.0}) {
+        QFont font = QApplication::font();
+        font.setPointSizeF(font.pointSizeF() * factor);
+        mDialog.setFont(font);
+        mDialog.adjustSize();
+        for (const QToolButton* const button : mDialog.findChildren<QToolButton*>()) {
+            EXPECT_GE(button->width(), button->sizeHint().width()) << qPrintable(button->text());
+            EXPECT_GE(button->height(), button->sizeHint().height()) << qPrintable(button->text());
+        }
+    }
+}
+
+TEST_F(KeySet, showsWhichKeyHasTheFocus)
+{
+    mDialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog));
+    auto& key = child<QToolButton>("keyM");
+    const QImage before = key.grab().toImage();
+    key.setFocus();
+    EXPECT_TRUE(key.hasFocus());
+    EXPECT_NE(key.grab().toImage(), before);
+}
+
 TEST_F(KeySet, spacePressesTheKeyThatHasTheFocus)
 {
     QTest::keyClick(&child<QToolButton>("keyF12"), Qt::Key_Space);

@@ -12,6 +12,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+
 namespace {
 
 class KeyView : public testing::Test {
@@ -125,9 +127,33 @@ TEST_F(KeyView, everyPictureOfTheTableIsInTheBundleAndFillsTheView)
 {
     rzkBundle = platform::Bundle(QStringLiteral(QVTBLT_STAGE_RESOURCES));
     mView.resize(384, 270);
+    const QStringList names{QString(), QStringLiteral("tabletpic1.jpg"),
+        QStringLiteral("tabletpic2.jpg"), QStringLiteral("tabletpic3.jpg"),
+        QStringLiteral("tabletpic4.jpg"), QStringLiteral("tabletpic5.png"),
+        QStringLiteral("tabletpic6.PNG"), QStringLiteral("tabletpic7.png")};
     for (const QVTabletModel& model : kQVTabletModels) {
-        EXPECT_EQ(draw(model.productID) != kNothing, model.picture != QVPicture::None)
-            << model.name;
+        const QString& name = names[static_cast<int>(model.picture)];
+        if (name.isEmpty()) {
+            EXPECT_EQ(draw(model.productID), kNothing) << model.name;
+            continue;
+        }
+        // Of all pictures it is most like its own, along a line through the keys.
+        draw(model.productID);
+        const QImage view = mView.grab().toImage();
+        const auto difference = [&view](const QString& file) {
+            const QImage picture(QStringLiteral(QVTBLT_STAGE_RESOURCES "/") + file);
+            int sum = 0;
+            for (int y = 20; y < 250; ++y) {
+                sum += std::abs(view.pixelColor(48, y).red() - picture.pixelColor(96, 2 * y).red());
+            }
+            return sum;
+        };
+        for (const QString& other : names) {
+            if (!other.isEmpty() && other != name) {
+                EXPECT_LT(2 * difference(name), difference(other))
+                    << model.name << ' ' << qPrintable(other);
+            }
+        }
     }
     for (const char* const name : {"tabletpic1.jpg", "tabletpic2.jpg", "tabletpic3.jpg",
              "tabletpic4.jpg", "tabletpic5.png", "tabletpic6.PNG", "tabletpic7.png"}) {

@@ -121,8 +121,11 @@ protected:
                 canvas.findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
                 const bool isText = qobject_cast<const QLabel*>(control) != nullptr
                     || qobject_cast<const QCheckBox*>(control) != nullptr;
-                EXPECT_TRUE(!isText || control->sizeHint().width() <= control->width())
+                EXPECT_TRUE(!isText
+                    || (control->sizeHint().width() <= control->width()
+                        && control->sizeHint().height() <= control->height()))
                     << factor << ' ' << qPrintable(control->objectName());
+                EXPECT_GE(control->height(), control->fontMetrics().height()) << factor;
             }
             for (int item = 0; item < box(0).count(); ++item) {
                 constexpr int kArrowAndFrame = 30;
@@ -433,7 +436,7 @@ TEST_F(KeyPage, noLayoutIsLeftOverForTheNextModel)
 {
     // What each control is like in every layout when it is the first.
     const auto state = [this] {
-        QStringList lines;
+        QStringList lines{QString::number(outlet<QWidget>("mMonitorSpeed").isEnabled())};
         for (const QWidget* const control :
             outlet<QWidget>("keyCanvas")
                 .findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
@@ -774,6 +777,18 @@ TEST_F(KeyPage, okWithoutAKeyIsLikeCancel)
     EXPECT_TRUE(pushes().empty());
     EXPECT_TRUE(sameBytes(qvTabletInfo, before));
     EXPECT_EQ(box(2).currentIndex(), 0);
+}
+
+TEST_F(KeyPage, aHostThatClosesThePanelUnderTheDialogDoesNoHarm)
+{
+    show();
+    // The window goes; the pane stays, as in a host that shows it in another window later.
+    chooseKeys(box(2), [this](QVKeySetClass& dialog) {
+        dialog.close();
+        QTimer::singleShot(0, qApp, [this] { mWindow.reset(); });
+    });
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(pushes().empty());
 }
 
 TEST_F(KeyPage, cancellingOverAStoredCombinationKeepsItShown)

@@ -7,6 +7,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -64,4 +65,27 @@ TEST_F(OpenPanel, givesThePathOfAFileThatVanished)
 {
     const QString file = mHome.path() + QStringLiteral("/gone.desktop");
     EXPECT_EQ(choose(file), file);
+}
+
+TEST_F(OpenPanel, asksAgainForWhatIsNoApplication)
+{
+    const QString tool = mHome.path() + QStringLiteral("/tool");
+    const QString file = mHome.path() + QStringLiteral("/draw.AppImage");
+    writeFile(tool, "#!/bin/sh\n");
+    writeFile(file, "");
+    bool wasTold = false;
+    QTimer::singleShot(200, qApp, [&] {
+        auto* const message = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(message, nullptr);
+        wasTold = true;
+        QTimer::singleShot(0, qApp, [&] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            dialog->selectFile(file);
+            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
+        });
+        message->accept();
+    });
+    EXPECT_EQ(choose(tool), QFileInfo(file).canonicalFilePath());
+    EXPECT_TRUE(wasTold);
 }
