@@ -2,8 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "Client.h"
 
+#include "QVTabletModels.h"
+#include "Sleep.h"
 #include "rzkApplication.h"
 
+#include <QLoggingCategory>
+
+#include <array>
 #include <cstdio>
 #include <span>
 
@@ -12,6 +17,37 @@ namespace {
 /** The settings event: the class is the driver's signature. */
 constexpr platform::AEEventID kSettingsEvent = platform::fourCharCode("WSnd");
 constexpr platform::AEKeyword kSettingsData = platform::fourCharCode("data");
+
+Q_LOGGING_CATEGORY(lcClient, "org.quorvia.tablet.client", QtInfoMsg)
+
+/** Passes over the devices while others hold them. */
+constexpr int kPasses = 4;
+
+/** The tablet's feature report for its report mode. */
+constexpr std::uint8_t kReportMode = 4;
+
+/** openUSBDevice()'s answers where the device is not open. */
+constexpr std::int32_t kNotOpened = -1;
+constexpr std::int32_t kHeldByAnother = -2;
+
+/** Whether iterateinterfaces() has had its interface. */
+bool foundOnce = false;
+
+/** HID's Set_Report to the first interface (HID 1.11, section 7.2.2). */
+platform::IOReturn setReportMode(platform::UsbDeviceInterface& device, std::uint8_t flag)
+{
+    std::array<std::uint8_t, 2> report{kReportMode, flag};
+    platform::UsbDeviceRequest request{
+        .bmRequestType = 0x21, // host to device, class, interface
+        .bRequest = 9, // Set_Report
+        .wValue = 0x0300 | kReportMode, // a feature report
+        .wIndex = 0,
+        .wLength = report.size(),
+        .data = report.data(),
+        .wLenDone = report.size(),
+    };
+    return device.deviceRequest(request);
+}
 
 } // namespace
 
@@ -43,4 +79,151 @@ bool ConnectToDriver(const void* record, std::int32_t length)
     service.send(settings, nullptr, kAEWaitReply, kAEHighPriority, kQVDriverTimeOut);
     std::fputs("ConnectToDriver ok\n", stderr);
     return true;
+}
+
+bool controlUSBDev(std::uint8_t flag, std::uint16_t productID)
+{
+    platform::Usb& service = platform::usb();
+    if (service.mainPort() != platform::kIOReturnSuccess) {
+        return false;
+    }
+    std::optional<platform::UsbMatching> matching =
+        service.serviceMatching(platform::kIOUSBDeviceClassName);
+    if (!matching) {
+        return false;
+    }
+    matching->properties["idVendor"] = kQVVendorID;
+    matching->properties["idProduct"] = productID;
+    std::unique_ptr<platform::UsbIterator> devices;
+    if (service.getMatchingServices(std::move(*matching), devices) != platform::kIOReturnSuccess) {
+        return false;
+    }
+    iterateDevices(*devices, flag);
+    return true;
+}
+
+std::int32_t iterateDevices(platform::UsbIterator& devices, std::uint8_t flag)
+{
+    std::int32_t result = -1;
+    // Of all passes together: without any device's answer, it counts as open.
+    std::int32_t opened = 0;
+    for (int pass = 1;;) {
+        std::unique_ptr<platform::UsbService> service = devices.next();
+        if (service == nullptr) {
+            std::fputs("Unable to find first matching USB device\n", stderr);
+            return -1;
+        }
+        int busy = 0;
+        for (; service != nullptr; service = devices.next()) {
+            if (const auto device = getUSBDevice(*service)) {
+                opened = openUSBDevice(*device);
+                if (opened == kHeldByAnother) {
+                    ++busy;
+                } else if (opened >= 0) {
+                    result = setReportMode(*device, flag);
+                }
+            }
+            if (opened >= 0) {
+                return 0;
+            }
+        }
+        if (busy == 0) {
+            return result;
+        }
+        platform::sleeper().sleepFor(std::chrono::seconds(1));
+        devices.reset();
+        if (++pass > kPasses) {
+            return result;
+        }
+    }
+}
+
+std::unique_ptr<platform::UsbDeviceInterface> getUSBDevice(const platform::UsbService& service)
+{
+    auto device = platform::usb().createDeviceInterface(service);
+    if (device == nullptr) {
+        std::fputs("Unable to create USB device with QueryInterface\n", stderr);
+    }
+    return device;
+}
+
+std::int32_t openUSBDevice(platform::UsbDeviceInterface& device)
+{
+    std::uint8_t configurations = 0;
+    platform::UsbConfigurationDescriptor configuration{};
+    if (device.getNumberOfConfigurations(configurations) != platform::kIOReturnSuccess
+        || configurations != 1
+        || device.getConfigurationDescriptor(0, configuration) != platform::kIOReturnSuccess) {
+        return kNotOpened;
+    }
+    const platform::IOReturn error = device.open();
+    if (error == platform::kIOReturnExclusiveAccess) {
+        return kHeldByAnother;
+    }
+    if (error == platform::kIOReturnNotPermitted) {
+        qCWarning(lcClient,
+            "this user may not open the tablet; the udev rule 60-quorvia-tablet.rules gives leave");
+    }
+    return error == platform::kIOReturnSuccess ? configuration.bConfigurationValue : kNotOpened;
+}
+
+std::int32_t useUSBDevice(platform::UsbDeviceInterface& device, std::uint8_t configuration)
+{
+    platform::IOReturn error = device.setConfiguration(configuration);
+    std::unique_ptr<platform::UsbIterator> interfaces;
+    if (error == platform::kIOReturnSuccess) {
+        error = device.createInterfaceIterator(interfaces);
+    }
+    return error == platform::kIOReturnSuccess ? iterateinterfaces(*interfaces) : error;
+}
+
+std::int32_t iterateinterfaces(platform::UsbIterator& interfaces)
+{
+    std::unique_ptr<platform::UsbService> service = interfaces.next();
+    if (service == nullptr) {
+        std::fputs("Unable to find an Interface\n", stderr);
+        return -1;
+    }
+    std::unique_ptr<platform::UsbInterfaceInterface> winner;
+    for (; service != nullptr; service = interfaces.next()) {
+        auto interface = getUSBInterfaceInterface(std::move(service));
+        if (interface != nullptr && isThisTheInterfaceYoureLookingFor()) {
+            winner = std::move(interface);
+        }
+    }
+    if (winner == nullptr) {
+        std::fputs("No interesting interfaces found\n", stderr);
+        return -1;
+    }
+    const platform::IOReturn error = winner->open();
+    if (error == platform::kIOReturnSuccess) {
+        winner->close();
+    }
+    return error > 0 ? -1 : 0;
+}
+
+std::unique_ptr<platform::UsbInterfaceInterface> getUSBInterfaceInterface(
+    std::unique_ptr<platform::UsbService> service)
+{
+    platform::IOReturn error = platform::kIOReturnSuccess;
+    auto interface = platform::usb().createInterfaceInterface(*service, error);
+    if (interface == nullptr) {
+        std::fprintf(stderr, "Unable to create interface with QueryInterface %x\n",
+            static_cast<unsigned>(error));
+    }
+    return interface;
+}
+
+std::int32_t openUSBInterface(platform::UsbInterfaceInterface& interface)
+{
+    return interface.open() > 0 ? -1 : 0;
+}
+
+bool isThisTheInterfaceYoureLookingFor()
+{
+    if (!std::exchange(foundOnce, true)) {
+        return true;
+    }
+    std::fputs("Subsequent interface found, we're only intersted in 1 of them\n", stderr);
+    return false;
 }

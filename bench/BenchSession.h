@@ -8,9 +8,6 @@
 #include "Service.h"
 #include "TemporaryHome.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
 /** A bus with the real driver, and the panel's own service on it. */
 struct BenchSession {
     TemporaryHome home;
@@ -22,27 +19,3 @@ struct BenchSession {
 
 /** The one session of this run: D-Bus's library knows one address in a process's life. */
 BenchSession& benchSession();
-
-/** Takes the diagnostics of pushes out of the way, as a host does that nobody watches. */
-class NoDiagnostics {
-public:
-    NoDiagnostics()
-        : mBefore(::dup(STDERR_FILENO))
-    {
-        const int nowhere = ::open("/dev/null", O_WRONLY | O_CLOEXEC);
-        ::dup2(nowhere, STDERR_FILENO);
-        ::close(nowhere);
-    }
-    ~NoDiagnostics()
-    {
-        ::dup2(mBefore, STDERR_FILENO);
-        ::close(mBefore);
-    }
-    NoDiagnostics(const NoDiagnostics&) = delete;
-    NoDiagnostics& operator=(const NoDiagnostics&) = delete;
-    NoDiagnostics(NoDiagnostics&&) = delete;
-    NoDiagnostics& operator=(NoDiagnostics&&) = delete;
-
-private:
-    int mBefore;
-};

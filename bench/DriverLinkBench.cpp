@@ -3,6 +3,7 @@
 #include "AppleEventWire.h"
 #include "BenchSession.h"
 #include "Client.h"
+#include "NoDiagnostics.h"
 #include "Paired.h"
 #include "rzkApplication.h"
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "BenchSession.h"
 #include "Client.h"
+#include "NoDiagnostics.h"
 #include "Paired.h"
 #include "QVKeyComboBox.h"
 #include "QVTabletModels.h"

@@ -5,6 +5,7 @@
 
 #include "BenchSession.h"
 #include "Client.h"
+#include "NoDiagnostics.h"
 #include "QVConfigStore.h"
 #include "rzkApplication.h"
 

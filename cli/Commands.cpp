@@ -8,6 +8,7 @@
 #include "QVConfigStore.h"
 #include "QVTabletModels.h"
 #include "RecordText.h"
+#include "UsbMode.h"
 #include "rzkApplication.h"
 
 #include <QDBusConnection>
@@ -173,5 +174,21 @@ int runSet(const QString& entry, const QString& value)
         return fail(QString::fromStdString(error.message));
     }
     std::printf("set %s to %s\n", qUtf8Printable(entry), qUtf8Printable(value));
+    return kExitGood;
+}
+
+int runUsbMode(bool isFast)
+{
+    QVConfigStore store;
+    const QString why = loadTablet(store);
+    if (!why.isEmpty()) {
+        return fail(why + QStringLiteral(", so it is not known which tablet to tell"));
+    }
+    const auto productID = static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID);
+    const UsbModeResult result = setUsbMode(isFast, productID, modelName(*GetqvTabletInfo()));
+    if (!result.isDone) {
+        return fail(result.sentence);
+    }
+    std::puts(qUtf8Printable(result.sentence));
     return kExitGood;
 }

@@ -26,5 +26,8 @@ int runCheck(const QString& file);
 /** Loads the tablet's file and pushes the record. */
 int runPush();
 
+/** Tells the tablet on the USB bus its report mode: "fast" or "normal". */
+int runUsbMode(bool isFast);
+
 /** Sets one entry of the tablet's file, pushes the record and saves the file. */
 int runSet(const QString& entry, const QString& value);

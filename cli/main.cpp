@@ -19,6 +19,8 @@ Commands:
   push                send the settings in the tablet's file to the driver
   set ENTRY VALUE     change a setting, for instance 'set Pen/PressureThreshold 120':
                       send it to the driver and save the tablet's file
+  usb-mode fast|normal
+                      tell the tablet on the USB bus how often to report the pen
 
 Options:
   -h, --help          print this text
@@ -58,6 +60,10 @@ int run(const QStringList& words, bool asJson)
     }
     if (command == QLatin1String("set") && count == 2) {
         return runSet(words[1], words[2]);
+    }
+    if (command == QLatin1String("usb-mode") && count == 1
+        && (words[1] == QLatin1String("fast") || words[1] == QLatin1String("normal"))) {
+        return runUsbMode(words[1] == QLatin1String("fast"));
     }
     return usageError(QStringLiteral("there is no command '%1'").arg(words.join(QLatin1Char(' '))));
 }

@@ -27,8 +27,8 @@ class Ctl(session.Session):
 
     def test_help_and_manual_page_name_the_same_commands(self):
         manual = (session.SOURCE / "cli/qvtbltctl.1").read_text()
-        for command in re.findall(r"^  (\w+) ", self.ctl("--help").stdout, re.MULTILINE):
-            self.assertIn(f"qvtbltctl {command}", manual)
+        for command in re.findall(r"^  ([\w-]+) ", self.ctl("--help").stdout, re.MULTILINE):
+            self.assertIn(f"qvtbltctl {command}", manual.replace("\\-", "-"))
 
     def test_manual_page_is_well_formed(self):
         result = subprocess.run(
@@ -38,9 +38,23 @@ class Ctl(session.Session):
 
     def test_misuse_is_told_with_exit_code_2(self):
         for words in ([], ["what"], ["status", "x"], ["check"], ["set", "Pen/Speed"], ["--what"],
-                      ["--json", "status"], ["show", "a", "b"], ["push", "now"]):
+                      ["--json", "status"], ["show", "a", "b"], ["push", "now"],
+                      ["usb-mode"], ["usb-mode", "slow"]):
             with self.subTest(words):
                 self.assert_result(self.ctl(*words), 2, "", "Try 'qvtbltctl --help'.")
+
+    def test_usb_mode_says_that_there_is_no_such_tablet(self):
+        result = self.ctl("usb-mode", "fast")
+        self.assert_result(result, 1, "", "the driver does not answer, so it is not known which")
+        self.start_driver()
+        for mode in ("fast", "normal"):
+            result = self.ctl("usb-mode", mode)
+            self.assertEqual((result.returncode, result.stdout), (1, ""))
+            # Where a machine has no USB at all, it says that.
+            self.assertRegex(
+                result.stderr,
+                r"there is no Quorvia Draft S \(product 20737\) on the USB bus\n$"
+                r"|the USB bus cannot be searched\n$")
 
     def test_status_of_every_state(self):
         self.assert_result(self.ctl("status"), 1, "driver  does not answer\ntablet  unknown\n")

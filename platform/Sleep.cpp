@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Sleep.h"
+
+#include "Service.h"
+
+#include <thread>
+
+namespace platform {
+
+namespace {
+
+class ThreadSleep final : public Sleep {
+public:
+    void sleepFor(std::chrono::milliseconds time) override { std::this_thread::sleep_for(time); }
+};
+
+} // namespace
+
+Sleep& sleeper()
+{
+    static ThreadSleep thread;
+    Sleep* const replaced = ServiceScope<Sleep>::current();
+    return replaced == nullptr ? thread : *replaced;
+}
+
+} // namespace platform

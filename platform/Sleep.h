@@ -1,0 +1,25 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <chrono>
+
+namespace platform {
+
+/** Waiting that blocks the caller, where the work itself asks for it. */
+class Sleep {
+public:
+    Sleep() = default;
+    virtual ~Sleep() = default;
+    Sleep(const Sleep&) = delete;
+    Sleep& operator=(const Sleep&) = delete;
+    Sleep(Sleep&&) = delete;
+    Sleep& operator=(Sleep&&) = delete;
+
+    virtual void sleepFor(std::chrono::milliseconds time) = 0;
+};
+
+/** The thread's own sleep, or what a ServiceScope<Sleep> has put in its place. */
+Sleep& sleeper();
+
+} // namespace platform

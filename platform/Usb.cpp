@@ -1,0 +1,385 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Usb.h"
+
+#include "Service.h"
+
+#include <QLoggingCategory>
+
+#include <libusb.h>
+
+#include <cstddef>
+#include <deque>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcUsb, "org.quorvia.tablet.usb", QtInfoMsg)
+
+constexpr unsigned kRequestTimeOut = 1000; ///< milliseconds
+constexpr int kFirstInterface = 0;
+
+IOReturn resultOf(int error)
+{
+    switch (error) {
+    case LIBUSB_ERROR_ACCESS:
+        return kIOReturnNotPermitted;
+    case LIBUSB_ERROR_NO_DEVICE:
+        return kIOReturnNoDevice;
+    case LIBUSB_ERROR_NOT_FOUND:
+        return kIOReturnNotFound;
+    case LIBUSB_ERROR_BUSY:
+        return kIOReturnExclusiveAccess;
+    case LIBUSB_ERROR_TIMEOUT:
+        return kIOReturnTimeout;
+    case LIBUSB_ERROR_PIPE:
+        return kIOUSBPipeStalled;
+    case LIBUSB_ERROR_NO_MEM:
+        return kIOReturnNoMemory;
+    case LIBUSB_ERROR_NOT_SUPPORTED:
+        return kIOReturnUnsupported;
+    default:
+        return error < 0 ? kIOReturnError : kIOReturnSuccess;
+    }
+}
+
+/**
+ * A connection to the library, which has a thread as long as there is one. So it lives only as long
+ * as something that was found through it.
+ */
+using Context = std::shared_ptr<libusb_context>;
+using Device = std::shared_ptr<libusb_device>;
+
+IOReturn makeContext(Context& context)
+{
+    libusb_context* made = nullptr;
+    const int error = libusb_init(&made);
+    if (error != LIBUSB_SUCCESS) {
+        qCWarning(lcUsb, "the USB bus cannot be looked at: %s", libusb_strerror(error));
+        return resultOf(error);
+    }
+    context = Context(made, libusb_exit);
+    return kIOReturnSuccess;
+}
+
+/** An open device, of which one interface may be held. */
+class Handle {
+public:
+    explicit Handle(Device device)
+        : mDevice(std::move(device))
+    {
+    }
+    ~Handle() { close(); }
+    Handle(const Handle&) = delete;
+    Handle& operator=(const Handle&) = delete;
+    Handle(Handle&&) = delete;
+    Handle& operator=(Handle&&) = delete;
+
+    libusb_device* device() const { return mDevice.get(); }
+    libusb_device_handle* get() const { return mHandle; }
+
+    /** Opens the device and takes an interface, both or nothing. */
+    int open(int interface)
+    {
+        close();
+        int error = libusb_open(mDevice.get(), &mHandle);
+        if (error != LIBUSB_SUCCESS) {
+            mHandle = nullptr;
+            return error;
+        }
+        // The kernel's driver goes when the interface is claimed and comes back when it is
+        // released.
+        libusb_set_auto_detach_kernel_driver(mHandle, 1);
+        error = libusb_claim_interface(mHandle, interface);
+        if (error == LIBUSB_SUCCESS) {
+            mInterface = interface;
+        } else {
+            close();
+        }
+        return error;
+    }
+
+    int close()
+    {
+        int error = LIBUSB_SUCCESS;
+        if (mInterface) {
+            error = libusb_release_interface(mHandle, *mInterface);
+            mInterface.reset();
+        }
+        if (mHandle != nullptr) {
+            libusb_close(std::exchange(mHandle, nullptr));
+        }
+        return error;
+    }
+
+private:
+    Device mDevice;
+    libusb_device_handle* mHandle = nullptr;
+    std::optional<int> mInterface;
+};
+
+class DeviceService final : public UsbService {
+public:
+    explicit DeviceService(Device found)
+        : device(std::move(found))
+    {
+    }
+    const Device device;
+};
+
+class InterfaceService final : public UsbService {
+public:
+    InterfaceService(Device owner, int itsNumber)
+        : device(std::move(owner))
+        , number(itsNumber)
+    {
+    }
+    const Device device;
+    const int number; ///< bInterfaceNumber
+};
+
+bool matches(const UsbMatching& matching, libusb_device* device)
+{
+    libusb_device_descriptor descriptor{};
+    if (matching.className != kIOUSBDeviceClassName
+        || libusb_get_device_descriptor(device, &descriptor) != LIBUSB_SUCCESS) {
+        return false;
+    }
+    const auto agrees = [&matching](const char* property, std::int32_t value) {
+        const auto wanted = matching.properties.find(property);
+        return wanted == matching.properties.end() || wanted->second == value;
+    };
+    return agrees("idVendor", descriptor.idVendor) && agrees("idProduct", descriptor.idProduct);
+}
+
+class DeviceIterator final : public UsbIterator {
+public:
+    explicit DeviceIterator(UsbMatching matching)
+        : mMatching(std::move(matching))
+    {
+    }
+
+    IOReturn find()
+    {
+        mFound.clear();
+        Context context;
+        const IOReturn error = makeContext(context);
+        if (error != kIOReturnSuccess) {
+            return error;
+        }
+        libusb_device** list = nullptr;
+        const auto count = libusb_get_device_list(context.get(), &list);
+        if (count < 0) {
+            return resultOf(static_cast<int>(count));
+        }
+        for (std::ptrdiff_t i = 0; i < count; ++i) {
+            if (matches(mMatching, list[i])) {
+                mFound.emplace_back(libusb_ref_device(list[i]),
+                    [context](libusb_device* device) { libusb_unref_device(device); });
+            }
+        }
+        libusb_free_device_list(list, 1);
+        return kIOReturnSuccess;
+    }
+
+    std::unique_ptr<UsbService> next() override
+    {
+        if (mFound.empty()) {
+            return nullptr;
+        }
+        auto service = std::make_unique<DeviceService>(std::move(mFound.front()));
+        mFound.pop_front();
+        return service;
+    }
+
+    void reset() override { find(); }
+
+private:
+    UsbMatching mMatching;
+    std::deque<Device> mFound;
+};
+
+class InterfaceIterator final : public UsbIterator {
+public:
+    explicit InterfaceIterator(Device device)
+        : mDevice(std::move(device))
+    {
+    }
+
+    IOReturn find()
+    {
+        mNumbers.clear();
+        libusb_config_descriptor* config = nullptr;
+        const int error = libusb_get_active_config_descriptor(mDevice.get(), &config);
+        if (error != LIBUSB_SUCCESS) {
+            return resultOf(error);
+        }
+        for (int i = 0; i < config->bNumInterfaces; ++i) {
+            if (config->interface[i].num_altsetting > 0) {
+                mNumbers.push_back(config->interface[i].altsetting->bInterfaceNumber);
+            }
+        }
+        libusb_free_config_descriptor(config);
+        return kIOReturnSuccess;
+    }
+
+    std::unique_ptr<UsbService> next() override
+    {
+        if (mNumbers.empty()) {
+            return nullptr;
+        }
+        auto service = std::make_unique<InterfaceService>(mDevice, mNumbers.front());
+        mNumbers.pop_front();
+        return service;
+    }
+
+    void reset() override { find(); }
+
+private:
+    Device mDevice;
+    std::deque<int> mNumbers;
+};
+
+class LibusbDevice final : public UsbDeviceInterface {
+public:
+    explicit LibusbDevice(Device device)
+        : mDevice(device)
+        , mHandle(std::move(device))
+    {
+    }
+
+    IOReturn getNumberOfConfigurations(std::uint8_t& count) override
+    {
+        libusb_device_descriptor descriptor{};
+        const int error = libusb_get_device_descriptor(mDevice.get(), &descriptor);
+        count = descriptor.bNumConfigurations;
+        return resultOf(error);
+    }
+
+    IOReturn getConfigurationDescriptor(
+        std::uint8_t index, UsbConfigurationDescriptor& descriptor) override
+    {
+        libusb_config_descriptor* config = nullptr;
+        const int error = libusb_get_config_descriptor(mDevice.get(), index, &config);
+        if (error != LIBUSB_SUCCESS) {
+            return resultOf(error);
+        }
+        descriptor = {config->bNumInterfaces, config->bConfigurationValue};
+        libusb_free_config_descriptor(config);
+        return kIOReturnSuccess;
+    }
+
+    IOReturn open() override
+    {
+        const int error = mHandle.open(kFirstInterface);
+        if (error != LIBUSB_SUCCESS) {
+            qCDebug(lcUsb, "device %d on bus %d cannot be opened: %s",
+                libusb_get_device_address(mDevice.get()), libusb_get_bus_number(mDevice.get()),
+                libusb_strerror(error));
+        }
+        return resultOf(error);
+    }
+
+    IOReturn deviceRequest(UsbDeviceRequest& request) override
+    {
+        if (mHandle.get() == nullptr) {
+            return kIOReturnNotOpen;
+        }
+        const int done =
+            libusb_control_transfer(mHandle.get(), request.bmRequestType, request.bRequest,
+                request.wValue, request.wIndex, request.data, request.wLength, kRequestTimeOut);
+        request.wLenDone = done < 0 ? 0 : static_cast<std::uint32_t>(done);
+        return resultOf(done);
+    }
+
+    IOReturn setConfiguration(std::uint8_t value) override
+    {
+        return mHandle.get() == nullptr ? kIOReturnNotOpen
+                                        : resultOf(libusb_set_configuration(mHandle.get(), value));
+    }
+
+    IOReturn createInterfaceIterator(std::unique_ptr<UsbIterator>& interfaces) override
+    {
+        auto found = std::make_unique<InterfaceIterator>(mDevice);
+        const IOReturn error = found->find();
+        if (error == kIOReturnSuccess) {
+            interfaces = std::move(found);
+        }
+        return error;
+    }
+
+private:
+    Device mDevice;
+    Handle mHandle;
+};
+
+class LibusbInterface final : public UsbInterfaceInterface {
+public:
+    LibusbInterface(Device device, int number)
+        : mHandle(std::move(device))
+        , mNumber(number)
+    {
+    }
+
+    IOReturn open() override { return resultOf(mHandle.open(mNumber)); }
+    IOReturn close() override
+    {
+        return mHandle.get() == nullptr ? kIOReturnNotOpen : resultOf(mHandle.close());
+    }
+
+private:
+    Handle mHandle;
+    int mNumber;
+};
+
+class LibusbUsb final : public Usb {
+public:
+    IOReturn mainPort() override { return kIOReturnSuccess; }
+
+    std::optional<UsbMatching> serviceMatching(const char* className) override
+    {
+        return UsbMatching{className, {}};
+    }
+
+    IOReturn getMatchingServices(
+        UsbMatching matching, std::unique_ptr<UsbIterator>& services) override
+    {
+        auto found = std::make_unique<DeviceIterator>(std::move(matching));
+        const IOReturn error = found->find();
+        if (error == kIOReturnSuccess) {
+            services = std::move(found);
+        }
+        return error;
+    }
+
+    std::unique_ptr<UsbDeviceInterface> createDeviceInterface(const UsbService& service) override
+    {
+        const auto* const device = dynamic_cast<const DeviceService*>(&service);
+        return device == nullptr ? nullptr : std::make_unique<LibusbDevice>(device->device);
+    }
+
+    std::unique_ptr<UsbInterfaceInterface> createInterfaceInterface(
+        const UsbService& service, IOReturn& error) override
+    {
+        const auto* const interface = dynamic_cast<const InterfaceService*>(&service);
+        if (interface == nullptr) {
+            error = kIOReturnUnsupported;
+            return nullptr;
+        }
+        error = kIOReturnSuccess;
+        return std::make_unique<LibusbInterface>(interface->device, interface->number);
+    }
+};
+
+} // namespace
+
+Usb& usb()
+{
+    static LibusbUsb machine;
+    Usb* const replaced = ServiceScope<Usb>::current();
+    return replaced == nullptr ? machine : *replaced;
+}
+
+} // namespace platform

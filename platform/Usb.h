@@ -1,0 +1,153 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace platform {
+
+/** Result of an operation on USB: 0 for success, else a negative error. */
+using IOReturn = std::int32_t;
+
+inline constexpr IOReturn kIOReturnSuccess = 0;
+inline constexpr auto kIOReturnError = static_cast<IOReturn>(0xE00002BC);
+inline constexpr auto kIOReturnNoMemory = static_cast<IOReturn>(0xE00002BD);
+inline constexpr auto kIOReturnNoDevice = static_cast<IOReturn>(0xE00002C0); ///< it is gone
+inline constexpr auto kIOReturnExclusiveAccess = static_cast<IOReturn>(0xE00002C5); ///< it is held
+inline constexpr auto kIOReturnUnsupported = static_cast<IOReturn>(0xE00002C7);
+inline constexpr auto kIOReturnNotOpen = static_cast<IOReturn>(0xE00002CD);
+inline constexpr auto kIOReturnTimeout = static_cast<IOReturn>(0xE00002D6);
+inline constexpr auto kIOReturnNotPermitted = static_cast<IOReturn>(0xE00002E2);
+inline constexpr auto kIOReturnNotFound = static_cast<IOReturn>(0xE00002F0);
+inline constexpr auto kIOUSBPipeStalled = static_cast<IOReturn>(0xE000404F); ///< it was refused
+
+/** The class of matching dictionaries for whole devices. */
+inline constexpr const char* kIOUSBDeviceClassName = "IOUSBDevice";
+
+/** What services have to be like: their class, and the values of some of their properties. */
+struct UsbMatching {
+    std::string className;
+    std::map<std::string, std::int32_t> properties; ///< "idVendor", "idProduct"
+};
+
+/** A control request (USB 2.0, section 9.3). */
+struct UsbDeviceRequest {
+    std::uint8_t bmRequestType;
+    std::uint8_t bRequest;
+    std::uint16_t wValue;
+    std::uint16_t wIndex;
+    std::uint16_t wLength; ///< bytes at data
+    std::uint8_t* data;
+    std::uint32_t wLenDone; ///< bytes that were transferred
+};
+
+/** The part of a configuration descriptor that is asked for here (USB 2.0, section 9.6.3). */
+struct UsbConfigurationDescriptor {
+    std::uint8_t bNumInterfaces;
+    std::uint8_t bConfigurationValue;
+};
+
+/** A device or an interface on the bus, as found; it may be gone by now. */
+class UsbService {
+public:
+    UsbService() = default;
+    virtual ~UsbService() = default;
+    UsbService(const UsbService&) = delete;
+    UsbService& operator=(const UsbService&) = delete;
+    UsbService(UsbService&&) = delete;
+    UsbService& operator=(UsbService&&) = delete;
+};
+
+/** Services that were found, in the bus's order. */
+class UsbIterator {
+public:
+    UsbIterator() = default;
+    virtual ~UsbIterator() = default;
+    UsbIterator(const UsbIterator&) = delete;
+    UsbIterator& operator=(const UsbIterator&) = delete;
+    UsbIterator(UsbIterator&&) = delete;
+    UsbIterator& operator=(UsbIterator&&) = delete;
+
+    /** @return the next service; null after the last */
+    virtual std::unique_ptr<UsbService> next() = 0;
+    /** Starts again, with what is on the bus now. */
+    virtual void reset() = 0;
+};
+
+/** One device. Its release, when it is destroyed, gives back what open() has taken. */
+class UsbDeviceInterface {
+public:
+    UsbDeviceInterface() = default;
+    virtual ~UsbDeviceInterface() = default;
+    UsbDeviceInterface(const UsbDeviceInterface&) = delete;
+    UsbDeviceInterface& operator=(const UsbDeviceInterface&) = delete;
+    UsbDeviceInterface(UsbDeviceInterface&&) = delete;
+    UsbDeviceInterface& operator=(UsbDeviceInterface&&) = delete;
+
+    virtual IOReturn getNumberOfConfigurations(std::uint8_t& count) = 0;
+    /** @param index from 0 */
+    virtual IOReturn getConfigurationDescriptor(
+        std::uint8_t index, UsbConfigurationDescriptor& descriptor) = 0;
+    /**
+     * Takes the device: its first interface is this program's until release, and the kernel's
+     * driver is put aside until then.
+     *
+     * @return kIOReturnExclusiveAccess when another program holds the interface,
+     *     kIOReturnNotPermitted when the user may not open the device
+     */
+    virtual IOReturn open() = 0;
+    /** Makes a control request of an open device; waits for it for at most a second. */
+    virtual IOReturn deviceRequest(UsbDeviceRequest& request) = 0;
+    /** @param value a bConfigurationValue */
+    virtual IOReturn setConfiguration(std::uint8_t value) = 0;
+    /** Finds the interfaces of any class of the present configuration. */
+    virtual IOReturn createInterfaceIterator(std::unique_ptr<UsbIterator>& interfaces) = 0;
+};
+
+/** One interface of a device. */
+class UsbInterfaceInterface {
+public:
+    UsbInterfaceInterface() = default;
+    virtual ~UsbInterfaceInterface() = default;
+    UsbInterfaceInterface(const UsbInterfaceInterface&) = delete;
+    UsbInterfaceInterface& operator=(const UsbInterfaceInterface&) = delete;
+    UsbInterfaceInterface(UsbInterfaceInterface&&) = delete;
+    UsbInterfaceInterface& operator=(UsbInterfaceInterface&&) = delete;
+
+    virtual IOReturn open() = 0;
+    virtual IOReturn close() = 0;
+};
+
+/** The USB busses of this machine. Main thread only. */
+class Usb {
+public:
+    Usb() = default;
+    virtual ~Usb() = default;
+    Usb(const Usb&) = delete;
+    Usb& operator=(const Usb&) = delete;
+    Usb(Usb&&) = delete;
+    Usb& operator=(Usb&&) = delete;
+
+    /** Whether the machine's services can be asked at all. */
+    virtual IOReturn mainPort() = 0;
+    /** A matching dictionary for a class of services; nothing when there is none. */
+    virtual std::optional<UsbMatching> serviceMatching(const char* className) = 0;
+    /** Finds the services that match; consumes the dictionary. */
+    virtual IOReturn getMatchingServices(
+        UsbMatching matching, std::unique_ptr<UsbIterator>& services) = 0;
+    /** @return null when the service is no device */
+    virtual std::unique_ptr<UsbDeviceInterface> createDeviceInterface(
+        const UsbService& service) = 0;
+    /** @return null when the service is no interface; error says why */
+    virtual std::unique_ptr<UsbInterfaceInterface> createInterfaceInterface(
+        const UsbService& service, IOReturn& error) = 0;
+};
+
+/** The machine's, or what a ServiceScope<Usb> has put in its place. */
+Usb& usb();
+
+} // namespace platform

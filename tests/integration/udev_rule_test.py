@@ -1,0 +1,46 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""The udev rule, and that the maker's vendor ID is nobody else's."""
+
+import re
+import unittest
+
+import session
+
+RULE = session.SOURCE / "packaging/60-quorvia-tablet.rules"
+USB_IDS = "/usr/share/misc/usb.ids"
+
+
+def vendor():
+    header = (session.SOURCE / "QVTblt/QVTabletModels.h").read_text()
+    return int(re.search(r"kQVVendorID = (0x[0-9A-F]+)", header)[1], 16)
+
+
+class UdevRule(unittest.TestCase):
+    def rule(self):
+        lines = [line for line in RULE.read_text().splitlines() if not line.startswith("#")]
+        self.assertEqual(len(lines), 1)
+        return lines[0].split(", ")
+
+    def test_is_about_the_makers_devices_alone(self):
+        self.assertIn(f'ATTR{{idVendor}}=="{vendor():04x}"', self.rule())
+        self.assertIn('SUBSYSTEM=="usb"', self.rule())
+        self.assertIn('ENV{DEVTYPE}=="usb_device"', self.rule())
+
+    def test_lets_the_seated_user_in_and_nobody_else(self):
+        self.assertIn('TAG+="uaccess"', self.rule())
+        self.assertIn('MODE="0660"', self.rule())
+        self.assertFalse([part for part in self.rule() if part.startswith("GROUP")])
+
+    def test_comes_before_the_rule_that_acts_on_the_tag(self):
+        self.assertLess(int(RULE.name.split("-")[0]), 73)
+
+    def test_the_vendor_id_is_unassigned(self):
+        with open(USB_IDS, encoding="utf-8", errors="replace") as file:
+            assigned = {int(line[:4], 16) for line in file if re.match(r"[0-9a-f]{4}  ", line)}
+        self.assertGreater(len(assigned), 1000)
+        self.assertNotIn(vendor(), assigned)
+
+
+if __name__ == "__main__":
+    unittest.main()
