@@ -6,12 +6,71 @@
 
 #include <QGuiApplication>
 #include <QScreen>
+#include <QTimer>
 
+#include <memory>
 #include <numeric>
+#include <utility>
+#include <vector>
 
 namespace platform {
 
 namespace {
+
+/**
+ * Watches Qt's screens for as long as somebody wants to know. Qt tells of each change by itself,
+ * and of a new screen before its neighbours have moved to their new places; so the end of a change
+ * is when nothing more has been told for a while.
+ */
+class ScreenWatcher final : public QObject {
+public:
+    using Callback = std::pair<DisplayReconfigurationCallback, void*>;
+
+    ScreenWatcher()
+    {
+        constexpr int kRest = 200; // milliseconds
+        mRest.setSingleShot(true);
+        mRest.setInterval(kRest);
+        connect(&mRest, &QTimer::timeout, this, [this] { tell(kDisplaySetMode); });
+        connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
+            watch(screen);
+            noteChange();
+        });
+        connect(qGuiApp, &QGuiApplication::screenRemoved, this, &ScreenWatcher::noteChange);
+        connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &ScreenWatcher::noteChange);
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        for (QScreen* const screen : screens) {
+            watch(screen);
+        }
+    }
+
+    std::vector<Callback> callbacks;
+
+private:
+    void watch(QScreen* screen) const
+    {
+        connect(screen, &QScreen::geometryChanged, this, &ScreenWatcher::noteChange);
+    }
+    void noteChange()
+    {
+        if (!mRest.isActive()) {
+            tell(kDisplayBeginConfiguration);
+        }
+        mRest.start();
+    }
+    void tell(std::uint32_t flags) const
+    {
+        const auto count = static_cast<DisplayID>(QGuiApplication::screens().size());
+        const std::vector<Callback> present = callbacks; // one may end itself
+        for (const auto& [callback, userInfo] : present) {
+            for (DisplayID display = 0; display < count; ++display) {
+                callback(display, flags, userInfo);
+            }
+        }
+    }
+
+    QTimer mRest;
+};
 
 /** A display's ID is its place in Qt's list of screens. */
 class ScreenDisplays final : public Displays {
@@ -49,12 +108,39 @@ public:
             static_cast<double>(place.height())};
     }
 
+    bool registerReconfigurationCallback(
+        DisplayReconfigurationCallback callback, void* userInfo) override
+    {
+        if (!hasWindowSystem()) {
+            return false;
+        }
+        if (!mWatcher) {
+            mWatcher = std::make_unique<ScreenWatcher>();
+        }
+        mWatcher->callbacks.emplace_back(callback, userInfo);
+        return true;
+    }
+
+    void removeReconfigurationCallback(
+        DisplayReconfigurationCallback callback, void* userInfo) override
+    {
+        if (!mWatcher) {
+            return;
+        }
+        std::erase(mWatcher->callbacks, ScreenWatcher::Callback(callback, userInfo));
+        if (mWatcher->callbacks.empty()) {
+            mWatcher.reset();
+        }
+    }
+
 private:
     /** A command without windows has no application object that knows screens. */
     static bool hasWindowSystem()
     {
         return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
     }
+
+    std::unique_ptr<ScreenWatcher> mWatcher; ///< only while somebody is registered
 };
 
 } // namespace

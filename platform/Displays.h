@@ -20,6 +20,15 @@ namespace platform {
 /** Names an active display until the displays change. */
 using DisplayID = std::uint32_t;
 
+/** The flag of the notice that displays begin to change; every other notice says that they have. */
+inline constexpr std::uint32_t kDisplayBeginConfiguration = 1;
+/** The flag of the notice that they have changed. */
+inline constexpr std::uint32_t kDisplaySetMode = 8;
+
+/** Is told of a display that begins to change or has changed, and what it was registered with. */
+using DisplayReconfigurationCallback = void (*)(
+    DisplayID display, std::uint32_t flags, void* userInfo);
+
 /** Main thread only. */
 class Displays {
 public:
@@ -38,6 +47,18 @@ public:
 
     /** A display's place and size in global display coordinates; empty for an unknown display. */
     virtual Rect bounds(DisplayID display) const = 0;
+
+    /**
+     * Has the callback told when displays come, go, move or turn: of each display once when they
+     * begin to change, and once when all have come to rest.
+     *
+     * @return whether it will be
+     */
+    virtual bool registerReconfigurationCallback(
+        DisplayReconfigurationCallback callback, void* userInfo) = 0;
+    /** Ends what was registered with the same arguments. */
+    virtual void removeReconfigurationCallback(
+        DisplayReconfigurationCallback callback, void* userInfo) = 0;
 };
 
 /** The desktop's displays, or what a ServiceScope<Displays> has put in their place. */

@@ -73,6 +73,8 @@ QStringList PaneWindow::render(const QString& folder)
     };
     mPane->willSelect();
     ensurePolished();
+    // A picture has room for all of it, unlike a screen.
+    resize(size().expandedTo(widget()->minimumSizeHint()));
     if (!hasPages()) {
         save(QStringLiteral("noDevice"));
         return files;

@@ -5,6 +5,7 @@
 #include "Displays.h"
 #include "Service.h"
 
+#include <utility>
 #include <vector>
 
 /** Displays with given bounds, in the place of the desktop's for as long as it lives. */
@@ -38,6 +39,36 @@ public:
         return mBounds.at(display - kFirstID);
     }
 
+    bool registerReconfigurationCallback(
+        platform::DisplayReconfigurationCallback callback, void* userInfo) override
+    {
+        mCallbacks.emplace_back(callback, userInfo);
+        return true;
+    }
+    void removeReconfigurationCallback(
+        platform::DisplayReconfigurationCallback callback, void* userInfo) override
+    {
+        std::erase(mCallbacks, std::pair(callback, userInfo));
+    }
+
+    /** Changes the displays as the desktop does: a notice for each before and after. */
+    void change(std::vector<platform::Rect> bounds)
+    {
+        tell(platform::kDisplayBeginConfiguration);
+        mBounds = std::move(bounds);
+        tell(platform::kDisplaySetMode);
+    }
+    /** Gives one notice for each display. */
+    void tell(std::uint32_t flags)
+    {
+        for (const auto& [callback, userInfo] : mCallbacks) {
+            for (std::size_t i = 0; i < mBounds.size(); ++i) {
+                callback(kFirstID + static_cast<platform::DisplayID>(i), flags, userInfo);
+            }
+        }
+    }
+    std::size_t callbackCount() const { return mCallbacks.size(); }
+
     bool failCount = false; ///< the window system does not tell how many there are
     bool failList = false; ///< nor which
 
@@ -45,5 +76,6 @@ private:
     static constexpr platform::DisplayID kFirstID = 100;
 
     std::vector<platform::Rect> mBounds;
+    std::vector<std::pair<platform::DisplayReconfigurationCallback, void*>> mCallbacks;
     platform::ServiceScope<platform::Displays> mScope;
 };
