@@ -33,9 +33,23 @@ QWidget* QVTblt_prefPanePref::makeMainView()
     auto view = std::make_unique<QWidget>();
     setupUi(view.get());
     setUpKeyPage();
+    setUpDisplayPage();
     connect(mSave, &QPushButton::clicked, this, &QVTblt_prefPanePref::SaveSet);
     connect(mCancel, &QPushButton::clicked, this, &QVTblt_prefPanePref::CancelSet);
     return view.release();
+}
+
+void QVTblt_prefPanePref::setUpDisplayPage()
+{
+    mMonitorView->setOutlets(mComboBox, mComboBoxSpeed, mComboBoxUseMode);
+    mMonitorView->awakeFromNib();
+    const auto chosen = qOverload<int>(&QComboBox::activated);
+    connect(mComboBox, chosen, mMonitorView, &QVMonitorView::SelectMonitor);
+    connect(mComboBoxSpeed, chosen, mMonitorView, &QVMonitorView::SelectSpeed);
+    connect(mComboBoxUseMode, chosen, mMonitorView, &QVMonitorView::SelectUseMode);
+    connect(
+        mDefaultArea, &QPushButton::clicked, mMonitorView, &QVMonitorView::setTabletDefaultArea);
+    connect(mAutoCalibrate, &QPushButton::clicked, mMonitorView, &QVMonitorView::AutoCalibrate);
 }
 
 void QVTblt_prefPanePref::willSelect()

@@ -83,6 +83,7 @@ private:
     void showNoDevice();
     void takeScrollBoxes();
 
+    void setUpDisplayPage();
     void setUpKeyPage();
     void restoreKeyPage();
     void layOutKeyPage(std::uint16_t productID);

@@ -268,5 +268,65 @@
         <source>Picture of the tablet</source>
         <translation>Bild des Tabletts</translation>
     </message>
+    <message>
+        <source>&amp;Map the tablet to:</source>
+        <translation>Tablett &amp;abbilden auf:</translation>
+    </message>
+    <message>
+        <source>Map the tablet to</source>
+        <translation>Tablett abbilden auf</translation>
+    </message>
+    <message>
+        <source>The part of the desktop that the pen reaches.</source>
+        <translation>Der Teil der Arbeitsfläche, den der Stift erreicht.</translation>
+    </message>
+    <message>
+        <source>The tablet &amp;lies:</source>
+        <translation>Das Tablett &amp;liegt:</translation>
+    </message>
+    <message>
+        <source>The tablet lies</source>
+        <translation>Das Tablett liegt</translation>
+    </message>
+    <message>
+        <source>Turn the tablet when its keys shall lie under the other hand.</source>
+        <translation>Drehen, wenn die Tasten unter der anderen Hand liegen sollen.</translation>
+    </message>
+    <message>
+        <source>Turned by 180°</source>
+        <translation>Um 180° gedreht</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>Wie üblich</translation>
+    </message>
+    <message>
+        <source>&amp;Report speed:</source>
+        <translation>&amp;Meldegeschwindigkeit:</translation>
+    </message>
+    <message>
+        <source>Fast follows the hand more closely. The tablet itself is told, over USB.</source>
+        <translation>Schnell folgt der Hand genauer. Das Tablett selbst erfährt es über USB.</translation>
+    </message>
+    <message>
+        <source>Use the &amp;whole tablet</source>
+        <translation>&amp;Ganzes Tablett nutzen</translation>
+    </message>
+    <message>
+        <source>The whole surface reaches the chosen part of the desktop.</source>
+        <translation>Die ganze Fläche erreicht den gewählten Teil der Arbeitsfläche.</translation>
+    </message>
+    <message>
+        <source>Keep &amp;proportions</source>
+        <translation>&amp;Proportionen wahren</translation>
+    </message>
+    <message>
+        <source>Leaves a strip of the tablet unused, so that circles stay round.</source>
+        <translation>Lässt einen Streifen des Tabletts frei, damit Kreise rund bleiben.</translation>
+    </message>
+    <message>
+        <source>Picture of the displays and the tablet</source>
+        <translation>Bild der Bildschirme und des Tabletts</translation>
+    </message>
 </context>
 </TS>

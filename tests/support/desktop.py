@@ -14,13 +14,17 @@ import session
 class Desktop(session.Session):
     SCREEN = "1280x900x24"
 
+    def x_server(self):
+        """The server's command."""
+        return ["Xvfb", "-screen", "0", self.SCREEN]
+
     def setUp(self):
         super().setUp()
         read, write = os.pipe()
         # Without -noreset it would start over when the first of its programs ends, and take with it
         # the one that is just connecting.
-        self.start(["Xvfb", "-displayfd", write, "-screen", "0", self.SCREEN, "-nolisten", "tcp",
-                    "-noreset"], pass_fds=(write,), stderr=subprocess.DEVNULL)
+        self.start([*self.x_server(), "-displayfd", write, "-nolisten", "tcp", "-noreset"],
+                   pass_fds=(write,), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as pipe:
             self.env["DISPLAY"] = ":" + pipe.readline().strip()

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVMonitorGeometry.h"
+
+#include <algorithm>
+
+using platform::Rect;
+
+namespace {
+
+constexpr double kMiniature = 15.0; ///< display points in a point of the view
+
+} // namespace
+
+Rect QVBoundingRect(std::span<const Rect> rects)
+{
+    if (rects.size() < 2) {
+        return rects.front();
+    }
+    const Rect& first = rects.front();
+    auto left = static_cast<float>(first.x);
+    auto top = static_cast<float>(first.y);
+    auto right = static_cast<float>(first.x + first.width);
+    auto bottom = static_cast<float>(first.y + first.height);
+    for (const Rect& rect : rects.subspan(1)) {
+        left = std::min(left, static_cast<float>(rect.x));
+        top = std::min(top, static_cast<float>(rect.y));
+        right = std::max(right, static_cast<float>(rect.x + rect.width));
+        bottom = std::max(bottom, static_cast<float>(rect.y + rect.height));
+    }
+    return {left, top, static_cast<double>(right - left), static_cast<double>(bottom - top)};
+}
+
+Rect QVMiniature(const Rect& display, const Rect& bounds)
+{
+    const double width = display.width / kMiniature;
+    const double height = display.height / kMiniature;
+    return {display.x / kMiniature + (bounds.width / 3.0 + 30.0),
+        480.0 - (height + (display.y / kMiniature + (bounds.height - 110.0))), width, height};
+}
+
+std::optional<QVPoint> QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole)
+{
+    const std::int32_t wholeWidth = whole.xmax - whole.xmin;
+    const std::int32_t wholeHeight = whole.ymax - whole.ymin;
+    if (wholeWidth == 0 || wholeHeight == 0) {
+        return std::nullopt;
+    }
+    const auto pictureWidth = static_cast<std::int32_t>(kQVPictureArea.width);
+    const auto pictureHeight = static_cast<std::int32_t>(kQVPictureArea.height);
+    const std::int32_t right = (used.xmax - used.xmin) * pictureWidth / wholeWidth;
+    const std::int32_t down = (used.ymax - used.ymin) * pictureHeight / wholeHeight;
+    return QVPoint{kQVPictureArea.x + right, kQVPictureArea.y + kQVPictureArea.height - down};
+}
+
+std::optional<QVTabletArea> QVAspectFit(
+    const QVTabletArea& whole, std::int16_t width, std::int16_t height)
+{
+    const std::int32_t tabletWidth = whole.xmax - whole.xmin;
+    const std::int32_t tabletHeight = whole.ymax - whole.ymin;
+    if (tabletWidth == 0 || tabletHeight == 0 || width == 0 || height == 0) {
+        return std::nullopt;
+    }
+    QVTabletArea fitted = whole;
+    if (tabletHeight * width <= tabletWidth * height) {
+        fitted.xmax = static_cast<std::uint16_t>(whole.xmin + tabletHeight * width / height);
+    } else {
+        fitted.ymax = static_cast<std::uint16_t>(whole.ymin + tabletWidth * height / width);
+    }
+    return fitted;
+}

@@ -1,0 +1,71 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Geometry.h"
+
+#include <cstdint>
+#include <optional>
+#include <span>
+
+/**
+ * @file
+ * The arithmetic of the display page. Display rectangles are in global display points, y growing
+ * downwards; the view's are in its own points, y growing upwards.
+ */
+
+/** Most displays that the panel knows. */
+inline constexpr std::uint32_t kQVMaxDisplays = 4;
+
+/** The tablet's whole active area in the page's picture, in the view's points. */
+inline constexpr platform::Rect kQVPictureArea{275, 33, 86, 47};
+
+/**
+ * The smallest rectangle around all of them; of fewer than two, the first itself. Its edges are
+ * found in single precision.
+ *
+ * @param rects at least one
+ */
+platform::Rect QVBoundingRect(std::span<const platform::Rect> rects);
+
+/**
+ * A display's miniature in the view, at a fifteenth of its size. The main display's upper left
+ * corner lies at a third of the view's width plus 30, and at 590 minus the view's height.
+ */
+platform::Rect QVMiniature(const platform::Rect& display, const platform::Rect& bounds);
+
+/** A range of the tablet, in tablet units. */
+struct QVTabletArea {
+    std::uint16_t xmin;
+    std::uint16_t xmax;
+    std::uint16_t ymin;
+    std::uint16_t ymax;
+
+    bool operator==(const QVTabletArea&) const = default;
+};
+
+/** A point of the view. */
+struct QVPoint {
+    double x;
+    double y;
+
+    bool operator==(const QVPoint&) const = default;
+};
+
+/**
+ * The lower right corner in the picture of an area in use, whose upper left corner is drawn at that
+ * of the whole area. Whole points: quotients are cut off.
+ *
+ * @return nothing when the whole area has no width or no height
+ */
+std::optional<QVPoint> QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole);
+
+/**
+ * The largest part of the tablet, from its upper left corner, that has the shape of a display, so
+ * that circles stay round.
+ *
+ * @param width of the mapped area, in display points
+ * @return nothing when tablet or display has no width or no height
+ */
+std::optional<QVTabletArea> QVAspectFit(
+    const QVTabletArea& whole, std::int16_t width, std::int16_t height);

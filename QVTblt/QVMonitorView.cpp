@@ -1,0 +1,354 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVMonitorView.h"
+
+#include "Client.h"
+#include "QVTblt_prefPanePref.h"
+#include "QVTruncate.h"
+#include "rzkApplication.h"
+
+#include <QComboBox>
+#include <QLoggingCategory>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+
+using platform::Rect;
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcMonitor, "org.quorvia.tablet.monitor", QtInfoMsg)
+
+constexpr double kPictureLeft = kQVPictureArea.x;
+constexpr double kPictureRight = kQVPictureArea.x + kQVPictureArea.width;
+constexpr double kPictureBottom = kQVPictureArea.y;
+constexpr double kPictureTop = kQVPictureArea.y + kQVPictureArea.height;
+
+constexpr std::int16_t kFast = 180;
+constexpr std::int16_t kNormal = 220;
+constexpr std::int16_t kTurned = 180;
+
+/** Whether displays have begun to change; of all views together. */
+bool DisplayConfigurationChanged = false;
+
+void push()
+{
+    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+}
+
+QString displayName(std::uint32_t index)
+{
+    const QString display = rzkBundle.localizedString(
+        QStringLiteral("Monitor"), QString(), QStringLiteral("InfoPlist"));
+    return QStringLiteral("%1 #%2").arg(display).arg(index + 1);
+}
+
+QVTabletArea wholeArea(const tagQVTabletInfo& info)
+{
+    return {
+        info.Basic.TabletXmin, info.Basic.TabletXmax, info.Basic.TabletYmin, info.Basic.TabletYmax};
+}
+
+QVTabletArea usedArea(const tagQVTabletInfo& info)
+{
+    return {info.Monitor.cTabletXmin, info.Monitor.cTabletXmax, info.Monitor.cTabletYmin,
+        info.Monitor.cTabletYmax};
+}
+
+void setUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)
+{
+    info.Monitor.cTabletXmin = area.xmin;
+    info.Monitor.cTabletXmax = area.xmax;
+    info.Monitor.cTabletYmin = area.ymin;
+    info.Monitor.cTabletYmax = area.ymax;
+}
+
+/** Draws text with the lower left corner of its line at a point; the painter's y grows upwards. */
+void drawText(QPainter& painter, const QString& text, double x, double y)
+{
+    painter.save();
+    painter.translate(x, y);
+    painter.scale(1, -1);
+    painter.setPen(Qt::black); // on a miniature, which has the same colour in every theme
+    painter.drawText(QPointF(0, -painter.fontMetrics().descent()), text);
+    painter.restore();
+}
+
+/** Draws the edges of a rectangle, a point wide, inside of it. */
+void frameRect(QPainter& painter, const Rect& rect)
+{
+    QPainterPath frame;
+    frame.addRect(QRectF(rect.x, rect.y, rect.width, rect.height));
+    frame.addRect(QRectF(
+        rect.x + 1, rect.y + 1, std::max(0.0, rect.width - 2), std::max(0.0, rect.height - 2)));
+    painter.fillPath(frame, Qt::black); // what is between the two, by the odd-even rule
+}
+
+} // namespace
+
+QVMonitorView::QVMonitorView(QWidget* parent)
+    : PaneView(parent)
+    , pQVInfo(GetqvTabletInfo())
+{
+    const auto path =
+        rzkBundle.pathForResource(QStringLiteral("backgroundregion"), QStringLiteral("jpg"));
+    if (path) {
+        mBackgroundImage = QImage(*path);
+    }
+    DisplayRegistrationCallBackSuccessful = platform::displays().registerReconfigurationCallback(
+        DisplayRegisterReconfigurationCallback, this);
+}
+
+QVMonitorView::~QVMonitorView()
+{
+    if (DisplayRegistrationCallBackSuccessful) {
+        platform::displays().removeReconfigurationCallback(
+            DisplayRegisterReconfigurationCallback, this);
+    }
+}
+
+void QVMonitorView::setOutlets(QComboBox* displays, QComboBox* speed, QComboBox* useMode)
+{
+    mComboBox = displays;
+    mComboBoxSpeed = speed;
+    mComboBoxUseMode = useMode;
+}
+
+void QVMonitorView::awakeFromNib()
+{
+    interrogateHardware();
+}
+
+void QVMonitorView::disableUI()
+{
+    mComboBox->clear();
+}
+
+void QVMonitorView::interrogateHardware()
+{
+    const platform::Displays& service = platform::displays();
+    mDspCount = std::min(service.activeDisplayCount().value_or(1), kQVMaxDisplays);
+    const auto displays = service.activeDisplays();
+    if (!displays) {
+        mDisplays.assign(mDspCount, 0);
+        return;
+    }
+    mDisplays = *displays;
+    mDisplays.resize(std::min<std::size_t>(mDisplays.size(), kQVMaxDisplays));
+    mDspCount = static_cast<std::uint32_t>(mDisplays.size());
+    disableUI();
+    if (mDspCount >= 2) {
+        mComboBox->addItem(rzkBundle.localizedString(
+            QStringLiteral("Monitors"), QString(), QStringLiteral("InfoPlist")));
+    }
+    for (std::uint32_t i = 0; i < mDspCount; ++i) {
+        mComboBox->addItem(displayName(i));
+        mSubMonitorRect[i] = service.bounds(mDisplays[i]);
+    }
+}
+
+void QVMonitorView::GetAllMonitorRect(const Rect* rects, Rect* outRect) const
+{
+    *outRect = QVBoundingRect({rects, std::max(mDspCount, 1U)});
+}
+
+void QVMonitorView::setMappedArea(const Rect& area)
+{
+    pQVInfo->Monitor.XOrg = QVTruncate(area.x);
+    pQVInfo->Monitor.Width = QVTruncate(area.width);
+    pQVInfo->Monitor.YOrg = QVTruncate(area.y);
+    pQVInfo->Monitor.Height = QVTruncate(area.height);
+}
+
+void QVMonitorView::updateMappedArea(const Rect& all)
+{
+    if (mDspCount == 1) {
+        mComboBox->setCurrentIndex(0);
+        setMappedArea(all);
+        return;
+    }
+    if (mDspCount == 0) {
+        return;
+    }
+    const std::int16_t num = pQVInfo->Monitor.num;
+    const auto chosen = static_cast<std::uint32_t>(std::int32_t{num}); // negative is too large
+    mComboBox->setCurrentIndex(chosen > mDspCount ? 0 : num);
+    if (num == 0) {
+        setMappedArea(all);
+    } else if (chosen <= mSubMonitorRect.size()) {
+        setMappedArea(mSubMonitorRect[chosen - 1]);
+    } else {
+        qCWarning(lcMonitor, "there is no display %d: the mapped area stays as it is", num);
+    }
+}
+
+void QVMonitorView::updatePicturePoints()
+{
+    const auto corner = QVPictureCorner(usedArea(*pQVInfo), wholeArea(*pQVInfo));
+    mTabletPicLeftUp = {kPictureLeft, kPictureTop};
+    if (corner) {
+        mTabletPicRightDn = *corner;
+    } else {
+        qCDebug(lcMonitor, "the tablet's active area has no width or no height");
+    }
+}
+
+void QVMonitorView::updateLists()
+{
+    const auto select = [](QComboBox* list, std::int16_t value, std::int16_t first,
+                            std::int16_t second) {
+        if (value == first || value == second) {
+            list->setCurrentIndex(value == first ? 0 : 1);
+        }
+    };
+    select(mComboBoxUseMode, pQVInfo->Monitor.rotationFlag, kTurned, 0);
+    select(mComboBoxSpeed, pQVInfo->Monitor.Speed, kFast, kNormal);
+}
+
+Rect QVMonitorView::drawMiniatures(QPainter& painter) const
+{
+    std::array<Rect, kQVMaxDisplays> miniatures{};
+    for (std::uint32_t i = 0; i < mDspCount; ++i) {
+        Rect& miniature = miniatures[i];
+        miniature = QVMiniature(mSubMonitorRect[i], bounds());
+        painter.setPen(QPen(Qt::magenta, 1));
+        painter.setBrush(Qt::magenta);
+        painter.drawRect(QRectF(miniature.x, miniature.y, miniature.width, miniature.height));
+        drawText(painter, displayName(i), miniature.x + 20, miniature.y + 15);
+    }
+    const int chosen = mComboBox->currentIndex();
+    if (mDspCount == 1) {
+        return miniatures[0];
+    }
+    if (chosen > 0) {
+        return miniatures[static_cast<std::size_t>(chosen) - 1];
+    }
+    Rect all;
+    GetAllMonitorRect(miniatures.data(), &all);
+    return all;
+}
+
+void QVMonitorView::drawRect(QPainter& painter, const Rect& dirty)
+{
+    Rect all;
+    GetAllMonitorRect(mSubMonitorRect.data(), &all);
+    updateMappedArea(all);
+    updatePicturePoints();
+    updateLists();
+
+    painter.setRenderHint(QPainter::Antialiasing);
+    if (!mBackgroundImage.isNull()) {
+        platform::drawImage(
+            painter, mBackgroundImage, dirty, platform::imageBounds(mBackgroundImage));
+    }
+    const Rect framed = drawMiniatures(painter);
+    frameRect(painter, framed);
+
+    const double left = static_cast<float>(framed.x);
+    const double bottom = static_cast<float>(framed.y);
+    const double right = static_cast<float>(framed.x + framed.width);
+    const double top = static_cast<float>(framed.y + framed.height);
+    QPainterPath lines;
+    lines.moveTo(left, top);
+    lines.lineTo(kPictureLeft, kPictureTop);
+    lines.moveTo(right, top);
+    lines.lineTo(kPictureRight, kPictureTop);
+    lines.moveTo(right, bottom);
+    lines.lineTo(kPictureRight, kPictureBottom);
+    lines.moveTo(left, bottom);
+    lines.lineTo(kPictureLeft, kPictureBottom);
+    painter.strokePath(lines, QPen(Qt::black, 1));
+}
+
+void QVMonitorView::SelectMonitor()
+{
+    const int chosen = mComboBox->currentIndex();
+    pQVInfo->Monitor.num = static_cast<std::int16_t>(chosen);
+    if (chosen == 0 && mDspCount > 1) {
+        Rect all;
+        GetAllMonitorRect(mSubMonitorRect.data(), &all);
+        setMappedArea(all);
+    } else {
+        const auto display = static_cast<std::size_t>(mDspCount >= 2 ? chosen - 1 : chosen);
+        if (display < mSubMonitorRect.size()) {
+            setMappedArea(mSubMonitorRect[display]);
+        }
+    }
+    setNeedsDisplay();
+    push();
+}
+
+void QVMonitorView::SelectSpeed()
+{
+    const auto productID = static_cast<std::uint16_t>(pQVInfo->Basic.ProductID);
+    switch (mComboBoxSpeed->currentIndex()) {
+    case 0:
+        pQVInfo->Monitor.Speed = kFast;
+        controlUSBDev(kQVReportFast, productID);
+        break;
+    case 1:
+        pQVInfo->Monitor.Speed = kNormal;
+        controlUSBDev(kQVReportNormal, productID);
+        break;
+    default:
+        break;
+    }
+    push();
+}
+
+void QVMonitorView::SelectUseMode()
+{
+    switch (mComboBoxUseMode->currentIndex()) {
+    case 0:
+        pQVInfo->Monitor.rotationFlag = kTurned;
+        break;
+    case 1:
+        pQVInfo->Monitor.rotationFlag = 0;
+        break;
+    default:
+        break;
+    }
+    push();
+}
+
+void QVMonitorView::setTabletDefaultArea()
+{
+    setUsedArea(*pQVInfo, wholeArea(*pQVInfo));
+    push();
+}
+
+void QVMonitorView::AutoCalibrate()
+{
+    mTabletPicLeftUp = {kPictureLeft, kPictureTop};
+    mTabletPicRightDn = {kPictureRight, kPictureBottom};
+    const QVTabletArea whole = wholeArea(*pQVInfo);
+    const auto fitted = QVAspectFit(whole, pQVInfo->Monitor.Width, pQVInfo->Monitor.Height);
+    if (fitted) {
+        setUsedArea(*pQVInfo, *fitted);
+        updatePicturePoints();
+    } else {
+        qCWarning(
+            lcMonitor, "the tablet cannot be fitted: it or the display has no width or height");
+    }
+    setNeedsDisplay();
+    push();
+}
+
+void DisplayRegisterReconfigurationCallback(
+    platform::DisplayID display, std::uint32_t flags, void* userInfo)
+{
+    static_cast<void>(display);
+    auto& view = *static_cast<QVMonitorView*>(userInfo);
+    const bool isBeginning = flags == platform::kDisplayBeginConfiguration;
+    if (isBeginning == DisplayConfigurationChanged) {
+        return; // one of a burst
+    }
+    DisplayConfigurationChanged = isBeginning;
+    if (isBeginning) {
+        view.disableUI();
+    } else {
+        view.interrogateHardware();
+        view.setNeedsDisplay();
+    }
+}

@@ -1,0 +1,92 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Displays.h"
+#include "PaneView.h"
+#include "QVMonitorGeometry.h"
+#include "tagQVTabletInfo.h"
+
+#include <QImage>
+
+#include <array>
+#include <cstdint>
+#include <vector>
+
+class QComboBox;
+
+/**
+ * The display page's picture: the displays in miniature over a drawing of the tablet, with the
+ * mapped area framed and joined to the tablet. Also what the page's controls do: they change the
+ * record and push it at once.
+ *
+ * Drawing brings the mapped area of the record and the page's lists up to date, without pushing.
+ */
+class QVMonitorView final : public platform::PaneView {
+    Q_OBJECT
+
+public:
+    explicit QVMonitorView(QWidget* parent = nullptr);
+    ~QVMonitorView() override;
+    QVMonitorView(const QVMonitorView&) = delete;
+    QVMonitorView& operator=(const QVMonitorView&) = delete;
+    QVMonitorView(QVMonitorView&&) = delete;
+    QVMonitorView& operator=(QVMonitorView&&) = delete;
+
+    /** Connects the page's lists; before awakeFromNib(). They outlive the view's last drawing. */
+    void setOutlets(QComboBox* displays, QComboBox* speed, QComboBox* useMode);
+    /** The interface file has been loaded. */
+    void awakeFromNib();
+
+    /** Reads the displays and fills their list: with two or more, all of them first. */
+    void interrogateHardware();
+    /** Empties the list of displays, which are about to change. */
+    void disableUI();
+
+    /** Maps the tablet to the chosen display or to all. */
+    void SelectMonitor();
+    /** Sets the report mode; the tablet is told over USB too. */
+    void SelectSpeed();
+    /** Turns the tablet. */
+    void SelectUseMode();
+    /** Uses the whole tablet. */
+    void setTabletDefaultArea();
+    /** Uses the part of the tablet that has the mapped area's shape. */
+    void AutoCalibrate();
+
+    /**
+     * The smallest rectangle around the first mDspCount rectangles.
+     *
+     * @param rects as many as there are displays, at least one
+     */
+    void GetAllMonitorRect(const platform::Rect* rects, platform::Rect* outRect) const;
+
+protected:
+    void drawRect(QPainter& painter, const platform::Rect& dirty) override;
+
+private:
+    friend void DisplayRegisterReconfigurationCallback(
+        platform::DisplayID display, std::uint32_t flags, void* userInfo);
+
+    void updateMappedArea(const platform::Rect& all);
+    void setMappedArea(const platform::Rect& area);
+    void updatePicturePoints();
+    void updateLists();
+    platform::Rect drawMiniatures(QPainter& painter) const;
+
+    QComboBox* mComboBox = nullptr;
+    QComboBox* mComboBoxSpeed = nullptr;
+    QComboBox* mComboBoxUseMode = nullptr;
+    QImage mBackgroundImage;
+    bool DisplayRegistrationCallBackSuccessful = false;
+    tagQVTabletInfo* pQVInfo;
+    std::vector<platform::DisplayID> mDisplays;
+    std::uint32_t mDspCount = 0;
+    std::array<platform::Rect, kQVMaxDisplays> mSubMonitorRect{}; ///< global display points
+    QVPoint mTabletPicLeftUp{}; ///< of the area in use, in the picture
+    QVPoint mTabletPicRightDn{};
+};
+
+/** Empties the view's list when displays begin to change, and fills it when they have changed. */
+void DisplayRegisterReconfigurationCallback(
+    platform::DisplayID display, std::uint32_t flags, void* userInfo);

@@ -1,0 +1,49 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""A desktop whose displays are plugged in and out: a real X server with a driver for no hardware."""
+
+import desktop
+
+XORG_CONFIG = """
+Section "ServerFlags"
+  Option "AutoAddDevices" "false"
+  Option "AutoEnableDevices" "false"
+EndSection
+Section "Device"
+  Identifier "dummy"
+  Driver "dummy"
+  VideoRam 256000
+EndSection
+Section "Screen"
+  Identifier "screen"
+  Device "dummy"
+  DefaultDepth 24
+  SubSection "Display"
+    Depth 24
+    Virtual 8192 4096
+  EndSubSection
+EndSection
+"""
+
+
+class Displays(desktop.Desktop):
+    """Starts with the display DUMMY0 of 1024 by 768 points."""
+
+    def x_server(self):
+        config = self.folder / "xorg.conf"
+        config.write_text(XORG_CONFIG)
+        return ["/usr/lib/xorg/Xorg", "-config", config, "-logfile", self.folder / "xorg.log",
+                "-novtswitch", "-sharevts"]
+
+    def xrandr(self, *words):
+        result = self.run_program("xrandr", *words)
+        self.assertEqual(result.returncode, 0, result.stderr)
+
+    def plug(self, number, mode, position):
+        """Plugs a display in, or changes it: a mode as 1024x768, a position as 1024x0."""
+        output = f"DUMMY{number}"
+        self.run_program("xrandr", "--addmode", output, mode)  # fails where it has it already
+        self.xrandr("--output", output, "--mode", mode, "--pos", position)
+
+    def unplug(self, number):
+        self.xrandr("--output", f"DUMMY{number}", "--off")

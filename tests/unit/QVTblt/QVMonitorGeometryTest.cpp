@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVMonitorGeometry.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+
+using platform::Rect;
+
+TEST(BoundingRect, ofOneIsItself)
+{
+    const std::array one{Rect{-3.3, 4.4, 5.5, 6.6}};
+    EXPECT_EQ(QVBoundingRect(one), one[0]) << "not rounded to single precision";
+}
+
+TEST(BoundingRect, ofTwoSideBySideSpansBoth)
+{
+    EXPECT_EQ(QVBoundingRect(std::array{Rect{0, 0, 1920, 1080}, Rect{1920, 0, 1280, 1024}}),
+        (Rect{0, 0, 3200, 1080}));
+}
+
+TEST(BoundingRect, takesEachAxisByItself)
+{
+    EXPECT_EQ(QVBoundingRect(
+                  std::array{Rect{0, 0, 100, 100}, Rect{-50, 20, 20, 300}, Rect{10, -70, 500, 10}}),
+        (Rect{-50, -70, 560, 390}));
+}
+
+TEST(BoundingRect, isFoundInSinglePrecision)
+{
+    // 16777217 is the first whole number that single precision lacks.
+    EXPECT_EQ(
+        QVBoundingRect(std::array{Rect{0, 0, 16777217, 1}, Rect{0, 0, 1, 1}}).width, 16777216);
+}
+
+TEST(Miniature, isAFifteenthAtItsPlace)
+{
+    EXPECT_EQ(QVMiniature({0, 0, 1920, 1080}, {0, 0, 600, 400}), (Rect{230, 118, 128, 72}));
+}
+
+TEST(Miniature, movesDownWhenTheDisplayDoes)
+{
+    EXPECT_EQ(QVMiniature({-150, 1080, 150, 150}, {0, 0, 600, 400}), (Rect{220, 108, 10, 10}));
+}
+
+TEST(PictureCorner, ofTheWholeAreaIsItsCorner)
+{
+    const QVTabletArea whole{0, 10000, 0, 6250};
+    EXPECT_EQ(QVPictureCorner(whole, whole), (QVPoint{361, 33}));
+}
+
+TEST(PictureCorner, cutsQuotientsOff)
+{
+    // 9999 * 86 / 10000 = 85.99…, 6249 * 47 / 6250 = 46.99…
+    EXPECT_EQ(QVPictureCorner({0, 9999, 0, 6249}, {0, 10000, 0, 6250}), (QVPoint{360, 34}));
+}
+
+TEST(PictureCorner, takesAreasThatAreTurnedAround)
+{
+    EXPECT_EQ(QVPictureCorner({10000, 0, 6250, 0}, {0, 10000, 0, 6250}), (QVPoint{189, 127}));
+}
+
+TEST(PictureCorner, isNoneForATabletWithoutWidthOrHeight)
+{
+    EXPECT_EQ(QVPictureCorner({0, 5, 0, 5}, {7, 7, 0, 5}), std::nullopt);
+    EXPECT_EQ(QVPictureCorner({0, 5, 0, 5}, {0, 5, 7, 7}), std::nullopt);
+}
+
+TEST(AspectFit, cutsTheHeightForAWiderDisplay)
+{
+    EXPECT_EQ(QVAspectFit({0, 10000, 0, 6250}, 1920, 1080), (QVTabletArea{0, 10000, 0, 5625}));
+}
+
+TEST(AspectFit, cutsTheWidthForATallerDisplay)
+{
+    EXPECT_EQ(QVAspectFit({100, 10100, 50, 6300}, 1080, 1920), (QVTabletArea{100, 3615, 50, 6300}));
+}
+
+TEST(AspectFit, keepsTheWholeTabletForItsOwnShape)
+{
+    EXPECT_EQ(QVAspectFit({0, 16000, 0, 9000}, 1600, 900), (QVTabletArea{0, 16000, 0, 9000}));
+}
+
+TEST(AspectFit, divisionsAreCutOff)
+{
+    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 3, 2), (QVTabletArea{0, 100, 0, 66}));
+}
+
+TEST(AspectFit, isNoneWhereItWouldDivideByZero)
+{
+    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 0, 0), std::nullopt);
+    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 10, 0), std::nullopt);
+    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 0, 10), std::nullopt);
+    EXPECT_EQ(QVAspectFit({5, 5, 0, 100}, 10, 10), std::nullopt);
+    EXPECT_EQ(QVAspectFit({0, 100, 5, 5}, 10, 10), std::nullopt);
+}
+
+TEST(AspectFit, survivesEveryExtreme)
+{
+    for (const int width : {-32768, -1, 0, 1, 32767}) {
+        for (const int height : {-32768, -1, 0, 1, 32767}) {
+            for (const QVTabletArea& whole : {QVTabletArea{0, 65535, 0, 65535},
+                     QVTabletArea{65535, 0, 65535, 0}, QVTabletArea{0, 65535, 65535, 0}}) {
+                QVAspectFit(
+                    whole, static_cast<std::int16_t>(width), static_cast<std::int16_t>(height));
+            }
+        }
+    }
+}

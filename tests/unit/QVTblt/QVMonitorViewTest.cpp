@@ -1,0 +1,413 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// The display page: its lists, its actions, what it draws.
+
+#include "QVMonitorView.h"
+
+#include "FakeUsb.h"
+#include "PaneTest.h"
+#include "QVTabletModels.h"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPushButton>
+#include <QTest>
+
+using platform::Rect;
+
+namespace {
+
+const Rect kFullHD{0, 0, 1920, 1080};
+const Rect kRight{1920, 0, 1280, 1024};
+
+class DisplayPage : public PaneTest {
+protected:
+    void SetUp() override
+    {
+        mDisplays.change({kFullHD, kRight});
+        PaneTest::SetUp();
+        show();
+        outlet<QTabWidget>("tabView").setCurrentIndex(1);
+        qvTabletInfo.Basic.TabletXmin = 0;
+        qvTabletInfo.Basic.TabletXmax = 10000;
+        qvTabletInfo.Basic.TabletYmin = 0;
+        qvTabletInfo.Basic.TabletYmax = 6250;
+        qvTabletInfo.Monitor.num = 0;
+        draw();
+        mEvents.sent.clear();
+    }
+
+    QVMonitorView& view() { return outlet<QVMonitorView>("mMonitorView"); }
+    QComboBox& list() { return outlet<QComboBox>("mComboBox"); }
+    QStringList items()
+    {
+        QStringList texts;
+        for (int i = 0; i < list().count(); ++i) {
+            texts.append(list().itemText(i));
+        }
+        return texts;
+    }
+    QImage draw()
+    {
+        view().setNeedsDisplay();
+        return view().grab().toImage();
+    }
+    /** Chooses as a person does, in the open list. */
+    static void choose(QComboBox& box, int item)
+    {
+        box.showPopup();
+        QTest::keyClick(box.view(), Qt::Key_Home);
+        for (int i = 0; i < item; ++i) {
+            QTest::keyClick(box.view(), Qt::Key_Down);
+        }
+        QTest::keyClick(box.view(), Qt::Key_Return);
+    }
+    void press(const char* button)
+    {
+        QTest::mouseClick(&outlet<QPushButton>(button), Qt::LeftButton);
+    }
+    static Rect mapped()
+    {
+        const auto& monitor = qvTabletInfo.Monitor;
+        return {double(monitor.XOrg), double(monitor.YOrg), double(monitor.Width),
+            double(monitor.Height)};
+    }
+    static std::vector<int> used()
+    {
+        const auto& monitor = qvTabletInfo.Monitor;
+        return {monitor.cTabletXmin, monitor.cTabletXmax, monitor.cTabletYmin, monitor.cTabletYmax};
+    }
+
+    FakeUsb mUsb;
+};
+
+} // namespace
+
+// The list ----------------------------------------------------------------------------------------
+
+TEST_F(DisplayPage, listsAllDisplaysFirstWhereThereAreTwo)
+{
+    EXPECT_EQ(items(),
+        (QStringList{QStringLiteral("All displays"), QStringLiteral("Display #1"),
+            QStringLiteral("Display #2")}));
+}
+
+TEST_F(DisplayPage, listsTheOneDisplayAlone)
+{
+    mDisplays.change({kFullHD});
+    EXPECT_EQ(items(), QStringList{QStringLiteral("Display #1")});
+}
+
+TEST_F(DisplayPage, knowsFourDisplaysOfMore)
+{
+    mDisplays.change(std::vector<Rect>(5, kFullHD));
+    EXPECT_EQ(list().count(), 5) << "all, and four";
+    draw();
+}
+
+TEST_F(DisplayPage, isEmptyWhileDisplaysChangeAndFilledOnceTheyHave)
+{
+    mDisplays.tell(platform::kDisplayBeginConfiguration);
+    EXPECT_EQ(list().count(), 0);
+    draw();
+    mDisplays.tell(platform::kDisplayBeginConfiguration);
+    mDisplays.tell(platform::kDisplaySetMode);
+    EXPECT_EQ(list().count(), 3);
+    list().addItem(QStringLiteral("mine"));
+    mDisplays.tell(platform::kDisplaySetMode);
+    EXPECT_EQ(list().count(), 4) << "the rest of the burst changes nothing";
+}
+
+TEST_F(DisplayPage, keepsItsListWhenTheDisplaysAreNotTold)
+{
+    mDisplays.failList = true;
+    view().interrogateHardware();
+    EXPECT_EQ(list().count(), 3);
+    mDisplays.failList = false;
+    mDisplays.failCount = true;
+    view().interrogateHardware();
+    EXPECT_EQ(list().count(), 3);
+}
+
+TEST_F(DisplayPage, endsItsRegistrationWithTheView)
+{
+    EXPECT_EQ(mDisplays.callbackCount(), 1U);
+    mWindow.reset();
+    EXPECT_EQ(mDisplays.callbackCount(), 0U);
+}
+
+// Choosing a display ------------------------------------------------------------------------------
+
+TEST_F(DisplayPage, allDisplaysAreMappedByTheirBounds)
+{
+    choose(list(), 1);
+    choose(list(), 0);
+    EXPECT_EQ(mapped(), (Rect{0, 0, 3200, 1080}));
+    EXPECT_EQ(+qvTabletInfo.Monitor.num, 0);
+    ASSERT_EQ(pushes().size(), 2U);
+    EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
+}
+
+TEST_F(DisplayPage, aDisplayIsMappedByItsPlace)
+{
+    choose(list(), 2);
+    EXPECT_EQ(mapped(), kRight);
+    EXPECT_EQ(+qvTabletInfo.Monitor.num, 2);
+    choose(list(), 1);
+    EXPECT_EQ(mapped(), kFullHD);
+    EXPECT_EQ(pushes().size(), 2U);
+}
+
+TEST_F(DisplayPage, theOneDisplayIsItemZero)
+{
+    mDisplays.change({{5, 6, 700, 800}});
+    choose(list(), 0);
+    EXPECT_EQ(+qvTabletInfo.Monitor.num, 0);
+    EXPECT_EQ(mapped(), (Rect{5, 6, 700, 800}));
+    EXPECT_EQ(pushes().size(), 1U);
+}
+
+TEST_F(DisplayPage, aDisplayLeftOfTheMainOneHasANegativeOrigin)
+{
+    mDisplays.change({kFullHD, {-1280, -100, 1280, 1024}});
+    choose(list(), 2);
+    EXPECT_EQ(mapped(), (Rect{-1280, -100, 1280, 1024}));
+    choose(list(), 0);
+    EXPECT_EQ(mapped(), (Rect{-1280, -100, 3200, 1180}));
+}
+
+TEST_F(DisplayPage, fractionsAreCutOffTowardZero)
+{
+    mDisplays.change({kFullHD, {-1280.9, 0.9, 1280.9, 1024.9}});
+    choose(list(), 2);
+    EXPECT_EQ(mapped(), (Rect{-1280, 0, 1280, 1024}));
+}
+
+TEST_F(DisplayPage, nothingSelectedIsStoredButMapsNothing)
+{
+    const Rect before = mapped();
+    list().setCurrentIndex(-1);
+    view().SelectMonitor();
+    EXPECT_EQ(+qvTabletInfo.Monitor.num, -1);
+    EXPECT_EQ(mapped(), before);
+    EXPECT_EQ(pushes().size(), 1U);
+    draw();
+    EXPECT_EQ(list().currentIndex(), 0);
+}
+
+// Other actions -----------------------------------------------------------------------------------
+
+TEST_F(DisplayPage, theFirstSpeedIsFastAndToldToTheTablet)
+{
+    mUsb.devices.resize(1);
+    choose(outlet<QComboBox>("mComboBoxSpeed"), 0);
+    EXPECT_EQ(+qvTabletInfo.Monitor.Speed, 180);
+    choose(outlet<QComboBox>("mComboBoxSpeed"), 1);
+    EXPECT_EQ(+qvTabletInfo.Monitor.Speed, 220);
+    ASSERT_EQ(mUsb.data.size(), 2U);
+    EXPECT_EQ(mUsb.data[0], (std::vector<std::uint8_t>{4, 1}));
+    EXPECT_EQ(mUsb.data[1], (std::vector<std::uint8_t>{4, 0}));
+    EXPECT_EQ(mUsb.asked.properties.at("idProduct"), 2) << "that of the file";
+    ASSERT_EQ(pushes().size(), 2U);
+    EXPECT_EQ(+pushes()[0].Monitor.Speed, 180);
+    EXPECT_EQ(+pushes()[1].Monitor.Speed, 220);
+}
+
+TEST_F(DisplayPage, noSpeedSelectedStillPushes)
+{
+    mUsb.devices.resize(1);
+    const tagQVTabletInfo before = qvTabletInfo;
+    outlet<QComboBox>("mComboBoxSpeed").setCurrentIndex(-1);
+    view().SelectSpeed();
+    EXPECT_TRUE(mUsb.data.empty());
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_TRUE(sameBytes(pushes().back(), before));
+}
+
+TEST_F(DisplayPage, theTabletIsTurnedAndTurnedBack)
+{
+    auto& mode = outlet<QComboBox>("mComboBoxUseMode");
+    choose(mode, 0);
+    EXPECT_EQ(+qvTabletInfo.Monitor.rotationFlag, 180);
+    choose(mode, 1);
+    EXPECT_EQ(+qvTabletInfo.Monitor.rotationFlag, 0);
+    mode.setCurrentIndex(-1);
+    view().SelectUseMode();
+    EXPECT_EQ(+qvTabletInfo.Monitor.rotationFlag, 0);
+    EXPECT_EQ(pushes().size(), 3U);
+}
+
+TEST_F(DisplayPage, theDefaultAreaIsTheWholeTablet)
+{
+    press("mDefaultArea");
+    EXPECT_EQ(used(), (std::vector{0, 10000, 0, 6250}));
+    EXPECT_EQ(pushes().size(), 1U);
+}
+
+TEST_F(DisplayPage, theFittedAreaHasTheDisplaysShape)
+{
+    choose(list(), 1);
+    press("mAutoCalibrate");
+    EXPECT_EQ(used(), (std::vector{0, 10000, 0, 5625}));
+    ASSERT_EQ(pushes().size(), 2U);
+    EXPECT_EQ(+pushes().back().Monitor.cTabletYmax, 5625);
+}
+
+TEST_F(DisplayPage, aTabletOrADisplayWithoutAnAreaIsNotFitted)
+{
+    const std::vector<int> before = used();
+    qvTabletInfo.Basic.TabletYmax = 0;
+    draw();
+    testing::internal::CaptureStderr();
+    press("mAutoCalibrate");
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("no width or height"), std::string::npos);
+    EXPECT_EQ(used(), before);
+    qvTabletInfo.Basic.TabletYmax = 6250;
+    mDisplays.change({{0, 0, 0, 0}});
+    draw();
+    press("mAutoCalibrate");
+    EXPECT_EQ(used(), before);
+}
+
+// Drawing -----------------------------------------------------------------------------------------
+
+TEST_F(DisplayPage, drawingUpdatesTheMappedAreaWithoutPushing)
+{
+    qvTabletInfo.Monitor.num = 2;
+    draw();
+    EXPECT_EQ(list().currentIndex(), 2);
+    EXPECT_EQ(mapped(), kRight);
+    qvTabletInfo.Monitor.num = 0;
+    draw();
+    EXPECT_EQ(list().currentIndex(), 0);
+    EXPECT_EQ(mapped(), (Rect{0, 0, 3200, 1080}));
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(DisplayPage, aDisplayThatIsGoneShowsAllButMapsItsOldPlace)
+{
+    const Rect third{3200, 0, 800, 600};
+    mDisplays.change({kFullHD, kRight, third});
+    mDisplays.change({kFullHD, kRight});
+    qvTabletInfo.Monitor.num = 3;
+    draw();
+    EXPECT_EQ(list().currentIndex(), 0);
+    EXPECT_EQ(mapped(), third);
+}
+
+TEST_F(DisplayPage, anyNumberOfADisplayIsSafe)
+{
+    const Rect before = mapped();
+    testing::internal::CaptureStderr();
+    for (const int num : {-32768, -1, 5, 32767}) {
+        qvTabletInfo.Monitor.num = static_cast<std::int16_t>(num);
+        draw();
+        EXPECT_EQ(list().currentIndex(), 0) << num;
+        EXPECT_EQ(mapped(), before) << num;
+    }
+    EXPECT_NE(
+        testing::internal::GetCapturedStderr().find("there is no display"), std::string::npos);
+}
+
+TEST_F(DisplayPage, withoutDisplaysNothingIsMapped)
+{
+    const Rect before = mapped();
+    mDisplays.tell(platform::kDisplayBeginConfiguration);
+    mDisplays.change({});
+    view().interrogateHardware();
+    draw();
+    EXPECT_EQ(mapped(), before);
+}
+
+TEST_F(DisplayPage, theListsShowTheRecord)
+{
+    auto& mode = outlet<QComboBox>("mComboBoxUseMode");
+    auto& speed = outlet<QComboBox>("mComboBoxSpeed");
+    const auto expect = [&](int rotation, int rate, int modeItem, int speedItem) {
+        qvTabletInfo.Monitor.rotationFlag = static_cast<std::int16_t>(rotation);
+        qvTabletInfo.Monitor.Speed = static_cast<std::int16_t>(rate);
+        draw();
+        EXPECT_EQ(mode.currentIndex(), modeItem);
+        EXPECT_EQ(speed.currentIndex(), speedItem);
+    };
+    expect(0, 220, 1, 1);
+    expect(180, 180, 0, 0);
+    expect(90, 200, 0, 0); // others leave them as they are
+    expect(0, 220, 1, 1);
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(DisplayPage, drawsMiniaturesFrameAndLinesAtTheirPlaces)
+{
+    const double density = view().devicePixelRatioF(); // the tests run at 1 and at 2
+    for (const int num : {0, 1, 2}) {
+        qvTabletInfo.Monitor.num = static_cast<std::int16_t>(num);
+        // Plain calls with plain numbers: 840 / 3 + 30 = 310, 480 - (72 + 230) = 178.
+        QImage expected((QSizeF(840, 340) * density).toSize(), QImage::Format_ARGB32_Premultiplied);
+        expected.setDevicePixelRatio(density);
+        expected.fill(Qt::transparent);
+        QPainter painter(&expected);
+        painter.setFont(view().font());
+        painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+        const QImage background(QStringLiteral(QVTBLT_STAGE_RESOURCES "/backgroundregion.jpg"));
+        ASSERT_EQ(background.size(), QSize(1680, 680));
+        painter.drawImage(QRectF(0, 0, 840, 340), background);
+        const QRectF first(310, 340 - 178 - 72, 128, 72);
+        const QRectF second(438, 90, 1280 / 15.0, 1024 / 15.0);
+        int i = 0;
+        for (const QRectF& miniature : {first, second}) {
+            painter.setPen(QPen(Qt::magenta, 1));
+            painter.setBrush(Qt::magenta);
+            painter.drawRect(miniature);
+            painter.setPen(Qt::black);
+            painter.drawText(QPointF(miniature.x() + 20,
+                                 miniature.bottom() - 15 - painter.fontMetrics().descent()),
+                QStringLiteral("Display #%1").arg(++i));
+        }
+        const QRectF framed = num == 0 ? first.united(second) : num == 1 ? first : second;
+        QPainterPath frame;
+        frame.addRect(framed);
+        frame.addRect(framed.adjusted(1, 1, -1, -1));
+        painter.fillPath(frame, Qt::black);
+        painter.setPen(QPen(Qt::black, 1));
+        painter.drawLine(framed.topLeft(), QPointF(275, 340 - 80));
+        painter.drawLine(framed.topRight(), QPointF(361, 340 - 80));
+        painter.drawLine(framed.bottomRight(), QPointF(361, 340 - 33));
+        painter.drawLine(framed.bottomLeft(), QPointF(275, 340 - 33));
+        painter.end();
+
+        const QImage drawn = draw();
+        ASSERT_EQ(drawn.size(), expected.size());
+        int differing = 0;
+        for (int y = 0; y < expected.height(); ++y) {
+            for (int x = 0; x < expected.width(); ++x) {
+                const QColor a = expected.pixelColor(x, y);
+                const QColor b = drawn.pixelColor(x, y);
+                const int difference = std::abs(a.red() - b.red()) + std::abs(a.green() - b.green())
+                    + std::abs(a.blue() - b.blue());
+                differing += difference > 96 ? 1 : 0;
+            }
+        }
+        EXPECT_LT(differing, 40) << num << " at density " << density;
+    }
+}
+
+TEST_F(DisplayPage, withoutItsPictureTheRestIsDrawn)
+{
+    const platform::Bundle bundle = rzkBundle;
+    rzkBundle = platform::Bundle(mHome.path());
+    QVMonitorView bare;
+    QComboBox list;
+    QComboBox speed;
+    QComboBox mode;
+    bare.setOutlets(&list, &speed, &mode);
+    bare.resize(840, 340);
+    bare.awakeFromNib();
+    const QImage drawn = bare.grab().toImage();
+    EXPECT_EQ(drawn.pixelColor(320, 120), QColor(Qt::magenta));
+    EXPECT_EQ(list.itemText(1), QStringLiteral("Monitor #1")) << "a missing text stands for itself";
+    rzkBundle = bundle;
+}
