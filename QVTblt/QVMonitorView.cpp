@@ -3,6 +3,7 @@
 #include "QVMonitorView.h"
 
 #include "Client.h"
+#include "QVCalibrateWin.h"
 #include "QVTblt_prefPanePref.h"
 #include "QVTruncate.h"
 #include "rzkApplication.h"
@@ -62,17 +63,6 @@ void setUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)
     info.Monitor.cTabletXmax = area.xmax;
     info.Monitor.cTabletYmin = area.ymin;
     info.Monitor.cTabletYmax = area.ymax;
-}
-
-/** Draws text with the lower left corner of its line at a point; the painter's y grows upwards. */
-void drawText(QPainter& painter, const QString& text, double x, double y)
-{
-    painter.save();
-    painter.translate(x, y);
-    painter.scale(1, -1);
-    painter.setPen(Qt::black); // on a miniature, which has the same colour in every theme
-    painter.drawText(QPointF(0, -painter.fontMetrics().descent()), text);
-    painter.restore();
 }
 
 /** Draws the edges of a rectangle, a point wide, inside of it. */
@@ -215,7 +205,9 @@ Rect QVMonitorView::drawMiniatures(QPainter& painter) const
         painter.setPen(QPen(Qt::magenta, 1));
         painter.setBrush(Qt::magenta);
         painter.drawRect(QRectF(miniature.x, miniature.y, miniature.width, miniature.height));
-        drawText(painter, displayName(i), miniature.x + 20, miniature.y + 15);
+        // On a miniature, which has the same colour in every theme.
+        painter.setPen(Qt::black);
+        platform::drawText(painter, displayName(i), miniature.x + 20, miniature.y + 15);
     }
     const int chosen = mComboBox->currentIndex();
     if (mDspCount == 1) {
@@ -333,6 +325,52 @@ void QVMonitorView::AutoCalibrate()
     }
     setNeedsDisplay();
     push();
+}
+
+void QVMonitorView::CreateCalibrateWin(const Rect& rect)
+{
+    new QVCalibrateWin(rect, window()); // it is the window's, and closes with it
+}
+
+void QVMonitorView::DoCalibrate()
+{
+    pQVInfo->Monitor.disableFlag = 1;
+    if (mDspCount == 1) {
+        CreateCalibrateWin(mSubMonitorRect[0]);
+        push();
+        return;
+    }
+    const int chosen = mComboBox->currentIndex();
+    if (chosen <= 0 || static_cast<std::size_t>(chosen) > mDisplays.size()) {
+        return; // all displays together have no corners to touch
+    }
+    const auto index = static_cast<std::size_t>(chosen) - 1;
+    const platform::Displays& service = platform::displays();
+    if (service.isMain(mDisplays[index])) {
+        CreateCalibrateWin(mSubMonitorRect[0]);
+        push();
+        return;
+    }
+    const auto main = std::ranges::find_if(
+        mDisplays, [&service](platform::DisplayID display) { return service.isMain(display); });
+    if (main == mDisplays.end()) {
+        qCWarning(lcMonitor, "no display is the main one: the tablet cannot be calibrated");
+        pQVInfo->Monitor.disableFlag = 0;
+        return;
+    }
+    const Rect& m = mSubMonitorRect[static_cast<std::size_t>(main - mDisplays.begin())];
+    const Rect& s = mSubMonitorRect[index];
+    CreateCalibrateWin({s.x + m.x, (m.y + m.height) - (s.y + s.height), s.width, s.height});
+    push();
+}
+
+void QVMonitorView::endCalibration()
+{
+    const auto windows =
+        window()->findChildren<QVCalibrateWin*>(QString(), Qt::FindDirectChildrenOnly);
+    for (QVCalibrateWin* const calibration : windows) {
+        calibration->endCalibration();
+    }
 }
 
 void DisplayRegisterReconfigurationCallback(

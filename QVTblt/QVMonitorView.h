@@ -51,6 +51,13 @@ public:
     void SelectUseMode();
     /** Uses the whole tablet. */
     void setTabletDefaultArea();
+    /**
+     * Starts a calibration on the chosen display: four crosses to be touched with the pen. With
+     * more displays than one and all of them chosen, nothing is shown.
+     */
+    void DoCalibrate();
+    /** Ends a calibration that is going on, as Escape does. */
+    void endCalibration();
     /** Uses the part of the tablet that has the mapped area's shape. */
     void AutoCalibrate();
 
@@ -68,6 +75,8 @@ private:
     friend void DisplayRegisterReconfigurationCallback(
         platform::DisplayID display, std::uint32_t flags, void* userInfo);
 
+    /** @param rect in points from the main display's lower left corner, y growing upwards */
+    void CreateCalibrateWin(const platform::Rect& rect);
     void updateMappedArea(const platform::Rect& all);
     void setMappedArea(const platform::Rect& area);
     void updatePicturePoints();

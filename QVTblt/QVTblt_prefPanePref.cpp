@@ -47,6 +47,7 @@ void QVTblt_prefPanePref::setUpDisplayPage()
     connect(mComboBox, chosen, mMonitorView, &QVMonitorView::SelectMonitor);
     connect(mComboBoxSpeed, chosen, mMonitorView, &QVMonitorView::SelectSpeed);
     connect(mComboBoxUseMode, chosen, mMonitorView, &QVMonitorView::SelectUseMode);
+    connect(mDoCalibrate, &QPushButton::clicked, mMonitorView, &QVMonitorView::DoCalibrate);
     connect(
         mDefaultArea, &QPushButton::clicked, mMonitorView, &QVMonitorView::setTabletDefaultArea);
     connect(mAutoCalibrate, &QPushButton::clicked, mMonitorView, &QVMonitorView::AutoCalibrate);
@@ -113,6 +114,8 @@ void QVTblt_prefPanePref::didSelect()
 
 void QVTblt_prefPanePref::willUnselect()
 {
+    // The driver must not be left waiting for points that nobody asks for.
+    mMonitorView->endCalibration();
     WriteQVConfigPlist();
 }
 

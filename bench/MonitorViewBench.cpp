@@ -31,6 +31,7 @@ public:
         return std::vector<platform::DisplayID>{0, 1, 2, 3};
     }
     Rect bounds(platform::DisplayID display) const override { return kDisplays.at(display); }
+    bool isMain(platform::DisplayID display) const override { return display == 0; }
     bool registerReconfigurationCallback(platform::DisplayReconfigurationCallback, void*) override
     {
         return false;

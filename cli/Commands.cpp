@@ -62,15 +62,22 @@ QString pushRecord()
         : QStringLiteral("the driver did not take the record (error %1)").arg(error);
 }
 
-/** What the driver got last; an error in words when it cannot be had. */
-std::optional<tagQVTabletInfo> lastRecord(QString& why)
+/** A call to the simulated tablet, which only a driver that is there may answer. */
+QDBusMessage simulatorCall(const char* method)
 {
     QDBusMessage call =
         QDBusMessage::createMethodCall(QStringLiteral("org.quorvia.AppleEvents.TdSg"),
             QStringLiteral("/org/quorvia/TabletSimulator"),
-            QStringLiteral("org.quorvia.TabletSimulator1"), QStringLiteral("LastRecord"));
+            QStringLiteral("org.quorvia.TabletSimulator1"), QString::fromLatin1(method));
     call.setAutoStartService(false);
-    const QDBusReply<QByteArray> reply = QDBusConnection::sessionBus().call(call);
+    return call;
+}
+
+/** What the driver got last; an error in words when it cannot be had. */
+std::optional<tagQVTabletInfo> lastRecord(QString& why)
+{
+    const QDBusReply<QByteArray> reply =
+        QDBusConnection::sessionBus().call(simulatorCall("LastRecord"));
     if (!reply.isValid()) {
         why =
             QStringLiteral("the driver does not tell what it got: %1").arg(reply.error().message());
@@ -191,4 +198,12 @@ int runUsbMode(bool isFast)
     }
     std::puts(qUtf8Printable(result.sentence));
     return kExitGood;
+}
+
+int runSimTap(std::uint16_t x, std::uint16_t y)
+{
+    QDBusMessage call = simulatorCall("Tap");
+    call.setArguments({QVariant::fromValue(x), QVariant::fromValue(y)});
+    const QDBusMessage reply = QDBusConnection::sessionBus().call(call);
+    return reply.type() == QDBusMessage::ReplyMessage ? kExitGood : fail(reply.errorMessage());
 }

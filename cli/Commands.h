@@ -4,6 +4,8 @@
 
 #include <QString>
 
+#include <cstdint>
+
 /**
  * @file
  * What the command line does. Each command writes its answer to standard output and its complaints
@@ -28,6 +30,9 @@ int runPush();
 
 /** Tells the tablet on the USB bus its report mode: "fast" or "normal". */
 int runUsbMode(bool isFast);
+
+/** Has the simulated pen touch a point of the tablet, in tablet units. */
+int runSimTap(std::uint16_t x, std::uint16_t y);
 
 /** Sets one entry of the tablet's file, pushes the record and saves the file. */
 int runSet(const QString& entry, const QString& value);

@@ -21,6 +21,8 @@ Commands:
                       send it to the driver and save the tablet's file
   usb-mode fast|normal
                       tell the tablet on the USB bus how often to report the pen
+  sim tap X Y         have the simulated pen touch a point, in tablet units,
+                      while the panel calibrates
 
 Options:
   -h, --help          print this text
@@ -64,6 +66,14 @@ int run(const QStringList& words, bool asJson)
     if (command == QLatin1String("usb-mode") && count == 1
         && (words[1] == QLatin1String("fast") || words[1] == QLatin1String("normal"))) {
         return runUsbMode(words[1] == QLatin1String("fast"));
+    }
+    if (command == QLatin1String("sim") && count == 3 && words[1] == QLatin1String("tap")) {
+        bool isX = false;
+        bool isY = false;
+        const ushort x = words[2].toUShort(&isX);
+        const ushort y = words[3].toUShort(&isY);
+        return isX && isY ? runSimTap(x, y)
+                          : usageError(QStringLiteral("a point is two numbers from 0 to 65535"));
     }
     return usageError(QStringLiteral("there is no command '%1'").arg(words.join(QLatin1Char(' '))));
 }

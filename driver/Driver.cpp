@@ -12,11 +12,17 @@
 #include <QThread>
 
 #include <chrono>
+#include <cstddef>
 #include <cstdio>
 
 using namespace platform;
 
 namespace {
+
+constexpr DescType kPenReport = fourCharCode("rprt");
+constexpr std::int32_t kReportTimeOut = 10 * kTicksPerSecond; ///< the panel pauses between points
+constexpr int kUsualReports = 10; ///< milliseconds from one report to the next
+constexpr std::uint32_t kMostReports = 1000;
 
 constexpr AEEventID kSettingsEvent = fourCharCode("WSnd");
 
@@ -90,6 +96,9 @@ Driver::Driver(AppleEvents& events)
     mSaveSoon.setInterval(kSaveDelay);
     connect(&mSaveSoon, &QTimer::timeout, this, &Driver::saveState);
 
+    mSendReport.setInterval(kUsualReports);
+    connect(&mSendReport, &QTimer::timeout, this, &Driver::sendReport);
+
     mEvents.installEventHandler(kAECoreSuite, kAEGetData,
         [this](const AppleEvent& event, AppleEvent& reply) { return answerQuery(event, reply); });
     mEvents.installEventHandler(kQVDriverSignature, kSettingsEvent,
@@ -155,6 +164,53 @@ void Driver::stall(std::uint32_t milliseconds)
     say(QStringLiteral("stalling for %1 ms before each event").arg(milliseconds));
 }
 
+QString Driver::tap(std::uint16_t x, std::uint16_t y)
+{
+    if (mState.attached == 0) {
+        return QStringLiteral("no tablet is attached");
+    }
+    if (mCalibrating.isEmpty()) {
+        return QStringLiteral("nobody asks for the pen: no calibration is going on");
+    }
+    constexpr std::uint32_t kPressure = 300;
+    constexpr int kMoves = 4;
+    for (int i = 0; i <= kMoves; ++i) {
+        mReports.push_back({1, x, y, kPressure});
+    }
+    mReports.push_back({0, x, y, 0});
+    mSendReport.start();
+    say(QStringLiteral("tap at %1, %2").arg(x).arg(y));
+    return {};
+}
+
+bool Driver::setReportRate(std::uint32_t perSecond)
+{
+    if (perSecond < 1 || perSecond > kMostReports) {
+        return false;
+    }
+    mSendReport.setInterval(static_cast<int>(1000 / perSecond));
+    return true;
+}
+
+void Driver::sendReport()
+{
+    if (mCalibrating.isEmpty()) {
+        mReports.clear(); // the panel has what it wants
+    }
+    if (mReports.empty()) {
+        mSendReport.stop();
+        return;
+    }
+    const PenReport report = mReports.front();
+    mReports.pop_front();
+    // Of a list, the panel reads every other item, beginning with the first.
+    const AEDesc item{kPenReport,
+        QByteArray(reinterpret_cast<const char*>(&report), static_cast<int>(sizeof report))};
+    AppleEvent event{kAECoreSuite, kAEGetData, {typeBusName, mCalibrating}, {}};
+    mEvents.putParamDesc(event, keyDirectObject, {typeAEList, AEList{item}});
+    mEvents.send(event, nullptr, kAEWaitReply, kAEHighPriority, kReportTimeOut);
+}
+
 void Driver::saveState()
 {
     mSaveSoon.stop();
@@ -189,6 +245,10 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
             .arg(mState.pushes)
             .arg(senderOf(event), changes(mState.record, record)));
     mState.record = record;
+    const QByteArray* const sender = event.address.bytes();
+    const QByteArray flag = record.mid(offsetof(tagQVTabletInfo, Monitor.disableFlag), 2);
+    const bool isCalibrating = flag == QByteArray("\x01\x00", 2);
+    mCalibrating = isCalibrating && sender != nullptr ? *sender : QByteArray();
     mSaveSoon.start();
     Q_EMIT pushed(mState.pushes);
     return noErr;

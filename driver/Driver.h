@@ -9,7 +9,17 @@
 #include <QTimer>
 
 #include <cstdint>
+#include <deque>
 #include <optional>
+
+/** One report of the pen, as the panel takes it. */
+struct PenReport {
+    std::uint32_t key; ///< 1 while the tip is down, 0 when it is up
+    std::uint16_t x; ///< in tablet units
+    std::uint16_t y;
+    std::uint32_t pressure; ///< which the panel does not read
+};
+static_assert(sizeof(PenReport) == 12);
 
 /**
  * The driver: answers the panel's query, takes its pushes, and has at most one simulated tablet
@@ -49,6 +59,19 @@ public:
     /** From now on the driver does nothing at all for so long before it handles an event. */
     void stall(std::uint32_t milliseconds);
 
+    /**
+     * The pen touches a point of the tablet, moves a little and is lifted. Its reports go to the
+     * panel that calibrates, one after the other at the report rate; without one, nothing happens.
+     *
+     * @param x in tablet units
+     * @return why it is not reported; empty when it is
+     */
+    QString tap(std::uint16_t x, std::uint16_t y);
+
+    /** Sets how many reports are sent in a second: 1 to 1000. @return whether it is such a number
+     */
+    bool setReportRate(std::uint32_t perSecond);
+
     /** Writes what is known to disk now. */
     void saveState();
 
@@ -62,11 +85,15 @@ private:
     platform::OSErr refuse(
         const platform::AppleEvent& event, const QString& why, platform::AppleEvent& reply);
     void setAttached(std::uint16_t productID);
+    void sendReport();
 
     platform::AppleEvents& mEvents;
     DriverState mState;
     QTimer mSaveSoon;
     std::uint32_t mStall = 0;
+    QByteArray mCalibrating; ///< bus name of the panel whose last push said that it calibrates
+    std::deque<PenReport> mReports; ///< not sent yet
+    QTimer mSendReport;
 };
 
 /** Writes a line to standard output at once. */

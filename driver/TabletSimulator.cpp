@@ -37,11 +37,7 @@ ModelNames TabletSimulator::Models() const
 
 void TabletSimulator::Attach(ushort productID)
 {
-    const QString error = mDriver.attach(productID);
-    if (!error.isEmpty()) {
-        say(error);
-        sendErrorReply(QStringLiteral("org.quorvia.TabletSimulator.Error.Failed"), error);
-    }
+    answer(mDriver.attach(productID));
 }
 
 void TabletSimulator::Detach()
@@ -52,6 +48,26 @@ void TabletSimulator::Detach()
 void TabletSimulator::Stall(uint milliseconds)
 {
     mDriver.stall(milliseconds);
+}
+
+void TabletSimulator::Tap(ushort x, ushort y)
+{
+    answer(mDriver.tap(x, y));
+}
+
+void TabletSimulator::SetReportRate(uint perSecond)
+{
+    answer(mDriver.setReportRate(perSecond)
+            ? QString()
+            : QStringLiteral("a tablet makes 1 to 1000 reports in a second"));
+}
+
+void TabletSimulator::answer(const QString& error)
+{
+    if (!error.isEmpty()) {
+        say(error);
+        sendErrorReply(QStringLiteral("org.quorvia.TabletSimulator.Error.Failed"), error);
+    }
 }
 
 QByteArray TabletSimulator::LastRecord() const

@@ -34,6 +34,12 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     ushort Attached() const;
     /** The driver sleeps for so long before it handles each event; 0 ends it. */
     void Stall(uint milliseconds);
+    /**
+     * The pen touches a point, in tablet units, and is lifted; an error while no panel calibrates.
+     */
+    void Tap(ushort x, ushort y);
+    /** Sets how many reports a tap makes in a second: 1 to 1000. */
+    void SetReportRate(uint perSecond);
     /** How many pushes the driver has taken. */
     uint Pushes() const;
     /** The bytes of the last push; none before the first. */
@@ -47,5 +53,8 @@ Q_SIGNALS:
     void Pushed(uint count);
 
 private:
+    /** Answers the call with an error, unless it is empty. */
+    void answer(const QString& error);
+
     Driver& mDriver;
 };

@@ -58,6 +58,7 @@ inline constexpr DescType typeType = fourCharCode("type"); ///< a four-character
 inline constexpr DescType typeEnumerated = fourCharCode("enum"); ///< a four-character code
 inline constexpr DescType typeLongInteger = fourCharCode("long"); ///< 32-bit signed integer
 inline constexpr DescType typeUTF8Text = fourCharCode("utf8");
+inline constexpr DescType typeAEList = fourCharCode("list"); ///< descriptors in their order
 inline constexpr DescType typeObjectSpecifier = fourCharCode("obj "); ///< a record, see below
 inline constexpr DescType typeApplSignature = fourCharCode("sign"); ///< address: a signature
 inline constexpr DescType typeBusName = fourCharCode("busn"); ///< address: a D-Bus name

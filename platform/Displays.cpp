@@ -108,6 +108,14 @@ public:
             static_cast<double>(place.height())};
     }
 
+    bool isMain(DisplayID display) const override
+    {
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        const auto index = static_cast<qsizetype>(display);
+        return index < screens.size()
+            && screens[static_cast<int>(index)] == QGuiApplication::primaryScreen();
+    }
+
     bool registerReconfigurationCallback(
         DisplayReconfigurationCallback callback, void* userInfo) override
     {

@@ -48,6 +48,9 @@ public:
     /** A display's place and size in global display coordinates; empty for an unknown display. */
     virtual Rect bounds(DisplayID display) const = 0;
 
+    /** Whether it is the main display, at whose upper left corner the coordinates begin. */
+    virtual bool isMain(DisplayID display) const = 0;
+
     /**
      * Has the callback told when displays come, go, move or turn: of each display once when they
      * begin to change, and once when all have come to rest.

@@ -5,6 +5,7 @@
 #include "PointCanvas.h"
 
 #include <QPainter>
+#include <QScopedValueRollback>
 
 namespace platform {
 
@@ -43,6 +44,15 @@ void PaneView::setNeedsDisplay()
     update();
 }
 
+void PaneView::setNeedsDisplayInRect(const Rect& rect)
+{
+    mNeedsDisplay = mNeedsDisplay || !mIsDrawing;
+    const double scale = pixelsPerPoint();
+    update(QRectF(rect.x * scale, height() - (rect.y + rect.height) * scale, rect.width * scale,
+        rect.height * scale)
+               .toAlignedRect());
+}
+
 void PaneView::showEvent(QShowEvent* event)
 {
     QWidget::showEvent(event);
@@ -63,9 +73,19 @@ void PaneView::paintEvent(QPaintEvent* event)
         const double scale = pixelsPerPoint();
         painter.translate(0, height());
         painter.scale(scale, -scale);
+        const QScopedValueRollback drawing(mIsDrawing, true);
         drawRect(painter, bounds());
     }
     QPainter(this).drawPixmap(0, 0, mStore);
+}
+
+void drawText(QPainter& painter, const QString& text, double x, double y)
+{
+    painter.save();
+    painter.translate(x, y);
+    painter.scale(1, -1);
+    painter.drawText(QPointF(0, -painter.fontMetrics().descent()), text);
+    painter.restore();
 }
 
 Rect imageBounds(const QImage& image)

@@ -27,6 +27,11 @@ public:
 
     /** Has the whole view drawn again, before it is next painted. */
     void setNeedsDisplay();
+    /**
+     * Has at least that part, in points, drawn again. From within drawing, only has what is drawn
+     * painted.
+     */
+    void setNeedsDisplayInRect(const Rect& rect);
 
 protected:
     /** Draws at least what the rectangle covers. The painter is in points, y growing upwards. */
@@ -40,6 +45,7 @@ private:
 
     QPixmap mStore;
     bool mNeedsDisplay = true;
+    bool mIsDrawing = false;
 };
 
 /**
@@ -48,6 +54,12 @@ private:
  * point has two. The painter's y grows upwards.
  */
 void drawImage(QPainter& painter, const QImage& image, const Rect& target, const Rect& source);
+
+/**
+ * Draws text in one line with its lower left corner at a point, in the painter's pen. The painter's
+ * y grows upwards.
+ */
+void drawText(QPainter& painter, const QString& text, double x, double y);
 
 /** An image's size in points. */
 Rect imageBounds(const QImage& image);

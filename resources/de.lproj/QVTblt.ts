@@ -17,6 +17,13 @@
     </message>
 </context>
 <context>
+    <name>QVCalibrateWin</name>
+    <message>
+        <source>Calibration</source>
+        <translation>Kalibrierung</translation>
+    </message>
+</context>
+<context>
     <name>QVKeyComboBox</name>
     <message>
         <source>No action</source>
@@ -327,6 +334,14 @@
     <message>
         <source>Picture of the displays and the tablet</source>
         <translation>Bild der Bildschirme und des Tabletts</translation>
+    </message>
+    <message>
+        <source>Cali&amp;brate…</source>
+        <translation>&amp;Kalibrieren …</translation>
+    </message>
+    <message>
+        <source>Touch four crosses on the chosen display, so that the pen meets its pointer.</source>
+        <translation>Vier Kreuze auf dem gewählten Bildschirm berühren, damit der Stift den Zeiger trifft.</translation>
     </message>
 </context>
 </TS>

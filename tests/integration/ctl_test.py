@@ -39,7 +39,8 @@ class Ctl(session.Session):
     def test_misuse_is_told_with_exit_code_2(self):
         for words in ([], ["what"], ["status", "x"], ["check"], ["set", "Pen/Speed"], ["--what"],
                       ["--json", "status"], ["show", "a", "b"], ["push", "now"],
-                      ["usb-mode"], ["usb-mode", "slow"]):
+                      ["usb-mode"], ["usb-mode", "slow"], ["sim", "tap", "1"],
+                      ["sim", "tap", "1", "65536"]):
             with self.subTest(words):
                 self.assert_result(self.ctl(*words), 2, "", "Try 'qvtbltctl --help'.")
 

@@ -39,6 +39,8 @@ public:
         return mBounds.at(display - kFirstID);
     }
 
+    bool isMain(platform::DisplayID display) const override { return display == kFirstID + main; }
+
     bool registerReconfigurationCallback(
         platform::DisplayReconfigurationCallback callback, void* userInfo) override
     {
@@ -69,6 +71,7 @@ public:
     }
     std::size_t callbackCount() const { return mCallbacks.size(); }
 
+    std::uint32_t main = 0; ///< place of the main display
     bool failCount = false; ///< the window system does not tell how many there are
     bool failList = false; ///< nor which
 

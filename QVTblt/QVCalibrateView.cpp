@@ -1,0 +1,296 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVCalibrateView.h"
+
+#include "Alerts.h"
+#include "Client.h"
+#include "QVCalibrateWin.h"
+#include "QVCalibration.h"
+#include "QVTblt_prefPanePref.h"
+#include "Sleep.h"
+#include "rzkApplication.h"
+
+#include <QFontDatabase>
+#include <QLoggingCategory>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPointer>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+
+using namespace platform;
+
+namespace {
+
+Q_LOGGING_CATEGORY(lcCalibrate, "org.quorvia.tablet.calibrate", QtInfoMsg)
+
+constexpr std::int32_t kCrosses = 4;
+constexpr double kHalfCross = 25.0;
+constexpr double kHintLeft = 500.0; ///< of the middle
+
+/** One pen report, as the driver sends it. */
+struct PenReport {
+    std::uint32_t key; ///< 1 while the tip is down, 0 when it is up
+    std::uint16_t x;
+    std::uint16_t y;
+    std::uint32_t reserved;
+};
+static_assert(sizeof(PenReport) == 12);
+
+// Of the whole process: a calibration goes on from where the last one ended.
+std::array<QVTabletPoint, kCrosses> mXY{}; ///< of the crosses, in their order
+std::int32_t cachedKey = 0; ///< key state of the last report
+std::int32_t cachedTmpX = 0; ///< the last point that was taken
+std::int32_t cachedTmpY = 0;
+bool isFinishing = false; ///< a pass is being finished, perhaps below an alert
+
+QString localized(const char* key)
+{
+    return rzkBundle.localizedString(
+        QString::fromLatin1(key), QString(), QStringLiteral("InfoPlist"));
+}
+
+void pauseForASecond()
+{
+    sleeper().sleepFor(std::chrono::seconds(1));
+}
+
+/** Where a cross's centre is, counted from the edges of the view. */
+QPointF centreOf(std::int32_t cross, const Rect& bounds)
+{
+    const bool isLeft = cross == 0 || cross == 3;
+    const bool isUpper = cross == 0 || cross == 1;
+    return {isLeft ? bounds.x + kQVCrossInset : bounds.x + bounds.width - kQVCrossInset,
+        isUpper ? bounds.y + bounds.height - kQVCrossInset : bounds.y + kQVCrossInset};
+}
+
+/** The items of the direct object; none, with a line in the log, when it is no list. */
+AEList itemsOf(const AppleEvent& event)
+{
+    const AEDesc* const direct = find(event.parameters, keyDirectObject);
+    if (direct == nullptr) {
+        qCWarning(lcCalibrate, "rzk-get para fail");
+    }
+    const auto* const list = direct == nullptr ? nullptr : std::get_if<AEList>(&direct->data);
+    if (list == nullptr) {
+        qCWarning(lcCalibrate, "rzk-count fail");
+        return {};
+    }
+    return *list;
+}
+
+void startAgain(QVCalibrateView& view)
+{
+    view.disableTablet(1);
+    view.changenPointValue(-kCrosses);
+    view.setDrawEraseFlag(QVCalibrateView::kDrawCross);
+}
+
+/** Takes a point for the cross that is shown; shows the next one. */
+void takePoint(QVCalibrateView& view, std::int32_t cross, const PenReport& report)
+{
+    if (cross < kCrosses) {
+        mXY[static_cast<std::size_t>(cross)] = {report.x, report.y};
+        view.changenPointValue(1);
+        view.setDrawEraseFlag(QVCalibrateView::kEraseCross + cross);
+        if (cross == 0 || cross == kCrosses - 1) {
+            pauseForASecond();
+        }
+        if (cross < kCrosses - 1) {
+            view.setDrawEraseFlag(QVCalibrateView::kDrawCross + cross + 1);
+        }
+    }
+    cachedTmpX = report.x;
+    cachedTmpY = report.y;
+    view.setNeedsDisplay();
+}
+
+/** Asks whether the new area shall stay; the driver has it already. */
+void confirm(QVCalibrateView& view, const QVTabletArea& before)
+{
+    const QPointer<QVCalibrateView> guard(&view);
+    const std::int16_t hit = alerts().runStandardAlert(
+        {.type = AlertType::Stop, .message = localized("Ok"), .hasCancelButton = true},
+        view.window());
+    if (guard.isNull()) {
+        return; // the panel was closed meanwhile
+    }
+    if (hit == kAlertStdAlertCancelButton) {
+        view.setQVTabletRectInfo(before.xmin, before.xmax, before.ymin, before.ymax);
+        startAgain(view);
+    } else if (hit == kAlertStdAlertOKButton) {
+        if (auto* const window = qobject_cast<QVCalibrateWin*>(view.window())) {
+            window->removeAndClose();
+        }
+        view.changenPointValue(-kCrosses);
+    }
+}
+
+/** The fourth point was taken. */
+void finishPass(QVCalibrateView& view)
+{
+    const QScopedValueRollback finishing(isFinishing, true);
+    cachedKey = 0;
+    view.disableTablet(0);
+    pauseForASecond();
+    const Rect bounds = view.bounds();
+    const auto area = QVCalibratedArea(mXY, bounds.width, bounds.height);
+    if (area) {
+        const QVTabletArea before{view.getQVTabletRectInfoXmin(), view.getQVTabletRectInfoXmax(),
+            view.getQVTabletRectInfoYmin(), view.getQVTabletRectInfoYmax()};
+        view.setQVTabletRectInfo(area->xmin, area->xmax, area->ymin, area->ymax);
+        confirm(view, before);
+        return;
+    }
+    const QPointer<QVCalibrateView> guard(&view);
+    alerts().runStandardAlert(
+        {.type = AlertType::Caution, .message = localized("Error")}, view.window());
+    if (!guard.isNull()) {
+        startAgain(view);
+    }
+}
+
+} // namespace
+
+QVCalibrateView::QVCalibrateView(QWidget* parent)
+    : PaneView(parent)
+{
+    // The handler stays after the view has gone, until another view installs its own.
+    events().installEventHandler(kAECoreSuite, kAEGetData,
+        [view = QPointer<QVCalibrateView>(this)](const AppleEvent& event, AppleEvent& reply) {
+            return view.isNull() ? noErr : QVTabletGetDatahandler(event, reply, view);
+        });
+}
+
+void QVCalibrateView::uninstallTabletMsgHandle()
+{
+    events().removeEventHandler(kAECoreSuite, kAEGetData);
+}
+
+void QVCalibrateView::setDrawEraseFlag(std::int32_t flag)
+{
+    drawflag = flag;
+    setNeedsDisplay();
+}
+
+void QVCalibrateView::setColor(const QColor& color)
+{
+    fillColor = color;
+}
+
+std::int32_t QVCalibrateView::changenPointValue(std::int32_t delta)
+{
+    const std::int32_t before = nPoint;
+    nPoint += delta;
+    return before;
+}
+
+void QVCalibrateView::disableTablet(std::int16_t flag)
+{
+    qvTabletInfo.Monitor.disableFlag = flag;
+    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+}
+
+void QVCalibrateView::setQVTabletRectInfo(
+    std::uint16_t xmin, std::uint16_t xmax, std::uint16_t ymin, std::uint16_t ymax)
+{
+    qvTabletInfo.Monitor.cTabletXmin = xmin;
+    qvTabletInfo.Monitor.cTabletXmax = xmax;
+    qvTabletInfo.Monitor.cTabletYmin = ymin;
+    qvTabletInfo.Monitor.cTabletYmax = ymax;
+    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+}
+
+std::uint16_t QVCalibrateView::getQVTabletRectInfoXmin() const
+{
+    return qvTabletInfo.Monitor.cTabletXmin;
+}
+
+std::uint16_t QVCalibrateView::getQVTabletRectInfoXmax() const
+{
+    return qvTabletInfo.Monitor.cTabletXmax;
+}
+
+std::uint16_t QVCalibrateView::getQVTabletRectInfoYmin() const
+{
+    return qvTabletInfo.Monitor.cTabletYmin;
+}
+
+std::uint16_t QVCalibrateView::getQVTabletRectInfoYmax() const
+{
+    return qvTabletInfo.Monitor.cTabletYmax;
+}
+
+void QVCalibrateView::drawRect(QPainter& painter, const Rect& dirty)
+{
+    painter.fillRect(QRectF(dirty.x, dirty.y, dirty.width, dirty.height), fillColor);
+
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setBold(true);
+    font.setPixelSize(40);
+    painter.setFont(font);
+    painter.setPen(QColor::fromRgbF(1.0F, 0.2F, 0.2F, 0.6F));
+    drawText(painter, localized("Esc"), dirty.x + dirty.width * 0.5 - kHintLeft,
+        dirty.y + dirty.height * 0.5);
+
+    if (drawflag >= kEraseCross && drawflag < kEraseCross + kCrosses) {
+        eraseCross(drawflag - kEraseCross);
+    } else if (drawflag >= kDrawCross && drawflag < kDrawCross + kCrosses) {
+        drawCross(painter, drawflag - kDrawCross);
+    }
+}
+
+void QVCalibrateView::drawCross(QPainter& painter, std::int32_t cross) const
+{
+    const QPointF centre = centreOf(cross, bounds());
+    QPainterPath path;
+    path.moveTo(centre - QPointF(kHalfCross, 0));
+    path.lineTo(centre + QPointF(kHalfCross, 0));
+    path.moveTo(centre + QPointF(0, kHalfCross));
+    path.lineTo(centre - QPointF(0, kHalfCross));
+    painter.strokePath(path, QPen(Qt::red, 1));
+}
+
+void QVCalibrateView::eraseCross(std::int32_t cross)
+{
+    // A cross's height above the cross itself; drawing covers the whole view anyway.
+    const QPointF centre = centreOf(cross, bounds());
+    setNeedsDisplayInRect(
+        {centre.x() - kHalfCross, centre.y() + kHalfCross, 2 * kHalfCross, 2 * kHalfCross});
+}
+
+OSErr QVTabletGetDatahandler(const AppleEvent& event, AppleEvent& reply, QVCalibrateView* view)
+{
+    static_cast<void>(reply);
+    if (isFinishing) {
+        return noErr; // an alert is open, and what the pen does belongs to it
+    }
+    const QPointer<QVCalibrateView> guard(view);
+    const AEList items = itemsOf(event);
+    PenReport report{};
+    // Only every other item is a report.
+    for (std::size_t i = 0; i < items.size(); i += 2) {
+        if (const QByteArray* const bytes = items[i].bytes()) {
+            std::memcpy(&report, bytes->constData(),
+                std::min<std::size_t>(static_cast<std::size_t>(bytes->size()), sizeof report));
+        }
+        const std::int32_t taken = view->changenPointValue(0);
+        if (report.key == 0 && cachedKey == 1) {
+            if (cachedTmpX != 0 && QVIsTooNear(cachedTmpX, cachedTmpY, report.x, report.y)) {
+                return noErr;
+            }
+            takePoint(*view, taken, report);
+        }
+        cachedKey = static_cast<std::int32_t>(report.key);
+        if (view->changenPointValue(0) == kCrosses) {
+            finishPass(*view);
+            if (guard.isNull()) {
+                break;
+            }
+        }
+    }
+    return noErr;
+}

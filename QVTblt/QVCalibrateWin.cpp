@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVCalibrateWin.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScreen>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <cmath>
+
+using platform::Rect;
+
+namespace {
+
+constexpr double kOpacity = 0.7;
+
+/** Keys by their place on the keyboard, whatever is written on them. */
+enum class PlacedKey { S, E, Escape, Other };
+
+/** The window system counts keys as the kernel does, plus eight. */
+PlacedKey placedKey(const QKeyEvent& event)
+{
+    switch (event.nativeScanCode()) {
+    case 0: // no real keyboard
+        break;
+    case 9:
+        return PlacedKey::Escape;
+    case 26:
+        return PlacedKey::E;
+    case 39:
+        return PlacedKey::S;
+    default:
+        return PlacedKey::Other;
+    }
+    switch (event.key()) {
+    case Qt::Key_Escape:
+        return PlacedKey::Escape;
+    case Qt::Key_E:
+        return PlacedKey::E;
+    case Qt::Key_S:
+        return PlacedKey::S;
+    default:
+        return PlacedKey::Other;
+    }
+}
+
+/** From points above the main display's lower left corner to the window system's. */
+QRect toWindowSystem(const Rect& rect)
+{
+    const QRect main = QGuiApplication::primaryScreen()->geometry();
+    return {main.x() + static_cast<int>(std::lround(rect.x)),
+        main.y() + main.height() - static_cast<int>(std::lround(rect.y + rect.height)),
+        static_cast<int>(std::lround(rect.width)), static_cast<int>(std::lround(rect.height))};
+}
+
+} // namespace
+
+QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
+    : QWidget(mainWindow, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+    , mView(new QVCalibrateView(this))
+    , mCalibrateWin(this)
+    , mMainWindow(mainWindow)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowOpacity(kOpacity);
+    setWindowTitle(tr("Calibration"));
+    auto* const layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(mView);
+    mView->setColor(Qt::yellow);
+
+    const QRect place = toWindowSystem(contentRect);
+    setGeometry(place);
+    const QScreen* const screen = QGuiApplication::screenAt(place.center());
+    if (screen != nullptr && screen->geometry() == place) {
+        // What covers a whole display, panels included, is a full-screen window there. On Wayland
+        // that is also the only way to a display of one's choice.
+        winId();
+        windowHandle()->setScreen(const_cast<QScreen*>(screen)); // NOLINT(*-const-cast): Qt's
+        setGeometry(place);
+        showFullScreen();
+    } else {
+        show();
+    }
+    raise();
+    activateWindow();
+}
+
+void QVCalibrateWin::sethCalibrateWin(QWidget* window)
+{
+    mCalibrateWin = window;
+}
+
+bool QVCalibrateWin::isChildOfMainWindow() const
+{
+    return !mMainWindow.isNull() && !mCalibrateWin.isNull()
+        && mCalibrateWin->parentWidget() == mMainWindow;
+}
+
+bool QVCalibrateWin::endCalibration()
+{
+    if (!isChildOfMainWindow()) {
+        return false;
+    }
+    mView->disableTablet(0);
+    removeAndClose();
+    return true;
+}
+
+void QVCalibrateWin::removeAndClose()
+{
+    mMainWindow.clear();
+    close();
+}
+
+void QVCalibrateWin::keyPressEvent(QKeyEvent* event)
+{
+    switch (placedKey(*event)) {
+    case PlacedKey::S:
+        mView->setDrawEraseFlag(QVCalibrateView::kDrawCross);
+        return;
+    case PlacedKey::E:
+        mView->setDrawEraseFlag(QVCalibrateView::kEraseCross);
+        return;
+    case PlacedKey::Escape:
+        if (endCalibration()) {
+            return;
+        }
+        break;
+    case PlacedKey::Other:
+        break;
+    }
+    QWidget::keyPressEvent(event);
+}

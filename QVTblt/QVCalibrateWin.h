@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "QVCalibrateView.h"
+
+#include <QPointer>
+#include <QWidget>
+
+/**
+ * The calibration's window: covers one display, lets it show through, and lies above the panel's
+ * window, with which it closes. Escape ends the calibration.
+ */
+class QVCalibrateWin final : public QWidget {
+    Q_OBJECT
+
+public:
+    /**
+     * Shows the window at once.
+     *
+     * @param contentRect in points from the main display's lower left corner, y growing upwards
+     * @param mainWindow the window that shows the panel
+     */
+    QVCalibrateWin(const platform::Rect& contentRect, QWidget* mainWindow);
+
+    /** Sets the window that Escape closes, which is this one. */
+    void sethCalibrateWin(QWidget* window);
+
+    /** Ends the calibration as Escape does. @return false when the window is nobody's any more */
+    bool endCalibration();
+    /** Takes the window from the panel's and closes it. */
+    void removeAndClose();
+
+    QVCalibrateView& view() { return *mView; }
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    bool isChildOfMainWindow() const;
+
+    QVCalibrateView* mView;
+    QPointer<QWidget> mCalibrateWin;
+    QPointer<QWidget> mMainWindow;
+};

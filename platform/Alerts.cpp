@@ -1,0 +1,69 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Alerts.h"
+
+#include "Service.h"
+
+#include <QMessageBox>
+#include <QPointer>
+
+namespace platform {
+
+namespace {
+
+QMessageBox::Icon iconOf(AlertType type)
+{
+    switch (type) {
+    case AlertType::Stop:
+        return QMessageBox::Question;
+    case AlertType::Caution:
+        return QMessageBox::Warning;
+    case AlertType::Note:
+        break;
+    }
+    return QMessageBox::Information;
+}
+
+class DesktopAlerts final : public Alerts {
+public:
+    std::int16_t runStandardAlert(const StandardAlert& alert, QWidget* parent) override
+    {
+        // The parent may end before the alert is answered, and takes it along.
+        const QPointer<QMessageBox> box = new QMessageBox(parent);
+        box->setIcon(iconOf(alert.type));
+        box->setText(alert.message);
+        box->setInformativeText(alert.explanation);
+        box->setTextFormat(Qt::PlainText);
+        box->addButton(QMessageBox::Ok);
+        if (alert.hasCancelButton) {
+            box->addButton(QMessageBox::Cancel);
+        }
+        box->setDefaultButton(QMessageBox::Ok);
+        // Above what the parent stays above of.
+        box->setWindowFlag(Qt::WindowStaysOnTopHint);
+        const int hit = box->exec();
+        if (box.isNull()) {
+            return 0;
+        }
+        delete box;
+        switch (hit) {
+        case QMessageBox::Ok:
+            return kAlertStdAlertOKButton;
+        case QMessageBox::Cancel:
+            return kAlertStdAlertCancelButton;
+        default:
+            return 0;
+        }
+    }
+};
+
+} // namespace
+
+Alerts& alerts()
+{
+    static DesktopAlerts desktop;
+    Alerts* const replaced = ServiceScope<Alerts>::current();
+    return replaced == nullptr ? desktop : *replaced;
+}
+
+} // namespace platform

@@ -1,0 +1,117 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""Whole calibrations: a real display beside the main one, the real driver, taps by script."""
+
+import signal
+import struct
+import subprocess
+import time
+import unittest
+
+import displays
+import session
+
+LIST = "The part of the desktop that the pen reaches."
+# The crosses stand 50 points in: 700 and 500 points of 800 by 600 apart, here ten units each.
+TAPS = ((1000, 2000), (8000, 2000), (8000, 7000), (1000, 7000))
+AREA = (500, 8500, 1500, 7500)
+
+
+class Calibration(displays.Displays):
+    def setUp(self):
+        super().setUp()
+        self.plug(1, "800x600", "1024x0")
+        self.driver = self.start_driver()
+        self.panel = self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.click(self.find("qvtblt", "Display", "page tab"))
+        box = self.find("qvtblt", LIST, "combo box")
+        self.click(box)
+        self.xdotool("key", "End", "Return")
+        session.wait_for(lambda: self.record() and self.mapped() == (1024, 0, 800, 600), "the list")
+        self.press_calibrate()
+
+    def press_calibrate(self):
+        self.click(self.find("qvtblt", "Calibrate…", "push button"))
+        self.find("qvtblt", "Calibration", showing=True)
+        self.wait_for_flag(1)
+
+    def mapped(self):
+        left, width, top, height = struct.unpack_from("<4h", self.record(), 295)
+        return left, top, width, height
+
+    def flag(self):
+        return struct.unpack_from("<h", self.record(), 293)[0]
+
+    def wait_for_flag(self, flag):
+        session.wait_for(lambda: self.flag() == flag, f"disableFlag {flag}")
+
+    def area(self):
+        return struct.unpack_from("<4H", self.record(), 303)
+
+    def tap(self, points):
+        for number, (x, y) in enumerate(points):
+            result = self.ctl("sim", "tap", x, y)
+            self.assertEqual((result.returncode, result.stderr), (0, ""))
+            time.sleep(1.4 if number == 0 else 0.3)  # the panel pauses after the first point
+
+    def is_open(self):
+        return any(thing["name"] == "Calibration" and thing["showing"]
+                   for thing in self.things("qvtblt"))
+
+    def test_four_taps_fit_the_tablet_to_the_second_display(self):
+        window = self.find("qvtblt", "Calibration")
+        self.assertEqual((window["x"], window["y"], window["width"], window["height"]),
+                         (1024, 0, 800, 600))
+        self.tap(TAPS)
+        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.assertEqual((self.flag(), self.area()), (0, AREA))
+        self.xdotool("key", "Return")
+        session.wait_for(lambda: not self.is_open(), "the window's end")
+        self.assertEqual((self.flag(), self.area()), (0, AREA))
+        self.assertNotEqual(self.ctl("sim", "tap", 1, 1).returncode, 0)
+
+    def test_cancelled_and_accepted_at_the_second_pass(self):
+        before = self.area()
+        self.tap(TAPS)
+        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.xdotool("key", "Escape")
+        self.wait_for_flag(1)
+        self.assertEqual(self.area(), before)
+        self.tap(TAPS)
+        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.xdotool("key", "Return")
+        session.wait_for(lambda: not self.is_open(), "the window's end")
+        self.assertEqual((self.flag(), self.area()), (0, AREA))
+
+    def test_another_order_begins_again(self):
+        before = self.area()
+        self.tap((TAPS[1], TAPS[0], TAPS[3], TAPS[2]))
+        self.find("qvtblt", "The crosses were not touched in their order. "
+                            "Please begin again at the first one.")
+        self.xdotool("key", "Return")
+        self.wait_for_flag(1)
+        self.assertEqual(self.area(), before)
+        self.assertTrue(self.is_open())
+
+    def test_escape_ends_it(self):
+        self.tap(TAPS[:2])
+        self.xdotool("key", "Escape")
+        self.wait_for_flag(0)
+        session.wait_for(lambda: not self.is_open(), "the window's end")
+        self.press_calibrate()
+
+    def test_a_panel_that_is_told_to_end_frees_the_driver(self):
+        self.tap(TAPS[:1])
+        self.panel.send_signal(signal.SIGTERM)
+        self.assertEqual(self.panel.wait(timeout=20), 0)
+        self.wait_for_flag(0)
+
+    def test_a_driver_that_dies_does_not_take_the_panel_along(self):
+        self.tap(TAPS[:1])
+        self.stop_driver(self.driver, signal.SIGKILL)
+        self.xdotool("key", "Escape")
+        session.wait_for(lambda: not self.is_open(), "the window's end")
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,449 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// A calibration from its window to its end: reports, pauses, alerts, pushes.
+
+#include "QVCalibrateView.h"
+
+#include "Alerts.h"
+#include "FakeUsb.h"
+#include "PaneTest.h"
+#include "QVCalibrateWin.h"
+#include "QVCalibration.h"
+
+#include <QComboBox>
+#include <QFontDatabase>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPushButton>
+#include <QTest>
+
+#include <functional>
+
+using namespace platform;
+
+namespace {
+
+/** Answers alerts at once. */
+class FakeAlerts final : public Alerts {
+public:
+    std::int16_t runStandardAlert(const StandardAlert& alert, QWidget* parent) override
+    {
+        EXPECT_NE(parent, nullptr);
+        shown.push_back(alert);
+        if (whileOpen) {
+            whileOpen();
+        }
+        return answer;
+    }
+
+    std::int16_t answer = kAlertStdAlertOKButton;
+    std::vector<StandardAlert> shown;
+    std::function<void()> whileOpen;
+
+private:
+    ServiceScope<Alerts> mScope{*this};
+};
+
+QByteArray report(std::uint32_t key, std::uint16_t x, std::uint16_t y)
+{
+    QByteArray bytes(12, '\x7f');
+    std::memcpy(bytes.data(), &key, 4);
+    std::memcpy(bytes.data() + 4, &x, 2);
+    std::memcpy(bytes.data() + 6, &y, 2);
+    return bytes;
+}
+
+class Calibration : public PaneTest {
+protected:
+    void SetUp() override
+    {
+        mDisplays.change({{0, 0, 1920, 1080}});
+        PaneTest::SetUp();
+        show();
+        qvTabletInfo.Monitor.cTabletXmin = 11;
+        qvTabletInfo.Monitor.cTabletXmax = 12;
+        qvTabletInfo.Monitor.cTabletYmin = 13;
+        qvTabletInfo.Monitor.cTabletYmax = 14;
+        mEvents.sent.clear();
+    }
+
+    void start() { outlet<QPushButton>("mDoCalibrate").click(); }
+    QVCalibrateWin* window()
+    {
+        const auto windows = mWindow->findChildren<QVCalibrateWin*>();
+        return windows.isEmpty() || !windows.constFirst()->isVisible() ? nullptr
+                                                                       : windows.constFirst();
+    }
+    /** The calibration's view, at the size of the display. */
+    QVCalibrateView& view()
+    {
+        EXPECT_NE(window(), nullptr);
+        QVCalibrateView& found = window()->view();
+        found.resize(1920, 1080);
+        return found;
+    }
+    void deliver(const AEDesc& direct)
+    {
+        AppleEvent event{kAECoreSuite, kAEGetData, {}, {{keyDirectObject, direct}}};
+        AppleEvent reply;
+        EXPECT_EQ(QVTabletGetDatahandler(event, reply, &view()), noErr);
+        EXPECT_TRUE(reply.parameters.empty());
+    }
+    void deliver(const std::vector<QByteArray>& reports)
+    {
+        AEList list;
+        for (const QByteArray& bytes : reports) {
+            list.push_back({fourCharCode("rprt"), bytes});
+        }
+        deliver(AEDesc{typeAEList, list});
+    }
+    void tap(std::uint16_t x, std::uint16_t y)
+    {
+        deliver({report(1, x, y)});
+        deliver({report(0, x, y)});
+    }
+    void tapAllFour()
+    {
+        tap(1000, 800);
+        tap(19200, 800);
+        tap(19200, 10600);
+        tap(1000, 10600);
+    }
+    int points() { return view().changenPointValue(0); }
+    static std::vector<int> area()
+    {
+        const auto& monitor = qvTabletInfo.Monitor;
+        return {monitor.cTabletXmin, monitor.cTabletXmax, monitor.cTabletYmin, monitor.cTabletYmax};
+    }
+    std::vector<int> pushedFlags()
+    {
+        std::vector<int> flags;
+        for (const tagQVTabletInfo& record : pushes()) {
+            flags.push_back(record.Monitor.disableFlag);
+        }
+        return flags;
+    }
+    long sleeps() const { return std::count(mUsb.log.begin(), mUsb.log.end(), "sleep 1000"); }
+
+    FakeAlerts mAlerts;
+    FakeUsb mUsb; // for its sleep
+    const std::vector<int> mBefore{11, 12, 13, 14};
+    const std::vector<int> mCalibrated{500, 19700, 300, 11100};
+};
+
+} // namespace
+
+TEST_F(Calibration, opensOneWindowAndTellsTheDriver)
+{
+    start();
+    EXPECT_NE(window(), nullptr);
+    EXPECT_EQ(pushedFlags(), std::vector<int>{1});
+    EXPECT_EQ(points(), 0);
+}
+
+TEST_F(Calibration, withOneDisplayTheChosenItemDoesNotMatter)
+{
+    outlet<QComboBox>("mComboBox").setCurrentIndex(-1);
+    start();
+    EXPECT_NE(window(), nullptr);
+}
+
+TEST_F(Calibration, ofAllDisplaysTogetherOpensNothing)
+{
+    mDisplays.change({{0, 0, 1920, 1080}, {1920, 0, 800, 600}});
+    outlet<QComboBox>("mComboBox").setCurrentIndex(0);
+    start();
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_TRUE(pushes().empty());
+    EXPECT_EQ(+qvTabletInfo.Monitor.disableFlag, 1) << "it goes with the next push";
+}
+
+TEST_F(Calibration, withoutAMainDisplayIsNotStarted)
+{
+    mDisplays.change({{0, 0, 1920, 1080}, {1920, 0, 800, 600}});
+    mDisplays.main = 7;
+    outlet<QComboBox>("mComboBox").setCurrentIndex(2);
+    start();
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(+qvTabletInfo.Monitor.disableFlag, 0);
+}
+
+TEST_F(Calibration, coversTheChosenDisplayBesideTheMainOne)
+{
+    mDisplays.change({{0, 0, 800, 800}, {800, 100, 640, 480}});
+    outlet<QComboBox>("mComboBox").setCurrentIndex(2);
+    start();
+    ASSERT_NE(window(), nullptr);
+    // The screen of these tests is the main display, 800 points high.
+    EXPECT_EQ(window()->geometry(), QRect(800, 100, 640, 480));
+    EXPECT_EQ(window()->view().size(), QSize(640, 480));
+}
+
+TEST_F(Calibration, acceptedSetsTheAreaAndCloses)
+{
+    start();
+    tapAllFour();
+    ASSERT_EQ(mAlerts.shown.size(), 1U);
+    EXPECT_EQ(mAlerts.shown[0].type, AlertType::Stop);
+    EXPECT_TRUE(mAlerts.shown[0].hasCancelButton);
+    EXPECT_EQ(
+        mAlerts.shown[0].message, QStringLiteral("The tablet fits the display now. Keep it so?"));
+    EXPECT_EQ(area(), mCalibrated);
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0, 0}));
+    EXPECT_EQ(sleeps(), 3) << "after the first point, after the last, and before the test";
+}
+
+TEST_F(Calibration, theNewAreaIsWithTheDriverBeforeTheUserConfirms)
+{
+    start();
+    mAlerts.whileOpen = [this] {
+        EXPECT_EQ(+pushes().back().Monitor.cTabletXmax, 19700);
+        EXPECT_EQ(+pushes().back().Monitor.disableFlag, 0);
+    };
+    tapAllFour();
+}
+
+TEST_F(Calibration, cancelledGoesBackAndBeginsAgain)
+{
+    start();
+    mAlerts.answer = kAlertStdAlertCancelButton;
+    tapAllFour();
+    EXPECT_EQ(area(), mBefore);
+    EXPECT_NE(window(), nullptr);
+    EXPECT_EQ(points(), 0);
+    EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0, 0, 0, 1}));
+    mAlerts.answer = kAlertStdAlertOKButton;
+    tapAllFour();
+    EXPECT_EQ(area(), mCalibrated);
+    EXPECT_EQ(window(), nullptr);
+}
+
+TEST_F(Calibration, anAlertWithoutAnAnswerChangesNothingMore)
+{
+    start();
+    mAlerts.answer = 0;
+    tapAllFour();
+    EXPECT_EQ(area(), mCalibrated);
+    EXPECT_NE(window(), nullptr);
+}
+
+TEST_F(Calibration, inAnotherOrderIsAnErrorAndBeginsAgain)
+{
+    start();
+    tap(19200, 800);
+    tap(1000, 800);
+    tap(1000, 10600);
+    tap(19200, 10600);
+    ASSERT_EQ(mAlerts.shown.size(), 1U);
+    EXPECT_EQ(mAlerts.shown[0].type, AlertType::Caution);
+    EXPECT_FALSE(mAlerts.shown[0].hasCancelButton);
+    EXPECT_EQ(area(), mBefore);
+    EXPECT_EQ(points(), 0);
+    EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0, 1}));
+}
+
+TEST_F(Calibration, onlyFromExactlyDownToExactlyUpIsALift)
+{
+    start();
+    deliver({report(2, 5000, 5000)});
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 0);
+    deliver({report(1, 5000, 5000)});
+    deliver({report(7, 5000, 5000)});
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 0);
+    deliver({report(1, 5000, 5000)});
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 1);
+}
+
+TEST_F(Calibration, aLiftTooNearTheLastPointIsRefusedWithTheRestOfItsEvent)
+{
+    start();
+    tap(5000, 5000);
+    EXPECT_EQ(points(), 1);
+    tap(10000, 999);
+    EXPECT_EQ(points(), 1) << "the sums differ by 999 only";
+    deliver({report(1, 5000, 5000), {}, report(0, 5000, 5000), {}, report(1, 9000, 9000), {},
+        report(0, 9000, 9000)});
+    EXPECT_EQ(points(), 1) << "the rest of the event is not read";
+    // The pen still counts as down, so the next report of an up pen is a lift.
+    deliver({report(0, 9000, 9000)});
+    EXPECT_EQ(points(), 2);
+}
+
+TEST_F(Calibration, theFirstPointOfAnotherPassIsComparedWithTheLast)
+{
+    start();
+    mAlerts.answer = kAlertStdAlertCancelButton;
+    tapAllFour();
+    tap(1000, 10600);
+    EXPECT_EQ(points(), 0);
+    tap(1000, 800);
+    EXPECT_EQ(points(), 1);
+}
+
+TEST_F(Calibration, onlyEveryOtherItemIsRead)
+{
+    start();
+    deliver({report(1, 5000, 5000), report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 0) << "of two, only the first";
+    deliver({report(1, 5000, 5000), report(3, 0, 0), report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 1) << "of three, the first and the third";
+}
+
+TEST_F(Calibration, reportsOfAnySizeAndFormDoNoHarm)
+{
+    start();
+    testing::internal::CaptureStderr();
+    for (const int size : {0, 5, 11, 13, 4096}) {
+        deliver({QByteArray(size, '\xff')});
+    }
+    deliver(AEDesc{typeAEList, AEList{}});
+    deliver(AEDesc{typeAEList, AEList(4096, AEDesc{fourCharCode("rprt"), report(5, 1, 1)})});
+    deliver(AEDesc{typeAEList, AEList{AEDesc{typeAEList, AEList{}}, AEDesc{}}});
+    EXPECT_EQ(points(), 0);
+    testing::internal::GetCapturedStderr();
+
+    testing::internal::CaptureStderr();
+    deliver(AEDesc{typeUTF8Text, QByteArray("text")});
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("rzk-count fail"), std::string::npos);
+    testing::internal::CaptureStderr();
+    AppleEvent event;
+    AppleEvent reply;
+    EXPECT_EQ(QVTabletGetDatahandler(event, reply, &view()), noErr);
+    const std::string log = testing::internal::GetCapturedStderr();
+    EXPECT_NE(log.find("rzk-get para fail"), std::string::npos);
+    EXPECT_NE(log.find("rzk-count fail"), std::string::npos);
+}
+
+TEST_F(Calibration, reportsWhileAnAlertIsOpenDoNoHarm)
+{
+    start();
+    mAlerts.whileOpen = [this] {
+        tap(3000, 3000);
+        tap(9000, 9000);
+        EXPECT_EQ(points(), 4);
+    };
+    tapAllFour();
+    EXPECT_EQ(mAlerts.shown.size(), 1U);
+    EXPECT_EQ(area(), mCalibrated);
+}
+
+TEST_F(Calibration, thePanelMayCloseUnderTheAlert)
+{
+    start();
+    mAlerts.whileOpen = [this] { delete window(); };
+    tap(1000, 800);
+    tap(19200, 800);
+    tap(19200, 10600);
+    QVCalibrateView& last = view();
+    AppleEvent reply;
+    for (const std::uint32_t key : {1U, 0U}) {
+        AppleEvent event{kAECoreSuite, kAEGetData, {},
+            {{keyDirectObject,
+                {typeAEList, AEList{AEDesc{fourCharCode("rprt"), report(key, 1000, 10600)}}}}}};
+        EXPECT_EQ(QVTabletGetDatahandler(event, reply, &last), noErr);
+    }
+    EXPECT_EQ(window(), nullptr);
+}
+
+TEST_F(Calibration, escapeEndsItAtEachPoint)
+{
+    for (int taken = 0; taken < 4; ++taken) {
+        mEvents.sent.clear();
+        start();
+        const std::array<QVTabletPoint, 3> touched{{{1000, 800}, {19200, 800}, {19200, 10600}}};
+        // Far from the last point of the time before.
+        tap(static_cast<std::uint16_t>(40000 + 2000 * taken), 20000);
+        view().changenPointValue(-1);
+        for (int i = 0; i < taken; ++i) {
+            tap(touched[static_cast<std::size_t>(i)].x, touched[static_cast<std::size_t>(i)].y);
+        }
+        EXPECT_EQ(points(), taken);
+        QTest::keyClick(window(), Qt::Key_Escape);
+        EXPECT_EQ(window(), nullptr);
+        EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0}));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+}
+
+TEST_F(Calibration, theKeysSAndEShowAndEraseTheFirstCrossOnly)
+{
+    start();
+    tap(1000, 800);
+    const QImage second = view().grab().toImage();
+    QTest::keyClick(window(), Qt::Key_S);
+    const QImage first = view().grab().toImage();
+    EXPECT_NE(first, second);
+    QTest::keyClick(window(), Qt::Key_E);
+    EXPECT_NE(view().grab().toImage(), first);
+    EXPECT_EQ(points(), 1);
+    tap(19200, 800);
+    EXPECT_EQ(points(), 2);
+}
+
+TEST_F(Calibration, leavingThePanelEndsIt)
+{
+    start();
+    leave();
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0}));
+    EXPECT_EQ(+recordInFile().Monitor.disableFlag, 0);
+}
+
+TEST_F(Calibration, escapeInAWindowThatIsNobodysGoesOn)
+{
+    start();
+    QWidget other;
+    window()->sethCalibrateWin(&other);
+    mEvents.sent.clear();
+    QTest::keyClick(window(), Qt::Key_Escape);
+    EXPECT_NE(window(), nullptr);
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(Calibration, drawsEachCrossAndTheHintAtTheirPlaces)
+{
+    start();
+    const std::array<QPointF, 4> centres{
+        {{50, 50}, {1870, 50}, {1870, 1030}, {50, 1030}}}; // from the upper left
+    for (int flag : {16, 17, 18, 19, 32, 33, 34, 35, 0}) {
+        view().setDrawEraseFlag(flag);
+        const QImage drawn = view().grab().toImage();
+        const double density = drawn.devicePixelRatio();
+        QImage expected(drawn.size(), QImage::Format_ARGB32_Premultiplied);
+        expected.setDevicePixelRatio(density);
+        expected.fill(Qt::yellow);
+        QPainter painter(&expected);
+        QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+        font.setBold(true);
+        font.setPixelSize(40);
+        painter.setFont(font);
+        painter.setPen(QColor::fromRgbF(1.0F, 0.2F, 0.2F, 0.6F));
+        painter.drawText(QPointF(460, 540 - painter.fontMetrics().descent()),
+            QStringLiteral("Touch the cross with the pen. Esc ends."));
+        if (flag >= 16 && flag <= 19) {
+            painter.setPen(QPen(Qt::red, 1));
+            const QPointF centre = centres[static_cast<std::size_t>(flag) - 16];
+            painter.drawLine(centre - QPointF(25, 0), centre + QPointF(25, 0));
+            painter.drawLine(centre - QPointF(0, 25), centre + QPointF(0, 25));
+        }
+        painter.end();
+        int differing = 0;
+        for (int y = 0; y < expected.height(); ++y) {
+            for (int x = 0; x < expected.width(); ++x) {
+                const QColor a = expected.pixelColor(x, y);
+                const QColor b = drawn.pixelColor(x, y);
+                differing += std::abs(a.green() - b.green()) > 48 ? 1 : 0;
+            }
+        }
+        // Lines on the border between two pixels may fall on either.
+        EXPECT_LE(differing, 210 * density) << flag;
+        if (flag < 16 || flag > 19) {
+            EXPECT_EQ(differing, 0) << flag;
+        }
+    }
+}
