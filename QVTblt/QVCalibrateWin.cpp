@@ -49,7 +49,8 @@ PlacedKey placedKey(const QKeyEvent& event)
 /** From points above the main display's lower left corner to the window system's. */
 QRect toWindowSystem(const Rect& rect)
 {
-    const QRect main = QGuiApplication::primaryScreen()->geometry();
+    const QScreen* const screen = QGuiApplication::primaryScreen();
+    const QRect main = screen == nullptr ? QRect() : screen->geometry();
     return {main.x() + static_cast<int>(std::lround(rect.x)),
         main.y() + main.height() - static_cast<int>(std::lround(rect.y + rect.height)),
         static_cast<int>(std::lround(rect.width)), static_cast<int>(std::lround(rect.height))};
@@ -111,8 +112,20 @@ bool QVCalibrateWin::endCalibration()
 
 void QVCalibrateWin::removeAndClose()
 {
+    const QPointer<QWidget> calibration = mCalibrateWin;
     mMainWindow.clear();
-    close();
+    if (!calibration.isNull()) {
+        calibration->close();
+    }
+}
+
+void QVCalibrateWin::closeEvent(QCloseEvent* event)
+{
+    if (!mMainWindow.isNull()) { // nobody has ended the calibration
+        mMainWindow.clear();
+        mView->disableTablet(0);
+    }
+    QWidget::closeEvent(event);
 }
 
 void QVCalibrateWin::keyPressEvent(QKeyEvent* event)

@@ -34,6 +34,8 @@ public:
     QVCalibrateView& view() { return *mView; }
 
 protected:
+    /** However the window is closed, the driver must not be left waiting for points. */
+    void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:

@@ -62,10 +62,14 @@ std::optional<QVTabletArea> QVAspectFit(
         return std::nullopt;
     }
     QVTabletArea fitted = whole;
+    // The sum's low 16 bits are those of the sum of low 16 bits.
+    const auto edge = [](std::uint16_t start, std::int32_t length) {
+        return static_cast<std::uint16_t>(start + static_cast<std::uint16_t>(length));
+    };
     if (tabletHeight * width <= tabletWidth * height) {
-        fitted.xmax = static_cast<std::uint16_t>(whole.xmin + tabletHeight * width / height);
+        fitted.xmax = edge(whole.xmin, tabletHeight * width / height);
     } else {
-        fitted.ymax = static_cast<std::uint16_t>(whole.ymin + tabletWidth * height / width);
+        fitted.ymax = edge(whole.ymin, tabletWidth * height / width);
     }
     return fitted;
 }

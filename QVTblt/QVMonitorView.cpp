@@ -125,7 +125,7 @@ void QVMonitorView::interrogateHardware()
         return;
     }
     mDisplays = *displays;
-    mDisplays.resize(std::min<std::size_t>(mDisplays.size(), kQVMaxDisplays));
+    mDisplays.resize(std::min<std::size_t>(mDisplays.size(), mDspCount));
     mDspCount = static_cast<std::uint32_t>(mDisplays.size());
     disableUI();
     if (mDspCount >= 2) {
@@ -329,7 +329,7 @@ void QVMonitorView::AutoCalibrate()
 
 void QVMonitorView::CreateCalibrateWin(const Rect& rect)
 {
-    new QVCalibrateWin(rect, window()); // it is the window's, and closes with it
+    mCalibration = new QVCalibrateWin(rect, window()); // it is the window's, and closes with it
 }
 
 void QVMonitorView::DoCalibrate()
@@ -366,10 +366,8 @@ void QVMonitorView::DoCalibrate()
 
 void QVMonitorView::endCalibration()
 {
-    const auto windows =
-        window()->findChildren<QVCalibrateWin*>(QString(), Qt::FindDirectChildrenOnly);
-    for (QVCalibrateWin* const calibration : windows) {
-        calibration->endCalibration();
+    if (!mCalibration.isNull()) {
+        mCalibration->endCalibration();
     }
 }
 

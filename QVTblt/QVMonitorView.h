@@ -8,12 +8,14 @@
 #include "tagQVTabletInfo.h"
 
 #include <QImage>
+#include <QPointer>
 
 #include <array>
 #include <cstdint>
 #include <vector>
 
 class QComboBox;
+class QVCalibrateWin;
 
 /**
  * The display page's picture: the displays in miniature over a drawing of the tablet, with the
@@ -92,6 +94,7 @@ private:
     std::vector<platform::DisplayID> mDisplays;
     std::uint32_t mDspCount = 0;
     std::array<platform::Rect, kQVMaxDisplays> mSubMonitorRect{}; ///< global display points
+    QPointer<QVCalibrateWin> mCalibration; ///< while one is going on
     QVPoint mTabletPicLeftUp{}; ///< of the area in use, in the picture
     QVPoint mTabletPicRightDn{};
 };

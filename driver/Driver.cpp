@@ -194,9 +194,6 @@ bool Driver::setReportRate(std::uint32_t perSecond)
 
 void Driver::sendReport()
 {
-    if (mCalibrating.isEmpty()) {
-        mReports.clear(); // the panel has what it wants
-    }
     if (mReports.empty()) {
         mSendReport.stop();
         return;
@@ -249,6 +246,9 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
     const QByteArray flag = record.mid(offsetof(tagQVTabletInfo, Monitor.disableFlag), 2);
     const bool isCalibrating = flag == QByteArray("\x01\x00", 2);
     mCalibrating = isCalibrating && sender != nullptr ? *sender : QByteArray();
+    if (!isCalibrating) {
+        mReports.clear(); // the next calibration begins with taps of its own
+    }
     mSaveSoon.start();
     Q_EMIT pushed(mState.pushes);
     return noErr;
