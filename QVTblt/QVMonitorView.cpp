@@ -65,16 +65,6 @@ void setUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)
     info.Monitor.cTabletYmax = area.ymax;
 }
 
-/** Draws the edges of a rectangle, a point wide, inside of it. */
-void frameRect(QPainter& painter, const Rect& rect)
-{
-    QPainterPath frame;
-    frame.addRect(QRectF(rect.x, rect.y, rect.width, rect.height));
-    frame.addRect(QRectF(
-        rect.x + 1, rect.y + 1, std::max(0.0, rect.width - 2), std::max(0.0, rect.height - 2)));
-    painter.fillPath(frame, Qt::black); // what is between the two, by the odd-even rule
-}
-
 } // namespace
 
 QVMonitorView::QVMonitorView(QWidget* parent)
@@ -235,7 +225,7 @@ void QVMonitorView::drawRect(QPainter& painter, const Rect& dirty)
             painter, mBackgroundImage, dirty, platform::imageBounds(mBackgroundImage));
     }
     const Rect framed = drawMiniatures(painter);
-    frameRect(painter, framed);
+    platform::frameRect(painter, framed);
 
     const double left = static_cast<float>(framed.x);
     const double bottom = static_cast<float>(framed.y);

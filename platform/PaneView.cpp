@@ -4,8 +4,12 @@
 
 #include "PointCanvas.h"
 
-#include <QPainter>
+#include <QCoreApplication>
+#include <QEvent>
+#include <QPainterPath>
 #include <QScopedValueRollback>
+
+#include <algorithm>
 
 namespace platform {
 
@@ -47,10 +51,15 @@ void PaneView::setNeedsDisplay()
 void PaneView::setNeedsDisplayInRect(const Rect& rect)
 {
     mNeedsDisplay = mNeedsDisplay || !mIsDrawing;
+    update(toPixels(rect));
+}
+
+QRect PaneView::toPixels(const Rect& rect) const
+{
     const double scale = pixelsPerPoint();
-    update(QRectF(rect.x * scale, height() - (rect.y + rect.height) * scale, rect.width * scale,
-        rect.height * scale)
-               .toAlignedRect());
+    const QRectF pixels(rect.x * scale, height() - (rect.y + rect.height) * scale,
+        rect.width * scale, rect.height * scale);
+    return pixels.intersected(QRectF(this->rect())).toAlignedRect();
 }
 
 void PaneView::showEvent(QShowEvent* event)
@@ -59,24 +68,63 @@ void PaneView::showEvent(QShowEvent* event)
     setNeedsDisplay();
 }
 
-void PaneView::paintEvent(QPaintEvent* event)
+void PaneView::beginPoints(QPainter& painter) const
 {
-    static_cast<void>(event);
+    const double scale = pixelsPerPoint();
+    painter.translate(0, height());
+    painter.scale(scale, -scale);
+}
+
+void PaneView::updateStore()
+{
     const double density = devicePixelRatioF();
-    const QSize pixels = (QSizeF(size()) * density).toSize();
+    const QSize pixels = (QSizeF(size()) * density).toSize().expandedTo({1, 1});
     if (mNeedsDisplay || mStore.size() != pixels || mStore.devicePixelRatio() != density) {
         mNeedsDisplay = false;
         mStore = QPixmap(pixels);
         mStore.setDevicePixelRatio(density);
         mStore.fill(Qt::transparent);
         QPainter painter(&mStore);
-        const double scale = pixelsPerPoint();
-        painter.translate(0, height());
-        painter.scale(scale, -scale);
+        beginPoints(painter);
         const QScopedValueRollback drawing(mIsDrawing, true);
         drawRect(painter, bounds());
     }
+}
+
+void PaneView::paintEvent(QPaintEvent* event)
+{
+    static_cast<void>(event);
+    updateStore();
     QPainter(this).drawPixmap(0, 0, mStore);
+}
+
+QPainter& PaneView::lockFocus()
+{
+    updateStore();
+    mFocus.emplace(&mStore);
+    beginPoints(*mFocus);
+    return *mFocus;
+}
+
+void PaneView::unlockFocus(const Rect& drawn)
+{
+    mFocus.reset();
+    update(toPixels(drawn));
+}
+
+void PaneView::flushWindow()
+{
+    QEvent request(QEvent::UpdateRequest);
+    QCoreApplication::sendEvent(window(), &request);
+}
+
+void frameRect(QPainter& painter, const Rect& rect)
+{
+    QPainterPath frame;
+    frame.addRect(toQRect(rect));
+    frame.addRect(toQRect(
+        {rect.x + 1, rect.y + 1, std::max(0.0, rect.width - 2), std::max(0.0, rect.height - 2)}));
+    painter.fillPath(frame, Qt::black); // what is between the two, by the odd-even rule
 }
 
 void drawText(QPainter& painter, const QString& text, double x, double y)

@@ -4,10 +4,11 @@
 
 #include "Geometry.h"
 
+#include <QPainter>
 #include <QPixmap>
 #include <QWidget>
 
-class QPainter;
+#include <optional>
 
 namespace platform {
 
@@ -34,6 +35,19 @@ public:
     void setNeedsDisplayInRect(const Rect& rect);
 
 protected:
+    /**
+     * Draws into what is shown already, until unlockFocus(): what is pending is drawn first. The
+     * painter is in points, y growing upwards.
+     */
+    QPainter& lockFocus();
+    /** @param drawn what may have been drawn on, in points; it is painted soon */
+    void unlockFocus(const Rect& drawn);
+    /** Has what was drawn painted now. */
+    void flushWindow();
+
+    /** A point's size. */
+    double pixelsPerPoint() const;
+
     /** Draws at least what the rectangle covers. The painter is in points, y growing upwards. */
     virtual void drawRect(QPainter& painter, const Rect& dirty) = 0;
 
@@ -41,9 +55,12 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
-    double pixelsPerPoint() const;
+    void updateStore();
+    void beginPoints(QPainter& painter) const;
+    QRect toPixels(const Rect& rect) const;
 
     QPixmap mStore;
+    std::optional<QPainter> mFocus;
     bool mNeedsDisplay = true;
     bool mIsDrawing = false;
 };
@@ -60,6 +77,9 @@ void drawImage(QPainter& painter, const QImage& image, const Rect& target, const
  * y grows upwards.
  */
 void drawText(QPainter& painter, const QString& text, double x, double y);
+
+/** Draws the rectangle's frame in black, a point wide, inside of it. */
+void frameRect(QPainter& painter, const Rect& rect);
 
 /** An image's size in points. */
 Rect imageBounds(const QImage& image);

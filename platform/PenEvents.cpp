@@ -1,0 +1,177 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "PenEvents.h"
+
+#include <QMouseEvent>
+#include <QTabletEvent>
+#include <QWidget>
+
+#include <algorithm>
+#include <cmath>
+
+namespace platform {
+
+namespace {
+
+constexpr double kFarthest = 1e6;
+
+// Where the two Qts differ -----------------------------------------------------------------------
+
+#if QT_VERSION_MAJOR >= 6
+QPointF placeOf(const QSinglePointEvent& event)
+{
+    return event.position();
+}
+
+QPointF globalPlaceOf(const QSinglePointEvent& event)
+{
+    return event.globalPosition();
+}
+
+bool isEraser(const QTabletEvent& event)
+{
+    return event.pointerType() == QPointingDevice::PointerType::Eraser;
+}
+
+bool isPen(const QTabletEvent& event)
+{
+    return event.pointerType() == QPointingDevice::PointerType::Pen;
+}
+
+bool isCursor(const QTabletEvent& event)
+{
+    return event.pointerType() == QPointingDevice::PointerType::Cursor;
+}
+
+qint64 uniqueIDOf(const QTabletEvent& event)
+{
+    return event.pointingDevice()->uniqueId().numericId();
+}
+#else
+QPointF placeOf(const QTabletEvent& event)
+{
+    return event.posF();
+}
+
+QPointF placeOf(const QMouseEvent& event)
+{
+    return event.localPos();
+}
+
+QPointF globalPlaceOf(const QTabletEvent& event)
+{
+    return event.globalPosF();
+}
+
+QPointF globalPlaceOf(const QMouseEvent& event)
+{
+    return event.screenPos();
+}
+
+bool isEraser(const QTabletEvent& event)
+{
+    return event.pointerType() == QTabletEvent::Eraser;
+}
+
+bool isPen(const QTabletEvent& event)
+{
+    return event.pointerType() == QTabletEvent::Pen;
+}
+
+bool isCursor(const QTabletEvent& event)
+{
+    return event.pointerType() == QTabletEvent::Cursor;
+}
+
+qint64 uniqueIDOf(const QTabletEvent& event)
+{
+    return event.uniqueId();
+}
+#endif
+
+// Either Qt --------------------------------------------------------------------------------------
+
+double mended(double coordinate)
+{
+    return std::isnan(coordinate) ? 0.0 : std::clamp(coordinate, -kFarthest, kFarthest);
+}
+
+float finite(double value)
+{
+    return std::isfinite(value) ? static_cast<float>(value) : 0.0F;
+}
+
+template <class QtEvent>
+void takePlaces(Event& taken, const QtEvent& event, const QWidget& view)
+{
+    const QPointF place = placeOf(event);
+    const QPointF corner = view.mapTo(view.window(), QPoint(0, 0));
+    taken.locationInWindow = {
+        mended(corner.x() + place.x()), view.window()->height() - mended(corner.y() + place.y())};
+    const QPointF global = globalPlaceOf(event);
+    taken.absoluteX = static_cast<std::int32_t>(std::lround(mended(global.x())));
+    taken.absoluteY = static_cast<std::int32_t>(std::lround(mended(global.y())));
+}
+
+void takeDevice(Event& taken, const QTabletEvent& event)
+{
+    const qint64 uniqueID = uniqueIDOf(event);
+    taken.uniqueID = uniqueID <= 0 ? 0 : static_cast<std::uint64_t>(uniqueID);
+    taken.deviceID = static_cast<std::uint16_t>(taken.uniqueID);
+    taken.pointingDeviceType = isEraser(event) ? PointingDeviceType::Eraser
+        : isPen(event)                         ? PointingDeviceType::Pen
+        : isCursor(event)                      ? PointingDeviceType::Cursor
+                                               : PointingDeviceType::Unknown;
+}
+
+} // namespace
+
+std::optional<Event> penEvent(
+    const QTabletEvent& event, const QWidget& view, std::optional<QPointF>& downAt)
+{
+    const bool isMove = event.type() == QEvent::TabletMove;
+    if (!isMove && event.button() != Qt::LeftButton) {
+        return std::nullopt;
+    }
+    Event taken;
+    taken.subtype = kTabletPointSubtype;
+    takePlaces(taken, event, view);
+    takeDevice(taken, event);
+    const double pressure = event.pressure();
+    taken.pressure =
+        std::isnan(pressure) ? 0.0F : static_cast<float>(std::clamp(pressure, 0.0, 1.0));
+    taken.tilt = QPointF(finite(event.xTilt()), finite(event.yTilt()));
+    taken.rotation = finite(event.rotation());
+
+    const bool isDown =
+        event.type() == QEvent::TabletPress || (isMove && event.buttons().testFlag(Qt::LeftButton));
+    const std::optional<QPointF> before = downAt;
+    downAt = isDown ? std::optional(taken.locationInWindow) : std::nullopt;
+    if (!isMove) {
+        taken.type = isDown ? EventType::LeftMouseDown : EventType::LeftMouseUp;
+    } else if (isDown) {
+        taken.type = before == downAt ? EventType::TabletPoint : EventType::LeftMouseDragged;
+    }
+    return taken;
+}
+
+Event mouseEvent(const QMouseEvent& event, const QWidget& view, EventType type)
+{
+    Event taken;
+    taken.type = type;
+    takePlaces(taken, event, view);
+    const bool isDown = type == EventType::LeftMouseDown || type == EventType::LeftMouseDragged;
+    taken.pressure = isDown ? 1.0F : 0.0F;
+    return taken;
+}
+
+Event proximityEvent(const QTabletEvent& event, bool isEntering)
+{
+    Event taken;
+    taken.type = EventType::TabletProximity;
+    taken.isEnteringProximity = isEntering;
+    takeDevice(taken, event);
+    return taken;
+}
+
+} // namespace platform

@@ -1,0 +1,59 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "EventQueue.h"
+#include "PaneView.h"
+#include "PenEvents.h"
+
+#include <QPointF>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+
+namespace platform {
+
+/**
+ * A view that pen and mouse work on. They reach it through the queue of events, so that it can take
+ * the events of a stroke itself, and many at once.
+ */
+class PenView : public PaneView {
+public:
+    explicit PenView(QWidget* parent = nullptr);
+    ~PenView() override;
+    PenView(const PenView&) = delete;
+    PenView& operator=(const PenView&) = delete;
+    PenView(PenView&&) = delete;
+    PenView& operator=(PenView&&) = delete;
+
+    // What the queue calls, for one event each.
+    virtual void mouseDown(const Event& event) = 0;
+    virtual void mouseUp(const Event& event) = 0;
+    virtual void mouseMoved(const Event& event) = 0;
+    virtual void mouseDragged(const Event& event) = 0;
+    virtual void tabletPoint(const Event& event) = 0;
+    /** There are events, and the view tracks: it takes what it wants of them. */
+    virtual void trackEvents() = 0;
+
+protected:
+    /** Whether the view is told of moves without a button, and of a pen above the tablet. */
+    void setAcceptsMouseMovedEvents(bool accepts);
+
+    /** From an event's place to the view's points. */
+    QPointF convertPointFromWindow(const QPointF& place) const;
+
+    EventQueue& queue() const { return *mQueue; }
+
+    void tabletEvent(QTabletEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    std::shared_ptr<EventQueue> mQueue = EventQueue::shared();
+    std::optional<QPointF> mPenDownAt; ///< for penEvent()
+};
+
+} // namespace platform
