@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "QVCalibrateWin.h"
 
+#include "QVNSView.h"
+
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
@@ -60,6 +62,7 @@ QRect toWindowSystem(const Rect& rect)
 
 QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     : QWidget(mainWindow, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+    , ProximityResponder(static_cast<const QWidget&>(*this))
     , mView(new QVCalibrateView(this))
     , mCalibrateWin(this)
     , mMainWindow(mainWindow)
@@ -117,6 +120,11 @@ void QVCalibrateWin::removeAndClose()
     if (!calibration.isNull()) {
         calibration->close();
     }
+}
+
+void QVCalibrateWin::tabletProximity(const std::shared_ptr<const platform::Event>& event)
+{
+    QVPostProximity(*this, event);
 }
 
 void QVCalibrateWin::closeEvent(QCloseEvent* event)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "EventQueue.h"
 #include "QVCalibrateView.h"
 
 #include <QPointer>
@@ -11,7 +12,7 @@
  * The calibration's window: covers one display, lets it show through, and lies above the panel's
  * window, with which it closes. Escape ends the calibration.
  */
-class QVCalibrateWin final : public QWidget {
+class QVCalibrateWin final : public QWidget, public platform::ProximityResponder {
     Q_OBJECT
 
 public:
@@ -30,6 +31,9 @@ public:
     bool endCalibration();
     /** Takes the window from the panel's and closes it. */
     void removeAndClose();
+
+    /** Spreads the pen's coming and going, which while the window is open reaches nobody else. */
+    void tabletProximity(const std::shared_ptr<const platform::Event>& event) override;
 
     QVCalibrateView& view() { return *mView; }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Geometry.h"
+#include "QVPoint.h"
 
 #include <cstdint>
 #include <optional>
@@ -42,14 +43,6 @@ struct QVTabletArea {
     std::uint16_t ymax;
 
     bool operator==(const QVTabletArea&) const = default;
-};
-
-/** A point of the view. */
-struct QVPoint {
-    double x;
-    double y;
-
-    bool operator==(const QVPoint&) const = default;
 };
 
 /**

@@ -4,6 +4,7 @@
 
 #include "AppleEvents.h"
 #include "Client.h"
+#include "QVNSView.h"
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
 
@@ -30,13 +31,29 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
 
 QWidget* QVTblt_prefPanePref::makeMainView()
 {
-    auto view = std::make_unique<QWidget>();
+    auto view = std::make_unique<QVNSView>();
     setupUi(view.get());
     setUpKeyPage();
+    setUpPenPage();
     setUpDisplayPage();
     connect(mSave, &QPushButton::clicked, this, &QVTblt_prefPanePref::SaveSet);
     connect(mCancel, &QPushButton::clicked, this, &QVTblt_prefPanePref::CancelSet);
     return view.release();
+}
+
+void QVTblt_prefPanePref::setUpPenPage()
+{
+    pressCanvas->takePlaces();
+    mPressView->setOutlets(mSlider, mPenID);
+    mPressView->awakeFromNib();
+    mDrawView->setOutlets(txtRawTabletPressure);
+    mDrawView->awakeFromNib();
+    mPenStats->observe(*mDrawView);
+    connect(
+        mSlider, &QSlider::valueChanged, this, [this] { mPressView->AdjustPressLine(mSlider); });
+    connect(mAdjustOpacity, &QCheckBox::toggled, mDrawView, &QVDrawView::setAdjustOpacity);
+    connect(mAdjustSize, &QCheckBox::toggled, mDrawView, &QVDrawView::setAdjustSize);
+    connect(mClean, &QPushButton::clicked, mDrawView, &QVDrawView::doClean);
 }
 
 void QVTblt_prefPanePref::setUpDisplayPage()
@@ -136,5 +153,7 @@ void QVTblt_prefPanePref::SaveSet()
 void QVTblt_prefPanePref::CancelSet()
 {
     ReadQVConfigPlist();
+    mPressView->setNeedsDisplay();
+    mMonitorView->setNeedsDisplay();
     ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
 }

@@ -45,7 +45,10 @@ public:
 
     /** Saves the record into its file and pushes it. */
     void SaveSet();
-    /** Loads the file again and pushes the record. The controls keep showing the choices. */
+    /**
+     * Loads the file again and pushes the record. The views follow; the key page's controls keep
+     * showing the choices.
+     */
     void CancelSet();
 
     /**
@@ -85,6 +88,7 @@ private:
 
     void setUpDisplayPage();
     void setUpKeyPage();
+    void setUpPenPage();
     void restoreKeyPage();
     void layOutKeyPage(std::uint16_t productID);
     void takeApplication(QVKeyComboBox& comboBox, tagQVTabletInfoSubKey& slot);

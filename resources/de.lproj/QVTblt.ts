@@ -130,6 +130,52 @@
     </message>
 </context>
 <context>
+    <name>QVPenStats</name>
+    <message>
+        <source>Pressure %1 %</source>
+        <translation>Druck %1 %</translation>
+    </message>
+    <message>
+        <source>Tilt %1° right, %2° down</source>
+        <translation>Neigung %1° nach rechts, %2° nach unten</translation>
+    </message>
+    <message>
+        <source>Rotation %1°</source>
+        <translation>Drehung %1°</translation>
+    </message>
+    <message>
+        <source>At %1, %2 of the desktop</source>
+        <translation>Bei %1, %2 des Bildschirms</translation>
+    </message>
+    <message>
+        <source>Pen number %1</source>
+        <translation>Stift Nummer %1</translation>
+    </message>
+</context>
+<context>
+    <name>QVPressView</name>
+    <message>
+        <source>Eraser</source>
+        <translation>Radierer</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>Stift</translation>
+    </message>
+    <message>
+        <source>Eraser, serial number %1</source>
+        <translation>Radierer, Seriennummer %1</translation>
+    </message>
+    <message>
+        <source>Pen, serial number %1</source>
+        <translation>Stift, Seriennummer %1</translation>
+    </message>
+    <message>
+        <source>No pen in reach</source>
+        <translation>Kein Stift in Reichweite</translation>
+    </message>
+</context>
+<context>
     <name>QVTblt_prefPanePref</name>
     <message>
         <source>Quorvia Tablet</source>
@@ -213,7 +259,7 @@
     </message>
     <message>
         <source>Scroll &amp;speed:</source>
-        <translation>&amp;Rolltempo:</translation>
+        <translation>Rolltem&amp;po:</translation>
     </message>
     <message>
         <source>Scroll speed</source>
@@ -277,7 +323,7 @@
     </message>
     <message>
         <source>&amp;Map the tablet to:</source>
-        <translation>Tablett &amp;abbilden auf:</translation>
+        <translation>Tablett abbil&amp;den auf:</translation>
     </message>
     <message>
         <source>Map the tablet to</source>
@@ -342,6 +388,74 @@
     <message>
         <source>Touch four crosses on the chosen display, so that the pen meets its pointer.</source>
         <translation>Vier Kreuze auf dem gewählten Bildschirm berühren, damit der Stift den Zeiger trifft.</translation>
+    </message>
+    <message>
+        <source>P&amp;en</source>
+        <translation>St&amp;ift</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Towards Light, a gentle touch already gives much. Towards Heavy, you press harder for the same.</source>
+        <translation>Bei „Leicht“ bewirkt schon eine sanfte Berührung viel. Bei „Fest“ drücken Sie für dasselbe stärker.</translation>
+    </message>
+    <message>
+        <source>↑ What programs receive</source>
+        <translation>↑ Was Programme erhalten</translation>
+    </message>
+    <message>
+        <source>Pressure curve</source>
+        <translation>Druckkurve</translation>
+    </message>
+    <message>
+        <source>How hard you press →</source>
+        <translation>Wie stark Sie drücken →</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>&amp;Leicht</translation>
+    </message>
+    <message>
+        <source>Pressure, from light to heavy</source>
+        <translation>Druck, von leicht bis fest</translation>
+    </message>
+    <message>
+        <source>Heavy</source>
+        <translation>Fest</translation>
+    </message>
+    <message>
+        <source>Try the pen</source>
+        <translation>Den Stift ausprobieren</translation>
+    </message>
+    <message>
+        <source>&amp;Width follows pressure</source>
+        <translation>Br&amp;eite folgt dem Druck</translation>
+    </message>
+    <message>
+        <source>&amp;Opacity follows pressure</source>
+        <translation>Deckkra&amp;ft folgt dem Druck</translation>
+    </message>
+    <message>
+        <source>Clea&amp;r</source>
+        <translation>Lee&amp;ren</translation>
+    </message>
+    <message>
+        <source>Wipe the drawing pad</source>
+        <translation>Die Zeichenfläche leeren</translation>
+    </message>
+    <message>
+        <source>Drawing pad</source>
+        <translation>Zeichenfläche</translation>
+    </message>
+    <message>
+        <source>Draw here with the pen or the mouse.</source>
+        <translation>Zeichnen Sie hier mit dem Stift oder der Maus.</translation>
+    </message>
+    <message>
+        <source>Pressure, of 65535:</source>
+        <translation>Druck, von 65535:</translation>
     </message>
 </context>
 </TS>

@@ -1,0 +1,95 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Notifications.h"
+#include "PenView.h"
+
+#include <array>
+#include <cstdint>
+
+class QLabel;
+
+/** The notification that a drawing pad's statistics have changed; its object is the pad. */
+inline constexpr QLatin1String kStatsUpdatedNotification("WTViewStatsUpdatedNotification");
+
+/**
+ * The drawing pad: shows strokes of pen and mouse, whose width and opacity may follow the pressure.
+ * It keeps no strokes; whatever draws it anew wipes them.
+ */
+class QVDrawView final : public platform::PenView {
+    Q_OBJECT
+
+public:
+    explicit QVDrawView(QWidget* parent = nullptr);
+
+    /** Connects what shows the pressure, 0 to 65535; before awakeFromNib(). */
+    void setOutlets(QLabel* rawTabletPressure);
+    /** The interface file has been loaded. */
+    void awakeFromNib();
+
+    /** The statistics of the last event; strokes update them at their two ends alone. */
+    struct Stats {
+        platform::EventType mEventType = platform::EventType::MouseMoved;
+        std::uint16_t mDeviceID = 0; ///< of the last pen
+        float mMouseX = 0; ///< in pixels from the window's lower left corner, y growing upwards
+        float mMouseY = 0;
+        float mPressure = 0; ///< 0 to 1; 0 while nothing is pressed
+        std::int32_t mAbsX = 0; ///< on the desktop
+        std::int32_t mAbsY = 0;
+        float mTiltX = 0; ///< degrees
+        float mTiltY = 0;
+        float mRotDeg = 0; ///< of the last pen
+    };
+    const Stats& stats() const { return mStats; }
+    bool isErasing() const { return mIsErasing; }
+
+    /** Whether strokes are as opaque as the pen presses. At first they are not. */
+    void setAdjustOpacity(bool adjusts) { mAdjustOpacity = adjusts; }
+    /** Whether strokes are as wide as the pen presses, up to 50 points, else 25. At first they are.
+     */
+    void setAdjustSize(bool adjusts) { mAdjustSize = adjusts; }
+    /** Whether moves without a button update the statistics. At first they do. */
+    void setCaptureMouseMoves(bool captures);
+    bool mCaptureMouseMoves() const { return mCapturesMouseMoves; }
+    /** Whether drags that come without a press update the statistics. At first they do. */
+    void setUpdateStatsDuringDrag(bool updates) { mUpdatesStatsDuringDrag = updates; }
+    bool mUpdateStatsDuringDrag() const { return mUpdatesStatsDuringDrag; }
+
+    /** Wipes the pad. */
+    void doClean();
+
+    /** Draws with the pen or erases, as the device that has come into reach does. */
+    void handleProximity(const platform::Notification& notification);
+
+    void mouseDown(const platform::Event& event) override;
+    void mouseUp(const platform::Event& event) override;
+    void mouseMoved(const platform::Event& event) override;
+    void mouseDragged(const platform::Event& event) override;
+    void tabletPoint(const platform::Event& event) override;
+    void trackEvents() override;
+
+protected:
+    void drawRect(QPainter& painter, const platform::Rect& dirty) override;
+
+private:
+    void handleMouseEvent(const platform::Event& event);
+    void drawCurrentDataFromEvent(const platform::Event& event);
+    void drawWaiting(const platform::Event& event);
+    void showPressure(float pressure);
+    void postStats();
+    float smoothed(float pressure);
+
+    QLabel* txtRawTabletPressure = nullptr;
+    Stats mStats;
+    bool mAdjustOpacity = false;
+    bool mAdjustSize = true;
+    bool mCapturesMouseMoves = true;
+    bool mUpdatesStatsDuringDrag = true;
+    bool mIsErasing = false;
+    bool mIsDragging = false; ///< tracks a drag that had no press here
+    float mDrawnPressure = 0; ///< of the last step; shown once for all that are drawn together
+    QPointF mLastLoc; ///< in the view's points
+    QPointF cachedLastLoc; ///< the point before, for the curve; (0, 0) is none
+    std::array<float, 8> cachedPressure{}; ///< the last smoothed pressures, the latest at the end
+};

@@ -1,0 +1,56 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVPressCurve.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+/** The linear part vanishes at 100 of the threshold's steps from the middle. */
+constexpr double kPressureRange = 1023;
+constexpr double kScale = kPressureRange * 100;
+constexpr int kMiddle = 100; ///< the threshold of the straight line
+constexpr int kStep = 5; ///< of the tablet's pressure, for a point of the view
+constexpr int kHeight = 200;
+
+/** The height above the straight line's foot, of an output pressure. */
+int points(double pressure)
+{
+    return static_cast<int>(pressure) / kStep;
+}
+
+int above(int threshold, int j)
+{
+    const double b = (kMiddle - threshold) / kScale;
+    const double c = 1 - kPressureRange * b;
+    const double t = kStep * j;
+    const double g = (std::sqrt(t * (4 * b) + c * c) - c) / (b + b);
+    return kHeight - std::max(kHeight - points(g), 0);
+}
+
+int below(int threshold, int j)
+{
+    const double a = (threshold - kMiddle) / kScale;
+    const double x = kStep * (kHeight - j);
+    const double f = x * (1 - kPressureRange * a) + a * x * x;
+    return kHeight - std::max(2 * kHeight - 2 * j - points(f), 0);
+}
+
+} // namespace
+
+int QVPressHeight(int threshold, int j)
+{
+    return threshold < kMiddle ? above(threshold, j) : below(threshold, j);
+}
+
+std::array<QVPoint, kQVCurvePoints> QVPressCurve(int threshold)
+{
+    std::array<QVPoint, kQVCurvePoints> curve{};
+    for (int j = 1; j < kHeight; ++j) {
+        curve[static_cast<std::size_t>(j)] = {
+            static_cast<double>(j), static_cast<double>(QVPressHeight(threshold, j))};
+    }
+    curve.back() = {kHeight, kHeight};
+    return curve;
+}

@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// The pen page's pressure: slider, curve, record, driver.
+
+#include "QVPressView.h"
+
+#include "PaneTest.h"
+#include "QVNSView.h"
+#include "SameImage.h"
+
+#include <QLabel>
+#include <QPainterPath>
+#include <QPushButton>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTest>
+
+namespace {
+
+class PressurePage : public PaneTest {
+protected:
+    void SetUp() override
+    {
+        PaneTest::SetUp();
+        show();
+        outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
+        mEvents.sent.clear();
+    }
+
+    QVPressView& view() { return outlet<QVPressView>("mPressView"); }
+    QSlider& slider() { return outlet<QSlider>("mSlider"); }
+    QString penID() { return outlet<QLabel>("mPenID").text(); }
+    QImage drawWith(int threshold)
+    {
+        qvTabletInfo.Pen.PressureThreshold = static_cast<std::int16_t>(threshold);
+        view().setNeedsDisplay();
+        return view().grab().toImage();
+    }
+    void postProximity(platform::PointingDeviceType type, std::uint64_t serial, bool isEntering)
+    {
+        auto event = std::make_shared<platform::Event>();
+        event->pointingDeviceType = type;
+        event->uniqueID = serial;
+        event->isEnteringProximity = isEntering;
+        QVPostProximity(*mWindow, event);
+    }
+};
+
+} // namespace
+
+TEST_F(PressurePage, drawsTheCurveInItsFrame)
+{
+    const double density = view().devicePixelRatioF(); // the tests run at 1 and at 2
+    for (const int threshold : {0, 50, 99, 100, 150, 200, -300, 32767}) {
+        SCOPED_TRACE(threshold);
+        Canvas expected({200, 200}, density);
+        expected.painter.fillRect(QRectF(0, 0, 200, 200), Qt::lightGray);
+        for (const QRectF& edge : {QRectF(0, 0, 200, 1), QRectF(0, 199, 200, 1),
+                 QRectF(0, 0, 1, 200), QRectF(199, 0, 1, 200)}) {
+            expected.painter.fillRect(edge, Qt::black);
+        }
+        QPainterPath path;
+        path.lineTo(0, 0);
+        for (int j = 1; j <= 198; ++j) {
+            path.lineTo(j, QVPressHeight(threshold, j));
+        }
+        expected.painter.strokePath(path, QPen(Qt::black, 1));
+        expected.painter.end();
+        expectSameImage(drawWith(threshold), expected.image);
+    }
+}
+
+TEST_F(PressurePage, endsTheCurveBeforeTheUpperRightCorner)
+{
+    const QImage straight = drawWith(100);
+    const double density = view().devicePixelRatioF();
+    const auto at = [&](double x, double y) {
+        return straight.pixelColor(
+            static_cast<int>(x * density), static_cast<int>((200 - y) * density));
+    };
+    EXPECT_NE(at(190.2, 190.2), QColor(Qt::lightGray));
+    EXPECT_EQ(at(198.5, 196.0), QColor(Qt::lightGray));
+}
+
+TEST_F(PressurePage, theSliderInTenthsStoresWholes)
+{
+    slider().setValue(379);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 37);
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_EQ(+pushes().front().Pen.PressureThreshold, 37);
+    const QImage drawn = view().grab().toImage();
+    expectSameImage(drawn, drawWith(37));
+    EXPECT_EQ(slider().value(), 370) << "follows the record when the curve is drawn";
+    EXPECT_EQ(pushes().size(), 1U);
+}
+
+TEST_F(PressurePage, everyStepOfADragIsPushed)
+{
+    qvTabletInfo.Pen.PressureThreshold = 100;
+    view().setNeedsDisplay();
+    view().grab();
+    const QPoint middle(slider().width() / 2, slider().height() / 3);
+    QTest::mousePress(&slider(), Qt::LeftButton, {}, middle);
+    QSet<int> thresholds;
+    for (int step = 1; step <= 20; ++step) {
+        QTest::mouseMove(&slider(), middle + QPoint(2 * step, 0));
+        thresholds.insert(qvTabletInfo.Pen.PressureThreshold);
+        view().grab(); // as on a screen, where the slider follows the record in between
+    }
+    QTest::mouseRelease(&slider(), Qt::LeftButton, {}, middle + QPoint(40, 0));
+    EXPECT_GE(thresholds.size(), 18);
+    const auto pushed = pushes();
+    ASSERT_GE(pushed.size(), 18U);
+    for (std::size_t i = 1; i < pushed.size(); ++i) {
+        EXPECT_GE(+pushed[i].Pen.PressureThreshold, +pushed[i - 1].Pen.PressureThreshold);
+    }
+    EXPECT_EQ(+pushed.back().Pen.PressureThreshold, +qvTabletInfo.Pen.PressureThreshold);
+}
+
+TEST_F(PressurePage, theKeyboardMovesByWholesAndTens)
+{
+    qvTabletInfo.Pen.PressureThreshold = 100;
+    drawWith(100);
+    QTest::keyClick(&slider(), Qt::Key_Right);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 101);
+    QTest::keyClick(&slider(), Qt::Key_PageUp);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 111);
+    QTest::keyClick(&slider(), Qt::Key_Home);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 0);
+    QTest::keyClick(&slider(), Qt::Key_End);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 200);
+}
+
+TEST_F(PressurePage, followsTheFileAfterCancel)
+{
+    slider().setValue(2000);
+    view().grab();
+    QTest::mouseClick(&outlet<QPushButton>("mCancel"), Qt::LeftButton);
+    const int inFile = recordInFile().Pen.PressureThreshold;
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, inFile);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return slider().value() == inFile * 10; }));
+}
+
+TEST_F(PressurePage, isSavedWithTheRecord)
+{
+    slider().setValue(1230);
+    QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
+    EXPECT_EQ(+recordInFile().Pen.PressureThreshold, 123);
+}
+
+TEST_F(PressurePage, keepsAThresholdThatNoSliderReaches)
+{
+    for (const int threshold : {-32768, -1, 201, 32767}) {
+        drawWith(threshold);
+        EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, threshold);
+    }
+    EXPECT_EQ(slider().value(), 2000);
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(PressurePage, namesThePenThatIsInReach)
+{
+    using platform::PointingDeviceType;
+    postProximity(PointingDeviceType::Pen, 4711, true);
+    EXPECT_EQ(penID(), QStringLiteral("Pen, serial number 4711"));
+    postProximity(PointingDeviceType::Eraser, 4711, true);
+    EXPECT_EQ(penID(), QStringLiteral("Eraser, serial number 4711"));
+    postProximity(PointingDeviceType::Eraser, 0, true);
+    EXPECT_EQ(penID(), QStringLiteral("Eraser"));
+    postProximity(PointingDeviceType::Pen, 0, true);
+    EXPECT_EQ(penID(), QStringLiteral("Pen"));
+    postProximity(PointingDeviceType::Pen, 0, false);
+    EXPECT_EQ(penID(), QStringLiteral("No pen in reach"));
+}
