@@ -7,30 +7,16 @@
 #include "Client.h"
 #include "NoDiagnostics.h"
 #include "QVConfigStore.h"
+#include "ResidentMemory.h"
 #include "rzkApplication.h"
 
 #include <QCoreApplication>
 
 #include <benchmark/benchmark.h>
 
-#include <fstream>
-#include <string>
-
 namespace {
 
 constexpr int kTimes = 100'000;
-
-/** Memory of this process that is in the machine, in KiB. */
-double resident()
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string line; std::getline(status, line);) {
-        if (line.starts_with("VmRSS:")) {
-            return std::stod(line.substr(6));
-        }
-    }
-    return 0;
-}
 
 template <class Work>
 void growth(benchmark::State& state, const Work& work)
@@ -39,11 +25,11 @@ void growth(benchmark::State& state, const Work& work)
     for (int i = 0; i < kTimes / 100; ++i) {
         work();
     }
-    const double before = resident();
+    const double before = residentKiB();
     for ([[maybe_unused]] auto _ : state) {
         work();
     }
-    state.counters["grown_KiB"] = resident() - before;
+    state.counters["grown_KiB"] = residentKiB() - before;
 }
 
 void memoryOfPushes(benchmark::State& state)

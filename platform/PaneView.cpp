@@ -81,6 +81,7 @@ void PaneView::updateStore()
     const QSize pixels = (QSizeF(size()) * density).toSize().expandedTo({1, 1});
     if (mNeedsDisplay || mStore.size() != pixels || mStore.devicePixelRatio() != density) {
         mNeedsDisplay = false;
+        mFocus.reset();
         mStore = QPixmap(pixels);
         mStore.setDevicePixelRatio(density);
         mStore.fill(Qt::transparent);
@@ -95,20 +96,22 @@ void PaneView::paintEvent(QPaintEvent* event)
 {
     static_cast<void>(event);
     updateStore();
+    mFocus.reset();
     QPainter(this).drawPixmap(0, 0, mStore);
 }
 
 QPainter& PaneView::lockFocus()
 {
     updateStore();
-    mFocus.emplace(&mStore);
-    beginPoints(*mFocus);
+    if (!mFocus) { // it stays until what it has drawn is painted
+        mFocus.emplace(&mStore);
+        beginPoints(*mFocus);
+    }
     return *mFocus;
 }
 
 void PaneView::unlockFocus(const Rect& drawn)
 {
-    mFocus.reset();
     update(toPixels(drawn));
 }
 
