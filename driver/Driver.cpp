@@ -8,12 +8,16 @@
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
 
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QStringList>
 #include <QThread>
 
 #include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <utility>
 
 using namespace platform;
 
@@ -21,8 +25,6 @@ namespace {
 
 constexpr DescType kPenReport = fourCharCode("rprt");
 constexpr std::int32_t kReportTimeOut = 10 * kTicksPerSecond; ///< the panel pauses between points
-constexpr int kUsualReports = 10; ///< milliseconds from one report to the next
-constexpr std::uint32_t kMostReports = 1000;
 
 constexpr AEEventID kSettingsEvent = fourCharCode("WSnd");
 
@@ -89,15 +91,22 @@ void say(const QString& line)
     std::fflush(stdout);
 }
 
-Driver::Driver(AppleEvents& events)
+Driver::Driver(AppleEvents& events, QDBusConnection bus)
     : mEvents(events)
+    , mBus(std::move(bus))
 {
     mSaveSoon.setSingleShot(true);
     mSaveSoon.setInterval(kSaveDelay);
     connect(&mSaveSoon, &QTimer::timeout, this, &Driver::saveState);
 
-    mSendReport.setInterval(kUsualReports);
-    connect(&mSendReport, &QTimer::timeout, this, &Driver::sendReport);
+    mPanels.setConnection(mBus);
+    mPanels.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(&mPanels, &QDBusServiceWatcher::serviceUnregistered, this, &Driver::endCalibration);
+
+    mSinceStart.start();
+    mSendReports.setSingleShot(true);
+    mSendReports.setTimerType(Qt::PreciseTimer);
+    connect(&mSendReports, &QTimer::timeout, this, &Driver::sendDueReports);
 
     mEvents.installEventHandler(kAECoreSuite, kAEGetData,
         [this](const AppleEvent& event, AppleEvent& reply) { return answerQuery(event, reply); });
@@ -153,6 +162,7 @@ void Driver::setAttached(std::uint16_t productID)
         return;
     }
     mState.attached = productID;
+    mReports.reset(); // a tablet that is pulled out reports no lift
     say(QStringLiteral("attached: %1").arg(modelText(productID)));
     mSaveSoon.start();
     Q_EMIT attachedChanged(productID);
@@ -172,40 +182,127 @@ QString Driver::tap(std::uint16_t x, std::uint16_t y)
     if (mCalibrating.isEmpty()) {
         return QStringLiteral("nobody asks for the pen: no calibration is going on");
     }
-    constexpr std::uint32_t kPressure = 300;
-    constexpr int kMoves = 4;
-    for (int i = 0; i <= kMoves; ++i) {
-        mReports.push_back({1, x, y, kPressure});
-    }
-    mReports.push_back({0, x, y, 0});
-    mSendReport.start();
+    mReports.tap(x, y);
+    wakeReports();
     say(QStringLiteral("tap at %1, %2").arg(x).arg(y));
+    Q_EMIT tapped(x, y);
     return {};
+}
+
+void Driver::penDown(std::uint16_t x, std::uint16_t y)
+{
+    if (mState.attached == 0) {
+        return;
+    }
+    mReports.press(x, y);
+    if (isCalibrating()) {
+        say(QStringLiteral("pen down at %1, %2").arg(x).arg(y));
+    }
+    wakeReports();
+}
+
+void Driver::penMove(std::uint16_t x, std::uint16_t y)
+{
+    mReports.move(x, y);
+    wakeReports();
+}
+
+void Driver::penUp()
+{
+    if (!mReports.isDown()) {
+        return;
+    }
+    mReports.lift();
+    if (isCalibrating()) {
+        const PenReport& pen = mReports.held();
+        say(QStringLiteral("pen up at %1, %2").arg(pen.x).arg(pen.y));
+    }
+    wakeReports();
 }
 
 bool Driver::setReportRate(std::uint32_t perSecond)
 {
-    if (perSecond < 1 || perSecond > kMostReports) {
+    if (perSecond < 1 || perSecond > ReportClock::kMostReports) {
         return false;
     }
-    mSendReport.setInterval(static_cast<int>(1000 / perSecond));
+    mClock.setRate(perSecond);
+    mSendReports.stop();
+    wakeReports();
     return true;
 }
 
-void Driver::sendReport()
+void Driver::wakeReports()
 {
-    if (mReports.empty()) {
-        mSendReport.stop();
-        return;
+    if (!isCalibrating()) {
+        mReports.forget(); // nobody wants to know
+        mSendReports.stop();
+    } else if (!mReports.isEmpty() && !mSendReports.isActive()) {
+        mClock.begin(now());
+        mSendReports.start(std::chrono::ceil<std::chrono::milliseconds>(mClock.wait(now())));
     }
-    const PenReport report = mReports.front();
-    mReports.pop_front();
+}
+
+void Driver::sendDueReports()
+{
+    const ReportClock::Time time = now();
+    while (!mReports.isEmpty() && mClock.wait(time) == ReportClock::Time::zero()) {
+        send(mReports.take());
+        mClock.sent(time);
+    }
+    if (!mReports.isEmpty()) {
+        mSendReports.start(std::chrono::ceil<std::chrono::milliseconds>(mClock.wait(time)));
+    }
+}
+
+void Driver::send(const PenReport& report)
+{
     // Of a list, the panel reads every other item, beginning with the first.
     const AEDesc item{kPenReport,
         QByteArray(reinterpret_cast<const char*>(&report), static_cast<int>(sizeof report))};
     AppleEvent event{kAECoreSuite, kAEGetData, {typeBusName, mCalibrating}, {}};
     mEvents.putParamDesc(event, keyDirectObject, {typeAEList, AEList{item}});
     mEvents.send(event, nullptr, kAEWaitReply, kAEHighPriority, kReportTimeOut);
+}
+
+void Driver::setCalibrating(const QByteArray& panel)
+{
+    if (panel == mCalibrating) {
+        return;
+    }
+    const bool wasCalibrating = isCalibrating();
+    mCalibrating = panel;
+    mReports.forget(); // the next calibration begins with taps of its own
+    mPanels.setWatchedServices({});
+    if (isCalibrating()) {
+        const QString name = QString::fromUtf8(panel);
+        mPanels.addWatchedService(name);
+        // It may have gone already, before it was watched.
+        QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+            QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+            QStringLiteral("NameHasOwner"));
+        call << name;
+        auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
+        connect(answer, &QDBusPendingCallWatcher::finished, this,
+            [this, name](QDBusPendingCallWatcher* answered) {
+                const QDBusPendingReply<bool> isThere = *answered;
+                if (isThere.isValid() && !isThere.value()) {
+                    endCalibration(name);
+                }
+                answered->deleteLater();
+            });
+    }
+    wakeReports();
+    if (wasCalibrating != isCalibrating()) {
+        Q_EMIT calibratingChanged(isCalibrating());
+    }
+}
+
+void Driver::endCalibration(const QString& panel)
+{
+    if (panel.toUtf8() == mCalibrating) {
+        say(QStringLiteral("%1 has gone while it calibrated").arg(panel));
+        setCalibrating({});
+    }
 }
 
 void Driver::saveState()
@@ -244,11 +341,8 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
     mState.record = record;
     const QByteArray* const sender = event.address.bytes();
     const QByteArray flag = record.mid(offsetof(tagQVTabletInfo, Monitor.disableFlag), 2);
-    const bool isCalibrating = flag == QByteArray("\x01\x00", 2);
-    mCalibrating = isCalibrating && sender != nullptr ? *sender : QByteArray();
-    if (!isCalibrating) {
-        mReports.clear(); // the next calibration begins with taps of its own
-    }
+    const bool asksForPen = flag == QByteArray("\x01\x00", 2);
+    setCalibrating(asksForPen && sender != nullptr ? *sender : QByteArray());
     mSaveSoon.start();
     Q_EMIT pushed(mState.pushes);
     return noErr;

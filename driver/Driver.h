@@ -4,22 +4,16 @@
 
 #include "AppleEvents.h"
 #include "DriverState.h"
+#include "PenReports.h"
 
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 
 #include <cstdint>
-#include <deque>
 #include <optional>
-
-/** One report of the pen, as the panel takes it. */
-struct PenReport {
-    std::uint32_t key; ///< 1 while the tip is down, 0 when it is up
-    std::uint16_t x; ///< in tablet units
-    std::uint16_t y;
-    std::uint32_t pressure; ///< which the panel does not read
-};
-static_assert(sizeof(PenReport) == 12);
 
 /**
  * The driver: answers the panel's query, takes its pushes, and has at most one simulated tablet
@@ -29,8 +23,12 @@ class Driver final : public QObject {
     Q_OBJECT
 
 public:
-    /** Installs the handlers of the panel's events. */
-    explicit Driver(platform::AppleEvents& events);
+    /**
+     * Installs the handlers of the panel's events.
+     *
+     * @param bus on which the events come, and on which panels come and go
+     */
+    Driver(platform::AppleEvents& events, QDBusConnection bus);
 
     /**
      * Takes up what was known when the driver last ended.
@@ -59,14 +57,28 @@ public:
     /** From now on the driver does nothing at all for so long before it handles an event. */
     void stall(std::uint32_t milliseconds);
 
+    /** Whether a panel asks for the pen. */
+    bool isCalibrating() const { return !mCalibrating.isEmpty(); }
+
     /**
-     * The pen touches a point of the tablet, moves a little and is lifted. Its reports go to the
-     * panel that calibrates, one after the other at the report rate; without one, nothing happens.
+     * The pen touches a point of the tablet and is lifted. Its reports go to the panel that
+     * calibrates, one after the other at the report rate; without one, nothing happens.
      *
      * @param x in tablet units
      * @return why it is not reported; empty when it is
      */
     QString tap(std::uint16_t x, std::uint16_t y);
+
+    /**
+     * The tip of the pen goes down and stays down until penUp(). As long as a panel calibrates, it
+     * is told at the report rate where the pen is, in the same row of reports as a tap's; also one
+     * that begins to calibrate meanwhile. Without a tablet, nothing happens.
+     */
+    void penDown(std::uint16_t x, std::uint16_t y);
+    /** The pen is dragged; nothing while its tip is up. */
+    void penMove(std::uint16_t x, std::uint16_t y);
+    /** The tip is lifted; nothing while it is up. */
+    void penUp();
 
     /** Sets how many reports are sent in a second: 1 to 1000. @return whether it is such a number
      */
@@ -78,6 +90,10 @@ public:
 Q_SIGNALS:
     void attachedChanged(ushort productID);
     void pushed(uint count);
+    /** A panel begins to ask for the pen, or none does any more. */
+    void calibratingChanged(bool isCalibrating);
+    /** The pen touches a point and is lifted, as it was told to by tap(). */
+    void tapped(ushort x, ushort y);
 
 private:
     platform::OSErr answerQuery(const platform::AppleEvent& event, platform::AppleEvent& reply);
@@ -85,15 +101,24 @@ private:
     platform::OSErr refuse(
         const platform::AppleEvent& event, const QString& why, platform::AppleEvent& reply);
     void setAttached(std::uint16_t productID);
-    void sendReport();
+    void setCalibrating(const QByteArray& panel);
+    void endCalibration(const QString& panel);
+    void wakeReports();
+    void sendDueReports();
+    void send(const PenReport& report);
+    ReportClock::Time now() const { return ReportClock::Time(mSinceStart.nsecsElapsed()); }
 
     platform::AppleEvents& mEvents;
+    QDBusConnection mBus;
     DriverState mState;
     QTimer mSaveSoon;
     std::uint32_t mStall = 0;
     QByteArray mCalibrating; ///< bus name of the panel whose last push said that it calibrates
-    std::deque<PenReport> mReports; ///< not sent yet
-    QTimer mSendReport;
+    QDBusServiceWatcher mPanels; ///< tells when that panel has gone
+    PenReports mReports;
+    ReportClock mClock;
+    QElapsedTimer mSinceStart;
+    QTimer mSendReports; ///< runs while there is something to report
 };
 
 /** Writes a line to standard output at once. */

@@ -64,9 +64,9 @@ int main(int argc, char* argv[])
     }
 
     platform::DBusAppleEvents events;
-    Driver driver(events);
-    TabletSimulator simulator(driver);
     QDBusConnection bus = events.connection();
+    Driver driver(events, bus);
+    TabletSimulator simulator(driver);
     bus.registerObject(QLatin1String(TabletSimulator::kObjectPath), &simulator,
         QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
     // Whoever does not get the name leaves the user's files alone. What arrives from here on waits

@@ -1,0 +1,99 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""The pen reports of the driver, as the panel gets them that asks for the pen."""
+
+import pathlib
+import signal
+import subprocess
+import unittest
+
+import session
+
+PANEL = pathlib.Path(session.__file__).with_name("peer_panel.py")
+REPORTS_OF_TAP = 6
+
+
+class PenReports(session.Session):
+    def start_panel(self, *words):
+        """Starts a panel that asks for the pen, and waits until it has said so."""
+        panel = self.start(["/usr/bin/python3", "-B", PANEL], stdin=subprocess.PIPE,
+                           stdout=subprocess.PIPE)
+        for expected in words or ("pushed", "calibrating"):
+            word, _, panel.name = panel.stdout.readline().split()
+            self.assertEqual(word, expected)
+        return panel
+
+    def tap(self, panel, count, x=1000, y=2000):
+        panel.stdin.write(f"tap {x} {y} {count}\n")
+        panel.stdin.flush()
+
+    def reports(self, panel, count):
+        """The next reports: key, x, y, and when each arrived, in seconds."""
+        for _ in range(count):
+            key, x, y, arrived = panel.stdout.readline().split()
+            yield int(key), int(x), int(y), int(arrived) / 1e9
+
+    def try_tap(self):
+        """Whether the driver takes a tap."""
+        return self.ctl("sim", "tap", 5, 5).returncode == 0
+
+    def test_a_tap_is_five_reports_and_a_lift(self):
+        self.start_driver()
+        panel = self.start_panel()
+        self.tap(panel, 1)
+        told = [report[:3] for report in self.reports(panel, REPORTS_OF_TAP)]
+        self.assertEqual(told, [(1, 1000, 2000)] * 5 + [(0, 1000, 2000)])
+
+    def test_the_report_rate_is_true_on_average(self):
+        self.start_driver()
+        panel = self.start_panel()
+        # In whole milliseconds these would be 1000, 333 and 142 reports in a second.
+        for rate, taps in ((1000, 400), (700, 280), (300, 120), (140, 56)):
+            with self.subTest(rate):
+                self.simulator("SetReportRate", "u", str(rate))
+                self.tap(panel, taps)
+                arrived = [when for *_, when in self.reports(panel, taps * REPORTS_OF_TAP)]
+                measured = (len(arrived) - 1) / (arrived[-1] - arrived[0])
+                self.assertAlmostEqual(measured / rate, 1, delta=0.03)
+
+    def test_stops_when_the_panel_dies(self):
+        driver = self.start_driver()
+        self.simulator("SetReportRate", "u", "10")
+        panel = self.start_panel()
+        self.tap(panel, 20)
+        list(self.reports(panel, 3))
+        panel.send_signal(signal.SIGKILL)
+        panel.wait()
+        session.wait_for(lambda: not self.try_tap(), "the driver's notice")
+        self.assertIn("nobody asks for the pen", self.ctl("sim", "tap", 5, 5).stderr)
+        # What was not sent to the dead panel does not go to the next one.
+        panel = self.start_panel()
+        self.tap(panel, 1, 7, 8)
+        told = [report[:3] for report in self.reports(panel, REPORTS_OF_TAP)]
+        self.assertEqual(told, [(1, 7, 8)] * 5 + [(0, 7, 8)])
+        said = self.stop_driver(driver)
+        self.assertEqual(sum("has gone while it calibrated" in line for line in said), 1, said)
+
+    def test_notices_a_panel_that_died_while_its_push_was_waiting(self):
+        driver = self.start_driver()
+        self.simulator("Stall", "u", "1500")
+        panel = self.start_panel("pushed")
+        panel.send_signal(signal.SIGKILL)
+        panel.wait()
+        session.wait_for(lambda: self.simulator("Pushes") == ["u", "1"], "the push")
+        session.wait_for(lambda: not self.try_tap(), "the driver's notice")
+        self.assertIn(f"{panel.name} has gone while it calibrated", self.stop_driver(driver))
+
+    def test_a_panel_that_only_ends_is_noticed_too(self):
+        driver = self.start_driver()
+        panel = self.start_panel()
+        self.assertTrue(self.try_tap())
+        panel.stdin.write("end\n")
+        panel.stdin.flush()
+        panel.wait(timeout=20)
+        session.wait_for(lambda: not self.try_tap(), "the driver's notice")
+        self.assertIn(f"{panel.name} has gone while it calibrated", self.stop_driver(driver))
+
+
+if __name__ == "__main__":
+    unittest.main()
