@@ -19,7 +19,7 @@ class PenReports(session.Session):
         panel = self.start(["/usr/bin/python3", "-B", PANEL], stdin=subprocess.PIPE,
                            stdout=subprocess.PIPE)
         for expected in words or ("pushed", "calibrating"):
-            word, _, panel.name = panel.stdout.readline().split()
+            word, _, panel.name = session.read_line(panel.stdout, expected).split()
             self.assertEqual(word, expected)
         return panel
 
@@ -30,7 +30,7 @@ class PenReports(session.Session):
     def reports(self, panel, count):
         """The next reports: key, x, y, and when each arrived, in seconds."""
         for _ in range(count):
-            key, x, y, arrived = panel.stdout.readline().split()
+            key, x, y, arrived = session.read_line(panel.stdout, "a report").split()
             yield int(key), int(x), int(y), int(arrived) / 1e9
 
     def try_tap(self):

@@ -35,6 +35,23 @@ def wait_for(condition, what, seconds=20):
         time.sleep(0.02)
 
 
+def read_line(pipe, what, seconds=20):
+    """Waits for the next line of a program; gives it without its end."""
+    def give_up(*_):
+        raise AssertionError(f"waited in vain for {what}")
+
+    before = signal.signal(signal.SIGALRM, give_up)
+    signal.alarm(seconds)
+    try:
+        line = pipe.readline()
+    finally:
+        signal.alarm(0)
+        signal.signal(signal.SIGALRM, before)
+    if not line:
+        raise AssertionError(f"the program ended before {what}")
+    return line.rstrip("\n")
+
+
 class Session(unittest.TestCase):
     """Each test has a bus, a home and the environment of a user of its own."""
 
