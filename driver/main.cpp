@@ -4,14 +4,21 @@
 #include "Driver.h"
 #include "QVTabletModels.h"
 #include "TabletSimulator.h"
+#include "TabletWindow.h"
 #include "UnixSignals.h"
 #include "rzkApplication.h"
 
+#include <QApplication>
 #include <QCommandLineParser>
-#include <QCoreApplication>
+#include <QIcon>
 
+#include <algorithm>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
+#include <memory>
+#include <span>
+#include <string_view>
 
 namespace {
 
@@ -23,11 +30,54 @@ int fail(const QString& why)
     return kFailure;
 }
 
+/** Whether the words ask for a window, and not only for something to be printed. */
+bool wantsWindow(std::span<char*> words)
+{
+    bool isWanted = false;
+    for (const char* const word : words) {
+        const std::string_view text(word);
+        if (text == "--list" || text == "--help" || text == "-h" || text == "--help-all"
+            || text == "--version" || text == "-v") {
+            return false;
+        }
+        isWanted = isWanted || text == "--window";
+    }
+    return isWanted;
+}
+
+/** Qt ends a program that finds no display with abort(), which looks like a fault of its own. */
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    static_cast<void>(context);
+    if (type == QtFatalMsg) {
+        fail(QStringLiteral("there is no display to open a window on"));
+        std::_Exit(kFailure);
+    }
+    std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+}
+
+/** With windows only where one is wanted, since the bus starts the driver also without a display.
+ */
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, bool hasWindow)
+{
+    if (!hasWindow) {
+        return std::make_unique<QCoreApplication>(argc, argv);
+    }
+    const QtMessageHandler before = qInstallMessageHandler(endWithoutDisplay);
+    auto application = std::make_unique<QApplication>(argc, argv);
+    qInstallMessageHandler(before);
+    QGuiApplication::setQuitOnLastWindowClosed(false); // the window says itself what it ends
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.quorvia.tdsg-driver"));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("input-tablet")));
+    return application;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    QCoreApplication application(argc, argv);
+    const bool hasWindow = wantsWindow({argv + 1, argv + std::max(argc, 1)});
+    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, hasWindow);
     QCoreApplication::setApplicationName(QStringLiteral("tdsg-driver"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QVTBLT_VERSION));
 
@@ -43,8 +93,11 @@ int main(int argc, char* argv[])
         QStringLiteral("ID"));
     const QCommandLineOption listOption(
         QStringLiteral("list"), QStringLiteral("List the models and end."));
-    parser.addOptions({attachOption, listOption});
-    parser.process(application);
+    const QCommandLineOption windowOption(QStringLiteral("window"),
+        QStringLiteral("Show the simulated tablet in a window, to be touched with the mouse or the "
+                       "keyboard. Closing the window ends the driver."));
+    parser.addOptions({attachOption, listOption, windowOption});
+    parser.process(*application);
 
     if (parser.isSet(listOption)) {
         for (const QVTabletModel& model : kQVTabletModels) {
@@ -81,16 +134,24 @@ int main(int argc, char* argv[])
     say(QStringLiteral("ready"));
 
     const platform::UnixSignals signals({SIGTERM, SIGINT, SIGHUP});
-    QObject::connect(&signals, &platform::UnixSignals::received, &application, [&] {
+    const auto end = [] {
         // What has already arrived is handled before the driver goes.
         QCoreApplication::processEvents();
         QCoreApplication::quit();
-    });
+    };
+    QObject::connect(&signals, &platform::UnixSignals::received, application.get(), end);
     // Without its bus, nobody can reach the driver any more.
     bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
-        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), &application,
-        SLOT(quit()));
-    const int result = QCoreApplication::exec();
+        QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
+        application.get(), SLOT(quit()));
+    std::unique_ptr<TabletWindow> window;
+    if (hasWindow) {
+        window = std::make_unique<TabletWindow>(driver);
+        QObject::connect(
+            window.get(), &TabletWindow::closed, application.get(), end, Qt::QueuedConnection);
+        window->show();
+    }
+    const int result = hasWindow ? QApplication::exec() : QCoreApplication::exec();
     driver.saveState();
     say(QStringLiteral("ended"));
     return result;

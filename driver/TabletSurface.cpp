@@ -1,0 +1,256 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "TabletSurface.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr qreal kMargin = 3; ///< around the surface, for the frame that shows the focus
+constexpr qreal kRing = 6; ///< radius of the ring around the pen
+constexpr int kLargeSteps = 10;
+
+QVTabletPoint middle(const QVTabletArea& range)
+{
+    return {static_cast<std::uint16_t>((range.xmin + range.xmax) / 2),
+        static_cast<std::uint16_t>((range.ymin + range.ymax) / 2)};
+}
+
+QPointF placeOf(const QMouseEvent& event)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    return event.position();
+#else
+    return event.localPos();
+#endif
+}
+
+/** A place in the middle of a pixel, so that a thin line covers one. */
+qreal crisp(qreal place)
+{
+    return std::floor(place) + 0.5;
+}
+
+} // namespace
+
+TabletSurface::TabletSurface(QWidget* parent)
+    : QWidget(parent)
+{
+    setAccessibleName(QStringLiteral("Surface"));
+    setAccessibleDescription(
+        QStringLiteral("The tablet's surface. Press the mouse here to touch it with the pen. The "
+                       "arrow keys move the pen, with Shift in large steps; the space bar holds "
+                       "it down."));
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setCursor(Qt::CrossCursor);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+}
+
+void TabletSurface::setTablet(const QVTabletArea& range)
+{
+    mHeldBy = Holder::Nobody; // a tablet that is pulled out reports no lift
+    if (mRange != range) {
+        mRange = range;
+        mPen = middle(range);
+    }
+    updateGeometry();
+    update();
+    Q_EMIT penChanged();
+}
+
+void TabletSurface::setRange(const QVTabletArea& range)
+{
+    if (mRange != range) {
+        mRange = range;
+        updateGeometry();
+        movePen(moved(mPen, 0, 0, range));
+    }
+}
+
+void TabletSurface::setMapped(const std::optional<QVTabletArea>& area)
+{
+    mMapped = area;
+    update();
+}
+
+void TabletSurface::showPen(const QVTabletPoint& pen)
+{
+    if (!isPenDown()) {
+        movePen(pen);
+    }
+}
+
+QRectF TabletSurface::surface() const
+{
+    return surfaceRect(QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin), mRange);
+}
+
+QSize TabletSurface::sizeHint() const
+{
+    constexpr int kWidth = 480;
+    return {kWidth, kWidth * (mRange.ymax - mRange.ymin) / std::max(mRange.xmax - mRange.xmin, 1)};
+}
+
+QSize TabletSurface::minimumSizeHint() const
+{
+    return sizeHint() / 3;
+}
+
+void TabletSurface::paintEvent(QPaintEvent* event)
+{
+    static_cast<void>(event);
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QRectF outer = surface();
+    const QRectF sheet(QPointF(crisp(outer.left()), crisp(outer.top())),
+        QPointF(crisp(outer.right() - 1), crisp(outer.bottom() - 1)));
+    painter.setPen(QPen(palette().color(QPalette::Mid), 1));
+    painter.setBrush(palette().base());
+    painter.drawRect(sheet);
+    if (hasFocus()) {
+        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(sheet.adjusted(-2, -2, 2, 2));
+    }
+    painter.setClipRect(outer);
+    const QRectF mapped = mMapped ? areaRect(*mMapped, outer, mRange).intersected(sheet) : QRectF();
+    if (!mapped.isEmpty()) {
+        QColor color = palette().color(QPalette::Highlight);
+        painter.setPen(QPen(color, 2));
+        color.setAlphaF(0.12F);
+        painter.setBrush(color);
+        painter.drawRect(mapped.adjusted(1, 1, -1, -1));
+    }
+    const QPointF pen = toPlace(mPen, outer, mRange);
+    QColor text = palette().color(QPalette::Text);
+    QColor line = text;
+    line.setAlphaF(0.45F);
+    painter.setPen(QPen(line, 1));
+    painter.drawLine(QPointF(outer.left(), crisp(pen.y())), QPointF(outer.right(), crisp(pen.y())));
+    painter.drawLine(QPointF(crisp(pen.x()), outer.top()), QPointF(crisp(pen.x()), outer.bottom()));
+    painter.setPen(QPen(text, 1.5));
+    painter.setBrush(isPenDown() ? QBrush(text) : QBrush(Qt::NoBrush));
+    painter.drawEllipse(pen, kRing, kRing);
+}
+
+void TabletSurface::mousePressEvent(QMouseEvent* event)
+{
+    if (event->button() != Qt::LeftButton || isPenDown() || !surface().contains(placeOf(*event))) {
+        return;
+    }
+    movePen(toTablet(placeOf(*event), surface(), mRange));
+    hold(Holder::Mouse);
+}
+
+void TabletSurface::mouseMoveEvent(QMouseEvent* event)
+{
+    if (mHeldBy != Holder::SpaceBar) {
+        movePen(toTablet(placeOf(*event), surface(), mRange));
+    }
+}
+
+void TabletSurface::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (event->button() == Qt::LeftButton) {
+        mouseMoveEvent(event);
+        release(Holder::Mouse);
+    }
+}
+
+void TabletSurface::keyPressEvent(QKeyEvent* event)
+{
+    const int steps = event->modifiers().testFlag(Qt::ShiftModifier) ? kLargeSteps : 1;
+    int right = 0;
+    int down = 0;
+    switch (event->key()) {
+    case Qt::Key_Left:
+        right = -steps;
+        break;
+    case Qt::Key_Right:
+        right = steps;
+        break;
+    case Qt::Key_Up:
+        down = -steps;
+        break;
+    case Qt::Key_Down:
+        down = steps;
+        break;
+    case Qt::Key_Space:
+        if (!event->isAutoRepeat() && !isPenDown()) {
+            hold(Holder::SpaceBar);
+        }
+        return;
+    default:
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (mHeldBy != Holder::Mouse) {
+        movePen(moved(mPen, right, down, mRange));
+    }
+}
+
+void TabletSurface::keyReleaseEvent(QKeyEvent* event)
+{
+    if (event->key() != Qt::Key_Space) {
+        QWidget::keyReleaseEvent(event);
+    } else if (!event->isAutoRepeat()) {
+        release(Holder::SpaceBar);
+    }
+}
+
+void TabletSurface::focusInEvent(QFocusEvent* event)
+{
+    QWidget::focusInEvent(event);
+    update();
+}
+
+void TabletSurface::focusOutEvent(QFocusEvent* event)
+{
+    QWidget::focusOutEvent(event);
+    release(Holder::SpaceBar); // its release goes elsewhere
+    update();
+}
+
+void TabletSurface::hideEvent(QHideEvent* event)
+{
+    QWidget::hideEvent(event);
+    release(mHeldBy);
+}
+
+void TabletSurface::hold(Holder holder)
+{
+    mHeldBy = holder;
+    update();
+    Q_EMIT penDown(mPen.x, mPen.y);
+    Q_EMIT penChanged();
+}
+
+void TabletSurface::release(Holder holder)
+{
+    if (holder == Holder::Nobody || mHeldBy != holder) {
+        return;
+    }
+    mHeldBy = Holder::Nobody;
+    update();
+    Q_EMIT penUp();
+    Q_EMIT penChanged();
+}
+
+void TabletSurface::movePen(const QVTabletPoint& pen)
+{
+    if (pen.x == mPen.x && pen.y == mPen.y) {
+        return;
+    }
+    mPen = pen;
+    update();
+    if (isPenDown()) {
+        Q_EMIT penDragged(pen.x, pen.y);
+    }
+    Q_EMIT penChanged();
+}

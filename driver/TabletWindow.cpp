@@ -1,0 +1,363 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "TabletWindow.h"
+
+#include "ActionText.h"
+#include "Driver.h"
+#include "QVTabletModels.h"
+#include "TabletSurface.h"
+
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFormLayout>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QScreen>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QWindow>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <vector>
+
+namespace {
+
+constexpr std::size_t kPenUpper = 16;
+constexpr int kKeyWidth = 48;
+constexpr int kKeyHeight = 40; ///< at most
+constexpr int kStripHeight = 80; ///< at most
+constexpr int kGroupGap = 12;
+constexpr QSize kUsualSize{620, 580};
+
+/** How the keys of a layout lie one below the other; a 0 stands for the strip. */
+std::vector<int> keyGroups(QVKeyLayout layout)
+{
+    switch (layout) {
+    case QVKeyLayout::A:
+    case QVKeyLayout::G:
+        return {4, 0, 4};
+    case QVKeyLayout::C:
+    case QVKeyLayout::D:
+        return {4};
+    case QVKeyLayout::E:
+        return {5};
+    case QVKeyLayout::F:
+        return {3, 1, 3};
+    case QVKeyLayout::B:
+    case QVKeyLayout::H:
+        break;
+    }
+    return {};
+}
+
+QLabel* valueLabel(QFormLayout& form, const QString& name)
+{
+    auto* const value = new QLabel;
+    value->setWordWrap(true);
+    form.addRow(name, value);
+    return value;
+}
+
+QToolButton* keyButton(const QString& text, const QString& name)
+{
+    auto* const button = new QToolButton;
+    button->setText(text);
+    button->setAccessibleName(name);
+    button->setFocusPolicy(Qt::StrongFocus);
+    return button;
+}
+
+/** Of the settings' screen area, which counts from the main display's upper left corner. */
+QRect screenArea(const tagQVTabletInfo& settings)
+{
+    const QScreen* const main = QGuiApplication::primaryScreen();
+    const QRect area(settings.Monitor.XOrg, settings.Monitor.YOrg, settings.Monitor.Width,
+        settings.Monitor.Height);
+    return main == nullptr ? area : area.translated(main->geometry().topLeft());
+}
+
+} // namespace
+
+TabletWindow::TabletWindow(Driver& driver)
+    : mDriver(driver)
+    , mModels(new QComboBox)
+    , mTablet(new QWidget)
+    , mSurface(new TabletSurface(mTablet))
+    , mNoTablet(new QLabel)
+    , mBody(new QHBoxLayout)
+    , mBelow(new QVBoxLayout)
+{
+    mModels->setAccessibleName(QStringLiteral("Tablet"));
+    mModels->setAccessibleDescription(QStringLiteral("The model that is attached."));
+    mModels->addItem(QStringLiteral("No tablet"), 0);
+    for (const QVTabletModel& known : kQVTabletModels) {
+        mModels->addItem(QString::fromUtf8(known.name), known.productID);
+    }
+    auto* const label = new QLabel(QStringLiteral("&Tablet:"));
+    label->setBuddy(mModels);
+    auto* const chooser = new QHBoxLayout;
+    chooser->addWidget(label);
+    chooser->addWidget(mModels);
+    chooser->addStretch();
+
+    auto* const body = new QFrame;
+    body->setFrameShape(QFrame::StyledPanel);
+    body->setLayout(mBody);
+    mBody->addWidget(mSurface, 1);
+    auto* const form = new QFormLayout;
+    form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    mPen = valueLabel(*form, QStringLiteral("Pen:"));
+    mListening = valueLabel(*form, QStringLiteral("Panel:"));
+    mMapped = valueLabel(*form, QStringLiteral("Frame:"));
+    mTold = valueLabel(*form, QStringLiteral("Pressed:"));
+    mBelow->addLayout(form);
+    auto* const tablet = new QVBoxLayout(mTablet);
+    tablet->setContentsMargins(0, 0, 0, 0);
+    tablet->addWidget(body, 1);
+    tablet->addLayout(mBelow);
+    mNoTablet->setAlignment(Qt::AlignCenter);
+    mNoTablet->setWordWrap(true);
+    mNoTablet->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
+
+    auto* const layout = new QVBoxLayout(this);
+    layout->addLayout(chooser);
+    layout->addWidget(mTablet, 1);
+    layout->addWidget(mNoTablet, 1);
+
+    connect(mModels, qOverload<int>(&QComboBox::activated), this, &TabletWindow::choose);
+    connect(mSurface, &TabletSurface::penDown, &mDriver, &Driver::penDown);
+    connect(mSurface, &TabletSurface::penDragged, &mDriver, &Driver::penMove);
+    connect(mSurface, &TabletSurface::penUp, &mDriver, &Driver::penUp);
+    connect(mSurface, &TabletSurface::penChanged, this, &TabletWindow::showPen);
+    connect(&mDriver, &Driver::attachedChanged, this, &TabletWindow::showModel);
+    connect(&mDriver, &Driver::pushed, this, &TabletWindow::showSettings);
+    connect(&mDriver, &Driver::calibratingChanged, this, &TabletWindow::showListening);
+    connect(&mDriver, &Driver::tapped, mSurface, [this](ushort x, ushort y) {
+        mSurface->showPen({x, y});
+    });
+    showModel();
+    showListening();
+    mSurface->setFocus();
+    resize(kUsualSize.boundedTo(screen()->availableSize() * 0.9));
+}
+
+void TabletWindow::closeEvent(QCloseEvent* event)
+{
+    event->accept();
+    Q_EMIT closed();
+}
+
+const QVTabletModel* TabletWindow::model() const
+{
+    return QVFindModel(mDriver.attached());
+}
+
+std::optional<tagQVTabletInfo> TabletWindow::settings() const
+{
+    const QByteArray record = mDriver.lastRecord();
+    if (record.size() != kQVRecordSize) {
+        return std::nullopt;
+    }
+    tagQVTabletInfo settings{};
+    std::memcpy(&settings, record.constData(), sizeof settings);
+    if (static_cast<std::uint16_t>(settings.Basic.ProductID) != mDriver.attached()) {
+        return std::nullopt;
+    }
+    return settings;
+}
+
+void TabletWindow::choose()
+{
+    const auto productID = static_cast<std::uint16_t>(mModels->currentData().toUInt());
+    if (productID == 0) {
+        mDriver.detach();
+        return;
+    }
+    const QString error = mDriver.attach(productID);
+    if (!error.isEmpty()) {
+        say(error);
+        showModel();
+        mTold->setText(error);
+        mNoTablet->setText(error);
+    }
+}
+
+void TabletWindow::showModel()
+{
+    const QVTabletModel* const attached = model();
+    mModels->setCurrentIndex(mModels->findData(mDriver.attached()));
+    setWindowTitle(attached == nullptr
+            ? QStringLiteral("Virtual tablet")
+            : QStringLiteral("Virtual tablet: %1").arg(QString::fromUtf8(attached->name)));
+    mNoTablet->setText(QStringLiteral("No tablet is attached. Choose one above."));
+    mNoTablet->setVisible(attached == nullptr);
+    mTablet->setVisible(attached != nullptr);
+    delete mKeys;
+    mKeys = nullptr;
+    delete mPenButtons;
+    mPenButtons = nullptr;
+    if (attached == nullptr) {
+        mSurface->setTablet(mSurface->range());
+        return;
+    }
+    addKeys(*attached);
+    addPenButtons(*attached);
+    mTold->setText(QStringLiteral("no key yet; press one to see what it does"));
+    const std::optional<tagQVTabletInfo> known = settings();
+    mSurface->setTablet(tabletRange(*attached, known ? &*known : nullptr));
+    showSettings();
+}
+
+void TabletWindow::addKeys(const QVTabletModel& model)
+{
+    const std::vector<int> groups = keyGroups(model.layout);
+    if (groups.empty()) {
+        return;
+    }
+    mKeys = new QWidget;
+    auto* const column = new QVBoxLayout(mKeys);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(4);
+    column->addStretch();
+    int key = 0;
+    for (const int count : groups) {
+        if (column->count() > 1) {
+            column->addSpacing(kGroupGap);
+        }
+        if (count == 0 && model.scrollNum > 0) {
+            addStrip(0);
+        }
+        for (int i = 0; i < count && key < model.keyNum; ++i, ++key) {
+            const QString number = QString::number(key + 1);
+            addButton(*column, number, QStringLiteral("Key %1").arg(number),
+                static_cast<std::size_t>(key));
+        }
+    }
+    column->addStretch();
+    mBody->insertWidget(0, mKeys);
+}
+
+void TabletWindow::addPenButtons(const QVTabletModel& model)
+{
+    mPenButtons = new QWidget;
+    auto* const row = new QHBoxLayout(mPenButtons);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addStretch();
+    static constexpr std::array kNames{"Upper pen button", "Lower pen button"};
+    for (std::size_t i = 0; i < std::min<std::size_t>(model.penButtons, kNames.size()); ++i) {
+        const QString name = QString::fromLatin1(kNames[i]);
+        addButton(*row, name, name, kPenUpper + i);
+    }
+    row->addStretch();
+    mBelow->insertWidget(0, mPenButtons);
+}
+
+void TabletWindow::addButton(
+    QLayout& layout, const QString& text, const QString& name, std::size_t slot)
+{
+    QToolButton* const button = keyButton(text, name);
+    if (slot < kPenUpper) {
+        button->setMinimumWidth(kKeyWidth);
+        button->setMaximumHeight(kKeyHeight);
+        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    }
+    connect(button, &QToolButton::pressed, this, [this, name, slot] {
+        const std::optional<tagQVTabletInfo> known = settings();
+        tell(name, known ? actionText(known->Key.SubKey[slot]) : QString());
+    });
+    layout.addWidget(button);
+}
+
+void TabletWindow::addStrip(std::size_t strip)
+{
+    const QString name =
+        strip == 0 ? QStringLiteral("Left scroll strip") : QStringLiteral("Right scroll strip");
+    QToolButton* const button = keyButton(QStringLiteral("\u2261"), name);
+    button->setMinimumWidth(kKeyWidth);
+    button->setMinimumHeight(kKeyHeight);
+    button->setMaximumHeight(kStripHeight);
+    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+    connect(button, &QToolButton::pressed, this, [this, name, strip] {
+        const std::optional<tagQVTabletInfo> known = settings();
+        QString action;
+        if (known) {
+            action = stripText(
+                strip == 0 ? known->Key.Scrollbar0 : known->Key.Scrollbar1, known->Key.ScrollSpeed);
+        }
+        tell(name, action);
+    });
+    mKeys->layout()->addWidget(button);
+}
+
+void TabletWindow::tell(const QString& name, const QString& action)
+{
+    mTold->setText(QStringLiteral("%1: %2").arg(name,
+        action.isEmpty() ? QStringLiteral("not known before the panel sends its settings")
+                         : action));
+}
+
+void TabletWindow::showSettings()
+{
+    const QVTabletModel* const attached = model();
+    if (attached == nullptr) {
+        return;
+    }
+    const std::optional<tagQVTabletInfo> known = settings();
+    mSurface->setRange(tabletRange(*attached, known ? &*known : nullptr));
+    if (!known) {
+        mSurface->setMapped(std::nullopt);
+        mMapped->setText(QStringLiteral("not known before the panel sends its settings"));
+        return;
+    }
+    const QVTabletArea mapped{known->Monitor.cTabletXmin, known->Monitor.cTabletXmax,
+        known->Monitor.cTabletYmin, known->Monitor.cTabletYmax};
+    mSurface->setMapped(mapped);
+    mMapped->setText(QStringLiteral("the part that covers the screen, x %1 to %2, y %3 to %4")
+                         .arg(mapped.xmin)
+                         .arg(mapped.xmax)
+                         .arg(mapped.ymin)
+                         .arg(mapped.ymax));
+}
+
+void TabletWindow::showListening()
+{
+    mListening->setText(mDriver.isCalibrating()
+            ? QStringLiteral("calibrating: it is told what the pen does")
+            : QStringLiteral("not calibrating: it is told nothing of the pen"));
+    liftAboveCalibration();
+}
+
+void TabletWindow::showPen()
+{
+    const QVTabletPoint& pen = mSurface->pen();
+    mPen->setText(QStringLiteral("%1 at %2, %3")
+                      .arg(mSurface->isPenDown() ? QStringLiteral("down") : QStringLiteral("up"))
+                      .arg(pen.x)
+                      .arg(pen.y));
+}
+
+void TabletWindow::liftAboveCalibration()
+{
+    if (windowHandle() == nullptr) {
+        return;
+    }
+    // The panel covers the display that it calibrates, and stays on top of it; with a single
+    // display there would be no way to this window.
+    const std::optional<tagQVTabletInfo> known = settings();
+    const bool isCovered =
+        mDriver.isCalibrating() && known && screenArea(*known).intersects(frameGeometry());
+    Qt::WindowFlags flags = windowFlags();
+    flags.setFlag(Qt::WindowStaysOnTopHint, isCovered);
+    if (flags == windowFlags()) {
+        return;
+    }
+    overrideWindowFlags(flags);
+    windowHandle()->setFlags(flags);
+    if (isCovered) {
+        raise();
+        activateWindow();
+    }
+}
