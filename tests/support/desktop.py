@@ -6,6 +6,7 @@ bus, through which a test finds what a person sees."""
 import json
 import os
 import pathlib
+import re
 import subprocess
 
 import session
@@ -79,6 +80,17 @@ class Desktop(session.Session):
             lambda: self.run_program("xdotool", "search", "--onlyvisible", "--name",
                                      title).stdout.split(), f"the window '{title}'")[0]
         self.xdotool("windowactivate", "--sync", window, "key", "alt+F4")
+
+    def pixels(self, x, y, width, height):
+        """The colours of a part of the screen, row by row, as #RRGGBB."""
+        result = self.run_program("import", "-silent", "-window", "root", "-crop",
+                                  f"{width}x{height}+{x}+{y}", "-depth", "8", "txt:-")
+        self.assertEqual(result.returncode, 0, result.stderr)
+        return re.findall("#[0-9A-F]{6}", result.stdout)
+
+    def pixel(self, x, y):
+        """The colour of a pixel of the screen."""
+        return self.pixels(x, y, 1, 1)[0]
 
     def screenshot(self, path):
         """Writes a picture of the whole screen."""

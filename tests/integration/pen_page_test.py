@@ -1,0 +1,135 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""The pen page as a person uses it: the slider bends the curve, the pad shows strokes at once."""
+
+import struct
+import subprocess
+import unittest
+
+import desktop
+import session
+
+BLACK, GREY, WHITE = "#000000", "#C0C0C0", "#FFFFFF"
+
+
+class PenPage(desktop.Desktop):
+    def setUp(self):
+        super().setUp()
+        self.start_driver()
+        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.click(self.find("qvtblt", "Pen", "page tab"))
+        self.pad = self.find("qvtblt", "Drawing pad")
+        self.curve = self.find("qvtblt", "Pressure curve")
+        self.slider = self.find("qvtblt", "Pressure, from light to heavy", "slider")
+
+    def threshold(self):
+        return struct.unpack_from("<h", self.record(), 283)[0]
+
+    def on_pad(self, x, y):
+        return self.pad["x"] + x, self.pad["y"] + y
+
+    def press_on_pad(self, *places):
+        """Presses at the first place and drags to the others; the button stays down."""
+        self.xdotool("mousemove", *self.on_pad(*places[0]), "mousedown", 1)
+        for place in places[1:]:
+            self.xdotool("mousemove", *self.on_pad(*place))
+
+    def wait_for_pixel(self, place, colour):
+        session.wait_for(lambda: self.pixel(*place) == colour, f"{colour} at {place}")
+
+    def test_a_stroke_appears_while_the_button_is_down_and_clear_wipes_it(self):
+        self.wait_for_pixel(self.on_pad(60, 60), GREY)
+        self.press_on_pad((20, 60), (30, 60), (100, 60))
+        self.wait_for_pixel(self.on_pad(60, 60), BLACK)
+        self.xdotool("mouseup", 1)
+        self.click(self.find("qvtblt", "Clear", "push button"))
+        self.wait_for_pixel(self.on_pad(60, 60), GREY)
+        self.wait_for_pixel(self.on_pad(0, 60), BLACK)  # the frame
+
+    def test_a_stroke_that_leaves_the_pad_ends_with_its_release(self):
+        self.press_on_pad((20, 60), (40, 60), (-30, 60))
+        self.xdotool("mouseup", 1)
+        self.xdotool("mousemove", *self.on_pad(100, 150))
+        self.press_on_pad((100, 150), (150, 150))
+        self.wait_for_pixel(self.on_pad(125, 150), BLACK)
+        self.assertEqual(self.pixel(*self.on_pad(60, 105)), GREY)
+
+    def test_a_stroke_outlives_another_window_above_it(self):
+        self.press_on_pad((20, 60), (30, 60), (100, 60))
+        self.xdotool("mouseup", 1)
+        self.wait_for_pixel(self.on_pad(60, 60), BLACK)
+        other = self.start(["xmessage", "-title", "above", "-geometry", "300x300", "above"])
+        window = session.wait_for(
+            lambda: self.run_program("xdotool", "search", "--name", "^above$").stdout.split(),
+            "the window above")[0]
+        self.xdotool("windowmove", window, *self.on_pad(-20, -20))
+        self.wait_for_pixel(self.on_pad(60, 90), WHITE)
+        other.kill()
+        self.wait_for_pixel(self.on_pad(60, 60), BLACK)
+
+    def drag_slider(self):
+        """From one end to the other, in steps; gives the driver's thresholds after each."""
+        left, right = self.slider["x"] + 8, self.slider["x"] + self.slider["width"] - 8
+        middle = self.slider["y"] + self.slider["height"] // 3
+        self.xdotool("mousemove", (left + right) // 2, middle, "mousedown", 1)
+        for x in [left - 40, *range(left, right, 3), right + 40]:
+            self.xdotool("mousemove", x, middle)
+            yield
+        self.xdotool("mouseup", 1)
+
+    def test_the_slider_pushes_every_value_and_bends_the_curve(self):
+        # What the curve is above, at a quarter of its width, is black there alone.
+        x, y, height = self.curve["x"], self.curve["y"], self.curve["height"]
+        quarter = self.curve["width"] // 4
+
+        def curve_at_quarter():
+            column = self.pixels(x + quarter, y + 2, 1, height - 4)
+            rows = [row for row, colour in enumerate(column, 2) if colour < "#606060"]
+            return height - sum(rows) / len(rows) if rows else None
+
+        pushes = [int(self.simulator("Pushes")[1])]
+        thresholds = []
+        for _ in self.drag_slider():
+            session.wait_for(lambda: self.record(), "a push")
+            thresholds.append(self.threshold())
+            pushes.append(int(self.simulator("Pushes")[1]))
+        session.wait_for(lambda: self.threshold() == 200, "the heavy end")
+        self.assertIn(0, thresholds)
+        self.assertEqual(sorted(thresholds[1:]), thresholds[1:])
+        self.assertGreater(len(set(thresholds)), 20)
+        self.assertGreater(pushes[-1] - pushes[0], 20)
+        self.assertAlmostEqual(curve_at_quarter(), 9, delta=2)
+        self.xdotool("key", "Home")
+        session.wait_for(lambda: self.threshold() == 0, "the light end")
+        self.assertAlmostEqual(curve_at_quarter(), 101, delta=3)
+
+    def test_the_slider_stays_smooth_while_the_driver_hangs(self):
+        self.simulator("Stall", "u", "60000")
+        self.run_program("busctl", "--user", "--timeout=1", "call", session.DRIVER_NAME,
+                         "/org/quorvia/AppleEvents", "org.quorvia.AppleEvents1", "Send",
+                         "uua(u(uv))", "0", "0", "0")
+        for _ in self.drag_slider():
+            pass
+        session.wait_for(
+            lambda: self.find("qvtblt", "Pressure, from light to heavy")["value"] == 2000,
+            "the slider's end", seconds=5)
+
+    def test_the_keyboard_reaches_everything(self):
+        self.xdotool("key", "alt+l")
+        session.wait_for(
+            lambda: self.find("qvtblt", "Pressure, from light to heavy")["focused"], "the slider")
+        self.xdotool("key", "Home", "Right", "Page_Up")
+        session.wait_for(lambda: self.record() and self.threshold() == 11, "eleven")
+        self.xdotool("key", "alt+w")
+        session.wait_for(
+            lambda: not self.find("qvtblt", "Width follows pressure", "check box")["checked"],
+            "the box")
+        self.press_on_pad((20, 60), (30, 60))
+        self.xdotool("mouseup", 1)
+        self.wait_for_pixel(self.on_pad(25, 60), BLACK)
+        self.xdotool("key", "alt+r")
+        self.wait_for_pixel(self.on_pad(25, 60), GREY)
+
+
+if __name__ == "__main__":
+    unittest.main()
