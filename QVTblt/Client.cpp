@@ -81,6 +81,11 @@ bool ConnectToDriver(const void* record, std::int32_t length)
     return true;
 }
 
+void PushQVTabletInfo()
+{
+    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+}
+
 bool controlUSBDev(std::uint8_t flag, std::uint16_t productID)
 {
     platform::Usb& service = platform::usb();

@@ -19,6 +19,9 @@
  */
 bool ConnectToDriver(const void* record, std::int32_t length);
 
+/** Pushes the whole record. */
+void PushQVTabletInfo();
+
 // The tablet itself, over USB -----------------------------------------------------------------
 
 /** The report mode's flag: fast is 1, normal is 0. */

@@ -117,12 +117,16 @@ void QVConfigStore::ReadQVConfigPlist()
     }
 }
 
-void QVConfigStore::WriteQVConfigPlist()
+std::string QVConfigStore::WriteQVConfigPlist()
 {
     platform::PropertyListError error;
-    if (!saveRecord(configPath(), error) && !error.missing) {
+    if (saveRecord(configPath(), error)) {
+        return {};
+    }
+    if (!error.missing) {
         qCWarning(lcStore, "%s", error.message.c_str());
     }
+    return error.message;
 }
 
 std::optional<platform::PropertyList> QVConfigStore::loadRecord(

@@ -25,8 +25,12 @@ public:
      */
     void ReadQVConfigPlist();
 
-    /** Saves the record's Pen, Monitor and Key sections into the file. */
-    void WriteQVConfigPlist();
+    /**
+     * Saves the record's Pen, Monitor and Key sections into the file.
+     *
+     * @return why it could not be, for people; empty on success
+     */
+    std::string WriteQVConfigPlist();
 
     /** Copies a slot's dictionary into slot i of the record, i from 0 to 17. */
     void GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);

@@ -89,5 +89,5 @@ void QVPressView::AdjustPressLine(const QSlider* sender)
     SetPoint(threshold);
     setNeedsDisplay();
     GetqvTabletInfo()->Pen.PressureThreshold = static_cast<std::int16_t>(threshold);
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+    PushQVTabletInfo();
 }

@@ -4,13 +4,16 @@
 
 #include "AppleEvents.h"
 #include "Client.h"
+#include "Notifications.h"
 #include "QVNSView.h"
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
 
+#include <QAccessible>
 #include <QCoreApplication>
 #include <QFontDatabase>
 
+#include <algorithm>
 #include <initializer_list>
 #include <memory>
 
@@ -37,6 +40,19 @@ QWidget* QVTblt_prefPanePref::makeMainView()
     setUpPenPage();
     setUpDisplayPage();
     connect(mSave, &QPushButton::clicked, this, &QVTblt_prefPanePref::SaveSet);
+    platform::NotificationCenter& center = platform::notifications();
+    center.addObserver(*this, platform::kSourceChangedNotification,
+        [this](const platform::Notification&) { followDriver(); });
+    center.addObserver(
+        *this, platform::kEventTakenNotification, [this](const platform::Notification&) {
+            mPushFailed = false;
+            showNotice();
+        });
+    center.addObserver(
+        *this, platform::kEventNotTakenNotification, [this](const platform::Notification&) {
+            mPushFailed = true;
+            showNotice();
+        });
     connect(mCancel, &QPushButton::clicked, this, &QVTblt_prefPanePref::CancelSet);
     return view.release();
 }
@@ -75,8 +91,9 @@ void QVTblt_prefPanePref::willSelect()
     const bool hasDevice = rzkgetQVDevice();
     tabView->setVisible(hasDevice);
     NoDevTitle->setVisible(!hasDevice);
+    NoDevHelp->setVisible(!hasDevice);
     // Without a tablet there is nothing to name, to save or to cancel.
-    for (QWidget* const control : std::initializer_list<QWidget*>{mSoft, mSave, mCancel}) {
+    for (QWidget* const control : std::initializer_list<QWidget*>{mSoft, mNotice, mSave, mCancel}) {
         control->setVisible(hasDevice);
     }
     if (!hasDevice) {
@@ -122,6 +139,60 @@ void QVTblt_prefPanePref::showNoDevice()
     NoDevTitle->setText(rzkBundle.localizedString(
         QStringLiteral("NoDevice"), QString(), QStringLiteral("InfoPlist")));
     platform::sizeToFit(*NoDevTitle);
+    placeNoDeviceHelp();
+}
+
+void QVTblt_prefPanePref::placeNoDeviceHelp()
+{
+    // Under the label, but never out of sight, where that may have gone.
+    constexpr double kMargin = 12;
+    constexpr double kGap = 8;
+    const QWidget& view = *NoDevHelp->parentWidget();
+    platform::Rect place = platform::frame(*NoDevTitle);
+    place.width = view.width() - 2 * kMargin;
+    place.height = NoDevHelp->heightForWidth(static_cast<int>(place.width));
+    place.x = kMargin;
+    place.y = std::max(place.y - kGap - place.height, kMargin);
+    platform::setFrame(*NoDevHelp, place);
+}
+
+void QVTblt_prefPanePref::followDriver()
+{
+    if (mainView() == nullptr || !mainView()->isVisible()) {
+        return;
+    }
+    if (NoDevTitle->isHidden()) {
+        if (mPushFailed) {
+            PushQVTabletInfo(); // the driver that has come does not know of it
+        }
+    } else if (rzkgetQVDevice()) {
+        willSelect();
+        didSelect();
+    }
+}
+
+void QVTblt_prefPanePref::save()
+{
+    mSaveError = WriteQVConfigPlist();
+    showNotice();
+}
+
+void QVTblt_prefPanePref::showNotice()
+{
+    if (mNotice == nullptr) {
+        return; // the main view has gone before the pane
+    }
+    QString text;
+    if (!mSaveError.empty()) {
+        text = tr("The settings are not saved: %1").arg(QString::fromStdString(mSaveError));
+    } else if (mPushFailed) {
+        text = tr("The tablet's driver has not taken the last change. Is it running?");
+    }
+    if (text != mNotice->text()) {
+        mNotice->setText(text);
+        QAccessibleEvent event(mNotice, QAccessible::Alert);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 void QVTblt_prefPanePref::didSelect()
@@ -133,7 +204,7 @@ void QVTblt_prefPanePref::willUnselect()
 {
     // The driver must not be left waiting for points that nobody asks for.
     mMonitorView->endCalibration();
-    WriteQVConfigPlist();
+    save();
 }
 
 void QVTblt_prefPanePref::didUnselect()
@@ -146,8 +217,8 @@ void QVTblt_prefPanePref::didUnselect()
 void QVTblt_prefPanePref::SaveSet()
 {
     takeScrollBoxes();
-    WriteQVConfigPlist();
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+    save();
+    PushQVTabletInfo();
 }
 
 void QVTblt_prefPanePref::CancelSet()
@@ -155,5 +226,5 @@ void QVTblt_prefPanePref::CancelSet()
     ReadQVConfigPlist();
     mPressView->setNeedsDisplay();
     mMonitorView->setNeedsDisplay();
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+    PushQVTabletInfo();
 }

@@ -14,6 +14,7 @@
 #include <array>
 #include <cstdint>
 #include <optional>
+#include <string>
 
 class QVKeyComboBox;
 class QVKeySetClass;
@@ -84,6 +85,10 @@ private:
 
     void showModel();
     void showNoDevice();
+    void placeNoDeviceHelp();
+    void save();
+    void showNotice();
+    void followDriver();
     void takeScrollBoxes();
 
     void setUpDisplayPage();
@@ -94,6 +99,8 @@ private:
     void takeApplication(QVKeyComboBox& comboBox, tagQVTabletInfoSubKey& slot);
     void askForKeys(QVKeyComboBox& comboBox);
 
+    bool mPushFailed = false; ///< the driver has not taken the latest push
+    std::string mSaveError; ///< why the latest save failed; empty when it did not
     QTranslator mTranslator; ///< of the panel's own texts
     QVKeySetClass* mKeyset = nullptr; ///< belongs to the main view
     QString mFileName; ///< path of the application last chosen

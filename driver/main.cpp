@@ -120,6 +120,8 @@ int main(int argc, char* argv[])
     QDBusConnection bus = events.connection();
     Driver driver(events, bus);
     TabletSimulator simulator(driver);
+    QObject::connect(&driver, &Driver::attachedChanged, application.get(),
+        [&events] { events.announceChange(); });
     bus.registerObject(QLatin1String(TabletSimulator::kObjectPath), &simulator,
         QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
     // Whoever does not get the name leaves the user's files alone. What arrives from here on waits

@@ -21,6 +21,7 @@ namespace platform::wire {
 inline constexpr auto kObjectPath = "/org/quorvia/AppleEvents";
 inline constexpr auto kInterface = "org.quorvia.AppleEvents1";
 inline constexpr auto kSendMethod = "Send";
+inline constexpr auto kChangedSignal = "Changed";
 inline constexpr auto kEventNotHandled = "org.quorvia.AppleEvents.Error.EventNotHandled";
 inline constexpr auto kCoercionFail = "org.quorvia.AppleEvents.Error.CoercionFail";
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QString>
 
 #include <cstddef>
 #include <cstdint>
@@ -88,6 +89,14 @@ inline constexpr AESendPriority kAEHighPriority = 1;
 /** Ticks in one second. */
 inline constexpr std::int32_t kTicksPerSecond = 60;
 
+/**
+ * Notifications, without an object: the application whose events are accepted has come, or says
+ * that it would now answer otherwise; an event that was sent without a reply was taken, or was not.
+ */
+inline constexpr QLatin1String kSourceChangedNotification("kSourceChangedNotification");
+inline constexpr QLatin1String kEventTakenNotification("kEventTakenNotification");
+inline constexpr QLatin1String kEventNotTakenNotification("kEventNotTakenNotification");
+
 struct AEDesc;
 struct AEKeyDesc;
 using AEList = std::vector<AEDesc>;
@@ -169,7 +178,8 @@ public:
      *
      * With a reply to fill, waits for it without running the user interface, for at most the
      * time-out. Without one, the event is queued behind those sent before, the caller goes on at
-     * once, and the time-out only bounds the call on the bus; the answer shows in finishSends().
+     * once, and the time-out only bounds the call on the bus; what became of it shows in
+     * finishSends(), and is posted as a notification.
      *
      * @param timeOut in ticks
      */

@@ -3,6 +3,7 @@
 #include "DBusAppleEvents.h"
 
 #include "AppleEventWire.h"
+#include "Notifications.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusError>
@@ -95,6 +96,8 @@ int milliseconds(std::int32_t ticks)
 
 /** The object on the bus, and everything that lives as long as one connection. */
 class DBusAppleEvents::Private final : public QDBusVirtualObject {
+    Q_OBJECT
+
 public:
     Private()
         : mName(QStringLiteral("org.quorvia.AppleEvents-%1").arg(reinterpret_cast<quintptr>(this)))
@@ -123,7 +126,7 @@ public:
                               "<arg name=\"eventID\" type=\"u\" direction=\"in\"/>"
                               "<arg name=\"parameters\" type=\"a(u(uv))\" direction=\"in\"/>"
                               "<arg name=\"reply\" type=\"a(u(uv))\" direction=\"out\"/>"
-                              "</method></interface>");
+                              "</method><signal name=\"Changed\"/></interface>");
     }
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override
@@ -161,7 +164,13 @@ public:
             [this](const QString&, const QString&, const QString& owner) {
                 mOwner = owner;
                 mRefused.clear();
+                if (!owner.isEmpty()) {
+                    noteChange();
+                }
             });
+        mConnection->connect(wire::busName(*mSource), QLatin1String(wire::kObjectPath),
+            QLatin1String(wire::kInterface), QLatin1String(wire::kChangedSignal), this,
+            SLOT(noteChange()));
     }
 
     void noteAnswer(QDBusPendingCallWatcher* watcher)
@@ -169,6 +178,9 @@ public:
         if (std::erase(mPending, watcher) == 0) {
             return;
         }
+        notifications().post(
+            {watcher->isError() ? kEventNotTakenNotification : kEventTakenNotification, nullptr,
+                {}});
         if (watcher->isError()) {
             mLastError = errorCode(watcher->reply());
             // The sender has gone on long ago. Whether nobody listened is not its concern, so this
@@ -179,7 +191,9 @@ public:
         watcher->deleteLater();
     }
 
-private:
+private Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
+    void noteChange() { notifications().post({kSourceChangedNotification, nullptr, {}}); }
+
     void connectAgain()
     {
         disconnect();
@@ -288,6 +302,9 @@ OSErr DBusAppleEvents::send(const AppleEvent& event, AppleEvent* reply, AESendMo
     QDBusConnection& bus = d->connection();
     const QString receiver = destination(event.address);
     if (!bus.isConnected() || receiver.isEmpty()) {
+        if (reply == nullptr) {
+            notifications().post({kEventNotTakenNotification, nullptr, {}});
+        }
         return connectionInvalid;
     }
     const QDBusMessage call = methodCall(event, receiver);
@@ -367,9 +384,17 @@ QString DBusAppleEvents::registerApplication(FourCharCode signature)
     return QStringLiteral("another program has the name %1").arg(name);
 }
 
+void DBusAppleEvents::announceChange()
+{
+    d->connection().send(QDBusMessage::createSignal(QLatin1String(wire::kObjectPath),
+        QLatin1String(wire::kInterface), QLatin1String(wire::kChangedSignal)));
+}
+
 QDBusConnection DBusAppleEvents::connection()
 {
     return d->connection();
 }
 
 } // namespace platform
+
+#include "DBusAppleEvents.moc"

@@ -39,6 +39,10 @@ public:
      */
     QString registerApplication(FourCharCode signature);
 
+    /** Tells who accepts this application's events that it would now answer otherwise than before.
+     */
+    void announceChange();
+
     /** The connection to the session bus; not connected when there is none. */
     QDBusConnection connection();
 

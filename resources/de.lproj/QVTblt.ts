@@ -457,5 +457,17 @@
         <source>Pressure, of 65535:</source>
         <translation>Druck, von 65535:</translation>
     </message>
+    <message>
+        <source>Is the tablet plugged in? Is its driver running? As soon as both are there, the settings appear here by themselves.</source>
+        <translation>Ist das Tablett angeschlossen? Läuft sein Treiber? Sobald beides da ist, erscheinen die Einstellungen hier von selbst.</translation>
+    </message>
+    <message>
+        <source>The settings are not saved: %1</source>
+        <translation>Die Einstellungen sind nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <translation>Der Treiber des Tabletts hat die letzte Änderung nicht angenommen. Läuft er?</translation>
+    </message>
 </context>
 </TS>

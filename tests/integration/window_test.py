@@ -10,6 +10,8 @@ import unittest
 import desktop
 import session
 
+HELP = ("Is the tablet plugged in? Is its driver running? "
+        "As soon as both are there, the settings appear here by themselves.")
 TITLE = "Quorvia Tablet"
 
 
@@ -102,6 +104,53 @@ class Window(desktop.Desktop):
         session.wait_for(lambda: self.file_strips() == (1, 0), "the file")
         self.close_window(TITLE)
         self.assertEqual(panel.wait(timeout=20), 0)
+
+
+    def notice(self):
+        """The line that says what has gone wrong; nothing while there is none."""
+        return [thing["name"] for thing in self.things("qvtblt") if thing["showing"]
+                and ("not taken" in thing["name"] or "not saved" in thing["name"])]
+
+    def test_the_pages_appear_when_a_tablet_is_attached(self):
+        self.start_driver("--attach", "none")
+        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.find("qvtblt", "No tablet was found", "label")
+        self.find("qvtblt", HELP, "label")
+        self.simulator("Attach", "q", "20738")
+        self.find("qvtblt", "Quorvia Draft M", "label")
+        self.find("qvtblt", "Keys", "page tab")
+        self.find("qvtblt", HELP, "label", showing=False)
+
+    def test_the_pages_appear_when_the_driver_is_started(self):
+        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.find("qvtblt", "No tablet was found", "label")
+        self.start_driver()
+        self.find("qvtblt", "Keys", "page tab")
+        self.click_strip()
+
+    def test_what_the_driver_has_not_taken_it_gets_when_it_comes_back(self):
+        driver = self.start_driver()
+        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        strip = self.find("qvtblt", "Left scroll strip", "check box")
+        self.stop_driver(driver, signal.SIGKILL)
+        self.click(strip, 8)
+        session.wait_for(self.notice, "the line")
+        self.start_driver()
+        session.wait_for(lambda: self.record() and self.driver_strips() == (1, 0), "the record")
+        session.wait_for(lambda: not self.notice(), "the line's end")
+
+    def test_a_file_that_cannot_be_saved_is_told(self):
+        self.start_driver()
+        self.start_panel()
+        away = self.config().with_suffix(".away")
+        self.config().rename(away)
+        self.click_strip()
+        self.click(self.find("qvtblt", "Save", "push button"))
+        session.wait_for(self.notice, "the line")
+        away.rename(self.config())
+        self.xdotool("key", "alt+v")
+        session.wait_for(lambda: not self.notice(), "the line's end")
+        self.assertEqual(self.file_strips(), (1, 0))
 
 
 class WithoutDisplay(session.Session):

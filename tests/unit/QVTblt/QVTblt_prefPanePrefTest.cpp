@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "QVTblt_prefPanePref.h"
 
+#include "Notifications.h"
 #include "PaneTest.h"
 
 #include <QCheckBox>
@@ -16,7 +17,15 @@
 
 using platform::Rect;
 
-using Pane = PaneTest;
+namespace {
+
+class Pane : public PaneTest {
+protected:
+    QString notice() { return outlet<QLabel>("mNotice").text(); }
+    static void post(QLatin1String name) { platform::notifications().post({name, nullptr, {}}); }
+};
+
+} // namespace
 
 TEST_F(Pane, hasItsOutletsUnderTheirNames)
 {
@@ -113,6 +122,87 @@ TEST_F(Pane, comesBackWhenATabletIsThereAgain)
     EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible());
     EXPECT_TRUE(outlet<QPushButton>("mSave").isVisible());
     EXPECT_FALSE(outlet<QLabel>("NoDevTitle").isVisible());
+}
+
+TEST_F(Pane, saysUnderTheLabelWhatToTryAndNeverOutOfSight)
+{
+    mEvents.answer(0);
+    for (int showing = 1; showing <= 6; ++showing) {
+        show();
+        const QLabel& help = outlet<QLabel>("NoDevHelp");
+        EXPECT_TRUE(help.isVisible());
+        EXPECT_TRUE(mWindow->rect().contains(help.geometry())) << showing;
+        if (showing == 1) {
+            EXPECT_GE(help.geometry().top(), outlet<QLabel>("NoDevTitle").geometry().bottom());
+        }
+        leave();
+    }
+    mEvents.answer(7);
+    show();
+    EXPECT_FALSE(outlet<QLabel>("NoDevHelp").isVisible());
+}
+
+TEST_F(Pane, isShownAnewWhenTheDriverSaysThatThereIsATablet)
+{
+    mEvents.answer(0);
+    show();
+    const Rect before = platform::frame(outlet<QLabel>("NoDevTitle"));
+    post(platform::kSourceChangedNotification);
+    EXPECT_FALSE(outlet<QTabWidget>("tabView").isVisible());
+    EXPECT_EQ(platform::frame(outlet<QLabel>("NoDevTitle")), before) << "it was not shown again";
+    mEvents.answer(7);
+    post(platform::kSourceChangedNotification);
+    EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible());
+    EXPECT_FALSE(outlet<QLabel>("NoDevTitle").isVisible());
+    EXPECT_TRUE(sameBytes(qvTabletInfo, sampleRecord()));
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(Pane, asksNobodyWhileItIsNotShown)
+{
+    mEvents.answer(0);
+    show();
+    leave();
+    mEvents.sent.clear();
+    mEvents.answer(7);
+    post(platform::kSourceChangedNotification);
+    EXPECT_TRUE(mEvents.sent.empty());
+}
+
+TEST_F(Pane, saysThatTheDriverHasNotTakenAPushUntilItTakesOne)
+{
+    show();
+    EXPECT_EQ(notice(), QString());
+    post(platform::kEventNotTakenNotification);
+    EXPECT_EQ(notice(),
+        QStringLiteral("The tablet's driver has not taken the last change. Is it running?"));
+    post(platform::kEventTakenNotification);
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_F(Pane, pushesAgainWhatWasNotTakenWhenTheDriverComesBack)
+{
+    show();
+    post(platform::kSourceChangedNotification);
+    EXPECT_TRUE(pushes().empty()) << "nothing was lost";
+    post(platform::kEventNotTakenNotification);
+    post(platform::kSourceChangedNotification);
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
+}
+
+TEST_F(Pane, saysWhyTheSettingsAreNotSavedUntilTheyAre)
+{
+    show();
+    const QString path = mHome.configFile(7);
+    ASSERT_TRUE(QFile::rename(path, path + QStringLiteral(".away")));
+    QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
+    EXPECT_TRUE(notice().startsWith(QStringLiteral("The settings are not saved: ")))
+        << notice().toStdString();
+    EXPECT_TRUE(notice().contains(path));
+    ASSERT_TRUE(QFile::rename(path + QStringLiteral(".away"), path));
+    QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
+    EXPECT_EQ(notice(), QString());
 }
 
 TEST_F(Pane, putsTheFocusOnMSoft)
