@@ -92,6 +92,15 @@ protected:
     }
 
     void start() { outlet<QPushButton>("mDoCalibrate").click(); }
+    /** Starts, after another calibration has ended too. */
+    void startFarFromTheLastPoint()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        start();
+        tap(40000, 40000);
+        view().changenPointValue(-points());
+        qvTabletInfo.Monitor.cTabletXmin = 0;
+    }
     QVCalibrateWin* window()
     {
         const auto windows = mWindow->findChildren<QVCalibrateWin*>();
@@ -311,6 +320,24 @@ TEST_F(Calibration, theFirstPointOfAnotherPassIsComparedWithTheLast)
     EXPECT_EQ(points(), 1);
 }
 
+TEST_F(Calibration, theFirstLiftOfAllIsTakenHoweverSmallItsCoordinates)
+{
+    start();
+    tap(3, 4);
+    EXPECT_EQ(points(), 1);
+    tap(3, 4);
+    EXPECT_EQ(points(), 1);
+}
+
+TEST_F(Calibration, afterAPointOnTheLeftEdgeNoneIsTooNear)
+{
+    start();
+    tap(0, 30000);
+    EXPECT_EQ(points(), 1);
+    tap(0, 30000);
+    EXPECT_EQ(points(), 2);
+}
+
 TEST_F(Calibration, onlyEveryOtherItemIsRead)
 {
     start();
@@ -320,22 +347,108 @@ TEST_F(Calibration, onlyEveryOtherItemIsRead)
     EXPECT_EQ(points(), 1) << "of three, the first and the third";
 }
 
-TEST_F(Calibration, reportsOfAnySizeAndFormDoNoHarm)
+TEST_F(Calibration, aReportWithoutBytesIsNoLift)
 {
     start();
-    testing::internal::CaptureStderr();
-    for (const int size : {0, 5, 11, 13, 4096}) {
-        deliver({QByteArray(size, '\xff')});
-    }
-    deliverDirect(AEDesc{typeAEList, AEList{}});
-    deliverDirect(AEDesc{typeAEList, AEList(4096, AEDesc{fourCharCode("rprt"), report(5, 1, 1)})});
-    deliverDirect(AEDesc{typeAEList, AEList{AEDesc{typeAEList, AEList{}}, AEDesc{}}});
-    EXPECT_EQ(points(), 0);
-    testing::internal::GetCapturedStderr();
+    deliver({report(1, 5000, 5000), {}, {}});
+    EXPECT_EQ(points(), 0) << "it leaves the pen down";
+    deliver({{}});
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 0) << "alone, it leaves the pen neither down nor up";
+    tap(5000, 5000);
+    EXPECT_EQ(points(), 1);
+}
 
+TEST_F(Calibration, aShortReportIsReadAsFarAsItGoes)
+{
+    // 1000 is 0x03E8. Of five bytes, the last is x's low one; the rest is the report's before.
+    for (const QByteArray& bytes :
+        {report(0, 0x77E8, 9999).left(5), report(0, 1000, 800).left(11)}) {
+        startFarFromTheLastPoint();
+        deliver({report(1, 1000, 800), {}, bytes});
+        EXPECT_EQ(points(), 1) << bytes.size();
+        tap(19200, 800);
+        tap(19200, 10600);
+        tap(1000, 10600);
+        EXPECT_EQ(area(), mCalibrated) << bytes.size();
+    }
+}
+
+TEST_F(Calibration, aLongReportIsReadToItsTwelfthByte)
+{
+    for (const int size : {13, 4096}) {
+        startFarFromTheLastPoint();
+        const QByteArray tail(size - 12, '\xff');
+        for (const auto& [x, y] :
+            {std::pair(1000, 800), {19200, 800}, {19200, 10600}, {1000, 10600}}) {
+            for (const std::uint32_t key : {1U, 0U}) {
+                deliver({report(key, static_cast<std::uint16_t>(x), static_cast<std::uint16_t>(y))
+                    + tail});
+            }
+        }
+        EXPECT_EQ(area(), mCalibrated) << size;
+    }
+}
+
+TEST_F(Calibration, reportsOfAnySizeWithoutSenseTakeNoPoint)
+{
+    start();
+    for (const int size : {0, 1, 4, 5, 8, 11, 12, 13, 4096}) {
+        for (const char byte : {'\x01', '\x7f', '\xff'}) {
+            deliver({QByteArray(size, byte)});
+            deliver({QByteArray(size, byte), {}, QByteArray(size, byte)});
+        }
+    }
+    EXPECT_EQ(points(), 0);
+}
+
+TEST_F(Calibration, anEmptyListChangesNothing)
+{
+    start();
+    deliver({report(1, 5000, 5000)});
+    deliverDirect({typeAEList, AEList{}});
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 1);
+}
+
+TEST_F(Calibration, of4096ItemsTheLastThatIsReadCounts)
+{
+    start();
+    std::vector<QByteArray> reports(4096, report(1, 5000, 5000));
+    deliver(reports);
+    EXPECT_EQ(points(), 0);
+    reports[4095] = report(0, 5000, 5000); // an even one
+    deliver(reports);
+    EXPECT_EQ(points(), 0);
+    reports[4094] = report(0, 5000, 5000);
+    deliver(reports);
+    EXPECT_EQ(points(), 1);
+}
+
+TEST_F(Calibration, itemsThatAreListsAreNoReports)
+{
+    start();
+    deliver({report(1, 5000, 5000)});
+    deliverDirect({typeAEList, AEList{AEDesc{typeAEList, AEList{AEDesc{}}}}});
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 0) << "the pen was neither down nor up";
+}
+
+TEST_F(Calibration, aDirectObjectThatIsNoListIsLoggedAndHasNoReports)
+{
+    start();
+    deliver({report(1, 5000, 5000)});
     testing::internal::CaptureStderr();
-    deliverDirect(AEDesc{typeUTF8Text, QByteArray("text")});
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("rzk-count fail"), std::string::npos);
+    deliverDirect({typeUTF8Text, report(0, 5000, 5000)});
+    const std::string log = testing::internal::GetCapturedStderr();
+    EXPECT_NE(log.find("rzk-count fail"), std::string::npos);
+    EXPECT_EQ(log.find("rzk-get para fail"), std::string::npos);
+    EXPECT_EQ(points(), 0);
+}
+
+TEST_F(Calibration, anEventWithoutADirectObjectIsLoggedAndHasNoReports)
+{
+    start();
     testing::internal::CaptureStderr();
     AppleEvent event;
     AppleEvent reply;
@@ -343,6 +456,7 @@ TEST_F(Calibration, reportsOfAnySizeAndFormDoNoHarm)
     const std::string log = testing::internal::GetCapturedStderr();
     EXPECT_NE(log.find("rzk-get para fail"), std::string::npos);
     EXPECT_NE(log.find("rzk-count fail"), std::string::npos);
+    EXPECT_EQ(points(), 0);
 }
 
 TEST_F(Calibration, reportsWhileAnAlertIsOpenDoNoHarm)
@@ -409,6 +523,24 @@ TEST_F(Calibration, theKeysSAndEShowAndEraseTheFirstCrossOnly)
     EXPECT_EQ(points(), 1);
     tap(19200, 800);
     EXPECT_EQ(points(), 2);
+}
+
+TEST_F(Calibration, afterTheKeySTheNextLiftIsStillTheNextPoint)
+{
+    start();
+    tap(1000, 800);
+    tap(19200, 800);
+    QTest::keyClick(window(), Qt::Key_S);
+    tap(19200, 10600);
+    tap(1000, 10600);
+    EXPECT_EQ(area(), mCalibrated);
+}
+
+TEST_F(Calibration, itsWindowHasNoBorderButTheKeyboard)
+{
+    start();
+    EXPECT_TRUE(window()->windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window()));
 }
 
 TEST_F(Calibration, keysCountByTheirPlaceNotByWhatIsOnThem)
