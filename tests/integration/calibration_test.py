@@ -24,7 +24,7 @@ class Calibration(displays.Displays):
         self.plug(1, "800x600", "1024x0")
         self.driver = self.start_driver()
         self.panel = self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
-        self.click(self.find("qvtblt", "Display", "page tab"))
+        self.press("qvtblt", "Display", "page tab")
         box = self.find("qvtblt", LIST, "combo box")
         self.click(box)
         self.xdotool("key", "End", "Return")

@@ -19,7 +19,7 @@ class Page(displays.Displays):
         self.env.update(self.SETTINGS)
         self.start_driver()
         self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
-        self.click(self.find("qvtblt", "Display", "page tab"))
+        self.press("qvtblt", "Display", "page tab")
         self.find("qvtblt", LIST, "combo box")
 
     SETTINGS = {}
