@@ -39,6 +39,7 @@ struct PenReport {
     std::uint32_t reserved;
 };
 static_assert(sizeof(PenReport) == 12);
+constexpr std::uint32_t kNeitherDownNorUp = 2;
 
 // Of the whole process: a calibration goes on from where the last one ended.
 std::array<QVTabletPoint, kCrosses> mXY{}; ///< of the crosses, in their order
@@ -270,7 +271,10 @@ OSErr QVTabletGetDatahandler(const AppleEvent& event, AppleEvent& reply, QVCalib
     }
     const QPointer<QVCalibrateView> guard(view);
     const AEList items = itemsOf(event);
+    // A report that is too short leaves the rest as it was; at first the pen is neither down nor
+    // up.
     PenReport report{};
+    report.key = kNeitherDownNorUp;
     // Only every other item is a report.
     for (std::size_t i = 0; i < items.size(); i += 2) {
         if (const QByteArray* const bytes = items[i].bytes()) {

@@ -4,6 +4,7 @@
 
 #include "QVNSView.h"
 
+#include <QGraphicsOpacityEffect>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
@@ -68,7 +69,15 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     , mMainWindow(mainWindow)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    setWindowOpacity(kOpacity);
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        // Windows have no opacity there; what is drawn in them has.
+        auto* const effect = new QGraphicsOpacityEffect(mView);
+        effect->setOpacity(kOpacity);
+        mView->setGraphicsEffect(effect);
+        setAttribute(Qt::WA_TranslucentBackground);
+    } else {
+        setWindowOpacity(kOpacity);
+    }
     setWindowTitle(tr("Calibration"));
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

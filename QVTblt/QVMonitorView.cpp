@@ -169,9 +169,10 @@ void QVMonitorView::updatePicturePoints()
     mTabletPicLeftUp = {kPictureLeft, kPictureTop};
     if (corner) {
         mTabletPicRightDn = *corner;
-    } else {
-        qCDebug(lcMonitor, "the tablet's active area has no width or no height");
+    } else if (mHasTabletArea) { // once, not each time that it is drawn
+        qCWarning(lcMonitor, "the tablet's active area has no width or no height");
     }
+    mHasTabletArea = corner.has_value();
 }
 
 void QVMonitorView::updateLists()

@@ -97,6 +97,7 @@ private:
     QPointer<QVCalibrateWin> mCalibration; ///< while one is going on
     QVPoint mTabletPicLeftUp{}; ///< of the area in use, in the picture
     QVPoint mTabletPicRightDn{};
+    bool mHasTabletArea = true; ///< as it was last drawn
 };
 
 /** Empties the view's list when displays begin to change, and fills it when they have changed. */

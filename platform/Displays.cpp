@@ -5,9 +5,11 @@
 #include "Service.h"
 
 #include <QGuiApplication>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
 #include <numeric>
 #include <utility>
@@ -44,6 +46,9 @@ public:
         }
     }
 
+    /** Whether callbacks are being told, so that the watcher has to live on for a while. */
+    bool isTelling() const { return mIsTelling; }
+
     std::vector<Callback> callbacks;
 
 private:
@@ -58,18 +63,23 @@ private:
         }
         mRest.start();
     }
-    void tell(std::uint32_t flags) const
+    void tell(std::uint32_t flags)
     {
+        const QScopedValueRollback telling(mIsTelling, true);
         const auto count = static_cast<DisplayID>(QGuiApplication::screens().size());
-        const std::vector<Callback> present = callbacks; // one may end itself
-        for (const auto& [callback, userInfo] : present) {
+        // One that is told may end itself and others, and those are told no more.
+        const std::vector<Callback> present = callbacks;
+        for (const Callback& callback : present) {
             for (DisplayID display = 0; display < count; ++display) {
-                callback(display, flags, userInfo);
+                if (std::ranges::find(callbacks, callback) != callbacks.end()) {
+                    callback.first(display, flags, callback.second);
+                }
             }
         }
     }
 
     QTimer mRest;
+    bool mIsTelling = false;
 };
 
 /** A display's ID is its place in Qt's list of screens. */
@@ -136,7 +146,12 @@ public:
             return;
         }
         std::erase(mWatcher->callbacks, ScreenWatcher::Callback(callback, userInfo));
-        if (mWatcher->callbacks.empty()) {
+        if (!mWatcher->callbacks.empty()) {
+            return;
+        }
+        if (mWatcher->isTelling()) {
+            mWatcher.release()->deleteLater();
+        } else {
             mWatcher.reset();
         }
     }

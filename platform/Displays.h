@@ -59,7 +59,10 @@ public:
      */
     virtual bool registerReconfigurationCallback(
         DisplayReconfigurationCallback callback, void* userInfo) = 0;
-    /** Ends what was registered with the same arguments. */
+    /**
+     * Ends what was registered with the same arguments: it is not told of anything more, also when
+     * it ends while callbacks are being told.
+     */
     virtual void removeReconfigurationCallback(
         DisplayReconfigurationCallback callback, void* userInfo) = 0;
 };

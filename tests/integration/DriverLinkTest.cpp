@@ -8,15 +8,13 @@
 #include "DBusAppleEvents.h"
 #include "DriverProcess.h"
 #include "Peer.h"
+#include "PlainWire.h"
 #include "PrivateBus.h"
 #include "Service.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
 
 #include <QCoreApplication>
-#include <QDBusArgument>
-#include <QDBusMetaType>
-#include <QDBusVariant>
 #include <QElapsedTimer>
 
 #include <gtest/gtest.h>
@@ -25,51 +23,7 @@
 
 using namespace platform;
 
-// The wire's types once more, so that the tests do not see with the program's own eyes.
-struct TestDesc {
-    uint type;
-    QDBusVariant data;
-};
-struct TestParameter {
-    uint keyword;
-    TestDesc desc;
-};
-Q_DECLARE_METATYPE(TestDesc)
-Q_DECLARE_METATYPE(TestParameter)
-
-static QDBusArgument& operator<<(QDBusArgument& argument, const TestDesc& desc)
-{
-    argument.beginStructure();
-    argument << desc.type << desc.data;
-    argument.endStructure();
-    return argument;
-}
-static const QDBusArgument& operator>>(const QDBusArgument& argument, TestDesc& desc)
-{
-    argument.beginStructure();
-    argument >> desc.type >> desc.data;
-    argument.endStructure();
-    return argument;
-}
-static QDBusArgument& operator<<(QDBusArgument& argument, const TestParameter& parameter)
-{
-    argument.beginStructure();
-    argument << parameter.keyword << parameter.desc;
-    argument.endStructure();
-    return argument;
-}
-static const QDBusArgument& operator>>(const QDBusArgument& argument, TestParameter& parameter)
-{
-    argument.beginStructure();
-    argument >> parameter.keyword >> parameter.desc;
-    argument.endStructure();
-    return argument;
-}
-
 namespace {
-
-using Parameters = QList<TestParameter>;
-using Descriptors = QList<TestDesc>;
 
 const QString kDriverName = QStringLiteral("org.quorvia.AppleEvents.TdSg");
 constexpr const char* kEventNotHandled = "org.quorvia.AppleEvents.Error.EventNotHandled";
@@ -82,11 +36,6 @@ template <class Value>
 QByteArray bytes(Value value)
 {
     return {reinterpret_cast<const char*>(&value), static_cast<int>(sizeof value)};
-}
-
-QVariant parameters(const Parameters& list)
-{
-    return QVariant::fromValue(list);
 }
 
 /** The driver's answer with one parameter. */
@@ -106,10 +55,7 @@ class DriverLink : public testing::Test {
 protected:
     void SetUp() override
     {
-        qDBusRegisterMetaType<TestDesc>();
-        qDBusRegisterMetaType<Descriptors>();
-        qDBusRegisterMetaType<TestParameter>();
-        qDBusRegisterMetaType<Parameters>();
+        registerPlainWire();
         pListname = {};
     }
 

@@ -11,6 +11,7 @@ import unittest
 import displays
 import session
 
+TITLE = "Quorvia Tablet"
 LIST = "The part of the desktop that the pen reaches."
 # The crosses stand 50 points in: 700 and 500 points of 800 by 600 apart, here ten units each.
 TAPS = ((1000, 2000), (8000, 2000), (8000, 7000), (1000, 7000))
@@ -23,7 +24,7 @@ class Calibration(displays.Displays):
         self.plug(1, "800x600", "1024x0")
         self.driver = self.start_driver()
         self.panel = self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
-        self.click(self.find("qvtblt", "Display", "page tab"))
+        self.press("qvtblt", "Display", "page tab")
         box = self.find("qvtblt", LIST, "combo box")
         self.click(box)
         self.xdotool("key", "End", "Return")
@@ -58,16 +59,35 @@ class Calibration(displays.Displays):
         return any(thing["name"] == "Calibration" and thing["showing"]
                    for thing in self.things("qvtblt"))
 
-    def test_four_taps_fit_the_tablet_to_the_second_display(self):
-        window = self.find("qvtblt", "Calibration")
-        self.assertEqual((window["x"], window["y"], window["width"], window["height"]),
-                         (1024, 0, 800, 600))
-        self.tap(TAPS)
+    def accept(self):
+        """All four were touched: the area is with the driver before the user has agreed."""
         self.find("qvtblt", "The tablet fits the display now. Keep it so?")
         self.assertEqual((self.flag(), self.area()), (0, AREA))
         self.xdotool("key", "Return")
         session.wait_for(lambda: not self.is_open(), "the window's end")
         self.assertEqual((self.flag(), self.area()), (0, AREA))
+
+    def crosses(self):
+        """The crosses that are to be seen on the display, by their numbers."""
+        pixels = subprocess.run(
+            ["import", "-window", "root", "-crop", "800x600+1024+0", "-depth", "8", "rgb:-"],
+            env=self.env, capture_output=True, check=True).stdout
+
+        def is_drawn(x, y):
+            red, green, blue = pixels[3 * (800 * y + x):][:3]
+            return red > 200 and green < 160 and blue < 80
+        return [number for number, (x, y) in enumerate(((50, 50), (750, 50), (750, 550), (50, 550)))
+                if is_drawn(x + 15, y) and is_drawn(x, y + 15) and not is_drawn(x + 15, y + 5)]
+
+    def wait_for_crosses(self, numbers):
+        session.wait_for(lambda: self.crosses() == numbers, f"crosses {numbers}")
+
+    def test_four_taps_fit_the_tablet_to_the_second_display(self):
+        window = self.find("qvtblt", "Calibration")
+        self.assertEqual((window["x"], window["y"], window["width"], window["height"]),
+                         (1024, 0, 800, 600))
+        self.tap(TAPS)
+        self.accept()
         self.assertNotEqual(self.ctl("sim", "tap", 1, 1).returncode, 0)
 
     def test_cancelled_and_accepted_at_the_second_pass(self):
@@ -78,10 +98,7 @@ class Calibration(displays.Displays):
         self.wait_for_flag(1)
         self.assertEqual(self.area(), before)
         self.tap(TAPS)
-        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
-        self.xdotool("key", "Return")
-        session.wait_for(lambda: not self.is_open(), "the window's end")
-        self.assertEqual((self.flag(), self.area()), (0, AREA))
+        self.accept()
 
     def test_another_order_begins_again(self):
         before = self.area()
@@ -93,12 +110,42 @@ class Calibration(displays.Displays):
         self.assertEqual(self.area(), before)
         self.assertTrue(self.is_open())
 
-    def test_escape_ends_it(self):
+    def test_escape_ends_it_at_each_cross(self):
+        # In an order in which no pass begins near where the last one ended.
+        for taken in (0, 2, 3, 1):
+            self.tap(TAPS[:taken])
+            self.wait_for_crosses([taken])
+            self.xdotool("key", "Escape")
+            self.wait_for_flag(0)
+            session.wait_for(lambda: not self.is_open(), "the window's end")
+            self.press_calibrate()
+
+    def test_a_touch_near_the_last_one_does_not_count(self):
+        self.tap(TAPS[:1])
+        self.tap(((1100, 2899),))  # 999 units on, both ways together
+        self.wait_for_crosses([1])
+        self.tap(TAPS[1:])
+        self.accept()
+
+    def test_the_keys_s_and_e_only_draw(self):
         self.tap(TAPS[:2])
-        self.xdotool("key", "Escape")
+        self.wait_for_crosses([2])
+        self.xdotool("key", "s")
+        self.wait_for_crosses([0])
+        self.xdotool("key", "e")
+        self.wait_for_crosses([])
+        self.tap(TAPS[2:3])
+        self.wait_for_crosses([3])
+        self.xdotool("key", "e", "s")
+        self.wait_for_crosses([0])
+        self.tap(TAPS[3:])
+        self.accept()
+
+    def test_closing_the_panel_frees_the_driver(self):
+        self.tap(TAPS[:1])
+        self.close_window(TITLE)
+        self.assertEqual(self.panel.wait(timeout=20), 0)
         self.wait_for_flag(0)
-        session.wait_for(lambda: not self.is_open(), "the window's end")
-        self.press_calibrate()
 
     def test_a_panel_that_is_told_to_end_frees_the_driver(self):
         self.tap(TAPS[:1])
@@ -106,11 +153,17 @@ class Calibration(displays.Displays):
         self.assertEqual(self.panel.wait(timeout=20), 0)
         self.wait_for_flag(0)
 
-    def test_a_driver_that_dies_does_not_take_the_panel_along(self):
-        self.tap(TAPS[:1])
+    def test_a_driver_that_dies_and_comes_back_can_be_calibrated_anew(self):
+        self.tap(TAPS[:2])
         self.stop_driver(self.driver, signal.SIGKILL)
+        self.driver = self.start_driver()
+        # The new one knows of no calibration.
+        self.assertNotEqual(self.ctl("sim", "tap", *TAPS[2]).returncode, 0)
         self.xdotool("key", "Escape")
         session.wait_for(lambda: not self.is_open(), "the window's end")
+        self.press_calibrate()
+        self.tap(TAPS)
+        self.accept()
 
 
 if __name__ == "__main__":

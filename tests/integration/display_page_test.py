@@ -13,13 +13,16 @@ import session
 LIST = "The part of the desktop that the pen reaches."
 
 
-class DisplayPage(displays.Displays):
+class Page(displays.Displays):
     def setUp(self):
         super().setUp()
+        self.env.update(self.SETTINGS)
         self.start_driver()
         self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
-        self.click(self.find("qvtblt", "Display", "page tab"))
+        self.press("qvtblt", "Display", "page tab")
         self.find("qvtblt", LIST, "combo box")
+
+    SETTINGS = {}
 
     def items(self):
         box = next(thing for thing in self.things("qvtblt", "--items")
@@ -50,34 +53,101 @@ class DisplayPage(displays.Displays):
         self.choose(item)
         session.wait_for(lambda: self.mapped() == area, f"{area}, not {self.mapped()}")
 
-    def test_displays_that_come_move_and_go(self):
-        self.wait_for_items(1)
-        self.plug(1, "800x600", "1024x0")
-        self.wait_for_items(2)
-        self.expect_mapped(2, (1024, 0, 800, 600))
-        self.expect_mapped(0, (0, 0, 1824, 768))
+    def miniatures_are(self, places):
+        """Whether what is magenta on the screen is these displays, in their proportions."""
+        picture = subprocess.run(["import", "-window", "root", "-depth", "8", "ppm:-"],
+                                 env=self.env, capture_output=True, check=True).stdout
+        header, _, pixels = picture.partition(b"\n255\n")
+        width = int(header.split()[1])
+        magenta = set()
+        at = pixels.find(b"\xff\x00\xff")
+        while at >= 0:
+            if at % 3 == 0:
+                magenta.add((at // 3 % width, at // 3 // width))
+            at = pixels.find(b"\xff\x00\xff", at + 1)
+        if not magenta:
+            return False
+        # Their common corner; an edge may cover parts of pixels.
+        left = min(x for x, _ in magenta) - min(place[0] for place in places) / 15
+        top = min(y for _, y in magenta) - min(place[1] for place in places) / 15
+        rects = [(left + x / 15, top + y / 15, left + (x + w) / 15, top + (y + h) / 15)
+                 for x, y, w, h in places]
+        # No part of any reaches beyond them; lines and names lie over some.
+        if any(not any(x0 - 2 <= x <= x1 + 2 and y0 - 2 <= y <= y1 + 2 for x0, y0, x1, y1 in rects)
+               for x, y in magenta):
+            return False
+        return all(any((round(x + inX * i), round(y + inY * j)) in magenta
+                       for i in range(2, 6) for j in range(2, 6))
+                   for x0, y0, x1, y1 in rects
+                   for x, inX in ((x0, 1), (x1, -1)) for y, inY in ((y0, 1), (y1, -1)))
 
-        # To the left of the main display: its places are negative then.
-        self.xrandr("--output", "DUMMY1", "--pos", "0x0", "--output", "DUMMY0", "--pos", "800x0")
-        time.sleep(1)  # until all have come to rest
-        self.wait_for_items(2)
-        places = set()
-        for item in (1, 2):
+    def expect_page(self, *places):
+        """The list has these displays, in some order, the picture shows them, and each of them can
+        be chosen; all together are their bounds."""
+        self.wait_for_items(len(places))
+        session.wait_for(lambda: self.miniatures_are(places), f"a picture of {places}")
+        chosen = []
+        for item in range(1 if len(places) > 1 else 0, len(places) + (len(places) > 1)):
             before = self.simulator("Pushes")
             self.choose(item)
             session.wait_for(lambda: self.simulator("Pushes") != before, "the push")
-            places.add(self.mapped())
-        self.assertEqual(places, {(0, 0, 1024, 768), (-800, 0, 800, 600)})
+            chosen.append(self.mapped())
+        self.assertEqual(sorted(chosen), sorted(places))
+        left, top = (min(place[i] for place in places) for i in (0, 1))
+        right, bottom = (max(place[i] + place[i + 2] for place in places) for i in (0, 1))
+        self.expect_mapped(0, (left, top, right - left, bottom - top))
 
+
+class DisplayPage(Page):
+    def test_displays_that_come_move_and_go(self):
+        self.expect_page((0, 0, 1024, 768))
+        self.plug(1, "800x600", "1024x0")
+        self.expect_page((0, 0, 1024, 768), (1024, 0, 800, 600))
+        # To the left of the main display: its places are negative then.
+        self.xrandr("--output", "DUMMY1", "--pos", "0x0", "--output", "DUMMY0", "--pos", "800x0")
+        self.expect_page((0, 0, 1024, 768), (-800, 0, 800, 600))
+        # Apart from it, and lower.
+        self.xrandr("--output", "DUMMY0", "--pos", "0x0", "--output", "DUMMY1", "--pos", "1174x300")
+        self.expect_page((0, 0, 1024, 768), (1174, 300, 800, 600))
         self.unplug(1)
-        self.wait_for_items(1)
-        self.expect_mapped(0, (0, 0, 1024, 768))
+        self.expect_page((0, 0, 1024, 768))
 
-    def test_more_than_four_displays_are_four(self):
-        for number in range(1, 5):
-            self.plug(number, "800x600", f"{1024 + 800 * (number - 1)}x0")
-        self.wait_for_items(4)
-        self.expect_mapped(4, (1024 + 1600, 0, 800, 600))
+    def test_places_count_from_the_display_that_is_the_main_one(self):
+        self.plug(1, "800x600", "1024x168")
+        self.expect_page((0, 0, 1024, 768), (1024, 168, 800, 600))
+        self.xrandr("--output", "DUMMY1", "--primary")
+        self.expect_page((-1024, -168, 1024, 768), (0, 0, 800, 600))
+        self.xrandr("--output", "DUMMY0", "--primary")
+        self.expect_page((0, 0, 1024, 768), (1024, 168, 800, 600))
+
+    def test_three_and_four_displays_and_of_five_the_first_four(self):
+        places = [(0, 0, 1024, 768), (1024, 0, 800, 600)]
+        self.plug(1, "800x600", "1024x0")
+        for number, mode, position in ((2, "640x480", (1824, 0)), (3, "800x600", (1024, 600))):
+            self.plug(number, mode, "{}x{}".format(*position))
+            places.append((*position, *(int(word) for word in mode.split("x"))))
+            self.expect_page(*places)
+        self.plug(4, "640x480", "0x768")
+        time.sleep(1)
+        self.expect_page(*places)
+
+
+class ScaledDisplay(Page):
+    SETTINGS = {"QT_SCREEN_SCALE_FACTORS": "DUMMY1=2"}
+
+    def test_a_display_of_another_density_counts_in_points(self):
+        self.plug(1, "800x600", "1024x0")
+        self.expect_page((0, 0, 1024, 768), (1024, 0, 400, 300))
+        # To the window system it is as large as ever, and is covered.
+        self.choose(2)
+        self.click(self.find("qvtblt", "Calibrate…", "push button"))
+        window = session.wait_for(
+            lambda: self.run_program("xdotool", "search", "--onlyvisible", "--name",
+                                     "^Calibration$").stdout.split(), "the window")[0]
+        geometry = ["X=1024", "Y=0", "WIDTH=800", "HEIGHT=600"]
+        session.wait_for(
+            lambda: set(geometry) <= set(self.xdotool(
+                "getwindowgeometry", "--shell", window).splitlines()), geometry)
 
 
 if __name__ == "__main__":

@@ -5,6 +5,7 @@
 A process of its own, since the library can speak to one session in its life.
 
 Usage: accessible.py APPLICATION [--items]: with the items of lists, of which there are many
+       accessible.py APPLICATION --press PATH...: presses the thing at that path instead
 """
 
 import json
@@ -49,8 +50,21 @@ def describe(thing, path, found):
         pass  # the thing went away while it was looked at
 
 
+def press(path):
+    """Does what a click on the thing would do."""
+    thing = Atspi.get_desktop(0)
+    for i in path:
+        thing = thing.get_child_at_index(i)
+    action = thing.get_action_iface()
+    names = [action.get_action_name(i) for i in range(action.get_n_actions())]
+    action.do_action(names.index("Press"))
+
+
 def main():
     Atspi.init()
+    if "--press" in sys.argv:
+        press([int(word) for word in sys.argv[3:]])
+        return
     found = []
     desktop = Atspi.get_desktop(0)
     for i in range(desktop.get_child_count()):

@@ -21,6 +21,15 @@ class Desktop(session.Session):
 
     def setUp(self):
         super().setUp()
+        self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        self.start_display()
+        self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"], **self.QUIET)
+        session.wait_for(lambda: self.has_name("org.a11y.Bus"), "the accessibility bus")
+
+    QUIET = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
+
+    def start_display(self):
+        """Starts what shows windows."""
         read, write = os.pipe()
         # Without -noreset it would start over when the first of its programs ends, and take with it
         # the one that is just connecting.
@@ -29,25 +38,30 @@ class Desktop(session.Session):
         os.close(write)
         with os.fdopen(read) as pipe:
             self.env["DISPLAY"] = ":" + pipe.readline().strip()
-        self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
-        quiet = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
-        self.start(["openbox"], **quiet)
+        self.start(["openbox"], **self.QUIET)
         session.wait_for(
             lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.run_program(
                 "xprop", "-root", "_NET_SUPPORTING_WM_CHECK").stdout, "the window manager")
-        self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"], **quiet)
-        session.wait_for(
-            lambda: self.run_program(
-                "busctl", "--user", "call", "org.freedesktop.DBus", "/org/freedesktop/DBus",
-                "org.freedesktop.DBus", "NameHasOwner", "s", "org.a11y.Bus").stdout == "b true\n",
-            "the accessibility bus")
+
+    def has_name(self, name):
+        """Whether somebody has that name on the bus."""
+        return self.run_program(
+            "busctl", "--user", "call", "org.freedesktop.DBus", "/org/freedesktop/DBus",
+            "org.freedesktop.DBus", "NameHasOwner", "s", name).stdout == "b true\n"
 
     def things(self, application, *options):
         """All that the application shows to screen readers; the items of lists with "--items"."""
+        return json.loads(self.accessible(application, *options))
+
+    def accessible(self, *arguments):
         script = pathlib.Path(__file__).with_name("accessible.py")
-        result = self.run_program("/usr/bin/python3", "-B", script, application, *options)
+        result = self.run_program("/usr/bin/python3", "-B", script, *arguments)
         self.assertEqual(result.returncode, 0, result.stderr)
-        return json.loads(result.stdout)
+        return result.stdout
+
+    def press(self, application, name, role):
+        """Has the application press a control, as a screen reader does for those without a mouse."""
+        self.accessible(application, "--press", *self.find(application, name, role)["path"])
 
     def find(self, application, name, role=None, showing=True, inside=()):
         """Waits for the thing with that name or description; gives its properties. The thing is below

@@ -13,8 +13,8 @@
 
 #include <QComboBox>
 #include <QFontDatabase>
+#include <QPaintEvent>
 #include <QPainter>
-#include <QPainterPath>
 #include <QPushButton>
 #include <QScreen>
 #include <QTest>
@@ -55,6 +55,28 @@ QByteArray report(std::uint32_t key, std::uint16_t x, std::uint16_t y)
     return bytes;
 }
 
+/** The parts of a view that are painted. */
+class PaintedRegions final : public QObject {
+public:
+    explicit PaintedRegions(QWidget& view) { view.installEventFilter(this); }
+
+    /** Waits for so many parts, and for more that should not come. */
+    void wait(std::size_t count)
+    {
+        EXPECT_TRUE(QTest::qWaitFor([&] { return regions.size() >= count; }));
+        QTest::qWait(20);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint) {
+            regions.push_back(static_cast<QPaintEvent*>(event)->region());
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+    std::vector<QRegion> regions;
+};
+
 class Calibration : public PaneTest {
 protected:
     void SetUp() override
@@ -70,6 +92,15 @@ protected:
     }
 
     void start() { outlet<QPushButton>("mDoCalibrate").click(); }
+    /** Starts, after another calibration has ended too. */
+    void startFarFromTheLastPoint()
+    {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        start();
+        tap(40000, 40000);
+        view().changenPointValue(-points());
+        qvTabletInfo.Monitor.cTabletXmin = 0;
+    }
     QVCalibrateWin* window()
     {
         const auto windows = mWindow->findChildren<QVCalibrateWin*>();
@@ -289,6 +320,24 @@ TEST_F(Calibration, theFirstPointOfAnotherPassIsComparedWithTheLast)
     EXPECT_EQ(points(), 1);
 }
 
+TEST_F(Calibration, theFirstLiftOfAllIsTakenHoweverSmallItsCoordinates)
+{
+    start();
+    tap(3, 4);
+    EXPECT_EQ(points(), 1);
+    tap(3, 4);
+    EXPECT_EQ(points(), 1);
+}
+
+TEST_F(Calibration, afterAPointOnTheLeftEdgeNoneIsTooNear)
+{
+    start();
+    tap(0, 30000);
+    EXPECT_EQ(points(), 1);
+    tap(0, 30000);
+    EXPECT_EQ(points(), 2);
+}
+
 TEST_F(Calibration, onlyEveryOtherItemIsRead)
 {
     start();
@@ -298,22 +347,108 @@ TEST_F(Calibration, onlyEveryOtherItemIsRead)
     EXPECT_EQ(points(), 1) << "of three, the first and the third";
 }
 
-TEST_F(Calibration, reportsOfAnySizeAndFormDoNoHarm)
+TEST_F(Calibration, aReportWithoutBytesIsNoLift)
 {
     start();
-    testing::internal::CaptureStderr();
-    for (const int size : {0, 5, 11, 13, 4096}) {
-        deliver({QByteArray(size, '\xff')});
-    }
-    deliverDirect(AEDesc{typeAEList, AEList{}});
-    deliverDirect(AEDesc{typeAEList, AEList(4096, AEDesc{fourCharCode("rprt"), report(5, 1, 1)})});
-    deliverDirect(AEDesc{typeAEList, AEList{AEDesc{typeAEList, AEList{}}, AEDesc{}}});
-    EXPECT_EQ(points(), 0);
-    testing::internal::GetCapturedStderr();
+    deliver({report(1, 5000, 5000), {}, {}});
+    EXPECT_EQ(points(), 0) << "it leaves the pen down";
+    deliver({{}});
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 0) << "alone, it leaves the pen neither down nor up";
+    tap(5000, 5000);
+    EXPECT_EQ(points(), 1);
+}
 
+TEST_F(Calibration, aShortReportIsReadAsFarAsItGoes)
+{
+    // 1000 is 0x03E8. Of five bytes, the last is x's low one; the rest is the report's before.
+    for (const QByteArray& bytes :
+        {report(0, 0x77E8, 9999).left(5), report(0, 1000, 800).left(11)}) {
+        startFarFromTheLastPoint();
+        deliver({report(1, 1000, 800), {}, bytes});
+        EXPECT_EQ(points(), 1) << bytes.size();
+        tap(19200, 800);
+        tap(19200, 10600);
+        tap(1000, 10600);
+        EXPECT_EQ(area(), mCalibrated) << bytes.size();
+    }
+}
+
+TEST_F(Calibration, aLongReportIsReadToItsTwelfthByte)
+{
+    for (const int size : {13, 4096}) {
+        startFarFromTheLastPoint();
+        const QByteArray tail(size - 12, '\xff');
+        for (const auto& [x, y] :
+            {std::pair(1000, 800), {19200, 800}, {19200, 10600}, {1000, 10600}}) {
+            for (const std::uint32_t key : {1U, 0U}) {
+                deliver({report(key, static_cast<std::uint16_t>(x), static_cast<std::uint16_t>(y))
+                    + tail});
+            }
+        }
+        EXPECT_EQ(area(), mCalibrated) << size;
+    }
+}
+
+TEST_F(Calibration, reportsOfAnySizeWithoutSenseTakeNoPoint)
+{
+    start();
+    for (const int size : {0, 1, 4, 5, 8, 11, 12, 13, 4096}) {
+        for (const char byte : {'\x01', '\x7f', '\xff'}) {
+            deliver({QByteArray(size, byte)});
+            deliver({QByteArray(size, byte), {}, QByteArray(size, byte)});
+        }
+    }
+    EXPECT_EQ(points(), 0);
+}
+
+TEST_F(Calibration, anEmptyListChangesNothing)
+{
+    start();
+    deliver({report(1, 5000, 5000)});
+    deliverDirect({typeAEList, AEList{}});
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 1);
+}
+
+TEST_F(Calibration, of4096ItemsTheLastThatIsReadCounts)
+{
+    start();
+    std::vector<QByteArray> reports(4096, report(1, 5000, 5000));
+    deliver(reports);
+    EXPECT_EQ(points(), 0);
+    reports[4095] = report(0, 5000, 5000); // an even one
+    deliver(reports);
+    EXPECT_EQ(points(), 0);
+    reports[4094] = report(0, 5000, 5000);
+    deliver(reports);
+    EXPECT_EQ(points(), 1);
+}
+
+TEST_F(Calibration, itemsThatAreListsAreNoReports)
+{
+    start();
+    deliver({report(1, 5000, 5000)});
+    deliverDirect({typeAEList, AEList{AEDesc{typeAEList, AEList{AEDesc{}}}}});
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 0) << "the pen was neither down nor up";
+}
+
+TEST_F(Calibration, aDirectObjectThatIsNoListIsLoggedAndHasNoReports)
+{
+    start();
+    deliver({report(1, 5000, 5000)});
     testing::internal::CaptureStderr();
-    deliverDirect(AEDesc{typeUTF8Text, QByteArray("text")});
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("rzk-count fail"), std::string::npos);
+    deliverDirect({typeUTF8Text, report(0, 5000, 5000)});
+    const std::string log = testing::internal::GetCapturedStderr();
+    EXPECT_NE(log.find("rzk-count fail"), std::string::npos);
+    EXPECT_EQ(log.find("rzk-get para fail"), std::string::npos);
+    EXPECT_EQ(points(), 0);
+}
+
+TEST_F(Calibration, anEventWithoutADirectObjectIsLoggedAndHasNoReports)
+{
+    start();
     testing::internal::CaptureStderr();
     AppleEvent event;
     AppleEvent reply;
@@ -321,6 +456,7 @@ TEST_F(Calibration, reportsOfAnySizeAndFormDoNoHarm)
     const std::string log = testing::internal::GetCapturedStderr();
     EXPECT_NE(log.find("rzk-get para fail"), std::string::npos);
     EXPECT_NE(log.find("rzk-count fail"), std::string::npos);
+    EXPECT_EQ(points(), 0);
 }
 
 TEST_F(Calibration, reportsWhileAnAlertIsOpenDoNoHarm)
@@ -389,6 +525,24 @@ TEST_F(Calibration, theKeysSAndEShowAndEraseTheFirstCrossOnly)
     EXPECT_EQ(points(), 2);
 }
 
+TEST_F(Calibration, afterTheKeySTheNextLiftIsStillTheNextPoint)
+{
+    start();
+    tap(1000, 800);
+    tap(19200, 800);
+    QTest::keyClick(window(), Qt::Key_S);
+    tap(19200, 10600);
+    tap(1000, 10600);
+    EXPECT_EQ(area(), mCalibrated);
+}
+
+TEST_F(Calibration, itsWindowHasNoBorderButTheKeyboard)
+{
+    start();
+    EXPECT_TRUE(window()->windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window()));
+}
+
 TEST_F(Calibration, keysCountByTheirPlaceNotByWhatIsOnThem)
 {
     start();
@@ -438,16 +592,27 @@ TEST_F(Calibration, escapeInAWindowThatIsNobodysGoesOn)
     EXPECT_TRUE(pushes().empty());
 }
 
-TEST_F(Calibration, drawsEachCrossAndTheHintAtTheirPlaces)
+// Drawing; the tests run at the densities 1 and 2
+// --------------------------------------------------
+
+TEST_F(Calibration, drawsEachCrossAndTheHintAsPlainPainterCallsDo)
 {
+    // From the lower left corner of a display of 1920 by 1080 points, y growing upwards.
+    struct Cross {
+        QLineF across;
+        QLineF along;
+    };
+    const std::array<Cross, 4> crosses{{
+        {{25, 1030, 75, 1030}, {50, 1055, 50, 1005}},
+        {{1845, 1030, 1895, 1030}, {1870, 1055, 1870, 1005}},
+        {{1845, 50, 1895, 50}, {1870, 75, 1870, 25}},
+        {{25, 50, 75, 50}, {50, 75, 50, 25}},
+    }};
     start();
-    const std::array<QPointF, 4> centres{
-        {{50, 50}, {1870, 50}, {1870, 1030}, {50, 1030}}}; // from the upper left
-    for (int flag : {16, 17, 18, 19, 32, 33, 34, 35, 0}) {
-        view().setDrawEraseFlag(flag);
-        const QImage drawn = view().grab().toImage();
-        const double density = drawn.devicePixelRatio();
-        QImage expected(drawn.size(), QImage::Format_ARGB32_Premultiplied);
+    const double density = view().devicePixelRatioF();
+    for (const int flag : {16, 17, 18, 19, 32, 33, 34, 35, 0, 15, 20, 31, 36, -1}) {
+        QImage expected(
+            (QSizeF(1920, 1080) * density).toSize(), QImage::Format_ARGB32_Premultiplied);
         expected.setDevicePixelRatio(density);
         expected.fill(Qt::yellow);
         QPainter painter(&expected);
@@ -458,30 +623,46 @@ TEST_F(Calibration, drawsEachCrossAndTheHintAtTheirPlaces)
         painter.setPen(QColor::fromRgbF(1.0F, 0.2F, 0.2F, 0.6F));
         painter.drawText(QPointF(460, 540 - painter.fontMetrics().descent()),
             QStringLiteral("Touch the cross with the pen. Esc ends."));
+        painter.translate(0, 1080);
+        painter.scale(1, -1);
+        if (flag >= 16 && flag <= 19) {
+            const Cross& cross = crosses[static_cast<std::size_t>(flag) - 16];
+            painter.setPen(QPen(Qt::red, 1));
+            painter.drawLine(cross.across);
+            painter.drawLine(cross.along);
+        }
         painter.end();
-        // The hint, pixel by pixel.
-        for (int y = 480; y < 560; ++y) {
-            for (int x = 460; x < 1860; ++x) {
-                ASSERT_EQ(drawn.pixel(x, y), expected.pixel(x, y)) << flag << ' ' << x << ' ' << y;
-            }
-        }
-        // A stroke on the border between two pixels falls on both: red is where the cross is, a
-        // pixel more or less, all along it, and nowhere else.
-        const bool hasCross = flag >= 16 && flag <= 19;
-        const QPointF centre = hasCross ? centres[static_cast<std::size_t>(flag) - 16] : QPointF();
-        int reds = 0;
-        for (int y = 0; y < drawn.height(); ++y) {
-            for (int x = 0; x < drawn.width(); ++x) {
-                if ((y >= 480 && y < 560) || drawn.pixelColor(x, y).green() > 200) {
-                    continue;
-                }
-                ++reds;
-                const double dx = std::abs(x + 0.5 - centre.x());
-                const double dy = std::abs(y + 0.5 - centre.y());
-                ASSERT_TRUE(hasCross && std::min(dx, dy) <= 1 && std::max(dx, dy) <= 26)
-                    << flag << ' ' << x << ' ' << y;
-            }
-        }
-        EXPECT_GE(reds, hasCross ? 98 : 0) << flag;
+
+        view().setDrawEraseFlag(flag);
+        const QImage drawn = view().grab().toImage();
+        ASSERT_EQ(drawn.size(), expected.size());
+        EXPECT_EQ(drawn.convertToFormat(QImage::Format_RGB32),
+            expected.convertToFormat(QImage::Format_RGB32))
+            << flag << " at density " << density;
+    }
+}
+
+TEST_F(Calibration, drawsTheErasedCrossesRectangleOnceMore)
+{
+    // From the upper left corner: each reaches from a cross's height above the cross to its own
+    // lower edge there, as far as the display does.
+    const std::array<QRect, 4> rectangles{{
+        {25, 0, 50, 25},
+        {1845, 0, 50, 25},
+        {1845, 1080 - 125, 50, 50},
+        {25, 1080 - 125, 50, 50},
+    }};
+    start();
+    PaintedRegions painted(view());
+    for (int cross = 0; cross < 4; ++cross) {
+        QTest::qWait(20);
+        painted.regions.clear();
+        view().setDrawEraseFlag(32 + cross);
+        painted.wait(2);
+        ASSERT_GE(painted.regions.size(), 2U);
+        EXPECT_EQ(painted.regions[0].boundingRect(), view().rect());
+        EXPECT_EQ(painted.regions[1].boundingRect(), rectangles[static_cast<std::size_t>(cross)])
+            << cross;
+        EXPECT_EQ(painted.regions.size(), 2U) << "and no more";
     }
 }

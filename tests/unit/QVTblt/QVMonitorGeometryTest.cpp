@@ -56,6 +56,12 @@ TEST(PictureCorner, cutsQuotientsOff)
     EXPECT_EQ(QVPictureCorner({0, 9999, 0, 6249}, {0, 10000, 0, 6250}), (QVPoint{360, 34}));
 }
 
+TEST(PictureCorner, ofAFittedAreaIsWhereItEnds)
+{
+    // 80 - 5625 * 47 / 6250 = 80 - 42
+    EXPECT_EQ(QVPictureCorner({0, 10000, 0, 5625}, {0, 10000, 0, 6250}), (QVPoint{361, 38}));
+}
+
 TEST(PictureCorner, takesAreasThatAreTurnedAround)
 {
     EXPECT_EQ(QVPictureCorner({10000, 0, 6250, 0}, {0, 10000, 0, 6250}), (QVPoint{189, 127}));

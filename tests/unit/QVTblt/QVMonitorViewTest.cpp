@@ -256,20 +256,40 @@ TEST_F(DisplayPage, theFittedAreaHasTheDisplaysShape)
     EXPECT_EQ(+pushes().back().Monitor.cTabletYmax, 5625);
 }
 
-TEST_F(DisplayPage, aTabletOrADisplayWithoutAnAreaIsNotFitted)
+TEST_F(DisplayPage, aTabletWithoutWidthOrHeightIsNotFittedAndTheLogSaysSo)
 {
-    const std::vector<int> before = used();
-    qvTabletInfo.Basic.TabletYmax = 0;
-    draw();
-    testing::internal::CaptureStderr();
-    press("mAutoCalibrate");
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("no width or height"), std::string::npos);
-    EXPECT_EQ(used(), before);
-    qvTabletInfo.Basic.TabletYmax = 6250;
-    mDisplays.change({{0, 0, 0, 0}});
-    draw();
-    press("mAutoCalibrate");
-    EXPECT_EQ(used(), before);
+    const tagQVTabletInfo good = qvTabletInfo;
+    for (const auto& [xmax, ymax] : {std::pair(0, 6250), {10000, 0}, {0, 0}}) {
+        qvTabletInfo = good;
+        qvTabletInfo.Basic.TabletXmax = static_cast<std::uint16_t>(xmax);
+        qvTabletInfo.Basic.TabletYmax = static_cast<std::uint16_t>(ymax);
+        const tagQVTabletInfo before = qvTabletInfo;
+        mEvents.sent.clear();
+        testing::internal::CaptureStderr();
+        press("mAutoCalibrate");
+        EXPECT_NE(
+            testing::internal::GetCapturedStderr().find("cannot be fitted: it or the display has"),
+            std::string::npos);
+        EXPECT_TRUE(sameBytes(qvTabletInfo, before)) << xmax << " by " << ymax;
+        ASSERT_EQ(pushes().size(), 1U);
+        EXPECT_TRUE(sameBytes(pushes().back(), before));
+    }
+}
+
+TEST_F(DisplayPage, aDisplayWithoutWidthOrHeightIsNotFittedAndTheLogSaysSo)
+{
+    for (const Rect& empty : {Rect{0, 0, 0, 1080}, Rect{0, 0, 1920, 0}, Rect{}}) {
+        mDisplays.change({empty});
+        draw();
+        EXPECT_EQ(mapped(), empty);
+        const std::vector<int> before = used();
+        testing::internal::CaptureStderr();
+        press("mAutoCalibrate");
+        EXPECT_NE(
+            testing::internal::GetCapturedStderr().find("cannot be fitted: it or the display has"),
+            std::string::npos);
+        EXPECT_EQ(used(), before);
+    }
 }
 
 // Drawing -----------------------------------------------------------------------------------------
@@ -310,6 +330,35 @@ TEST_F(DisplayPage, anyNumberOfADisplayIsSafe)
     }
     EXPECT_NE(
         testing::internal::GetCapturedStderr().find("there is no display"), std::string::npos);
+}
+
+TEST_F(DisplayPage, showsATabletWithoutWidthOrHeightAndLogsItOnce)
+{
+    const tagQVTabletInfo good = qvTabletInfo;
+    for (const auto& [xmax, ymax] : {std::pair(0, 6250), {10000, 0}, {0, 0}}) {
+        qvTabletInfo = good;
+        const QImage expected = draw();
+        qvTabletInfo.Basic.TabletXmax = static_cast<std::uint16_t>(xmax);
+        qvTabletInfo.Basic.TabletYmax = static_cast<std::uint16_t>(ymax);
+        const tagQVTabletInfo before = qvTabletInfo;
+        testing::internal::CaptureStderr();
+        EXPECT_EQ(draw(), expected);
+        const std::string log = testing::internal::GetCapturedStderr();
+        EXPECT_NE(log.find("active area has no width or no height"), std::string::npos) << log;
+        testing::internal::CaptureStderr();
+        draw();
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+        EXPECT_TRUE(sameBytes(qvTabletInfo, before)) << xmax << " by " << ymax;
+    }
+}
+
+TEST_F(DisplayPage, showsAnUsedAreaWithoutWidthOrHeight)
+{
+    const QImage expected = draw();
+    qvTabletInfo.Monitor.cTabletXmin = qvTabletInfo.Monitor.cTabletXmax = 77;
+    qvTabletInfo.Monitor.cTabletYmin = qvTabletInfo.Monitor.cTabletYmax = 88;
+    EXPECT_EQ(draw(), expected);
+    EXPECT_EQ(used(), (std::vector{77, 77, 88, 88}));
 }
 
 TEST_F(DisplayPage, withoutDisplaysNothingIsMapped)

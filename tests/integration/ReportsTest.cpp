@@ -1,0 +1,284 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// Pen reports on their whole way: over a real session bus into the panel that calibrates.
+
+#include "Client.h"
+#include "DBusAppleEvents.h"
+#include "Peer.h"
+#include "PlainWire.h"
+#include "PrivateBus.h"
+#include "QVCalibrateWin.h"
+#include "QVTblt_prefPanePref.h"
+#include "SampleConfig.h"
+#include "Service.h"
+#include "TemporaryHome.h"
+#include "rzkApplication.h"
+
+#include <QDBusPendingCall>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QWindow>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <chrono>
+#include <cstring>
+#include <memory>
+#include <numeric>
+#include <thread>
+#include <vector>
+
+using namespace platform;
+using namespace std::chrono_literals;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+const QString kDriverName = QStringLiteral("org.quorvia.AppleEvents.TdSg");
+constexpr uint kPush = fourCharCode("WSnd");
+
+/** One report; the number is in the bytes that the panel does not read. */
+QByteArray report(std::uint32_t key, std::uint16_t x, std::uint16_t y, std::uint32_t number = 0)
+{
+    QByteArray bytes(12, '\0');
+    std::memcpy(bytes.data(), &key, sizeof key);
+    std::memcpy(bytes.data() + 4, &x, sizeof x);
+    std::memcpy(bytes.data() + 6, &y, sizeof y);
+    std::memcpy(bytes.data() + 8, &number, sizeof number);
+    return bytes;
+}
+
+std::uint32_t numberOf(const QByteArray& report)
+{
+    std::uint32_t number = 0;
+    std::memcpy(&number, report.constData() + 8, sizeof number);
+    return number;
+}
+
+/** A driver that answers 7 to the query and nothing to pushes, and notes when pushes arrive. */
+class ReportingDriver {
+public:
+    explicit ReportingDriver(const PrivateBus& bus)
+        : mPeer(bus, kDriverName)
+    {
+        mPeer.answer = [this](const QDBusMessage& call) {
+            if (call.arguments()[1].toUInt() == kPush) {
+                ++mPushes;
+                return call.createReply(parameters({}));
+            }
+            const std::int32_t number = 7;
+            return call.createReply(parameters({TestParameter{keyDirectObject,
+                {typeLongInteger,
+                    QDBusVariant(
+                        QByteArray(reinterpret_cast<const char*>(&number), sizeof number))}}}));
+        };
+    }
+
+    Peer& peer() { return mPeer; }
+    int pushes() const { return mPushes; }
+
+private:
+    std::atomic<int> mPushes = 0;
+    Peer mPeer;
+};
+
+/** The panel in its window, with a calibration going on. */
+class Reports : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        registerPlainWire();
+        writeFile(mHome.configFile(7), sampleConfig());
+        mPane.initWithBundle(Bundle(QStringLiteral(QVTBLT_STAGE_RESOURCES)));
+        mWindow.reset(mPane.loadMainView());
+        mPane.willSelect();
+        mWindow->show();
+        mPane.didSelect();
+        mWindow->findChild<QTabWidget*>()->setCurrentIndex(1);
+        button("mDoCalibrate").click();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
+        waitUntil([this] { return mDriver.pushes() == 1; });
+    }
+
+    QPushButton& button(const char* name)
+    {
+        return *mWindow->findChild<QPushButton*>(QString::fromLatin1(name));
+    }
+    QVCalibrateWin* window() { return mWindow->findChild<QVCalibrateWin*>(); }
+    QVCalibrateView& view() { return window()->view(); }
+    int points() { return view().changenPointValue(0); }
+
+    /** Runs the panel until something is so. */
+    template <class Condition>
+    static void waitUntil(const Condition& condition)
+    {
+        ASSERT_TRUE(QTest::qWaitFor(condition, 20000));
+    }
+
+    QDBusMessage eventOf(const Descriptors& items)
+    {
+        QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
+            QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
+            QStringLiteral("Send"));
+        call.setArguments({kAECoreSuite, kAEGetData,
+            parameters(
+                {{keyDirectObject, {typeAEList, QDBusVariant(QVariant::fromValue(items))}}})});
+        return call;
+    }
+
+    static TestDesc item(const QByteArray& bytes)
+    {
+        return {fourCharCode("rprt"), QDBusVariant(bytes)};
+    }
+
+    /** Sends an event and runs the panel until it has answered. */
+    QDBusMessage send(Peer& sender, const Descriptors& items)
+    {
+        const QDBusPendingCall pending = sender.connection().asyncCall(eventOf(items), 10000);
+        waitUntil([&pending] { return pending.isFinished(); });
+        return pending.reply();
+    }
+
+    TemporaryHome mHome;
+    PrivateBus mBus;
+    DBusAppleEvents mEvents;
+    ServiceScope<AppleEvents> mScope{mEvents};
+    ReportingDriver mDriver{mBus};
+    QVTblt_prefPanePref mPane;
+    std::unique_ptr<QWidget> mWindow;
+};
+
+/** How the flood is made. */
+constexpr std::uint32_t kEvents = 1000;
+constexpr auto kBetweenEvents = 5ms;
+constexpr std::uint32_t kReportsInEvent = 100; ///< 20000 in a second
+static_assert(kReportsInEvent % 3 != 0);
+
+/**
+ * The n-th event of a flood in which there is no lift, unless somebody misses a report, or reads
+ * what stands between two of them.
+ *
+ * Key states go down, neither, up, again and again. Without the one that is neither, down and up
+ * are a lift. The number of reports is none of three, so that each place in an event has its turn.
+ * Between down and neither stands an up, and between neither and up stands a down.
+ */
+Descriptors floodEvent(std::uint32_t n)
+{
+    constexpr std::array<std::uint32_t, 3> kReports{1, 2, 0};
+    constexpr std::array<std::uint32_t, 3> kBetween{0, 1, 1};
+    Descriptors items;
+    items.reserve(2 * kReportsInEvent);
+    for (std::uint32_t i = 0; i < kReportsInEvent; ++i) {
+        const std::uint32_t number = n * kReportsInEvent + i;
+        items.append(
+            {fourCharCode("rprt"), QDBusVariant(report(kReports[number % 3], 5000, 5000, number))});
+        items.append(
+            {fourCharCode("rprt"), QDBusVariant(report(kBetween[number % 3], 9000, 9000))});
+    }
+    return items;
+}
+
+} // namespace
+
+TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
+{
+    std::vector<std::uint32_t> seen;
+    seen.reserve(std::size_t{kEvents} * kReportsInEvent);
+    // What the view has installed, and a note of what comes to it.
+    mEvents.installEventHandler(
+        kAECoreSuite, kAEGetData, [&](const AppleEvent& event, AppleEvent& reply) {
+            const auto& list = std::get<AEList>(find(event.parameters, keyDirectObject)->data);
+            for (std::size_t i = 0; i < list.size(); i += 2) {
+                seen.push_back(numberOf(*list[i].bytes()));
+            }
+            return QVTabletGetDatahandler(event, reply, &view());
+        });
+
+    std::vector<QDBusPendingCall> answers;
+    answers.reserve(kEvents);
+    Clock::duration sending{};
+    std::atomic<bool> isOver = false;
+    std::vector<QDBusMessage> calls;
+    for (std::uint32_t n = 0; n < kEvents; ++n) {
+        calls.push_back(eventOf(floodEvent(n)));
+    }
+    std::thread flood([&] {
+        const Clock::time_point start = Clock::now();
+        for (std::uint32_t n = 0; n < kEvents; ++n) {
+            std::this_thread::sleep_until(start + n * kBetweenEvents);
+            answers.push_back(mDriver.peer().connection().asyncCall(calls[n], 60000));
+        }
+        sending = Clock::now() - start;
+    });
+
+    // The window system tells of a click; its answer is the push that reaches the driver.
+    QPushButton& clicked = button("mDefaultArea");
+    QWindow* const target = mWindow->windowHandle();
+    const QPointF local = clicked.mapTo(mWindow.get(), clicked.rect().center());
+    const QPointF global = clicked.mapToGlobal(clicked.rect().center());
+    std::vector<double> clicks; // milliseconds
+    std::thread user([&] {
+        const Clock::time_point start = Clock::now();
+        for (int i = 1; i < 20; ++i) {
+            std::this_thread::sleep_until(start + i * 250ms);
+            const int before = mDriver.pushes();
+            const Clock::time_point click = Clock::now();
+            for (const QEvent::Type type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+                qt_handleMouseEvent(target, local, global,
+                    type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
+                    Qt::LeftButton, type, Qt::NoModifier, 1000 * i);
+            }
+            while (mDriver.pushes() == before && Clock::now() - click < 5s) {
+                std::this_thread::sleep_for(1ms);
+            }
+            clicks.push_back(
+                std::chrono::duration<double, std::milli>(Clock::now() - click).count());
+        }
+        isOver = true;
+    });
+    waitUntil([&isOver] { return isOver.load(); });
+    flood.join();
+    user.join();
+    waitUntil([&answers] { return answers.back().isFinished(); });
+
+    EXPECT_LT(sending, 5500ms) << "it was no flood";
+    for (const QDBusPendingCall& answer : answers) {
+        ASSERT_TRUE(answer.isValid()) << qPrintable(answer.error().message());
+    }
+    std::vector<std::uint32_t> all(std::size_t{kEvents} * kReportsInEvent);
+    std::iota(all.begin(), all.end(), 0U);
+    EXPECT_EQ(seen, all) << "every event came, in order";
+    EXPECT_EQ(points(), 0) << "of every event, every odd item was read, and no other";
+    EXPECT_EQ(mDriver.pushes(), 1 + 19);
+    EXPECT_LT(*std::max_element(clicks.begin(), clicks.end()), 100);
+
+    send(mDriver.peer(), {item(report(1, 5000, 5000)), item({}), item(report(0, 5000, 5000))});
+    EXPECT_EQ(points(), 1) << "a lift is one still";
+}
+
+TEST_F(Reports, fromAnotherProgramThanTheDriverAreRefused)
+{
+    Peer stranger(mBus);
+    testing::internal::CaptureStderr();
+    for (const std::uint32_t key : {1U, 0U}) {
+        const QDBusMessage answer = send(stranger, {item(report(key, 5000, 5000))});
+        EXPECT_EQ(answer.errorName(), QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
+    }
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("refused an event"), std::string::npos);
+    EXPECT_EQ(points(), 0);
+
+    // The stranger's report of a pen that is down is not joined to the driver's of one that is up.
+    send(stranger, {item(report(1, 5000, 5000))});
+    send(mDriver.peer(), {item(report(0, 5000, 5000))});
+    EXPECT_EQ(points(), 0);
+    send(mDriver.peer(), {item(report(1, 5000, 5000))});
+    send(mDriver.peer(), {item(report(0, 5000, 5000))});
+    EXPECT_EQ(points(), 1);
+    EXPECT_EQ(mDriver.pushes(), 1);
+}

@@ -1,0 +1,57 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""What is told of real displays that come, go and move: when it begins, and when all is at rest.
+
+Usage: displays_test.py DISPLAY-NOTICES, the program that prints what it is told
+"""
+
+import queue
+import subprocess
+import sys
+import threading
+import unittest
+
+import displays
+
+NOTICES = sys.argv.pop(1)
+
+
+class Notices(displays.Displays):
+    def setUp(self):
+        super().setUp()
+        self.lines = queue.Queue()
+        program = self.start([NOTICES], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        threading.Thread(target=lambda: [self.lines.put(line.split()) for line in program.stdout],
+                         daemon=True).start()
+        self.assertEqual(self.lines.get(timeout=20), ["now", "0,0,1024,768*"])
+
+    def expect_change(self, *bounds):
+        """One change: it begins once, ends once, and then all displays are where they belong."""
+        self.assertEqual(self.lines.get(timeout=20)[0], "begin")
+        what, *places = self.lines.get(timeout=20)
+        self.assertEqual((what, sorted(places)), ("end", sorted(bounds)))
+
+    def test_the_end_is_told_when_all_displays_have_come_to_rest(self):
+        # To the right: nothing else moves.
+        self.plug(1, "800x600", "1024x0")
+        self.expect_change("0,0,1024,768*", "1024,0,800,600")
+        # To the left: the main display moves aside, and its coordinates with it.
+        self.run_program("xrandr", "--addmode", "DUMMY2", "640x480")
+        self.xrandr("--output", "DUMMY2", "--mode", "640x480", "--pos", "0x0",
+                    "--output", "DUMMY0", "--pos", "640x0", "--output", "DUMMY1", "--pos", "1664x0")
+        self.expect_change("-640,0,640,480", "0,0,1024,768*", "1024,0,800,600")
+        # Another becomes the main one, with a gap below it and above the others.
+        self.xrandr("--output", "DUMMY1", "--primary", "--pos", "700x900")
+        self.expect_change("-700,-900,640,480", "-60,-900,1024,768", "0,0,800,600*")
+        # The main one goes.
+        self.xrandr("--output", "DUMMY1", "--off", "--output", "DUMMY0", "--primary")
+        self.expect_change("-640,0,640,480", "0,0,1024,768*")
+        # Upright, as one that is turned; this X server cannot turn its displays itself.
+        self.xrandr("--newmode", "upright", *"25 480 496 544 640 640 650 652 680".split())
+        self.plug(2, "upright", "0x0")
+        self.expect_change("-640,0,480,640", "0,0,1024,768*")
+        self.assertTrue(self.lines.empty())
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,69 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""A calibration on the second display of a Wayland desktop, from its window to its end."""
+
+import plistlib
+import struct
+import unittest
+
+import session
+import wayland
+
+BLACK = (0, 0, 0)
+# The crosses stand 50 points in: 1180 and 620 points of 1280 by 720 apart, here ten units each.
+TAPS = ((1000, 2000), (12800, 2000), (12800, 8200), (1000, 8200))
+CROSSES = ((50, 50), (1230, 50), (1230, 670), (50, 670))
+AREA = (500, 13300, 1500, 8700)
+
+
+def is_yellow(pixel):
+    """Seven tenths of it, above black."""
+    return all(abs(part - wanted) < 6 for part, wanted in zip(pixel, (178, 178, 0)))
+
+
+def is_red(pixel):
+    return pixel[0] > 170 and pixel[1] < 90 and pixel[2] < 40
+
+
+class WaylandCalibration(wayland.Wayland):
+    def setUp(self):
+        super().setUp()
+        self.start_driver()
+        settings = plistlib.loads(self.config().read_bytes())
+        settings["Monitor"]["num"] = 2
+        self.config().write_bytes(plistlib.dumps(settings))
+        self.start([session.BIN / "qvtblt"], **self.QUIET)
+
+    def crosses(self):
+        """The crosses that the second display shows, by their numbers."""
+        pixel = self.pixels("Virtual-1")
+        return [number for number, (x, y) in enumerate(CROSSES)
+                if any(is_red(pixel(x + 15, y + i)) for i in (-1, 0))
+                and any(is_red(pixel(x + i, y + 15)) for i in (-1, 0))]
+
+    def test_it_covers_the_chosen_display_and_runs_to_its_end(self):
+        self.press("qvtblt", "Display", "page tab")
+        self.press("qvtblt", "Calibrate…", "push button")
+        session.wait_for(lambda: self.crosses() == [0], "the first cross")
+        pixel = self.pixels("Virtual-1")
+        for x in (0, 640, 1279):
+            for y in (0, 600, 719):
+                self.assertTrue(is_yellow(pixel(x, y)), (x, y, pixel(x, y)))
+        first = self.pixels("Virtual-0")
+        self.assertFalse(any(is_yellow(first(x, y))
+                             for x in range(0, 1280, 10) for y in range(0, 720, 10)))
+
+        for number, (x, y) in enumerate(TAPS):
+            session.wait_for(lambda number=number: self.crosses() == [number], f"cross {number}")
+            result = self.ctl("sim", "tap", x, y)
+            self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.press("qvtblt", "OK", "push button")
+        session.wait_for(lambda: self.pixels("Virtual-1")(640, 600) == BLACK, "the window's end")
+        self.assertEqual(struct.unpack_from("<4h", self.record(), 295), (1280, 1280, 0, 720))
+        self.assertEqual(struct.unpack_from("<4H", self.record(), 303), AREA)
+        self.assertEqual(struct.unpack_from("<h", self.record(), 293), (0,))
+
+
+if __name__ == "__main__":
+    unittest.main()

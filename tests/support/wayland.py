@@ -1,0 +1,57 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""A Wayland desktop with two displays side by side and no hardware: KWin, drawing into memory."""
+
+import os
+import shutil
+
+import dbus
+
+import desktop
+import session
+
+
+class Wayland(desktop.Desktop):
+    """Its displays are Virtual-0 and, to the right of it, Virtual-1, of 1280 by 720 points each."""
+
+    def start_display(self):
+        # The installed file asks for a capability that a container may not give.
+        kwin = shutil.copy("/usr/bin/kwin_wayland", self.folder)
+        self.env.update({
+            "KWIN_COMPOSE": "O2",  # else there are no pictures of the screen
+            "KWIN_SCREENSHOT_NO_PERMISSION_CHECKS": "1",
+            "LIBGL_ALWAYS_SOFTWARE": "1",
+            "QT_QPA_PLATFORM": "wayland",
+            "WAYLAND_DISPLAY": "qvtblt-test",
+        })
+        self.start([kwin, "--virtual", "--output-count", "2", "--width", "1280", "--height", "720",
+                    "--no-lockscreen", "--no-global-shortcuts",
+                    "--socket", self.env["WAYLAND_DISPLAY"]], **self.QUIET)
+        session.wait_for(lambda: self.has_name("org.kde.KWin"), "KWin")
+        bus = dbus.bus.BusConnection(self.env["DBUS_SESSION_BUS_ADDRESS"])
+        self.addCleanup(bus.close)
+        self.kwin = session.wait_for(lambda: self.screenshots(bus), "KWin's pictures")
+
+    @staticmethod
+    def screenshots(bus):
+        path = "/org/kde/KWin/ScreenShot2"
+        try:
+            bus.call_blocking("org.kde.KWin", path, "org.freedesktop.DBus.Peer", "Ping", "", ())
+            return dbus.Interface(bus.get_object("org.kde.KWin", path, introspect=False),
+                                  "org.kde.KWin.ScreenShot2")
+        except dbus.DBusException:
+            return None  # it has only just begun
+
+    def pixels(self, display):
+        """What a display shows: a function that gives (red, green, blue) at a place."""
+        read, write = os.pipe()
+        with os.fdopen(read, "rb") as pipe:
+            descriptor = dbus.types.UnixFd(write)  # which is another one
+            os.close(write)
+            picture = self.kwin.CaptureScreen(display, dbus.Dictionary(signature="sv"), descriptor)
+            del descriptor
+            data = pipe.read()
+        stride = int(picture["stride"])
+        self.assertEqual((int(picture["width"]), int(picture["height"]), len(data)),
+                         (1280, 720, 720 * stride))
+        return lambda x, y: tuple(data[y * stride + 4 * x:][2::-1])
