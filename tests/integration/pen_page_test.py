@@ -7,12 +7,15 @@ import subprocess
 import unittest
 
 import desktop
+import pens
 import session
 
 BLACK, GREY, WHITE = "#000000", "#C0C0C0", "#FFFFFF"
 
 
-class PenPage(desktop.Desktop):
+class Panel:
+    """The panel at its pen page, and where things are there."""
+
     def setUp(self):
         super().setUp()
         self.start_driver()
@@ -22,11 +25,13 @@ class PenPage(desktop.Desktop):
         self.curve = self.find("qvtblt", "Pressure curve")
         self.slider = self.find("qvtblt", "Pressure, from light to heavy", "slider")
 
-    def threshold(self):
-        return struct.unpack_from("<h", self.record(), 283)[0]
-
     def on_pad(self, x, y):
         return self.pad["x"] + x, self.pad["y"] + y
+
+
+class PenPage(Panel, desktop.Desktop):
+    def threshold(self):
+        return struct.unpack_from("<h", self.record(), 283)[0]
 
     def press_on_pad(self, *places):
         """Presses at the first place and drags to the others; the button stays down."""
@@ -129,6 +134,30 @@ class PenPage(desktop.Desktop):
         self.wait_for_pixel(self.on_pad(25, 60), BLACK)
         self.xdotool("key", "alt+r")
         self.wait_for_pixel(self.on_pad(25, 60), GREY)
+
+
+class RealPen(Panel, pens.Pens):
+    """A pen that the X server has, with pressure and an eraser."""
+
+    def line(self, pen, y, pressure):
+        """Draws a line across the pad at one pressure, long enough to smooth it."""
+        pen.stroke([(*self.on_pad(20 + step, y), pressure) for step in range(300)])
+
+    def height_of_line(self, y):
+        """How many pixels of a line are black near its end, from the one end to the other."""
+        return self.pixels(*self.on_pad(300, y - 40), 1, 80).count(BLACK)
+
+    def test_a_line_is_as_wide_as_the_pen_presses_and_the_eraser_wipes_it(self):
+        pen = self.pen()
+        self.line(pen, 60, 0.2)
+        self.line(pen, 150, 0.8)
+        self.find("qvtblt", "Pen", "label")
+        session.wait_for(lambda: abs(self.height_of_line(60) - 10) <= 2, "a line of 10 points")
+        session.wait_for(lambda: abs(self.height_of_line(150) - 40) <= 2, "a line of 40 points")
+        self.line(self.pen("eraser"), 60, 0.5)
+        self.find("qvtblt", "Eraser", "label")
+        session.wait_for(lambda: self.height_of_line(60) == 0, "the eraser")
+        self.assertAlmostEqual(self.height_of_line(150), 40, delta=2)
 
 
 if __name__ == "__main__":

@@ -29,9 +29,13 @@ EndSection
 class Displays(desktop.Desktop):
     """Starts with the display DUMMY0 of 1024 by 768 points."""
 
+    def configuration(self):
+        """The server's."""
+        return XORG_CONFIG
+
     def x_server(self):
         config = self.folder / "xorg.conf"
-        config.write_text(XORG_CONFIG)
+        config.write_text(self.configuration())
         return ["/usr/lib/xorg/Xorg", "-config", config, "-logfile", self.folder / "xorg.log",
                 "-novtswitch", "-sharevts"]
 
