@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 #include <QFontDatabase>
+#include <QScrollBar>
 
 #include <initializer_list>
 #include <memory>
@@ -60,6 +61,11 @@ void QVTblt_prefPanePref::setUpDisplayPage()
 {
     mMonitorView->setOutlets(mComboBox, mComboBoxSpeed, mComboBoxUseMode);
     mMonitorView->awakeFromNib();
+    // Where there is no room for the whole picture, the part with the tablet and the main display.
+    QScrollBar* const upDown = mMonitorScroll->verticalScrollBar();
+    connect(upDown, &QScrollBar::rangeChanged, upDown,
+        [upDown] { upDown->setValue(upDown->maximum()); });
+    mMonitorScroll->viewport()->setAutoFillBackground(false);
     const auto chosen = qOverload<int>(&QComboBox::activated);
     connect(mComboBox, chosen, mMonitorView, &QVMonitorView::SelectMonitor);
     connect(mComboBoxSpeed, chosen, mMonitorView, &QVMonitorView::SelectSpeed);
