@@ -4,6 +4,7 @@
 
 #include "AppleEvents.h"
 #include "Client.h"
+#include "Notifications.h"
 #include "QVNSView.h"
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
@@ -12,7 +13,6 @@
 #include <QFontDatabase>
 #include <QScrollBar>
 
-#include <initializer_list>
 #include <memory>
 
 platform::Bundle rzkBundle;
@@ -27,6 +27,8 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
         QCoreApplication::installTranslator(&mTranslator);
     }
     platform::events().acceptEventsFrom(kQVDriverSignature);
+    platform::notifications().addObserver(*this, kRecordPushedNotification,
+        [this](const platform::Notification&) { mayHaveChanged(); });
     return pane;
 }
 
@@ -82,9 +84,9 @@ void QVTblt_prefPanePref::willSelect()
     tabView->setVisible(hasDevice);
     NoDevTitle->setVisible(!hasDevice);
     // Without a tablet there is nothing to name, to save or to cancel.
-    for (QWidget* const control : std::initializer_list<QWidget*>{mSoft, mSave, mCancel}) {
-        control->setVisible(hasDevice);
-    }
+    mSoft->setVisible(hasDevice);
+    mSave->setVisible(hasDevice && mButtonsShown);
+    mCancel->setVisible(hasDevice && mButtonsShown);
     if (!hasDevice) {
         showNoDevice();
         return;

@@ -43,6 +43,11 @@ public:
     /** Puts the controls that a model's layout has moved back. */
     void didUnselect() override;
 
+    void save() override { SaveSet(); }
+    void cancel() override { CancelSet(); }
+    bool hasChanges() const override { return hasUnsavedFields(); }
+    void setButtonsShown(bool shown) override { mButtonsShown = shown; }
+
     /** Saves the record into its file and pushes it. */
     void SaveSet();
     /**
@@ -95,6 +100,7 @@ private:
     void askForKeys(QVKeyComboBox& comboBox);
 
     QTranslator mTranslator; ///< of the panel's own texts
+    bool mButtonsShown = true; ///< Save and Cancel, where there is a tablet
     QVKeySetClass* mKeyset = nullptr; ///< belongs to the main view
     QString mFileName; ///< path of the application last chosen
 
