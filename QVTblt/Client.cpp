@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Client.h"
 
+#include "Notifications.h"
 #include "QVTabletModels.h"
 #include "Sleep.h"
 #include "rzkApplication.h"
@@ -49,9 +50,8 @@ platform::IOReturn setReportMode(platform::UsbDeviceInterface& device, std::uint
     return device.deviceRequest(request);
 }
 
-} // namespace
-
-bool ConnectToDriver(const void* record, std::int32_t length)
+/** ConnectToDriver() without the notice. */
+bool sendRecord(const void* record, std::int32_t length)
 {
     using namespace platform;
     AppleEvents& service = events();
@@ -79,6 +79,15 @@ bool ConnectToDriver(const void* record, std::int32_t length)
     service.send(settings, nullptr, kAEWaitReply, kAEHighPriority, kQVDriverTimeOut);
     std::fputs("ConnectToDriver ok\n", stderr);
     return true;
+}
+
+} // namespace
+
+bool ConnectToDriver(const void* record, std::int32_t length)
+{
+    const bool isSent = sendRecord(record, length);
+    platform::notifications().post({kRecordPushedNotification, nullptr, {}});
+    return isSent;
 }
 
 void PushQVTabletInfo()

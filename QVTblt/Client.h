@@ -4,8 +4,13 @@
 
 #include "Usb.h"
 
+#include <QLatin1String>
+
 #include <cstdint>
 #include <memory>
+
+/** Posted after each push, whatever became of it: the record has been edited, or loaded again. */
+inline constexpr QLatin1String kRecordPushedNotification("kRecordPushedNotification");
 
 /**
  * Pushes the settings to the driver, so that a change works at once. Never waits for the driver.

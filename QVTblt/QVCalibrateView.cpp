@@ -192,7 +192,7 @@ std::int32_t QVCalibrateView::changenPointValue(std::int32_t delta)
 void QVCalibrateView::disableTablet(std::int16_t flag)
 {
     qvTabletInfo.Monitor.disableFlag = flag;
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+    PushQVTabletInfo();
 }
 
 void QVCalibrateView::setQVTabletRectInfo(
@@ -202,7 +202,7 @@ void QVCalibrateView::setQVTabletRectInfo(
     qvTabletInfo.Monitor.cTabletXmax = xmax;
     qvTabletInfo.Monitor.cTabletYmin = ymin;
     qvTabletInfo.Monitor.cTabletYmax = ymax;
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+    PushQVTabletInfo();
 }
 
 std::uint16_t QVCalibrateView::getQVTabletRectInfoXmin() const

@@ -92,7 +92,37 @@ void mapSingleDisplay()
     monitor.Height = QVTruncate(area.height);
 }
 
+/** Whether a field is nothing that the user has chosen: it is of the moment, or follows. */
+bool isOfTheMoment(const QVSection& section, const QVField& field)
+{
+    if (section.fields.data() != kQVMonitorFields.data()) {
+        return false;
+    }
+    switch (field.offset) {
+    case offsetof(tagQVTabletInfo, Monitor.disableFlag):
+    case offsetof(tagQVTabletInfo, Monitor.XOrg):
+    case offsetof(tagQVTabletInfo, Monitor.Width):
+    case offsetof(tagQVTabletInfo, Monitor.YOrg):
+    case offsetof(tagQVTabletInfo, Monitor.Height):
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool isSame(const QVField& field, const std::byte* one, const std::byte* other)
+{
+    return field.type == QVFieldType::String
+        ? QVFieldString(field, one) == QVFieldString(field, other)
+        : QVFieldNumber(field, one) == QVFieldNumber(field, other);
+}
+
 } // namespace
+
+QVConfigStore::QVConfigStore()
+    : mInFile(qvTabletInfo)
+{
+}
 
 std::string QVConfigStore::configPath()
 {
@@ -115,18 +145,34 @@ void QVConfigStore::ReadQVConfigPlist()
     if (list->root().dictionary(kQVMonitorSection.key).exists()) {
         mapSingleDisplay();
     }
+    mInFile = qvTabletInfo;
 }
 
 std::string QVConfigStore::WriteQVConfigPlist()
 {
     platform::PropertyListError error;
     if (saveRecord(configPath(), error)) {
+        mInFile = qvTabletInfo;
         return {};
     }
     if (!error.missing) {
         qCWarning(lcStore, "%s", error.message.c_str());
     }
     return error.message;
+}
+
+bool QVConfigStore::hasUnsavedFields() const
+{
+    const auto* const record = reinterpret_cast<const std::byte*>(&qvTabletInfo);
+    const auto* const file = reinterpret_cast<const std::byte*>(&mInFile);
+    bool isChanged = false;
+    QVForEachField(
+        [&](const QVSection& section, const char*, const QVField& field, std::size_t base) {
+            isChanged = isChanged
+                || (section.saved && !isOfTheMoment(section, field)
+                    && !isSame(field, record + base, file + base));
+        });
+    return isChanged;
 }
 
 std::optional<platform::PropertyList> QVConfigStore::loadRecord(

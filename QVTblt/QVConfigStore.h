@@ -4,6 +4,7 @@
 
 #include "PropertyList.h"
 #include "QVTabletFields.h"
+#include "tagQVTabletInfo.h"
 
 #include <cstdint>
 #include <optional>
@@ -19,6 +20,8 @@
  */
 class QVConfigStore {
 public:
+    QVConfigStore();
+
     /**
      * Loads the file into the record. What it lacks, and what is of the wrong type, keeps its
      * value. With a single display, the mapped area is that display's, whatever the file says.
@@ -31,6 +34,16 @@ public:
      * @return why it could not be, for people; empty on success
      */
     std::string WriteQVConfigPlist();
+
+    /**
+     * Whether the record holds choices of the user's that the file does not: whether a field that
+     * is saved has another value than when the file was last loaded or saved. Before that, the
+     * record is taken to be as it was when the store was made.
+     *
+     * Not among them are the calibration's flag, and the mapped area, which follows from num and
+     * the displays that there are, whenever they are drawn.
+     */
+    bool hasUnsavedFields() const;
 
     /** Copies a slot's dictionary into slot i of the record, i from 0 to 17. */
     void GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
@@ -59,4 +72,6 @@ public:
 private:
     void readSection(const platform::Dictionary& dictionary, const QVSection& section);
     void writeSection(const platform::Dictionary& dictionary, const QVSection& section);
+
+    tagQVTabletInfo mInFile; ///< the record when it and the file were last the same
 };

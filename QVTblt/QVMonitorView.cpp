@@ -33,11 +33,6 @@ constexpr std::int16_t kTurned = 180;
 /** Whether displays have begun to change; of all views together. */
 bool DisplayConfigurationChanged = false;
 
-void push()
-{
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
-}
-
 QString displayName(std::uint32_t index)
 {
     const QString display = rzkBundle.localizedString(
@@ -259,7 +254,7 @@ void QVMonitorView::SelectMonitor()
         }
     }
     setNeedsDisplay();
-    push();
+    PushQVTabletInfo();
 }
 
 void QVMonitorView::SelectSpeed()
@@ -277,7 +272,7 @@ void QVMonitorView::SelectSpeed()
     default:
         break;
     }
-    push();
+    PushQVTabletInfo();
 }
 
 void QVMonitorView::SelectUseMode()
@@ -292,13 +287,13 @@ void QVMonitorView::SelectUseMode()
     default:
         break;
     }
-    push();
+    PushQVTabletInfo();
 }
 
 void QVMonitorView::setTabletDefaultArea()
 {
     setUsedArea(*pQVInfo, wholeArea(*pQVInfo));
-    push();
+    PushQVTabletInfo();
 }
 
 void QVMonitorView::AutoCalibrate()
@@ -315,11 +310,14 @@ void QVMonitorView::AutoCalibrate()
             lcMonitor, "the tablet cannot be fitted: it or the display has no width or height");
     }
     setNeedsDisplay();
-    push();
+    PushQVTabletInfo();
 }
 
 void QVMonitorView::CreateCalibrateWin(const Rect& rect)
 {
+    if (!mCalibration.isNull()) {
+        mCalibration->removeAndClose(); // one at a time: the driver's points go to the newest
+    }
     mCalibration = new QVCalibrateWin(rect, window()); // it is the window's, and closes with it
 }
 
@@ -328,7 +326,7 @@ void QVMonitorView::DoCalibrate()
     pQVInfo->Monitor.disableFlag = 1;
     if (mDspCount == 1) {
         CreateCalibrateWin(mSubMonitorRect[0]);
-        push();
+        PushQVTabletInfo();
         return;
     }
     const int chosen = mComboBox->currentIndex();
@@ -339,7 +337,7 @@ void QVMonitorView::DoCalibrate()
     const platform::Displays& service = platform::displays();
     if (service.isMain(mDisplays[index])) {
         CreateCalibrateWin(mSubMonitorRect[0]);
-        push();
+        PushQVTabletInfo();
         return;
     }
     const auto main = std::ranges::find_if(
@@ -352,7 +350,7 @@ void QVMonitorView::DoCalibrate()
     const Rect& m = mSubMonitorRect[static_cast<std::size_t>(main - mDisplays.begin())];
     const Rect& s = mSubMonitorRect[index];
     CreateCalibrateWin({s.x + m.x, (m.y + m.height) - (s.y + s.height), s.width, s.height});
-    push();
+    PushQVTabletInfo();
 }
 
 void QVMonitorView::endCalibration()

@@ -12,9 +12,9 @@
 #include <QAccessible>
 #include <QCoreApplication>
 #include <QFontDatabase>
+#include <QScrollBar>
 
 #include <algorithm>
-#include <initializer_list>
 #include <memory>
 
 platform::Bundle rzkBundle;
@@ -29,6 +29,8 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
         QCoreApplication::installTranslator(&mTranslator);
     }
     platform::events().acceptEventsFrom(kQVDriverSignature);
+    platform::notifications().addObserver(*this, kRecordPushedNotification,
+        [this](const platform::Notification&) { mayHaveChanged(); });
     return pane;
 }
 
@@ -76,6 +78,11 @@ void QVTblt_prefPanePref::setUpDisplayPage()
 {
     mMonitorView->setOutlets(mComboBox, mComboBoxSpeed, mComboBoxUseMode);
     mMonitorView->awakeFromNib();
+    // Where there is no room for the whole picture, the part with the tablet and the main display.
+    QScrollBar* const upDown = mMonitorScroll->verticalScrollBar();
+    connect(upDown, &QScrollBar::rangeChanged, upDown,
+        [upDown] { upDown->setValue(upDown->maximum()); });
+    mMonitorScroll->viewport()->setAutoFillBackground(false);
     const auto chosen = qOverload<int>(&QComboBox::activated);
     connect(mComboBox, chosen, mMonitorView, &QVMonitorView::SelectMonitor);
     connect(mComboBoxSpeed, chosen, mMonitorView, &QVMonitorView::SelectSpeed);
@@ -93,9 +100,10 @@ void QVTblt_prefPanePref::willSelect()
     NoDevTitle->setVisible(!hasDevice);
     NoDevHelp->setVisible(!hasDevice);
     // Without a tablet there is nothing to name, to save or to cancel.
-    for (QWidget* const control : std::initializer_list<QWidget*>{mSoft, mNotice, mSave, mCancel}) {
-        control->setVisible(hasDevice);
-    }
+    mSoft->setVisible(hasDevice);
+    mNotice->setVisible(hasDevice);
+    mSave->setVisible(hasDevice && mButtonsShown);
+    mCancel->setVisible(hasDevice && mButtonsShown);
     if (!hasDevice) {
         showNoDevice();
         return;
@@ -171,7 +179,7 @@ void QVTblt_prefPanePref::followDriver()
     }
 }
 
-void QVTblt_prefPanePref::save()
+void QVTblt_prefPanePref::writeFile()
 {
     mSaveError = WriteQVConfigPlist();
     showNotice();
@@ -179,7 +187,7 @@ void QVTblt_prefPanePref::save()
 
 void QVTblt_prefPanePref::showNotice()
 {
-    if (mNotice == nullptr) {
+    if (mainView() == nullptr) {
         return; // the main view has gone before the pane
     }
     QString text;
@@ -204,7 +212,7 @@ void QVTblt_prefPanePref::willUnselect()
 {
     // The driver must not be left waiting for points that nobody asks for.
     mMonitorView->endCalibration();
-    save();
+    writeFile();
 }
 
 void QVTblt_prefPanePref::didUnselect()
@@ -217,7 +225,7 @@ void QVTblt_prefPanePref::didUnselect()
 void QVTblt_prefPanePref::SaveSet()
 {
     takeScrollBoxes();
-    save();
+    writeFile();
     PushQVTabletInfo();
 }
 

@@ -44,6 +44,11 @@ public:
     /** Puts the controls that a model's layout has moved back. */
     void didUnselect() override;
 
+    void save() override { SaveSet(); }
+    void cancel() override { CancelSet(); }
+    bool hasChanges() const override { return hasUnsavedFields(); }
+    void setButtonsShown(bool shown) override { mButtonsShown = shown; }
+
     /** Saves the record into its file and pushes it. */
     void SaveSet();
     /**
@@ -86,7 +91,7 @@ private:
     void showModel();
     void showNoDevice();
     void placeNoDeviceHelp();
-    void save();
+    void writeFile();
     void showNotice();
     void followDriver();
     void takeScrollBoxes();
@@ -99,9 +104,10 @@ private:
     void takeApplication(QVKeyComboBox& comboBox, tagQVTabletInfoSubKey& slot);
     void askForKeys(QVKeyComboBox& comboBox);
 
+    QTranslator mTranslator; ///< of the panel's own texts
     bool mPushFailed = false; ///< the driver has not taken the latest push
     std::string mSaveError; ///< why the latest save failed; empty when it did not
-    QTranslator mTranslator; ///< of the panel's own texts
+    bool mButtonsShown = true; ///< Save and Cancel, where there is a tablet
     QVKeySetClass* mKeyset = nullptr; ///< belongs to the main view
     QString mFileName; ///< path of the application last chosen
 

@@ -33,11 +33,6 @@ constexpr int kCommitted = 100;
 /** From a box to its number, in points. */
 constexpr double kLabelDistance = 32.0;
 
-void push()
-{
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
-}
-
 /** The item for a slot; NoAction where the slot says nothing that is known. */
 QVKeyComboBox::Item itemOf(const tagQVTabletInfoSubKey& slot)
 {
@@ -360,7 +355,7 @@ void QVTblt_prefPanePref::SelectKey(QVKeyComboBox* comboBox)
     default:
         break;
     }
-    push();
+    PushQVTabletInfo();
 }
 
 void QVTblt_prefPanePref::takeApplication(QVKeyComboBox& comboBox, tagQVTabletInfoSubKey& slot)
@@ -377,7 +372,7 @@ void QVTblt_prefPanePref::takeApplication(QVKeyComboBox& comboBox, tagQVTabletIn
     comboBox.replaceItem(QVKeyComboBox::Application, mFileName);
     slot.Valid = 2;
     storePath(mFileName, slot.App);
-    push(); // and a second time on leaving, as after every choice
+    PushQVTabletInfo(); // and a second time on leaving, as after every choice
 }
 
 void QVTblt_prefPanePref::askForKeys(QVKeyComboBox& comboBox)
@@ -389,7 +384,7 @@ void QVTblt_prefPanePref::askForKeys(QVKeyComboBox& comboBox)
         return;
     }
     if (comboBox.maxVisibleItems() == QVKeySetClass::kStored) {
-        push();
+        PushQVTabletInfo();
         comboBox.setMaxVisibleItems(kCommitted + QVKeyComboBox::KeyCombination);
     } else if (qvTabletInfo.Key.SubKey[static_cast<std::size_t>(comboBox.tag())].Valid != 3) {
         comboBox.setCurrentIndex(comboBox.maxVisibleItems() - kCommitted);
@@ -416,11 +411,11 @@ void QVTblt_prefPanePref::takeScrollBoxes()
 void QVTblt_prefPanePref::SelectScroll()
 {
     takeScrollBoxes();
-    push();
+    PushQVTabletInfo();
 }
 
 void QVTblt_prefPanePref::ScrollSpeed(const QSlider* slider)
 {
     qvTabletInfo.Key.ScrollSpeed = static_cast<std::int16_t>(slider->value());
-    push();
+    PushQVTabletInfo();
 }

@@ -191,9 +191,10 @@ public:
         watcher->deleteLater();
     }
 
-private Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     void noteChange() { notifications().post({kSourceChangedNotification, nullptr, {}}); }
 
+private:
     void connectAgain()
     {
         disconnect();

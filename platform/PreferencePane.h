@@ -9,7 +9,9 @@
 #include <QWidget>
 #include <QtPlugin>
 
+#include <functional>
 #include <memory>
+#include <utility>
 
 namespace platform {
 
@@ -49,8 +51,35 @@ public:
     virtual void willUnselect() { }
     virtual void didUnselect() { }
 
+    // For a host that has buttons of its own for the pane's settings:
+
+    /** Makes the settings permanent. */
+    virtual void save() { }
+    /**
+     * Goes back to the settings that were saved last. The controls may keep showing what the user
+     * has given up, until the pane is shown anew.
+     */
+    virtual void cancel() { }
+    /** Whether there is something that save() would make permanent and cancel() give up. */
+    virtual bool hasChanges() const { return false; }
+    /** Takes what is called, on the main thread, each time hasChanges() may have another answer. */
+    void setChangeHandler(std::function<void()> handler) { mChangeHandler = std::move(handler); }
+    /**
+     * Whether the pane shows its own buttons for save() and cancel(), from the next showing on. It
+     * does unless told.
+     */
+    virtual void setButtonsShown(bool shown) { static_cast<void>(shown); }
+
 protected:
     const Bundle& bundle() const { return mBundle; }
+
+    /** Tells the host that hasChanges() may have another answer. */
+    void mayHaveChanged() const
+    {
+        if (mChangeHandler) {
+            mChangeHandler();
+        }
+    }
 
 private:
     /** Builds the main view from the interface file. */
@@ -58,6 +87,7 @@ private:
 
     Bundle mBundle;
     QPointer<QWidget> mMainView;
+    std::function<void()> mChangeHandler;
 };
 
 /** What a module's plug-in is: a maker of panes. */
@@ -75,4 +105,4 @@ public:
 
 } // namespace platform
 
-Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/1")
+Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/2")

@@ -29,44 +29,47 @@ QDir ownFolder()
 
 } // namespace
 
-TabletModule::TabletModule(QWidget* parent, const QVariantList& arguments)
+TabletModule::TabletModule(ModuleParent* parent, const ModuleArguments& arguments)
     : KCModule(parent, arguments)
 {
-    setButtons(NoAdditionalButton);
-    auto* const layout = new QVBoxLayout(this);
+    QWidget& widget = moduleWidget(*this);
+    auto* const layout = new QVBoxLayout(&widget);
     layout->setContentsMargins(0, 0, 0, 0);
 
     LoadedPane loaded = loadPane(ownFolder().filePath(QStringLiteral(QVTBLT_MODULE_PATH)),
         QStringLiteral(QVTBLT_RESOURCES_PATH));
     if (!loaded.pane) {
+        setButtons(NoAdditionalButton);
         auto* const label =
             new QLabel(tr("The tablet's settings cannot be shown.\n%1").arg(loaded.error));
         label->setWordWrap(true);
         layout->addWidget(label);
         return;
     }
-    mPane = std::move(loaded.pane);
-    layout->addWidget(mPane->loadMainView());
+    setButtons(Apply); // and with it Reset
+    mArea = new PaneArea(std::move(loaded.pane), &widget);
+    mArea->setChangeHandler([this](bool isChanged) { unmanagedWidgetChangeState(isChanged); });
+    layout->addWidget(mArea);
 }
 
 TabletModule::~TabletModule()
 {
-    if (mSelected) {
-        mPane->willUnselect();
-        mPane->didUnselect();
+    if (mArea != nullptr) {
+        mArea->setChangeHandler(nullptr); // where it is still there, it goes later than this
     }
 }
 
-void TabletModule::showEvent(QShowEvent* event)
+void TabletModule::load()
 {
-    const bool isFirst = mPane && !mSelected;
-    if (isFirst) {
-        mSelected = true;
-        mPane->willSelect();
+    if (mArea != nullptr) {
+        mArea->reset();
     }
-    KCModule::showEvent(event);
-    if (isFirst) {
-        mPane->didSelect();
+}
+
+void TabletModule::save()
+{
+    if (mArea != nullptr) {
+        mArea->apply();
     }
 }
 

@@ -2,32 +2,32 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "PreferencePane.h"
+#include "Frameworks.h"
+#include "PaneArea.h"
 
-#include <KCModule>
-
-#include <memory>
+#include <QPointer>
 
 /**
- * Hosts the pane in System Settings. The pane is selected when the module is first shown and
- * unselected, and so saved, when the module goes. Where the pane cannot be loaded, the module says
- * why.
+ * The module that System Settings loads: the pane with the host's buttons. Apply is the pane's
+ * Save, Reset its Cancel, and there is something to do for them while the record and the file
+ * differ. Where the pane cannot be loaded, the module says why.
  */
 class TabletModule final : public KCModule {
     Q_OBJECT
 
 public:
-    TabletModule(QWidget* parent, const QVariantList& arguments);
+    TabletModule(ModuleParent* parent, const ModuleArguments& arguments);
     ~TabletModule() override;
     TabletModule(const TabletModule&) = delete;
     TabletModule& operator=(const TabletModule&) = delete;
     TabletModule(TabletModule&&) = delete;
     TabletModule& operator=(TabletModule&&) = delete;
 
-protected:
-    void showEvent(QShowEvent* event) override;
+    /** The host's Reset, and its Discard on leaving; it also calls this after the first showing. */
+    void load() override;
+    /** The host's Apply. */
+    void save() override;
 
 private:
-    std::unique_ptr<platform::PreferencePane> mPane;
-    bool mSelected = false;
+    QPointer<PaneArea> mArea; ///< null where the pane cannot be loaded
 };

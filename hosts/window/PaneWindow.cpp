@@ -15,12 +15,12 @@ PaneWindow::PaneWindow(std::unique_ptr<platform::PreferencePane> pane)
     : mPane(std::move(pane))
 {
     QWidget* const view = mPane->loadMainView();
-    const QSize size = view->size();
+    mNaturalSize = view->size().expandedTo(view->sizeHint());
     setFrameShape(QFrame::NoFrame);
     setWidgetResizable(true);
     setWidget(view);
     setWindowTitle(view->windowTitle());
-    resize(size.expandedTo(view->sizeHint()).boundedTo(screen()->availableSize()));
+    resize(mNaturalSize.boundedTo(screen()->availableSize()));
 }
 
 PaneWindow::~PaneWindow() = default;
@@ -74,7 +74,7 @@ QStringList PaneWindow::render(const QString& folder)
     mPane->willSelect();
     ensurePolished();
     // A picture has room for all of it, unlike a screen.
-    resize(size().expandedTo(widget()->minimumSizeHint()));
+    resize(mNaturalSize.expandedTo(widget()->minimumSizeHint()));
     if (!hasPages()) {
         save(QStringLiteral("noDevice"));
         return files;

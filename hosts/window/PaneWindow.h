@@ -5,6 +5,7 @@
 #include "PreferencePane.h"
 
 #include <QScrollArea>
+#include <QSize>
 
 #include <memory>
 
@@ -49,5 +50,6 @@ private:
     QTabWidget* pages() const;
 
     std::unique_ptr<platform::PreferencePane> mPane;
+    QSize mNaturalSize; ///< in which nothing of the pane has to scroll
     bool mSelected = false;
 };

@@ -1,50 +1,74 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The module in the desktop's own settings application, with the real driver.
+"""The module in a dialog of its own.
 
 Usage: kcmshell_test.py PLUGINS [unittest's arguments], PLUGINS being the build's Qt plug-ins
 """
 
-import plistlib
-import subprocess
-import sys
 import unittest
 
-import desktop
+import host
 import session
 
-PLUGINS = sys.argv.pop(1)
+APPLICATION = "kcmshell5"
 
 
-class KcmShell(desktop.Desktop):
-    def setUp(self):
-        super().setUp()
-        self.env["QT_PLUGIN_PATH"] = PLUGINS
+class KcmShell(host.Host):
+    def start_shell(self, *modules):
+        shell = self.start_host("kcmshell5", *(modules or ["kcm_qvtblt"]))
+        self.find(APPLICATION, host.STRIP, "check box")
+        return shell
 
-    def start_shell(self):
-        return self.start(["kcmshell5", "kcm_qvtblt"], stderr=subprocess.PIPE)
+    def press(self, name):
+        self.click(self.wait_for_button(APPLICATION, name, True))
 
-    def strips(self):
-        return plistlib.loads(self.config().read_bytes())["Key"]["Scrollbar0"]
+    def test_shows_the_pane_with_the_dialogs_buttons(self):
+        self.start_driver_with_log()
+        self.start_shell()
+        self.find(APPLICATION, "Quorvia Draft S", "label")
+        self.wait_for_button(APPLICATION, "Apply", False)
+        self.wait_for_button(APPLICATION, "Reset", False)
+        showing = {thing["name"] for thing in self.things(APPLICATION)
+                   if thing["role"] == "push button" and thing["showing"]}
+        self.assertGreaterEqual(showing, {"OK", "Apply", "Reset", "Cancel"})
+        self.assertTrue(showing.isdisjoint({"Save", "Defaults"}), showing)
+        self.assertEqual(self.pushes(), 0)
+        self.assertEqual(self.showings(), 1)
 
-    def test_shows_the_pane_edits_and_saves_on_leaving(self):
-        self.start_driver()
+    def test_ok_saves(self):
+        self.start_driver_with_log()
         shell = self.start_shell()
-        box = self.find("kcmshell5", "Left scroll strip", "check box")
-        self.find("kcmshell5", "Quorvia Draft S", "label")
-        self.click(box, 8)
-        session.wait_for(lambda: self.simulator("Pushes") == ["u", "1"], "the push")
-        self.assertEqual(self.record()[5071], 1)
-        self.assertEqual(self.strips(), 0)
-        self.click(self.find("kcmshell5", "Close", "push button"))
+        self.edit(APPLICATION)
+        self.assertFalse(self.driver_strip())
+        self.assertTrue(self.file_strip())
+        self.press("OK")
         self.assertEqual(shell.wait(timeout=20), 0)
-        self.assertEqual(self.strips(), 1)
-        self.assertEqual(self.simulator("Pushes"), ["u", "1"], "leaving must not push")
+        self.assertFalse(self.file_strip())
+        self.assertFalse(self.driver_strip())
+
+    def test_cancel_gives_the_changes_up_at_the_driver_and_in_the_file(self):
+        self.start_driver_with_log()
+        shell = self.start_shell()
+        self.edit(APPLICATION)
+        self.press("Cancel")
+        self.assertEqual(shell.wait(timeout=20), 0)
+        session.wait_for(self.driver_strip, "the driver")
+        self.assertTrue(self.file_strip())
+
+    def test_leaving_saves_also_where_there_is_nothing_to_apply(self):
+        self.start_driver_with_log()
+        shell = self.start_shell()
+        before = self.saves()
+        self.press("Cancel")
+        self.assertEqual(shell.wait(timeout=20), 0)
+        self.assertNotEqual(self.saves(), before)
+        self.assertEqual(self.pushes(), 0, "leaving must not push")
 
     def test_shows_the_label_without_a_tablet(self):
-        self.start_driver("--attach", "none")
-        self.start_shell()
-        self.find("kcmshell5", "No tablet was found", "label")
+        self.start_driver_with_log("--attach", "none")
+        self.start_host("kcmshell5", "kcm_qvtblt")
+        self.find(APPLICATION, "No tablet was found", "label")
+        self.wait_for_button(APPLICATION, "Apply", False)
 
 
 if __name__ == "__main__":

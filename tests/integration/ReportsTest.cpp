@@ -100,7 +100,8 @@ protected:
         mPane.willSelect();
         mWindow->show();
         mPane.didSelect();
-        mWindow->findChild<QTabWidget*>()->setCurrentIndex(1);
+        mWindow->findChild<QTabWidget*>()->setCurrentWidget(
+            mWindow->findChild<QWidget*>(QStringLiteral("displayPage")));
         button("mDoCalibrate").click();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
         waitUntil([this] { return mDriver.pushes() == 1; });

@@ -214,7 +214,9 @@ class Driver(session.Session):
         while "is owned by" not in monitor.stdout.readline():
             pass
         self.simulator("Attach", "q", "20739")
-        self.assertIn("AttachedChanged (uint16 20739,)", monitor.stdout.readline())
+        lines = monitor.stdout.readline() + monitor.stdout.readline()
+        self.assertIn("AttachedChanged (uint16 20739,)", lines)
+        self.assertIn("/org/quorvia/AppleEvents: org.quorvia.AppleEvents1.Changed ()", lines)
         self.send(PUSH)
         self.assertIn("Pushed (uint32 1,)", monitor.stdout.readline())
 

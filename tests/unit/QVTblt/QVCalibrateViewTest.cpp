@@ -174,6 +174,20 @@ TEST_F(Calibration, opensOneWindowAndTellsTheDriver)
     EXPECT_EQ(points(), 0);
 }
 
+TEST_F(Calibration, startedAgainHasOneWindowAndStillCalibrates)
+{
+    start();
+    const QPointer<QVCalibrateWin> first = window();
+    start();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(first.isNull());
+    EXPECT_NE(window(), nullptr);
+    EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 1}));
+    leave();
+    EXPECT_EQ(pushedFlags().back(), 0);
+    EXPECT_EQ(window(), nullptr);
+}
+
 TEST_F(Calibration, withOneDisplayTheChosenItemDoesNotMatter)
 {
     outlet<QComboBox>("mComboBox").setCurrentIndex(-1);

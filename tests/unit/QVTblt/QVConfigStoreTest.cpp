@@ -414,3 +414,52 @@ TEST_F(QVConfigStoreFile, isFoundByANameOfAnyLengthInItsBuffer)
     EXPECT_EQ(QVConfigStore::configPath(),
         mHome.configFolder().path().toStdString() + '/' + std::string(kQVListNameSize - 1, 'n'));
 }
+
+TEST_F(QVConfigStoreFile, holdsNothingUnsavedWhenItIsLoadedOrSaved)
+{
+    read();
+    EXPECT_FALSE(mStore.hasUnsavedFields());
+    qvTabletInfo.Pen.PressureThreshold = 5;
+    EXPECT_TRUE(mStore.hasUnsavedFields());
+    write();
+    EXPECT_FALSE(mStore.hasUnsavedFields());
+    qvTabletInfo.Pen.PressureThreshold = 6;
+    EXPECT_TRUE(mStore.hasUnsavedFields());
+    read();
+    EXPECT_FALSE(mStore.hasUnsavedFields());
+}
+
+TEST_F(QVConfigStoreFile, tellsOfEachFieldThatTheUserChoosesAndOfNoOther)
+{
+    read();
+    int chosen = 0;
+    QVForEachField([&](const QVSection& section, const char* slot, const QVField& field,
+                       std::size_t base) {
+        const bool isMoment = std::string_view(section.key) == "Monitor"
+            && (std::string_view(field.key) == "disableFlag"
+                || std::string_view(field.key) == "XOrg" || std::string_view(field.key) == "YOrg"
+                || std::string_view(field.key) == "Width"
+                || std::string_view(field.key) == "Height");
+        const bool isChosen = std::string_view(section.key) != "Tablet" && !isMoment;
+        chosen += isChosen ? 1 : 0;
+        char* const byte = reinterpret_cast<char*>(&qvTabletInfo) + base + field.offset;
+        const char before = *byte;
+        *byte = static_cast<char>(before ^ 1);
+        EXPECT_EQ(mStore.hasUnsavedFields(), isChosen)
+            << section.key << '/' << (slot == nullptr ? "" : slot) << '/' << field.key;
+        *byte = before;
+        EXPECT_FALSE(mStore.hasUnsavedFields());
+    });
+    EXPECT_EQ(chosen, 2 + 7 + 3 + 18 * 4);
+}
+
+TEST_F(QVConfigStoreFile, holdsUnsavedFieldsAsLongAsTheFileCannotBeSaved)
+{
+    read();
+    qvTabletInfo.Pen.PressureThreshold = 5;
+    ASSERT_EQ(::unlink(mPath.toUtf8().constData()), 0);
+    write();
+    EXPECT_TRUE(mStore.hasUnsavedFields());
+    read();
+    EXPECT_TRUE(mStore.hasUnsavedFields()) << "what is not there cannot be gone back to";
+}

@@ -334,3 +334,44 @@ TEST_F(Pane, loadsItsMainViewOnce)
     mWindow.reset();
     EXPECT_EQ(mPane.mainView(), nullptr);
 }
+
+TEST_F(Pane, tellsItsHostOfChangesAndOfSaveAndCancel)
+{
+    std::vector<bool> told;
+    mPane.setChangeHandler([&] { told.push_back(mPane.hasChanges()); });
+    show();
+    EXPECT_FALSE(mPane.hasChanges());
+    outlet<QSlider>("mSlider").setValue(70);
+    EXPECT_EQ(told, std::vector{true});
+    mPane.save();
+    EXPECT_EQ(told, (std::vector{true, false}));
+    outlet<QSlider>("mSlider").setValue(20);
+    mPane.cancel();
+    EXPECT_EQ(told, (std::vector{true, false, true, false}));
+}
+
+TEST_F(Pane, hasNoChangesWhereAllItsPagesWereOnlyLookedAt)
+{
+    QByteArray second = sampleConfig();
+    second.replace("<key>num</key><integer>14</integer>", "<key>num</key><integer>2</integer>");
+    writeFile(mHome.configFile(7), second);
+    show();
+    EXPECT_EQ(qvTabletInfo.Monitor.XOrg, 18);
+    auto& pages = outlet<QTabWidget>("tabView");
+    for (int page = 0; page < pages.count(); ++page) {
+        pages.setCurrentIndex(page);
+        mWindow->grab();
+        QCoreApplication::processEvents();
+    }
+    EXPECT_EQ(qvTabletInfo.Monitor.XOrg, 100) << "as the display page has found the second one";
+    EXPECT_FALSE(mPane.hasChanges());
+}
+
+TEST_F(Pane, leavesItsButtonsToAHostThatHasThem)
+{
+    mPane.setButtonsShown(false);
+    show();
+    EXPECT_FALSE(outlet<QPushButton>("mSave").isVisible());
+    EXPECT_FALSE(outlet<QPushButton>("mCancel").isVisible());
+    EXPECT_TRUE(outlet<QLabel>("mSoft").isVisible());
+}

@@ -1,0 +1,74 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""The module in one of the desktop's own settings applications, with the real driver."""
+
+import plistlib
+import subprocess
+import sys
+
+import desktop
+import session
+
+PLUGINS = sys.argv.pop(1)
+
+STRIP = "Left scroll strip"
+
+
+class Host(desktop.Desktop):
+    def setUp(self):
+        super().setUp()
+        self.env |= {
+            "KDE_FULL_SESSION": "true",
+            "KDE_SESSION_VERSION": "5",
+            "QT_PLUGIN_PATH": PLUGINS,
+            "QT_QUICK_BACKEND": "software",
+            "XDG_CURRENT_DESKTOP": "KDE",
+        }
+        self.driver_log = self.folder / "driver.log"
+
+    def x_server(self):
+        return [*super().x_server(), "-dpi", "96"]
+
+    def start_driver_with_log(self, *arguments):
+        """Starts the driver. What it says is in its log, so that a test can look at it meanwhile."""
+        with self.driver_log.open("w") as log:
+            driver = self.start([session.BIN / "tdsg-driver", *arguments], stdout=log)
+        session.wait_for(lambda: "ready\n" in self.driver_log.read_text(), "the driver")
+        return driver
+
+    def showings(self):
+        """How often the pane was about to be shown: each time, it asks the driver."""
+        return self.driver_log.read_text().count("query from")
+
+    def start_host(self, *command):
+        quiet = subprocess.DEVNULL
+        return self.start(command, stdout=quiet, stderr=quiet)
+
+    def file_strip(self):
+        """Whether the file has the strip on."""
+        return plistlib.loads(self.config().read_bytes())["Key"]["Scrollbar0"] == 0
+
+    def driver_strip(self):
+        """Whether the driver has it on."""
+        return int.from_bytes(self.record()[5071:5073], "little", signed=True) == 0
+
+    def pushes(self):
+        return int(self.simulator("Pushes")[1])
+
+    def saves(self):
+        """A number that is another after each save."""
+        return self.config().stat().st_ino, self.config().stat().st_mtime_ns
+
+    def edit(self, application):
+        """Clicks the strip's check box, and waits until the driver has it."""
+        before = self.pushes()
+        self.click(self.find(application, STRIP, "check box"), 8)
+        session.wait_for(lambda: self.pushes() > before, "the push")
+
+    def wait_for_button(self, application, name, enabled):
+        """Waits until the host's button can be used, or cannot; gives it."""
+        def look():
+            button = self.find(application, name, "push button")
+            return button if button["enabled"] == enabled else None
+        return session.wait_for(
+            look, f"the button '{name}' to be {'enabled' if enabled else 'disabled'}")

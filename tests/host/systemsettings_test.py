@@ -1,0 +1,175 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""The module in System Settings, as a person uses it.
+
+Usage: systemsettings_test.py PLUGINS [unittest's arguments], PLUGINS being the build's Qt plug-ins
+
+With QVTBLT_PICTURES, pictures of the pages go into that folder.
+"""
+
+import os
+import pathlib
+import unittest
+
+import host
+import session
+
+APPLICATION = "systemsettings"
+PAGES = {"Keys": "keys", "Pen": "pen", "Display": "display"}
+
+
+class SystemSettings(host.Host):
+    def start_settings(self, *modules):
+        return self.start_host("systemsettings", *modules)
+
+    def start_at_the_module(self):
+        settings = self.start_settings("kcm_qvtblt")
+        self.find(APPLICATION, host.STRIP, "check box")
+        return settings
+
+    def press(self, name):
+        self.click(self.wait_for_button(APPLICATION, name, True))
+
+    def close(self):
+        self.xdotool("windowactivate", "--sync", self.window(), "key", "alt+F4")
+
+    def window(self):
+        return session.wait_for(
+            lambda: self.run_program("xdotool", "search", "--onlyvisible", "--class",
+                                     "systemsettings").stdout.split(), "the window")[0]
+
+    def title(self):
+        """The window's name for screen readers, which is that of the module."""
+        return next((thing["name"].strip() for thing in self.things(APPLICATION)
+                     if thing["role"] == "frame" and thing["showing"]), None)
+
+    def point(self, x, y):
+        """Clicks into the window. The list at the side tells screen readers nothing."""
+        window = self.window()
+        self.xdotool("mousemove", "--window", window, x, y, "click", 1)
+
+    def go(self, word, arrived):
+        """Searches for a word that only one module has, and clicks on what is found."""
+        self.point(110, 20)
+        self.xdotool("key", "ctrl+a", "type", word)
+
+        def click():
+            self.point(113, 119)  # below the headings of the category and what it belongs to
+            return arrived()
+        session.wait_for(click, f"what '{word}' leads to")
+
+    def leave_for_another(self):
+        self.go("samba", lambda: self.title() == "Windows Shares")
+
+    def test_is_found_by_what_it_is_for(self):
+        self.start_driver_with_log()
+        self.start_settings()
+        session.wait_for(lambda: self.title() is not None, "the window")
+        self.go("stylus", lambda: self.title() == "Quorvia Tablet")
+        self.find(APPLICATION, "Quorvia Draft S", "label")
+        self.assertEqual(self.showings(), 1)
+
+    def test_has_room_for_each_page_and_changes_nothing(self):
+        self.start_driver_with_log()
+        self.start_at_the_module()
+        for page, file in PAGES.items():
+            self.click(self.find(APPLICATION, page, "page tab"))
+            self.xdotool("mousemove", 0, 0)  # what lies under the pointer lights up
+            tabs = self.find(APPLICATION, page, "page tab list")  # it has the current page's name
+            things = self.things(APPLICATION)
+            pages, = [thing for thing in things if thing["path"] == tabs["path"][:-1]]
+            window = next(thing for thing in things if thing["role"] == "frame")
+            apply = self.find(APPLICATION, "Apply", "push button")
+            self.assertLessEqual(pages["x"] + pages["width"], window["x"] + window["width"])
+            self.assertLessEqual(pages["y"] + pages["height"], apply["y"])
+            if "QVTBLT_PICTURES" in os.environ:
+                picture = pathlib.Path(os.environ["QVTBLT_PICTURES"]) / f"systemsettings-{file}.png"
+                self.run_program("sleep", "1")  # the tab's own animation
+                self.run_program("import", "-frame", "-window", self.window(), picture)
+        self.wait_for_button(APPLICATION, "Apply", False)
+        self.wait_for_button(APPLICATION, "Reset", False)
+        self.assertEqual(self.pushes(), 0)
+
+    def test_apply_saves_what_the_driver_has_already(self):
+        self.start_driver_with_log()
+        self.start_at_the_module()
+        self.edit(APPLICATION)
+        self.assertFalse(self.driver_strip())
+        self.assertTrue(self.file_strip())
+        self.press("Apply")
+        session.wait_for(lambda: not self.file_strip(), "the file")
+        self.wait_for_button(APPLICATION, "Apply", False)
+        self.assertEqual(self.showings(), 1)
+
+    def test_an_edit_taken_back_by_hand_leaves_nothing_to_apply(self):
+        self.start_driver_with_log()
+        self.start_at_the_module()
+        self.edit(APPLICATION)
+        self.wait_for_button(APPLICATION, "Apply", True)
+        self.edit(APPLICATION)
+        self.wait_for_button(APPLICATION, "Apply", False)
+
+    def test_reset_brings_record_and_controls_back_to_the_file(self):
+        self.start_driver_with_log()
+        self.start_at_the_module()
+        self.edit(APPLICATION)
+        self.assertFalse(self.find(APPLICATION, host.STRIP)["checked"])
+        self.press("Reset")
+        session.wait_for(self.driver_strip, "the driver")
+        session.wait_for(lambda: self.find(APPLICATION, host.STRIP)["checked"], "the check box")
+        self.wait_for_button(APPLICATION, "Reset", False)
+        self.assertTrue(self.file_strip())
+        self.assertEqual(self.showings(), 2)
+
+    def test_left_for_another_module_and_come_back_to(self):
+        self.start_driver_with_log()
+        self.start_at_the_module()
+        before = self.saves()
+        self.leave_for_another()
+        session.wait_for(lambda: self.saves() != before, "the saving on leaving")
+        after = self.saves()
+        self.assertEqual(self.showings(), 1)
+        self.go("stylus", lambda: self.title() == "Quorvia Tablet")
+        self.find(APPLICATION, host.STRIP, "check box")
+        self.assertEqual(self.showings(), 2)
+        self.assertEqual(self.saves(), after, "it is left once")
+        self.edit(APPLICATION)
+        self.assertFalse(self.driver_strip())
+
+    def test_discard_on_leaving_gives_the_changes_up(self):
+        self.start_driver_with_log()
+        self.start_at_the_module()
+        self.edit(APPLICATION)
+        self.go("samba", lambda: [thing for thing in self.things(APPLICATION)
+                                  if thing["name"] == "Discard" and thing["showing"]])
+        self.press("Discard")
+        session.wait_for(self.driver_strip, "the driver")
+        session.wait_for(lambda: not [thing for thing in self.things(APPLICATION)
+                                      if thing["name"] == host.STRIP and thing["showing"]],
+                         "the other module")
+        self.assertTrue(self.file_strip())
+
+    def test_apply_on_leaving_saves(self):
+        self.start_driver_with_log()
+        settings = self.start_at_the_module()
+        self.edit(APPLICATION)
+        self.close()
+        question = self.find(APPLICATION, "Apply Settings", "dialog")
+        self.click(self.find(APPLICATION, "Apply", "push button", inside=question["path"]))
+        self.assertEqual(settings.wait(timeout=20), 0)
+        self.assertFalse(self.file_strip())
+        self.assertFalse(self.driver_strip())
+
+    def test_closing_system_settings_leaves_the_pane(self):
+        self.start_driver_with_log()
+        settings = self.start_at_the_module()
+        before = self.saves()
+        self.close()
+        self.assertEqual(settings.wait(timeout=20), 0)
+        self.assertNotEqual(self.saves(), before)
+        self.assertEqual(self.showings(), 1)
+        self.assertEqual(self.pushes(), 0, "leaving must not push")
+
+
+if __name__ == "__main__":
+    unittest.main()

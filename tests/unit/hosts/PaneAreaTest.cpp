@@ -1,0 +1,235 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "PaneArea.h"
+
+#include <QCoreApplication>
+#include <QDialog>
+#include <QHideEvent>
+#include <QStringList>
+#include <QVBoxLayout>
+#include <QtTest/qtestspontaneevent.h>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <optional>
+
+namespace {
+
+/** What a host has done with its pane, which says so also when it is gone. */
+struct Life {
+    QStringList calls;
+    bool hasChanges = false;
+    bool canSave = true;
+};
+
+/** Takes its calls down. */
+class NotedPane final : public platform::PreferencePane {
+public:
+    explicit NotedPane(Life& life)
+        : mLife(life)
+    {
+    }
+    void willSelect() override { note("will select"); }
+    void didSelect() override { note("did select"); }
+    void willUnselect() override { note("will unselect"); }
+    void didUnselect() override { note("did unselect"); }
+    void save() override
+    {
+        note("save");
+        mLife.hasChanges = mLife.hasChanges && !mLife.canSave;
+        mayHaveChanged();
+    }
+    void cancel() override
+    {
+        note("cancel");
+        mLife.hasChanges = false;
+        mayHaveChanged();
+    }
+    bool hasChanges() const override { return mLife.hasChanges; }
+    void setButtonsShown(bool shown) override { note(shown ? "buttons shown" : "buttons hidden"); }
+    void edit()
+    {
+        mLife.hasChanges = true;
+        mayHaveChanged();
+    }
+
+private:
+    void note(const char* call) { mLife.calls.append(QString::fromLatin1(call)); }
+    QWidget* makeMainView() override { return new QWidget; }
+
+    Life& mLife;
+};
+
+const QStringList kComing{QStringLiteral("will select"), QStringLiteral("did select")};
+const QStringList kLeaving{QStringLiteral("will unselect"), QStringLiteral("did unselect")};
+
+class Area : public testing::Test {
+protected:
+    Area()
+    {
+        auto pane = std::make_unique<NotedPane>(mLife);
+        mPane = pane.get();
+        mArea = new PaneArea(std::move(pane));
+        mArea->setChangeHandler([this](bool isChanged) { mTold = isChanged; });
+        auto* const layout = new QVBoxLayout(mWindow.get());
+        layout->addWidget(mArea);
+    }
+
+    /** The calls since it was last asked. */
+    QStringList calls() { return std::exchange(mLife.calls, {}); }
+
+    /** Lets the host's event loop come to rest. */
+    static void settle() { QCoreApplication::processEvents(); }
+
+    void show()
+    {
+        mWindow->show();
+        settle();
+        calls();
+    }
+
+    Life mLife;
+    std::unique_ptr<QDialog> mWindow = std::make_unique<QDialog>();
+    NotedPane* mPane = nullptr;
+    PaneArea* mArea = nullptr;
+    std::optional<bool> mTold;
+};
+
+} // namespace
+
+TEST_F(Area, hidesThePanesOwnButtonsBeforeItIsShown)
+{
+    EXPECT_EQ(calls(), QStringList{QStringLiteral("buttons hidden")});
+}
+
+TEST_F(Area, comesAndLeavesOnceWithItsWindow)
+{
+    calls();
+    mWindow->show();
+    EXPECT_EQ(calls(), kComing);
+    mWindow->hide();
+    settle();
+    EXPECT_EQ(calls(), kLeaving);
+    mWindow->show();
+    EXPECT_EQ(calls(), kComing);
+}
+
+TEST_F(Area, staysWhenTheHostHidesAndShowsItOnTheWay)
+{
+    show();
+    mArea->hide();
+    mArea->show();
+    mWindow->hide();
+    mWindow->show();
+    mArea->hide();
+    mArea->show();
+    settle();
+    EXPECT_EQ(calls(), QStringList());
+}
+
+TEST_F(Area, isLeftWhenItIsDestroyed)
+{
+    show();
+    mWindow.reset();
+    EXPECT_EQ(calls(), kLeaving);
+}
+
+TEST_F(Area, isNotLeftTwiceWhenItIsHiddenAndDestroyed)
+{
+    show();
+    mWindow->hide();
+    mWindow.reset();
+    settle();
+    EXPECT_EQ(calls(), kLeaving);
+}
+
+TEST_F(Area, isNotLeftWhenItNeverCame)
+{
+    calls();
+    mWindow.reset();
+    EXPECT_EQ(calls(), QStringList());
+}
+
+TEST_F(Area, isLeftWhenTheApplicationEnds)
+{
+    show();
+    ASSERT_TRUE(QMetaObject::invokeMethod(qApp, "aboutToQuit"));
+    EXPECT_EQ(calls(), kLeaving);
+    mWindow.reset();
+    EXPECT_EQ(calls(), QStringList());
+}
+
+TEST_F(Area, staysWhenTheWindowIsMinimised)
+{
+    show();
+    QHideEvent hide;
+    QSpontaneKeyEvent::setSpontaneous(&hide);
+    ASSERT_TRUE(hide.spontaneous());
+    mArea->setAttribute(Qt::WA_WState_Visible, false); // as it is while it is minimised
+    qApp->notify(mArea, &hide);
+    settle();
+    EXPECT_EQ(calls(), QStringList());
+    mArea->setAttribute(Qt::WA_WState_Visible, true);
+}
+
+TEST_F(Area, appliesBySaving)
+{
+    show();
+    mPane->edit();
+    EXPECT_EQ(mTold, true);
+    mArea->apply();
+    EXPECT_EQ(mTold, false);
+    EXPECT_EQ(calls(), QStringList{QStringLiteral("save")});
+}
+
+TEST_F(Area, saysAgainThatThereAreChangesAfterASaveThatFailed)
+{
+    show();
+    mLife.canSave = false;
+    mPane->edit();
+    mArea->apply();
+    mTold.reset(); // by now, the host believes that there are none
+    settle();
+    EXPECT_EQ(mTold, true);
+}
+
+TEST_F(Area, resetsByCancellingAndShowsThePaneAnew)
+{
+    show();
+    mPane->edit();
+    mArea->reset();
+    EXPECT_EQ(calls(), QStringList{QStringLiteral("cancel")} + kLeaving + kComing);
+    EXPECT_EQ(mTold, false);
+    mWindow.reset();
+    EXPECT_EQ(calls(), kLeaving);
+}
+
+TEST_F(Area, resetsNothingWhereNothingHasChanged)
+{
+    show();
+    mArea->reset();
+    EXPECT_EQ(calls(), QStringList());
+}
+
+TEST_F(Area, givesUpTheChangesWhenItsDialogIsRejected)
+{
+    show();
+    mPane->edit();
+    mWindow->reject();
+    settle();
+    EXPECT_EQ(calls(), QStringList{QStringLiteral("cancel")} + kLeaving);
+}
+
+TEST_F(Area, cancelsNothingWhenAnUnchangedDialogIsRejectedOrAChangedOneAccepted)
+{
+    show();
+    mWindow->reject();
+    settle();
+    EXPECT_EQ(calls(), kLeaving);
+    show();
+    mPane->edit();
+    mWindow->accept();
+    settle();
+    EXPECT_EQ(calls(), kLeaving);
+}
