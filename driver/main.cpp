@@ -68,7 +68,8 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, bool h
     qInstallMessageHandler(before);
     QGuiApplication::setQuitOnLastWindowClosed(false); // the window says itself what it ends
     QGuiApplication::setDesktopFileName(QStringLiteral("org.quorvia.tdsg-driver"));
-    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("input-tablet")));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(
+        QGuiApplication::desktopFileName(), QIcon::fromTheme(QStringLiteral("input-tablet"))));
     return application;
 }
 

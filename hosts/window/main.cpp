@@ -88,7 +88,8 @@ int main(int argc, char* argv[])
     QCoreApplication::setApplicationName(QStringLiteral("qvtblt"));
     QCoreApplication::setApplicationVersion(QStringLiteral(QVTBLT_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.quorvia.qvtblt"));
-    QGuiApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("input-tablet")));
+    QGuiApplication::setWindowIcon(QIcon::fromTheme(
+        QGuiApplication::desktopFileName(), QIcon::fromTheme(QStringLiteral("input-tablet"))));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::translate(

@@ -188,7 +188,7 @@ protected:
     void TearDown() override
     {
         ASSERT_EQ(::chmod(mHome.configFolder().path().toStdString().c_str(), 0700), 0);
-        static_cast<void>(::seteuid(::getuid()));
+        EXPECT_EQ(::seteuid(::getuid()), 0);
     }
 };
 

@@ -11,6 +11,7 @@ import tempfile
 import time
 import unittest
 
+STAGE = pathlib.Path(os.environ["QVTBLT_STAGE"])
 BIN = pathlib.Path(os.environ["QVTBLT_STAGE_BIN"])
 SERVICES = pathlib.Path(os.environ["QVTBLT_STAGE_SERVICES"])
 SOURCE = pathlib.Path(__file__).resolve().parent.parent.parent

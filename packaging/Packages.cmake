@@ -1,0 +1,80 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+
+# Debian's packages, a component for each. A build tree makes those for the Qt it was made with;
+# make-packages makes them all.
+if(QT_MAJOR_VERSION EQUAL 5)
+    set(CPACK_COMPONENTS_ALL kcm-qvtblt)
+else()
+    set(CPACK_COMPONENTS_ALL qvtblt tdsg-driver)
+endif()
+
+# A machine-readable copyright file puts a dot on empty lines.
+file(READ ${PROJECT_SOURCE_DIR}/LICENSE QVTBLT_LICENSE)
+string(REGEX REPLACE "^MIT License\n+Copyright[^\n]*\n+" "" QVTBLT_LICENSE "${QVTBLT_LICENSE}")
+string(STRIP "${QVTBLT_LICENSE}" QVTBLT_LICENSE)
+string(REPLACE "\n\n" "\n.\n" QVTBLT_LICENSE "${QVTBLT_LICENSE}")
+string(REPLACE "\n" "\n " QVTBLT_LICENSE " ${QVTBLT_LICENSE}")
+configure_file(copyright.in copyright @ONLY)
+foreach(package IN LISTS CPACK_COMPONENTS_ALL)
+    set(documents ${CMAKE_INSTALL_DATADIR}/doc/${package})
+    qvtblt_install_gzipped(changelog ${documents} changelog ${package})
+    install(FILES ${CMAKE_CURRENT_BINARY_DIR}/copyright DESTINATION ${documents}
+        COMPONENT ${package})
+endforeach()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME qvtblt)
+set(CPACK_PACKAGE_CONTACT "The QVTblt developers <qvtblt@quorvia.example>")
+set(CPACK_PACKAGING_INSTALL_PREFIX ${CMAKE_INSTALL_PREFIX})
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+set(CPACK_COMPONENTS_GROUPING IGNORE)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+
+# What the programs need at run time and do not link: the session bus, on which panel and driver
+# meet, and the index of the icon theme that their icons belong to. Qt's plug-ins come with Qt,
+# all but those for Wayland.
+set(bus "default-dbus-session-bus | dbus-session-bus")
+
+set(CPACK_DEBIAN_QVTBLT_PACKAGE_NAME qvtblt)
+set(CPACK_DEBIAN_QVTBLT_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_QVTBLT_PACKAGE_DEPENDS "${bus}, hicolor-icon-theme")
+set(CPACK_DEBIAN_QVTBLT_PACKAGE_RECOMMENDS "qt6-wayland, tdsg-driver")
+set(CPACK_DEBIAN_QVTBLT_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/postinst)
+set(CPACK_DEBIAN_QVTBLT_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_QVTBLT_DESCRIPTION "settings panel of the Quorvia pen tablet
+What each button of tablet and pen does, how the pen answers to the hand, and
+which part of the screen the tablet covers. Every change works at once.
+
+This package has the panel in a window of its own, and qvtbltctl, which does
+the same from the command line.")
+
+# The module for Qt 5 shows the same texts and pictures, and needs the same access to the tablet, so
+# they are in one package, of the same version.
+set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_NAME kcm-qvtblt)
+set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_SECTION kde)
+set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_DEPENDS "qvtblt (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_RECOMMENDS systemsettings)
+set(CPACK_DEBIAN_KCM-QVTBLT_DESCRIPTION "settings panel of the Quorvia pen tablet for KDE
+What each button of tablet and pen does, how the pen answers to the hand, and
+which part of the screen the tablet covers. Every change works at once.
+
+This package has the panel as a module of System Settings, below the input
+devices.")
+
+set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_NAME tdsg-driver)
+set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_DEPENDS "${bus}, hicolor-icon-theme")
+set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_RECOMMENDS qt6-wayland)
+set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_ENHANCES "kcm-qvtblt, qvtblt")
+set(CPACK_DEBIAN_TDSG-DRIVER_DESCRIPTION "driver of the Quorvia pen tablet
+Answers the tablet's settings panel on the session bus, which starts it when
+the panel asks.
+
+Its tablet is simulated, for those who have none at hand: it can be touched
+with the mouse in a window.")
+include(CPack)
