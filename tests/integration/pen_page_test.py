@@ -7,6 +7,7 @@ import subprocess
 import unittest
 
 import desktop
+import displays
 import pens
 import session
 
@@ -18,6 +19,9 @@ class Panel:
 
     def setUp(self):
         super().setUp()
+        self.open_panel()
+
+    def open_panel(self):
         self.start_driver()
         self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
         self.click(self.find("qvtblt", "Pen", "page tab"))
@@ -28,11 +32,6 @@ class Panel:
     def on_pad(self, x, y):
         return self.pad["x"] + x, self.pad["y"] + y
 
-
-class PenPage(Panel, desktop.Desktop):
-    def threshold(self):
-        return struct.unpack_from("<h", self.record(), 283)[0]
-
     def press_on_pad(self, *places):
         """Presses at the first place and drags to the others; the button stays down."""
         self.xdotool("mousemove", *self.on_pad(*places[0]), "mousedown", 1)
@@ -41,6 +40,11 @@ class PenPage(Panel, desktop.Desktop):
 
     def wait_for_pixel(self, place, colour):
         session.wait_for(lambda: self.pixel(*place) == colour, f"{colour} at {place}")
+
+
+class PenPage(Panel, desktop.Desktop):
+    def threshold(self):
+        return struct.unpack_from("<h", self.record(), 283)[0]
 
     def test_a_stroke_appears_while_the_button_is_down_and_clear_wipes_it(self):
         self.wait_for_pixel(self.on_pad(60, 60), GREY)
@@ -134,6 +138,34 @@ class PenPage(Panel, desktop.Desktop):
         self.wait_for_pixel(self.on_pad(25, 60), BLACK)
         self.xdotool("key", "alt+r")
         self.wait_for_pixel(self.on_pad(25, 60), GREY)
+
+
+class AnotherScreen(Panel, displays.Displays):
+    """Beside the first display there is one of twice its density."""
+
+    def setUp(self):
+        super(Panel, self).setUp()
+        self.xrandr("--newmode", "large", *"173 1920 2048 2248 2576 1080 1083 1088 1120".split())
+        self.plug(1, "large", "1024x0")
+        self.env["QT_SCREEN_SCALE_FACTORS"] = "DUMMY1=2"
+        self.open_panel()
+
+    def test_a_stroke_goes_on_when_the_window_is_moved_to_another_screen(self):
+        window = self.run_program("xdotool", "search", "--onlyvisible", "--name",
+                                  "^Quorvia Tablet$").stdout.split()[0]
+        self.press_on_pad((20, 60), (30, 60), (100, 60))
+        self.wait_for_pixel(self.on_pad(60, 60), BLACK)
+        left, top = (int(line.split(":")[1]) for line in self.run_program(
+            "xwininfo", "-id", window).stdout.splitlines() if "Absolute" in line)
+        self.xdotool("windowmove", window, 1024, 0)
+        # There, all is twice as large; the stroke that was drawn is wiped, and goes on.
+        place = [1064 + 2 * (self.pad["x"] - left), 120 + 2 * (self.pad["y"] - top)]
+        self.wait_for_pixel((place[0] + 10, place[1]), GREY)
+        for step in (60, 70):
+            self.xdotool("mousemove", place[0] + step, place[1] + 80)
+        self.wait_for_pixel((place[0] + 65, place[1] + 80), BLACK)
+        self.xdotool("mouseup", 1)
+        self.assertEqual(self.pixel(place[0] + 10, place[1]), GREY)
 
 
 class RealPen(Panel, pens.Pens):

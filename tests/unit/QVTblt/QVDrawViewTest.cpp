@@ -5,6 +5,7 @@
 
 #include "QVDrawView.h"
 
+#include "DragMouse.h"
 #include "PaneTest.h"
 #include "PenInput.h"
 #include "QVNSView.h"
@@ -390,7 +391,7 @@ TEST_F(DrawingPad, penAndMouseDrawTwoStrokes)
     pen().press({50, 50}, 1);
     PenInput::deliver();
     QTest::mousePress(&pad(), Qt::LeftButton, {}, {50, 200});
-    QTest::mouseMove(&pad(), {150, 200});
+    dragMouse(pad(), {150, 200});
     pen().move({150, 50}, 1);
     PenInput::deliver();
     QTest::mouseRelease(&pad(), Qt::LeftButton, {}, {150, 200});

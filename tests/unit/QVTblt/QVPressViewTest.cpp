@@ -5,6 +5,7 @@
 
 #include "QVPressView.h"
 
+#include "DragMouse.h"
 #include "PaneTest.h"
 #include "QVNSView.h"
 #include "SameImage.h"
@@ -23,6 +24,9 @@ protected:
     void SetUp() override
     {
         PaneTest::SetUp();
+        QFont font = mWindow->font();
+        font.setPixelSize(13); // the size at which a point is a pixel
+        mWindow->setFont(font);
         show();
         outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
         mEvents.sent.clear();
@@ -104,7 +108,7 @@ TEST_F(PressurePage, everyStepOfADragIsPushed)
     QTest::mousePress(&slider(), Qt::LeftButton, {}, middle);
     QSet<int> thresholds;
     for (int step = 1; step <= 20; ++step) {
-        QTest::mouseMove(&slider(), middle + QPoint(2 * step, 0));
+        dragMouse(slider(), middle + QPoint(2 * step, 0));
         thresholds.insert(qvTabletInfo.Pen.PressureThreshold);
         view().grab(); // as on a screen, where the slider follows the record in between
     }

@@ -5,6 +5,7 @@
 
 #include "PenView.h"
 
+#include "DragMouse.h"
 #include "PenInput.h"
 
 #include <QTest>
@@ -156,7 +157,7 @@ TEST_F(PenViewTest, aPenAboveTheTabletMoves)
 TEST_F(PenViewTest, aMousePressesFullyWithoutBeingAPen)
 {
     QTest::mousePress(&mView, Qt::LeftButton, {}, {5, 5});
-    QTest::mouseMove(&mView, {6, 6});
+    dragMouse(mView, {6, 6});
     QTest::mousePress(&mView, Qt::RightButton, {}, {6, 6});
     QTest::mouseRelease(&mView, Qt::LeftButton, {}, {6, 6});
     PenInput::deliver();
