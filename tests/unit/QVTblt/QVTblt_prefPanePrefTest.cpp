@@ -356,14 +356,14 @@ TEST_F(Pane, hasNoChangesWhereAllItsPagesWereOnlyLookedAt)
     second.replace("<key>num</key><integer>14</integer>", "<key>num</key><integer>2</integer>");
     writeFile(mHome.configFile(7), second);
     show();
-    EXPECT_EQ(qvTabletInfo.Monitor.XOrg, 18);
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, 18);
     auto& pages = outlet<QTabWidget>("tabView");
     for (int page = 0; page < pages.count(); ++page) {
         pages.setCurrentIndex(page);
         mWindow->grab();
         QCoreApplication::processEvents();
     }
-    EXPECT_EQ(qvTabletInfo.Monitor.XOrg, 100) << "as the display page has found the second one";
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, 100) << "as the display page has found the second one";
     EXPECT_FALSE(mPane.hasChanges());
 }
 
