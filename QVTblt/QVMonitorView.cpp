@@ -9,11 +9,13 @@
 #include "rzkApplication.h"
 
 #include <QComboBox>
+#include <QFile>
 #include <QLoggingCategory>
 #include <QPainter>
 #include <QPainterPath>
 
 #include <algorithm>
+#include <utility>
 
 using platform::Rect;
 
@@ -69,7 +71,10 @@ QVMonitorView::QVMonitorView(QWidget* parent)
     const auto path =
         rzkBundle.pathForResource(QStringLiteral("backgroundregion"), QStringLiteral("jpg"));
     if (path) {
-        mBackgroundImage = QImage(*path);
+        QFile file(*path);
+        if (file.open(QIODevice::ReadOnly)) {
+            mBackgroundFile = file.readAll();
+        }
     }
     DisplayRegistrationCallBackSuccessful = platform::displays().registerReconfigurationCallback(
         DisplayRegisterReconfigurationCallback, this);
@@ -216,6 +221,9 @@ void QVMonitorView::drawRect(QPainter& painter, const Rect& dirty)
     updateLists();
 
     painter.setRenderHint(QPainter::Antialiasing);
+    if (!mBackgroundFile.isEmpty()) {
+        mBackgroundImage = QImage::fromData(std::exchange(mBackgroundFile, {}));
+    }
     if (!mBackgroundImage.isNull()) {
         platform::drawImage(
             painter, mBackgroundImage, dirty, platform::imageBounds(mBackgroundImage));

@@ -88,6 +88,8 @@ private:
     QComboBox* mComboBox = nullptr;
     QComboBox* mComboBoxSpeed = nullptr;
     QComboBox* mComboBoxUseMode = nullptr;
+    QByteArray mBackgroundFile; ///< the picture's file until the view is drawn for the first time:
+                                ///< decoded, it takes 4 MiB, which most showings of the panel spare
     QImage mBackgroundImage;
     bool DisplayRegistrationCallBackSuccessful = false;
     tagQVTabletInfo* pQVInfo;

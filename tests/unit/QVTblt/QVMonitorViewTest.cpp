@@ -461,3 +461,23 @@ TEST_F(DisplayPage, withoutItsPictureTheRestIsDrawn)
     EXPECT_EQ(list.itemText(1), QStringLiteral("Monitor #1")) << "a missing text stands for itself";
     rzkBundle = bundle;
 }
+
+TEST_F(DisplayPage, itsPictureIsReadWhenItIsMade)
+{
+    const QString copy = QDir(mHome.path()).filePath(QStringLiteral("backgroundregion.jpg"));
+    ASSERT_TRUE(QFile::copy(QStringLiteral(QVTBLT_STAGE_RESOURCES "/backgroundregion.jpg"), copy));
+    const platform::Bundle bundle = rzkBundle;
+    rzkBundle = platform::Bundle(mHome.path());
+    QVMonitorView made;
+    QComboBox list;
+    QComboBox speed;
+    QComboBox mode;
+    made.setOutlets(&list, &speed, &mode);
+    made.resize(840, 340);
+    made.awakeFromNib();
+    ASSERT_TRUE(QFile::remove(copy)); // as an update of the package does
+    const QPoint onPicture(700, 300);
+    const QColor color = made.grab().toImage().pixelColor(onPicture);
+    EXPECT_EQ(color, view().grab().toImage().pixelColor(onPicture));
+    rzkBundle = bundle;
+}
