@@ -4,8 +4,6 @@
 
 #include "hid_usb_2_adb_keymap_char.h"
 
-#include <algorithm>
-
 namespace {
 
 QString mouseText(std::int16_t button)
@@ -26,7 +24,7 @@ QString mouseText(std::int16_t button)
 
 QString pathText(const QVString& path)
 {
-    const auto length = std::ranges::find(path, '\0') - path.begin();
+    const auto length = qstrnlen(path.data(), kQVStringSize);
     return QString::fromLatin1(path.data(), static_cast<int>(length));
 }
 
