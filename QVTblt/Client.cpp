@@ -90,9 +90,9 @@ bool ConnectToDriver(const void* record, std::int32_t length)
     return isSent;
 }
 
-void PushQVTabletInfo()
+bool PushQVTabletInfo()
 {
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+    return ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
 }
 
 bool controlUSBDev(std::uint8_t flag, std::uint16_t productID)

@@ -24,8 +24,8 @@ inline constexpr QLatin1String kRecordPushedNotification("kRecordPushedNotificat
  */
 bool ConnectToDriver(const void* record, std::int32_t length);
 
-/** Pushes the whole record. */
-void PushQVTabletInfo();
+/** ConnectToDriver() with the whole record. */
+bool PushQVTabletInfo();
 
 // The tablet itself, over USB -----------------------------------------------------------------
 

@@ -48,7 +48,7 @@ public:
 
 void pushRecord()
 {
-    ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+    PushQVTabletInfo();
 }
 
 /** Floor: QtDBus sends the same bytes in the same form, with the same time-out. */

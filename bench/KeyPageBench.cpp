@@ -121,7 +121,7 @@ void choose(benchmark::State& state)
             session.events.finishSends();
         },
         [&] {
-            ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+            PushQVTabletInfo();
             session.events.finishSends();
         },
         open);

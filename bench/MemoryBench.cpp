@@ -37,7 +37,7 @@ void memoryOfPushes(benchmark::State& state)
     BenchSession& session = benchSession();
     const NoDiagnostics quiet;
     growth(state, [&] {
-        ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
+        PushQVTabletInfo();
         session.events.finishSends();
         QCoreApplication::processEvents();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

@@ -53,7 +53,7 @@ QString loadTablet(QVConfigStore& store)
 /** Pushes the record and waits for the driver. @return why it was not taken; empty on success */
 QString pushRecord()
 {
-    if (!ConnectToDriver(GetqvTabletInfo(), kQVRecordSize)) {
+    if (!PushQVTabletInfo()) {
         return QStringLiteral("the record could not be sent");
     }
     const platform::OSErr error = platform::events().finishSends();

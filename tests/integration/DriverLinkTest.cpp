@@ -63,7 +63,7 @@ protected:
     static std::string push()
     {
         testing::internal::CaptureStderr();
-        EXPECT_TRUE(ConnectToDriver(GetqvTabletInfo(), kQVRecordSize));
+        EXPECT_TRUE(PushQVTabletInfo());
         return testing::internal::GetCapturedStderr();
     }
 
