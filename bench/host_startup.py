@@ -1,0 +1,145 @@
+#!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""From launching kcmshell5 with a module to its shown page, and the memory that it takes then.
+
+Three modules start in turn: the panel's, with a tablet plugged in; an empty one; and the tablet module
+that Debian packages for Plasma, without a tablet. Writes the figures as JSON, as the other benchmarks
+do. A page is shown when its window has a colour: Qt paints a window whole before it shows any of it.
+"""
+
+import argparse
+import json
+import os
+import pathlib
+import re
+import signal
+import statistics
+import subprocess
+import tempfile
+import time
+
+from Xlib import X, display
+
+PANEL = "kcm_qvtblt"
+EMPTY = "kcm_empty"
+PLASMA = "kcm_wacomtablet"
+
+MODULES = [PANEL, EMPTY, PLASMA]
+
+SECONDS, RESIDENT = 0, 1  # the figures of a start
+
+BLACK = bytes(3)  # what a window is before it is painted
+
+
+class Screen:
+    """What a window manager sees of the windows."""
+
+    def __init__(self, name):
+        self.display = display.Display(name)
+        self.root = self.display.screen().root
+        self.root.change_attributes(event_mask=X.SubstructureNotifyMask)
+        self.pid = self.display.intern_atom("_NET_WM_PID")
+        self.display.sync()
+
+    def is_of(self, window, pid):
+        found = window.get_full_property(self.pid, X.AnyPropertyType)
+        return found is not None and found.value[0] == pid
+
+    def wait_for_page(self, pid):
+        """Waits until a window of the process is mapped and painted."""
+        while True:
+            seen = self.display.next_event()
+            if seen.type == X.MapNotify and not seen.override and self.is_of(seen.window, pid):
+                break
+        window = seen.window
+        size = window.get_geometry()
+        while self.corner(window, size) == BLACK:
+            time.sleep(0.001)
+
+    @staticmethod
+    def corner(window, size):
+        return window.get_image(size.width - 2, size.height - 2, 1, 1, X.ZPixmap, 0xffffff).data[:3]
+
+
+def memory(pid):
+    """What the process has in main memory, in KiB."""
+    found = re.search(r"^VmRSS:\s*(\d+) kB$", pathlib.Path(f"/proc/{pid}/status").read_text(), re.M)
+    return int(found[1])
+
+
+def end(program):
+    os.killpg(program.pid, signal.SIGKILL)
+    program.wait()
+
+
+def measure(screen, module, environment):
+    """Seconds until the page is shown, and the memory."""
+    start = time.monotonic()
+    host = subprocess.Popen(["kcmshell5", module], env=environment, start_new_session=True,
+                            stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    try:
+        screen.wait_for_page(host.pid)
+        seconds = time.monotonic() - start
+        time.sleep(1)  # what a page does after it is shown takes memory too
+        return seconds, memory(host.pid)
+    finally:
+        end(host)
+
+
+def main():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("plugins")
+    parser.add_argument("driver")
+    parser.add_argument("plasma_module", type=pathlib.Path, help="its package, unpacked")
+    parser.add_argument("output", type=pathlib.Path)
+    parser.add_argument("--runs", type=int, default=15)
+    options = parser.parse_args()
+
+    with tempfile.TemporaryDirectory() as folder:
+        environment = {
+            "DBUS_SESSION_BUS_ADDRESS": os.environ["DBUS_SESSION_BUS_ADDRESS"],
+            "DISPLAY": os.environ["DISPLAY"],
+            "HOME": folder,
+            "KDE_FULL_SESSION": "true",
+            "KDE_SESSION_VERSION": "5",
+            "LANG": "C.UTF-8",
+            "PATH": "/usr/bin:/bin",
+            "QT_PLUGIN_PATH": ":".join(map(str, [
+                options.plugins, *options.plasma_module.glob("usr/lib/*/qt5/plugins")])),
+            "XAUTHORITY": os.environ.get("XAUTHORITY", ""),
+            "XDG_CURRENT_DESKTOP": "KDE",
+            "XDG_DATA_DIRS": f"{options.plasma_module}/usr/share:/usr/local/share:/usr/share",
+            "XDG_RUNTIME_DIR": folder,
+        }
+        with subprocess.Popen([options.driver], env=environment, text=True,
+                              stdout=subprocess.PIPE) as driver:
+            while driver.stdout.readline() != "ready\n":
+                pass
+            screen = Screen(environment["DISPLAY"])
+            found = {module: [] for module in MODULES}
+            for run in range(options.runs + 1):
+                for module in MODULES:
+                    figures = measure(screen, module, environment)
+                    if run > 0:  # the first fills the host's caches
+                        found[module].append(figures)
+            driver.terminate()
+
+    def median(module, figure):
+        return statistics.median(run[figure] for run in found[module])
+
+    runs = [{
+        "name": name,
+        "us": median(PANEL, SECONDS) * 1e6,
+        "floor_us": median(floor, SECONDS) * 1e6,
+        "ratio": median(PANEL, SECONDS) / median(floor, SECONDS),
+    } for name, floor in (("startInHost", EMPTY), ("startOfPlasmaModule", PLASMA))]
+    runs.append({
+        "name": "memoryInHost",
+        "iterations": 1,
+        "grown_KiB": median(PANEL, RESIDENT) - median(EMPTY, RESIDENT),
+    })
+    options.output.write_text(json.dumps({"benchmarks": runs}))
+
+
+main()
