@@ -38,6 +38,7 @@ QWidget* QVTblt_prefPanePref::makeMainView()
 {
     auto view = std::make_unique<QVNSView>();
     setupUi(view.get());
+    mNoDevTitleX = platform::frame(*NoDevTitle).x;
     setUpKeyPage();
     setUpPenPage();
     setUpDisplayPage();
@@ -140,13 +141,19 @@ void QVTblt_prefPanePref::showNoDevice()
 
     // The label moves on from where it stands: each showing without a tablet shifts it further.
     platform::Rect frame = platform::frame(*NoDevTitle);
-    frame.x += 20.0;
+    frame.x = mNoDevTitleX + 20.0;
     frame.y -= 150.0;
     frame.width *= 5.0;
     platform::setFrame(*NoDevTitle, frame);
     NoDevTitle->setText(rzkBundle.localizedString(
         QStringLiteral("NoDevice"), QString(), QStringLiteral("InfoPlist")));
     platform::sizeToFit(*NoDevTitle);
+    mNoDevTitleX = frame.x;
+    if (NoDevTitle->isRightToLeft()) {
+        frame = platform::frame(*NoDevTitle);
+        frame.x = NoDevTitle->parentWidget()->width() - (frame.x + frame.width);
+        platform::setFrame(*NoDevTitle, frame);
+    }
     placeNoDeviceHelp();
 }
 

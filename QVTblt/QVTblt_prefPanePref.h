@@ -105,6 +105,7 @@ private:
     void askForKeys(QVKeyComboBox& comboBox);
 
     QTranslator mTranslator; ///< of the panel's own texts
+    double mNoDevTitleX = 0; ///< of the label, from the side on which lines begin
     bool mPushFailed = false; ///< the driver has not taken the latest push
     std::string mSaveError; ///< why the latest save failed; empty when it did not
     bool mButtonsShown = true; ///< Save and Cancel, where there is a tablet

@@ -4,21 +4,28 @@
 
 #include "hid_usb_2_adb_keymap_char.h"
 
+#include <QCoreApplication>
+
 namespace {
+
+/** The context of the translations. */
+struct ActionText {
+    Q_DECLARE_TR_FUNCTIONS(ActionText)
+};
 
 QString mouseText(std::int16_t button)
 {
     switch (button) {
     case 0:
-        return QStringLiteral("Left mouse button");
+        return ActionText::tr("Left mouse button");
     case 1:
-        return QStringLiteral("Right mouse button");
+        return ActionText::tr("Right mouse button");
     case 3:
-        return QStringLiteral("Middle mouse button");
+        return ActionText::tr("Middle mouse button");
     case 2:
-        return QStringLiteral("Back mouse button");
+        return ActionText::tr("Back mouse button");
     default:
-        return QStringLiteral("No action");
+        return ActionText::tr("No action");
     }
 }
 
@@ -37,27 +44,27 @@ QString actionText(const tagQVTabletInfoSubKey& slot)
         return mouseText(slot.Mouse);
     case 2: {
         const QString path = pathText(slot.App);
-        return path.isEmpty() ? QStringLiteral("Open an application, of which no path is known")
-                              : QStringLiteral("Open %1").arg(path);
+        return path.isEmpty() ? ActionText::tr("Open an application, of which no path is known")
+                              : ActionText::tr("Open %1").arg(path);
     }
     case 3: {
         const QString keys = QString::fromStdU16String(QVKeyCombinationText(slot.Key)).trimmed();
-        return keys.isEmpty() ? QStringLiteral("Press no keys")
-                              : QStringLiteral("Press %1").arg(keys);
+        return keys.isEmpty() ? ActionText::tr("Press no keys")
+                              : ActionText::tr("Press %1").arg(keys);
     }
     case 4:
-        return QStringLiteral("Go to the next display");
+        return ActionText::tr("Go to the next display");
     case 5:
-        return QStringLiteral("Move finely while held");
+        return ActionText::tr("Move finely while held");
     case 6:
-        return QStringLiteral("Pause the tablet");
+        return ActionText::tr("Pause the tablet");
     default:
-        return QStringLiteral("No action");
+        return ActionText::tr("No action");
     }
 }
 
 QString stripText(std::int16_t field, std::int16_t speed)
 {
-    return field == 0 ? QStringLiteral("Scroll at speed %1").arg(speed)
-                      : QStringLiteral("No action: the strip is off");
+    return field == 0 ? ActionText::tr("Scroll at speed %1").arg(speed)
+                      : ActionText::tr("No action: the strip is off");
 }

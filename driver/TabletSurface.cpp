@@ -41,11 +41,10 @@ qreal crisp(qreal place)
 TabletSurface::TabletSurface(QWidget* parent)
     : QWidget(parent)
 {
-    setAccessibleName(QStringLiteral("Surface"));
-    setAccessibleDescription(
-        QStringLiteral("The tablet's surface. Press the mouse here to touch it with the pen. The "
-                       "arrow keys move the pen, with Shift in large steps; the space bar holds "
-                       "it down."));
+    setAccessibleName(tr("Surface"));
+    setAccessibleDescription(tr(
+        "The tablet's surface. Press the mouse here to touch it with the pen. The arrow keys move "
+        "the pen, with Shift in large steps; the space bar holds it down."));
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);

@@ -90,13 +90,13 @@ TabletWindow::TabletWindow(Driver& driver)
     , mBody(new QHBoxLayout)
     , mBelow(new QVBoxLayout)
 {
-    mModels->setAccessibleName(QStringLiteral("Tablet"));
-    mModels->setAccessibleDescription(QStringLiteral("The model that is attached."));
-    mModels->addItem(QStringLiteral("No tablet"), 0);
+    mModels->setAccessibleName(tr("Tablet"));
+    mModels->setAccessibleDescription(tr("The model that is attached."));
+    mModels->addItem(tr("No tablet"), 0);
     for (const QVTabletModel& known : kQVTabletModels) {
         mModels->addItem(QString::fromUtf8(known.name), known.productID);
     }
-    auto* const label = new QLabel(QStringLiteral("&Tablet:"));
+    auto* const label = new QLabel(tr("&Tablet:"));
     label->setBuddy(mModels);
     auto* const chooser = new QHBoxLayout;
     chooser->addWidget(label);
@@ -104,15 +104,16 @@ TabletWindow::TabletWindow(Driver& driver)
     chooser->addStretch();
 
     auto* const body = new QFrame;
+    body->setLayoutDirection(Qt::LeftToRight); // the keys are where they are, in every language
     body->setFrameShape(QFrame::StyledPanel);
     body->setLayout(mBody);
     mBody->addWidget(mSurface, 1);
     auto* const form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    mPen = valueLabel(*form, QStringLiteral("Pen:"));
-    mListening = valueLabel(*form, QStringLiteral("Panel:"));
-    mMapped = valueLabel(*form, QStringLiteral("Frame:"));
-    mTold = valueLabel(*form, QStringLiteral("Pressed:"));
+    mPen = valueLabel(*form, tr("Pen:"));
+    mListening = valueLabel(*form, tr("Panel:"));
+    mMapped = valueLabel(*form, tr("Frame:"));
+    mTold = valueLabel(*form, tr("Pressed:"));
     mBelow->addLayout(form);
     auto* const tablet = new QVBoxLayout(mTablet);
     tablet->setContentsMargins(0, 0, 0, 0);
@@ -180,8 +181,9 @@ void TabletWindow::choose()
     if (!error.isEmpty()) {
         say(error);
         showModel();
-        mTold->setText(error);
-        mNoTablet->setText(error);
+        const QString text = tr("The tablet is not attached: %1").arg(error);
+        mTold->setText(text);
+        mNoTablet->setText(text);
     }
 }
 
@@ -190,9 +192,9 @@ void TabletWindow::showModel()
     const QVTabletModel* const attached = model();
     mModels->setCurrentIndex(mModels->findData(mDriver.attached()));
     setWindowTitle(attached == nullptr
-            ? QStringLiteral("Virtual tablet")
-            : QStringLiteral("Virtual tablet: %1").arg(QString::fromUtf8(attached->name)));
-    mNoTablet->setText(QStringLiteral("No tablet is attached. Choose one above."));
+            ? tr("Virtual tablet")
+            : tr("Virtual tablet: %1").arg(QString::fromUtf8(attached->name)));
+    mNoTablet->setText(tr("No tablet is attached. Choose one above."));
     mNoTablet->setVisible(attached == nullptr);
     mTablet->setVisible(attached != nullptr);
     delete mKeys;
@@ -205,7 +207,7 @@ void TabletWindow::showModel()
     }
     addKeys(*attached);
     addPenButtons(*attached);
-    mTold->setText(QStringLiteral("no key yet; press one to see what it does"));
+    mTold->setText(tr("no key yet; press one to see what it does"));
     const std::optional<tagQVTabletInfo> known = settings();
     mSurface->setTablet(tabletRange(*attached, known ? &*known : nullptr));
     showSettings();
@@ -232,8 +234,7 @@ void TabletWindow::addKeys(const QVTabletModel& model)
         }
         for (int i = 0; i < count && key < model.keyNum; ++i, ++key) {
             const QString number = QString::number(key + 1);
-            addButton(*column, number, QStringLiteral("Key %1").arg(number),
-                static_cast<std::size_t>(key));
+            addButton(*column, number, tr("Key %1").arg(number), static_cast<std::size_t>(key));
         }
     }
     column->addStretch();
@@ -246,10 +247,9 @@ void TabletWindow::addPenButtons(const QVTabletModel& model)
     auto* const row = new QHBoxLayout(mPenButtons);
     row->setContentsMargins(0, 0, 0, 0);
     row->addStretch();
-    static constexpr std::array kNames{"Upper pen button", "Lower pen button"};
-    for (std::size_t i = 0; i < std::min<std::size_t>(model.penButtons, kNames.size()); ++i) {
-        const QString name = QString::fromLatin1(kNames[i]);
-        addButton(*row, name, name, kPenUpper + i);
+    const std::array names{tr("Upper pen button"), tr("Lower pen button")};
+    for (std::size_t i = 0; i < std::min<std::size_t>(model.penButtons, names.size()); ++i) {
+        addButton(*row, names[i], names[i], kPenUpper + i);
     }
     row->addStretch();
     mBelow->insertWidget(0, mPenButtons);
@@ -273,8 +273,7 @@ void TabletWindow::addButton(
 
 void TabletWindow::addStrip(std::size_t strip)
 {
-    const QString name =
-        strip == 0 ? QStringLiteral("Left scroll strip") : QStringLiteral("Right scroll strip");
+    const QString name = strip == 0 ? tr("Left scroll strip") : tr("Right scroll strip");
     QToolButton* const button = keyButton(QStringLiteral("\u2261"), name);
     button->setMinimumWidth(kKeyWidth);
     button->setMinimumHeight(kKeyHeight);
@@ -294,9 +293,10 @@ void TabletWindow::addStrip(std::size_t strip)
 
 void TabletWindow::tell(const QString& name, const QString& action)
 {
-    mTold->setText(QStringLiteral("%1: %2").arg(name,
-        action.isEmpty() ? QStringLiteral("not known before the panel sends its settings")
-                         : action));
+    mTold->setText(
+        tr("%1: %2", "a key and what it does")
+            .arg(name,
+                action.isEmpty() ? tr("not known before the panel sends its settings") : action));
 }
 
 void TabletWindow::showSettings()
@@ -309,13 +309,13 @@ void TabletWindow::showSettings()
     mSurface->setRange(tabletRange(*attached, known ? &*known : nullptr));
     if (!known) {
         mSurface->setMapped(std::nullopt);
-        mMapped->setText(QStringLiteral("not known before the panel sends its settings"));
+        mMapped->setText(tr("not known before the panel sends its settings"));
         return;
     }
     const QVTabletArea mapped{known->Monitor.cTabletXmin, known->Monitor.cTabletXmax,
         known->Monitor.cTabletYmin, known->Monitor.cTabletYmax};
     mSurface->setMapped(mapped);
-    mMapped->setText(QStringLiteral("the part that covers the screen, x %1 to %2, y %3 to %4")
+    mMapped->setText(tr("the part that covers the screen, x %1 to %2, y %3 to %4")
                          .arg(mapped.xmin)
                          .arg(mapped.xmax)
                          .arg(mapped.ymin)
@@ -325,18 +325,16 @@ void TabletWindow::showSettings()
 void TabletWindow::showListening()
 {
     mListening->setText(mDriver.isCalibrating()
-            ? QStringLiteral("calibrating: it is told what the pen does")
-            : QStringLiteral("not calibrating: it is told nothing of the pen"));
+            ? tr("calibrating: it is told what the pen does")
+            : tr("not calibrating: it is told nothing of the pen"));
     liftAboveCalibration();
 }
 
 void TabletWindow::showPen()
 {
     const QVTabletPoint& pen = mSurface->pen();
-    mPen->setText(QStringLiteral("%1 at %2, %3")
-                      .arg(mSurface->isPenDown() ? QStringLiteral("down") : QStringLiteral("up"))
-                      .arg(pen.x)
-                      .arg(pen.y));
+    mPen->setText(
+        (mSurface->isPenDown() ? tr("down at %1, %2") : tr("up at %1, %2")).arg(pen.x).arg(pen.y));
 }
 
 void TabletWindow::liftAboveCalibration()

@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
+#include "Bundle.h"
 #include "DBusAppleEvents.h"
 #include "Driver.h"
 #include "QVTabletModels.h"
@@ -10,7 +11,9 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QIcon>
+#include <QTranslator>
 
 #include <algorithm>
 #include <csignal>
@@ -71,6 +74,19 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, bool h
     QGuiApplication::setWindowIcon(QIcon::fromTheme(
         QGuiApplication::desktopFileName(), QIcon::fromTheme(QStringLiteral("input-tablet"))));
     return application;
+}
+
+/** Has the window's texts in the user's language. What is printed stays English. */
+void translateWindow(QTranslator& translator)
+{
+    const QDir folder(QCoreApplication::applicationDirPath());
+    const platform::Bundle texts(
+        QDir::cleanPath(folder.filePath(QStringLiteral(QVTBLT_TEXTS_PATH))));
+    const auto translation =
+        texts.pathForLocalizedResource(QStringLiteral("tdsg-driver"), QStringLiteral("qm"));
+    if (translation && translator.load(*translation)) {
+        QCoreApplication::installTranslator(&translator);
+    }
 }
 
 } // namespace
@@ -147,8 +163,10 @@ int main(int argc, char* argv[])
     bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
         application.get(), SLOT(quit()));
+    QTranslator translator;
     std::unique_ptr<TabletWindow> window;
     if (hasWindow) {
+        translateWindow(translator);
         window = std::make_unique<TabletWindow>(driver);
         QObject::connect(
             window.get(), &TabletWindow::closed, application.get(), end, Qt::QueuedConnection);

@@ -8,16 +8,17 @@
 
 LoadedPane loadPane(const QString& modulePath, const QString& resourcesPath)
 {
-    QPluginLoader loader(QDir::cleanPath(modulePath));
+    const QString file = QDir::cleanPath(modulePath);
+    const QDir moduleFolder = QFileInfo(file).absoluteDir();
+    const platform::Bundle bundle(QDir::cleanPath(moduleFolder.filePath(resourcesPath)));
+    QPluginLoader loader(file);
     const auto* const plugin = qobject_cast<platform::PreferencePanePlugin*>(loader.instance());
     if (plugin == nullptr) {
-        return {nullptr, loader.errorString()};
+        return {nullptr, loader.errorString(), bundle};
     }
-    const QDir moduleFolder = QFileInfo(loader.fileName()).absoluteDir();
-    const platform::Bundle bundle(QDir::cleanPath(moduleFolder.filePath(resourcesPath)));
     std::unique_ptr<platform::PreferencePane> pane = plugin->makePane();
     if (pane->initWithBundle(bundle) == nullptr) {
-        return {nullptr, QStringLiteral("%1 refused its bundle").arg(loader.fileName())};
+        return {nullptr, QStringLiteral("%1 refused its bundle").arg(file), bundle};
     }
-    return {std::move(pane), {}};
+    return {std::move(pane), {}, bundle};
 }

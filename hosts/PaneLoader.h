@@ -12,6 +12,7 @@
 struct LoadedPane {
     std::unique_ptr<platform::PreferencePane> pane;
     QString error; ///< for people; empty when there is a pane
+    platform::Bundle bundle; ///< the module's, with or without a pane
 };
 
 /**

@@ -43,7 +43,7 @@ set(bus "default-dbus-session-bus | dbus-session-bus")
 set(CPACK_DEBIAN_QVTBLT_PACKAGE_NAME qvtblt)
 set(CPACK_DEBIAN_QVTBLT_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_QVTBLT_PACKAGE_DEPENDS "${bus}, hicolor-icon-theme")
-set(CPACK_DEBIAN_QVTBLT_PACKAGE_RECOMMENDS "qt6-wayland, tdsg-driver")
+set(CPACK_DEBIAN_QVTBLT_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland, tdsg-driver")
 set(CPACK_DEBIAN_QVTBLT_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/postinst)
 set(CPACK_DEBIAN_QVTBLT_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_QVTBLT_DESCRIPTION "settings panel of the Quorvia pen tablet

@@ -15,6 +15,12 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcBundle, "org.quorvia.tablet.bundle", QtInfoMsg)
 
+/** What the texts in the sources are in. */
+QString sourceLanguage()
+{
+    return QStringLiteral("en");
+}
+
 /** The user's languages, best first, each followed by what it is a variant of: de-AT, de. */
 QStringList preferredLanguages()
 {
@@ -27,7 +33,7 @@ QStringList preferredLanguages()
             languages.append(tag);
         }
     }
-    languages.append(QStringLiteral("en"));
+    languages.append(sourceLanguage());
     languages.removeDuplicates();
     return languages;
 }
@@ -43,17 +49,22 @@ std::optional<QString> Bundle::pathForResource(const QString& name, const QStrin
     return path;
 }
 
-std::optional<QString> Bundle::pathForLocalizedResource(
-    const QString& name, const QString& type) const
+QString Bundle::preferredLocalization() const
 {
     const QStringList languages = preferredLanguages();
     for (const QString& language : languages) {
-        const QString folder = language + QStringLiteral(".lproj");
-        if (!mFolder.isEmpty() && QFileInfo(mFolder + u'/' + folder).isDir()) {
-            return pathForResource(folder + u'/' + name, type);
+        const QString folder = mFolder + u'/' + language + QStringLiteral(".lproj");
+        if (language == sourceLanguage() || (!mFolder.isEmpty() && QFileInfo(folder).isDir())) {
+            return language;
         }
     }
-    return std::nullopt;
+    return sourceLanguage();
+}
+
+std::optional<QString> Bundle::pathForLocalizedResource(
+    const QString& name, const QString& type) const
+{
+    return pathForResource(preferredLocalization() + QStringLiteral(".lproj/") + name, type);
 }
 
 QString Bundle::localizedString(

@@ -13,7 +13,9 @@ namespace platform {
  * A folder of resources: files by name and type, and localized string tables.
  *
  * A string table is the file <language>.lproj/<table>.strings, a property list with one dictionary
- * of strings. The user's preferred languages are those of the desktop's settings, best first.
+ * of strings. The user's preferred languages are those of the desktop's settings, best first. A
+ * folder's language is written as in these: de, pt-BR, or zh-Hans, which serves Chinese in all
+ * places that write it in simplified characters, and no other.
  */
 class Bundle {
 public:
@@ -31,8 +33,15 @@ public:
     std::optional<QString> pathForResource(const QString& name, const QString& type) const;
 
     /**
-     * Path of the file name.type of the user's language, which is the best one for which the
-     * bundle has a folder; nothing where that folder has no such file.
+     * The user's best language for which the bundle has a folder, for instance "de". It is "en"
+     * where there is none, and where English comes first, which is the language of the texts in
+     * the sources and needs no folder.
+     */
+    QString preferredLocalization() const;
+
+    /**
+     * Path of the file name.type of the preferred localization; nothing where its folder has no
+     * such file.
      */
     std::optional<QString> pathForLocalizedResource(const QString& name, const QString& type) const;
 

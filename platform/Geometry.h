@@ -19,7 +19,8 @@ struct Rect {
 /**
  * Where a control stands in its parent, in points. The origin is the parent's lower left corner,
  * and y grows upwards to the control's lower edge: y = parent height - (top + height). A point is a
- * pixel of the parent's, in a PointCanvas what that says.
+ * pixel of the parent's, in a PointCanvas what that says, which also mirrors where the language
+ * asks for it.
  */
 Rect frame(const QWidget& control);
 

@@ -57,7 +57,9 @@ void PointCanvas::setFrameOf(QWidget& child, const Rect& frame)
 void PointCanvas::changeEvent(QEvent* event)
 {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::FontChange && mSize.isValid()) {
+    const bool isNews =
+        event->type() == QEvent::FontChange || event->type() == QEvent::LayoutDirectionChange;
+    if (isNews && mSize.isValid()) {
         rescale();
     }
 }
@@ -82,8 +84,9 @@ void PointCanvas::place(QWidget& child) const
     const auto pixels = [this](double points) {
         return static_cast<int>(std::lround(points * mScale));
     };
+    const double left = isRightToLeft() ? mSize.width() - (found->x + found->width) : found->x;
     const double top = mSize.height() - (found->y + found->height);
-    child.setGeometry(pixels(found->x), pixels(top), pixels(found->width), pixels(found->height));
+    child.setGeometry(pixels(left), pixels(top), pixels(found->width), pixels(found->height));
 }
 
 } // namespace platform

@@ -14,6 +14,9 @@ namespace platform {
  * size, so that texts keep their room: at the usual size it is a pixel of the widget's, with text
  * twice as large it is two.
  *
+ * Where the language is written from right to left, the children stand mirrored, as they do in Qt's
+ * layouts. Their frames are the same.
+ *
  * The places come from the interface file, which has them in points at the usual size. After that,
  * setFrame() moves a child.
  */

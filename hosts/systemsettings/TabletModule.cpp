@@ -40,8 +40,10 @@ TabletModule::TabletModule(ModuleParent* parent, const ModuleArguments& argument
         QStringLiteral(QVTBLT_RESOURCES_PATH));
     if (!loaded.pane) {
         setButtons(NoAdditionalButton);
-        auto* const label =
-            new QLabel(tr("The tablet's settings cannot be shown.\n%1").arg(loaded.error));
+        auto* const label = new QLabel(loaded.bundle.localizedString(QStringLiteral("CannotShow"),
+                                           QStringLiteral("The tablet's settings cannot be shown."),
+                                           QStringLiteral("InfoPlist"))
+            + u'\n' + loaded.error);
         label->setWordWrap(true);
         layout->addWidget(label);
         return;

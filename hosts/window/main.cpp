@@ -8,8 +8,11 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QProcess>
 #include <QProcessEnvironment>
+#include <QTranslator>
 
 #include <csignal>
 #include <cstdio>
@@ -63,6 +66,20 @@ int render(PaneWindow& window, const QString& folder)
     return 0;
 }
 
+/** Qt's own texts, as those of its standard buttons, in the language of the panel's. */
+bool loadQtTexts(QTranslator& translator, const platform::Bundle& panel)
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+#else
+    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
+#endif
+    // Qt names its files as locales: zh_CN for zh-Hans. What has none for a place has the
+    // language's.
+    const QLocale locale(panel.preferredLocalization());
+    return translator.load(QStringLiteral("qtbase_") + locale.name(), folder);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -92,13 +109,12 @@ int main(int argc, char* argv[])
         QGuiApplication::desktopFileName(), QIcon::fromTheme(QStringLiteral("input-tablet"))));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QApplication::translate(
-        "main", "Settings of the Quorvia pen tablet, in a window of their own."));
+    parser.setApplicationDescription(
+        QStringLiteral("Settings of the Quorvia pen tablet, in a window of their own."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption renderOption(QStringLiteral("render"),
-        QApplication::translate(
-            "main", "Draw each page, with and without a tablet, into PNG files in DIR and end."),
+        QStringLiteral("Draw each page, with and without a tablet, into PNG files in DIR and end."),
         QStringLiteral("DIR"));
     parser.addOption(renderOption);
     parser.process(application);
@@ -109,6 +125,10 @@ int main(int argc, char* argv[])
     if (!loaded.pane) {
         say(stderr, QStringLiteral("qvtblt: cannot load the panel: %1").arg(loaded.error));
         return kFailure;
+    }
+    QTranslator qtTexts;
+    if (loadQtTexts(qtTexts, loaded.bundle)) {
+        QCoreApplication::installTranslator(&qtTexts);
     }
     PaneWindow window(std::move(loaded.pane));
     if (parser.isSet(renderOption)) {

@@ -5,6 +5,8 @@
 Usage: kcmshell_test.py PLUGINS [unittest's arguments], PLUGINS being the build's Qt plug-ins
 """
 
+import pathlib
+import shutil
 import unittest
 
 import host
@@ -69,6 +71,24 @@ class KcmShell(host.Host):
         self.start_host("kcmshell5", "kcm_qvtblt")
         self.find(APPLICATION, "No tablet was found", "label")
         self.wait_for_button(APPLICATION, "Apply", False)
+
+    def test_says_in_the_users_language_that_there_is_no_panel(self):
+        # A copy of what is installed, without the panel itself.
+        plugins = pathlib.Path(host.PLUGINS).relative_to(session.STAGE)
+        shutil.copytree(session.STAGE / plugins, self.folder / "usr" / plugins)
+        shutil.copytree(session.STAGE / "share/qvtblt", self.folder / "usr/share/qvtblt")
+        self.env["QT_PLUGIN_PATH"] = str(self.folder / "usr" / plugins)
+        for language, text in (
+                ("pt:fr:en", "Les réglages de la tablette ne peuvent pas être affichés."),
+                ("pt", "The tablet's settings cannot be shown.")):
+            with self.subTest(language):
+                self.env["LANGUAGE"] = language
+                shell = self.start_host("kcmshell5", "kcm_qvtblt")
+                session.wait_for(lambda: any(
+                    thing["name"].startswith(text + "\n") and "QVTblt" in thing["name"]
+                    for thing in self.things(APPLICATION)), text)
+                shell.kill()
+                shell.wait(timeout=20)
 
 
 if __name__ == "__main__":

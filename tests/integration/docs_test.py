@@ -84,15 +84,13 @@ class Links(unittest.TestCase):
 def texts_on_screen():
     """All texts of the programs that a person sees, without the marks of underlined letters."""
     resources = session.SOURCE / "resources"
-    texts = {element.text for element in
-             ElementTree.parse(resources / "de.lproj/QVTblt.ts").iter("source")}
+    texts = {element.text for file in resources.glob("de.lproj/*.ts")
+             for element in ElementTree.parse(file).iter("source")}
     for interface in resources.glob("*.ui"):
         texts |= {element.text for element in ElementTree.parse(interface).iter("string")}
     table = list(ElementTree.parse(resources / "en.lproj/InfoPlist.strings").find("dict"))
     table = {key.text: string.text for key, string in zip(table[::2], table[1::2])}
     strings = set(table.values()) | {f"{table['Monitor']} #%1"}  # displays are numbered
-    window = (session.SOURCE / "driver/TabletWindow.cpp").read_text()
-    strings |= set(re.findall(r'QStringLiteral\("([^"]+)"\)', window))
     texts = {text.replace("&", "") for text in texts | strings if text}
     return {text for text in texts if re.sub(r"%\d|\W", "", text)}
 

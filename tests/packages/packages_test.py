@@ -50,6 +50,16 @@ class Contents(unittest.TestCase):
         self.assertEqual(len(files), 6, files)
         return files
 
+    def test_each_language_is_there(self):
+        languages = sorted(folder.name for folder in SOURCE.glob("resources/*.lproj"))
+        self.assertGreater(len(languages), 5)
+        for language in languages:
+            texts = [f"qvtblt/{language}/InfoPlist.strings"]
+            if language != "en.lproj":
+                texts += [f"qvtblt/{language}/QVTblt.qm", f"tdsg-driver/{language}/tdsg-driver.qm"]
+            for text in texts:
+                self.assertTrue((self.usr / "share" / text).is_file(), text)
+
     def test_lintian_has_nothing_to_say(self):
         as_root = ["--allow-root"] if os.geteuid() == 0 else []
         run("lintian", "--fail-on", "error,warning", *as_root, *PACKAGES)

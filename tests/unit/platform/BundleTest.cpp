@@ -40,6 +40,12 @@ protected:
         return inTable(key, value);
     }
 
+    QString preferred(const char* language) const
+    {
+        QLocale::setDefault(QLocale(QString::fromLatin1(language)));
+        return mBundle.preferredLocalization();
+    }
+
     QString inTable(const char* key, const char* value = "") const
     {
         return mBundle.localizedString(
@@ -68,6 +74,45 @@ TEST_F(BundleFolder, followsTheOrderOfTheUsersPreferences)
     qputenv("LANGUAGE", "es:de:en");
     EXPECT_EXIT(std::_Exit(inTable("Hello").startsWith(QStringLiteral("Gr")) ? 0 : 1),
         testing::ExitedWithCode(0), "");
+}
+
+TEST_F(BundleFolder, takesResourcesOfTheSameLanguageAsStrings)
+{
+    const QString file = QStringLiteral("/de.lproj/Texts.qm");
+    writeFile(mHome.path() + file, "x");
+    const auto path = [this] {
+        return mBundle.pathForLocalizedResource(QStringLiteral("Texts"), QStringLiteral("qm"));
+    };
+    EXPECT_EQ(preferred("de_AT"), QStringLiteral("de"));
+    EXPECT_EQ(path(), mHome.path() + file);
+    EXPECT_EQ(preferred("fr"), QStringLiteral("fr"));
+    EXPECT_FALSE(path()) << "not in the folder of that language";
+    EXPECT_EQ(preferred("es"), QStringLiteral("en"));
+    EXPECT_FALSE(path());
+}
+
+TEST_F(BundleFolder, needsNoFolderForEnglish)
+{
+    ASSERT_TRUE(QDir(mHome.path() + QStringLiteral("/en.lproj")).removeRecursively());
+    testing::FLAGS_gtest_death_test_style = "threadsafe";
+    qputenv("LC_ALL", "");
+    qputenv("LANG", "en_US.UTF-8");
+    qputenv("LANGUAGE", "en_GB:de");
+    EXPECT_EXIT(std::_Exit(mBundle.preferredLocalization() == QLatin1String("en") ? 0 : 1),
+        testing::ExitedWithCode(0), "");
+}
+
+TEST_F(BundleFolder, tellsTheWaysOfWritingALanguageApart)
+{
+    add("zh-Hans", "<key>Hello</key><string>Simplified</string>");
+    for (const char* const place : {"zh_CN", "zh_SG", "zh_Hans_HK"}) {
+        EXPECT_EQ(lookUp(place, "Hello"), QStringLiteral("Simplified")) << place;
+        EXPECT_EQ(preferred(place), QStringLiteral("zh-Hans")) << place;
+    }
+    for (const char* const place : {"zh_TW", "zh_HK", "zh_Hant"}) {
+        EXPECT_EQ(lookUp(place, "Hello"), QStringLiteral("Hello")) << place;
+        EXPECT_EQ(preferred(place), QStringLiteral("en")) << place;
+    }
 }
 
 TEST_F(BundleFolder, fallsBackToEnglishForALanguageOrAKeyThatIsNotThere)

@@ -52,6 +52,19 @@ TEST_F(Canvas, movesAChildInPointsFromItsLowerLeftCorner)
     EXPECT_EQ(platform::frame(mChild), (Rect{15, 185, 100, 30}));
 }
 
+TEST_F(Canvas, isMirroredWhereTheLanguageIsWrittenFromRightToLeft)
+{
+    mCanvas.setLayoutDirection(Qt::RightToLeft);
+    EXPECT_EQ(mChild.geometry(), QRect(290, 20, 100, 30));
+    EXPECT_EQ(platform::frame(mChild), (Rect{10, 250, 100, 30}));
+    platform::setFrame(mChild, {15, 185, 100, 30});
+    EXPECT_EQ(mChild.geometry(), QRect(285, 85, 100, 30));
+    setTextHeight(26);
+    EXPECT_EQ(mChild.geometry(), QRect(570, 170, 200, 60));
+    mCanvas.setLayoutDirection(Qt::LeftToRight);
+    EXPECT_EQ(mChild.geometry(), QRect(30, 170, 200, 60));
+}
+
 TEST_F(Canvas, growsWithTheTextAndKeepsTheFrames)
 {
     setTextHeight(26);

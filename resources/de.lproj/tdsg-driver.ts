@@ -1,0 +1,178 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de" sourcelanguage="en">
+<context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <translation>Linke Maustaste</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <translation>Rechte Maustaste</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <translation>Mittlere Maustaste</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <translation>Maustaste „Zurück“</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <translation>Keine Aktion</translation>
+    </message>
+    <message>
+        <source>Open an application, of which no path is known</source>
+        <translation>Eine Anwendung öffnen, deren Pfad unbekannt ist</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>%1 öffnen</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <translation>Keine Tasten drücken</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <translation>%1 drücken</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <translation>Zum nächsten Bildschirm</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <translation>Feinführung (halten)</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <translation>Tablett anhalten</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <translation>Mit Tempo %1 rollen</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <translation>Keine Aktion: Der Streifen ist aus</translation>
+    </message>
+</context>
+<context>
+    <name>TabletSurface</name>
+    <message>
+        <source>Surface</source>
+        <translation>Fläche</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
+        <translation>Die Fläche des Tabletts. Die Maus hier drücken, um sie mit dem Stift zu berühren. Die Pfeiltasten bewegen den Stift, mit Umschalt in großen Schritten; die Leertaste hält ihn unten.</translation>
+    </message>
+</context>
+<context>
+    <name>TabletWindow</name>
+    <message>
+        <source>Tablet</source>
+        <translation>Tablett</translation>
+    </message>
+    <message>
+        <source>The model that is attached.</source>
+        <translation>Das angeschlossene Modell.</translation>
+    </message>
+    <message>
+        <source>No tablet</source>
+        <translation>Kein Tablett</translation>
+    </message>
+    <message>
+        <source>&amp;Tablet:</source>
+        <translation>&amp;Tablett:</translation>
+    </message>
+    <message>
+        <source>Pen:</source>
+        <translation>Stift:</translation>
+    </message>
+    <message>
+        <source>Panel:</source>
+        <translation>Einstellungen:</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <translation>Rahmen:</translation>
+    </message>
+    <message>
+        <source>Pressed:</source>
+        <translation>Gedrückt:</translation>
+    </message>
+    <message>
+        <source>The tablet is not attached: %1</source>
+        <translation>Das Tablett ist nicht angeschlossen: %1</translation>
+    </message>
+    <message>
+        <source>Virtual tablet</source>
+        <translation>Virtuelles Tablett</translation>
+    </message>
+    <message>
+        <source>Virtual tablet: %1</source>
+        <translation>Virtuelles Tablett: %1</translation>
+    </message>
+    <message>
+        <source>No tablet is attached. Choose one above.</source>
+        <translation>Kein Tablett ist angeschlossen. Oben eines wählen.</translation>
+    </message>
+    <message>
+        <source>no key yet; press one to see what it does</source>
+        <translation>noch keine Taste; eine drücken, um zu sehen, was sie tut</translation>
+    </message>
+    <message>
+        <source>Key %1</source>
+        <translation>Taste %1</translation>
+    </message>
+    <message>
+        <source>Upper pen button</source>
+        <translation>Obere Stifttaste</translation>
+    </message>
+    <message>
+        <source>Lower pen button</source>
+        <translation>Untere Stifttaste</translation>
+    </message>
+    <message>
+        <source>Left scroll strip</source>
+        <translation>Linker Rollstreifen</translation>
+    </message>
+    <message>
+        <source>Right scroll strip</source>
+        <translation>Rechter Rollstreifen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a key and what it does</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>not known before the panel sends its settings</source>
+        <translation>unbekannt, bis die Einstellungen gesendet werden</translation>
+    </message>
+    <message>
+        <source>the part that covers the screen, x %1 to %2, y %3 to %4</source>
+        <translation>der Teil, der den Bildschirm abdeckt, x %1 bis %2, y %3 bis %4</translation>
+    </message>
+    <message>
+        <source>calibrating: it is told what the pen does</source>
+        <translation>Kalibrierung läuft: sie erfahren, was der Stift tut</translation>
+    </message>
+    <message>
+        <source>not calibrating: it is told nothing of the pen</source>
+        <translation>keine Kalibrierung: sie erfahren nichts vom Stift</translation>
+    </message>
+    <message>
+        <source>down at %1, %2</source>
+        <translation>unten bei %1, %2</translation>
+    </message>
+    <message>
+        <source>up at %1, %2</source>
+        <translation>oben bei %1, %2</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,178 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="es" sourcelanguage="en">
+<context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <translation>Botón izquierdo del ratón</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <translation>Botón derecho del ratón</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <translation>Botón central del ratón</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <translation>Botón Atrás del ratón</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <translation>Ninguna acción</translation>
+    </message>
+    <message>
+        <source>Open an application, of which no path is known</source>
+        <translation>Abrir una aplicación cuya ruta se desconoce</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>Abrir %1</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <translation>No pulsar ninguna tecla</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <translation>Pulsar %1</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <translation>Ir a la pantalla siguiente</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <translation>Precisión (mantener)</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <translation>Pausar la tableta</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <translation>Desplazar a velocidad %1</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <translation>Ninguna acción: la banda está desactivada</translation>
+    </message>
+</context>
+<context>
+    <name>TabletSurface</name>
+    <message>
+        <source>Surface</source>
+        <translation>Superficie</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
+        <translation>La superficie de la tableta. Pulse aquí con el ratón para tocarla con el lápiz. Las teclas de flecha mueven el lápiz, con Mayús a grandes pasos; la barra espaciadora lo mantiene apretado.</translation>
+    </message>
+</context>
+<context>
+    <name>TabletWindow</name>
+    <message>
+        <source>Tablet</source>
+        <translation>Tableta</translation>
+    </message>
+    <message>
+        <source>The model that is attached.</source>
+        <translation>El modelo que está conectado.</translation>
+    </message>
+    <message>
+        <source>No tablet</source>
+        <translation>Ninguna tableta</translation>
+    </message>
+    <message>
+        <source>&amp;Tablet:</source>
+        <translation>&amp;Tableta:</translation>
+    </message>
+    <message>
+        <source>Pen:</source>
+        <translation>Lápiz:</translation>
+    </message>
+    <message>
+        <source>Panel:</source>
+        <translation>Ajustes:</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <translation>Marco:</translation>
+    </message>
+    <message>
+        <source>Pressed:</source>
+        <translation>Pulsado:</translation>
+    </message>
+    <message>
+        <source>The tablet is not attached: %1</source>
+        <translation>La tableta no está conectada: %1</translation>
+    </message>
+    <message>
+        <source>Virtual tablet</source>
+        <translation>Tableta virtual</translation>
+    </message>
+    <message>
+        <source>Virtual tablet: %1</source>
+        <translation>Tableta virtual: %1</translation>
+    </message>
+    <message>
+        <source>No tablet is attached. Choose one above.</source>
+        <translation>No hay ninguna tableta conectada. Elija una arriba.</translation>
+    </message>
+    <message>
+        <source>no key yet; press one to see what it does</source>
+        <translation>ninguna tecla todavía; pulse una para ver qué hace</translation>
+    </message>
+    <message>
+        <source>Key %1</source>
+        <translation>Tecla %1</translation>
+    </message>
+    <message>
+        <source>Upper pen button</source>
+        <translation>Botón superior del lápiz</translation>
+    </message>
+    <message>
+        <source>Lower pen button</source>
+        <translation>Botón inferior del lápiz</translation>
+    </message>
+    <message>
+        <source>Left scroll strip</source>
+        <translation>Banda táctil izquierda</translation>
+    </message>
+    <message>
+        <source>Right scroll strip</source>
+        <translation>Banda táctil derecha</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a key and what it does</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>not known before the panel sends its settings</source>
+        <translation>se desconoce hasta que se envíen los ajustes</translation>
+    </message>
+    <message>
+        <source>the part that covers the screen, x %1 to %2, y %3 to %4</source>
+        <translation>la parte que cubre la pantalla, x de %1 a %2, y de %3 a %4</translation>
+    </message>
+    <message>
+        <source>calibrating: it is told what the pen does</source>
+        <translation>calibrando: reciben lo que hace el lápiz</translation>
+    </message>
+    <message>
+        <source>not calibrating: it is told nothing of the pen</source>
+        <translation>sin calibrar: no reciben nada del lápiz</translation>
+    </message>
+    <message>
+        <source>down at %1, %2</source>
+        <translation>apretado en %1, %2</translation>
+    </message>
+    <message>
+        <source>up at %1, %2</source>
+        <translation>levantado en %1, %2</translation>
+    </message>
+</context>
+</TS>

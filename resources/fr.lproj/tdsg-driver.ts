@@ -1,0 +1,178 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="fr" sourcelanguage="en">
+<context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <translation>Souris&#xa0;: bouton gauche</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <translation>Souris&#xa0;: bouton droit</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <translation>Souris&#xa0;: bouton central</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <translation>Souris&#xa0;: bouton Précédent</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <translation>Aucune action</translation>
+    </message>
+    <message>
+        <source>Open an application, of which no path is known</source>
+        <translation>Ouvrir une application dont le chemin est inconnu</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>Ouvrir %1</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <translation>N’appuyer sur aucune touche</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <translation>Appuyer sur %1</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <translation>Passer à l’écran suivant</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <translation>Précision (maintenir)</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <translation>Suspendre la tablette</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <translation>Défiler à la vitesse %1</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <translation>Aucune action&#xa0;: la bande est désactivée</translation>
+    </message>
+</context>
+<context>
+    <name>TabletSurface</name>
+    <message>
+        <source>Surface</source>
+        <translation>Surface</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
+        <translation>La surface de la tablette. Appuyez ici avec la souris pour la toucher avec le stylet. Les touches fléchées déplacent le stylet, avec Maj par grands pas&#xa0;; la barre d’espace le maintient appuyé.</translation>
+    </message>
+</context>
+<context>
+    <name>TabletWindow</name>
+    <message>
+        <source>Tablet</source>
+        <translation>Tablette</translation>
+    </message>
+    <message>
+        <source>The model that is attached.</source>
+        <translation>Le modèle qui est branché.</translation>
+    </message>
+    <message>
+        <source>No tablet</source>
+        <translation>Aucune tablette</translation>
+    </message>
+    <message>
+        <source>&amp;Tablet:</source>
+        <translation>&amp;Tablette&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Pen:</source>
+        <translation>Stylet&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Panel:</source>
+        <translation>Réglages&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <translation>Cadre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Pressed:</source>
+        <translation>Appui&#xa0;:</translation>
+    </message>
+    <message>
+        <source>The tablet is not attached: %1</source>
+        <translation>La tablette n’est pas branchée&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Virtual tablet</source>
+        <translation>Tablette virtuelle</translation>
+    </message>
+    <message>
+        <source>Virtual tablet: %1</source>
+        <translation>Tablette virtuelle&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>No tablet is attached. Choose one above.</source>
+        <translation>Aucune tablette n’est branchée. Choisissez-en une ci-dessus.</translation>
+    </message>
+    <message>
+        <source>no key yet; press one to see what it does</source>
+        <translation>aucune touche pour l’instant&#xa0;; appuyez sur l’une d’elles pour voir ce qu’elle fait</translation>
+    </message>
+    <message>
+        <source>Key %1</source>
+        <translation>Touche %1</translation>
+    </message>
+    <message>
+        <source>Upper pen button</source>
+        <translation>Bouton haut du stylet</translation>
+    </message>
+    <message>
+        <source>Lower pen button</source>
+        <translation>Bouton bas du stylet</translation>
+    </message>
+    <message>
+        <source>Left scroll strip</source>
+        <translation>Bande tactile gauche</translation>
+    </message>
+    <message>
+        <source>Right scroll strip</source>
+        <translation>Bande tactile droite</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a key and what it does</comment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>not known before the panel sends its settings</source>
+        <translation>inconnu tant que les réglages n’ont pas été envoyés</translation>
+    </message>
+    <message>
+        <source>the part that covers the screen, x %1 to %2, y %3 to %4</source>
+        <translation>la partie qui couvre l’écran, x de %1 à %2, y de %3 à %4</translation>
+    </message>
+    <message>
+        <source>calibrating: it is told what the pen does</source>
+        <translation>calibrage en cours&#xa0;: ils reçoivent ce que fait le stylet</translation>
+    </message>
+    <message>
+        <source>not calibrating: it is told nothing of the pen</source>
+        <translation>pas de calibrage&#xa0;: ils ne reçoivent rien du stylet</translation>
+    </message>
+    <message>
+        <source>down at %1, %2</source>
+        <translation>appuyé en %1, %2</translation>
+    </message>
+    <message>
+        <source>up at %1, %2</source>
+        <translation>levé en %1, %2</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,473 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>OpenPanel</name>
+    <message>
+        <source>Choose an application</source>
+        <translation>アプリケーションを選択</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>This is not an application: choose a desktop entry, an AppImage or an application bundle.</source>
+        <translation>これはアプリケーションではありません。デスクトップエントリ、AppImage、またはアプリケーションバンドルを選択してください。</translation>
+    </message>
+</context>
+<context>
+    <name>QVCalibrateWin</name>
+    <message>
+        <source>Calibration</source>
+        <translation>キャリブレーション</translation>
+    </message>
+</context>
+<context>
+    <name>QVKeyComboBox</name>
+    <message>
+        <source>No action</source>
+        <translation>何もしない</translation>
+    </message>
+    <message>
+        <source>Left mouse button</source>
+        <translation>マウスの左ボタン</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <translation>マウスの右ボタン</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <translation>マウスの中ボタン</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <translation>マウスの「戻る」ボタン</translation>
+    </message>
+    <message>
+        <source>Open an application…</source>
+        <translation>アプリケーションを開く…</translation>
+    </message>
+    <message>
+        <source>Press keys…</source>
+        <translation>キーを押す…</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <translation>次のディスプレイへ移動</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <translation>押している間は精密操作</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <translation>タブレットを一時停止</translation>
+    </message>
+</context>
+<context>
+    <name>QVKeySetClass</name>
+    <message>
+        <source>Key Combination</source>
+        <translation>キーの組み合わせ</translation>
+    </message>
+    <message>
+        <source>Choose up to three keys, in the order in which they are held</source>
+        <translation>押す順に、キーを 3 つまで選択してください</translation>
+    </message>
+    <message>
+        <source>Chosen keys</source>
+        <translation>選択したキー</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Take the last key back</source>
+        <translation>最後のキーを取り消します</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Escape</translation>
+    </message>
+    <message>
+        <source>Minus</source>
+        <translation>マイナス</translation>
+    </message>
+    <message>
+        <source>Plus</source>
+        <translation>プラス</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>Backspace</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Control</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Command</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>Page Up</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>Page Down</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>OK(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>QVPenStats</name>
+    <message>
+        <source>Pressure %1 %</source>
+        <translation>筆圧 %1%</translation>
+    </message>
+    <message>
+        <source>Tilt %1° right, %2° down</source>
+        <translation>傾き 右へ %1°、下へ %2°</translation>
+    </message>
+    <message>
+        <source>Rotation %1°</source>
+        <translation>回転 %1°</translation>
+    </message>
+    <message>
+        <source>At %1, %2 of the desktop</source>
+        <translation>デスクトップ上の位置 %1, %2</translation>
+    </message>
+    <message>
+        <source>Pen number %1</source>
+        <translation>ペン番号 %1</translation>
+    </message>
+</context>
+<context>
+    <name>QVPressView</name>
+    <message>
+        <source>Eraser</source>
+        <translation>消しゴム</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>ペン</translation>
+    </message>
+    <message>
+        <source>Eraser, serial number %1</source>
+        <translation>消しゴム、シリアル番号 %1</translation>
+    </message>
+    <message>
+        <source>Pen, serial number %1</source>
+        <translation>ペン、シリアル番号 %1</translation>
+    </message>
+    <message>
+        <source>No pen in reach</source>
+        <translation>ペンが検出範囲にありません</translation>
+    </message>
+</context>
+<context>
+    <name>QVTblt_prefPanePref</name>
+    <message>
+        <source>Quorvia Tablet</source>
+        <translation>Quorvia タブレット</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>キー(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Picture of the tablet</source>
+        <translation>タブレットの図</translation>
+    </message>
+    <message>
+        <source>Express key 1</source>
+        <translation>エクスプレスキー 1</translation>
+    </message>
+    <message>
+        <source>Express key 2</source>
+        <translation>エクスプレスキー 2</translation>
+    </message>
+    <message>
+        <source>Express key 3</source>
+        <translation>エクスプレスキー 3</translation>
+    </message>
+    <message>
+        <source>Express key 4</source>
+        <translation>エクスプレスキー 4</translation>
+    </message>
+    <message>
+        <source>&amp;Left scroll strip</source>
+        <translation>左スクロールストリップ(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Express key 5</source>
+        <translation>エクスプレスキー 5</translation>
+    </message>
+    <message>
+        <source>Express key 6</source>
+        <translation>エクスプレスキー 6</translation>
+    </message>
+    <message>
+        <source>Express key 7</source>
+        <translation>エクスプレスキー 7</translation>
+    </message>
+    <message>
+        <source>Express key 8</source>
+        <translation>エクスプレスキー 8</translation>
+    </message>
+    <message>
+        <source>Express key 9</source>
+        <translation>エクスプレスキー 9</translation>
+    </message>
+    <message>
+        <source>Express key 10</source>
+        <translation>エクスプレスキー 10</translation>
+    </message>
+    <message>
+        <source>Express key 11</source>
+        <translation>エクスプレスキー 11</translation>
+    </message>
+    <message>
+        <source>Express key 12</source>
+        <translation>エクスプレスキー 12</translation>
+    </message>
+    <message>
+        <source>&amp;Right scroll strip</source>
+        <translation>右スクロールストリップ(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Express key 13</source>
+        <translation>エクスプレスキー 13</translation>
+    </message>
+    <message>
+        <source>Express key 14</source>
+        <translation>エクスプレスキー 14</translation>
+    </message>
+    <message>
+        <source>Express key 15</source>
+        <translation>エクスプレスキー 15</translation>
+    </message>
+    <message>
+        <source>Express key 16</source>
+        <translation>エクスプレスキー 16</translation>
+    </message>
+    <message>
+        <source>Scroll &amp;speed:</source>
+        <translation>スクロール速度(&amp;S):</translation>
+    </message>
+    <message>
+        <source>Scroll speed</source>
+        <translation>スクロール速度</translation>
+    </message>
+    <message>
+        <source>&amp;Upper pen button:</source>
+        <translation>ペンの上ボタン(&amp;U):</translation>
+    </message>
+    <message>
+        <source>Upper pen button</source>
+        <translation>ペンの上ボタン</translation>
+    </message>
+    <message>
+        <source>L&amp;ower pen button:</source>
+        <translation>ペンの下ボタン(&amp;O):</translation>
+    </message>
+    <message>
+        <source>Lower pen button</source>
+        <translation>ペンの下ボタン</translation>
+    </message>
+    <message>
+        <source>P&amp;en</source>
+        <translation>ペン(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>筆圧</translation>
+    </message>
+    <message>
+        <source>Towards Light, a gentle touch already gives much. Towards Heavy, you press harder for the same.</source>
+        <translation>「軽い」に近づけると、軽く触れるだけで強く反応します。「重い」に近づけると、同じ効果を得るのにより強く押す必要があります。</translation>
+    </message>
+    <message>
+        <source>↑ What programs receive</source>
+        <translation>↑ プログラムが受け取る筆圧</translation>
+    </message>
+    <message>
+        <source>Pressure curve</source>
+        <translation>筆圧カーブ</translation>
+    </message>
+    <message>
+        <source>How hard you press →</source>
+        <translation>ペンを押す強さ →</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>軽い(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Pressure, from light to heavy</source>
+        <translation>筆圧 (軽い～重い)</translation>
+    </message>
+    <message>
+        <source>Heavy</source>
+        <translation>重い</translation>
+    </message>
+    <message>
+        <source>Try the pen</source>
+        <translation>ペンを試す</translation>
+    </message>
+    <message>
+        <source>&amp;Width follows pressure</source>
+        <translation>太さを筆圧に連動(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Opacity follows pressure</source>
+        <translation>不透明度を筆圧に連動(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Clea&amp;r</source>
+        <translation>クリア(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Wipe the drawing pad</source>
+        <translation>描画エリアを消去します</translation>
+    </message>
+    <message>
+        <source>Drawing pad</source>
+        <translation>描画エリア</translation>
+    </message>
+    <message>
+        <source>Draw here with the pen or the mouse.</source>
+        <translation>ここにペンまたはマウスで描いてください。</translation>
+    </message>
+    <message>
+        <source>Pressure, of 65535:</source>
+        <translation>筆圧 (最大 65535):</translation>
+    </message>
+    <message>
+        <source>&amp;Display</source>
+        <translation>ディスプレイ(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Map the tablet to:</source>
+        <translation>タブレットの対応先(&amp;M):</translation>
+    </message>
+    <message>
+        <source>Map the tablet to</source>
+        <translation>タブレットの対応先</translation>
+    </message>
+    <message>
+        <source>The part of the desktop that the pen reaches.</source>
+        <translation>ペンで操作できるデスクトップの範囲です。</translation>
+    </message>
+    <message>
+        <source>The tablet &amp;lies:</source>
+        <translation>タブレットの向き(&amp;L):</translation>
+    </message>
+    <message>
+        <source>The tablet lies</source>
+        <translation>タブレットの向き</translation>
+    </message>
+    <message>
+        <source>Turn the tablet when its keys shall lie under the other hand.</source>
+        <translation>キーを反対側の手で使うときは、タブレットを回転させます。</translation>
+    </message>
+    <message>
+        <source>Turned by 180°</source>
+        <translation>180°回転</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>通常</translation>
+    </message>
+    <message>
+        <source>&amp;Report speed:</source>
+        <translation>送信速度(&amp;R):</translation>
+    </message>
+    <message>
+        <source>Report speed</source>
+        <translation>送信速度</translation>
+    </message>
+    <message>
+        <source>Fast follows the hand more closely. The tablet itself is told, over USB.</source>
+        <translation>「高速」では手の動きにより忠実に追従します。設定は USB 経由でタブレット本体に送られます。</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>高速</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Use the &amp;whole tablet</source>
+        <translation>タブレット全体を使う(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The whole surface reaches the chosen part of the desktop.</source>
+        <translation>操作面全体で、選択したデスクトップの範囲を操作します。</translation>
+    </message>
+    <message>
+        <source>Keep &amp;proportions</source>
+        <translation>縦横比を維持(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Leaves a strip of the tablet unused, so that circles stay round.</source>
+        <translation>円が歪まないように、タブレットの一部を使わずに残します。</translation>
+    </message>
+    <message>
+        <source>Cali&amp;brate…</source>
+        <translation>キャリブレーション(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Touch four crosses on the chosen display, so that the pen meets its pointer.</source>
+        <translation>選択したディスプレイに表示される 4 つの十字に触れて、ペン先とポインターの位置を合わせます。</translation>
+    </message>
+    <message>
+        <source>Picture of the displays and the tablet</source>
+        <translation>ディスプレイとタブレットの図</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Go back to the settings in the file</source>
+        <translation>保存されている設定に戻します</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>保存(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Keep the settings as they are now</source>
+        <translation>現在の設定を保存します</translation>
+    </message>
+    <message>
+        <source>Is the tablet plugged in? Is its driver running? As soon as both are there, the settings appear here by themselves.</source>
+        <translation>タブレットは接続されていますか？ ドライバーは動作していますか？ 両方がそろうと、設定がここに自動的に表示されます。</translation>
+    </message>
+    <message>
+        <source>Unknown tablet, product %1</source>
+        <translation>不明なタブレット (製品 %1)</translation>
+    </message>
+    <message>
+        <source>The settings are not saved: %1</source>
+        <translation>設定は保存されていません: %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <translation>タブレットのドライバーが最後の変更を受け取っていません。動作していますか？</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,178 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja" sourcelanguage="en">
+<context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <translation>マウスの左ボタン</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <translation>マウスの右ボタン</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <translation>マウスの中ボタン</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <translation>マウスの「戻る」ボタン</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <translation>何もしない</translation>
+    </message>
+    <message>
+        <source>Open an application, of which no path is known</source>
+        <translation>アプリケーションを開く (パスは不明)</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>%1 を開く</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <translation>どのキーも押さない</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <translation>%1 を押す</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <translation>次のディスプレイへ移動</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <translation>押している間は精密操作</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <translation>タブレットを一時停止</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <translation>速度 %1 でスクロール</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <translation>何もしない: ストリップはオフです</translation>
+    </message>
+</context>
+<context>
+    <name>TabletSurface</name>
+    <message>
+        <source>Surface</source>
+        <translation>操作面</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
+        <translation>タブレットの操作面です。ここでマウスのボタンを押すと、ペンで触れたことになります。矢印キーでペンを動かし、Shift を押しながらだと大きく動きます。スペースバーを押している間、ペンは触れたままになります。</translation>
+    </message>
+</context>
+<context>
+    <name>TabletWindow</name>
+    <message>
+        <source>Tablet</source>
+        <translation>タブレット</translation>
+    </message>
+    <message>
+        <source>The model that is attached.</source>
+        <translation>接続されている機種です。</translation>
+    </message>
+    <message>
+        <source>No tablet</source>
+        <translation>タブレットなし</translation>
+    </message>
+    <message>
+        <source>&amp;Tablet:</source>
+        <translation>タブレット(&amp;T):</translation>
+    </message>
+    <message>
+        <source>Pen:</source>
+        <translation>ペン:</translation>
+    </message>
+    <message>
+        <source>Panel:</source>
+        <translation>設定パネル:</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <translation>枠:</translation>
+    </message>
+    <message>
+        <source>Pressed:</source>
+        <translation>押したもの:</translation>
+    </message>
+    <message>
+        <source>The tablet is not attached: %1</source>
+        <translation>タブレットを接続できません: %1</translation>
+    </message>
+    <message>
+        <source>Virtual tablet</source>
+        <translation>仮想タブレット</translation>
+    </message>
+    <message>
+        <source>Virtual tablet: %1</source>
+        <translation>仮想タブレット: %1</translation>
+    </message>
+    <message>
+        <source>No tablet is attached. Choose one above.</source>
+        <translation>タブレットは接続されていません。上で選択してください。</translation>
+    </message>
+    <message>
+        <source>no key yet; press one to see what it does</source>
+        <translation>まだありません。キーを押すと動作が表示されます</translation>
+    </message>
+    <message>
+        <source>Key %1</source>
+        <translation>キー %1</translation>
+    </message>
+    <message>
+        <source>Upper pen button</source>
+        <translation>ペンの上ボタン</translation>
+    </message>
+    <message>
+        <source>Lower pen button</source>
+        <translation>ペンの下ボタン</translation>
+    </message>
+    <message>
+        <source>Left scroll strip</source>
+        <translation>左スクロールストリップ</translation>
+    </message>
+    <message>
+        <source>Right scroll strip</source>
+        <translation>右スクロールストリップ</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a key and what it does</comment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>not known before the panel sends its settings</source>
+        <translation>設定パネルが設定を送るまで不明です</translation>
+    </message>
+    <message>
+        <source>the part that covers the screen, x %1 to %2, y %3 to %4</source>
+        <translation>画面に対応する範囲、x %1～%2、y %3～%4</translation>
+    </message>
+    <message>
+        <source>calibrating: it is told what the pen does</source>
+        <translation>キャリブレーション中: ペンの動きが伝えられます</translation>
+    </message>
+    <message>
+        <source>not calibrating: it is told nothing of the pen</source>
+        <translation>キャリブレーション中ではありません: ペンの動きは伝えられません</translation>
+    </message>
+    <message>
+        <source>down at %1, %2</source>
+        <translation>接触中: %1, %2</translation>
+    </message>
+    <message>
+        <source>up at %1, %2</source>
+        <translation>離れている: %1, %2</translation>
+    </message>
+</context>
+</TS>

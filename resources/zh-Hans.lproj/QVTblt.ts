@@ -1,0 +1,473 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>OpenPanel</name>
+    <message>
+        <source>Choose an application</source>
+        <translation>选择应用程序</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>应用程序</translation>
+    </message>
+    <message>
+        <source>This is not an application: choose a desktop entry, an AppImage or an application bundle.</source>
+        <translation>这不是应用程序。请选择桌面入口文件、AppImage 或应用程序包。</translation>
+    </message>
+</context>
+<context>
+    <name>QVCalibrateWin</name>
+    <message>
+        <source>Calibration</source>
+        <translation>校准</translation>
+    </message>
+</context>
+<context>
+    <name>QVKeyComboBox</name>
+    <message>
+        <source>No action</source>
+        <translation>无操作</translation>
+    </message>
+    <message>
+        <source>Left mouse button</source>
+        <translation>鼠标左键</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <translation>鼠标右键</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <translation>鼠标中键</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <translation>鼠标后退键</translation>
+    </message>
+    <message>
+        <source>Open an application…</source>
+        <translation>打开应用程序…</translation>
+    </message>
+    <message>
+        <source>Press keys…</source>
+        <translation>按下按键…</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <translation>切换到下一个显示器</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <translation>按住时精细移动</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <translation>暂停数位板</translation>
+    </message>
+</context>
+<context>
+    <name>QVKeySetClass</name>
+    <message>
+        <source>Key Combination</source>
+        <translation>组合键</translation>
+    </message>
+    <message>
+        <source>Choose up to three keys, in the order in which they are held</source>
+        <translation>按照按下的顺序选择最多三个按键</translation>
+    </message>
+    <message>
+        <source>Chosen keys</source>
+        <translation>已选按键</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Take the last key back</source>
+        <translation>撤销最后一个按键</translation>
+    </message>
+    <message>
+        <source>Escape</source>
+        <translation>Esc 键</translation>
+    </message>
+    <message>
+        <source>Minus</source>
+        <translation>减号</translation>
+    </message>
+    <message>
+        <source>Plus</source>
+        <translation>加号</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <translation>退格键</translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation>Ctrl 键</translation>
+    </message>
+    <message>
+        <source>Command</source>
+        <translation>Command 键</translation>
+    </message>
+    <message>
+        <source>Page up</source>
+        <translation>向上翻页</translation>
+    </message>
+    <message>
+        <source>Page down</source>
+        <translation>向下翻页</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <translation>确定(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>QVPenStats</name>
+    <message>
+        <source>Pressure %1 %</source>
+        <translation>压力 %1%</translation>
+    </message>
+    <message>
+        <source>Tilt %1° right, %2° down</source>
+        <translation>倾斜 向右 %1°，向下 %2°</translation>
+    </message>
+    <message>
+        <source>Rotation %1°</source>
+        <translation>旋转 %1°</translation>
+    </message>
+    <message>
+        <source>At %1, %2 of the desktop</source>
+        <translation>桌面位置 %1, %2</translation>
+    </message>
+    <message>
+        <source>Pen number %1</source>
+        <translation>笔编号 %1</translation>
+    </message>
+</context>
+<context>
+    <name>QVPressView</name>
+    <message>
+        <source>Eraser</source>
+        <translation>橡皮擦</translation>
+    </message>
+    <message>
+        <source>Pen</source>
+        <translation>笔</translation>
+    </message>
+    <message>
+        <source>Eraser, serial number %1</source>
+        <translation>橡皮擦，序列号 %1</translation>
+    </message>
+    <message>
+        <source>Pen, serial number %1</source>
+        <translation>笔，序列号 %1</translation>
+    </message>
+    <message>
+        <source>No pen in reach</source>
+        <translation>感应范围内没有笔</translation>
+    </message>
+</context>
+<context>
+    <name>QVTblt_prefPanePref</name>
+    <message>
+        <source>Quorvia Tablet</source>
+        <translation>Quorvia 数位板</translation>
+    </message>
+    <message>
+        <source>&amp;Keys</source>
+        <translation>按键(&amp;K)</translation>
+    </message>
+    <message>
+        <source>Picture of the tablet</source>
+        <translation>数位板示意图</translation>
+    </message>
+    <message>
+        <source>Express key 1</source>
+        <translation>快捷键 1</translation>
+    </message>
+    <message>
+        <source>Express key 2</source>
+        <translation>快捷键 2</translation>
+    </message>
+    <message>
+        <source>Express key 3</source>
+        <translation>快捷键 3</translation>
+    </message>
+    <message>
+        <source>Express key 4</source>
+        <translation>快捷键 4</translation>
+    </message>
+    <message>
+        <source>&amp;Left scroll strip</source>
+        <translation>左滚动触控条(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Express key 5</source>
+        <translation>快捷键 5</translation>
+    </message>
+    <message>
+        <source>Express key 6</source>
+        <translation>快捷键 6</translation>
+    </message>
+    <message>
+        <source>Express key 7</source>
+        <translation>快捷键 7</translation>
+    </message>
+    <message>
+        <source>Express key 8</source>
+        <translation>快捷键 8</translation>
+    </message>
+    <message>
+        <source>Express key 9</source>
+        <translation>快捷键 9</translation>
+    </message>
+    <message>
+        <source>Express key 10</source>
+        <translation>快捷键 10</translation>
+    </message>
+    <message>
+        <source>Express key 11</source>
+        <translation>快捷键 11</translation>
+    </message>
+    <message>
+        <source>Express key 12</source>
+        <translation>快捷键 12</translation>
+    </message>
+    <message>
+        <source>&amp;Right scroll strip</source>
+        <translation>右滚动触控条(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Express key 13</source>
+        <translation>快捷键 13</translation>
+    </message>
+    <message>
+        <source>Express key 14</source>
+        <translation>快捷键 14</translation>
+    </message>
+    <message>
+        <source>Express key 15</source>
+        <translation>快捷键 15</translation>
+    </message>
+    <message>
+        <source>Express key 16</source>
+        <translation>快捷键 16</translation>
+    </message>
+    <message>
+        <source>Scroll &amp;speed:</source>
+        <translation>滚动速度(&amp;S)：</translation>
+    </message>
+    <message>
+        <source>Scroll speed</source>
+        <translation>滚动速度</translation>
+    </message>
+    <message>
+        <source>&amp;Upper pen button:</source>
+        <translation>笔的上键(&amp;U)：</translation>
+    </message>
+    <message>
+        <source>Upper pen button</source>
+        <translation>笔的上键</translation>
+    </message>
+    <message>
+        <source>L&amp;ower pen button:</source>
+        <translation>笔的下键(&amp;O)：</translation>
+    </message>
+    <message>
+        <source>Lower pen button</source>
+        <translation>笔的下键</translation>
+    </message>
+    <message>
+        <source>P&amp;en</source>
+        <translation>笔(&amp;E)</translation>
+    </message>
+    <message>
+        <source>Pressure</source>
+        <translation>压感</translation>
+    </message>
+    <message>
+        <source>Towards Light, a gentle touch already gives much. Towards Heavy, you press harder for the same.</source>
+        <translation>越靠近“轻”，轻触即可产生较大效果；越靠近“重”，需要更用力才能达到同样效果。</translation>
+    </message>
+    <message>
+        <source>↑ What programs receive</source>
+        <translation>↑ 程序收到的压力</translation>
+    </message>
+    <message>
+        <source>Pressure curve</source>
+        <translation>压感曲线</translation>
+    </message>
+    <message>
+        <source>How hard you press →</source>
+        <translation>下笔的力度 →</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>轻(&amp;L)</translation>
+    </message>
+    <message>
+        <source>Pressure, from light to heavy</source>
+        <translation>压感，从轻到重</translation>
+    </message>
+    <message>
+        <source>Heavy</source>
+        <translation>重</translation>
+    </message>
+    <message>
+        <source>Try the pen</source>
+        <translation>试笔</translation>
+    </message>
+    <message>
+        <source>&amp;Width follows pressure</source>
+        <translation>粗细随压力变化(&amp;W)</translation>
+    </message>
+    <message>
+        <source>&amp;Opacity follows pressure</source>
+        <translation>不透明度随压力变化(&amp;O)</translation>
+    </message>
+    <message>
+        <source>Clea&amp;r</source>
+        <translation>清除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Wipe the drawing pad</source>
+        <translation>清空绘图区</translation>
+    </message>
+    <message>
+        <source>Drawing pad</source>
+        <translation>绘图区</translation>
+    </message>
+    <message>
+        <source>Draw here with the pen or the mouse.</source>
+        <translation>在此处用笔或鼠标绘画。</translation>
+    </message>
+    <message>
+        <source>Pressure, of 65535:</source>
+        <translation>压力（最大 65535）：</translation>
+    </message>
+    <message>
+        <source>&amp;Display</source>
+        <translation>显示器(&amp;D)</translation>
+    </message>
+    <message>
+        <source>&amp;Map the tablet to:</source>
+        <translation>将数位板映射到(&amp;M)：</translation>
+    </message>
+    <message>
+        <source>Map the tablet to</source>
+        <translation>将数位板映射到</translation>
+    </message>
+    <message>
+        <source>The part of the desktop that the pen reaches.</source>
+        <translation>笔可以到达的桌面区域。</translation>
+    </message>
+    <message>
+        <source>The tablet &amp;lies:</source>
+        <translation>数位板方向(&amp;L)：</translation>
+    </message>
+    <message>
+        <source>The tablet lies</source>
+        <translation>数位板方向</translation>
+    </message>
+    <message>
+        <source>Turn the tablet when its keys shall lie under the other hand.</source>
+        <translation>如需用另一只手操作按键，请旋转数位板。</translation>
+    </message>
+    <message>
+        <source>Turned by 180°</source>
+        <translation>旋转 180°</translation>
+    </message>
+    <message>
+        <source>As usual</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>&amp;Report speed:</source>
+        <translation>报告速度(&amp;R)：</translation>
+    </message>
+    <message>
+        <source>Report speed</source>
+        <translation>报告速度</translation>
+    </message>
+    <message>
+        <source>Fast follows the hand more closely. The tablet itself is told, over USB.</source>
+        <translation>“快速”能更紧密地跟随手的动作。此设置通过 USB 发送到数位板本身。</translation>
+    </message>
+    <message>
+        <source>Fast</source>
+        <translation>快速</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>标准</translation>
+    </message>
+    <message>
+        <source>Use the &amp;whole tablet</source>
+        <translation>使用整个数位板(&amp;W)</translation>
+    </message>
+    <message>
+        <source>The whole surface reaches the chosen part of the desktop.</source>
+        <translation>整个板面对应所选的桌面区域。</translation>
+    </message>
+    <message>
+        <source>Keep &amp;proportions</source>
+        <translation>保持比例(&amp;P)</translation>
+    </message>
+    <message>
+        <source>Leaves a strip of the tablet unused, so that circles stay round.</source>
+        <translation>留出数位板的一条不用，使圆形保持不变形。</translation>
+    </message>
+    <message>
+        <source>Cali&amp;brate…</source>
+        <translation>校准(&amp;B)…</translation>
+    </message>
+    <message>
+        <source>Touch four crosses on the chosen display, so that the pen meets its pointer.</source>
+        <translation>在所选显示器上点触四个十字，使笔尖与指针重合。</translation>
+    </message>
+    <message>
+        <source>Picture of the displays and the tablet</source>
+        <translation>显示器和数位板示意图</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Go back to the settings in the file</source>
+        <translation>恢复为文件中保存的设置</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>保存(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Keep the settings as they are now</source>
+        <translation>保存当前的设置</translation>
+    </message>
+    <message>
+        <source>Is the tablet plugged in? Is its driver running? As soon as both are there, the settings appear here by themselves.</source>
+        <translation>数位板是否已连接？驱动程序是否正在运行？两者就绪后，设置会自动显示在这里。</translation>
+    </message>
+    <message>
+        <source>Unknown tablet, product %1</source>
+        <translation>未知数位板，产品 %1</translation>
+    </message>
+    <message>
+        <source>The settings are not saved: %1</source>
+        <translation>设置未保存：%1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <translation>数位板驱动程序没有接受最后一次更改。它是否正在运行？</translation>
+    </message>
+</context>
+</TS>

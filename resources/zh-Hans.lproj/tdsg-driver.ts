@@ -1,0 +1,178 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="zh_CN" sourcelanguage="en">
+<context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <translation>鼠标左键</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <translation>鼠标右键</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <translation>鼠标中键</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <translation>鼠标后退键</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <translation>无操作</translation>
+    </message>
+    <message>
+        <source>Open an application, of which no path is known</source>
+        <translation>打开应用程序（路径未知）</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <translation>打开 %1</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <translation>不按任何键</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <translation>按下 %1</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <translation>切换到下一个显示器</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <translation>按住时精细移动</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <translation>暂停数位板</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <translation>以速度 %1 滚动</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <translation>无操作：触控条已关闭</translation>
+    </message>
+</context>
+<context>
+    <name>TabletSurface</name>
+    <message>
+        <source>Surface</source>
+        <translation>板面</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
+        <translation>数位板的板面。在此处按下鼠标即相当于用笔接触。方向键移动笔，按住 Shift 时大步移动；按住空格键则笔保持按下。</translation>
+    </message>
+</context>
+<context>
+    <name>TabletWindow</name>
+    <message>
+        <source>Tablet</source>
+        <translation>数位板</translation>
+    </message>
+    <message>
+        <source>The model that is attached.</source>
+        <translation>已连接的型号。</translation>
+    </message>
+    <message>
+        <source>No tablet</source>
+        <translation>无数位板</translation>
+    </message>
+    <message>
+        <source>&amp;Tablet:</source>
+        <translation>数位板(&amp;T)：</translation>
+    </message>
+    <message>
+        <source>Pen:</source>
+        <translation>笔：</translation>
+    </message>
+    <message>
+        <source>Panel:</source>
+        <translation>设置面板：</translation>
+    </message>
+    <message>
+        <source>Frame:</source>
+        <translation>边框：</translation>
+    </message>
+    <message>
+        <source>Pressed:</source>
+        <translation>按下：</translation>
+    </message>
+    <message>
+        <source>The tablet is not attached: %1</source>
+        <translation>数位板未连接：%1</translation>
+    </message>
+    <message>
+        <source>Virtual tablet</source>
+        <translation>虚拟数位板</translation>
+    </message>
+    <message>
+        <source>Virtual tablet: %1</source>
+        <translation>虚拟数位板：%1</translation>
+    </message>
+    <message>
+        <source>No tablet is attached. Choose one above.</source>
+        <translation>未连接数位板。请在上方选择一个。</translation>
+    </message>
+    <message>
+        <source>no key yet; press one to see what it does</source>
+        <translation>尚未按键；按下任意按键以查看其功能</translation>
+    </message>
+    <message>
+        <source>Key %1</source>
+        <translation>按键 %1</translation>
+    </message>
+    <message>
+        <source>Upper pen button</source>
+        <translation>笔的上键</translation>
+    </message>
+    <message>
+        <source>Lower pen button</source>
+        <translation>笔的下键</translation>
+    </message>
+    <message>
+        <source>Left scroll strip</source>
+        <translation>左滚动触控条</translation>
+    </message>
+    <message>
+        <source>Right scroll strip</source>
+        <translation>右滚动触控条</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <comment>a key and what it does</comment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>not known before the panel sends its settings</source>
+        <translation>在设置面板发送设置之前未知</translation>
+    </message>
+    <message>
+        <source>the part that covers the screen, x %1 to %2, y %3 to %4</source>
+        <translation>对应屏幕的部分，x %1 到 %2，y %3 到 %4</translation>
+    </message>
+    <message>
+        <source>calibrating: it is told what the pen does</source>
+        <translation>正在校准：会收到笔的动作</translation>
+    </message>
+    <message>
+        <source>not calibrating: it is told nothing of the pen</source>
+        <translation>未在校准：不会收到笔的动作</translation>
+    </message>
+    <message>
+        <source>down at %1, %2</source>
+        <translation>按下，位于 %1, %2</translation>
+    </message>
+    <message>
+        <source>up at %1, %2</source>
+        <translation>抬起，位于 %1, %2</translation>
+    </message>
+</context>
+</TS>

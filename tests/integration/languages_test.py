@@ -1,0 +1,275 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""The translations: whether they are whole, and which of them a person gets."""
+
+import configparser
+import json
+import pathlib
+import plistlib
+import re
+import subprocess
+import tempfile
+import unittest
+from xml.etree import ElementTree
+
+import desktop
+import session
+
+RESOURCES = session.SOURCE / "resources"
+FOLDERS = sorted(folder.name.removesuffix(".lproj") for folder in RESOURCES.glob("*.lproj"))
+LANGUAGES = [language for language in FOLDERS if language != "en"]
+MARK = re.compile(r"&(\w)")
+IN_BRACKETS = re.compile(r"\(&[A-Z0-9]\)(?=[:：…]?$)")
+XML_LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
+
+
+def messages(path):
+    """A file's translations by what they translate: context, source, comment."""
+    found = {}
+    for context in ElementTree.parse(path).iter("context"):
+        for message in context.iter("message"):
+            key = (context.findtext("name"), message.findtext("source"),
+                   message.findtext("comment", ""))
+            found[key] = message.find("translation")
+    return found
+
+
+def table(language):
+    return plistlib.loads((RESOURCES / f"{language}.lproj/InfoPlist.strings").read_bytes())
+
+
+def place_holders(text):
+    return sorted(re.findall(r"%(?:\d|@|n|L\d)", text))
+
+
+class Translations(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        """Extracts the texts from the sources, as they are now."""
+        with tempfile.TemporaryDirectory() as folder:
+            fresh = pathlib.Path(folder) / "fresh.lproj"
+            fresh.mkdir()
+            subprocess.run([RESOURCES / "update-translations", folder], check=True)
+            cls.texts = {file.stem: set(messages(file)) for file in fresh.glob("*.ts")}
+
+    def each(self):
+        """All translations: their language, what they translate, and their element."""
+        for language in LANGUAGES:
+            for name in self.texts:
+                path = RESOURCES / f"{language}.lproj/{name}.ts"
+                for key, translation in messages(path).items():
+                    with self.subTest(language=language, source=key[1]):
+                        yield language, key[1], translation
+
+    def test_the_six_languages_are_there(self):
+        self.assertEqual(FOLDERS, ["de", "en", "es", "fr", "ja", "zh-Hans"])
+        self.assertEqual(set(self.texts), {"QVTblt", "tdsg-driver"})
+        self.assertGreater(len(self.texts["QVTblt"]), 100)
+        self.assertGreater(len(self.texts["tdsg-driver"]), 35)
+
+    def test_each_has_all_texts_of_the_sources_and_no_others(self):
+        for language in LANGUAGES:
+            for name, texts in self.texts.items():
+                with self.subTest(language=language, name=name):
+                    path = RESOURCES / f"{language}.lproj/{name}.ts"
+                    self.assertEqual(set(messages(path)), texts)
+
+    def test_each_text_is_translated(self):
+        for _, _, translation in self.each():
+            self.assertIsNone(translation.get("type"))
+            self.assertTrue((translation.text or "").strip())
+
+    def test_place_holders_line_ends_and_dots_agree(self):
+        for _, source, translation in self.each():
+            text = translation.text
+            self.assertEqual(place_holders(source), place_holders(text))
+            self.assertEqual(source.count("\n"), text.count("\n"))
+            self.assertEqual(source.endswith("…"), text.endswith("…"))
+            self.assertEqual(source.endswith(":"), text.endswith((":", "：")))
+            self.assertEqual(text, text.strip())
+
+    def test_what_has_a_letter_for_the_keyboard_has_one_in_each_language(self):
+        count = 0
+        for language, source, translation in self.each():
+            letters = MARK.findall(translation.text)
+            self.assertEqual(len(letters), len(MARK.findall(source)))
+            count += len(letters)
+            if letters and language in ("ja", "zh-Hans"):
+                # Their own letters are not on the keyboard, so one stands behind the text.
+                self.assertRegex(translation.text, IN_BRACKETS)
+        self.assertGreater(count, 20 * len(LANGUAGES))
+
+    def test_each_string_table_has_all_keys(self):
+        english = table("en")
+        sources = "".join(file.read_text() for folder in ("QVTblt", "hosts")
+                          for file in (session.SOURCE / folder).rglob("*.cpp"))
+        used = set(re.findall(r'localized\("(\w+)"\)', sources)) | set(re.findall(
+            r'localizedString\(\s*QStringLiteral\("(\w+)"\)', sources))
+        self.assertEqual(used, set(english))
+        for language in LANGUAGES:
+            with self.subTest(language):
+                strings = table(language)
+                self.assertEqual(strings.keys(), english.keys())
+                for key, text in strings.items():
+                    self.assertTrue(text.strip(), key)
+                    self.assertEqual(place_holders(text), place_holders(english[key]), key)
+
+    def test_no_text_of_a_language_is_that_of_another(self):
+        """Whole files in the wrong folder would pass all of the above."""
+        for name in self.texts:
+            found = [{key: translation.text for key, translation in
+                      messages(RESOURCES / f"{language}.lproj/{name}.ts").items()}
+                     for language in LANGUAGES]
+            for i, one in enumerate(found):
+                for other in found[:i]:
+                    same = [text for key, text in one.items() if other[key] == text]
+                    self.assertLess(len(same), len(one) / 8, same)
+
+    def test_all_are_built(self):
+        share = session.STAGE / "share"
+        for language in LANGUAGES:
+            for file in ("qvtblt/{}.lproj/QVTblt.qm", "qvtblt/{}.lproj/InfoPlist.strings",
+                         "tdsg-driver/{}.lproj/tdsg-driver.qm"):
+                path = share / file.format(language)
+                self.assertTrue(path.is_file(), path)
+                self.assertGreater(path.stat().st_size, 500, path)
+
+
+class Entries(unittest.TestCase):
+    """What menus, System Settings and software centres show."""
+
+    LOCALES = {language.replace("zh-Hans", "zh_CN") for language in LANGUAGES}
+    FOLDER = session.SOURCE / "packaging/desktop"
+    MODULE = session.SOURCE / "hosts/systemsettings/kcm_qvtblt.json"
+
+    @staticmethod
+    def titles():
+        """The panel's name in each language."""
+        return {language.replace("zh-Hans", "zh_CN"): translation.text for language in LANGUAGES
+                for key, translation in messages(RESOURCES / f"{language}.lproj/QVTblt.ts").items()
+                if key[1] == "Quorvia Tablet"}
+
+    def check(self, texts):
+        """Of pairs of a key and a locale, each key has all locales."""
+        self.assertTrue(texts)
+        for key in {key for key, _ in texts}:
+            self.assertEqual({locale for name, locale in texts if name == key}, self.LOCALES, key)
+
+    @staticmethod
+    def by_locale(keys):
+        return [match.groups() for match in map(re.compile(r"(.+)\[(\w+)\]").fullmatch, keys)
+                if match]
+
+    def test_desktop_entries(self):
+        for file in self.FOLDER.glob("*.desktop"):
+            with self.subTest(file.name):
+                entry = configparser.RawConfigParser(delimiters="=")
+                entry.optionxform = str
+                entry.read(file)
+                keys = entry["Desktop Entry"]
+                translated = self.by_locale(keys)
+                self.check(translated)
+                self.assertEqual({key for key, _ in translated}, keys.keys() & {
+                    "Name", "GenericName", "Comment", "Keywords"})
+                if file.name == "org.quorvia.qvtblt.desktop":
+                    self.assertEqual({locale: keys[f"Name[{locale}]"] for locale in self.LOCALES},
+                                     self.titles())
+
+    def test_module_of_system_settings(self):
+        module = json.loads(self.MODULE.read_text())
+        self.check(self.by_locale(module["KPlugin"]))
+        self.check(self.by_locale(module))
+        self.assertEqual({locale: module["KPlugin"][f"Name[{locale}]"] for locale in self.LOCALES},
+                         self.titles())
+
+    def test_metadata(self):
+        for file in self.FOLDER.glob("*.metainfo.xml.in"):
+            with self.subTest(file.name):
+                root = ElementTree.parse(file).getroot()
+                texts = [(element.tag, element.get(XML_LANGUAGE)) for element in root.iter()
+                         if element.tag in ("name", "summary", "p")]
+                self.check([text for text in texts if text[1]])
+                if root.findtext("id") == "org.quorvia.qvtblt":
+                    self.assertEqual({element.get(XML_LANGUAGE): element.text
+                                      for element in root.findall("name")}, {
+                                          None: "Quorvia Tablet", **self.titles()})
+
+
+class Choice(desktop.Desktop):
+    """What a person gets whose languages are these, in the order of preference."""
+
+    NO_DEVICE = {"en": "No tablet was found", "de": "Kein Tablett gefunden",
+                 "es": "No se ha encontrado ninguna tableta", "fr": "Aucune tablette trouvée",
+                 "ja": "タブレットが見つかりません", "zh-Hans": "未找到数位板"}
+
+    def start_panel(self, languages):
+        self.env["LANGUAGE"] = languages
+        return self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+
+    def text(self, language, source):
+        """A text of the panel in a language."""
+        if language == "en":
+            return source
+        return next(translation.text for key, translation in messages(
+            RESOURCES / f"{language}.lproj/QVTblt.ts").items() if key[1] == source)
+
+    HELP = ("Is the tablet plugged in? Is its driver running? As soon as both are there, the "
+            "settings appear here by themselves.")
+
+    def test_follows_the_list_of_preferences_with_all_its_texts(self):
+        self.start_driver("--attach", "none")
+        for languages, wanted in (
+                ("pt:fr:en", "fr"), ("es_MX", "es"), ("en_GB:de", "en"), ("xx", "en"),
+                ("zh_CN", "zh-Hans"), ("zh_SG", "zh-Hans"),
+                # Whoever writes it the other way gets it only where they have asked for it.
+                ("zh_TW", "en"), ("zh_TW:zh_CN", "zh-Hans")):
+            with self.subTest(languages):
+                panel = self.start_panel(languages)
+                # The first is from the string table, the others are Qt's translations.
+                self.find("qvtblt", self.NO_DEVICE[wanted], "label")
+                self.find("qvtblt", self.text(wanted, self.HELP), "label")
+                title = self.text(wanted, "Quorvia Tablet")
+                self.find("qvtblt", title)
+                panel.terminate()
+                panel.wait(timeout=20)
+
+    # In the dialog for an application, which is Qt's.
+    QT_TEXTS = {"en": "Look in:", "fr": "Voir dans :", "zh-Hans": "查找范围："}
+
+    def test_qts_own_texts_are_in_the_language_of_the_panel(self):
+        self.start_driver()
+        # There is a Polish translation of Qt, but none of the panel.
+        for languages, wanted in (("pl:fr", "fr"), ("pl:zh_SG:en", "zh-Hans"), ("pl", "en")):
+            with self.subTest(languages):
+                panel = self.start_panel(languages)
+                keys = self.text(wanted, "Express key 1")
+                self.click(self.find("qvtblt", keys, "combo box"))
+                item = self.find("qvtblt", self.text(wanted, "Open an application…"), "list item")
+                self.click(item)
+                self.find("qvtblt", self.text(wanted, "Choose an application"))
+                self.find("qvtblt", self.QT_TEXTS[wanted])
+                panel.kill()
+                panel.wait(timeout=20)
+
+    def test_the_simulated_tablet_follows_it_too(self):
+        for languages, title, button in (
+                ("pt:fr:en", "Tablette virtuelle : Quorvia Draft S", "Bouton haut du stylet"),
+                ("zh_SG", "虚拟数位板：Quorvia Draft S", "笔的上键"),
+                ("en:de", "Virtual tablet: Quorvia Draft S", "Upper pen button")):
+            with self.subTest(languages):
+                self.env["LANGUAGE"] = languages
+                driver = self.start_driver("--window")
+                self.find("tdsg-driver", title.replace(" :", "\u00a0:"))
+                self.find("tdsg-driver", button, "push button")
+                self.stop_driver(driver)
+
+    def test_the_simulated_tablets_keys_stay_at_their_side(self):
+        self.start_driver("--window", "-reverse")  # as in a language from right to left
+        surface = self.find("tdsg-driver", "Surface")
+        self.assertLess(self.find("tdsg-driver", "Key 1", "push button")["x"], surface["x"])
+        label = self.find("tdsg-driver", "Tablet:", "label")
+        self.assertGreater(label["x"], surface["x"] + surface["width"] / 2)
+
+
+if __name__ == "__main__":
+    unittest.main()

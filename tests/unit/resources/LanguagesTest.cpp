@@ -1,0 +1,623 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// The panel in each of its languages: every text has its room, its glyphs and a letter of its own
+// on the keyboard. And in a language that is written from right to left.
+
+#include "PaneTest.h"
+#include "QVKeyComboBox.h"
+#include "QVKeySetClass.h"
+#include "QVTabletModels.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QFontDatabase>
+#include <QGlyphRun>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRegularExpression>
+#include <QScrollArea>
+#include <QStyleOptionComboBox>
+#include <QTabWidget>
+#include <QTextLayout>
+
+#include <cmath>
+#include <functional>
+
+namespace {
+
+constexpr int kUsualText = 13; ///< pixels: ten points at 96 dots to the inch
+constexpr int kLargeText = 16; ///< a quarter more
+constexpr double kHintRoom = 1000; ///< the calibration's hint begins 500 before the middle
+
+/** The text without its marks for the keyboard, as it is drawn. */
+QString drawn(const QString& text)
+{
+    static const QRegularExpression kMark(QStringLiteral("&(.)"));
+    return QString(text).replace(kMark, QStringLiteral("\\1"));
+}
+
+/** The user's language and text size, in pixels, of the widgets that are made from here on. */
+class UserSettings {
+public:
+    UserSettings(const QString& language, int textSize)
+    {
+        QLocale::setDefault(QLocale(language));
+        QFont font = QApplication::font();
+        font.setPixelSize(textSize);
+        QApplication::setFont(font);
+    }
+    ~UserSettings()
+    {
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        QLocale::setDefault(QLocale::c());
+    }
+    UserSettings(const UserSettings&) = delete;
+    UserSettings& operator=(const UserSettings&) = delete;
+    UserSettings(UserSettings&&) = delete;
+    UserSettings& operator=(UserSettings&&) = delete;
+};
+
+/** The panel in a language, shown as by its own window: in an area that scrolls. */
+class LanguagePane : private UserSettings, public PaneTest {
+protected:
+    explicit LanguagePane(const QString& language, int textSize = kUsualText)
+        : UserSettings(language, textSize)
+    {
+    }
+    ~LanguagePane() override { static_cast<void>(mWindow.release()); } // it is the area's
+
+    void SetUp() override
+    {
+        PaneTest::SetUp();
+        mArea.setFrameShape(QFrame::NoFrame);
+        mArea.setWidgetResizable(true);
+        mArea.setWidget(mWindow.get());
+    }
+
+    void show()
+    {
+        mPane.willSelect();
+        mArea.resize(mWindow->size().expandedTo(mWindow->sizeHint()));
+        mArea.show();
+        mPane.didSelect();
+        settle();
+    }
+    void showWithoutTablet()
+    {
+        mEvents.answer(0);
+        show();
+    }
+    static void settle()
+    {
+        for (int i = 0; i < 3; ++i) {
+            QCoreApplication::sendPostedEvents();
+            QCoreApplication::processEvents();
+        }
+    }
+    void setProduct(std::uint16_t productID)
+    {
+        QString config = QString::fromUtf8(readFile(mHome.configFile(7)));
+        static const QRegularExpression kProduct(
+            QStringLiteral("(<key>ProductID</key>\\s*<integer>)[^<]*"));
+        config.replace(kProduct, QStringLiteral("\\1%1").arg(static_cast<std::int16_t>(productID)));
+        writeFile(mHome.configFile(7), config.toUtf8());
+    }
+    static void post(QLatin1String name) { platform::notifications().post({name, nullptr, {}}); }
+
+    /** Calls the function at every page, in the view's usual size and in its smallest. */
+    void atEveryPage(const std::function<void()>& look)
+    {
+        for (const QSize size : {mArea.size(), QSize(200, 200)}) {
+            mArea.resize(size);
+            QTabWidget& tabs = *mWindow->findChild<QTabWidget*>();
+            for (int page = 0; page < tabs.count(); ++page) {
+                tabs.setCurrentIndex(page);
+                settle();
+                const testing::ScopedTrace trace(__FILE__, __LINE__,
+                    tabs.widget(page)->objectName().toStdString() + " of "
+                        + std::to_string(mWindow->width()) + " x "
+                        + std::to_string(mWindow->height()));
+                look();
+            }
+        }
+    }
+
+    QVKeySetClass& keyDialog() { return *mWindow->window()->findChild<QVKeySetClass*>(); }
+
+    QScrollArea mArea;
+};
+
+// What is shown -----------------------------------------------------------------------------------
+
+template <class Widget>
+std::vector<Widget*> visible(const QWidget& window)
+{
+    std::vector<Widget*> widgets;
+    const auto all = window.findChildren<Widget*>();
+    for (Widget* const widget : all) {
+        if (widget->isVisible() && widget->window() == window.window()) {
+            widgets.push_back(widget);
+        }
+    }
+    return widgets;
+}
+
+/** All texts on screen, with their marks for the keyboard; of lists, every item. */
+QStringList textsOf(const QWidget& window)
+{
+    QStringList texts;
+    for (const auto* const label : visible<QLabel>(window)) {
+        texts.append(label->text());
+    }
+    for (const auto* const button : visible<QAbstractButton>(window)) {
+        texts.append(button->text());
+    }
+    for (const auto* const group : visible<QGroupBox>(window)) {
+        texts.append(group->title());
+    }
+    for (const auto* const edit : visible<QLineEdit>(window)) {
+        texts.append(edit->text().isEmpty() ? edit->placeholderText() : edit->text());
+    }
+    for (const auto* const list : visible<QComboBox>(window)) {
+        for (int item = 0; item < list->count(); ++item) {
+            texts.append(list->itemText(item));
+        }
+    }
+    for (const auto* const tabs : visible<QTabBar>(window)) {
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            texts.append(tabs->tabText(tab));
+        }
+    }
+    texts.removeAll(QString());
+    return texts;
+}
+
+// Whether it fits ---------------------------------------------------------------------------------
+
+/** Says of a text that needs more room than it has, which one it is. */
+void expectRoom(const QWidget& widget, const QString& text, QSize needed, QSize room)
+{
+    EXPECT_LE(needed.width(), room.width())
+        << qPrintable(widget.objectName()) << ": " << qPrintable(text);
+    EXPECT_LE(needed.height(), room.height())
+        << qPrintable(widget.objectName()) << ": " << qPrintable(text);
+}
+
+/** Of one line; the height is that of all fonts that it takes. */
+QSize sizeOf(const QWidget& widget, const QString& text)
+{
+    return widget.fontMetrics().size(Qt::TextShowMnemonic, text);
+}
+
+void expectFits(const QLabel& label)
+{
+    if (!label.wordWrap()) {
+        expectRoom(label, label.text(), label.sizeHint(), label.size());
+        return;
+    }
+    const QRect room(0, 0, label.contentsRect().width(), label.contentsRect().height());
+    const QRect needed = label.fontMetrics().boundingRect(
+        QRect(0, 0, room.width(), QWIDGETSIZE_MAX), Qt::TextWordWrap, label.text());
+    expectRoom(label, label.text(), needed.size(), room.size());
+}
+
+void expectFits(const QComboBox& list)
+{
+    QStyleOptionComboBox option;
+    option.initFrom(&list);
+    option.frame = list.hasFrame();
+    const QRect field = list.style()->subControlRect(
+        QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list);
+    constexpr int kMargins = 4;
+    for (int item = 0; item < list.count(); ++item) {
+        expectRoom(list, list.itemText(item),
+            sizeOf(list, list.itemText(item)) + QSize(kMargins, 0), field.size());
+    }
+}
+
+void expectFits(const QTabBar& tabs)
+{
+    EXPECT_LE(tabs.sizeHint().width(), tabs.width());
+    for (int tab = 0; tab < tabs.count(); ++tab) {
+        constexpr int kPadding = 8;
+        expectRoom(tabs, tabs.tabText(tab),
+            sizeOf(tabs, tabs.tabText(tab)) + QSize(2 * kPadding, 0), tabs.tabRect(tab).size());
+    }
+}
+
+void expectInside(const QWidget& widget)
+{
+    const QWidget& parent = *widget.parentWidget();
+    EXPECT_TRUE(parent.rect().contains(widget.geometry())) << qPrintable(widget.objectName());
+}
+
+void expectAllFits(const QWidget& window)
+{
+    int count = 0;
+    for (const auto* const label : visible<QLabel>(window)) {
+        expectFits(*label);
+        expectInside(*label);
+        ++count;
+    }
+    for (const auto* const button : visible<QAbstractButton>(window)) {
+        expectRoom(*button, button->text(), button->sizeHint(), button->size());
+        expectInside(*button);
+        ++count;
+    }
+    for (const auto* const group : visible<QGroupBox>(window)) {
+        constexpr int kFrame = 16;
+        expectRoom(*group, group->title(), sizeOf(*group, group->title()) + QSize(kFrame, 0),
+            group->size());
+        ++count;
+    }
+    for (const auto* const edit : visible<QLineEdit>(window)) {
+        constexpr int kFrame = 12;
+        expectRoom(*edit, edit->placeholderText(),
+            sizeOf(*edit, edit->placeholderText()) + QSize(kFrame, 0), edit->size());
+        ++count;
+    }
+    for (const auto* const list : visible<QComboBox>(window)) {
+        expectFits(*list);
+        expectInside(*list);
+        ++count;
+    }
+    for (const auto* const tabs : visible<QTabBar>(window)) {
+        expectFits(*tabs);
+        ++count;
+    }
+    EXPECT_GT(count, 1);
+}
+
+/** No text needs a character that no font has. */
+void expectGlyphs(const QString& text)
+{
+    QTextLayout layout(drawn(text), QApplication::font());
+    layout.beginLayout();
+    layout.createLine();
+    layout.endLayout();
+    const QList<QGlyphRun> runs = layout.glyphRuns();
+    EXPECT_FALSE(runs.isEmpty()) << qPrintable(text);
+    for (const QGlyphRun& run : runs) {
+        EXPECT_FALSE(run.glyphIndexes().contains(0))
+            << qPrintable(text) << " in " << qPrintable(run.rawFont().familyName());
+    }
+}
+
+void expectGlyphs(const QStringList& texts)
+{
+    for (const QString& text : texts) {
+        expectGlyphs(text);
+    }
+}
+
+// The keyboard's letters --------------------------------------------------------------------------
+
+/** The letter that a text is reached with; nothing without one. */
+QString mnemonicOf(const QString& text)
+{
+    static const QRegularExpression kMark(QStringLiteral("(?<!&)&([^&])"));
+    return kMark.match(text).captured(1).toUpper();
+}
+
+void expectMnemonicsDiffer(const QStringList& texts, int least)
+{
+    QHash<QString, QString> texts_of;
+    for (const QString& text : texts) {
+        const QString letter = mnemonicOf(text);
+        if (letter.isEmpty()) {
+            continue;
+        }
+        EXPECT_FALSE(texts_of.contains(letter)) << qPrintable(letter) << ": " << qPrintable(text)
+                                                << ", " << qPrintable(texts_of.value(letter));
+        texts_of.insert(letter, text);
+    }
+    EXPECT_GE(texts_of.size(), least);
+}
+
+// The languages -----------------------------------------------------------------------------------
+
+const std::string kLanguages[] = {"en", "de", "es", "fr", "ja", "zh_CN"};
+constexpr int kTextSizes[] = {kUsualText, kLargeText};
+
+class Language : public LanguagePane,
+                 public testing::WithParamInterface<std::tuple<std::string, int>> {
+protected:
+    Language()
+        : LanguagePane(QString::fromStdString(std::get<0>(GetParam())), std::get<1>(GetParam()))
+    {
+    }
+};
+
+std::string nameOf(const testing::TestParamInfo<Language::ParamType>& info)
+{
+    return std::get<0>(info.param) + (std::get<1>(info.param) == kUsualText ? "" : "_large");
+}
+
+INSTANTIATE_TEST_SUITE_P(Every, Language,
+    testing::Combine(testing::ValuesIn(kLanguages), testing::ValuesIn(kTextSizes)), nameOf);
+
+} // namespace
+
+TEST_P(Language, hasRoomForAllItsTexts)
+{
+    show();
+    atEveryPage([this] { expectAllFits(*mWindow); });
+}
+
+TEST_P(Language, hasRoomForItsTextsInTheLayoutOfEveryModel)
+{
+    for (const QVTabletModel& model : kQVTabletModels) {
+        const testing::ScopedTrace trace(__FILE__, __LINE__, model.name);
+        setProduct(model.productID);
+        show();
+        expectAllFits(*mWindow);
+        mPane.willUnselect();
+        mPane.didUnselect();
+    }
+}
+
+TEST_P(Language, hasRoomForWhatGoesWrong)
+{
+    setProduct(0xABCD); // unknown
+    show();
+    post(platform::kEventNotTakenNotification);
+    const QString driver = outlet<QLabel>("mNotice").text();
+    EXPECT_FALSE(driver.isEmpty());
+    atEveryPage([this] { expectAllFits(*mWindow); });
+
+    ASSERT_TRUE(QFile::remove(mHome.configFile(7)));
+    ASSERT_TRUE(QDir().mkpath(mHome.configFile(7))); // a folder in the file's place
+    mPane.save();
+    EXPECT_NE(outlet<QLabel>("mNotice").text(), driver);
+    EXPECT_FALSE(outlet<QLabel>("mNotice").text().isEmpty());
+    atEveryPage([this] { expectAllFits(*mWindow); });
+}
+
+TEST_P(Language, hasRoomForTheTextsWithoutATablet)
+{
+    showWithoutTablet();
+    EXPECT_TRUE(outlet<QLabel>("NoDevTitle").isVisible());
+    EXPECT_TRUE(outlet<QLabel>("NoDevHelp").isVisible());
+    expectAllFits(*mWindow);
+}
+
+TEST_P(Language, hasRoomForTheTextsOfTheKeyDialog)
+{
+    show();
+    QVKeySetClass& dialog = keyDialog();
+    dialog.showWindow();
+    settle();
+    expectAllFits(dialog);
+    dialog.resize(dialog.minimumSizeHint());
+    settle();
+    expectAllFits(dialog);
+}
+
+TEST_P(Language, hasRoomForTheCalibrationsHint)
+{
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setBold(true);
+    font.setPixelSize(40);
+    const QString hint =
+        rzkBundle.localizedString(QStringLiteral("Esc"), QString(), QStringLiteral("InfoPlist"));
+    EXPECT_LE(QFontMetricsF(font).horizontalAdvance(hint), kHintRoom) << qPrintable(hint);
+    expectGlyphs(hint);
+}
+
+TEST_P(Language, hasAGlyphForEveryCharacter)
+{
+    show();
+    atEveryPage([this] { expectGlyphs(textsOf(*mWindow)); });
+    keyDialog().showWindow();
+    expectGlyphs(textsOf(keyDialog()));
+    keyDialog().hide();
+    mPane.willUnselect();
+    showWithoutTablet();
+    expectGlyphs(textsOf(*mWindow));
+}
+
+TEST_P(Language, reachesNoTwoControlsOfAPageWithTheSameLetter)
+{
+    show();
+    constexpr int kTabsAndButtons = 5;
+    atEveryPage([this] { expectMnemonicsDiffer(textsOf(*mWindow), kTabsAndButtons + 4); });
+    keyDialog().showWindow();
+    expectMnemonicsDiffer(textsOf(keyDialog()), 3);
+}
+
+namespace {
+
+/** In which what is not translated stands out. */
+class LanguageWithLettersOfItsOwn : public LanguagePane,
+                                    public testing::WithParamInterface<std::string> {
+protected:
+    LanguageWithLettersOfItsOwn()
+        : LanguagePane(QString::fromStdString(GetParam()))
+    {
+    }
+};
+
+INSTANTIATE_TEST_SUITE_P(Every, LanguageWithLettersOfItsOwn, testing::Values("ja", "zh_CN"));
+
+} // namespace
+
+TEST_P(LanguageWithLettersOfItsOwn, leavesNoTextInEnglish)
+{
+    static const QRegularExpression kLatinWord(QStringLiteral("[A-Za-z]{3}"));
+    static const QRegularExpression kOwn(
+        QStringLiteral("[\\x{3040}-\\x{30ff}\\x{4e00}-\\x{9fff}]"));
+    int count = 0;
+    const auto look = [&](const QStringList& texts) {
+        for (const QString& text : texts) {
+            const bool isTranslated = text.contains(kOwn);
+            EXPECT_TRUE(isTranslated || !text.contains(kLatinWord)) << qPrintable(text);
+            count += isTranslated ? 1 : 0;
+        }
+    };
+    show();
+    outlet<QLabel>("mSoft").clear(); // a model's name is the same in every language
+    atEveryPage([&] { look(textsOf(*mWindow)); });
+    look({mWindow->windowTitle(), keyDialog().windowTitle()});
+    mPane.willUnselect();
+    showWithoutTablet();
+    look(textsOf(*mWindow));
+    EXPECT_GT(count, 60);
+}
+
+// From right to left ------------------------------------------------------------------------------
+
+namespace {
+
+class RightToLeft : public LanguagePane {
+protected:
+    RightToLeft()
+        : LanguagePane(QStringLiteral("en"))
+    {
+    }
+
+    /** Where the named controls of what is shown are in it. */
+    static QHash<QString, QRect> places(const QWidget& window)
+    {
+        QHash<QString, QRect> found;
+        for (const auto* const widget : visible<QWidget>(window)) {
+            const QString name = widget->objectName();
+            if (!name.isEmpty() && !name.startsWith(QLatin1String("qt_"))) {
+                found.insert(name, QRect(widget->mapTo(&window, QPoint()), widget->size()));
+            }
+        }
+        return found;
+    }
+    static QRect mirrored(const QRect& place, int width)
+    {
+        return {width - place.x() - place.width(), place.y(), place.width(), place.height()};
+    }
+    static void turn()
+    {
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+        settle();
+    }
+};
+
+} // namespace
+
+TEST_F(RightToLeft, mirrorsThePlacesOfAllControls)
+{
+    show();
+    atEveryPage([this] {
+        QGuiApplication::setLayoutDirection(Qt::LeftToRight);
+        settle();
+        const QHash<QString, QRect> before = places(*mWindow);
+        turn();
+        const QHash<QString, QRect> after = places(*mWindow);
+        EXPECT_GT(before.size(), 12);
+        EXPECT_EQ(before.size(), after.size());
+        for (auto place = before.cbegin(); place != before.cend(); ++place) {
+            // What has an odd number of pixels to share may give one of them to the other side.
+            const QRect wanted = mirrored(place.value(), mWindow->width());
+            const QRect is = after.value(place.key());
+            EXPECT_LE(std::abs(wanted.x() - is.x()), 1) << qPrintable(place.key());
+            EXPECT_LE(std::abs(wanted.width() - is.width()), 1) << qPrintable(place.key());
+            EXPECT_EQ(wanted.y(), is.y()) << qPrintable(place.key());
+        }
+    });
+}
+
+TEST_F(RightToLeft, isMirroredFromTheBeginningToo)
+{
+    turn();
+    show();
+    const QHash<QString, QRect> after = places(*mWindow);
+    EXPECT_GT(after.value(QStringLiteral("mKey1_1")).left(),
+        after.value(QStringLiteral("mKeyView")).right());
+    EXPECT_GT(after.value(QStringLiteral("mLabel1_1")).left(),
+        after.value(QStringLiteral("mKey1_1")).right());
+    EXPECT_LT(after.value(QStringLiteral("mSave")).right(),
+        after.value(QStringLiteral("mCancel")).left());
+    atEveryPage([this] { expectAllFits(*mWindow); });
+}
+
+TEST_F(RightToLeft, drawsWhatIsAPictureOfSomethingAsItIs)
+{
+    setProduct(0x5101); // of which there is a picture
+    show();
+    const auto pictures = [this] {
+        QHash<QString, QImage> taken;
+        atEveryPage([&] {
+            for (const char* const name : {"mKeyView", "mPressView", "mDrawView", "mMonitorView"}) {
+                auto& view = outlet<QWidget>(name);
+                if (view.isVisible()) {
+                    taken.insert(QString::fromLatin1(name), view.grab().toImage());
+                }
+            }
+        });
+        return taken;
+    };
+    const QHash<QString, QImage> before = pictures();
+    EXPECT_EQ(before.size(), 4);
+    // Each of them can be told from its mirror image, all but the empty drawing pad.
+    for (const char* const name : {"mKeyView", "mPressView", "mMonitorView"}) {
+        const QImage& picture = before[QString::fromLatin1(name)];
+        EXPECT_NE(picture, picture.mirrored(true, false)) << name;
+    }
+    turn();
+    EXPECT_EQ(pictures(), before);
+}
+
+TEST_F(RightToLeft, leavesTheCurvesNamesAtItsAxes)
+{
+    turn();
+    show();
+    outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
+    settle();
+    const auto side = [this](const char* name) {
+        const auto& label = outlet<QLabel>(name);
+        return QStyle::visualAlignment(label.layoutDirection(), label.alignment())
+            & Qt::AlignHorizontal_Mask & ~Qt::AlignAbsolute;
+    };
+    EXPECT_EQ(side("mOutputLabel"), Qt::AlignLeft);
+    EXPECT_EQ(side("mInputLabel"), Qt::AlignRight);
+}
+
+TEST_F(RightToLeft, leavesTheKeyboardAsItIs)
+{
+    show();
+    QVKeySetClass& dialog = keyDialog();
+    dialog.showWindow();
+    settle();
+    const QHash<QString, QRect> before = places(dialog);
+    turn();
+    const QHash<QString, QRect> after = places(dialog);
+    int keys = 0;
+    for (auto place = before.cbegin(); place != before.cend(); ++place) {
+        const bool isKey = place.key().startsWith(QLatin1String("key"));
+        keys += isKey ? 1 : 0;
+        const QRect wanted = isKey ? place.value() : mirrored(place.value(), dialog.width());
+        EXPECT_EQ(wanted, after.value(place.key())) << qPrintable(place.key());
+    }
+    EXPECT_GT(keys, 60);
+}
+
+TEST_F(RightToLeft, mirrorsTheTextsWithoutATablet)
+{
+    showWithoutTablet();
+    const QRect title = outlet<QLabel>("NoDevTitle").geometry();
+    const QRect help = outlet<QLabel>("NoDevHelp").geometry();
+    mPane.willUnselect();
+    turn();
+    const std::unique_ptr<QVTblt_prefPanePref> pane = std::make_unique<QVTblt_prefPanePref>();
+    pane->initWithBundle(rzkBundle);
+    const std::unique_ptr<QWidget> view(pane->loadMainView());
+    view->resize(mWindow->size());
+    pane->willSelect();
+    const auto& label = *view->findChild<QLabel*>(QStringLiteral("NoDevTitle"));
+    EXPECT_EQ(label.geometry(), mirrored(title, view->width()));
+    EXPECT_EQ(view->findChild<QLabel*>(QStringLiteral("NoDevHelp"))->geometry(),
+        mirrored(help, view->width()));
+    // And at the next showing, each time further from its side.
+    pane->willUnselect();
+    pane->willSelect();
+    EXPECT_EQ(label.geometry().right(), mirrored(title, view->width()).right() - 20);
+}
