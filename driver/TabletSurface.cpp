@@ -40,12 +40,14 @@ qreal crisp(qreal place)
 
 TabletSurface::TabletSurface(QWidget* parent)
     : QWidget(parent)
+    , Accessible(static_cast<QWidget&>(*this), QAccessible::Canvas)
 {
     setAccessibleName(QStringLiteral("Surface"));
     setAccessibleDescription(
         QStringLiteral("The tablet's surface. Press the mouse here to touch it with the pen. The "
                        "arrow keys move the pen, with Shift in large steps; the space bar holds "
                        "it down."));
+    connect(this, &TabletSurface::penChanged, this, [this] { contentsChanged(); });
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
@@ -89,6 +91,14 @@ void TabletSurface::showPen(const QVTabletPoint& pen)
 QRectF TabletSurface::surface() const
 {
     return surfaceRect(QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin), mRange);
+}
+
+QString TabletSurface::spokenContents() const
+{
+    return QStringLiteral("The pen is %1 at %2, %3.")
+        .arg(isPenDown() ? QStringLiteral("down") : QStringLiteral("up"))
+        .arg(mPen.x)
+        .arg(mPen.y);
 }
 
 QSize TabletSurface::sizeHint() const

@@ -28,6 +28,7 @@ def describe(thing, path, found):
             "name": thing.get_name(),
             "role": thing.get_role_name(),
             "description": thing.get_description(),
+            "labels": labels(thing),
             "path": path,
             "showing": states.contains(Atspi.StateType.SHOWING),
             "enabled": states.contains(Atspi.StateType.ENABLED),
@@ -48,6 +49,13 @@ def describe(thing, path, found):
                 describe(child, path + [i], found)
     except GLib.Error:
         pass  # the thing went away while it was looked at
+
+
+def labels(thing):
+    """The names of what labels the thing."""
+    return [relation.get_target(i).get_name() for relation in thing.get_relation_set()
+            if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
+            for i in range(relation.get_n_targets())]
 
 
 def press(path):
