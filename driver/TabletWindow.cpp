@@ -53,7 +53,8 @@ std::vector<int> keyGroups(QVKeyLayout layout)
     return {};
 }
 
-template <class Label = QLabel> QLabel* valueLabel(QFormLayout& form, const QString& name)
+template <class Label = QLabel>
+QLabel* valueLabel(QFormLayout& form, const QString& name)
 {
     auto* const value = new Label;
     value->setWordWrap(true);

@@ -138,6 +138,7 @@ void drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palett
     line(0, palette.color(QPalette::WindowText));
     line(1, palette.color(QPalette::WindowText));
     line(2, palette.color(QPalette::Window));
+    line(3, palette.color(QPalette::Window));
 }
 
 void frameRect(QPainter& painter, const Rect& rect)

@@ -81,7 +81,7 @@ void drawImage(QPainter& painter, const QImage& image, const Rect& target, const
  */
 void drawText(QPainter& painter, const QString& text, double x, double y);
 
-/** Draws the frame that shows the keyboard's focus, three pixels wide, inside of a rectangle. */
+/** Draws the frame that shows the keyboard's focus, four pixels wide, inside of a rectangle. */
 void drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette);
 
 /** Draws the rectangle's frame in black, a point wide, inside of it. */

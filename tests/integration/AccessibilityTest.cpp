@@ -22,12 +22,11 @@
 #include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
-
-#include <private/qguiapplication_p.h>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
 
 #include <functional>
+#include <private/qguiapplication_p.h>
 #include <set>
 
 using platform::Rect;
@@ -177,7 +176,10 @@ private:
     {
         QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listens);
     }
-    static void take(QAccessibleEvent* event) { sEvents.emplace_back(event->object(), event->type()); }
+    static void take(QAccessibleEvent* event)
+    {
+        sEvents.emplace_back(event->object(), event->type());
+    }
 
     static inline std::vector<std::pair<const QObject*, QAccessible::Event>> sEvents;
     QAccessible::UpdateHandler mBefore;
@@ -336,8 +338,8 @@ TEST_F(Accessibility, saysWhatThereIsWithoutATablet)
     showWithoutTablet();
     expectNoFaults(*mWindow, 3);
     EXPECT_EQ(QApplication::focusWidget(), &outlet<QLabel>("NoDevHelp"));
-    EXPECT_EQ(textOf(accessible(outlet<QLabel>("NoDevTitle")), QAccessible::Name),
-        "No tablet was found");
+    EXPECT_EQ(
+        textOf(accessible(outlet<QLabel>("NoDevTitle")), QAccessible::Name), "No tablet was found");
 }
 
 TEST_F(Accessibility, saysWhatIsInTheKeyDialog)
@@ -357,8 +359,8 @@ TEST_F(Accessibility, saysWhichCrossToTouch)
     EXPECT_EQ(accessible(window).role(), QAccessible::Window);
     QVCalibrateView& view = window.view();
     EXPECT_EQ(QApplication::focusWidget(), &view);
-    EXPECT_EQ(textOf(accessible(view), QAccessible::Name),
-        "Touch the cross with the pen. Esc ends.");
+    EXPECT_EQ(
+        textOf(accessible(view), QAccessible::Name), "Touch the cross with the pen. Esc ends.");
     const std::array<std::string, 4> places{
         "upper left", "upper right", "lower right", "lower left"};
     for (std::size_t i = 0; i < places.size(); ++i) {
@@ -404,8 +406,8 @@ TEST_F(Accessibility, saysTheCurveInWords)
         "quarter of it, 71 % at half and 87 % at three quarters.");
     const Told told;
     outlet<QSlider>("mSlider").setValue(1500);
-    EXPECT_TRUE(QTest::qWaitFor(
-        [&] { return Told::count(curve, QAccessible::DescriptionChanged) == 1; }));
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return Told::count(curve, QAccessible::DescriptionChanged) == 1; }));
 }
 
 TEST_F(Accessibility, saysWhichDisplayTheTabletReaches)
@@ -580,10 +582,10 @@ TEST_F(Accessibility, showsWhichViewHasTheFocus)
             const QImage with = view.grab().toImage();
             // Across the frame's upper edge, from outside to inside, each line next to the other.
             double most = 1;
-            for (int y = 0; y < 4; ++y) {
+            for (int y = 0; y < 5; ++y) {
                 const QColor drawn = with.pixelColor(with.width() / 2, y);
-                most = std::max(
-                    most, contrastRatio(drawn, with.pixelColor(with.width() / 2, y + 1)));
+                most =
+                    std::max(most, contrastRatio(drawn, with.pixelColor(with.width() / 2, y + 1)));
             }
             EXPECT_GE(most, kGraphicsContrast);
             EXPECT_NE(before, with);
@@ -616,8 +618,8 @@ TEST_F(Accessibility, textsStandApartInEveryTheme)
             const QImage page = mWindow->grab().toImage();
             for (const QWidget* const widget : mWindow->findChildren<QWidget*>()) {
                 const auto* const label = qobject_cast<const QLabel*>(widget);
-                const bool hasText = label != nullptr ? !label->text().isEmpty()
-                                                      : widget->inherits("QVKeyComboBox");
+                const bool hasText =
+                    label != nullptr ? !label->text().isEmpty() : widget->inherits("QVKeyComboBox");
                 if (hasText && widget->isVisible() && widget->isEnabled()) {
                     const QRect place(widget->mapTo(mWindow.get(), QPoint()), widget->size());
                     EXPECT_GE(contrastIn(page.copy(place)), kTextContrast)
@@ -643,8 +645,8 @@ TEST_F(Accessibility, picturesStandApartInEveryTheme)
         const ThemeScope scope(theme);
         showProduct(kProducts[0]);
         showPage("penPage");
-        EXPECT_GE(contrastIn(outlet<QVPressView>("mPressView").grab().toImage()),
-            kGraphicsContrast) << "the curve";
+        EXPECT_GE(contrastIn(outlet<QVPressView>("mPressView").grab().toImage()), kGraphicsContrast)
+            << "the curve";
         showPage("displayPage");
         auto& view = outlet<QVMonitorView>("mMonitorView");
         const QImage picture = view.grab().toImage();

@@ -63,8 +63,7 @@ inline constexpr std::array<Theme, 6> kThemes{{
     {"FusionLight", 0xFFEFEFEF, 0xFFFFFFFF, 0xFF000000, 0xFFEFEFEF, 0xFF308CC6, 0xFFFFFFFF},
     {"FusionDark", 0xFF323232, 0xFF242424, 0xFFFFFFFF, 0xFF323232, 0xFF308CC6, 0xFFFFFFFF},
     {"HighContrast", 0xFF000000, 0xFF000000, 0xFFFFFFFF, 0xFF000000, 0xFFFFFF00, 0xFF000000},
-    {"HighContrastInverse", 0xFFFFFFFF, 0xFFFFFFFF, 0xFF000000, 0xFFFFFFFF, 0xFF000080,
-        0xFFFFFFFF},
+    {"HighContrastInverse", 0xFFFFFFFF, 0xFFFFFFFF, 0xFF000000, 0xFFFFFFFF, 0xFF000080, 0xFFFFFFFF},
 }};
 
 /** Puts a theme in place of the desktop's for as long as it lives. */
@@ -95,8 +94,8 @@ inline QColor groundOf(const QImage& image)
             ++counts[image.pixel(x, y)];
         }
     }
-    const auto most = std::ranges::max_element(
-        counts, {}, [](const auto& count) { return count.second; });
+    const auto most =
+        std::ranges::max_element(counts, {}, [](const auto& count) { return count.second; });
     return QColor(most->first);
 }
 
