@@ -580,15 +580,14 @@ TEST_F(Accessibility, showsWhichViewHasTheFocus)
             const QImage before = view.grab().toImage();
             view.setFocus(Qt::TabFocusReason);
             const QImage with = view.grab().toImage();
-            // Across the frame's upper edge, from outside to inside, each line next to the other.
+            // Across the upper edge, what the focus makes of each line.
             double most = 1;
-            for (int y = 0; y < 5; ++y) {
-                const QColor drawn = with.pixelColor(with.width() / 2, y);
-                most =
-                    std::max(most, contrastRatio(drawn, with.pixelColor(with.width() / 2, y + 1)));
+            for (int y = 0; y < 4; ++y) {
+                most = std::max(most,
+                    contrastRatio(before.pixelColor(before.width() / 2, y),
+                        with.pixelColor(with.width() / 2, y)));
             }
             EXPECT_GE(most, kGraphicsContrast);
-            EXPECT_NE(before, with);
             mWindow->setFocus();
             EXPECT_EQ(view.grab().toImage(), before);
             leave();
@@ -645,7 +644,9 @@ TEST_F(Accessibility, picturesStandApartInEveryTheme)
         const ThemeScope scope(theme);
         showProduct(kProducts[0]);
         showPage("penPage");
-        EXPECT_GE(contrastIn(outlet<QVPressView>("mPressView").grab().toImage()), kGraphicsContrast)
+        EXPECT_GE(
+            contrastIn(outlet<QVPressView>("mPressView").grab(QRect(5, 5, 190, 190)).toImage()),
+            kGraphicsContrast)
             << "the curve";
         showPage("displayPage");
         auto& view = outlet<QVMonitorView>("mMonitorView");
