@@ -159,6 +159,8 @@ void finishPass(QVCalibrateView& view)
 QVCalibrateView::QVCalibrateView(QWidget* parent)
     : PaneView(parent)
 {
+    setAccessibleName(localized("Esc"));
+    setFocusPolicy(Qt::ClickFocus); // so that a screen reader says what to do
     // The handler stays after the view has gone, until another view installs its own.
     events().installEventHandler(kAECoreSuite, kAEGetData,
         [view = QPointer<QVCalibrateView>(this)](const AppleEvent& event, AppleEvent& reply) {
@@ -223,6 +225,22 @@ std::uint16_t QVCalibrateView::getQVTabletRectInfoYmin() const
 std::uint16_t QVCalibrateView::getQVTabletRectInfoYmax() const
 {
     return qvTabletInfo.Monitor.cTabletYmax;
+}
+
+QString QVCalibrateView::spokenContents() const
+{
+    switch (drawflag) {
+    case kDrawCross:
+        return tr("Cross 1 of 4, at the upper left.");
+    case kDrawCross + 1:
+        return tr("Cross 2 of 4, at the upper right.");
+    case kDrawCross + 2:
+        return tr("Cross 3 of 4, at the lower right.");
+    case kDrawCross + 3:
+        return tr("Cross 4 of 4, at the lower left.");
+    default:
+        return {};
+    }
 }
 
 void QVCalibrateView::drawRect(QPainter& painter, const Rect& dirty)

@@ -46,6 +46,9 @@ public:
     std::uint16_t getQVTabletRectInfoYmin() const;
     std::uint16_t getQVTabletRectInfoYmax() const;
 
+    /** Where the cross is; the name says what to do with it. */
+    QString spokenContents() const override;
+
 protected:
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
 

@@ -64,6 +64,7 @@ QRect toWindowSystem(const Rect& rect)
 QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     : QWidget(mainWindow, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
     , ProximityResponder(static_cast<const QWidget&>(*this))
+    , Accessible(static_cast<QWidget&>(*this), QAccessible::Window)
     , mView(new QVCalibrateView(this))
     , mCalibrateWin(this)
     , mMainWindow(mainWindow)
@@ -83,6 +84,7 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(mView);
     mView->setColor(Qt::yellow);
+    mView->setFocus();
 
     const QRect place = toWindowSystem(contentRect);
     setGeometry(place);

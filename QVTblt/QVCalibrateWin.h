@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Accessible.h"
 #include "EventQueue.h"
 #include "QVCalibrateView.h"
 
@@ -12,7 +13,9 @@
  * The calibration's window: covers one display, lets it show through, and lies above the panel's
  * window, with which it closes. Escape ends the calibration.
  */
-class QVCalibrateWin final : public QWidget, public platform::ProximityResponder {
+class QVCalibrateWin final : public QWidget,
+                             public platform::ProximityResponder,
+                             public platform::Accessible {
     Q_OBJECT
 
 public:

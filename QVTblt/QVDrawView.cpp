@@ -219,6 +219,13 @@ void QVDrawView::handleMouseEvent(const Event& event)
 void QVDrawView::showPressure(float pressure)
 {
     txtRawTabletPressure->setText(QString::number(std::lround(pressure * kRawPressure)));
+    mShownPressure = pressure;
+    contentsChanged();
+}
+
+QString QVDrawView::spokenContents() const
+{
+    return tr("Pressure %1 %").arg(std::lround(mShownPressure * 100));
 }
 
 void QVDrawView::postStats()

@@ -59,6 +59,9 @@ public:
     /** Wipes the pad. */
     void doClean();
 
+    /** The pressure that is shown. */
+    QString spokenContents() const override;
+
     /** Draws with the pen or erases, as the device that has come into reach does. */
     void handleProximity(const platform::Notification& notification);
 
@@ -88,6 +91,7 @@ private:
     bool mUpdatesStatsDuringDrag = true;
     bool mIsErasing = false;
     bool mIsDragging = false; ///< tracks a drag that had no press here
+    float mShownPressure = 0;
     float mDrawnPressure = 0; ///< of the last step; shown once for all that are drawn together
     QPointF mLastLoc; ///< in the view's points
     QPointF cachedLastLoc; ///< the point before, for the curve; (0, 0) is none

@@ -36,6 +36,15 @@ QImage pictureOf(std::uint16_t productID)
 
 } // namespace
 
+QString QVKeyView::spokenContents() const
+{
+    const QVTabletModel* const model =
+        QVFindModel(static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID));
+    return model == nullptr || model->picture == QVPicture::None
+        ? tr("There is no picture of this model.")
+        : tr("%1. Each key has the number of its list.").arg(QString::fromUtf8(model->name));
+}
+
 void QVKeyView::drawRect(QPainter& painter, const platform::Rect& dirty)
 {
     const auto productID = static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID);

@@ -19,6 +19,9 @@ class QVKeyView final : public platform::PaneView {
 public:
     using PaneView::PaneView;
 
+    /** Whose picture it is. */
+    QString spokenContents() const override;
+
 protected:
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
 

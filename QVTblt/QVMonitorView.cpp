@@ -15,6 +15,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 using platform::Rect;
@@ -210,6 +211,24 @@ Rect QVMonitorView::drawMiniatures(QPainter& painter) const
     Rect all;
     GetAllMonitorRect(miniatures.data(), &all);
     return all;
+}
+
+QString QVMonitorView::spokenContents() const
+{
+    QStringList sentences;
+    for (std::uint32_t i = 0; i < mDspCount; ++i) {
+        const Rect& display = mSubMonitorRect[i];
+        sentences.append(tr("%1: %2 by %3 points, its upper left corner at %4, %5.")
+                             .arg(displayName(i))
+                             .arg(std::lround(display.width))
+                             .arg(std::lround(display.height))
+                             .arg(std::lround(display.x))
+                             .arg(std::lround(display.y)));
+    }
+    if (mComboBox->currentIndex() >= 0) {
+        sentences.append(tr("The tablet reaches %1.").arg(mComboBox->currentText()));
+    }
+    return sentences.join(u' ');
 }
 
 void QVMonitorView::drawRect(QPainter& painter, const Rect& dirty)

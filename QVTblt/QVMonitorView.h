@@ -70,6 +70,9 @@ public:
      */
     void GetAllMonitorRect(const platform::Rect* rects, platform::Rect* outRect) const;
 
+    /** Which displays there are, where, and which of them the tablet reaches. */
+    QString spokenContents() const override;
+
 protected:
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
 

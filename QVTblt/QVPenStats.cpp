@@ -34,7 +34,7 @@ QString textOf(const QVDrawView::Stats& stats)
 } // namespace
 
 QVPenStats::QVPenStats(QWidget* parent)
-    : QLabel(parent)
+    : LiveLabel(parent)
 {
 }
 

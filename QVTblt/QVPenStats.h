@@ -2,12 +2,12 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QLabel>
+#include "Accessible.h"
 
 class QVDrawView;
 
 /** Says in a line what the drawing pad last saw of pen and mouse. */
-class QVPenStats final : public QLabel {
+class QVPenStats final : public platform::LiveLabel {
     Q_OBJECT
 
 public:

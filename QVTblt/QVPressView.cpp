@@ -54,6 +54,19 @@ void QVPressView::handleProximity(const platform::Notification& notification)
     }
 }
 
+QString QVPressView::spokenContents() const
+{
+    const int threshold = GetqvTabletInfo()->Pen.PressureThreshold;
+    // Points of the curve's width and height, of which 200 are all.
+    const auto percentAt = [threshold](int j) { return QVPressHeight(threshold, j) / 2; };
+    return tr("Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % "
+              "at a quarter of it, %3 % at half and %4 % at three quarters.")
+        .arg(threshold)
+        .arg(percentAt(50))
+        .arg(percentAt(100))
+        .arg(percentAt(150));
+}
+
 void QVPressView::drawRect(QPainter& painter, const platform::Rect& dirty)
 {
     const std::int16_t threshold = GetqvTabletInfo()->Pen.PressureThreshold;

@@ -29,6 +29,9 @@ public:
     /** Computes the curve of a threshold. */
     void SetPoint(int value);
 
+    /** The curve at three places. */
+    QString spokenContents() const override;
+
     /** Names the pen that has come into reach. */
     void handleProximity(const platform::Notification& notification);
 

@@ -9,7 +9,6 @@
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
 
-#include <QAccessible>
 #include <QCoreApplication>
 #include <QFontDatabase>
 #include <QScrollBar>
@@ -42,6 +41,9 @@ QWidget* QVTblt_prefPanePref::makeMainView()
     setUpKeyPage();
     setUpPenPage();
     setUpDisplayPage();
+    QSizePolicy noticePolicy = mNotice->sizePolicy();
+    noticePolicy.setRetainSizeWhenHidden(true); // Save and Cancel stay where they are
+    mNotice->setSizePolicy(noticePolicy);
     connect(mSave, &QPushButton::clicked, this, &QVTblt_prefPanePref::SaveSet);
     platform::NotificationCenter& center = platform::notifications();
     center.addObserver(*this, platform::kSourceChangedNotification,
@@ -102,7 +104,7 @@ void QVTblt_prefPanePref::willSelect()
     NoDevHelp->setVisible(!hasDevice);
     // Without a tablet there is nothing to name, to save or to cancel.
     mSoft->setVisible(hasDevice);
-    mNotice->setVisible(hasDevice);
+    mNotice->setVisible(hasDevice && !mNotice->text().isEmpty());
     mSave->setVisible(hasDevice && mButtonsShown);
     mCancel->setVisible(hasDevice && mButtonsShown);
     if (!hasDevice) {
@@ -204,15 +206,18 @@ void QVTblt_prefPanePref::showNotice()
         text = tr("The tablet's driver has not taken the last change. Is it running?");
     }
     if (text != mNotice->text()) {
+        mNotice->hide(); // only what appears is read out
         mNotice->setText(text);
-        QAccessibleEvent event(mNotice, QAccessible::Alert);
-        QAccessible::updateAccessibility(&event);
+        mNotice->setVisible(!text.isEmpty());
     }
 }
 
 void QVTblt_prefPanePref::didSelect()
 {
     mSoft->setFocus();
+    if (!NoDevHelp->isHidden()) {
+        NoDevHelp->setFocus(); // what there is to read
+    }
 }
 
 void QVTblt_prefPanePref::willUnselect()

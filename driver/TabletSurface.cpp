@@ -40,11 +40,13 @@ qreal crisp(qreal place)
 
 TabletSurface::TabletSurface(QWidget* parent)
     : QWidget(parent)
+    , Accessible(static_cast<QWidget&>(*this), QAccessible::Canvas)
 {
     setAccessibleName(tr("Surface"));
     setAccessibleDescription(tr(
         "The tablet's surface. Press the mouse here to touch it with the pen. The arrow keys move "
         "the pen, with Shift in large steps; the space bar holds it down."));
+    connect(this, &TabletSurface::penChanged, this, [this] { contentsChanged(); });
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
     setCursor(Qt::CrossCursor);
@@ -90,6 +92,14 @@ QRectF TabletSurface::surface() const
     return surfaceRect(QRectF(rect()).adjusted(kMargin, kMargin, -kMargin, -kMargin), mRange);
 }
 
+QString TabletSurface::spokenContents() const
+{
+    return QStringLiteral("The pen is %1 at %2, %3.")
+        .arg(isPenDown() ? QStringLiteral("down") : QStringLiteral("up"))
+        .arg(mPen.x)
+        .arg(mPen.y);
+}
+
 QSize TabletSurface::sizeHint() const
 {
     constexpr int kWidth = 480;
@@ -109,27 +119,27 @@ void TabletSurface::paintEvent(QPaintEvent* event)
     const QRectF outer = surface();
     const QRectF sheet(QPointF(crisp(outer.left()), crisp(outer.top())),
         QPointF(crisp(outer.right() - 1), crisp(outer.bottom() - 1)));
-    painter.setPen(QPen(palette().color(QPalette::Mid), 1));
+    const QColor text = palette().color(QPalette::Text);
+    QColor line = text;
+    line.setAlphaF(0.6F); // fainter than the pen, and still to be seen in every theme
+    painter.setPen(QPen(line, 1));
     painter.setBrush(palette().base());
     painter.drawRect(sheet);
     if (hasFocus()) {
-        painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+        painter.setPen(QPen(palette().color(QPalette::WindowText), 2));
         painter.setBrush(Qt::NoBrush);
         painter.drawRect(sheet.adjusted(-2, -2, 2, 2));
     }
     painter.setClipRect(outer);
     const QRectF mapped = mMapped ? areaRect(*mMapped, outer, mRange).intersected(sheet) : QRectF();
     if (!mapped.isEmpty()) {
-        QColor color = palette().color(QPalette::Highlight);
-        painter.setPen(QPen(color, 2));
-        color.setAlphaF(0.12F);
-        painter.setBrush(color);
+        QColor inside = palette().color(QPalette::Highlight);
+        inside.setAlphaF(0.12F);
+        painter.setPen(QPen(text, 2));
+        painter.setBrush(inside);
         painter.drawRect(mapped.adjusted(1, 1, -1, -1));
     }
     const QPointF pen = toPlace(mPen, outer, mRange);
-    QColor text = palette().color(QPalette::Text);
-    QColor line = text;
-    line.setAlphaF(0.45F);
     painter.setPen(QPen(line, 1));
     painter.drawLine(QPointF(outer.left(), crisp(pen.y())), QPointF(outer.right(), crisp(pen.y())));
     painter.drawLine(QPointF(crisp(pen.x()), outer.top()), QPointF(crisp(pen.x()), outer.bottom()));

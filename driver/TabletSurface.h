@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Accessible.h"
 #include "TabletGeometry.h"
 
 #include <QWidget>
@@ -13,7 +14,7 @@
  * pressing its left button is the tip going down. So do the arrow keys and the space bar, while the
  * surface has the focus. A pen that leaves the surface while it is down slides along its edge.
  */
-class TabletSurface final : public QWidget {
+class TabletSurface final : public QWidget, public platform::Accessible {
     Q_OBJECT
 
 public:
@@ -34,6 +35,9 @@ public:
     bool isPenDown() const { return mHeldBy != Holder::Nobody; }
     /** The surface, in this widget. */
     QRectF surface() const;
+
+    /** What the pen does. */
+    QString spokenContents() const override;
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -53,9 +53,10 @@ std::vector<int> keyGroups(QVKeyLayout layout)
     return {};
 }
 
+template <class Label = QLabel>
 QLabel* valueLabel(QFormLayout& form, const QString& name)
 {
-    auto* const value = new QLabel;
+    auto* const value = new Label;
     value->setWordWrap(true);
     form.addRow(name, value);
     return value;
@@ -82,7 +83,8 @@ QRect screenArea(const tagQVTabletInfo& settings)
 } // namespace
 
 TabletWindow::TabletWindow(Driver& driver)
-    : mDriver(driver)
+    : Accessible(static_cast<QWidget&>(*this), QAccessible::Window)
+    , mDriver(driver)
     , mModels(new QComboBox)
     , mTablet(new QWidget)
     , mSurface(new TabletSurface(mTablet))
@@ -110,7 +112,7 @@ TabletWindow::TabletWindow(Driver& driver)
     mBody->addWidget(mSurface, 1);
     auto* const form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
-    mPen = valueLabel(*form, tr("Pen:"));
+    mPen = valueLabel<platform::LiveLabel>(*form, tr("Pen:"));
     mListening = valueLabel(*form, tr("Panel:"));
     mMapped = valueLabel(*form, tr("Frame:"));
     mTold = valueLabel(*form, tr("Pressed:"));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Accessible.h"
 #include "tagQVTabletInfo.h"
 
 #include <QWidget>
@@ -21,7 +22,7 @@ struct QVTabletModel;
  * The simulated tablet in a window: its surface to be touched with mouse or keyboard, its keys,
  * and what of it reaches the panel. Follows the driver, whoever attaches or detaches a tablet.
  */
-class TabletWindow final : public QWidget {
+class TabletWindow final : public QWidget, public platform::Accessible {
     Q_OBJECT
 
 public:

@@ -25,8 +25,9 @@ QRectF toQRect(const Rect& rect)
 
 } // namespace
 
-PaneView::PaneView(QWidget* parent)
+PaneView::PaneView(QWidget* parent, QAccessible::Role role)
     : QWidget(parent)
+    , Accessible(static_cast<QWidget&>(*this), role)
 {
 }
 
@@ -46,6 +47,7 @@ void PaneView::setNeedsDisplay()
 {
     mNeedsDisplay = true;
     update();
+    contentsChanged();
 }
 
 void PaneView::setNeedsDisplayInRect(const Rect& rect)
@@ -97,7 +99,11 @@ void PaneView::paintEvent(QPaintEvent* event)
     static_cast<void>(event);
     updateStore();
     mFocus.reset();
-    QPainter(this).drawPixmap(0, 0, mStore);
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, mStore);
+    if (hasFocus() && (focusPolicy() & Qt::TabFocus) != 0) {
+        drawFocusFrame(painter, rect(), palette());
+    }
 }
 
 QPainter& PaneView::lockFocus()
@@ -119,6 +125,20 @@ void PaneView::flushWindow()
 {
     QEvent request(QEvent::UpdateRequest);
     QCoreApplication::sendEvent(window(), &request);
+}
+
+void drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette)
+{
+    // Two lines of colours that stand apart in every theme: one of them does from what is below.
+    const auto line = [&painter, &rect](int inset, const QColor& color) {
+        painter.setPen(color);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(rect.adjusted(inset, inset, -inset - 1, -inset - 1));
+    };
+    line(0, palette.color(QPalette::WindowText));
+    line(1, palette.color(QPalette::WindowText));
+    line(2, palette.color(QPalette::Window));
+    line(3, palette.color(QPalette::Window));
 }
 
 void frameRect(QPainter& painter, const Rect& rect)

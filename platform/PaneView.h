@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Accessible.h"
 #include "Geometry.h"
 
 #include <QPainter>
@@ -18,15 +19,17 @@ namespace platform {
  * What was drawn stays in a backing store until it is drawn again: when the view is shown, when its
  * size, the size of a point, or the screen's pixel density changes, and when setNeedsDisplay() asks
  * for it. What the window system uncovers is copied from the store and not drawn again.
+ *
+ * A frame that is in no store shows that the keyboard has brought one here.
  */
-class PaneView : public QWidget {
+class PaneView : public QWidget, public Accessible {
 public:
-    explicit PaneView(QWidget* parent = nullptr);
+    explicit PaneView(QWidget* parent = nullptr, QAccessible::Role role = QAccessible::Graphic);
 
     /** The view's own rectangle, in points; its origin is (0, 0). */
     Rect bounds() const;
 
-    /** Has the whole view drawn again, before it is next painted. */
+    /** Has the whole view drawn again, before it is next painted, and tells its new words. */
     void setNeedsDisplay();
     /**
      * Has at least that part, in points, drawn again. From within drawing, only has what is drawn
@@ -77,6 +80,9 @@ void drawImage(QPainter& painter, const QImage& image, const Rect& target, const
  * y grows upwards.
  */
 void drawText(QPainter& painter, const QString& text, double x, double y);
+
+/** Draws the frame that shows the keyboard's focus, four pixels wide, inside of a rectangle. */
+void drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette);
 
 /** Draws the rectangle's frame in black, a point wide, inside of it. */
 void frameRect(QPainter& painter, const Rect& rect);

@@ -8,7 +8,7 @@
 namespace platform {
 
 PenView::PenView(QWidget* parent)
-    : PaneView(parent)
+    : PaneView(parent, QAccessible::Canvas)
 {
 }
 

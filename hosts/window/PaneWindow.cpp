@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QPixmap>
 #include <QScreen>
+#include <QScrollArea>
 #include <QTabWidget>
 
 #include <optional>
@@ -16,9 +17,12 @@ PaneWindow::PaneWindow(std::unique_ptr<platform::PreferencePane> pane)
 {
     QWidget* const view = mPane->loadMainView();
     mNaturalSize = view->size().expandedTo(view->sizeHint());
-    setFrameShape(QFrame::NoFrame);
-    setWidgetResizable(true);
-    setWidget(view);
+    auto* const scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setFocusPolicy(Qt::NoFocus); // it follows the focus of what is in it
+    scroll->setWidget(view);
+    setCentralWidget(scroll);
     setWindowTitle(view->windowTitle());
     resize(mNaturalSize.boundedTo(screen()->availableSize()));
 }
@@ -74,7 +78,7 @@ QStringList PaneWindow::render(const QString& folder)
     mPane->willSelect();
     ensurePolished();
     // A picture has room for all of it, unlike a screen.
-    resize(mNaturalSize.expandedTo(widget()->minimumSizeHint()));
+    resize(mNaturalSize.expandedTo(mPane->mainView()->minimumSizeHint()));
     if (!hasPages()) {
         save(QStringLiteral("noDevice"));
         return files;

@@ -4,7 +4,7 @@
 
 #include "PreferencePane.h"
 
-#include <QScrollArea>
+#include <QMainWindow>
 #include <QSize>
 
 #include <memory>
@@ -16,7 +16,7 @@ class QTabWidget;
  * main view loaded, will select, (shown,) did select; when it closes, will unselect, (hidden,) did
  * unselect.
  */
-class PaneWindow final : public QScrollArea {
+class PaneWindow final : public QMainWindow {
 public:
     explicit PaneWindow(std::unique_ptr<platform::PreferencePane> pane);
     ~PaneWindow() override;

@@ -17,10 +17,36 @@
     </message>
 </context>
 <context>
+    <name>QVCalibrateView</name>
+    <message>
+        <source>Cross 1 of 4, at the upper left.</source>
+        <translation>Kreuz 1 von 4, oben links.</translation>
+    </message>
+    <message>
+        <source>Cross 2 of 4, at the upper right.</source>
+        <translation>Kreuz 2 von 4, oben rechts.</translation>
+    </message>
+    <message>
+        <source>Cross 3 of 4, at the lower right.</source>
+        <translation>Kreuz 3 von 4, unten rechts.</translation>
+    </message>
+    <message>
+        <source>Cross 4 of 4, at the lower left.</source>
+        <translation>Kreuz 4 von 4, unten links.</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateWin</name>
     <message>
         <source>Calibration</source>
         <translation>Kalibrierung</translation>
+    </message>
+</context>
+<context>
+    <name>QVDrawView</name>
+    <message>
+        <source>Pressure %1 %</source>
+        <translation>Druck %1 %</translation>
     </message>
 </context>
 <context>
@@ -130,6 +156,28 @@
     </message>
 </context>
 <context>
+    <name>QVKeyView</name>
+    <message>
+        <source>There is no picture of this model.</source>
+        <translation>Von diesem Modell gibt es kein Bild.</translation>
+    </message>
+    <message>
+        <source>%1. Each key has the number of its list.</source>
+        <translation>%1. Jede Taste trägt die Nummer ihrer Liste.</translation>
+    </message>
+</context>
+<context>
+    <name>QVMonitorView</name>
+    <message>
+        <source>%1: %2 by %3 points, its upper left corner at %4, %5.</source>
+        <translation>%1: %2 mal %3 Punkte, die linke obere Ecke bei %4, %5.</translation>
+    </message>
+    <message>
+        <source>The tablet reaches %1.</source>
+        <translation>Das Tablett erreicht: %1.</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -173,6 +221,10 @@
     <message>
         <source>No pen in reach</source>
         <translation>Kein Stift in Reichweite</translation>
+    </message>
+    <message>
+        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <translation>Schwelle %1 von 200. Von dem, was Programme bei vollem Druck erhalten, erhalten sie bei einem Viertel davon %2 %, bei der Hälfte %3 % und bei drei Vierteln %4 %.</translation>
     </message>
 </context>
 <context>

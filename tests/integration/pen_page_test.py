@@ -120,13 +120,14 @@ class PenPage(Panel, desktop.Desktop):
         for _ in self.drag_slider():
             pass
         session.wait_for(
-            lambda: self.find("qvtblt", "Pressure, from light to heavy")["value"] == 2000,
+            lambda: self.find("qvtblt", "Pressure, from light to heavy", "slider")["value"] == 2000,
             "the slider's end", seconds=5)
 
     def test_the_keyboard_reaches_everything(self):
         self.xdotool("key", "alt+l")
         session.wait_for(
-            lambda: self.find("qvtblt", "Pressure, from light to heavy")["focused"], "the slider")
+            lambda: self.find("qvtblt", "Pressure, from light to heavy", "slider")["focused"],
+            "the slider")
         self.xdotool("key", "Home", "Right", "Page_Up")
         session.wait_for(lambda: self.record() and self.threshold() == 11, "eleven")
         self.xdotool("key", "alt+w")

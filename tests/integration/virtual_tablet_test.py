@@ -191,7 +191,8 @@ class VirtualTablet(Tablet, desktop.Desktop):
         self.open_tablet()
         things = [thing for thing in self.things(PROGRAM)
                   if thing["focusable"] and thing["showing"] and thing["role"] != "filler"]
-        self.assertEqual(len(things), 12)  # eight keys, the strip, the pen's two, the models
+        # Eight keys, the strip, the pen's two, the models, the surface.
+        self.assertEqual(len(things), 13)
         for thing in things:
             self.assertTrue(thing["name"] and (thing["description"] or thing["role"] != "combo box"))
         surface = self.find(PROGRAM, "Surface")

@@ -6,6 +6,8 @@ A process of its own, since the library can speak to one session in its life.
 
 Usage: accessible.py APPLICATION [--items]: with the items of lists, of which there are many
        accessible.py APPLICATION --press PATH...: presses the thing at that path instead
+       accessible.py APPLICATION --listen: prints a line for each thing that appears or says of
+           itself something new, until it is ended
 """
 
 import json
@@ -28,6 +30,7 @@ def describe(thing, path, found):
             "name": thing.get_name(),
             "role": thing.get_role_name(),
             "description": thing.get_description(),
+            "labels": labels(thing),
             "path": path,
             "showing": states.contains(Atspi.StateType.SHOWING),
             "enabled": states.contains(Atspi.StateType.ENABLED),
@@ -50,6 +53,13 @@ def describe(thing, path, found):
         pass  # the thing went away while it was looked at
 
 
+def labels(thing):
+    """The names of what labels the thing."""
+    return [relation.get_target(i).get_name() for relation in thing.get_relation_set()
+            if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
+            for i in range(relation.get_n_targets())]
+
+
 def press(path):
     """Does what a click on the thing would do."""
     thing = Atspi.get_desktop(0)
@@ -60,8 +70,39 @@ def press(path):
     action.do_action(names.index("Press"))
 
 
+EVENTS = ("object:state-changed:showing", "object:property-change:accessible-description",
+          "object:property-change:accessible-name")
+
+
+def listen(name):
+    """Prints what is told, as one JSON object a line."""
+    def take(event, *_):
+        try:
+            application = event.source.get_application()
+            if application is None or application.get_name() != name:
+                return
+            print(json.dumps({
+                "event": event.type,
+                "role": event.source.get_role_name(),
+                "name": event.source.get_name(),
+                "description": event.source.get_description(),
+                "on": event.detail1,
+            }), flush=True)
+        except GLib.Error:
+            pass  # the thing has gone already
+
+    listener = Atspi.EventListener.new(take, None)
+    for event in EVENTS:
+        listener.register(event)
+    print("listening", flush=True)
+    Atspi.event_main()
+
+
 def main():
     Atspi.init()
+    if "--listen" in sys.argv:
+        listen(sys.argv[1])
+        return
     if "--press" in sys.argv:
         press([int(word) for word in sys.argv[3:]])
         return

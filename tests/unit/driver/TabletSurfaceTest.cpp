@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "TabletSurface.h"
 
+#include "Contrast.h"
+
 #include <QImage>
 #include <QMouseEvent>
 #include <QTest>
@@ -181,7 +183,6 @@ TEST_F(Surface, drawsPenAndFrameInTheColoursOfTheTheme)
     QPalette palette;
     palette.setColor(QPalette::Base, QColor(20, 20, 30));
     palette.setColor(QPalette::Text, QColor(250, 250, 250));
-    palette.setColor(QPalette::Highlight, QColor(255, 0, 0));
     mSurface.setPalette(palette);
     mSurface.clearFocus();
     mSurface.setMapped(QVTabletArea{2000, 8000, 2000, 8000});
@@ -200,4 +201,47 @@ TEST_F(Surface, drawsPenAndFrameInTheColoursOfTheTheme)
     QTest::keyPress(&mSurface, Qt::Key_Space);
     image = mSurface.grab().toImage();
     EXPECT_EQ(colorAt(image, 156, 50), QColor(250, 250, 250));
+}
+
+TEST_F(Surface, drawsLinesThatStandApartInEveryTheme)
+{
+    mSurface.setMapped(QVTabletArea{2000, 8000, 2000, 8000});
+    mSurface.showPen({15000, 5000});
+    for (const Theme& theme : kThemes) {
+        SCOPED_TRACE(theme.name);
+        mSurface.setPalette(theme.palette());
+        mSurface.setFocus();
+        const QImage image = mSurface.grab().toImage();
+        const double density = image.devicePixelRatio();
+        const auto contrast = [&image, density](double x1, double y1, double x2, double y2) {
+            const auto at = [&image, density](double x, double y) {
+                return image.pixelColor(
+                    static_cast<int>(x * density), static_cast<int>(y * density));
+            };
+            return contrastRatio(at(x1, y1), at(x2, y2));
+        };
+        EXPECT_GE(contrast(100, 3.5, 100, 8), kGraphicsContrast) << "the tablet's edge";
+        EXPECT_GE(contrast(24, 60, 12, 60), kGraphicsContrast) << "the frame, from outside";
+        EXPECT_GE(contrast(24, 60, 40, 60), kGraphicsContrast) << "and from inside";
+        EXPECT_GE(contrast(153.5, 20, 160, 20), kGraphicsContrast) << "the cross";
+        EXPECT_GE(contrast(153.5, 47, 160, 20), kGraphicsContrast) << "the ring";
+        mSurface.clearFocus();
+        const QImage without = mSurface.grab().toImage();
+        const int edge = static_cast<int>(1.5 * density);
+        EXPECT_GE(contrastRatio(image.pixelColor(image.width() / 2, edge),
+                      without.pixelColor(image.width() / 2, edge)),
+            kGraphicsContrast)
+            << "the focus";
+    }
+}
+
+TEST_F(Surface, saysInWordsWhereThePenIs)
+{
+    QAccessibleInterface& interface = *QAccessible::queryAccessibleInterface(&mSurface);
+    EXPECT_EQ(interface.role(), QAccessible::Canvas);
+    mSurface.showPen({15000, 5000});
+    const auto words = [&interface] { return interface.text(QAccessible::Description); };
+    EXPECT_TRUE(words().endsWith(QStringLiteral(" The pen is up at 15000, 5000.")));
+    QTest::keyPress(&mSurface, Qt::Key_Space);
+    EXPECT_TRUE(words().endsWith(QStringLiteral(" The pen is down at 15000, 5000.")));
 }

@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Accessible.h"
+
+#include <QAccessibleWidget>
+#include <QTimerEvent>
+
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+constexpr int kPause = 500; ///< milliseconds between two messages
+
+/** Of a widget that is just being destroyed, Accessible has gone already. */
+const Accessible* accessibleOf(const QWidget* widget)
+{
+    return dynamic_cast<const Accessible*>(widget);
+}
+
+class Interface final : public QAccessibleWidget {
+public:
+    Interface(QWidget* widget, QAccessible::Role role)
+        : QAccessibleWidget(widget, role)
+    {
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        const Accessible* const accessible = accessibleOf(widget());
+        const QString usual = QAccessibleWidget::text(kind);
+        if (accessible == nullptr) {
+            return usual;
+        }
+        if (kind == QAccessible::Name) {
+            const QString name = accessible->spokenName();
+            return name.isEmpty() ? usual : name;
+        }
+        if (kind == QAccessible::Description) {
+            const QString contents = accessible->spokenContents();
+            return usual.isEmpty() || contents.isEmpty() ? usual + contents
+                                                         : usual + u' ' + contents;
+        }
+        return usual;
+    }
+};
+
+QAccessibleInterface* makeInterface(const QString& className, QObject* object)
+{
+    static_cast<void>(className);
+    auto* const widget = qobject_cast<QWidget*>(object);
+    const Accessible* const accessible = accessibleOf(widget);
+    return accessible == nullptr ? nullptr : new Interface(widget, accessible->role());
+}
+
+} // namespace
+
+/**
+ * Qt asks makeInterface() for as long as there are widgets to be asked for. A module must not leave
+ * it behind in its host.
+ */
+class AccessibleFactory {
+public:
+    AccessibleFactory() { QAccessible::installFactory(makeInterface); }
+    ~AccessibleFactory() { QAccessible::removeFactory(makeInterface); }
+    AccessibleFactory(const AccessibleFactory&) = delete;
+    AccessibleFactory& operator=(const AccessibleFactory&) = delete;
+    AccessibleFactory(AccessibleFactory&&) = delete;
+    AccessibleFactory& operator=(AccessibleFactory&&) = delete;
+
+    static std::shared_ptr<AccessibleFactory> shared()
+    {
+        static std::weak_ptr<AccessibleFactory> present;
+        std::shared_ptr<AccessibleFactory> factory = present.lock();
+        if (!factory) {
+            factory = std::make_shared<AccessibleFactory>();
+            present = factory;
+        }
+        return factory;
+    }
+};
+
+/** Tells listeners of new words when the pause since the last message is over. */
+class Accessible::Notice final : public QObject {
+public:
+    explicit Notice(const Accessible& accessible)
+        : mAccessible(accessible)
+    {
+    }
+
+    void request()
+    {
+        if (!mTimer.isActive()) {
+            mTimer.start(kPause, this);
+        }
+    }
+
+protected:
+    void timerEvent(QTimerEvent* event) override
+    {
+        if (event->timerId() != mTimer.timerId()) {
+            return;
+        }
+        mTimer.stop();
+        tell(mName, mAccessible.spokenName(), QAccessible::NameChanged);
+        tell(mContents, mAccessible.spokenContents(), QAccessible::DescriptionChanged);
+    }
+
+private:
+    void tell(QString& last, const QString& words, QAccessible::Event what)
+    {
+        if (std::exchange(last, words) != words) {
+            QAccessibleEvent event(&mAccessible.mWidget, what);
+            QAccessible::updateAccessibility(&event);
+        }
+    }
+
+    const Accessible& mAccessible;
+    QBasicTimer mTimer;
+    QString mName;
+    QString mContents;
+};
+
+Accessible::Accessible(QWidget& widget, QAccessible::Role role)
+    : mWidget(widget)
+    , mRole(role)
+    , mFactory(AccessibleFactory::shared())
+{
+}
+
+Accessible::~Accessible() = default;
+
+QString Accessible::spokenName() const
+{
+    return {};
+}
+
+QString Accessible::spokenContents() const
+{
+    return {};
+}
+
+void Accessible::contentsChanged()
+{
+    if (!QAccessible::isActive()) {
+        return;
+    }
+    if (mNotice == nullptr) {
+        mNotice = std::make_unique<Notice>(*this);
+    }
+    mNotice->request();
+}
+
+LiveLabel::LiveLabel(QWidget* parent)
+    : QLabel(parent)
+    , Accessible(static_cast<QWidget&>(*this), QAccessible::StaticText)
+{
+    // A label that has a name of its own doesn't tell of each new text.
+    setAccessibleName(QStringLiteral(" "));
+}
+
+void LiveLabel::paintEvent(QPaintEvent* event)
+{
+    QLabel::paintEvent(event);
+    contentsChanged(); // a new text is always painted
+}
+
+NoticeLabel::NoticeLabel(QWidget* parent)
+    : QLabel(parent)
+    , Accessible(static_cast<QWidget&>(*this), QAccessible::Notification)
+{
+}
+
+} // namespace platform
