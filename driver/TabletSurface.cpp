@@ -94,8 +94,7 @@ QRectF TabletSurface::surface() const
 
 QString TabletSurface::spokenContents() const
 {
-    return QStringLiteral("The pen is %1 at %2, %3.")
-        .arg(isPenDown() ? QStringLiteral("down") : QStringLiteral("up"))
+    return (isPenDown() ? tr("The pen is down at %1, %2.") : tr("The pen is up at %1, %2."))
         .arg(mPen.x)
         .arg(mPen.y);
 }

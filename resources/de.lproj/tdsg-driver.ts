@@ -70,6 +70,14 @@
         <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
         <translation>Die Fläche des Tabletts. Die Maus hier drücken, um sie mit dem Stift zu berühren. Die Pfeiltasten bewegen den Stift, mit Umschalt in großen Schritten; die Leertaste hält ihn unten.</translation>
     </message>
+    <message>
+        <source>The pen is down at %1, %2.</source>
+        <translation>Der Stift ist unten bei %1, %2.</translation>
+    </message>
+    <message>
+        <source>The pen is up at %1, %2.</source>
+        <translation>Der Stift ist oben bei %1, %2.</translation>
+    </message>
 </context>
 <context>
     <name>TabletWindow</name>

@@ -17,10 +17,36 @@
     </message>
 </context>
 <context>
+    <name>QVCalibrateView</name>
+    <message>
+        <source>Cross 1 of 4, at the upper left.</source>
+        <translation>Cruz 1 de 4, arriba a la izquierda.</translation>
+    </message>
+    <message>
+        <source>Cross 2 of 4, at the upper right.</source>
+        <translation>Cruz 2 de 4, arriba a la derecha.</translation>
+    </message>
+    <message>
+        <source>Cross 3 of 4, at the lower right.</source>
+        <translation>Cruz 3 de 4, abajo a la derecha.</translation>
+    </message>
+    <message>
+        <source>Cross 4 of 4, at the lower left.</source>
+        <translation>Cruz 4 de 4, abajo a la izquierda.</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateWin</name>
     <message>
         <source>Calibration</source>
         <translation>Calibración</translation>
+    </message>
+</context>
+<context>
+    <name>QVDrawView</name>
+    <message>
+        <source>Pressure %1 %</source>
+        <translation>Presión %1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -130,6 +156,28 @@
     </message>
 </context>
 <context>
+    <name>QVKeyView</name>
+    <message>
+        <source>There is no picture of this model.</source>
+        <translation>No hay ninguna imagen de este modelo.</translation>
+    </message>
+    <message>
+        <source>%1. Each key has the number of its list.</source>
+        <translation>%1. Cada tecla lleva el número de su lista.</translation>
+    </message>
+</context>
+<context>
+    <name>QVMonitorView</name>
+    <message>
+        <source>%1: %2 by %3 points, its upper left corner at %4, %5.</source>
+        <translation>%1: %2 por %3 puntos, con la esquina superior izquierda en %4, %5.</translation>
+    </message>
+    <message>
+        <source>The tablet reaches %1.</source>
+        <translation>La tableta abarca: %1.</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -173,6 +221,10 @@
     <message>
         <source>No pen in reach</source>
         <translation>Ningún lápiz al alcance</translation>
+    </message>
+    <message>
+        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <translation>Umbral %1 de 200. De lo que los programas reciben con la presión máxima, reciben %2&#xa0;% a un cuarto de ella, %3&#xa0;% a la mitad y %4&#xa0;% a tres cuartos.</translation>
     </message>
 </context>
 <context>

@@ -70,6 +70,14 @@
         <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
         <translation>La superficie de la tableta. Pulse aquí con el ratón para tocarla con el lápiz. Las teclas de flecha mueven el lápiz, con Mayús a grandes pasos; la barra espaciadora lo mantiene apretado.</translation>
     </message>
+    <message>
+        <source>The pen is down at %1, %2.</source>
+        <translation>El lápiz está apoyado en %1, %2.</translation>
+    </message>
+    <message>
+        <source>The pen is up at %1, %2.</source>
+        <translation>El lápiz está levantado en %1, %2.</translation>
+    </message>
 </context>
 <context>
     <name>TabletWindow</name>

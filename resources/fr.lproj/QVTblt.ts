@@ -17,10 +17,36 @@
     </message>
 </context>
 <context>
+    <name>QVCalibrateView</name>
+    <message>
+        <source>Cross 1 of 4, at the upper left.</source>
+        <translation>Croix 1 sur 4, en haut à gauche.</translation>
+    </message>
+    <message>
+        <source>Cross 2 of 4, at the upper right.</source>
+        <translation>Croix 2 sur 4, en haut à droite.</translation>
+    </message>
+    <message>
+        <source>Cross 3 of 4, at the lower right.</source>
+        <translation>Croix 3 sur 4, en bas à droite.</translation>
+    </message>
+    <message>
+        <source>Cross 4 of 4, at the lower left.</source>
+        <translation>Croix 4 sur 4, en bas à gauche.</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateWin</name>
     <message>
         <source>Calibration</source>
         <translation>Calibrage</translation>
+    </message>
+</context>
+<context>
+    <name>QVDrawView</name>
+    <message>
+        <source>Pressure %1 %</source>
+        <translation>Pression %1&#xa0;%</translation>
     </message>
 </context>
 <context>
@@ -130,6 +156,28 @@
     </message>
 </context>
 <context>
+    <name>QVKeyView</name>
+    <message>
+        <source>There is no picture of this model.</source>
+        <translation>Il n’y a pas d’image de ce modèle.</translation>
+    </message>
+    <message>
+        <source>%1. Each key has the number of its list.</source>
+        <translation>%1. Chaque touche porte le numéro de sa liste.</translation>
+    </message>
+</context>
+<context>
+    <name>QVMonitorView</name>
+    <message>
+        <source>%1: %2 by %3 points, its upper left corner at %4, %5.</source>
+        <translation>%1&#xa0;: %2 sur %3 points, coin supérieur gauche à %4, %5.</translation>
+    </message>
+    <message>
+        <source>The tablet reaches %1.</source>
+        <translation>La tablette couvre&#xa0;: %1.</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -173,6 +221,10 @@
     <message>
         <source>No pen in reach</source>
         <translation>Aucun stylet à portée</translation>
+    </message>
+    <message>
+        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <translation>Seuil %1 sur 200. De ce que les programmes reçoivent à la pression maximale, ils reçoivent %2&#xa0;% à un quart de celle-ci, %3&#xa0;% à la moitié et %4&#xa0;% aux trois quarts.</translation>
     </message>
 </context>
 <context>

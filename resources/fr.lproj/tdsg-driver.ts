@@ -70,6 +70,14 @@
         <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
         <translation>La surface de la tablette. Appuyez ici avec la souris pour la toucher avec le stylet. Les touches fléchées déplacent le stylet, avec Maj par grands pas&#xa0;; la barre d’espace le maintient appuyé.</translation>
     </message>
+    <message>
+        <source>The pen is down at %1, %2.</source>
+        <translation>Le stylet est posé en %1, %2.</translation>
+    </message>
+    <message>
+        <source>The pen is up at %1, %2.</source>
+        <translation>Le stylet est levé en %1, %2.</translation>
+    </message>
 </context>
 <context>
     <name>TabletWindow</name>

@@ -17,10 +17,36 @@
     </message>
 </context>
 <context>
+    <name>QVCalibrateView</name>
+    <message>
+        <source>Cross 1 of 4, at the upper left.</source>
+        <translation>4 つのうち 1 番目の十字、左上です。</translation>
+    </message>
+    <message>
+        <source>Cross 2 of 4, at the upper right.</source>
+        <translation>4 つのうち 2 番目の十字、右上です。</translation>
+    </message>
+    <message>
+        <source>Cross 3 of 4, at the lower right.</source>
+        <translation>4 つのうち 3 番目の十字、右下です。</translation>
+    </message>
+    <message>
+        <source>Cross 4 of 4, at the lower left.</source>
+        <translation>4 つのうち 4 番目の十字、左下です。</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateWin</name>
     <message>
         <source>Calibration</source>
         <translation>キャリブレーション</translation>
+    </message>
+</context>
+<context>
+    <name>QVDrawView</name>
+    <message>
+        <source>Pressure %1 %</source>
+        <translation>筆圧 %1%</translation>
     </message>
 </context>
 <context>
@@ -130,6 +156,28 @@
     </message>
 </context>
 <context>
+    <name>QVKeyView</name>
+    <message>
+        <source>There is no picture of this model.</source>
+        <translation>このモデルの図はありません。</translation>
+    </message>
+    <message>
+        <source>%1. Each key has the number of its list.</source>
+        <translation>%1。各キーには、対応するリストの番号が付いています。</translation>
+    </message>
+</context>
+<context>
+    <name>QVMonitorView</name>
+    <message>
+        <source>%1: %2 by %3 points, its upper left corner at %4, %5.</source>
+        <translation>%1: %2 × %3 ポイント、左上の位置は %4, %5 です。</translation>
+    </message>
+    <message>
+        <source>The tablet reaches %1.</source>
+        <translation>タブレットの対応範囲は %1 です。</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -173,6 +221,10 @@
     <message>
         <source>No pen in reach</source>
         <translation>ペンが検出範囲にありません</translation>
+    </message>
+    <message>
+        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <translation>しきい値は 200 のうち %1 です。最大筆圧でプログラムが受け取る値に対して、4 分の 1 の筆圧では %2%、半分では %3%、4 分の 3 では %4% を受け取ります。</translation>
     </message>
 </context>
 <context>

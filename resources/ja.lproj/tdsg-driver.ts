@@ -70,6 +70,14 @@
         <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
         <translation>タブレットの操作面です。ここでマウスのボタンを押すと、ペンで触れたことになります。矢印キーでペンを動かし、Shift を押しながらだと大きく動きます。スペースバーを押している間、ペンは触れたままになります。</translation>
     </message>
+    <message>
+        <source>The pen is down at %1, %2.</source>
+        <translation>ペンは %1, %2 で下りています。</translation>
+    </message>
+    <message>
+        <source>The pen is up at %1, %2.</source>
+        <translation>ペンは %1, %2 で上がっています。</translation>
+    </message>
 </context>
 <context>
     <name>TabletWindow</name>

@@ -17,10 +17,36 @@
     </message>
 </context>
 <context>
+    <name>QVCalibrateView</name>
+    <message>
+        <source>Cross 1 of 4, at the upper left.</source>
+        <translation>第 1 个十字（共 4 个），位于左上角。</translation>
+    </message>
+    <message>
+        <source>Cross 2 of 4, at the upper right.</source>
+        <translation>第 2 个十字（共 4 个），位于右上角。</translation>
+    </message>
+    <message>
+        <source>Cross 3 of 4, at the lower right.</source>
+        <translation>第 3 个十字（共 4 个），位于右下角。</translation>
+    </message>
+    <message>
+        <source>Cross 4 of 4, at the lower left.</source>
+        <translation>第 4 个十字（共 4 个），位于左下角。</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateWin</name>
     <message>
         <source>Calibration</source>
         <translation>校准</translation>
+    </message>
+</context>
+<context>
+    <name>QVDrawView</name>
+    <message>
+        <source>Pressure %1 %</source>
+        <translation>压力 %1%</translation>
     </message>
 </context>
 <context>
@@ -130,6 +156,28 @@
     </message>
 </context>
 <context>
+    <name>QVKeyView</name>
+    <message>
+        <source>There is no picture of this model.</source>
+        <translation>没有此型号的示意图。</translation>
+    </message>
+    <message>
+        <source>%1. Each key has the number of its list.</source>
+        <translation>%1。每个按键都标有其列表的编号。</translation>
+    </message>
+</context>
+<context>
+    <name>QVMonitorView</name>
+    <message>
+        <source>%1: %2 by %3 points, its upper left corner at %4, %5.</source>
+        <translation>%1：%2 × %3 点，左上角位于 %4, %5。</translation>
+    </message>
+    <message>
+        <source>The tablet reaches %1.</source>
+        <translation>数位板的映射区域：%1。</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -173,6 +221,10 @@
     <message>
         <source>No pen in reach</source>
         <translation>感应范围内没有笔</translation>
+    </message>
+    <message>
+        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <translation>阈值 %1，共 200。与压力最大时程序收到的值相比，压力为四分之一时收到 %2%，一半时收到 %3%，四分之三时收到 %4%。</translation>
     </message>
 </context>
 <context>

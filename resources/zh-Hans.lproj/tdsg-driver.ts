@@ -70,6 +70,14 @@
         <source>The tablet&apos;s surface. Press the mouse here to touch it with the pen. The arrow keys move the pen, with Shift in large steps; the space bar holds it down.</source>
         <translation>数位板的板面。在此处按下鼠标即相当于用笔接触。方向键移动笔，按住 Shift 时大步移动；按住空格键则笔保持按下。</translation>
     </message>
+    <message>
+        <source>The pen is down at %1, %2.</source>
+        <translation>笔已按下，位于 %1, %2。</translation>
+    </message>
+    <message>
+        <source>The pen is up at %1, %2.</source>
+        <translation>笔已抬起，位于 %1, %2。</translation>
+    </message>
 </context>
 <context>
     <name>TabletWindow</name>
