@@ -38,6 +38,12 @@ void QVNSView::tabletPoint(const platform::Event& event)
     qCInfo(lcPen, "mouse tabletPoint..............");
 }
 
+void QVNSView::resizeEvent(QResizeEvent* event)
+{
+    QWidget::resizeEvent(event);
+    Q_EMIT resized();
+}
+
 void QVNSView::tabletEvent(QTabletEvent* event)
 {
     event->ignore(); // so that Qt makes a mouse event of it

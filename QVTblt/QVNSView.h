@@ -33,7 +33,12 @@ public:
     /** Leaves a line in the log. */
     void tabletPoint(const platform::Event& event);
 
+Q_SIGNALS:
+    /** The host has given the view another size. */
+    void resized();
+
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     /** What the pen does on other controls is theirs; that it presses otherwise comes through here.
      */
     void tabletEvent(QTabletEvent* event) override;

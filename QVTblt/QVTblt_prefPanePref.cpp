@@ -38,6 +38,7 @@ QWidget* QVTblt_prefPanePref::makeMainView()
     auto view = std::make_unique<QVNSView>();
     setupUi(view.get());
     mNoDevTitleX = platform::frame(*NoDevTitle).x;
+    connect(view.get(), &QVNSView::resized, this, &QVTblt_prefPanePref::placeNoDevice);
     setUpKeyPage();
     setUpPenPage();
     setUpDisplayPage();
@@ -151,21 +152,22 @@ void QVTblt_prefPanePref::showNoDevice()
         QStringLiteral("NoDevice"), QString(), QStringLiteral("InfoPlist")));
     platform::sizeToFit(*NoDevTitle);
     mNoDevTitleX = frame.x;
-    if (NoDevTitle->isRightToLeft()) {
-        frame = platform::frame(*NoDevTitle);
-        frame.x = NoDevTitle->parentWidget()->width() - (frame.x + frame.width);
-        platform::setFrame(*NoDevTitle, frame);
-    }
-    placeNoDeviceHelp();
+    placeNoDevice();
 }
 
-void QVTblt_prefPanePref::placeNoDeviceHelp()
+void QVTblt_prefPanePref::placeNoDevice()
 {
-    // Under the label, but never out of sight, where that may have gone.
+    if (NoDevTitle->isHidden()) {
+        return;
+    }
+    // The label keeps its distance from the side where lines begin. The help is under it, but never
+    // out of sight, where that may have gone.
     constexpr double kMargin = 12;
     constexpr double kGap = 8;
     const QWidget& view = *NoDevHelp->parentWidget();
     platform::Rect place = platform::frame(*NoDevTitle);
+    place.x = view.isRightToLeft() ? view.width() - (mNoDevTitleX + place.width) : mNoDevTitleX;
+    platform::setFrame(*NoDevTitle, place);
     place.width = view.width() - 2 * kMargin;
     place.height = NoDevHelp->heightForWidth(static_cast<int>(place.width));
     place.x = kMargin;

@@ -90,7 +90,7 @@ private:
 
     void showModel();
     void showNoDevice();
-    void placeNoDeviceHelp();
+    void placeNoDevice();
     void writeFile();
     void showNotice();
     void followDriver();

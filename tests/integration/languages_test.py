@@ -52,14 +52,14 @@ class Translations(unittest.TestCase):
             subprocess.run([RESOURCES / "update-translations", folder], check=True)
             cls.texts = {file.stem: set(messages(file)) for file in fresh.glob("*.ts")}
 
-    def each(self):
-        """All translations: their language, what they translate, and their element."""
+    def for_each(self, check):
+        """Calls a check with each translation: its language, what it translates, and its element."""
         for language in LANGUAGES:
             for name in self.texts:
                 path = RESOURCES / f"{language}.lproj/{name}.ts"
                 for key, translation in messages(path).items():
                     with self.subTest(language=language, source=key[1]):
-                        yield language, key[1], translation
+                        check(language, key[1], translation)
 
     def test_the_six_languages_are_there(self):
         self.assertEqual(FOLDERS, ["de", "en", "es", "fr", "ja", "zh-Hans"])
@@ -75,29 +75,33 @@ class Translations(unittest.TestCase):
                     self.assertEqual(set(messages(path)), texts)
 
     def test_each_text_is_translated(self):
-        for _, _, translation in self.each():
+        def check(_, __, translation):
             self.assertIsNone(translation.get("type"))
             self.assertTrue((translation.text or "").strip())
+        self.for_each(check)
 
     def test_place_holders_line_ends_and_dots_agree(self):
-        for _, source, translation in self.each():
+        def check(_, source, translation):
             text = translation.text
             self.assertEqual(place_holders(source), place_holders(text))
             self.assertEqual(source.count("\n"), text.count("\n"))
             self.assertEqual(source.endswith("…"), text.endswith("…"))
             self.assertEqual(source.endswith(":"), text.endswith((":", "：")))
             self.assertEqual(text, text.strip())
+        self.for_each(check)
 
     def test_what_has_a_letter_for_the_keyboard_has_one_in_each_language(self):
-        count = 0
-        for language, source, translation in self.each():
+        found = []
+
+        def check(language, source, translation):
             letters = MARK.findall(translation.text)
             self.assertEqual(len(letters), len(MARK.findall(source)))
-            count += len(letters)
+            found.extend(letters)
             if letters and language in ("ja", "zh-Hans"):
                 # Their own letters are not on the keyboard, so one stands behind the text.
                 self.assertRegex(translation.text, IN_BRACKETS)
-        self.assertGreater(count, 20 * len(LANGUAGES))
+        self.for_each(check)
+        self.assertGreater(len(found), 20 * len(LANGUAGES))
 
     def test_each_string_table_has_all_keys(self):
         english = table("en")

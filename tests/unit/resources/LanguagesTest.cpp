@@ -72,6 +72,7 @@ protected:
     void SetUp() override
     {
         PaneTest::SetUp();
+        mInterfaceFile = mWindow->size();
         mArea.setFrameShape(QFrame::NoFrame);
         mArea.setWidgetResizable(true);
         mArea.setWidget(mWindow.get());
@@ -80,7 +81,7 @@ protected:
     void show()
     {
         mPane.willSelect();
-        mArea.resize(mWindow->size().expandedTo(mWindow->sizeHint()));
+        mArea.resize(mInterfaceFile.expandedTo(mWindow->sizeHint()));
         mArea.show();
         mPane.didSelect();
         settle();
@@ -127,6 +128,7 @@ protected:
 
     QVKeySetClass& keyDialog() { return *mWindow->window()->findChild<QVKeySetClass*>(); }
 
+    QSize mInterfaceFile; ///< the main view's size there
     QScrollArea mArea;
 };
 
@@ -345,6 +347,17 @@ TEST_P(Language, hasRoomForAllItsTexts)
 {
     show();
     atEveryPage([this] { expectAllFits(*mWindow); });
+}
+
+TEST_P(Language, needsNoMoreRoomThanTheInterfaceFileHas)
+{
+    show();
+    if (std::get<1>(GetParam()) == kUsualText) {
+        const QSize least = mWindow->minimumSizeHint();
+        EXPECT_LE(least.width(), mInterfaceFile.width());
+        EXPECT_LE(least.height(), mInterfaceFile.height());
+        EXPECT_EQ(mWindow->size(), mInterfaceFile);
+    }
 }
 
 TEST_P(Language, hasRoomForItsTextsInTheLayoutOfEveryModel)
