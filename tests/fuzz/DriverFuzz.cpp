@@ -118,11 +118,11 @@ void look(TabletWindow& window)
     const auto buttons = window.findChildren<QToolButton*>();
     for (QToolButton* const button : buttons) {
         button->click();
+        QCoreApplication::sendPostedEvents(); // lays out what it tells
     }
-    constexpr int kLargest = 4096;
-    require(
-        window.width() <= kLargest && window.height() <= kLargest, "the window fits on a screen");
-    static QImage picture(kLargest, kLargest, QImage::Format_ARGB32_Premultiplied);
+    constexpr QSize kScreen{1280, 1024};
+    require(window.size().boundedTo(kScreen) == window.size(), "the window fits on a screen");
+    static QImage picture(kScreen, QImage::Format_ARGB32_Premultiplied);
     window.render(&picture);
 }
 

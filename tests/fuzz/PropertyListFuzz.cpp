@@ -49,6 +49,9 @@ void requireOnlyFieldsDiffer(const tagQVTabletInfo& before, const tagQVTabletInf
         std::size_t size = 2;
         if (field.type == QVFieldType::String) {
             size = kQVStringSize;
+            require(QVFieldString(field, reinterpret_cast<const std::byte*>(&other) + base).size()
+                    < kQVStringSize,
+                "a string ends within its field");
         } else if (field.type == QVFieldType::UInt32) {
             size = 4;
         } else if (field.type == QVFieldType::Boolean) {
