@@ -96,11 +96,11 @@ void appendReport(DBusMessageIter& to, Input& input)
     appendBytes(to, report);
 }
 
-void appendManyItems(DBusMessageIter& to, Input& input)
+void appendEmptyItems(DBusMessageIter& to, Input& input)
 {
     Container variant(to, DBUS_TYPE_VARIANT, "a(uv)");
     Container array(variant.iter(), DBUS_TYPE_ARRAY, "(uv)");
-    for (int count = input.word() % (2 * static_cast<int>(wire::kMaxItems)); count > 0; --count) {
+    for (int count = input.byte(); count > 0; --count) {
         Container item(array.iter(), DBUS_TYPE_STRUCT, nullptr);
         appendCode(item.iter(), 0);
         appendBytes(item.iter(), {});
@@ -165,7 +165,7 @@ void appendDesc(DBusMessageIter& to, Input& input, int depth)
         appendReport(desc.iter(), input);
         break;
     case 5:
-        appendManyItems(desc.iter(), input);
+        appendEmptyItems(desc.iter(), input);
         break;
     default:
         appendStrange(desc.iter(), input);

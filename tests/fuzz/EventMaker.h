@@ -19,7 +19,7 @@
  * - 2: a record; as a parameter list
  * - 3: the bytes of a settings record; a word for the number of those that follow, the rest is 0
  * - 4: a pen report; a byte for its key, words for its place
- * - 5: so many empty items as the number in the next word
+ * - 5: a list of empty items; a byte for their number
  * - anything else: something of a type that no descriptor has
  *
  * Words are little-endian, and behind the end of the input everything is 0.
