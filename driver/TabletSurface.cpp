@@ -101,8 +101,12 @@ QString TabletSurface::spokenContents() const
 
 QSize TabletSurface::sizeHint() const
 {
-    constexpr int kWidth = 480;
-    return {kWidth, kWidth * (mRange.ymax - mRange.ymin) / std::max(mRange.xmax - mRange.xmin, 1)};
+    // Whatever settings say of a tablet, its window has to fit on a screen.
+    constexpr QSize kLargest{480, 480};
+    constexpr QSize kSmallest{60, 60};
+    const QSize range(
+        std::max(mRange.xmax - mRange.xmin, 1), std::max(mRange.ymax - mRange.ymin, 1));
+    return range.scaled(kLargest, Qt::KeepAspectRatio).expandedTo(kSmallest);
 }
 
 QSize TabletSurface::minimumSizeHint() const

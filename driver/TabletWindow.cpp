@@ -58,6 +58,7 @@ QLabel* valueLabel(QFormLayout& form, const QString& name)
 {
     auto* const value = new Label;
     value->setWordWrap(true);
+    value->setMinimumWidth(1); // a path may have no place to wrap, and must not widen the window
     form.addRow(name, value);
     return value;
 }

@@ -376,7 +376,12 @@ std::optional<PropertyList> PropertyList::parse(std::string_view bytes, Property
         error.message = "its root is no dictionary";
         return std::nullopt;
     }
-    return PropertyList(std::move(root));
+    PropertyList list(std::move(root));
+    // The binary form can say what XML cannot, as a key twice. So it is read as it would be
+    // written, and no save can change it.
+    return plist_is_binary(bytes.data(), static_cast<std::uint32_t>(bytes.size())) != 0
+        ? parse(list.toXml(), error)
+        : std::optional(std::move(list));
 }
 
 std::optional<PropertyList> PropertyList::load(const std::string& path, PropertyListError& error)

@@ -124,7 +124,7 @@ public:
      */
     static std::optional<PropertyList> load(const std::string& path, PropertyListError& error);
 
-    /** The same from bytes in memory. */
+    /** The same from bytes in memory. In the binary form, a list has to be as small in XML too. */
     static std::optional<PropertyList> parse(std::string_view bytes, PropertyListError& error);
 
     Dictionary root() const { return Dictionary(mRoot.get()); }

@@ -222,6 +222,17 @@ class VirtualTablet(Tablet, desktop.Desktop):
             self.click(self.find(PROGRAM, name))
             self.wait_for_label(f"{name}: {does}")
 
+    def test_a_long_path_leaves_the_window_as_wide_as_it_is(self):
+        self.open_tablet()
+        width = self.find(PROGRAM, "Virtual tablet: Quorvia Draft S")["width"]
+        path = 255 * "W"
+        self.ctl("set", "Key/Key2/App", path)
+        self.ctl("set", "Key/Key2/Valid", "2")
+        for name, does in (("Key 3", f"Open {path}"), ("Key 4", "No action")):
+            self.click(self.find(PROGRAM, name))
+            self.wait_for_label(f"{name}: {does}")
+        self.assertEqual(self.find(PROGRAM, "Virtual tablet: Quorvia Draft S")["width"], width)
+
     def test_reports_a_press_a_drag_and_a_lift(self):
         self.open_tablet()
         panel = self.start_panel()

@@ -76,6 +76,18 @@ TEST_F(Surface, thePenFollowsTheMouseAndTouchesWhileItIsPressed)
     EXPECT_EQ(told(), (Words{"down 5000 5000", "to 10000 2000", "up"}));
 }
 
+TEST_F(Surface, asksForNoMoreThanASquareWhateverItsProportions)
+{
+    EXPECT_EQ(mSurface.sizeHint(), QSize(480, 240));
+    EXPECT_EQ(mSurface.minimumSizeHint(), QSize(160, 80));
+    for (const QVTabletArea& range : {QVTabletArea{0, 1, 0, 65535}, {0, 65535, 0, 1}}) {
+        mSurface.setRange(range);
+        const QSize size = mSurface.sizeHint();
+        EXPECT_EQ(size.boundedTo({480, 480}), size) << size.width() << ' ' << size.height();
+        EXPECT_EQ(size.expandedTo({60, 60}), size) << size.width() << ' ' << size.height();
+    }
+}
+
 TEST_F(Surface, aDragBeyondTheEdgeSlidesAlongIt)
 {
     QTest::mousePress(&mSurface, Qt::LeftButton, {}, {103, 53});

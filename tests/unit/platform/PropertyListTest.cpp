@@ -266,6 +266,31 @@ TEST(PropertyList, aBinaryFileWithAnyByteChangedDoesNoHarm)
     }
 }
 
+TEST(PropertyList, aBinaryFileWithAKeyTwiceIsReadAsItIsWritten)
+{
+    std::string bytes = toBinary(plist("<dict><key>one</key><integer>1</integer>"
+                                       "<key>two</key><integer>2</integer></dict>"));
+    bytes.replace(bytes.find("two"), 3, "one");
+    PropertyListError error;
+    const auto list = PropertyList::parse(bytes, error);
+    ASSERT_TRUE(list) << error.message;
+    EXPECT_EQ(list->root().keys(), std::vector<std::string>{"one"});
+    EXPECT_EQ(list->root().number("one")->longValue(), 2);
+    const auto written = PropertyList::parse(list->toXml(), error);
+    ASSERT_TRUE(written) << error.message;
+    EXPECT_EQ(written->root().number("one")->longValue(), 2);
+}
+
+TEST(PropertyList, aBinaryFileThatIsTooBigInXmlIsRefused)
+{
+    const std::string bytes = toBinary(plist(
+        "<dict><key>data</key><data>" + QByteArray(800'000, 'x').toBase64() + "</data></dict>"));
+    ASSERT_LT(bytes.size(), kPropertyListMaxSize);
+    PropertyListError error;
+    EXPECT_FALSE(PropertyList::parse(bytes, error));
+    EXPECT_EQ(error.message, "it is larger than 1048576 bytes");
+}
+
 TEST(PropertyList, aFileThatIsTooBigIsRefusedUnread)
 {
     const TemporaryHome home;

@@ -1,0 +1,44 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "FakeBus.h"
+#include "Fuzz.h"
+
+/**
+ * @file
+ * Makes D-Bus messages of a fuzzer's input: always well-formed, of what an event may be made of and
+ * of some that it may not.
+ *
+ * A code is a byte: the number of one that the wire knows, or a larger one and four bytes. A
+ * parameter list is a byte, the number of its entries, and each entry a keyword's code and a
+ * descriptor: a type's code, then a byte for its data:
+ *
+ * - 0: bytes; a byte for their number, then they
+ * - 1: a list; a byte for the number of its descriptors, then they
+ * - 2: a record; as a parameter list
+ * - 3: the bytes of a settings record; a word for the number of those that follow, the rest is 0
+ * - 4: a pen report; a byte for its key, words for its place
+ * - 5: a list of empty items; a byte for their number
+ * - anything else: something of a type that no descriptor has
+ *
+ * Words are little-endian, and behind the end of the input everything is 0.
+ */
+
+/** A code as above. */
+std::uint32_t takeCode(Input& input);
+
+/** Adds a parameter list to a message. */
+void appendParameters(DBusMessage* message, Input& input);
+
+/** A call of the program's Send: two codes, class and ID, and a parameter list. */
+Message takeEvent(Input& input);
+
+/** What somebody answers: a byte, 0 for a parameter list, else for an error, then that. */
+Message takeAnswer(Input& input);
+
+/**
+ * A message as it is on the wire, taken from the whole of the input; nothing where the input is no
+ * message. No other input begins with the 'l' or the 'B' of a message's byte order.
+ */
+Message takeWireMessage(std::span<const std::uint8_t> bytes);

@@ -1,0 +1,76 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Fuzz.h"
+
+#include <QApplication>
+#include <QFile>
+
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <unistd.h>
+
+namespace {
+
+/** The standard error of the beginning: libFuzzer closes it for everything but finds. */
+int finds = STDERR_FILENO;
+
+/** Our own warnings are answers to bad input. Qt's own tell of a call that it did not expect. */
+void judge(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    const bool isOurs =
+        context.category != nullptr && std::strncmp(context.category, "org.quorvia.", 12) == 0;
+    if (!isOurs && type != QtDebugMsg
+        && type != QtInfoMsg
+        // Of the platform that draws nowhere.
+        && !message.startsWith(QLatin1String("This plugin does not support"))) {
+        require(false, qUtf8Printable(message));
+    }
+}
+
+} // namespace
+
+/** Short stacks and a small store of freed memory: runs are short, and many. */
+extern "C" const char* __asan_default_options() // NOLINT: the sanitizer's name
+{
+    return "malloc_context_size=8:quarantine_size_mb=16";
+}
+
+extern "C" const char* __lsan_default_options() // NOLINT: the sanitizer's name
+{
+    return "print_suppressions=0";
+}
+
+/** Leaks of libraries that no call of ours can mend. */
+extern "C" const char* __lsan_default_suppressions() // NOLINT: the sanitizer's name
+{
+    // The patterns of fonts that Qt has looked up; fontconfig keeps them for the process's life.
+    return "leak:libfontconfig.so\n";
+}
+
+void startApplication(int* argc, char*** argv)
+{
+    finds = ::dup(STDERR_FILENO);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication::setStyle(QStringLiteral("Windows")); // has the least to draw
+    // Never deleted, since libFuzzer ends the process without going back to main().
+    static const auto* const application = new QApplication(*argc, *argv);
+    static_cast<void>(application);
+    qInstallMessageHandler(judge);
+}
+
+void require(bool condition, const char* what)
+{
+    if (!condition) {
+        ::dprintf(finds, "NOT TRUE: %s\n", what);
+        std::abort();
+    }
+}
+
+void putFile(const QString& path, std::span<const std::uint8_t> bytes)
+{
+    std::FILE* const file = std::fopen(QFile::encodeName(path).constData(), "wb");
+    require(file != nullptr, "the file can be written");
+    const std::size_t written = std::fwrite(bytes.data(), 1, bytes.size(), file);
+    require(std::fclose(file) == 0 && written == bytes.size(), "the file is written");
+}

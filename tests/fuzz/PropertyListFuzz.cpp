@@ -1,0 +1,148 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// The configuration file: loaded into the record and saved again, through the store.
+// Input: the bytes of the file.
+
+#include "FakeDisplays.h"
+#include "Fuzz.h"
+#include "PropertyList.h"
+#include "QVConfigEntry.h"
+#include "QVConfigStore.h"
+#include "TemporaryHome.h"
+#include "rzkApplication.h"
+
+#include <cstring>
+#include <string>
+
+using namespace platform;
+
+namespace {
+
+std::byte* recordBytes()
+{
+    return reinterpret_cast<std::byte*>(&qvTabletInfo);
+}
+
+/** Fills the record with a byte, but for the ends of its strings. */
+void fillRecord(int byte)
+{
+    std::memset(&qvTabletInfo, byte, sizeof qvTabletInfo);
+    QVForEachField([](const QVSection&, const char*, const QVField& field, std::size_t base) {
+        if (field.type == QVFieldType::String) {
+            recordBytes()[base + field.offset + kQVStringSize - 1] = std::byte{0};
+        }
+    });
+}
+
+bool sameRecord(const tagQVTabletInfo& one, const tagQVTabletInfo& other)
+{
+    return std::memcmp(&one, &other, sizeof one) == 0;
+}
+
+/** Sets what no entry of the file belongs to, in both, to zero. */
+void requireOnlyFieldsDiffer(const tagQVTabletInfo& before, const tagQVTabletInfo& after)
+{
+    tagQVTabletInfo one = before;
+    tagQVTabletInfo other = after;
+    QVForEachField([&](const QVSection&, const char*, const QVField& field, std::size_t base) {
+        std::size_t size = 2;
+        if (field.type == QVFieldType::String) {
+            size = kQVStringSize;
+            require(QVFieldString(field, reinterpret_cast<const std::byte*>(&other) + base).size()
+                    < kQVStringSize,
+                "a string ends within its field");
+        } else if (field.type == QVFieldType::UInt32) {
+            size = 4;
+        } else if (field.type == QVFieldType::Boolean) {
+            size = 1;
+        }
+        std::memset(reinterpret_cast<char*>(&one) + base + field.offset, 0, size);
+        std::memset(reinterpret_cast<char*>(&other) + base + field.offset, 0, size);
+    });
+    require(sameRecord(one, other), "a load changes nothing but the file's fields");
+}
+
+/** What the saved file says of a field is what the record held. */
+void requireStored(const Dictionary& root, const tagQVTabletInfo& record)
+{
+    QVForEachField(
+        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
+            const Dictionary inSection = root.dictionary(section.key);
+            const Dictionary dictionary = slot == nullptr ? inSection : inSection.dictionary(slot);
+            tagQVTabletInfo scratch{};
+            auto* const to = reinterpret_cast<std::byte*>(&scratch) + base;
+            const QVEntryResult result = QVReadEntry(dictionary, field, to);
+            if (section.saved && dictionary.exists()) {
+                require(result == QVEntryResult::Copied, "a saved entry is whole");
+            }
+            if (result != QVEntryResult::Copied && result != QVEntryResult::Truncated) {
+                return;
+            }
+            const auto* const from = reinterpret_cast<const std::byte*>(&record) + base;
+            require(field.type == QVFieldType::String
+                    ? QVFieldString(field, to) == QVFieldString(field, from)
+                    : QVFieldNumber(field, to) == QVFieldNumber(field, from),
+                "a saved field is what was loaded");
+        });
+}
+
+std::string contents(const QString& path)
+{
+    return readFile(path).toStdString();
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
+{
+    startApplication(argc, argv);
+    return 0;
+}
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    static const TemporaryHome home;
+    static const QString path = home.configFile(7);
+    // Two, so that the file's mapped area stands.
+    static FakeDisplays displays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
+    std::strcpy(GetPListName(), "7.plist");
+
+    putFile(path, {data, size});
+    fillRecord('A');
+    const tagQVTabletInfo before = qvTabletInfo;
+    QVConfigStore store;
+    PropertyListError error;
+    const auto list = PropertyList::load(path.toStdString(), error);
+    store.ReadQVConfigPlist();
+    if (!list) {
+        require(!error.message.empty(), "a file is refused with a reason");
+        require(sameRecord(qvTabletInfo, before), "a broken file leaves the record");
+        require(!store.WriteQVConfigPlist().empty(), "a broken file cannot be saved into");
+        require(contents(path) == std::string(reinterpret_cast<const char*>(data), size),
+            "a broken file stays as it is");
+        return 0;
+    }
+    const tagQVTabletInfo loaded = qvTabletInfo;
+    requireOnlyFieldsDiffer(before, loaded);
+    require(!store.hasUnsavedFields(), "after a load, nothing is unsaved");
+
+    // What the panel does not know comes back as it was.
+    const std::string xml = list->toXml();
+    const auto again = PropertyList::parse(xml, error);
+    require(again.has_value(), "what is written can be read");
+    require(again->toXml() == xml, "what is written is read as it was");
+
+    require(store.WriteQVConfigPlist().empty(), "a file that was loaded can be saved");
+    require(sameRecord(qvTabletInfo, loaded), "a save leaves the record");
+    const auto saved = PropertyList::load(path.toStdString(), error);
+    require(saved.has_value(), "a saved file can be loaded");
+    requireStored(saved->root(), loaded);
+
+    fillRecord('B');
+    store.ReadQVConfigPlist();
+    const std::string first = contents(path);
+    require(store.WriteQVConfigPlist().empty(), "a saved file can be saved");
+    require(contents(path) == first, "a second save writes the same");
+    return 0;
+}
