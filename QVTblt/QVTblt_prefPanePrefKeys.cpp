@@ -121,6 +121,13 @@ void hide(std::span<QVKeyComboBox* const> boxes)
     }
 }
 
+/** Shows a strip's field in its box. A strip is on when its field is 0. */
+void showStrip(QCheckBox& box, std::int16_t field)
+{
+    const QSignalBlocker blocker(box);
+    box.setChecked(field == 0);
+}
+
 void disable(std::span<QVKeyComboBox* const> boxes)
 {
     for (QVKeyComboBox* const box : boxes) {
@@ -170,7 +177,8 @@ void QVTblt_prefPanePref::setUpKeyPage()
         connect(box, qOverload<int>(&QComboBox::activated), this, [this, box] { SelectKey(box); });
     }
     for (QCheckBox* const box : {mKeyLScroll, mKeyRScroll}) {
-        connect(box, &QCheckBox::clicked, this, &QVTblt_prefPanePref::SelectScroll);
+        // Screen readers toggle a box without a click.
+        connect(box, &QCheckBox::toggled, this, &QVTblt_prefPanePref::SelectScroll);
     }
     connect(mScrollSpeed, &QSlider::valueChanged, this, [this] { ScrollSpeed(mScrollSpeed); });
 }
@@ -205,12 +213,11 @@ void QVTblt_prefPanePref::InitComboBoxWithKey()
     for (std::size_t slot = 0; slot < kPenUpper; ++slot) {
         InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
     }
-    // A strip is on when its field is 0.
-    mKeyLScroll->setChecked(qvTabletInfo.Key.Scrollbar0 == 0);
+    showStrip(*mKeyLScroll, qvTabletInfo.Key.Scrollbar0);
     for (std::size_t slot = kPenUpper; slot < kQVSlotCount; ++slot) {
         InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
     }
-    mKeyRScroll->setChecked(qvTabletInfo.Key.Scrollbar1 == 0);
+    showStrip(*mKeyRScroll, qvTabletInfo.Key.Scrollbar1);
 }
 
 void QVTblt_prefPanePref::layOutKeyPage(std::uint16_t productID)

@@ -5,10 +5,12 @@
 #include "Notifications.h"
 #include "PaneTest.h"
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTest>
@@ -236,19 +238,41 @@ TEST_F(Pane, pushesTheStripsAtOnceWhenABoxIsClicked)
     EXPECT_TRUE(sameBytes(pushes().back(), expected));
 }
 
-TEST_F(Pane, pushesNothingWhenCodeChangesABox)
+TEST_F(Pane, pushesTheStripsWhenAScreenReaderTogglesABox)
 {
     show();
-    outlet<QCheckBox>("mKeyLScroll").setChecked(true);
-    outlet<QCheckBox>("mKeyRScroll").toggle();
+    QAccessibleActionInterface* const action =
+        QAccessible::queryAccessibleInterface(&outlet<QCheckBox>("mKeyLScroll"))->actionInterface();
+    ASSERT_NE(action, nullptr);
+    ASSERT_TRUE(action->actionNames().contains(QAccessibleActionInterface::toggleAction()));
+    action->doAction(QAccessibleActionInterface::toggleAction());
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_EQ(+pushes().front().Key.Scrollbar0, 0);
+    EXPECT_EQ(+qvTabletInfo.Key.Scrollbar0, 0);
+}
+
+TEST_F(Pane, pushesNothingWhenItShowsOtherStrips)
+{
+    show();
+    leave();
+    qvTabletInfo.Key.Scrollbar0 = 0;
+    qvTabletInfo.Key.Scrollbar1 = 0;
+    leave(); // into the file
+    show();
+    EXPECT_TRUE(outlet<QCheckBox>("mKeyLScroll").isChecked());
+    EXPECT_TRUE(outlet<QCheckBox>("mKeyRScroll").isChecked());
     EXPECT_TRUE(pushes().empty());
 }
 
 TEST_F(Pane, saveStoresZeroForABoxThatIsOnAndOneForABoxThatIsOff)
 {
     show();
-    outlet<QCheckBox>("mKeyLScroll").setChecked(true);
-    outlet<QCheckBox>("mKeyRScroll").setChecked(false);
+    {
+        const QSignalBlocker left(outlet<QCheckBox>("mKeyLScroll"));
+        const QSignalBlocker right(outlet<QCheckBox>("mKeyRScroll"));
+        outlet<QCheckBox>("mKeyLScroll").setChecked(true);
+        outlet<QCheckBox>("mKeyRScroll").setChecked(false);
+    }
     QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
     EXPECT_EQ(+qvTabletInfo.Key.Scrollbar0, 0);
     EXPECT_EQ(+qvTabletInfo.Key.Scrollbar1, 1);
