@@ -434,6 +434,7 @@ TEST(PropertyListShape, longContainersCountWithAnIntegerObject)
     EXPECT_EQ(array(std::string("\x20\0", 2)), tooLong) << "a real is no count";
     EXPECT_EQ(array(std::string("\x30\0", 2)), tooLong);
     EXPECT_EQ(array(std::string("\x00\0", 2)), tooLong);
+    EXPECT_EQ(array('\x20' + std::string(40, '\0')), tooLong) << "also where there is room";
     EXPECT_EQ(
         array(std::string("\x10\1\1", 3)), "a container refers to an object that is not there");
 }
