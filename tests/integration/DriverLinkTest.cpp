@@ -475,6 +475,16 @@ TEST(DriverActivation, theBusStartsTheDriverOnDemand)
     EXPECT_TRUE(QFile::exists(home.configFile(20737)));
 }
 
+TEST(DriverActivation, theProcessHasALinkOfItsOwn)
+{
+    const TemporaryHome home;
+    const PrivateBus bus;
+    const DriverProcess driver;
+    EXPECT_TRUE(rzkgetQVDevice());
+    EXPECT_STREQ(GetPListName(), "20737.plist");
+    EXPECT_EQ(&events(), &events());
+}
+
 // What arrives ------------------------------------------------------------------------------------
 
 namespace {
