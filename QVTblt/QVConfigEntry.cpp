@@ -30,11 +30,11 @@ bool isAscii(std::string_view text)
     return std::ranges::all_of(text, [](char c) { return c > 0; });
 }
 
-/** XML can hold no control characters but these. */
+/** XML can hold no control characters but these; the record, nothing but ASCII. */
 bool isWritable(std::string_view text)
 {
     return std::ranges::all_of(
-        text, [](char c) { return c >= ' ' || c == '\t' || c == '\n' || c == '\r' || c < 0; });
+        text, [](char c) { return c >= ' ' || c == '\t' || c == '\n' || c == '\r'; });
 }
 
 /** Least and greatest whole number that keeps all its bits in a field of the type. */
@@ -107,7 +107,7 @@ bool QVWriteEntry(platform::Dictionary dictionary, const QVField& field, const s
     switch (field.type) {
     case QVFieldType::String: {
         const std::string text = QVFieldString(field, base);
-        if (!isAscii(text) || !isWritable(text)) {
+        if (!isWritable(text)) { // a byte beyond ASCII is a negative char
             return false;
         }
         dictionary.setString(field.key, text);

@@ -57,9 +57,6 @@ QString destination(const AEDesc& address)
 OSErr errorCode(const QDBusMessage& error)
 {
     const QString name = error.errorName();
-    if (name == QLatin1String(wire::kEventNotHandled)) {
-        return errAEEventNotHandled;
-    }
     if (name == QLatin1String(wire::kCoercionFail)) {
         return errAECoercionFail;
     }

@@ -7,6 +7,7 @@
 #include "Client.h"
 #include "DBusAppleEvents.h"
 #include "DriverProcess.h"
+#include "Notifications.h"
 #include "Peer.h"
 #include "PlainWire.h"
 #include "PrivateBus.h"
@@ -20,6 +21,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <map>
 
 using namespace platform;
 
@@ -67,6 +69,17 @@ protected:
         return testing::internal::GetCapturedStderr();
     }
 
+    /** Counts the notices under a name from now on. */
+    int& countOf(QLatin1String name)
+    {
+        int& count = mCounts[QString(name)];
+        notifications().addObserver(
+            mObserver, QString(name), [&count](const Notification&) { ++count; });
+        return count;
+    }
+
+    std::map<QString, int> mCounts;
+    QObject mObserver;
     TemporaryHome mHome;
     PrivateBus mBus;
     DBusAppleEvents mEvents;
@@ -302,6 +315,77 @@ TEST_F(DriverLink, aPushWithoutADriverSaysOkAndFails)
     EXPECT_EQ(mEvents.finishSends(), noErr) << "an error is told once";
 }
 
+TEST_F(DriverLink, tellsWhetherAPushWasTaken)
+{
+    int& taken = countOf(kEventTakenNotification);
+    int& notTaken = countOf(kEventNotTakenNotification);
+    push();
+    EXPECT_EQ(taken + notTaken, 0) << "before there is an answer";
+    mEvents.finishSends();
+    EXPECT_EQ(notTaken, 1);
+    const DriverProcess driver;
+    push();
+    mEvents.finishSends();
+    EXPECT_EQ(taken, 1);
+    EXPECT_EQ(notTaken, 1);
+}
+
+TEST_F(DriverLink, tellsOfAPushThatWasTakenWhileNobodyWaits)
+{
+    int& taken = countOf(kEventTakenNotification);
+    const DriverProcess driver;
+    push();
+    while (taken == 0) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+    EXPECT_EQ(mEvents.finishSends(), noErr);
+    EXPECT_EQ(taken, 1) << "once";
+}
+
+TEST_F(DriverLink, tellsOfAPushWithoutABus)
+{
+    int& notTaken = countOf(kEventNotTakenNotification);
+    mBus.stop();
+    EXPECT_FALSE(rzkgetQVDevice());
+    EXPECT_EQ(notTaken, 0) << "who waits for the reply knows";
+    push();
+    EXPECT_EQ(notTaken, 1);
+}
+
+TEST_F(DriverLink, tellsTheErrorsOfASendApart)
+{
+    struct Case {
+        const char* name;
+        OSErr error;
+    };
+    for (const Case& c : {Case{kEventNotHandled, errAEEventNotHandled},
+             {kCoercionFail, errAECoercionFail}, {"org.example.Other", errAEEventNotHandled},
+             {"org.freedesktop.DBus.Error.Spawn.ExecFailed", procNotFound},
+             {"org.freedesktop.DBus.Error.ServiceUnknown", procNotFound},
+             {"org.freedesktop.DBus.Error.NoReply", errAETimeout},
+             {"org.freedesktop.DBus.Error.Timeout", errAETimeout},
+             {"org.freedesktop.DBus.Error.TimedOut", errAETimeout},
+             {"org.freedesktop.DBus.Error.Disconnected", connectionInvalid}}) {
+        Peer driver(mBus, kDriverName);
+        driver.answer = [&](const QDBusMessage& call) {
+            return call.createErrorReply(QString::fromLatin1(c.name), QStringLiteral("no"));
+        };
+        push();
+        EXPECT_EQ(mEvents.finishSends(), c.error) << c.name;
+    }
+}
+
+TEST_F(DriverLink, sendsNowhereWithoutAnAddressThatItKnows)
+{
+    AppleEvent reply;
+    for (const AEDesc& address : {AEDesc{typeApplSignature, QByteArray("TdS")},
+             AEDesc{typeApplSignature, QByteArray("gSdT!")}, AEDesc{typeApplSignature, AEList{}},
+             AEDesc{typeUTF8Text, QByteArray("gSdT")}}) {
+        EXPECT_EQ(mEvents.send({1, 2, address, {}}, &reply, kAEWaitReply, kAEHighPriority, 15),
+            connectionInvalid);
+    }
+}
+
 TEST_F(DriverLink, aPushAfterTheDriverWasKilledSaysOk)
 {
     DriverProcess driver;
@@ -389,6 +473,16 @@ TEST(DriverActivation, theBusStartsTheDriverOnDemand)
     }
     EXPECT_TRUE(found);
     EXPECT_TRUE(QFile::exists(home.configFile(20737)));
+}
+
+TEST(DriverActivation, theProcessHasALinkOfItsOwn)
+{
+    const TemporaryHome home;
+    const PrivateBus bus;
+    const DriverProcess driver;
+    EXPECT_TRUE(rzkgetQVDevice());
+    EXPECT_STREQ(GetPListName(), "20737.plist");
+    EXPECT_EQ(&events(), &events());
 }
 
 // What arrives ------------------------------------------------------------------------------------
@@ -608,6 +702,163 @@ TEST_F(Inbound, moreThan4096ItemsAreMalformed)
     EXPECT_EQ(count, 4096U);
     items.append({1, QDBusVariant(QByteArray())});
     EXPECT_EQ(send(driver, withItems()).errorName(), QString::fromLatin1(kCoercionFail));
+}
+
+TEST_F(Inbound, moreThan4096ParametersAreMalformed)
+{
+    std::size_t count = 0;
+    mEvents.installEventHandler(1, 2, [&](const AppleEvent& event, AppleEvent&) {
+        count = event.parameters.size();
+        return noErr;
+    });
+    Peer driver(mBus, kDriverName);
+    Parameters list;
+    for (uint i = 0; i < 4096; ++i) {
+        list.append({i, {4, QDBusVariant(QByteArray("x"))}});
+    }
+    EXPECT_EQ(send(driver, event(1, 2, list)).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(count, 4096U);
+    list.append({5000, {4, QDBusVariant(QByteArray())}});
+    EXPECT_EQ(send(driver, event(1, 2, list)).errorName(), QString::fromLatin1(kCoercionFail));
+}
+
+TEST_F(Inbound, onePartThatIsMalformedSpoilsThoseBehindIt)
+{
+    mEvents.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
+    Peer driver(mBus, kDriverName);
+    const TestDesc good{4, QDBusVariant(QByteArray("x"))};
+    const TestDesc bad{4, QDBusVariant(5)};
+    EXPECT_EQ(send(driver, event(1, 2, {{3, bad}, {3, good}})).errorName(),
+        QString::fromLatin1(kCoercionFail));
+    const Descriptors items{bad, good};
+    EXPECT_EQ(
+        send(driver, event(1, 2, {{3, {4, QDBusVariant(QVariant::fromValue(items))}}})).errorName(),
+        QString::fromLatin1(kCoercionFail));
+}
+
+TEST_F(Inbound, bytesMayLieAsDeepAsListsAndNoDeeper)
+{
+    mEvents.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
+    Peer driver(mBus, kDriverName);
+    const auto within = [](int lists, bool inRecords) {
+        TestDesc desc{4, QDBusVariant(QByteArray("x"))};
+        for (int i = 0; i < lists; ++i) {
+            desc = {4,
+                QDBusVariant(inRecords ? QVariant::fromValue(Parameters{{5, desc}})
+                                       : QVariant::fromValue(Descriptors{desc}))};
+        }
+        return desc;
+    };
+    for (const bool inRecords : {false, true}) {
+        EXPECT_EQ(send(driver, event(1, 2, {{3, within(7, inRecords)}})).type(),
+            QDBusMessage::ReplyMessage);
+        EXPECT_EQ(send(driver, event(1, 2, {{3, within(8, inRecords)}})).errorName(),
+            QString::fromLatin1(kCoercionFail));
+    }
+}
+
+TEST_F(Inbound, aHandlersErrorWithoutAReasonIsItsNumber)
+{
+    mEvents.installEventHandler(
+        1, 2, [](const AppleEvent&, AppleEvent&) { return errAEDescNotFound; });
+    Peer driver(mBus, kDriverName);
+    const QDBusMessage reply = send(driver, event(1, 2, {}));
+    EXPECT_EQ(reply.errorName(), QString::fromLatin1(kEventNotHandled));
+    EXPECT_EQ(reply.errorMessage(), QString::number(errAEDescNotFound));
+}
+
+TEST_F(Inbound, anEventThatNobodyHandlesIsNamed)
+{
+    Peer driver(mBus, kDriverName);
+    EXPECT_EQ(send(driver, event(fourCharCode("abcd"), fourCharCode("efgh"), {})).errorMessage(),
+        QStringLiteral("nobody handles the event 'abcd'/'efgh'"));
+}
+
+TEST_F(Inbound, aStrangersRefusalsAreLoggedOnceUntilTheDriverChanges)
+{
+    Peer stranger(mBus);
+    const auto logged = [&] {
+        testing::internal::CaptureStderr();
+        send(stranger, event(1, 2, {}));
+        return !testing::internal::GetCapturedStderr().empty();
+    };
+    EXPECT_TRUE(logged());
+    EXPECT_FALSE(logged());
+    int& changes = countOf(kSourceChangedNotification);
+    const Peer driver(mBus, kDriverName);
+    while (changes == 0) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+    EXPECT_TRUE(logged());
+    EXPECT_FALSE(logged());
+}
+
+TEST_F(Inbound, only64StrangersAreLogged)
+{
+    int lines = 0;
+    for (int i = 0; i < 66; ++i) {
+        Peer stranger(mBus);
+        testing::internal::CaptureStderr();
+        send(stranger, event(1, 2, {}));
+        lines += testing::internal::GetCapturedStderr().empty() ? 0 : 1;
+    }
+    EXPECT_EQ(lines, 64);
+}
+
+TEST_F(Inbound, theDriversComingAndItsWordAreChangesAndItsGoingIsNone)
+{
+    int& changes = countOf(kSourceChangedNotification);
+    const auto waitFor = [&](int count) {
+        while (changes < count) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        }
+        return changes;
+    };
+    Peer driver(mBus, kDriverName);
+    EXPECT_EQ(waitFor(1), 1);
+    driver.connection().send(QDBusMessage::createSignal(QStringLiteral("/org/quorvia/AppleEvents"),
+        QStringLiteral("org.quorvia.AppleEvents1"), QStringLiteral("Changed")));
+    EXPECT_EQ(waitFor(2), 2);
+    ASSERT_TRUE(driver.connection().unregisterService(kDriverName));
+    ASSERT_TRUE(driver.connection().registerService(kDriverName));
+    EXPECT_EQ(waitFor(3), 3);
+}
+
+TEST_F(Inbound, goesOnTakingEventsAfterTheBusWasStartedAgain)
+{
+    mEvents.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
+    int& changes = countOf(kSourceChangedNotification);
+    mBus.stop();
+    EXPECT_FALSE(rzkgetQVDevice());
+    mBus.start();
+    EXPECT_FALSE(rzkgetQVDevice());
+    Peer driver(mBus, kDriverName);
+    while (changes == 0) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+    EXPECT_EQ(send(driver, event(1, 2, {})).type(), QDBusMessage::ReplyMessage);
+}
+
+TEST_F(Inbound, aCallThatNamesNoInterfaceIsTakenAndOneOfAnotherIsNot)
+{
+    int handled = 0;
+    mEvents.installEventHandler(1, 2, [&](const AppleEvent&, AppleEvent&) {
+        ++handled;
+        return noErr;
+    });
+    Peer driver(mBus, kDriverName);
+    for (const auto& [interface, count] :
+        {std::pair{QString(), 1}, std::pair{QStringLiteral("org.example.Other"), 1}}) {
+        QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
+            QStringLiteral("/org/quorvia/AppleEvents"), interface, QStringLiteral("Send"));
+        call.setArguments(event(1, 2, {}));
+        const QDBusPendingCall pending = driver.connection().asyncCall(call, 5000);
+        while (!pending.isFinished()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        }
+        EXPECT_EQ(pending.isError(), !interface.isEmpty());
+        EXPECT_EQ(handled, count);
+    }
 }
 
 TEST_F(Inbound, otherInterfacesAndMethodsAreUnknown)

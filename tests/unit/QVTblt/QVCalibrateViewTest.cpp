@@ -227,6 +227,40 @@ TEST_F(Calibration, coversTheChosenDisplayBesideTheMainOne)
     EXPECT_EQ(window()->view().size(), QSize(640, 480));
 }
 
+TEST_F(Calibration, coversTheMainDisplayWhereThereAreOthers)
+{
+    mDisplays.change({{0, 0, 800, 600}, {800, 100, 640, 480}});
+    outlet<QComboBox>("mComboBox").setCurrentIndex(1);
+    start();
+    ASSERT_NE(window(), nullptr);
+    EXPECT_EQ(window()->view().size(), QSize(800, 600));
+    EXPECT_EQ(pushedFlags(), std::vector<int>{1});
+}
+
+TEST_F(Calibration, countsFromTheMainDisplayWhereverItLies)
+{
+    mDisplays.main = 1;
+    mDisplays.change({{-640, 30, 640, 480}, {10, 20, 800, 800}});
+    outlet<QComboBox>("mComboBox").setCurrentIndex(1);
+    start();
+    ASSERT_NE(window(), nullptr);
+    // -640 + 10 to the right, and 20 + 800 - (30 + 480) above the lower edge
+    const int height = QGuiApplication::primaryScreen()->geometry().height();
+    EXPECT_EQ(window()->geometry(), QRect(-630, height - 310 - 480, 640, 480));
+    EXPECT_EQ(pushedFlags(), std::vector<int>{1});
+}
+
+TEST_F(Calibration, ofADisplayThatIsNotListedOpensNothing)
+{
+    mDisplays.change({{0, 0, 800, 600}, {800, 100, 640, 480}});
+    auto& list = outlet<QComboBox>("mComboBox");
+    list.addItem(QStringLiteral("another"));
+    list.setCurrentIndex(3);
+    start();
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_TRUE(pushes().empty());
+}
+
 TEST_F(Calibration, acceptedSetsTheAreaAndCloses)
 {
     start();

@@ -76,3 +76,26 @@ TEST(CalibratedArea, aDisplayAsNarrowAsItsCrossesIsDefined)
         EXPECT_TRUE(QVCalibratedArea(points, size, size)) << size;
     }
 }
+
+TEST(CalibratedArea, eachEqualPairOfCoordinatesIsNoOrder)
+{
+    const Points good{{{1000, 800}, {19200, 800}, {19200, 10600}, {1000, 10600}}};
+    for (const auto& [index, point] :
+        {std::pair{0, QVTabletPoint{19200, 800}}, std::pair{3, QVTabletPoint{19200, 10600}},
+            std::pair{0, QVTabletPoint{1000, 10600}}, std::pair{1, QVTabletPoint{19200, 10600}}}) {
+        Points points = good;
+        points[static_cast<std::size_t>(index)] = point;
+        EXPECT_FALSE(QVCalibratedArea(points, 1920, 1080)) << index;
+    }
+}
+
+TEST(CalibratedArea, isOfWhatTheArithmeticGivesForATinyDisplay)
+{
+    const Points points{{{1000, 800}, {19200, 800}, {19200, 10600}, {1000, 10600}}};
+    // No margin can be told without room between the crosses, so nothing is left of the edges.
+    EXPECT_EQ(QVCalibratedArea(points, 100, 100), (QVTabletArea{0, 0, 0, 0}));
+    // Both margins are negative, half of the span.
+    EXPECT_EQ(QVCalibratedArea(points, 0, 0), (QVTabletArea{10100, 10100, 5700, 5700}));
+    // 18200 * 50 and 9800 * 50 to the inside, of which the low 16 bits are left.
+    EXPECT_EQ(QVCalibratedArea(points, 99, 99), (QVTabletArea{59032, 26704, 32048, 44888}));
+}

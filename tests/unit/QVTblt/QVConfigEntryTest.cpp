@@ -240,3 +240,64 @@ TEST(QVWriteEntry, keepsTheOldEntryForAStringThatCannotBeWritten)
         EXPECT_FALSE(taken);
     }
 }
+
+TEST(QVReadEntry, tellsTheLastNumbersThatKeepAllTheirBits)
+{
+    struct Case {
+        QVFieldType type;
+        const char* least;
+        const char* below;
+        const char* greatest;
+        const char* above;
+    };
+    for (const Case& c : {Case{QVFieldType::Int16, "-32768", "-32769", "65535", "65536"},
+             {QVFieldType::UInt16, "-32768", "-32769", "65535", "65536"},
+             {QVFieldType::UInt32, "-2147483648", "-2147483649", "4294967295", "4294967296"},
+             {QVFieldType::Boolean, "0", "-1", "1", "2"}}) {
+        Field field(c.type);
+        const auto read = [&](const char* number) {
+            return field.read(QByteArray("<integer>") + number + "</integer>");
+        };
+        EXPECT_EQ(read(c.least), QVEntryResult::Copied) << c.least;
+        EXPECT_EQ(read(c.below), QVEntryResult::Truncated) << c.below;
+        EXPECT_EQ(read(c.greatest), QVEntryResult::Copied) << c.greatest;
+        EXPECT_EQ(read(c.above), QVEntryResult::Truncated) << c.above;
+    }
+}
+
+TEST(QVReadEntry, takesAnyCharacterOfAscii)
+{
+    Field field(QVFieldType::String);
+    EXPECT_EQ(field.read("<string>\x01 ~\x7F</string>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.string(), "\x01 ~\x7F");
+}
+
+TEST(QVWriteEntry, writesBooleansAndSignedNumbers)
+{
+    for (const char* const value : {"<true/>", "<false/>"}) {
+        Field field(QVFieldType::Boolean);
+        field.read(value);
+        bool taken = false;
+        EXPECT_EQ(field.written(taken), value == std::string("<true/>") ? "1" : "0");
+        EXPECT_TRUE(taken);
+    }
+    for (const QVFieldType type : {QVFieldType::Int16, QVFieldType::UInt32}) {
+        Field field(type);
+        field.read("<integer>77</integer>");
+        bool taken = false;
+        EXPECT_EQ(field.written(taken), "77");
+        EXPECT_TRUE(taken);
+    }
+}
+
+TEST(QVWriteEntry, writesTheWhiteSpaceThatAFileCanHold)
+{
+    Field field(QVFieldType::String);
+    field.read("<string>path</string>");
+    for (const char c : {' ', '\t', '\n', '\r'}) {
+        field.text()[1] = c;
+        bool taken = false;
+        EXPECT_EQ(field.written(taken), std::string("p") + c + "th") << int{c};
+        EXPECT_TRUE(taken);
+    }
+}

@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QSignalSpy>
+#include <QStyledItemDelegate>
 #include <QTest>
 #include <QToolTip>
 #include <QWheelEvent>
@@ -137,4 +138,108 @@ TEST_F(KeyBox, drawsAnEmptyTextAsTheActionsName)
     mBox.replaceItem(QVKeyComboBox::KeyCombination, QString());
     EXPECT_EQ(mBox.currentText(), QString());
     EXPECT_EQ(mBox.grab().toImage(), expected);
+}
+
+TEST_F(KeyBox, aKeyThatWouldChooseOpensTheListInstead)
+{
+    for (const Qt::Key key :
+        {Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End}) {
+        mBox.setCurrentIndex(4);
+        QTest::keyClick(&mBox, key);
+        EXPECT_TRUE(mBox.view()->isVisible()) << key;
+        EXPECT_EQ(mBox.currentIndex(), 4) << key;
+        mBox.hidePopup();
+    }
+    EXPECT_EQ(mChoices.count(), 0);
+}
+
+TEST_F(KeyBox, otherKeysOpenNothing)
+{
+    for (const Qt::Key key : {Qt::Key_F5, Qt::Key_Shift, Qt::Key_Left, Qt::Key_Tab}) {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier, QString());
+        QCoreApplication::sendEvent(&mBox, &event);
+        EXPECT_FALSE(mBox.view()->isVisible()) << key;
+    }
+    // A character that cannot be printed, as Control gives it.
+    QKeyEvent event(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QString(QChar(1)));
+    QCoreApplication::sendEvent(&mBox, &event);
+    EXPECT_FALSE(mBox.view()->isVisible());
+}
+
+TEST_F(KeyBox, theSpaceBarOpensTheListAtThePresentItem)
+{
+    mBox.setCurrentIndex(3);
+    QTest::keyClick(&mBox, Qt::Key_Space);
+    ASSERT_TRUE(mBox.view()->isVisible());
+    EXPECT_EQ(mBox.view()->currentIndex().row(), 3);
+}
+
+TEST_F(KeyBox, aTextThatFitsHasNoTooltip)
+{
+    mBox.setCurrentIndex(QVKeyComboBox::NoAction);
+    mBox.resize(400, 24);
+    QToolTip::hideText();
+    QHelpEvent event(QEvent::ToolTip, QPoint(10, 10), mBox.mapToGlobal(QPoint(10, 10)));
+    QCoreApplication::sendEvent(&mBox, &event);
+    EXPECT_FALSE(QToolTip::text().contains(mBox.currentText())) << qPrintable(QToolTip::text());
+}
+
+TEST_F(KeyBox, aReplacedItemTellsItsWholeTextInTheList)
+{
+    mBox.replaceItem(QVKeyComboBox::Application, QStringLiteral("/a<b>"));
+    EXPECT_EQ(mBox.itemData(QVKeyComboBox::Application, Qt::ToolTipRole),
+        QStringLiteral("<span>/a&lt;b&gt;</span>"));
+}
+
+TEST_F(KeyBox, drawsControlCharactersAsReplacements)
+{
+    const auto drawn = [this](const QString& text) {
+        mBox.replaceItem(QVKeyComboBox::Application, text);
+        return mBox.grab().toImage();
+    };
+    EXPECT_EQ(drawn(QStringLiteral("a\nb")), drawn(QStringLiteral("a\uFFFDb")));
+    EXPECT_NE(drawn(QStringLiteral("a b")), drawn(QStringLiteral("a\uFFFDb")));
+}
+
+TEST_F(KeyBox, theListDrawsItsTextsLikeTheBox)
+{
+    const auto drawn = [this](const QString& text) {
+        mBox.replaceItem(QVKeyComboBox::KeyCombination, text);
+        mBox.setCurrentIndex(0);
+        mBox.showPopup();
+        const QImage image = mBox.view()->viewport()->grab().toImage();
+        mBox.hidePopup();
+        return image;
+    };
+    const QImage name = drawn(mBox.itemText(QVKeyComboBox::KeyCombination));
+    EXPECT_EQ(drawn(QString()), name);
+    EXPECT_NE(drawn(QStringLiteral("x")), name);
+    EXPECT_EQ(drawn(QStringLiteral("a\tb")), drawn(QStringLiteral("a\uFFFDb")));
+}
+
+TEST_F(KeyBox, itsListsRowsAreAThirdOfATextHigherThanUsual)
+{
+    QStyleOptionViewItem option;
+    option.initFrom(mBox.view());
+    const QModelIndex index = mBox.model()->index(1, 0);
+    EXPECT_EQ(mBox.itemDelegate()->sizeHint(option, index),
+        QStyledItemDelegate().sizeHint(option, index) + QSize(0, option.fontMetrics.height() / 3));
+    EXPECT_GT(option.fontMetrics.height() / 3, 2);
+}
+
+TEST_F(KeyBox, noTextWidensIt)
+{
+    const QSize before = mBox.sizeHint();
+    mBox.replaceItem(QVKeyComboBox::Application, QString(500, u'x'));
+    EXPECT_EQ(mBox.sizeHint(), before);
+}
+
+TEST_F(KeyBox, theWheelDoesNotTakeTheFocus)
+{
+    EXPECT_EQ(mBox.focusPolicy(), Qt::StrongFocus);
+}
+
+TEST_F(KeyBox, itsListShortensTextsInTheMiddle)
+{
+    EXPECT_EQ(mBox.view()->textElideMode(), Qt::ElideMiddle);
 }

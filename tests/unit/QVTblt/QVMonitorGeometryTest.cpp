@@ -114,3 +114,28 @@ TEST(AspectFit, survivesEveryExtreme)
         }
     }
 }
+
+TEST(BoundingRect, ofOneAroundAnotherIsTheOuter)
+{
+    const Rect outer{10, 20, 500, 400};
+    EXPECT_EQ(QVBoundingRect(std::array{outer, Rect{30, 40, 5, 5}}), outer);
+    EXPECT_EQ(QVBoundingRect(std::array{Rect{30, 40, 5, 5}, outer}), outer);
+}
+
+TEST(Miniature, isMeasuredFromTheDisplaysOrigin)
+{
+    // 150 / 15 + 300 / 3 + 30 and 480 - (30 / 15 + 45 / 15 + 200 - 110)
+    EXPECT_EQ(QVMiniature({150, 45, 60, 30}, {0, 0, 300, 200}), (Rect{140, 385, 4, 2}));
+}
+
+TEST(PictureCorner, goesByTheSpansNotByWhereTheyBegin)
+{
+    EXPECT_EQ(QVPictureCorner({600, 5600, 300, 3425}, {1000, 11000, 2000, 8250}),
+        QVPictureCorner({0, 5000, 0, 3125}, {0, 10000, 0, 6250}));
+}
+
+TEST(AspectFit, beginsWhereTheTabletDoes)
+{
+    EXPECT_EQ(
+        QVAspectFit({100, 10100, 50, 6300}, 1920, 1080), (QVTabletArea{100, 10100, 50, 5675}));
+}

@@ -24,6 +24,9 @@ TEST(FourCharCode, isQuotedForPeople)
         "'A?"
         "?"
         "?'");
+    EXPECT_EQ(quoted(0x1F207E7F),
+        "'?"
+        " ~?'");
 }
 
 TEST(BusName, isTheSignatureWhereABusNameCanHoldIt)
@@ -39,6 +42,23 @@ TEST(BusName, isTheCodeInHexWhereItCannot)
     EXPECT_EQ(
         wire::busName(fourCharCode("1abc")), QStringLiteral("org.quorvia.AppleEvents._x31616263"));
     EXPECT_EQ(wire::busName(0x000000E9), QStringLiteral("org.quorvia.AppleEvents._x000000e9"));
+}
+
+TEST(BusName, hasLettersDigitsAndTwoMarks)
+{
+    for (const char* const plain : {"azAZ", "a09_", "_-_-", "b9yY"}) {
+        FourCharCode code = 0;
+        for (int i = 0; i < 4; ++i) {
+            code = code << 8U | static_cast<unsigned char>(plain[i]);
+        }
+        EXPECT_EQ(wire::busName(code),
+            QStringLiteral("org.quorvia.AppleEvents.") + QString::fromLatin1(plain));
+    }
+    // The neighbours of those that are plain, and a letter that no ASCII is.
+    for (const int other : {int{'`'}, int{'{'}, int{'@'}, int{'['}, int{'/'}, int{':'}, 0xE9}) {
+        EXPECT_EQ(wire::busName(0x61626300U | static_cast<unsigned>(other)),
+            QStringLiteral("org.quorvia.AppleEvents._x616263%1").arg(other, 2, 16));
+    }
 }
 
 TEST(BusName, isNeverThatOfTwoSignatures)

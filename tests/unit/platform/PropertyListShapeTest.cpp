@@ -82,6 +82,22 @@ private:
 
 const std::string kTrue = "\x09";
 
+/** A binary list of one object, which stands behind the table: its end is that of all objects. */
+std::string lastObject(const std::string& bytes)
+{
+    return "bplist00\x09" + bytes + std::string(6, '\0') + "\x01\x01" + Binary::number(1, 8)
+        + Binary::number(0, 8) + Binary::number(8, 8);
+}
+
+/** A list with an empty dictionary, whose offset and reference have these many bytes. */
+std::string withWidths(int offset, int reference)
+{
+    const auto leading = static_cast<std::size_t>(std::max(offset - 8, 0));
+    return "bplist00\xD0" + std::string(leading, '\0') + Binary::number(8, std::min(offset, 8))
+        + std::string(6, '\0') + static_cast<char>(offset) + static_cast<char>(reference)
+        + Binary::number(1, 8) + Binary::number(0, 8) + Binary::number(9, 8);
+}
+
 } // namespace
 
 TEST(PropertyListShape, passesAConfigurationFile)
@@ -254,4 +270,198 @@ TEST(PropertyListShape, refusesABinaryListThatContradictsItself)
     Binary count;
     EXPECT_EQ(propertyListShapeError(count.finish(count.add("\xAF\x13" + std::string(8, '\x7F')))),
         "a container is longer than the list");
+}
+
+TEST(PropertyListShape, quotesTheBeginningOfWhatItRefuses)
+{
+    const std::string name = "abcdefghijklmnopqrstuvwxyz0123456789";
+    EXPECT_EQ(errorOf("<" + name + ">"), "unknown tag 'abcdefghijklmnopqrstuvwxyz012345'");
+    EXPECT_EQ(errorOf("<plausible tag>"), "unknown tag '<plausible t'");
+    EXPECT_EQ(errorOfEntry("<>"), "unknown tag ''");
+    EXPECT_EQ(propertyListShapeError("<!"), "'>' is missing");
+    EXPECT_EQ(propertyListShapeError("<p"), "unknown tag '<p'");
+    EXPECT_EQ(propertyListShapeError("<"), "'>' is missing");
+    EXPECT_EQ(propertyListShapeError("<?xml"), "'?>' is missing");
+}
+
+TEST(PropertyListShape, refusesEndsInTheWrongPlace)
+{
+    EXPECT_EQ(errorOf(""), "the list ends too early");
+    EXPECT_EQ(errorOf("</dict>"), "a container ends that did not begin");
+    EXPECT_EQ(errorOf("<dict></dict></dict>"), "a second list follows the first");
+    EXPECT_EQ(errorOf("<dict></dict><key>k</key>"), "a second list follows the first");
+    EXPECT_EQ(errorOfEntry("<integer>5</real>"), "'5' is interrupted");
+    EXPECT_EQ(errorOfEntry("<integer>5<integer>"), "'5' is interrupted");
+    EXPECT_EQ(errorOfEntry("<integer>5"), "'5' is interrupted");
+}
+
+TEST(PropertyListShape, refusesAPrologWithinOrBehindTheList)
+{
+    EXPECT_EQ(errorOfEntry("<?x?>"), "'<' within the list");
+    EXPECT_EQ(errorOf("<dict/><?x?>"), "'<' within the list");
+    EXPECT_EQ(errorOf("<dict/><!DOCTYPE plist>"), "'<!' within the list");
+    EXPECT_EQ(
+        propertyListShapeError("<!DOCTYPE \"> <plist><dict/></plist>"), "an end within quotes");
+    EXPECT_EQ(propertyListShapeError("<plist x=\"\"><dict/></plist>"), "");
+}
+
+TEST(PropertyListShape, countsAnEmptyContainerAsOneThatNests)
+{
+    const auto around = [](int depth) {
+        std::string text = nested(depth);
+        return errorOf(
+            text.insert(text.size() / 2 - static_cast<std::size_t>(depth) / 2, "<dict/>"));
+    };
+    EXPECT_EQ(around(kPropertyListMaxDepth - 1), "");
+    EXPECT_EQ(around(kPropertyListMaxDepth), "containers nest deeper than 64");
+}
+
+TEST(PropertyListShape, passesAllWhiteSpaceAroundNumbersAndInTags)
+{
+    EXPECT_EQ(errorOfEntry("<integer>\t\r\n 7 \t\r\n</integer>"), "");
+    EXPECT_EQ(errorOfEntry("<real \t\r\n>1.5</real \t\r\n>"), "");
+    EXPECT_EQ(errorOf("<dict/> \t\r\n"), "");
+    EXPECT_EQ(errorOfEntry("<integer>\v7</integer>"), "'\v7' is no integer");
+}
+
+TEST(PropertyListShape, datesHaveDigitsInTheirPlaces)
+{
+    const std::string date = "1909-09-29T19:59:09Z";
+    EXPECT_EQ(errorOfEntry("<date>" + date + "</date>"), "");
+    for (std::size_t at = 0; at < date.size(); ++at) {
+        for (const char wrong : {'/', ':', 'x'}) {
+            std::string other = date;
+            other[at] = wrong;
+            EXPECT_EQ(errorOfEntry("<date>" + other + "</date>") == "", other == date) << other;
+        }
+    }
+}
+
+TEST(PropertyListShape, takesEveryBeginningOfABinaryListForOne)
+{
+    EXPECT_EQ(propertyListShapeError("bplist"), "the binary list is too short");
+    EXPECT_EQ(propertyListShapeError("bplist99"), "the binary list is too short");
+    EXPECT_EQ(
+        propertyListShapeError("bplist00" + std::string(31, '\0')), "the binary list is too short");
+    EXPECT_EQ(propertyListShapeError("bplist00" + std::string(32, '\0')),
+        "the binary list's trailer contradicts its size");
+    EXPECT_EQ(propertyListShapeError("bplis"), "the list does not end");
+}
+
+TEST(PropertyListShape, binaryIntegersHaveOneToEightBytes)
+{
+    for (const int width : {1, 3, 8}) {
+        EXPECT_EQ(propertyListShapeError(withWidths(width, 1)), "") << width;
+        EXPECT_EQ(propertyListShapeError(withWidths(1, width)), "") << width;
+    }
+    for (const int width : {0, 9}) {
+        EXPECT_NE(propertyListShapeError(withWidths(1, width)), "") << width;
+    }
+    EXPECT_NE(propertyListShapeError(withWidths(0, 1)), "");
+    EXPECT_EQ(
+        propertyListShapeError(withWidths(9, 1)), "the binary list's trailer contradicts its size");
+}
+
+TEST(PropertyListShape, aTableOfOffsetsHasToFit)
+{
+    std::string list = lastObject("\xA0");
+    ASSERT_EQ(propertyListShapeError(list), "");
+    const std::size_t trailer = list.size() - 32;
+    const auto with = [&](std::size_t at, std::size_t value) {
+        std::string changed = list;
+        changed.replace(trailer + at, 8, Binary::number(value, 8));
+        return propertyListShapeError(changed);
+    };
+    const std::string contradicts = "the binary list's trailer contradicts its size";
+    EXPECT_EQ(with(8, 0), contradicts) << "no object";
+    EXPECT_EQ(with(8, 2), "") << "the table ends where the trailer begins";
+    EXPECT_EQ(with(8, 3), contradicts);
+    EXPECT_EQ(with(16, 1), contradicts) << "the top object is behind the last";
+    EXPECT_EQ(with(24, trailer), contradicts) << "no room for one offset";
+    EXPECT_EQ(with(24, trailer + 1), contradicts);
+    EXPECT_EQ(with(24, list.size()), contradicts);
+}
+
+TEST(PropertyListShape, binaryObjectsLieBetweenMagicAndTrailer)
+{
+    const std::string outside = "an object lies outside of the list";
+    std::string list = lastObject("\xA0");
+    EXPECT_EQ(propertyListShapeError(list), "");
+    list[8] = 8; // the offset itself, as an object
+    EXPECT_EQ(propertyListShapeError(list), "");
+    list[8] = 7;
+    EXPECT_EQ(propertyListShapeError(list), outside);
+    list[8] = 10;
+    EXPECT_EQ(propertyListShapeError(list), outside);
+    list[8] = 11;
+    EXPECT_EQ(propertyListShapeError(list), outside);
+}
+
+TEST(PropertyListShape, followsTheReferencesOfContainersAlone)
+{
+    for (const unsigned type : {0xAU, 0xBU, 0xCU}) {
+        const std::string marker(1, static_cast<char>(type << 4U | 1U));
+        EXPECT_EQ(propertyListShapeError(lastObject(marker + '\0')), "a container holds itself");
+        EXPECT_EQ(propertyListShapeError(lastObject(marker + '\1')),
+            "a container refers to an object that is not there");
+        EXPECT_EQ(
+            propertyListShapeError(lastObject(marker)), "a container is longer than the list");
+    }
+    EXPECT_EQ(
+        propertyListShapeError(lastObject(std::string("\xD1\0\0", 3))), "a container holds itself");
+    EXPECT_EQ(propertyListShapeError(lastObject(std::string("\xD1\0", 2))),
+        "a container is longer than the list");
+    for (const unsigned type : {0x5U, 0x8U, 0x9U, 0xEU, 0xFU}) {
+        const std::string marker(1, static_cast<char>(type << 4U | 1U));
+        EXPECT_EQ(propertyListShapeError(lastObject(marker + '\0')), "") << type;
+    }
+}
+
+TEST(PropertyListShape, longContainersCountWithAnIntegerObject)
+{
+    const std::string tooLong = "a container is longer than the list";
+    const auto array = [](const std::string& count) {
+        return propertyListShapeError(lastObject("\xAF" + count));
+    };
+    for (int power = 0; power <= 3; ++power) {
+        const std::string marker(1, static_cast<char>(0x10 + power));
+        EXPECT_EQ(array(marker + std::string(std::size_t{1} << power, '\0')), "") << power;
+        EXPECT_EQ(array(marker + std::string((std::size_t{1} << power) - 1, '\0')), tooLong);
+        EXPECT_EQ(array(marker + std::string((std::size_t{1} << power) - 1, '\0') + '\1'), tooLong);
+    }
+    EXPECT_EQ(array(""), tooLong);
+    EXPECT_EQ(array("\x14" + std::string(16, '\0')), tooLong) << "no count has 16 bytes";
+    EXPECT_EQ(array(std::string("\x20\0", 2)), tooLong) << "a real is no count";
+    EXPECT_EQ(array(std::string("\x30\0", 2)), tooLong);
+    EXPECT_EQ(array(std::string("\x00\0", 2)), tooLong);
+    EXPECT_EQ(array('\x20' + std::string(40, '\0')), tooLong) << "also where there is room";
+    EXPECT_EQ(
+        array(std::string("\x10\1\1", 3)), "a container refers to an object that is not there");
+}
+
+TEST(PropertyListShape, a128BitIntegerHasToBeWhole)
+{
+    const std::string low = "\x14" + std::string(8, '\0') + std::string(8, '\xFF');
+    EXPECT_EQ(propertyListShapeError(lastObject(low)), "");
+    EXPECT_EQ(propertyListShapeError(lastObject(low.substr(0, 16))),
+        "an integer does not fit into 64 bits");
+    for (std::size_t at = 1; at <= 8; ++at) {
+        std::string high = low;
+        high[at] = '\1';
+        EXPECT_EQ(propertyListShapeError(lastObject(high)), "an integer does not fit into 64 bits");
+    }
+}
+
+TEST(PropertyListShape, aBinaryListMayExpandTo100000Objects)
+{
+    const auto expanded = [](std::size_t more) {
+        Binary list;
+        const std::size_t leaf = list.add(kTrue);
+        const std::size_t thousand = list.addArray(std::vector<std::size_t>(999, leaf));
+        std::vector<std::size_t> parts(99, thousand);
+        parts.resize(99 + 999 + more, leaf);
+        return propertyListShapeError(list.finish(list.addArray(parts)));
+    };
+    EXPECT_EQ(expanded(0), "");
+    EXPECT_EQ(expanded(1), "the list expands to more than 100000 objects");
 }

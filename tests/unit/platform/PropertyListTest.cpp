@@ -6,16 +6,21 @@
 #include "TemporaryHome.h"
 
 #include <QFileInfo>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 #include <plist/plist.h>
 
+#include <array>
+#include <cerrno>
 #include <chrono>
 #include <clocale>
 #include <cmath>
+#include <cstdio>
 #include <limits>
 #include <memory>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 using namespace platform;
@@ -184,6 +189,9 @@ TEST(PropertyList, realsSurviveALocaleWithADecimalComma)
     const PropertyList list = parsed("<key>r</key><real>2.75</real>");
     EXPECT_NE(list.toXml().find("<real>2.75</real>"), std::string::npos) << list.toXml();
     EXPECT_STREQ(std::setlocale(LC_ALL, nullptr), "de_DE.UTF-8");
+    std::array<char, 8> text{};
+    std::snprintf(text.data(), text.size(), "%.2f", 2.75);
+    EXPECT_STREQ(text.data(), "2,75") << "the host goes on in its own locale";
 }
 
 TEST(PropertyList, theBinaryFormIsLoadedAndWrittenAsXml)
@@ -378,4 +386,100 @@ TEST(PropertyList, setsReplacesAndAddsEntries)
     EXPECT_NE(xml.find("<integer>4294967295</integer>"), std::string::npos);
     EXPECT_NE(xml.find("<string>&lt;&amp;&gt;</string>"), std::string::npos);
     EXPECT_EQ(root.keys().front(), "a");
+}
+
+TEST(PropertyList, realsBeyond64BitsAreTheNearestInteger)
+{
+    constexpr auto kMost = std::numeric_limits<std::int64_t>::max();
+    constexpr auto kLeast = std::numeric_limits<std::int64_t>::min();
+    EXPECT_EQ(Number::real(0x1p62).longValue(), kMost / 2 + 1);
+    EXPECT_EQ(Number::real(0x1p63).longValue(), kMost);
+    EXPECT_EQ(Number::real(1e19).longValue(), kMost);
+    EXPECT_EQ(Number::real(-0x1p62).longValue(), kLeast / 2);
+    EXPECT_EQ(Number::real(-0x1p63).longValue(), kLeast);
+    EXPECT_EQ(Number::real(-1e300).longValue(), kLeast);
+    EXPECT_EQ(Number::real(std::nan("")).longValue(), 0);
+}
+
+TEST(PropertyList, aListOfTheGreatestSizeIsTakenAndNoLargerOne)
+{
+    const TemporaryHome home;
+    const QString path = home.path() + QStringLiteral("/list.plist");
+    QByteArray bytes = sampleConfig();
+    bytes.append(static_cast<int>(kPropertyListMaxSize) - bytes.size(), ' ');
+    writeFile(path, bytes);
+    PropertyListError error;
+    EXPECT_TRUE(PropertyList::load(path.toStdString(), error)) << error.message;
+    bytes.append(' ');
+    EXPECT_NE(loadError(bytes).find("larger than 1048576 bytes"), std::string::npos);
+    EXPECT_FALSE(PropertyList::parse(bytes.toStdString(), error));
+    EXPECT_EQ(error.message, "it is larger than 1048576 bytes");
+}
+
+TEST(PropertyList, aFileThatIsLongerThanItSaysIsReadWhole)
+{
+    // A process's arguments are a regular file of no size. They end with a NUL, of which only
+    // somebody knows who has read them whole.
+    QProcess process;
+    process.start(QStringLiteral("/bin/sh"),
+        {QStringLiteral("-c"), QStringLiteral("echo; read line"),
+            QString::fromUtf8(sampleConfig())});
+    ASSERT_TRUE(process.waitForReadyRead());
+    PropertyListError error;
+    EXPECT_FALSE(
+        PropertyList::load("/proc/" + std::to_string(process.processId()) + "/cmdline", error));
+    EXPECT_NE(error.message.find("text after the end of the list"), std::string::npos)
+        << error.message;
+    process.closeWriteChannel();
+    EXPECT_TRUE(process.waitForFinished());
+}
+
+TEST(PropertyList, leavesNoFileOpen)
+{
+    const TemporaryHome home;
+    const QString path = home.path() + QStringLiteral("/list.plist");
+    writeFile(path, sampleConfig());
+    const auto open = [] {
+        return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries).size();
+    };
+    const auto before = open();
+    PropertyListError error;
+    EXPECT_TRUE(PropertyList::load(path.toStdString(), error));
+    EXPECT_FALSE(PropertyList::load(home.path().toStdString(), error));
+    EXPECT_EQ(open(), before);
+}
+
+TEST(PropertyList, aNewFileIsItsOwnersAlone)
+{
+    const TemporaryHome home;
+    const std::string path = home.path().toStdString() + "/new.plist";
+    PropertyListError error;
+    ASSERT_TRUE(PropertyList().saveNew(path, error)) << error.message;
+    struct stat status { };
+    ASSERT_EQ(::stat(path.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0600U);
+}
+
+TEST(PropertyList, saysWhyANewFileCannotBeMade)
+{
+    const TemporaryHome home;
+    const std::string folder = home.path().toStdString();
+    PropertyListError error;
+    EXPECT_FALSE(PropertyList().saveNew(folder + "/none/new.plist", error));
+    EXPECT_EQ(error.message,
+        "cannot create " + folder + "/none/new.plist: " + std::system_category().message(ENOENT));
+    ASSERT_TRUE(PropertyList().saveNew(folder + "/new.plist", error));
+    EXPECT_FALSE(PropertyList().saveNew(folder + "/new.plist", error));
+    EXPECT_EQ(error.message,
+        "cannot create " + folder + "/new.plist: " + std::system_category().message(EEXIST));
+}
+
+TEST(PropertyList, setsBooleansAsBooleans)
+{
+    const PropertyList list;
+    list.root().setBoolean("yes", true);
+    list.root().setBoolean("no", false);
+    const std::string xml = list.toXml();
+    EXPECT_NE(xml.find("<key>yes</key>\n\t<true/>"), std::string::npos) << xml;
+    EXPECT_NE(xml.find("<key>no</key>\n\t<false/>"), std::string::npos) << xml;
 }

@@ -1,0 +1,201 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""tests/mutation/run on a small program, of which it is known what its tests notice."""
+
+import json
+import pathlib
+import subprocess
+import tempfile
+import unittest
+
+RUN = pathlib.Path(__file__).resolve().parent / "run"
+
+FILES = {
+    ".gitignore": "/build/\n",
+    "CMakeLists.txt": """
+cmake_minimum_required(VERSION 3.25)
+project(Small LANGUAGES CXX)
+set(CMAKE_CXX_STANDARD 20)
+find_package(GTest REQUIRED)
+add_library(small STATIC small.cpp)
+add_executable(small-tests small_test.cpp)
+target_link_libraries(small-tests PRIVATE small GTest::gtest_main)
+""",
+    "small.h": """
+#pragma once
+int atLeastZero(int value);
+int untested(int value);
+unsigned long steps(unsigned long count);
+void note(int value);
+int noted();
+int asked();
+""",
+    "small.cpp": """
+#include "small.h"
+static int last = 0;
+static int questions = 0;
+static_assert(sizeof(int) == 4);
+int atLeastZero(int value)
+{
+    return value < 0 ? 0 : value;
+}
+int untested(int value)
+{
+    return value * 5;
+}
+unsigned long steps(unsigned long count)
+{
+    unsigned long done = 0;
+    for (; done != count; ++done) { }
+    return done;
+}
+static void keep(int value)
+{
+    last = value;
+}
+void note(int value)
+{
+    keep(value);
+}
+int noted()
+{
+    return last;
+}
+int asked()
+{
+    return ++questions;
+}
+""",
+    "small_test.cpp": """
+#include "small.h"
+#include <gtest/gtest.h>
+TEST(Small, keepsAboveZero)
+{
+    EXPECT_EQ(atLeastZero(-3), 0);
+    EXPECT_EQ(atLeastZero(3), 3);
+}
+TEST(Small, stepsUp)
+{
+    EXPECT_EQ(steps(3), 3);
+}
+TEST(Small, notes)
+{
+    note(7);
+    EXPECT_EQ(noted(), 7);
+}
+TEST(Small, isAskedOnce)
+{
+    EXPECT_EQ(asked(), 1);
+}
+TEST(Small, isAskedOnceInAnotherProcess)
+{
+    EXPECT_EQ(asked(), 1);
+}
+TEST(Other, isNotRun)
+{
+    EXPECT_EQ(untested(1), 0);
+}
+""",
+    "tests/mutation/areas.toml": """
+[small]
+"small.cpp" = ["small-tests:Small.*"]
+""",
+    "tests/mutation/equivalent": """
+# Zero is as good from either side.
+small.cpp: zero is zero by either way
+- return value < 0 ? 0 : value;
++ return value <= 0 ? 0 : value;
+""",
+}
+
+
+class MutationTest(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        folder = tempfile.TemporaryDirectory()
+        cls.addClassCleanup(folder.cleanup)
+        cls.root = pathlib.Path(folder.name)
+        for name, text in FILES.items():
+            (cls.root / name).parent.mkdir(parents=True, exist_ok=True)
+            (cls.root / name).write_text(text)
+        subprocess.run(["git", "init", "--quiet", cls.root], check=True)
+        cls.done = cls.run_tool("--all")
+        log = (cls.root / "build/mutation/log").read_text().splitlines()
+        cls.results = {entry["new"]: entry for entry in map(json.loads, log)}
+
+    @classmethod
+    def run_tool(cls, *arguments):
+        return subprocess.run([RUN, "--root", cls.root, *arguments], capture_output=True, text=True)
+
+    def result(self, new):
+        self.assertIn(new, self.results, self.done.stdout + self.done.stderr)
+        return self.results[new]["result"], self.results[new]["by"]
+
+    def test_notices_a_fault_that_a_test_looks_at(self):
+        self.assertEqual(self.result("return value >= 0 ? 0 : value;"),
+                         ("noticed", "Small.keepsAboveZero"))
+        self.assertEqual(self.result("return value < 0 ? 1 : value;"),
+                         ("noticed", "Small.keepsAboveZero"))
+
+    def test_notices_a_call_that_is_left_out(self):
+        self.assertEqual(self.result(";"), ("noticed", "Small.notes"))
+
+    def test_takes_a_hang_for_noticed(self):
+        self.assertEqual(self.result("for (; done != count; --done) { }"),
+                         ("noticed", "Small.stepsUp (takes too long)"))
+
+    def test_does_not_count_what_does_not_compile(self):
+        self.assertEqual(self.result("static_assert(sizeof(int) != 4);"), ("no build", ""))
+
+    def test_says_which_faults_nobody_notices(self):
+        self.assertEqual(self.result("return value * 6;"), ("unnoticed", ""))
+        self.assertIn("small.cpp:12:20\n    - return value * 5;\n    + return value * 6;\n",
+                      self.done.stdout)
+
+    def test_gives_the_share_of_what_could_be_noticed(self):
+        self.assertEqual(self.done.returncode, 0, self.done.stdout + self.done.stderr)
+        line = next(line for line in self.done.stdout.splitlines() if line.startswith("small "))
+        faults, noticed, left, share = line.split()[1:5]
+        equivalent, no_build = line.split()[6:]
+        self.assertEqual((left, equivalent), ("5", "1"))
+        self.assertEqual(int(faults), int(noticed) + int(left))
+        self.assertEqual(float(share), round(100 * int(noticed) / int(faults), 1))
+        self.assertEqual(no_build, "2")
+
+    def test_leaves_the_sources_alone(self):
+        self.assertEqual((self.root / "small.cpp").read_text(), FILES["small.cpp"])
+
+    def test_goes_on_where_it_was_interrupted(self):
+        log = self.root / "build/mutation/log"
+        before = log.read_text()
+        self.addCleanup(log.write_text, before)
+        first, *rest = before.splitlines(keepends=True)
+        log.write_text("".join(rest))
+        done = self.run_tool("--all", "--resume")
+        self.assertEqual(done.returncode, 0, done.stdout + done.stderr)
+        self.assertEqual(sorted(map(str.strip, log.read_text().splitlines())),
+                         sorted(map(str.strip, before.splitlines())))
+        self.assertEqual(log.read_text().splitlines(keepends=True)[-1], first)
+
+    def test_reports_an_equivalent_that_no_longer_fits(self):
+        equivalent = self.root / "tests/mutation/equivalent"
+        before = equivalent.read_text()
+        self.addCleanup(equivalent.write_text, before)
+        equivalent.write_text(before + "small.cpp: it was there once\n- return 1;\n+ return 2;\n"
+                              "small.cpp: it is noticed\n- return value < 0 ? 0 : value;\n"
+                              "+ return value < 0 ? 1 : value;\n")
+        done = self.run_tool("--all", "--resume")
+        self.assertEqual(done.returncode, 1)
+        self.assertIn("no such fault any more in small.cpp:\n    - return 1;", done.stdout)
+        self.assertIn("Small.keepsAboveZero notices, in small.cpp:", done.stdout)
+
+    def test_samples_the_same_faults_each_time(self):
+        every = self.run_tool("--all", "--list").stdout
+        some = self.run_tool("--all", "--list", "--sample", "3").stdout
+        self.assertEqual(some, self.run_tool("--all", "--list", "--sample", "3").stdout)
+        self.assertLess(len(some), len(every) / 2)
+        self.assertGreater(len(some), 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
