@@ -25,11 +25,13 @@ std::string tooDeep()
     return "containers nest deeper than " + std::to_string(kPropertyListMaxDepth);
 }
 
-/** The beginning of a text in single quotes. */
+/** The beginning of a text in single quotes; each byte that is not plain is a question mark. */
 std::string shown(std::string_view text)
 {
     std::string quoted(1, '\'');
-    quoted.append(text.substr(0, 32));
+    for (const char c : text.substr(0, 32)) {
+        quoted += c >= ' ' && c <= '~' ? c : '?';
+    }
     quoted += '\'';
     return quoted;
 }

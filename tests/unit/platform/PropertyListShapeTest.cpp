@@ -100,6 +100,13 @@ std::string withWidths(int offset, int reference)
 
 } // namespace
 
+TEST(PropertyListShape, quotesWhatItRefusesInOneLineOfPlainText)
+{
+    // As it stands in a log and on the panel, whatever the file may hold.
+    EXPECT_EQ(errorOf("<a\x1b[1m\x7f\xff\xc3\xa4>"), "unknown tag 'a?[1m?\?\?\?'");
+    EXPECT_EQ(errorOf("<\x01\nS)>"), "unknown tag '?\?S)'");
+}
+
 TEST(PropertyListShape, passesAConfigurationFile)
 {
     EXPECT_EQ(propertyListShapeError(sampleConfig().toStdString()), "");
