@@ -10,8 +10,7 @@
 
 #include <QLoggingCategory>
 
-#include <array>
-#include <cstring>
+#include <string>
 #include <vector>
 
 namespace {
@@ -126,10 +125,7 @@ QVConfigStore::QVConfigStore()
 
 std::string QVConfigStore::configPath()
 {
-    std::array<char, 256> path{};
-    std::strncat(path.data(), kConfigFolder, path.size() - 1);
-    std::strncat(path.data(), GetPListName(), path.size() - 1 - std::strlen(path.data()));
-    return platform::expandTilde(path.data());
+    return platform::expandTilde(std::string(kConfigFolder) + GetPListName());
 }
 
 void QVConfigStore::ReadQVConfigPlist()

@@ -50,6 +50,23 @@ protected:
         }
         return texts;
     }
+    /** Whether the view is painted soon after that. */
+    template <class Action>
+    bool isDrawnAfter(const Action& action)
+    {
+        struct Paints final : QObject {
+            bool eventFilter(QObject* watched, QEvent* event) override
+            {
+                seen = seen || event->type() == QEvent::Paint;
+                return QObject::eventFilter(watched, event);
+            }
+            bool seen = false;
+        } paints;
+        QTest::qWait(50); // what is due already
+        view().installEventFilter(&paints);
+        action();
+        return QTest::qWaitFor([&] { return paints.seen; }, 1000);
+    }
     QImage draw()
     {
         view().setNeedsDisplay();
@@ -196,6 +213,28 @@ TEST_F(DisplayPage, nothingSelectedIsStoredButMapsNothing)
     EXPECT_EQ(pushes().size(), 1U);
     draw();
     EXPECT_EQ(list().currentIndex(), 0);
+}
+
+TEST_F(DisplayPage, anItemBeyondAllDisplaysIsStoredButMapsNothing)
+{
+    choose(list(), 2);
+    const Rect before = mapped();
+    list().addItems({QStringLiteral("3"), QStringLiteral("4"), QStringLiteral("5")});
+    list().setCurrentIndex(5);
+    view().SelectMonitor();
+    EXPECT_EQ(+qvTabletInfo.Monitor.num, 5);
+    EXPECT_EQ(mapped(), before);
+}
+
+TEST_F(DisplayPage, isDrawnAnewAfterWhatChangesIt)
+{
+    EXPECT_FALSE(isDrawnAfter([] {}));
+    EXPECT_TRUE(isDrawnAfter([this] {
+        list().setCurrentIndex(2);
+        view().SelectMonitor();
+    }));
+    EXPECT_TRUE(isDrawnAfter([this] { view().AutoCalibrate(); }));
+    EXPECT_TRUE(isDrawnAfter([this] { mDisplays.change({kRight}); }));
 }
 
 // Other actions -----------------------------------------------------------------------------------
