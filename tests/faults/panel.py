@@ -202,7 +202,7 @@ class Panel:
     def notice(self):
         """The line that says what has gone wrong; nothing while there is none."""
         for path, role in self.walk_whole():
-            if role == "label":
+            if role == "notification":
                 text = self.texts(path)[0]
                 if ("not taken" in text or "not saved" in text) and self.state(path, "showing"):
                     return text

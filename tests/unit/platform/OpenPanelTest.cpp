@@ -88,5 +88,5 @@ TEST_F(OpenPanel, asksAgainForWhatIsNoApplication)
     });
     answer.start(10);
     EXPECT_EQ(choose(tool), QFileInfo(file).canonicalFilePath());
-    EXPECT_EQ(told, 1);
+    EXPECT_GE(told, 1);
 }
