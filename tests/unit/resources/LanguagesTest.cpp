@@ -596,13 +596,16 @@ TEST_F(RightToLeft, leavesTheCurvesNamesAtItsAxes)
 
 TEST_F(RightToLeft, leavesTheKeyboardAsItIs)
 {
-    show();
-    QVKeySetClass& dialog = keyDialog();
+    QVKeySetClass dialog;
     dialog.showWindow();
     settle();
     const QHash<QString, QRect> before = places(dialog);
     turn();
-    const QHash<QString, QRect> after = places(dialog);
+    QVKeySetClass other;
+    other.showWindow();
+    settle();
+    EXPECT_EQ(other.size(), dialog.size());
+    const QHash<QString, QRect> after = places(other);
     int keys = 0;
     for (auto place = before.cbegin(); place != before.cend(); ++place) {
         const bool isKey = place.key().startsWith(QLatin1String("key"));
