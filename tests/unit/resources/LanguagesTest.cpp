@@ -108,10 +108,10 @@ protected:
     }
     static void post(QLatin1String name) { platform::notifications().post({name, nullptr, {}}); }
 
-    /** Calls the function at every page, in the view's usual size and in its smallest. */
+    /** Calls the function at every page, in the view's usual size and in smaller ones. */
     void atEveryPage(const std::function<void()>& look)
     {
-        for (const QSize size : {mArea.size(), QSize(200, 200)}) {
+        for (const QSize size : {mArea.size(), mInterfaceFile, QSize(200, 200)}) {
             mArea.resize(size);
             QTabWidget& tabs = *mWindow->findChild<QTabWidget*>();
             for (int page = 0; page < tabs.count(); ++page) {
@@ -215,8 +215,12 @@ void expectFits(const QComboBox& list)
         QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list);
     constexpr int kMargins = 4;
     for (int item = 0; item < list.count(); ++item) {
-        expectRoom(list, list.itemText(item),
-            sizeOf(list, list.itemText(item)) + QSize(kMargins, 0), field.size());
+        // The field is as high as the usual font; of others the ink counts, not their distance.
+        const QString text = list.itemText(item);
+        expectRoom(list, text,
+            {sizeOf(list, text).width() + kMargins,
+                list.fontMetrics().tightBoundingRect(text).height()},
+            field.size());
     }
 }
 
@@ -245,7 +249,8 @@ void expectAllFits(const QWidget& window)
         ++count;
     }
     for (const auto* const button : visible<QAbstractButton>(window)) {
-        expectRoom(*button, button->text(), button->sizeHint(), button->size());
+        expectRoom(*button, button->text(),
+            {button->sizeHint().width(), sizeOf(*button, button->text()).height()}, button->size());
         expectInside(*button);
         ++count;
     }
@@ -356,7 +361,6 @@ TEST_P(Language, needsNoMoreRoomThanTheInterfaceFileHas)
         const QSize least = mWindow->minimumSizeHint();
         EXPECT_LE(least.width(), mInterfaceFile.width());
         EXPECT_LE(least.height(), mInterfaceFile.height());
-        EXPECT_EQ(mWindow->size(), mInterfaceFile);
     }
 }
 
