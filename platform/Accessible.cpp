@@ -29,7 +29,7 @@ public:
     QString text(QAccessible::Text kind) const override
     {
         const Accessible* const accessible = accessibleOf(widget());
-        const QString usual = QAccessibleWidget::text(kind);
+        QString usual = QAccessibleWidget::text(kind);
         if (accessible == nullptr) {
             return usual;
         }
