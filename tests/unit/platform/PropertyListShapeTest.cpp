@@ -328,7 +328,7 @@ TEST(PropertyListShape, passesAllWhiteSpaceAroundNumbersAndInTags)
     EXPECT_EQ(errorOfEntry("<integer>\t\r\n 7 \t\r\n</integer>"), "");
     EXPECT_EQ(errorOfEntry("<real \t\r\n>1.5</real \t\r\n>"), "");
     EXPECT_EQ(errorOf("<dict/> \t\r\n"), "");
-    EXPECT_EQ(errorOfEntry("<integer>\v7</integer>"), "'\v7' is no integer");
+    EXPECT_EQ(errorOfEntry("<integer>\v7</integer>"), "'?7' is no integer");
 }
 
 TEST(PropertyListShape, datesHaveDigitsInTheirPlaces)
