@@ -3,6 +3,7 @@
 #include "PaneWindow.h"
 
 #include <QCloseEvent>
+#include <QCoreApplication>
 #include <QDir>
 #include <QPixmap>
 #include <QScreen>
@@ -69,6 +70,12 @@ QStringList PaneWindow::render(const QString& folder)
     QStringList files;
     const auto save = [&](const QString& name) {
         const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
+        // A window that is never shown is laid out for its picture. What it posts then lets go of a
+        // scroll bar that it has no need for, one by one.
+        for (int bar = 0; bar < 2; ++bar) {
+            grab();
+            QCoreApplication::sendPostedEvents();
+        }
         if (!grab().save(file)) {
             return false;
         }
