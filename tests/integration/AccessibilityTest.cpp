@@ -244,7 +244,7 @@ void expectTabVisitsAllInOrder(QWidget& window)
     auto back = tabAround(window, Qt::Key_Backtab, stops.size());
     std::ranges::reverse(back);
     EXPECT_EQ(back, there);
-    std::ranges::rotate(there, std::ranges::find(there, first));
+    std::rotate(there.begin(), std::ranges::find(there, first), there.end());
     for (std::size_t i = 0; i + 1 < there.size(); ++i) {
         EXPECT_TRUE(isNext(*there[i], *there[i + 1]))
             << there[i]->objectName().toStdString() << " to "
