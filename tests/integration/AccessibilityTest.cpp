@@ -559,11 +559,11 @@ TEST_F(Accessibility, theArrowsBendTheCurve)
     auto& slider = outlet<QSlider>("mSlider");
     slider.setValue(1000);
     QTest::keyClick(&slider, Qt::Key_Right);
-    EXPECT_EQ(pushes().back().Pen.PressureThreshold, 101);
+    EXPECT_EQ(+pushes().back().Pen.PressureThreshold, 101);
     QTest::keyClick(&slider, Qt::Key_PageUp);
-    EXPECT_EQ(pushes().back().Pen.PressureThreshold, 111);
+    EXPECT_EQ(+pushes().back().Pen.PressureThreshold, 111);
     QTest::keyClick(&slider, Qt::Key_Home);
-    EXPECT_EQ(pushes().back().Pen.PressureThreshold, 0);
+    EXPECT_EQ(+pushes().back().Pen.PressureThreshold, 0);
 }
 
 TEST_F(Accessibility, showsWhichViewHasTheFocus)

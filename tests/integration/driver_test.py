@@ -214,9 +214,14 @@ class Driver(session.Session):
         while "is owned by" not in monitor.stdout.readline():
             pass
         self.simulator("Attach", "q", "20739")
-        lines = monitor.stdout.readline() + monitor.stdout.readline()
-        self.assertIn("AttachedChanged (uint16 20739,)", lines)
-        self.assertIn("/org/quorvia/AppleEvents: org.quorvia.AppleEvents1.Changed ()", lines)
+        # What the driver has said at its start may still be on its way.
+        line = monitor.stdout.readline()
+        if "AttachedChanged (uint16 20737,)" in line:
+            monitor.stdout.readline()
+            line = monitor.stdout.readline()
+        self.assertIn("AttachedChanged (uint16 20739,)", line)
+        self.assertIn("/org/quorvia/AppleEvents: org.quorvia.AppleEvents1.Changed ()",
+                      monitor.stdout.readline())
         self.send(PUSH)
         self.assertIn("Pushed (uint32 1,)", monitor.stdout.readline())
 
