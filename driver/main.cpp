@@ -150,8 +150,6 @@ int main(int argc, char* argv[])
     if (!error.isEmpty()) {
         return fail(error);
     }
-    say(QStringLiteral("ready"));
-
     const platform::UnixSignals signals({SIGTERM, SIGINT, SIGHUP});
     const auto end = [] {
         // What has already arrived is handled before the driver goes.
@@ -172,6 +170,7 @@ int main(int argc, char* argv[])
             window.get(), &TabletWindow::closed, application.get(), end, Qt::QueuedConnection);
         window->show();
     }
+    say(QStringLiteral("ready")); // for what may end it, too
     const int result = hasWindow ? QApplication::exec() : QCoreApplication::exec();
     driver.saveState();
     say(QStringLiteral("ended"));
