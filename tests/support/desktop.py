@@ -90,10 +90,15 @@ class Desktop(session.Session):
 
     def close_window(self, title):
         """Asks the window to close, as its close button does."""
-        window = session.wait_for(
+        self.ask_to_close(session.wait_for(
             lambda: self.run_program("xdotool", "search", "--onlyvisible", "--name",
-                                     title).stdout.split(), f"the window '{title}'")[0]
-        self.xdotool("windowactivate", "--sync", window, "key", "alt+F4")
+                                     title).stdout.split(), f"the window '{title}'")[0])
+
+    def ask_to_close(self, window):
+        """The same for the window with that number. Goes through the window manager, since a key
+        that comes right after a window has been shown may reach nobody."""
+        result = self.run_program("wmctrl", "-i", "-c", window)
+        self.assertEqual(result.returncode, 0, result.stderr)
 
     def pixels(self, x, y, width, height):
         """The colours of a part of the screen, row by row, as #RRGGBB."""
