@@ -31,7 +31,7 @@ class SystemSettings(host.Host):
         self.click(self.wait_for_button(APPLICATION, name, True))
 
     def close(self):
-        self.xdotool("windowactivate", "--sync", self.window(), "key", "alt+F4")
+        self.ask_to_close(self.window())
 
     def window(self):
         return session.wait_for(
@@ -82,6 +82,10 @@ class SystemSettings(host.Host):
             apply = self.find(APPLICATION, "Apply", "push button")
             self.assertLessEqual(pages["x"] + pages["width"], window["x"] + window["width"])
             self.assertLessEqual(pages["y"] + pages["height"], apply["y"])
+            self.assertEqual([thing for thing in things if thing["role"] == "scroll bar"
+                              and thing["showing"]
+                              and thing["path"][:len(pages["path"])] != pages["path"]], [],
+                             "only what is on a page scrolls")
             if "QVTBLT_PICTURES" in os.environ:
                 picture = pathlib.Path(os.environ["QVTBLT_PICTURES"]) / f"systemsettings-{file}.png"
                 self.run_program("sleep", "1")  # the tab's own animation
