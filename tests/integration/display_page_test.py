@@ -25,10 +25,8 @@ class Page(displays.Displays):
     SETTINGS = {}
 
     def items(self):
-        box = next(thing for thing in self.things("qvtblt", "--items")
-                   if thing["description"] == LIST)
-        return [thing["name"] for thing in self.things("qvtblt", "--items")
-                if thing["role"] == "list item" and thing["path"][:len(box["path"])] == box["path"]]
+        return [thing["name"] for thing in self.things("qvtblt", "--items-of", LIST)
+                if thing["role"] == "list item"]
 
     def wait_for_items(self, count):
         names = ["Display #1"] if count == 1 else [

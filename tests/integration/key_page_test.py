@@ -100,8 +100,7 @@ class KeyPage(desktop.Desktop):
     def focus(self, name):
         """Goes to a control with Tab."""
         for _ in range(90):
-            if any(name in (thing["name"], thing["description"]) for thing in self.things("qvtblt")
-                   if thing["focused"]):
+            if name in self.accessible("qvtblt", "--focused").splitlines():
                 return
             self.xdotool("key", "Tab")
         self.fail(f"Tab does not reach '{name}'")

@@ -50,7 +50,7 @@ class Desktop(session.Session):
             "org.freedesktop.DBus", "NameHasOwner", "s", name).stdout == "b true\n"
 
     def things(self, application, *options):
-        """All that the application shows to screen readers; the items of lists with "--items"."""
+        """What the application shows to screen readers; options are those of accessible.py."""
         return json.loads(self.accessible(application, *options))
 
     def accessible(self, *arguments):
@@ -67,6 +67,8 @@ class Desktop(session.Session):
         """Waits for the thing with that name or description; gives its properties. The thing is below
         the one whose path is given."""
         options = ["--items"] if role == "list item" else []
+        if not showing:
+            options.append("--all")
 
         def look():
             for thing in self.things(application, *options):
