@@ -93,7 +93,7 @@ def main():
     parser.add_argument("driver")
     parser.add_argument("plasma_module", type=pathlib.Path, help="its package, unpacked")
     parser.add_argument("output", type=pathlib.Path)
-    parser.add_argument("--runs", type=int, default=15)
+    parser.add_argument("--runs", type=int, default=30)
     options = parser.parse_args()
 
     with tempfile.TemporaryDirectory() as folder:
