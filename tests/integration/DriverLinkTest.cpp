@@ -21,6 +21,7 @@
 #include <gtest/gtest.h>
 
 #include <cstring>
+#include <malloc.h>
 #include <map>
 
 using namespace platform;
@@ -53,6 +54,28 @@ Peer::Answer replyWithLong(std::int32_t number)
     return replyWith(keyDirectObject, typeLongInteger, bytes(number));
 }
 
+/** A part of a message that stands out in the memory that is in use. */
+constexpr std::size_t kBigPart = std::size_t{1} << 20U;
+
+std::size_t memoryInUse()
+{
+    const auto figures = mallinfo2();
+    return figures.uordblks + figures.hblkhd;
+}
+
+/** Expects of an exchange with a part of that size that nothing of it is kept. */
+template <class Exchange>
+void expectNoGrowth(const Exchange& exchange)
+{
+    constexpr int kTimes = 8;
+    exchange(); // what the first one has made may stay
+    const std::size_t before = memoryInUse();
+    for (int i = 0; i < kTimes; ++i) {
+        exchange();
+    }
+    EXPECT_LT(memoryInUse(), before + kTimes / 2 * kBigPart);
+}
+
 class DriverLink : public testing::Test {
 protected:
     void SetUp() override
@@ -67,6 +90,26 @@ protected:
         testing::internal::CaptureStderr();
         EXPECT_TRUE(PushQVTabletInfo());
         return testing::internal::GetCapturedStderr();
+    }
+
+    /** Sends a call to a receiver of events and runs the event loop until its answer is there. */
+    static QDBusMessage sendTo(
+        DBusAppleEvents& receiver, Peer& sender, const QList<QVariant>& arguments)
+    {
+        QDBusMessage call = QDBusMessage::createMethodCall(receiver.connection().baseService(),
+            QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
+            QStringLiteral("Send"));
+        call.setArguments(arguments);
+        const QDBusPendingCall pending = sender.connection().asyncCall(call, 5000);
+        while (!pending.isFinished()) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        }
+        return pending.reply();
+    }
+
+    static QList<QVariant> event(uint eventClass, uint eventID, const Parameters& list)
+    {
+        return {eventClass, eventID, parameters(list)};
     }
 
     /** Counts the notices under a name from now on. */
@@ -205,6 +248,17 @@ TEST_F(DriverLink, takesAnErrorOrAReplyOfAnotherFormForNoAnswer)
         EXPECT_FALSE(rzkgetQVDevice());
         EXPECT_STREQ(GetPListName(), "former");
     }
+}
+
+TEST_F(DriverLink, logsAReplyOfAnotherForm)
+{
+    Peer driver(mBus, kDriverName);
+    driver.answer = [](const QDBusMessage& call) { return call.createReply(7); };
+    testing::internal::CaptureStderr();
+    EXPECT_FALSE(rzkgetQVDevice());
+    const std::string log = testing::internal::GetCapturedStderr();
+    EXPECT_NE(log.find("org.quorvia.AppleEvents.TdSg sent a malformed reply"), std::string::npos)
+        << log;
 }
 
 TEST_F(DriverLink, waitsForADriverThatNeeds200Milliseconds)
@@ -386,6 +440,18 @@ TEST_F(DriverLink, sendsNowhereWithoutAnAddressThatItKnows)
     }
 }
 
+TEST_F(DriverLink, keepsNothingOfTheAnswersToPushes)
+{
+    Peer driver(mBus, kDriverName);
+    driver.answer =
+        replyWith(keyDirectObject, typeUTF8Text, QByteArray(static_cast<int>(kBigPart), 'x'));
+    expectNoGrowth([this] {
+        push();
+        EXPECT_EQ(mEvents.finishSends(), noErr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    });
+}
+
 TEST_F(DriverLink, aPushAfterTheDriverWasKilledSaysOk)
 {
     DriverProcess driver;
@@ -497,23 +563,10 @@ protected:
         mEvents.acceptEventsFrom(kQVDriverSignature);
     }
 
-    /** Sends a call to the panel and runs the event loop until its answer is there. */
+    /** Sends a call to the panel. */
     QDBusMessage send(Peer& sender, const QList<QVariant>& arguments)
     {
-        QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
-            QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
-            QStringLiteral("Send"));
-        call.setArguments(arguments);
-        const QDBusPendingCall pending = sender.connection().asyncCall(call, 5000);
-        while (!pending.isFinished()) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-        }
-        return pending.reply();
-    }
-
-    static QList<QVariant> event(uint eventClass, uint eventID, const Parameters& list)
-    {
-        return {eventClass, eventID, parameters(list)};
+        return sendTo(mEvents, sender, arguments);
     }
 };
 
@@ -653,6 +706,18 @@ TEST_F(Inbound, onlyThePresentOwnerOfTheDriversNameIsTaken)
         QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
 }
 
+TEST_F(Inbound, anotherSourceTakesThePlaceOfTheFirst)
+{
+    mEvents.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
+    Peer driver(mBus, kDriverName);
+    Peer other(mBus, QStringLiteral("org.quorvia.AppleEvents.Othr"));
+    EXPECT_EQ(send(driver, event(1, 2, {})).type(), QDBusMessage::ReplyMessage);
+    mEvents.acceptEventsFrom(fourCharCode("Othr"));
+    EXPECT_EQ(send(other, event(1, 2, {})).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(send(driver, event(1, 2, {})).errorName(),
+        QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
+}
+
 TEST_F(Inbound, malformedEventsAreRefused)
 {
     bool handled = false;
@@ -671,6 +736,7 @@ TEST_F(Inbound, malformedEventsAreRefused)
         event(1, 2, {{3, {4, QDBusVariant(5)}}}),
         event(1, 2, {{3, {4, QDBusVariant(QStringLiteral("text"))}}}),
         event(1, 2, {{3, {4, QDBusVariant(QStringList())}}}),
+        event(1, 2, {{3, {4, QDBusVariant(QVariant::fromValue(QList<int>{5}))}}}),
         event(1, 2, {{3, {4, QDBusVariant(QVariant::fromValue(QDBusVariant(QByteArray())))}}}),
         event(1, 2, {{3, nestedList(9)}}),
         event(1, 2, {{3, nestedList(20)}}),
@@ -681,6 +747,30 @@ TEST_F(Inbound, malformedEventsAreRefused)
     EXPECT_FALSE(handled);
     EXPECT_EQ(send(driver, event(1, 2, {{3, nestedList(8)}})).type(), QDBusMessage::ReplyMessage);
     EXPECT_TRUE(handled);
+}
+
+TEST_F(Inbound, aMalformedEventIsLogged)
+{
+    Peer driver(mBus, kDriverName);
+    testing::internal::CaptureStderr();
+    send(driver, {1U, 2U});
+    const std::string log = testing::internal::GetCapturedStderr();
+    EXPECT_NE(log.find("refused a malformed event, from " + driver.uniqueName().toStdString()),
+        std::string::npos)
+        << log;
+}
+
+TEST_F(Inbound, keepsNothingOfAnEventThatWasRead)
+{
+    mEvents.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
+    Peer driver(mBus, kDriverName);
+    const TestDesc big{4, QDBusVariant(QByteArray(static_cast<int>(kBigPart), 'x'))};
+    for (const TestDesc& desc :
+        {big, TestDesc{4, QDBusVariant(QVariant::fromValue(Descriptors{big}))}}) {
+        expectNoGrowth([&] {
+            EXPECT_EQ(send(driver, event(1, 2, {{3, desc}})).type(), QDBusMessage::ReplyMessage);
+        });
+    }
 }
 
 TEST_F(Inbound, moreThan4096ItemsAreMalformed)
@@ -886,6 +976,45 @@ TEST_F(DriverLink, theDriverDoesNotStartWhenAnotherProgramHasItsName)
     EXPECT_EQ(driver.readAllStandardError(),
         "tdsg-driver: another program has the name org.quorvia.AppleEvents.TdSg\n");
     EXPECT_TRUE(mHome.configFolder().isEmpty()) << "it must leave the user's files alone";
+}
+
+TEST_F(DriverLink, anApplicationTakesEverybodysEvents)
+{
+    DBusAppleEvents application;
+    application.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
+    EXPECT_EQ(application.registerApplication(kQVDriverSignature), QString());
+    Peer anybody(mBus);
+    EXPECT_EQ(sendTo(application, anybody, event(1, 2, {})).type(), QDBusMessage::ReplyMessage);
+}
+
+TEST_F(DriverLink, anApplicationWithoutItsNameTakesNobodysEvents)
+{
+    DBusAppleEvents application;
+    application.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
+    Peer other(mBus, kDriverName);
+    EXPECT_EQ(application.registerApplication(kQVDriverSignature),
+        QStringLiteral("another program has the name org.quorvia.AppleEvents.TdSg"));
+    EXPECT_EQ(sendTo(application, other, event(1, 2, {})).errorName(),
+        QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
+}
+
+TEST_F(DriverLink, anApplicationsAnnouncementIsAChangeOfTheSource)
+{
+    mEvents.acceptEventsFrom(kQVDriverSignature);
+    int& changes = countOf(kSourceChangedNotification);
+    const auto waitFor = [&](int count) {
+        QElapsedTimer timer;
+        timer.start();
+        while (changes < count && timer.elapsed() < 5000) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        }
+        return changes;
+    };
+    DBusAppleEvents application;
+    EXPECT_EQ(application.registerApplication(kQVDriverSignature), QString());
+    EXPECT_EQ(waitFor(1), 1);
+    application.announceChange();
+    EXPECT_EQ(waitFor(2), 2);
 }
 
 TEST_F(DriverLink, nobodyTakesTheNameFromTheDriver)

@@ -15,6 +15,7 @@
 struct FakeUsbService {
     platform::IOReturn interfaceError = platform::kIOReturnSuccess; ///< no interface is created
     int configurations = 1;
+    std::uint8_t configurationValue = 7;
     platform::IOReturn countError = platform::kIOReturnSuccess;
     platform::IOReturn descriptorError = platform::kIOReturnSuccess;
     std::deque<platform::IOReturn> openErrors; ///< of each opening; success after the last
@@ -162,7 +163,7 @@ private:
         platform::IOReturn getConfigurationDescriptor(
             std::uint8_t index, platform::UsbConfigurationDescriptor& descriptor) override
         {
-            descriptor = {1, static_cast<std::uint8_t>(index + 7)};
+            descriptor = {1, static_cast<std::uint8_t>(index + mFake->configurationValue)};
             return mFake->descriptorError;
         }
         platform::IOReturn open() override

@@ -3,6 +3,7 @@
 #include "Client.h"
 
 #include "FakeEvents.h"
+#include "Notifications.h"
 #include "rzkApplication.h"
 
 #include <gtest/gtest.h>
@@ -136,4 +137,22 @@ TEST(ConnectToDriver, saysFailWithThreeDotsWhenTheDataCannotBePut)
         std::string(kDiagnostic) + "ConnectToDriver fail...\n");
     EXPECT_FALSE(result);
     EXPECT_TRUE(events.sent.empty());
+}
+
+TEST(ConnectToDriver, tellsThatItHasPushedWhetherOrNotItCould)
+{
+    FakeEvents events;
+    const auto record = markedRecord();
+    const QObject observer;
+    int told = 0;
+    notifications().addObserver(observer, kRecordPushedNotification, [&](const Notification&) {
+        EXPECT_EQ(events.sent.size(), 1U) << "once it is sent";
+        ++told;
+    });
+    bool result = false;
+    pushAndCapture(record.data(), 5077, result);
+    EXPECT_EQ(told, 1);
+    events.putParamResult = errAECoercionFail;
+    pushAndCapture(record.data(), 5077, result);
+    EXPECT_EQ(told, 2);
 }

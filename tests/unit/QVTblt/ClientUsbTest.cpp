@@ -128,6 +128,14 @@ TEST_F(ClientUsb, aRequestThatFailsCountsAsSent)
     EXPECT_EQ(count("request"), 1);
 }
 
+TEST_F(ClientUsb, aDeviceWhoseConfigurationHasTheNumberZeroIsAskedToo)
+{
+    mUsb.devices.resize(1);
+    mUsb.devices[0].configurationValue = 0;
+    EXPECT_EQ(iterate(), 0);
+    EXPECT_EQ(count("request"), 1);
+}
+
 TEST_F(ClientUsb, aDeviceThatIsHeldIsTriedFourTimesWithASecondAfterEach)
 {
     mUsb.devices.resize(1);
