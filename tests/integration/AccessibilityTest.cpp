@@ -404,6 +404,10 @@ TEST_F(Accessibility, saysTheCurveInWords)
     EXPECT_EQ(contents(curve),
         "Threshold 0 of 200. Of what programs receive at full pressure, they receive 50 % at a "
         "quarter of it, 71 % at half and 87 % at three quarters.");
+    outlet<QSlider>("mSlider").setValue(1800);
+    EXPECT_EQ(contents(curve),
+        "Threshold 180 of 200. Of what programs receive at full pressure, they receive 8 % at a "
+        "quarter of it, 29 % at half and 59 % at three quarters.");
     const Told told;
     outlet<QSlider>("mSlider").setValue(1500);
     EXPECT_TRUE(

@@ -210,7 +210,10 @@ TEST_F(Calibration, withoutAMainDisplayIsNotStarted)
     mDisplays.change({{0, 0, 1920, 1080}, {1920, 0, 800, 600}});
     mDisplays.main = 7;
     outlet<QComboBox>("mComboBox").setCurrentIndex(2);
+    testing::internal::CaptureStderr();
     start();
+    const std::string log = testing::internal::GetCapturedStderr();
+    EXPECT_NE(log.find("no display is the main one"), std::string::npos) << log;
     EXPECT_EQ(window(), nullptr);
     EXPECT_EQ(+qvTabletInfo.Monitor.disableFlag, 0);
 }
@@ -310,6 +313,48 @@ TEST_F(Calibration, anAlertWithoutAnAnswerChangesNothingMore)
     EXPECT_NE(window(), nullptr);
 }
 
+TEST_F(Calibration, afterAnAlertWithoutAnAnswerEachReportAsksAgain)
+{
+    start();
+    mAlerts.answer = 0;
+    tapAllFour();
+    tap(5000, 5000);
+    EXPECT_EQ(mAlerts.shown.size(), 3U);
+    EXPECT_EQ(points(), 4);
+    EXPECT_EQ(area(), mCalibrated) << "of the four points, not of the fifth";
+}
+
+TEST_F(Calibration, aLiftAfterTheFourthPointIsNoFifth)
+{
+    start();
+    mAlerts.answer = 0;
+    deliver({report(1, 5000, 5000)});
+    view().changenPointValue(4);
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(mAlerts.shown.size(), 1U) << "the pass has ended";
+}
+
+TEST_F(Calibration, acceptedCountsFromTheFirstPointAgain)
+{
+    start();
+    QVCalibrateView& last = view();
+    tapAllFour();
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(last.changenPointValue(0), 0);
+}
+
+TEST_F(Calibration, pausesAfterTheFirstPointAndAfterTheLast)
+{
+    start();
+    tap(1000, 800);
+    EXPECT_EQ(sleeps(), 1);
+    tap(19200, 800);
+    tap(19200, 10600);
+    EXPECT_EQ(sleeps(), 1);
+    tap(1000, 10600);
+    EXPECT_EQ(sleeps(), 3);
+}
+
 TEST_F(Calibration, inAnotherOrderIsAnErrorAndBeginsAgain)
 {
     start();
@@ -338,6 +383,13 @@ TEST_F(Calibration, onlyFromExactlyDownToExactlyUpIsALift)
     deliver({report(1, 5000, 5000)});
     deliver({report(0, 5000, 5000)});
     EXPECT_EQ(points(), 1);
+}
+
+TEST_F(Calibration, beforeTheFirstReportOfAllThePenIsNotDown)
+{
+    start();
+    deliver({report(0, 5000, 5000)});
+    EXPECT_EQ(points(), 0);
 }
 
 TEST_F(Calibration, aLiftTooNearTheLastPointIsRefusedWithTheRestOfItsEvent)
@@ -712,5 +764,12 @@ TEST_F(Calibration, drawsTheErasedCrossesRectangleOnceMore)
         EXPECT_EQ(painted.regions[1].boundingRect(), rectangles[static_cast<std::size_t>(cross)])
             << cross;
         EXPECT_EQ(painted.regions.size(), 2U) << "and no more";
+    }
+    for (const int none : {31, 36}) {
+        QTest::qWait(20);
+        painted.regions.clear();
+        view().setDrawEraseFlag(none);
+        painted.wait(1);
+        EXPECT_EQ(painted.regions.size(), 1U) << none;
     }
 }

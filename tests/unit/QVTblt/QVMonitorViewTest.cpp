@@ -346,6 +346,30 @@ TEST_F(DisplayPage, drawingUpdatesTheMappedAreaWithoutPushing)
     EXPECT_TRUE(pushes().empty());
 }
 
+TEST_F(DisplayPage, drawingSelectsTheOneDisplay)
+{
+    mDisplays.change({kFullHD});
+    list().setCurrentIndex(-1);
+    draw();
+    EXPECT_EQ(list().currentIndex(), 0);
+}
+
+TEST_F(DisplayPage, drawingFramesTheOneDisplay)
+{
+    mDisplays.change({kFullHD});
+    const QImage drawn = draw();
+    const double density = view().devicePixelRatioF();
+    const auto colorAt = [&](double x, double y) {
+        return drawn.pixelColor(static_cast<int>(x * density), static_cast<int>(y * density));
+    };
+    // Its miniature has 128 by 72 points; the name stands in its left half.
+    EXPECT_EQ(colorAt(420.5, 110.5), QColor(Qt::magenta));
+    for (const QPointF& edge : {QPointF(310.5, 130.5), QPointF(437.5, 130.5), QPointF(380.5, 90.5),
+             QPointF(380.5, 161.5)}) {
+        EXPECT_EQ(colorAt(edge.x(), edge.y()), QColor(Qt::black)) << edge.x() << ", " << edge.y();
+    }
+}
+
 TEST_F(DisplayPage, aDisplayThatIsGoneShowsAllButMapsItsOldPlace)
 {
     const Rect third{3200, 0, 800, 600};

@@ -75,6 +75,13 @@ TEST_F(PressurePage, drawsTheCurveInItsFrame)
     }
 }
 
+TEST_F(PressurePage, hasAGroundThatNothingShowsThrough)
+{
+    EXPECT_TRUE(view().testAttribute(Qt::WA_OpaquePaintEvent)) << "Qt draws nothing below it";
+    const QImage drawn = drawWith(100);
+    EXPECT_EQ(drawn.pixelColor(drawn.width() / 4, drawn.height() / 4), QColor(Qt::lightGray));
+}
+
 TEST_F(PressurePage, endsTheCurveBeforeTheUpperRightCorner)
 {
     const QImage straight = drawWith(100);
