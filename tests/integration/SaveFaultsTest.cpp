@@ -165,6 +165,24 @@ TEST_F(SaveFaults, aReadOnlyFileSystemLeavesTheOldFile)
     EXPECT_EQ(files(), QStringList{QStringLiteral("7.plist")});
 }
 
+TEST_F(SaveFaults, aFileThatCannotBeReplacedStaysAndTheLogSaysSo)
+{
+    if (!separateMounts()) {
+        GTEST_SKIP() << "this machine lets nobody mount: " << std::strerror(errno);
+    }
+    const std::string path = mPath.toStdString();
+    const QByteArray config = readFile(mPath);
+    ASSERT_EQ(::mount(path.c_str(), path.c_str(), nullptr, MS_BIND, nullptr), 0)
+        << std::strerror(errno);
+    setGeneration(99);
+    const std::string log = save();
+    EXPECT_NE(log.find("cannot write"), std::string::npos) << log;
+    EXPECT_NE(log.find(std::strerror(EBUSY)), std::string::npos) << log;
+    EXPECT_EQ(readFile(mPath), config);
+    EXPECT_EQ(files(), QStringList{QStringLiteral("7.plist")});
+    EXPECT_EQ(::umount2(path.c_str(), MNT_DETACH), 0);
+}
+
 namespace {
 
 /** As a user whom file modes hold; root is above them. */

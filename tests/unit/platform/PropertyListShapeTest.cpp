@@ -389,6 +389,30 @@ TEST(PropertyListShape, aTableOfOffsetsHasToFit)
     EXPECT_EQ(with(24, list.size()), contradicts);
 }
 
+TEST(PropertyListShape, aTableOfWideOffsetsHasToFit)
+{
+    Binary list;
+    std::string bytes = list.finish(list.addArray({}));
+    ASSERT_EQ(propertyListShapeError(bytes), "");
+    bytes.replace(bytes.size() - 24, 8, Binary::number(2, 8));
+    EXPECT_EQ(propertyListShapeError(bytes), "the binary list's trailer contradicts its size");
+}
+
+TEST(PropertyListShape, refusesContainersInEachOtherBeforeTheStackIsFull)
+{
+    constexpr std::size_t kCount = 200'000;
+    std::string list = "bplist00";
+    std::string offsets;
+    for (std::size_t i = 0; i < kCount; ++i) {
+        offsets += Binary::number(list.size(), 4);
+        list += i + 1 < kCount ? "\xA1" + Binary::number(i + 1, 4) : "\xA0";
+    }
+    const std::size_t table = list.size();
+    list += offsets + std::string(6, '\0') + "\x04\x04" + Binary::number(kCount, 8)
+        + Binary::number(0, 8) + Binary::number(table, 8);
+    EXPECT_EQ(propertyListShapeError(list), "containers nest deeper than 64");
+}
+
 TEST(PropertyListShape, binaryObjectsLieBetweenMagicAndTrailer)
 {
     const std::string outside = "an object lies outside of the list";

@@ -16,9 +16,12 @@
 #include <chrono>
 #include <clocale>
 #include <cmath>
+#include <csignal>
 #include <cstdio>
+#include <fcntl.h>
 #include <limits>
 #include <memory>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -447,6 +450,51 @@ TEST(PropertyList, leavesNoFileOpen)
     EXPECT_TRUE(PropertyList::load(path.toStdString(), error));
     EXPECT_FALSE(PropertyList::load(home.path().toStdString(), error));
     EXPECT_EQ(open(), before);
+}
+
+TEST(PropertyList, readsAndClosesAFileThatIsItsFirstDescriptor)
+{
+    const TemporaryHome home;
+    const QString path = home.path() + QStringLiteral("/list.plist");
+    writeFile(path, sampleConfig());
+    const int input = ::dup(STDIN_FILENO);
+    ::close(STDIN_FILENO); // the next file takes its number, 0
+    PropertyListError error;
+    EXPECT_TRUE(PropertyList::load(path.toStdString(), error)) << error.message;
+    EXPECT_EQ(::fcntl(STDIN_FILENO, F_GETFD), -1) << "it is closed";
+    if (input >= 0) {
+        ::dup2(input, STDIN_FILENO);
+        ::close(input);
+    }
+}
+
+TEST(PropertyList, anInterruptionOfSomethingBeforeIsNone)
+{
+    const TemporaryHome home;
+    const QString path = home.path() + QStringLiteral("/list.plist");
+    writeFile(path, sampleConfig());
+    const std::string name = path.toStdString();
+    PropertyListError error;
+    errno = EINTR; // what succeeds leaves it so
+    EXPECT_TRUE(PropertyList::load(name, error)) << error.message;
+}
+
+TEST(PropertyList, saysWhyNoMoreThanAByteCanBeWritten)
+{
+    const TemporaryHome home;
+    const std::string path = home.path().toStdString() + "/list.plist";
+    auto* const handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
+    struct rlimit before { };
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
+    struct rlimit one = before;
+    one.rlim_cur = 1;
+    PropertyListError error;
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &one), 0);
+    const bool isSaved = PropertyList().save(path, error);
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
+    std::signal(SIGXFSZ, handlerBefore);
+    EXPECT_FALSE(isSaved);
+    EXPECT_EQ(error.message, "cannot write " + path + ": " + std::system_category().message(EFBIG));
 }
 
 TEST(PropertyList, aNewFileIsItsOwnersAlone)
