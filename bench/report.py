@@ -47,11 +47,12 @@ RATIOS = {
                             "kcmshell5 starts with the tablet module that Plasma brings", 1.0),
 }
 
-# What grows, and by how many KiB at most.
+# What grows, and by how many KiB at most. What is lost each time is 16 bytes at least, which in
+# 100,000 times are 1,562 KiB; less than a tenth of that is the allocator's own affair.
 GROWTHS = {
-    "memoryOfPushes": ("pushes", 0),
-    "memoryOfLoads": ("loads", 0),
-    "memoryOfSaves": ("saves", 0),
+    "memoryOfPushes": ("pushes", 128),
+    "memoryOfLoads": ("loads", 128),
+    "memoryOfSaves": ("saves", 128),
     "memoryInHost": ("the panel in kcmshell5, above an empty module", 12 * 1024),
 }
 
@@ -64,7 +65,7 @@ def machine():
     cores = len(re.findall(r"^processor\s*:", pathlib.Path("/proc/cpuinfo").read_text(), re.M))
     memory = re.search(r"^MemTotal:\s*(\d+) kB$", pathlib.Path("/proc/meminfo").read_text(), re.M)
     return (f"{cores} cores of {processor[1] if processor else platform.machine()}, "
-            f"{int(memory[1]) / 2 ** 20:.0f} GiB, {system}, Linux {platform.release()}")
+            f"{int(memory[1]) / 2 ** 20:.0f} GiB, {system}, Linux {platform.release().split('-')[0]}")
 
 
 class Report:
