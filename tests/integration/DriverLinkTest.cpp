@@ -121,6 +121,17 @@ protected:
         return count;
     }
 
+    /** Runs the event loop until so many notices were counted, or in vain; gives how many. */
+    static int waitForCount(const int& counted, int count)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (counted < count && timer.elapsed() < 20000) {
+            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+        }
+        return counted;
+    }
+
     std::map<QString, int> mCounts;
     QObject mObserver;
     TemporaryHome mHome;
@@ -897,21 +908,15 @@ TEST_F(Inbound, only64StrangersAreLogged)
 
 TEST_F(Inbound, theDriversComingAndItsWordAreChangesAndItsGoingIsNone)
 {
-    int& changes = countOf(kSourceChangedNotification);
-    const auto waitFor = [&](int count) {
-        while (changes < count) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-        }
-        return changes;
-    };
+    const int& changes = countOf(kSourceChangedNotification);
     Peer driver(mBus, kDriverName);
-    EXPECT_EQ(waitFor(1), 1);
+    EXPECT_EQ(waitForCount(changes, 1), 1);
     driver.connection().send(QDBusMessage::createSignal(QStringLiteral("/org/quorvia/AppleEvents"),
         QStringLiteral("org.quorvia.AppleEvents1"), QStringLiteral("Changed")));
-    EXPECT_EQ(waitFor(2), 2);
+    EXPECT_EQ(waitForCount(changes, 2), 2);
     ASSERT_TRUE(driver.connection().unregisterService(kDriverName));
     ASSERT_TRUE(driver.connection().registerService(kDriverName));
-    EXPECT_EQ(waitFor(3), 3);
+    EXPECT_EQ(waitForCount(changes, 3), 3);
 }
 
 TEST_F(Inbound, goesOnTakingEventsAfterTheBusWasStartedAgain)
@@ -1001,20 +1006,12 @@ TEST_F(DriverLink, anApplicationWithoutItsNameTakesNobodysEvents)
 TEST_F(DriverLink, anApplicationsAnnouncementIsAChangeOfTheSource)
 {
     mEvents.acceptEventsFrom(kQVDriverSignature);
-    int& changes = countOf(kSourceChangedNotification);
-    const auto waitFor = [&](int count) {
-        QElapsedTimer timer;
-        timer.start();
-        while (changes < count && timer.elapsed() < 5000) {
-            QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-        }
-        return changes;
-    };
+    const int& changes = countOf(kSourceChangedNotification);
     DBusAppleEvents application;
     EXPECT_EQ(application.registerApplication(kQVDriverSignature), QString());
-    EXPECT_EQ(waitFor(1), 1);
+    EXPECT_EQ(waitForCount(changes, 1), 1);
     application.announceChange();
-    EXPECT_EQ(waitFor(2), 2);
+    EXPECT_EQ(waitForCount(changes, 2), 2);
 }
 
 TEST_F(DriverLink, nobodyTakesTheNameFromTheDriver)
