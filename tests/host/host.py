@@ -41,8 +41,7 @@ class Host(desktop.Desktop):
         return self.driver_log.read_text().count("query from")
 
     def start_host(self, *command):
-        quiet = subprocess.DEVNULL
-        return self.start(command, stdout=quiet, stderr=quiet)
+        return self.start(command, stdout=subprocess.DEVNULL)
 
     def file_strip(self):
         """Whether the file has the strip on."""

@@ -80,7 +80,7 @@ class Tree(desktop.Desktop):
 
     def start_panel(self, *arguments):
         self.driver = self.start_driver(*arguments)
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
 
     def test_the_pages(self):
         self.start_panel()
@@ -104,7 +104,7 @@ class Tree(desktop.Desktop):
         for product in (20760, 20766, 20743, 20752, 20755, 20757, 20758, 20737, 20770):
             with self.subTest(product):
                 self.simulator("Attach", "q", str(product))
-                panel = self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+                panel = self.start([session.BIN / "qvtblt"])
                 self.find("qvtblt", "Keys", "page tab")
                 self.expect_no_faults("qvtblt", 12, "combo box", "image")
                 self.end(panel)
@@ -162,7 +162,7 @@ class Told(desktop.Desktop):
     def setUp(self):
         super().setUp()
         self.driver = self.start_driver()
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "Keys", "page tab")
         script = pathlib.Path(desktop.__file__).with_name("accessible.py")
         listener = self.start(["/usr/bin/python3", "-B", script, "qvtblt", "--listen"],

@@ -23,7 +23,7 @@ class Calibration(displays.Displays):
         super().setUp()
         self.plug(1, "800x600", "1024x0")
         self.driver = self.start_driver()
-        self.panel = self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.panel = self.start([session.BIN / "qvtblt"])
         self.press("qvtblt", "Display", "page tab")
         box = self.find("qvtblt", LIST, "combo box")
         self.click(box)

@@ -18,7 +18,7 @@ class Page(displays.Displays):
         super().setUp()
         self.env.update(self.SETTINGS)
         self.start_driver()
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
         self.press("qvtblt", "Display", "page tab")
         self.find("qvtblt", LIST, "combo box")
 

@@ -20,7 +20,7 @@ class Notices(displays.Displays):
     def setUp(self):
         super().setUp()
         self.lines = queue.Queue()
-        program = self.start([NOTICES], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        program = self.start([NOTICES], stdout=subprocess.PIPE)
         threading.Thread(target=lambda: [self.lines.put(line.split()) for line in program.stdout],
                          daemon=True).start()
         self.assertEqual(self.lines.get(timeout=20), ["now", "0,0,1024,768*"])

@@ -47,7 +47,7 @@ class Icons(desktop.Desktop):
 
     def test_of_the_panel(self):
         self.start_driver()
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
         self.assert_window_has_icon("^Quorvia Tablet$", "org.quorvia.qvtblt")
 
     def test_of_the_simulated_tablet(self):

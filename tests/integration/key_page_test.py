@@ -3,7 +3,6 @@
 """The key page as a person uses it: a combination by mouse and by keyboard, an application, a model
 that is changed and comes back."""
 
-import subprocess
 import unittest
 
 import desktop
@@ -21,7 +20,7 @@ class KeyPage(desktop.Desktop):
         self.application.write_text("[Desktop Entry]\n")
 
     def start_panel(self):
-        panel = self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        panel = self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "Express key 3", "combo box")
         return panel
 

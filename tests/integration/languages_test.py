@@ -208,7 +208,7 @@ class Choice(desktop.Desktop):
 
     def start_panel(self, languages):
         self.env["LANGUAGE"] = languages
-        return self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        return self.start([session.BIN / "qvtblt"])
 
     def text(self, language, source):
         """A text of the panel in a language."""

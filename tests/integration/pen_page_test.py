@@ -3,7 +3,6 @@
 """The pen page as a person uses it: the slider bends the curve, the pad shows strokes at once."""
 
 import struct
-import subprocess
 import unittest
 
 import desktop
@@ -23,7 +22,7 @@ class Panel:
 
     def open_panel(self):
         self.start_driver()
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
         self.click(self.find("qvtblt", "Pen", "page tab"))
         self.pad = self.find("qvtblt", "Drawing pad")
         self.curve = self.find("qvtblt", "Pressure curve")

@@ -86,7 +86,7 @@ class CalibrationByHand(Tablet, displays.Displays):
         return struct.unpack_from(format, self.record(), offset)
 
     def start_calibration(self, item):
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
         self.click(self.find("qvtblt", "Display", "page tab"))
         if item:
             self.click(self.find("qvtblt", self.LIST, "combo box"))

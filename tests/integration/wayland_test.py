@@ -32,7 +32,7 @@ class WaylandCalibration(wayland.Wayland):
         settings = plistlib.loads(self.config().read_bytes())
         settings["Monitor"]["num"] = 2
         self.config().write_bytes(plistlib.dumps(settings))
-        self.start([session.BIN / "qvtblt"], **self.QUIET)
+        self.start([session.BIN / "qvtblt"])
 
     def crosses(self):
         """The crosses that the second display shows, by their numbers."""

@@ -89,7 +89,7 @@ class Window(desktop.Desktop):
 
     def test_without_a_tablet_there_is_only_the_label(self):
         self.start_driver("--attach", "none")
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "No tablet was found", "label")
         for thing in self.things("qvtblt"):
             if thing["role"] in ("check box", "push button", "page tab", "combo box"):
@@ -113,7 +113,7 @@ class Window(desktop.Desktop):
 
     def test_the_pages_appear_when_a_tablet_is_attached(self):
         self.start_driver("--attach", "none")
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "No tablet was found", "label")
         self.find("qvtblt", HELP, "label")
         self.simulator("Attach", "q", "20738")
@@ -122,7 +122,7 @@ class Window(desktop.Desktop):
         self.find("qvtblt", HELP, "label", showing=False)
 
     def test_the_pages_appear_when_the_driver_is_started(self):
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "No tablet was found", "label")
         self.start_driver()
         self.find("qvtblt", "Keys", "page tab")
@@ -130,7 +130,7 @@ class Window(desktop.Desktop):
 
     def test_what_the_driver_has_not_taken_it_gets_when_it_comes_back(self):
         driver = self.start_driver()
-        self.start([session.BIN / "qvtblt"], stderr=subprocess.DEVNULL)
+        self.start([session.BIN / "qvtblt"])
         strip = self.find("qvtblt", "Left scroll strip", "check box")
         self.stop_driver(driver, signal.SIGKILL)
         self.click(strip, 8)

@@ -23,10 +23,9 @@ class Desktop(session.Session):
         super().setUp()
         self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         self.start_display()
-        self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"], **self.QUIET)
+        self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"],
+                   stdout=subprocess.DEVNULL)
         session.wait_for(lambda: self.has_name("org.a11y.Bus"), "the accessibility bus")
-
-    QUIET = {"stdout": subprocess.DEVNULL, "stderr": subprocess.DEVNULL}
 
     def start_display(self):
         """Starts what shows windows."""
@@ -34,11 +33,11 @@ class Desktop(session.Session):
         # Without -noreset it would start over when the first of its programs ends, and take with it
         # the one that is just connecting.
         self.start([*self.x_server(), "-displayfd", write, "-nolisten", "tcp", "-noreset"],
-                   pass_fds=(write,), stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+                   pass_fds=(write,), stdout=subprocess.DEVNULL)
         os.close(write)
         with os.fdopen(read) as pipe:
             self.env["DISPLAY"] = ":" + pipe.readline().strip()
-        self.start(["openbox"], **self.QUIET)
+        self.start(["openbox"], stdout=subprocess.DEVNULL)
         session.wait_for(
             lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.run_program(
                 "xprop", "-root", "_NET_SUPPORTING_WM_CHECK").stdout, "the window manager")

@@ -4,9 +4,11 @@
 
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
+import sys
 import tempfile
 import time
 import unittest
@@ -58,6 +60,14 @@ class Session(unittest.TestCase):
 
     ACTIVATION = False
 
+    def run(self, result=None):
+        self.errors = []  # what the programs have said there
+        failures = len(result.failures) + len(result.errors)
+        super().run(result)
+        if len(result.failures) + len(result.errors) > failures:
+            print(*self.errors, sep="\n", file=sys.stderr)
+        return result
+
     def setUp(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="qvtblt-test-"))
         self.addCleanup(shutil.rmtree, self.folder, ignore_errors=True)
@@ -84,10 +94,14 @@ class Session(unittest.TestCase):
         self.assertTrue(bus.stdout.readline())
 
     def start(self, command, **options):
-        """Starts a program that is ended with the test, and with it all that it has started."""
+        """Starts a program that is ended with the test, and with it all that it has started. Its
+        standard error is shown if the test fails, unless the test reads it itself."""
         options.setdefault("text", True)
+        log = tempfile.TemporaryFile("w+", errors="replace")
+        options.setdefault("stderr", log)
         program = subprocess.Popen([str(word) for word in command], env=self.env,
                                    start_new_session=True, **options)
+        self.addCleanup(self.read_log, program, log)
         self.addCleanup(self.end, program)
         return program
 
@@ -98,6 +112,14 @@ class Session(unittest.TestCase):
         except ProcessLookupError:
             pass  # all of them have ended
         program.communicate()
+
+    def read_log(self, program, log):
+        with log:
+            log.seek(0)
+            text = log.read()
+        self.errors.append(f"{program.args[0]} ended with {program.returncode}: {text}")
+        # A sanitizer ends a program, which not every test would notice.
+        self.assertIsNone(re.search("Sanitizer|runtime error:", text), text)
 
     def start_driver(self, *arguments):
         """Starts the driver. Gives the process; what it says is read from its stdout."""

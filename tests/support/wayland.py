@@ -4,6 +4,7 @@
 
 import os
 import shutil
+import subprocess
 
 import dbus
 
@@ -26,7 +27,8 @@ class Wayland(desktop.Desktop):
         })
         self.start([kwin, "--virtual", "--output-count", "2", "--width", "1280", "--height", "720",
                     "--no-lockscreen", "--no-global-shortcuts",
-                    "--socket", self.env["WAYLAND_DISPLAY"]], **self.QUIET)
+                    "--socket", self.env["WAYLAND_DISPLAY"]],
+                   stdout=subprocess.DEVNULL)
         session.wait_for(lambda: self.has_name("org.kde.KWin"), "KWin")
         bus = dbus.bus.BusConnection(self.env["DBUS_SESSION_BUS_ADDRESS"])
         self.addCleanup(bus.close)
