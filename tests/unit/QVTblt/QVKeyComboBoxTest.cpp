@@ -5,6 +5,7 @@
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QSignalSpy>
+#include <QStyleOption>
 #include <QStyledItemDelegate>
 #include <QTest>
 #include <QToolTip>
@@ -182,6 +183,28 @@ TEST_F(KeyBox, aTextThatFitsHasNoTooltip)
     QHelpEvent event(QEvent::ToolTip, QPoint(10, 10), mBox.mapToGlobal(QPoint(10, 10)));
     QCoreApplication::sendEvent(&mBox, &event);
     EXPECT_FALSE(QToolTip::text().contains(mBox.currentText())) << qPrintable(QToolTip::text());
+}
+
+TEST_F(KeyBox, hasATooltipFromTheFirstPixelThatIsMissing)
+{
+    mBox.replaceItem(QVKeyComboBox::Application, QStringLiteral("/opt/draw.AppImage"));
+    const auto tooltip = [this] {
+        QToolTip::hideText();
+        QHelpEvent event(QEvent::ToolTip, QPoint(10, 10), mBox.mapToGlobal(QPoint(10, 10)));
+        return QCoreApplication::sendEvent(&mBox, &event) && QToolTip::isVisible();
+    };
+    // The label is drawn two pixels in from both ends of its field.
+    QStyleOptionComboBox option;
+    option.initFrom(&mBox);
+    const QRect field = mBox.style()->subControlRect(
+        QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &mBox);
+    const int needed = mBox.fontMetrics().horizontalAdvance(mBox.currentText()) + 4;
+    const int fitting = mBox.width() - field.width() + needed;
+    mBox.resize(fitting, mBox.height());
+    EXPECT_FALSE(tooltip());
+    mBox.resize(fitting - 1, mBox.height());
+    EXPECT_TRUE(tooltip());
+    QToolTip::hideText();
 }
 
 TEST_F(KeyBox, aReplacedItemTellsItsWholeTextInTheList)

@@ -186,14 +186,14 @@ TEST_F(KeySet, theCountAfterADeletionIsTheOrOfBothCounts)
 
 TEST_F(KeySet, deletingTwiceOfThreeKeepsTheFirst)
 {
-    click({"X", "Y", "Z"});
+    click({"Z", "Y", "X"});
     press("delBtn");
-    EXPECT_EQ(text(), QStringLiteral("X  Y"));
+    EXPECT_EQ(text(), QStringLiteral("Z  Y"));
     press("delBtn");
-    EXPECT_EQ(text(), QStringLiteral("X"));
+    EXPECT_EQ(text(), QStringLiteral("Z"));
     expectHasKeys(true);
     press("okBtn");
-    EXPECT_EQ(+slot().Key, 0x01000007U);
+    EXPECT_EQ(+slot().Key, 0x01000006U);
 }
 
 TEST_F(KeySet, okWithoutAKeyStoresNothing)
@@ -298,6 +298,29 @@ TEST_F(KeySet, showsWhichKeyHasTheFocus)
     key.setFocus();
     EXPECT_TRUE(key.hasFocus());
     EXPECT_NE(key.grab().toImage(), before);
+}
+
+TEST_F(KeySet, showsTheFocusFromItsActivationOn)
+{
+    // The fixture's own has been active before.
+    QVKeySetClass dialog;
+    QEvent deactivated(QEvent::WindowDeactivate);
+    QCoreApplication::sendEvent(&dialog, &deactivated);
+    EXPECT_FALSE(dialog.testAttribute(Qt::WA_KeyboardFocusChange));
+    QEvent activated(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&dialog, &activated);
+    EXPECT_TRUE(dialog.testAttribute(Qt::WA_KeyboardFocusChange));
+}
+
+TEST_F(KeySet, afterTheLastKeyIsDeletedTheFocusIsOnTheFirst)
+{
+    mDialog.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog));
+    click({"B"});
+    child<QPushButton>("delBtn").setFocus();
+    QTest::keyClick(&child<QPushButton>("delBtn"), Qt::Key_Space);
+    EXPECT_EQ(text(), QString());
+    EXPECT_EQ(QApplication::focusWidget(), &child<QToolButton>("keyCtrl"));
 }
 
 TEST_F(KeySet, spacePressesTheKeyThatHasTheFocus)

@@ -83,6 +83,17 @@ TEST_F(KeyView, aModelWithoutAPictureLeavesItEmpty)
     EXPECT_EQ(draw(0xFFFF), kNothing);
 }
 
+TEST_F(KeyView, saysWhetherThereIsAPicture)
+{
+    const QString none = QStringLiteral("There is no picture of this model.");
+    draw(kDraft);
+    EXPECT_TRUE(mView.spokenContents().endsWith(QStringLiteral("has the number of its list.")));
+    draw(kPocket);
+    EXPECT_EQ(mView.spokenContents(), none);
+    draw(0);
+    EXPECT_EQ(mView.spokenContents(), none);
+}
+
 TEST_F(KeyView, switchingBackLoadsThePictureAgain)
 {
     addPicture("tabletpic6.PNG", Qt::red);

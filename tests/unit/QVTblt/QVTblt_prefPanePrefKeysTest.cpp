@@ -339,6 +339,15 @@ TEST_F(KeyPage, layoutGGroupsTheKeysAroundTheStripAndTintsThem)
         outlet<QWidget>("penKeyUpper").palette().color(QPalette::Button), QColor(170, 170, 170));
 }
 
+TEST_F(KeyPage, layoutGLeavesTheListsUntinted)
+{
+    showProduct(kProductG);
+    for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Text, QPalette::Window}) {
+        EXPECT_EQ(box(0).view()->palette().color(role), box(17).view()->palette().color(role))
+            << role;
+    }
+}
+
 TEST_F(KeyPage, layoutGShowsTheScrollSpeedWithoutPushingIt)
 {
     edit([](tagQVTabletInfo& record) {
@@ -381,6 +390,32 @@ TEST_F(KeyPage, laidOutTwiceMovesTheFirstKeyTwice)
     mPane.willSelect();
     EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x + 10, mFirst.y - 130, mFirst.width, mFirst.height}));
     expectColumn({45, 90, 135});
+    mPane.didUnselect();
+    EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x + 5, mFirst.y - 65, mFirst.width, mFirst.height}))
+        << "where the second call found it";
+}
+
+TEST_F(KeyPage, laidOutTwiceMovesTheStripTwice)
+{
+    const Rect right = frame("mKeyRScroll");
+    setProduct(kProductG);
+    mPane.willSelect();
+    mPane.willSelect();
+    EXPECT_EQ(frame("mKeyLScroll"), (Rect{mStrip.x + 30, mStrip.y, mStrip.width, mStrip.height}));
+    mPane.didUnselect();
+    EXPECT_EQ(frame("mKeyLScroll"), (Rect{mStrip.x + 15, mStrip.y, mStrip.width, mStrip.height}));
+    EXPECT_EQ(frame("mKeyRScroll"), right);
+}
+
+TEST_F(KeyPage, leavingWithoutATabletKeepsTheInterfaceFilesPlaces)
+{
+    const Rect right = frame("mKeyRScroll");
+    mEvents.answer(0);
+    show();
+    leave();
+    EXPECT_EQ(frame("mKey1_1"), mFirst);
+    EXPECT_EQ(frame("mKeyLScroll"), mStrip);
+    EXPECT_EQ(frame("mKeyRScroll"), right);
 }
 
 TEST_F(KeyPage, leavingInBetweenLetsTheKeysStandStill)
