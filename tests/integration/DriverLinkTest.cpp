@@ -323,6 +323,16 @@ TEST_F(DriverLink, findsNoTabletWithoutABus)
     EXPECT_EQ(push(), "ConnectToDriver 0 0 0 0\nConnectToDriver ok\n");
 }
 
+TEST_F(DriverLink, logsThatThereIsNoBus)
+{
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
+    DBusAppleEvents events;
+    testing::internal::CaptureStderr();
+    events.acceptEventsFrom(kQVDriverSignature);
+    const std::string log = testing::internal::GetCapturedStderr();
+    EXPECT_NE(log.find("no session bus: "), std::string::npos) << log;
+}
+
 // The push ----------------------------------------------------------------------------------------
 
 TEST_F(DriverLink, pushesTheRecordByteForByte)
@@ -952,6 +962,7 @@ TEST_F(Inbound, aCallThatNamesNoInterfaceIsTakenAndOneOfAnotherIsNot)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
         }
         EXPECT_EQ(pending.isError(), !interface.isEmpty());
+        EXPECT_NE(pending.error().type(), QDBusError::NoReply) << "the caller waits for nothing";
         EXPECT_EQ(handled, count);
     }
 }

@@ -76,6 +76,14 @@ TEST_F(ClientUsb, succeedsWhateverBecomesOfTheDevices)
     EXPECT_TRUE(controlUSBDev(kQVReportFast, 0x5101));
 }
 
+TEST_F(ClientUsb, asksTheDeviceThatItFinds)
+{
+    mUsb.devices.resize(1);
+    EXPECT_TRUE(controlUSBDev(kQVReportFast, 0x5101));
+    ASSERT_EQ(mUsb.data.size(), 1U);
+    EXPECT_EQ(mUsb.data[0], (std::vector<std::uint8_t>{4, 1}));
+}
+
 TEST_F(ClientUsb, looksForTheMakersDevicesOfTheProduct)
 {
     quietly([] { return controlUSBDev(kQVReportFast, 0xC001); });

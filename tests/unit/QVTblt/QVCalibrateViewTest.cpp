@@ -742,6 +742,19 @@ TEST_F(Calibration, drawsEachCrossAndTheHintAsPlainPainterCallsDo)
     }
 }
 
+TEST_F(Calibration, eachPointIsFollowedByTheNextCross)
+{
+    startFarFromTheLastPoint();
+    const std::array<QPoint, 3> taps{{{1000, 800}, {19200, 800}, {19200, 10600}}};
+    for (std::size_t point = 0; point < taps.size(); ++point) {
+        tap(static_cast<std::uint16_t>(taps[point].x()),
+            static_cast<std::uint16_t>(taps[point].y()));
+        const QImage shown = view().grab().toImage();
+        view().setDrawEraseFlag(17 + static_cast<int>(point));
+        EXPECT_EQ(shown, view().grab().toImage()) << point;
+    }
+}
+
 TEST_F(Calibration, drawsTheErasedCrossesRectangleOnceMore)
 {
     // From the upper left corner: each reaches from a cross's height above the cross to its own

@@ -164,7 +164,7 @@ TEST(PropertyListShape, refusesIntegersThatWouldChange)
     }
     for (const char* const bad : {"", " ", "-", "0x", "abc", "1 2", "1.5", "010", "-08",
              "18446744073709551616", "-9223372036854775809", "99999999999999999999999",
-             "0x1ffffffffffffffff", "1<!-- -->0", "1<b/>"}) {
+             "0x1ffffffffffffffff", "0x1g", "1<!-- -->0", "1<b/>"}) {
         EXPECT_NE(errorOfEntry(std::string("<integer>") + bad + "</integer>"), "") << bad;
     }
     EXPECT_NE(errorOfEntry("<integer/>"), "");
@@ -175,6 +175,7 @@ TEST(PropertyListShape, saysWhichIntegerItIs)
     EXPECT_EQ(errorOfEntry("<integer>99999999999999999999</integer>"),
         "integer '99999999999999999999' does not fit into 64 bits");
     EXPECT_EQ(errorOfEntry("<integer>010</integer>"), "integer '010' has a leading zero");
+    EXPECT_EQ(errorOfEntry("<integer>~\x7F</integer>"), "'~?' is no integer");
 }
 
 TEST(PropertyListShape, refusesRealsAndDatesThatWouldChange)
@@ -461,6 +462,9 @@ TEST(PropertyListShape, longContainersCountWithAnIntegerObject)
         EXPECT_EQ(array(marker + std::string((std::size_t{1} << power) - 1, '\0') + '\1'), tooLong);
     }
     EXPECT_EQ(array(""), tooLong);
+    std::string inTheTrailer = lastObject("\xAF");
+    inTheTrailer[inTheTrailer.size() - 32] = '\x10'; // its unused bytes may hold anything
+    EXPECT_EQ(propertyListShapeError(inTheTrailer), tooLong);
     EXPECT_EQ(array("\x14" + std::string(16, '\0')), tooLong) << "no count has 16 bytes";
     EXPECT_EQ(array(std::string("\x20\0", 2)), tooLong) << "a real is no count";
     EXPECT_EQ(array(std::string("\x30\0", 2)), tooLong);
@@ -468,6 +472,20 @@ TEST(PropertyListShape, longContainersCountWithAnIntegerObject)
     EXPECT_EQ(array('\x20' + std::string(40, '\0')), tooLong) << "also where there is room";
     EXPECT_EQ(
         array(std::string("\x10\1\1", 3)), "a container refers to an object that is not there");
+}
+
+TEST(PropertyListShape, aContainersReferencesOfTwoBytesHaveToFit)
+{
+    // Two parts of an array, a key and a value of a dictionary; both end at the trailer.
+    for (const char marker : {'\xA2', '\xD1'}) {
+        const auto errorOf = [marker](std::size_t bytes) {
+            return propertyListShapeError("bplist00\x09" + (marker + std::string(bytes, '\0'))
+                + std::string(6, '\0') + "\x01\x02" + Binary::number(1, 8) + Binary::number(0, 8)
+                + Binary::number(8, 8));
+        };
+        EXPECT_EQ(errorOf(4), "a container holds itself");
+        EXPECT_EQ(errorOf(3), "a container is longer than the list");
+    }
 }
 
 TEST(PropertyListShape, a128BitIntegerHasToBeWhole)

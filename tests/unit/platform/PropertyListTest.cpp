@@ -20,6 +20,7 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <limits>
+#include <malloc.h>
 #include <memory>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -466,6 +467,35 @@ TEST(PropertyList, readsAndClosesAFileThatIsItsFirstDescriptor)
         ::dup2(input, STDIN_FILENO);
         ::close(input);
     }
+}
+
+TEST(PropertyList, saysWhyAFileThatOpensCannotBeRead)
+{
+    // A regular file, by what the system says of it; at its beginning no memory lies.
+    const std::string path = "/proc/self/mem";
+    PropertyListError error;
+    EXPECT_FALSE(PropertyList::load(path, error));
+    EXPECT_EQ(error.message, "cannot read " + path + ": " + std::system_category().message(EIO));
+    EXPECT_FALSE(error.missing);
+}
+
+TEST(PropertyList, keepsNoMemoryOfAListThatHasGone)
+{
+    const TemporaryHome home;
+    const QString path = home.path() + QStringLiteral("/list.plist");
+    writeFile(path, sampleConfig());
+    const auto readOne = [name = path.toStdString()] {
+        PropertyListError error;
+        const auto list = PropertyList::load(name, error);
+        return list ? list->root().keys().size() : 0;
+    };
+    EXPECT_GT(readOne(), 0U); // what the first one has made may stay
+    constexpr std::size_t kTimes = 100;
+    const std::size_t before = mallinfo2().uordblks;
+    for (std::size_t i = 0; i < kTimes; ++i) {
+        readOne();
+    }
+    EXPECT_LT(mallinfo2().uordblks, before + kTimes * sizeof(void*)) << "less than a pointer each";
 }
 
 TEST(PropertyList, anInterruptionOfSomethingBeforeIsNone)
