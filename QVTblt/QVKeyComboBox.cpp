@@ -118,7 +118,6 @@ QVKeyComboBox::QVKeyComboBox(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setItemDelegate(new ItemDelegate(this));
-    view()->setTextElideMode(Qt::ElideMiddle);
     resetItems();
 }
 

@@ -124,7 +124,6 @@ bool QVKeySetClass::event(QEvent* event)
     if (event->type() == QEvent::WindowActivate) {
         // Styles show the focus only to those who have used Tab, and so not where the arrows start.
         setAttribute(Qt::WA_KeyboardFocusChange);
-        update();
     }
     return isHandled;
 }

@@ -154,6 +154,21 @@ TEST_F(KeyBox, aKeyThatWouldChooseOpensTheListInstead)
     EXPECT_EQ(mChoices.count(), 0);
 }
 
+TEST_F(KeyBox, keysThatChooseNothingDoAsInAnyBox)
+{
+    QTest::keyClick(&mBox, Qt::Key_F4);
+    EXPECT_TRUE(mBox.view()->isVisible());
+}
+
+TEST_F(KeyBox, aTextThatFitsIsDrawnAsInAnyBox)
+{
+    QComboBox plain;
+    plain.addItem(mBox.currentText());
+    plain.setFocusPolicy(mBox.focusPolicy());
+    plain.resize(mBox.size());
+    EXPECT_EQ(mBox.grab().toImage(), plain.grab().toImage());
+}
+
 TEST_F(KeyBox, otherKeysOpenNothing)
 {
     for (const Qt::Key key : {Qt::Key_F5, Qt::Key_Shift, Qt::Key_Left, Qt::Key_Tab}) {
@@ -255,6 +270,9 @@ TEST_F(KeyBox, noTextWidensIt)
     const QSize before = mBox.sizeHint();
     mBox.replaceItem(QVKeyComboBox::Application, QString(500, u'x'));
     EXPECT_EQ(mBox.sizeHint(), before);
+    QVKeyComboBox neverShown;
+    neverShown.replaceItem(QVKeyComboBox::Application, QString(500, u'x'));
+    EXPECT_EQ(neverShown.sizeHint(), QVKeyComboBox().sizeHint());
 }
 
 TEST_F(KeyBox, theWheelDoesNotTakeTheFocus)

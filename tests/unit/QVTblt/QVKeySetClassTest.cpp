@@ -95,6 +95,15 @@ TEST_F(KeySet, opensEmptyWithNothingToDeleteOrStore)
     EXPECT_EQ(+slot().Key, 0x01000008U);
 }
 
+TEST_F(KeySet, opensAtTheFirstModifier)
+{
+    child<QToolButton>("keyM").setFocus();
+    mDialog.CancelSet();
+    mDialog.QVShowWindow(&mBox);
+    mDialog.showWindow();
+    EXPECT_EQ(mDialog.focusWidget(), &child<QToolButton>("keyCtrl"));
+}
+
 TEST_F(KeySet, doesNotShowItsWindowWhenItIsPrepared)
 {
     mDialog.CancelSet();
@@ -182,6 +191,14 @@ TEST_F(KeySet, theCountAfterADeletionIsTheOrOfBothCounts)
     press("okBtn");
     EXPECT_EQ(+slot().Key, 0x03000607U);
     EXPECT_EQ(mBox.currentText(), QStringLiteral("X  Z"));
+}
+
+TEST_F(KeySet, deletingOneOfThreeForgetsTheThird)
+{
+    click({"Ctrl", "Shift", "Z"});
+    press("delBtn");
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x02003836U);
 }
 
 TEST_F(KeySet, deletingTwiceOfThreeKeepsTheFirst)
@@ -316,8 +333,10 @@ TEST_F(KeySet, afterTheLastKeyIsDeletedTheFocusIsOnTheFirst)
 {
     mDialog.activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog));
-    click({"B"});
+    click({"B", "C"});
     child<QPushButton>("delBtn").setFocus();
+    QTest::keyClick(&child<QPushButton>("delBtn"), Qt::Key_Space);
+    EXPECT_EQ(QApplication::focusWidget(), &child<QPushButton>("delBtn")) << "there is one left";
     QTest::keyClick(&child<QPushButton>("delBtn"), Qt::Key_Space);
     EXPECT_EQ(text(), QString());
     EXPECT_EQ(QApplication::focusWidget(), &child<QToolButton>("keyCtrl"));

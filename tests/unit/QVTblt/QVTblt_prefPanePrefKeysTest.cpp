@@ -395,6 +395,35 @@ TEST_F(KeyPage, laidOutTwiceMovesTheFirstKeyTwice)
         << "where the second call found it";
 }
 
+TEST_F(KeyPage, layoutGsTextsAreBlackInADarkThemeToo)
+{
+    QPalette dark = mWindow->palette();
+    for (const QPalette::ColorRole role :
+        {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+        dark.setColor(role, Qt::white);
+    }
+    mWindow->setPalette(dark);
+    showProduct(kProductG);
+    for (const QPalette::ColorRole role :
+        {QPalette::Text, QPalette::ButtonText, QPalette::WindowText}) {
+        EXPECT_EQ(box(0).palette().color(role), QColor(Qt::black)) << role;
+        EXPECT_EQ(box(17).palette().color(role), QColor(Qt::white)) << role;
+    }
+    leave();
+    showProduct(kProductA);
+    EXPECT_EQ(box(0).palette().color(QPalette::Text), QColor(Qt::white));
+    EXPECT_FALSE(box(0).view()->testAttribute(Qt::WA_SetPalette)) << "it follows the theme again";
+}
+
+TEST_F(KeyPage, theScrollSpeedsLabelIsDisabledWithIt)
+{
+    for (const QVTabletModel& model : kQVTabletModels) {
+        showProduct(model.productID);
+        EXPECT_EQ(enabled("mScrollSpeedLabel"), enabled("mScrollSpeed")) << model.name;
+        leave();
+    }
+}
+
 TEST_F(KeyPage, laidOutTwiceMovesTheStripTwice)
 {
     const Rect right = frame("mKeyRScroll");
@@ -629,7 +658,7 @@ TEST_F(KeyPage, aPathOfAnyBytesIsShownWithoutHarm)
     tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
     key.Valid = 2;
     key.App.fill('\0');
-    std::strcpy(key.App.data(), "/a\n\x01\x7f\xC3\xBC");
+    std::strcpy(key.App.data(), "/a\n\x01\x7f\x80\xBC");
     mPane.InitSingleComboBoxWithKey(&box(2), 2);
     EXPECT_EQ(box(2).currentText(), QStringLiteral("/a\n\u0001\u007f\uFFFD\uFFFD"));
     box(2).grab();
@@ -753,7 +782,7 @@ TEST_F(KeyPage, aPathThatFitsIsStoredWhole)
 TEST_F(KeyPage, aPathThatCannotBeStoredLeavesTheFieldEmptyAndItsNeighboursAlone)
 {
     for (const QString& path : {u'/' + QString(255, u'x'), u'/' + QString(4095, u'x'),
-             QStringLiteral("/opt/M\u00fcller/draw.desktop")}) {
+             QStringLiteral("/opt/M\u00fcller/draw.desktop"), QStringLiteral("/opt/\u0080")}) {
         show();
         const tagQVTabletInfoSubKey next = slot(4);
         mPanel.path = path;
@@ -795,13 +824,16 @@ TEST_F(KeyPage, aCombinationIsStoredShownCommittedAndPushedOnce)
 
 TEST_F(KeyPage, aCancelledDialogChangesNothingAndPushesNothing)
 {
-    edit([](tagQVTabletInfo& record) { record.Key.SubKey[2].Valid = 5; });
-    show();
-    const tagQVTabletInfo before = qvTabletInfo;
-    chooseKeys(box(2), [](QVKeySetClass& dialog) { click(dialog, {"keyZ", "cancelBtn"}); });
-    EXPECT_TRUE(pushes().empty());
-    EXPECT_TRUE(sameBytes(qvTabletInfo, before));
-    EXPECT_EQ(box(2).currentIndex(), 8);
+    for (const auto& [valid, item] : {std::pair<std::int16_t, int>(4, 7), {5, 8}}) {
+        edit([valid = valid](tagQVTabletInfo& record) { record.Key.SubKey[2].Valid = valid; });
+        show();
+        const tagQVTabletInfo before = qvTabletInfo;
+        chooseKeys(box(2), [](QVKeySetClass& dialog) { click(dialog, {"keyZ", "cancelBtn"}); });
+        EXPECT_TRUE(pushes().empty());
+        EXPECT_TRUE(sameBytes(qvTabletInfo, before));
+        EXPECT_EQ(box(2).currentIndex(), item);
+        leave();
+    }
 }
 
 TEST_F(KeyPage, okWithoutAKeyIsLikeCancel)

@@ -236,6 +236,10 @@ TEST_F(Pane, pushesTheStripsAtOnceWhenABoxIsClicked)
     ASSERT_EQ(pushes().size(), 2U);
     expected.Key.Scrollbar1 = 0;
     EXPECT_TRUE(sameBytes(pushes().back(), expected));
+
+    QTest::mouseClick(&outlet<QCheckBox>("mKeyLScroll"), Qt::LeftButton, {}, QPoint(8, 8));
+    expected.Key.Scrollbar0 = 1;
+    EXPECT_TRUE(sameBytes(pushes().back(), expected));
 }
 
 TEST_F(Pane, pushesTheStripsWhenAScreenReaderTogglesABox)
