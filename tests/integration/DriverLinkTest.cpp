@@ -323,6 +323,22 @@ TEST_F(DriverLink, findsNoTabletWithoutABus)
     EXPECT_EQ(push(), "ConnectToDriver 0 0 0 0\nConnectToDriver ok\n");
 }
 
+TEST_F(DriverLink, leavesTheBusWithItsService)
+{
+    QString name;
+    {
+        DBusAppleEvents events;
+        name = events.connection().baseService();
+    }
+    Peer peer(mBus);
+    QElapsedTimer timer;
+    timer.start();
+    while (peer.connection().interface()->isServiceRegistered(name) && timer.elapsed() < 5000) {
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+    }
+    EXPECT_FALSE(peer.connection().interface()->isServiceRegistered(name));
+}
+
 TEST_F(DriverLink, logsThatThereIsNoBus)
 {
     qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere");
@@ -364,6 +380,33 @@ TEST_F(DriverLink, pushesInExactlyTheWiresForm)
     EXPECT_EQ(list[0].keyword, 0x64617461U); // data
     EXPECT_EQ(list[0].desc.type, 0x75746638U); // utf8
     EXPECT_EQ(list[0].desc.data.variant().toByteArray().size(), 5077);
+}
+
+TEST_F(DriverLink, sendsListsInExactlyTheWiresForm)
+{
+    Peer driver(mBus, kDriverName);
+    driver.answer = [](const QDBusMessage& call) { return call.createReply(parameters({})); };
+    const AEList items{{3, QByteArray("ab")}, {4, AERecord{{5, {6, QByteArray("c")}}}}};
+    AppleEvent reply;
+    EXPECT_EQ(mEvents.send({1, 2, {typeBusName, driver.uniqueName().toUtf8()},
+                               {{10, {fourCharCode("list"), items}}, {11, {7, QByteArray("d")}}}},
+                  &reply, kAEWaitReply, kAEHighPriority, 15),
+        noErr);
+    ASSERT_EQ(driver.calls().size(), 1U);
+    const auto list = qdbus_cast<Parameters>(driver.calls().front().arguments()[2]);
+    ASSERT_EQ(list.size(), 2);
+    EXPECT_EQ(list[1].keyword, 11U);
+    EXPECT_EQ(list[1].desc.data.variant().toByteArray(), "d");
+    const auto sent = qdbus_cast<Descriptors>(list[0].desc.data.variant());
+    ASSERT_EQ(sent.size(), 2);
+    EXPECT_EQ(sent[0].type, 3U);
+    EXPECT_EQ(sent[0].data.variant().toByteArray(), "ab");
+    EXPECT_EQ(sent[1].type, 4U);
+    const auto record = qdbus_cast<Parameters>(sent[1].data.variant());
+    ASSERT_EQ(record.size(), 1);
+    EXPECT_EQ(record[0].keyword, 5U);
+    EXPECT_EQ(record[0].desc.type, 6U);
+    EXPECT_EQ(record[0].desc.data.variant().toByteArray(), "c");
 }
 
 TEST_F(DriverLink, pushesArriveInOrder)

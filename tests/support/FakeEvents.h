@@ -6,6 +6,8 @@
 #include "Service.h"
 
 #include <functional>
+#include <map>
+#include <utility>
 #include <vector>
 
 /**
@@ -28,6 +30,7 @@ public:
         std::int32_t timeOut;
     };
     std::vector<Sent> sent;
+    std::map<std::pair<platform::AEEventClass, platform::AEEventID>, Handler> handlers;
 
     platform::OSErr createDescResult = platform::noErr;
     platform::OSErr createEventResult = platform::noErr;
@@ -74,13 +77,16 @@ public:
     }
     platform::OSErr finishSends() override { return sendResult; }
     platform::OSErr installEventHandler(
-        platform::AEEventClass, platform::AEEventID, Handler) override
+        platform::AEEventClass eventClass, platform::AEEventID eventID, Handler handler) override
     {
+        handlers.insert_or_assign({eventClass, eventID}, std::move(handler));
         return platform::noErr;
     }
-    platform::OSErr removeEventHandler(platform::AEEventClass, platform::AEEventID) override
+    platform::OSErr removeEventHandler(
+        platform::AEEventClass eventClass, platform::AEEventID eventID) override
     {
-        return platform::noErr;
+        return handlers.erase({eventClass, eventID}) == 1 ? platform::noErr
+                                                          : platform::errAEHandlerNotFound;
     }
     void acceptEventsFrom(platform::FourCharCode) override { }
 

@@ -304,6 +304,26 @@ TEST_F(Calibration, cancelledGoesBackAndBeginsAgain)
     EXPECT_EQ(window(), nullptr);
 }
 
+TEST_F(Calibration, takesTheDriversReportsFromItsBeginningOn)
+{
+    const std::pair key(kAECoreSuite, kAEGetData);
+    mEvents.handlers.clear();
+    start();
+    ASSERT_EQ(mEvents.handlers.count(key), 1U);
+    const auto send = [&](const QByteArray& bytes) {
+        AppleEvent reply;
+        return mEvents.handlers[key](
+            {kAECoreSuite, kAEGetData, {},
+                {{keyDirectObject, {typeAEList, AEList{{fourCharCode("rprt"), bytes}}}}}},
+            reply);
+    };
+    EXPECT_EQ(send(report(1, 50000, 50000)), noErr);
+    EXPECT_EQ(send(report(0, 50000, 50000)), noErr);
+    EXPECT_EQ(points(), 1);
+    view().uninstallTabletMsgHandle();
+    EXPECT_TRUE(mEvents.handlers.empty());
+}
+
 TEST_F(Calibration, anAlertWithoutAnAnswerChangesNothingMore)
 {
     start();
@@ -640,6 +660,7 @@ TEST_F(Calibration, itsWindowHasNoBorderButTheKeyboard)
 {
     start();
     EXPECT_TRUE(window()->windowFlags() & Qt::FramelessWindowHint);
+    EXPECT_EQ(view().focusPolicy(), Qt::ClickFocus) << "a screen reader says what has the focus";
     EXPECT_TRUE(QTest::qWaitForWindowActive(window()));
 }
 
@@ -692,8 +713,7 @@ TEST_F(Calibration, escapeInAWindowThatIsNobodysGoesOn)
     EXPECT_TRUE(pushes().empty());
 }
 
-// Drawing; the tests run at the densities 1 and 2
-// --------------------------------------------------
+// Drawing, at the densities 1 and 2 ---------------------------------------------------------------
 
 TEST_F(Calibration, drawsEachCrossAndTheHintAsPlainPainterCallsDo)
 {
@@ -753,6 +773,22 @@ TEST_F(Calibration, eachPointIsFollowedByTheNextCross)
         view().setDrawEraseFlag(17 + static_cast<int>(point));
         EXPECT_EQ(shown, view().grab().toImage()) << point;
     }
+}
+
+TEST_F(Calibration, afterTheLastPointNoCrossIsShownAndThenTheFirst)
+{
+    startFarFromTheLastPoint();
+    view().setDrawEraseFlag(16);
+    const QImage first = view().grab().toImage();
+    view().setDrawEraseFlag(0);
+    const QImage none = view().grab().toImage();
+    EXPECT_NE(first, none);
+    QImage below;
+    mAlerts.whileOpen = [&] { below = view().grab().toImage(); };
+    mAlerts.answer = kAlertStdAlertCancelButton;
+    tapAllFour();
+    EXPECT_EQ(below, none);
+    EXPECT_EQ(view().grab().toImage(), first);
 }
 
 TEST_F(Calibration, drawsTheErasedCrossesRectangleOnceMore)

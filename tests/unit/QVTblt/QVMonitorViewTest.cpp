@@ -125,6 +125,16 @@ TEST_F(DisplayPage, knowsFourDisplaysOfMore)
     draw();
 }
 
+TEST_F(DisplayPage, mapsTheFourthOfFourDisplays)
+{
+    const Rect fourth{5760, 20, 800, 600};
+    qvTabletInfo.Monitor.num = 4;
+    mDisplays.change({kFullHD, {1920, 0, 1920, 1080}, {3840, 0, 1920, 1080}, fourth});
+    draw();
+    EXPECT_EQ(list().currentIndex(), 4);
+    EXPECT_EQ(mapped(), fourth);
+}
+
 TEST_F(DisplayPage, isEmptyWhileDisplaysChangeAndFilledOnceTheyHave)
 {
     mDisplays.tell(platform::kDisplayBeginConfiguration);

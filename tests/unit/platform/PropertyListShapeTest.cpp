@@ -180,7 +180,8 @@ TEST(PropertyListShape, saysWhichIntegerItIs)
 
 TEST(PropertyListShape, refusesRealsAndDatesThatWouldChange)
 {
-    for (const char* const good : {"0", "-1.5", "+2.5", "1e-300", "nan", "inf", "-infinity"}) {
+    for (const char* const good :
+        {"0", "-1.5", "+2.5", "+7", "1e-300", "nan", "inf", "-infinity"}) {
         EXPECT_EQ(errorOfEntry(std::string("<real>") + good + "</real>"), "") << good;
     }
     for (const char* const bad : {"", "1.5x", "1,5", "x", "1e999"}) {

@@ -438,6 +438,25 @@ TEST(PropertyList, aFileThatIsLongerThanItSaysIsReadWhole)
     EXPECT_TRUE(process.waitForFinished());
 }
 
+TEST(PropertyList, aFileThatIsLongerThanItSaysIsRefusedFromTheLimitOn)
+{
+    // The longest argument has 128 KiB.
+    QStringList arguments{QStringLiteral("-c"), QStringLiteral("echo; read line")};
+    for (int i = 0; i < 11; ++i) {
+        arguments += QString(100'000, u'x');
+    }
+    QProcess process;
+    process.start(QStringLiteral("/bin/sh"), arguments);
+    ASSERT_TRUE(process.waitForReadyRead());
+    PropertyListError error;
+    EXPECT_FALSE(
+        PropertyList::load("/proc/" + std::to_string(process.processId()) + "/cmdline", error));
+    EXPECT_NE(error.message.find("it is larger than 1048576 bytes"), std::string::npos)
+        << error.message;
+    process.closeWriteChannel();
+    EXPECT_TRUE(process.waitForFinished());
+}
+
 TEST(PropertyList, leavesNoFileOpen)
 {
     const TemporaryHome home;
@@ -487,7 +506,7 @@ TEST(PropertyList, keepsNoMemoryOfAListThatHasGone)
     const auto readOne = [name = path.toStdString()] {
         PropertyListError error;
         const auto list = PropertyList::load(name, error);
-        return list ? list->root().keys().size() : 0;
+        return list ? list->root().keys().size() + list->toXml().size() : 0;
     };
     EXPECT_GT(readOne(), 0U); // what the first one has made may stay
     constexpr std::size_t kTimes = 100;
