@@ -22,15 +22,25 @@ constexpr std::array<Resource, 7> kPictures{
     {{"tabletpic1", "jpg"}, {"tabletpic2", "jpg"}, {"tabletpic3", "jpg"}, {"tabletpic4", "jpg"},
         {"tabletpic5", "png"}, {"tabletpic6", "PNG"}, {"tabletpic7", "png"}}};
 
-QImage pictureOf(std::uint16_t productID)
+/** The width of the plain pictures, in pixels. The others have twice as many, in as many points. */
+constexpr double kPlainWidth = 384;
+
+QImage pictureOf(std::uint16_t productID, bool isDense)
 {
     const QVTabletModel* const model = QVFindModel(productID);
     if (model == nullptr || model->picture == QVPicture::None) {
         return {};
     }
     const Resource& picture = kPictures[static_cast<std::size_t>(model->picture) - 1];
-    const std::optional<QString> path = rzkBundle.pathForResource(
-        QString::fromLatin1(picture.name), QString::fromLatin1(picture.type));
+    const QString name = QString::fromLatin1(picture.name);
+    const QString type = QString::fromLatin1(picture.type);
+    std::optional<QString> path;
+    if (isDense) {
+        path = rzkBundle.pathForResource(name + QStringLiteral("@2x"), type);
+    }
+    if (!path) {
+        path = rzkBundle.pathForResource(name, type);
+    }
     // In the form in which it is drawn fastest.
     return path ? QImage(*path).convertToFormat(QImage::Format_ARGB32_Premultiplied) : QImage();
 }
@@ -49,9 +59,11 @@ QString QVKeyView::spokenContents() const
 void QVKeyView::drawRect(QPainter& painter, const platform::Rect& dirty)
 {
     const auto productID = static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID);
-    if (productID != productID_cached) {
-        mBackgroundImage = pictureOf(productID);
+    const bool isDense = width() * devicePixelRatioF() > kPlainWidth;
+    if (productID != productID_cached || isDense != mIsDense) {
+        mBackgroundImage = pictureOf(productID, isDense);
         productID_cached = productID;
+        mIsDense = isDense;
     }
     if (!mBackgroundImage.isNull()) {
         platform::drawImage(painter, mBackgroundImage, dirty, dirty);

@@ -10,8 +10,9 @@
 
 /**
  * Shows the picture of the attached model, so that a person finds the keys. Looks at the record
- * whenever it draws; the picture's file is read only when the product has changed. A model without
- * a picture, or one whose file is missing, leaves the view empty.
+ * whenever it draws; the picture's file is read only when the product has changed, or when the view
+ * has come to have more pixels than it, or no more. A model without a picture, or one whose file is
+ * missing, leaves the view empty.
  */
 class QVKeyView final : public platform::PaneView {
     Q_OBJECT
@@ -28,4 +29,5 @@ protected:
 private:
     QImage mBackgroundImage;
     std::int64_t productID_cached = 0; ///< the product that the picture was chosen for
+    bool mIsDense = false; ///< the picture was chosen for a view of more pixels than points
 };

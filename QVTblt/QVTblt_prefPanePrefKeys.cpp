@@ -191,8 +191,10 @@ void QVTblt_prefPanePref::restoreKeyPage()
         control.key()->setVisible(true);
     }
     for (QVKeyComboBox* const box : mSlotBoxes) {
-        box->setPalette(QPalette());
-        box->view()->setPalette(QPalette());
+        if (box->testAttribute(Qt::WA_SetPalette)) {
+            box->setPalette(QPalette());
+            box->view()->setPalette(QPalette());
+        }
         box->resetItems();
     }
     const QSignalBlocker blocker(mScrollSpeed);

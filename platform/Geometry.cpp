@@ -4,11 +4,25 @@
 
 #include "PointCanvas.h"
 
+#include <QFontInfo>
 #include <QWidget>
 
+#include <algorithm>
 #include <cmath>
 
 namespace platform {
+
+namespace {
+
+/** The text's size for which an interface file is drawn: ten points at 96 dots to the inch. */
+constexpr double kUsualPixels = 13.0;
+
+} // namespace
+
+double pixelsPerPoint(const QFont& font)
+{
+    return std::max(1.0, QFontInfo(font).pixelSize() / kUsualPixels);
+}
 
 Rect frame(const QWidget& control)
 {

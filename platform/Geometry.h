@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+class QFont;
 class QWidget;
 
 namespace platform {
@@ -15,6 +16,12 @@ struct Rect {
 
     bool operator==(const Rect&) const = default;
 };
+
+/**
+ * Pixels in a point that grows with the user's text size: one at the usual size and below, two with
+ * text twice as large.
+ */
+double pixelsPerPoint(const QFont& font);
 
 /**
  * Where a control stands in its parent, in points. The origin is the parent's lower left corner,

@@ -3,19 +3,10 @@
 #include "PointCanvas.h"
 
 #include <QEvent>
-#include <QFontInfo>
 
-#include <algorithm>
 #include <cmath>
 
 namespace platform {
-
-namespace {
-
-/** The text's size for which an interface file is drawn: ten points at 96 dots to the inch. */
-constexpr double kUsualPixels = 13.0;
-
-} // namespace
 
 PointCanvas::PointCanvas(QWidget* parent)
     : QWidget(parent)
@@ -66,7 +57,7 @@ void PointCanvas::changeEvent(QEvent* event)
 
 void PointCanvas::rescale()
 {
-    mScale = std::max(1.0, QFontInfo(font()).pixelSize() / kUsualPixels);
+    mScale = pixelsPerPoint(font());
     setFixedSize(static_cast<int>(std::ceil(mSize.width() * mScale)),
         static_cast<int>(std::ceil(mSize.height() * mScale)));
     const auto children = findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);

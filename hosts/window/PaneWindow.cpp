@@ -70,6 +70,8 @@ QStringList PaneWindow::render(const QString& folder)
     QStringList files;
     const auto save = [&](const QString& name) {
         const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
+        // A picture has room for all of it, unlike a screen.
+        resize(mNaturalSize.expandedTo(mPane->mainView()->minimumSizeHint()));
         // A window that is never shown is laid out for its picture. What it posts then lets go of a
         // scroll bar that it has no need for, one by one.
         for (int bar = 0; bar < 2; ++bar) {
@@ -84,8 +86,6 @@ QStringList PaneWindow::render(const QString& folder)
     };
     mPane->willSelect();
     ensurePolished();
-    // A picture has room for all of it, unlike a screen.
-    resize(mNaturalSize.expandedTo(mPane->mainView()->minimumSizeHint()));
     if (!hasPages()) {
         save(QStringLiteral("noDevice"));
         return files;

@@ -4,10 +4,12 @@
 // The panel in each of its languages: every text has its room, its glyphs and a letter of its own
 // on the keyboard. And in a language that is written from right to left.
 
+#include "Geometry.h"
 #include "PaneTest.h"
 #include "QVKeyComboBox.h"
 #include "QVKeySetClass.h"
 #include "QVTabletModels.h"
+#include "TabPage.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -357,10 +359,27 @@ TEST_P(Language, hasRoomForAllItsTexts)
 TEST_P(Language, needsNoMoreRoomThanTheInterfaceFileHas)
 {
     show();
-    if (std::get<1>(GetParam()) == kUsualText) {
+    auto& tabs = outlet<QTabWidget>("tabView");
+    for (int page = 0; page < tabs.count() && std::get<1>(GetParam()) == kUsualText; ++page) {
+        tabs.setCurrentIndex(page);
+        settle();
         const QSize least = mWindow->minimumSizeHint();
-        EXPECT_LE(least.width(), mInterfaceFile.width());
-        EXPECT_LE(least.height(), mInterfaceFile.height());
+        EXPECT_LE(least.width(), mInterfaceFile.width()) << page;
+        EXPECT_LE(least.height(), mInterfaceFile.height()) << page;
+    }
+}
+
+TEST_P(Language, needsNoMoreRoomOnAPageThanThatAsksForWhileItIsHidden)
+{
+    show();
+    const QSize room = platform::TabPage::kRoom * platform::pixelsPerPoint(mWindow->font());
+    auto& tabs = outlet<QTabWidget>("tabView");
+    for (int page = 0; page < tabs.count(); ++page) {
+        tabs.setCurrentIndex(page);
+        settle();
+        const QSize least = tabs.widget(page)->minimumSizeHint();
+        EXPECT_LE(least.width(), room.width()) << page;
+        EXPECT_LE(least.height(), room.height()) << page;
     }
 }
 
