@@ -10,6 +10,7 @@ do. A page is shown when its window has a colour: Qt paints a window whole befor
 
 import argparse
 import json
+import operator
 import os
 import pathlib
 import re
@@ -126,16 +127,22 @@ def main():
                      for _ in range(options.runs)]
             driver.terminate()
 
-    def median(runs, module, figure):
-        return statistics.median(run[MODULES.index(module)][figure] for run in runs)
+    def figures(runs, module, figure):
+        return [run[MODULES.index(module)][figure] for run in runs]
 
-    # Each run's own ratio, since a machine that others share is not as fast in all of them.
+    def median(runs, module, figure):
+        return statistics.median(figures(runs, module, figure))
+
+    def ratio(floor):
+        """Of each run's own, since a machine that others share is not as fast in all of them."""
+        return statistics.median(map(operator.truediv, figures(found, PANEL, SECONDS),
+                                     figures(found, floor, SECONDS)))
+
     results = [{
         "name": name,
         "us": median(found, PANEL, SECONDS) * 1e6,
         "floor_us": median(found, floor, SECONDS) * 1e6,
-        "ratio": statistics.median(run[MODULES.index(PANEL)][SECONDS] / run[MODULES.index(floor)][SECONDS]
-                                   for run in found),
+        "ratio": ratio(floor),
     } for name, floor in (("startInHost", EMPTY), ("startOfPlasmaModule", PLASMA))]
     results.append({
         "name": "memoryInHost",
