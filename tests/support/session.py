@@ -61,7 +61,8 @@ class Session(unittest.TestCase):
     ACTIVATION = False
 
     def run(self, result=None):
-        self.errors = []  # what the programs have said there
+        """As always, and shows with a failure what the programs have said on their standard error."""
+        self.errors = []
         failures = len(result.failures) + len(result.errors)
         super().run(result)
         if len(result.failures) + len(result.errors) > failures:
