@@ -4,7 +4,6 @@
 
 import plistlib
 import signal
-import subprocess
 import unittest
 
 import desktop
@@ -17,7 +16,7 @@ TITLE = "Quorvia Tablet"
 
 class Window(desktop.Desktop):
     def start_panel(self):
-        panel = self.start([session.BIN / "qvtblt"], stderr=subprocess.PIPE)
+        panel = self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "Left scroll strip", "check box")
         return panel
 
