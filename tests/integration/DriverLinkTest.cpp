@@ -121,14 +121,21 @@ protected:
         return count;
     }
 
-    /** Runs the event loop until so many notices were counted, or in vain; gives how many. */
-    static int waitForCount(const int& counted, int count)
+    /** Runs the event loop until the condition holds, or in vain; gives whether it does. */
+    template <class Condition>
+    static bool waitUntil(const Condition& holds)
     {
         QElapsedTimer timer;
         timer.start();
-        while (counted < count && timer.elapsed() < 20000) {
+        while (!holds() && timer.elapsed() < 20000) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
         }
+        return holds();
+    }
+    /** Waits until so many notices were counted; gives how many. */
+    static int waitForCount(const int& counted, int count)
+    {
+        waitUntil([&] { return counted >= count; });
         return counted;
     }
 
@@ -331,12 +338,8 @@ TEST_F(DriverLink, leavesTheBusWithItsService)
         name = events.connection().baseService();
     }
     Peer peer(mBus);
-    QElapsedTimer timer;
-    timer.start();
-    while (peer.connection().interface()->isServiceRegistered(name) && timer.elapsed() < 5000) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    }
-    EXPECT_FALSE(peer.connection().interface()->isServiceRegistered(name));
+    EXPECT_TRUE(
+        waitUntil([&] { return !peer.connection().interface()->isServiceRegistered(name); }));
 }
 
 TEST_F(DriverLink, logsThatThereIsNoBus)

@@ -89,8 +89,8 @@ class Session(unittest.TestCase):
         for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
             if name in os.environ:
                 self.env[name] = os.environ[name]
-        # At the end of a program whose threads end with it, the search for leaks fails by itself once in
-        # a few hundred times. The tests in C++ look for the leaks of the same code.
+        # At the end of a program whose threads end with it, the search for leaks fails by itself
+        # once in a few hundred times. The tests in C++ look for the leaks of the same code.
         self.env["ASAN_OPTIONS"] = self.env.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
         bus = self.start(
             ["dbus-daemon", "--nofork", "--nosyslog", "--print-address", f"--config-file={config}"],

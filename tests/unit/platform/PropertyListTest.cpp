@@ -73,6 +73,21 @@ std::string toBinary(const QByteArray& xml)
     return binary;
 }
 
+/** Why a program's arguments are no list: they are a regular file of no size. */
+std::string errorOfArguments(const QStringList& arguments)
+{
+    QProcess process;
+    process.start(QStringLiteral("/bin/sh"),
+        QStringList{QStringLiteral("-c"), QStringLiteral("echo; read line")} + arguments);
+    EXPECT_TRUE(process.waitForReadyRead());
+    PropertyListError error;
+    EXPECT_FALSE(
+        PropertyList::load("/proc/" + std::to_string(process.processId()) + "/cmdline", error));
+    process.closeWriteChannel();
+    EXPECT_TRUE(process.waitForFinished());
+    return error.message;
+}
+
 } // namespace
 
 TEST(PropertyList, findsEntriesByKindAndKey)
@@ -422,39 +437,19 @@ TEST(PropertyList, aListOfTheGreatestSizeIsTakenAndNoLargerOne)
 
 TEST(PropertyList, aFileThatIsLongerThanItSaysIsReadWhole)
 {
-    // A process's arguments are a regular file of no size. They end with a NUL, of which only
-    // somebody knows who has read them whole.
-    QProcess process;
-    process.start(QStringLiteral("/bin/sh"),
-        {QStringLiteral("-c"), QStringLiteral("echo; read line"),
-            QString::fromUtf8(sampleConfig())});
-    ASSERT_TRUE(process.waitForReadyRead());
-    PropertyListError error;
-    EXPECT_FALSE(
-        PropertyList::load("/proc/" + std::to_string(process.processId()) + "/cmdline", error));
-    EXPECT_NE(error.message.find("text after the end of the list"), std::string::npos)
-        << error.message;
-    process.closeWriteChannel();
-    EXPECT_TRUE(process.waitForFinished());
+    // Arguments end with a NUL, of which only somebody knows who has read them whole.
+    const std::string error = errorOfArguments({QString::fromUtf8(sampleConfig())});
+    EXPECT_NE(error.find("text after the end of the list"), std::string::npos) << error;
 }
 
 TEST(PropertyList, aFileThatIsLongerThanItSaysIsRefusedFromTheLimitOn)
 {
-    // The longest argument has 128 KiB.
-    QStringList arguments{QStringLiteral("-c"), QStringLiteral("echo; read line")};
+    QStringList arguments;
     for (int i = 0; i < 11; ++i) {
-        arguments += QString(100'000, u'x');
+        arguments += QString(100'000, u'x'); // the longest has 128 KiB
     }
-    QProcess process;
-    process.start(QStringLiteral("/bin/sh"), arguments);
-    ASSERT_TRUE(process.waitForReadyRead());
-    PropertyListError error;
-    EXPECT_FALSE(
-        PropertyList::load("/proc/" + std::to_string(process.processId()) + "/cmdline", error));
-    EXPECT_NE(error.message.find("it is larger than 1048576 bytes"), std::string::npos)
-        << error.message;
-    process.closeWriteChannel();
-    EXPECT_TRUE(process.waitForFinished());
+    const std::string error = errorOfArguments(arguments);
+    EXPECT_NE(error.find("it is larger than 1048576 bytes"), std::string::npos) << error;
 }
 
 TEST(PropertyList, leavesNoFileOpen)
