@@ -4,6 +4,7 @@
 
 #include "Displays.h"
 #include "HomeFolder.h"
+#include "Notifications.h"
 #include "QVConfigEntry.h"
 #include "QVTruncate.h"
 #include "rzkApplication.h"
@@ -91,6 +92,26 @@ void mapSingleDisplay()
     monitor.Height = QVTruncate(area.height);
 }
 
+/** Whether the driver has named a file. Without a name the path is the folder's: no file at all. */
+bool hasName(platform::PropertyListError& error)
+{
+    if (*GetPListName() != '\0') {
+        return true;
+    }
+    error.missing = true;
+    error.message = "no configuration file is known, since no driver has named one";
+    return false;
+}
+
+/** Logs and posts why a file could not be used; only posts it where the file is missing. */
+void tellFailure(QLatin1String name, const platform::PropertyListError& error)
+{
+    if (!error.missing) {
+        qCWarning(lcStore, "%s", error.message.c_str());
+    }
+    platform::notifications().post({name, nullptr, {}, QString::fromStdString(error.message)});
+}
+
 /** Whether a field is nothing that the user has chosen: it is of the moment, or follows. */
 bool isOfTheMoment(const QVSection& section, const QVField& field)
 {
@@ -131,30 +152,28 @@ std::string QVConfigStore::configPath()
 void QVConfigStore::ReadQVConfigPlist()
 {
     platform::PropertyListError error;
-    const std::optional<platform::PropertyList> list = loadRecord(configPath(), error);
+    const std::optional<platform::PropertyList> list =
+        hasName(error) ? loadRecord(configPath(), error) : std::nullopt;
     if (!list) {
-        if (!error.missing) {
-            qCWarning(lcStore, "%s", error.message.c_str());
-        }
+        tellFailure(kConfigNotLoadedNotification, error);
         return;
     }
     if (list->root().dictionary(kQVMonitorSection.key).exists()) {
         mapSingleDisplay();
     }
     mInFile = qvTabletInfo;
+    platform::notifications().post({kConfigLoadedNotification, nullptr, {}});
 }
 
-std::string QVConfigStore::WriteQVConfigPlist()
+void QVConfigStore::WriteQVConfigPlist()
 {
     platform::PropertyListError error;
-    if (saveRecord(configPath(), error)) {
-        mInFile = qvTabletInfo;
-        return {};
+    if (!hasName(error) || !saveRecord(configPath(), error)) {
+        tellFailure(kConfigNotSavedNotification, error);
+        return;
     }
-    if (!error.missing) {
-        qCWarning(lcStore, "%s", error.message.c_str());
-    }
-    return error.message;
+    mInFile = qvTabletInfo;
+    platform::notifications().post({kConfigSavedNotification, nullptr, {}});
 }
 
 bool QVConfigStore::hasUnsavedFields() const

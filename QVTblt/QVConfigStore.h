@@ -6,9 +6,20 @@
 #include "QVTabletFields.h"
 #include "tagQVTabletInfo.h"
 
+#include <QLatin1String>
+
 #include <cstdint>
 #include <optional>
 #include <string>
+
+/**
+ * Posted at each load and each save of the attached tablet's file, also where there is none. With
+ * the failures, the notification's text says why, for people.
+ */
+inline constexpr QLatin1String kConfigLoadedNotification("kConfigLoadedNotification");
+inline constexpr QLatin1String kConfigNotLoadedNotification("kConfigNotLoadedNotification");
+inline constexpr QLatin1String kConfigSavedNotification("kConfigSavedNotification");
+inline constexpr QLatin1String kConfigNotSavedNotification("kConfigNotSavedNotification");
 
 /**
  * The configuration file of the attached tablet, loaded into and saved from the record.
@@ -16,7 +27,8 @@
  * The file belongs to the driver: it is never created here, and dictionaries and slots that it
  * lacks stay missing. No failure is an error to the caller: an unusable file leaves the record, and
  * an unwritable one the file, as they are, with a line in the log. A missing file is normal and not
- * logged. Main thread only.
+ * logged; so is a file without a name, before the driver has given one. Whoever wants to know hears
+ * of each outcome by a notification. Main thread only.
  */
 class QVConfigStore {
 public:
@@ -28,12 +40,8 @@ public:
      */
     void ReadQVConfigPlist();
 
-    /**
-     * Saves the record's Pen, Monitor and Key sections into the file.
-     *
-     * @return why it could not be, for people; empty on success
-     */
-    std::string WriteQVConfigPlist();
+    /** Saves the record's Pen, Monitor and Key sections into the file. */
+    void WriteQVConfigPlist();
 
     /**
      * Whether the record holds choices of the user's that the file does not: whether a field that

@@ -49,6 +49,12 @@ QWidget* QVTblt_prefPanePref::makeMainView()
     platform::NotificationCenter& center = platform::notifications();
     center.addObserver(*this, platform::kSourceChangedNotification,
         [this](const platform::Notification&) { followDriver(); });
+    for (const QLatin1String name : {kConfigSavedNotification, kConfigNotSavedNotification}) {
+        center.addObserver(*this, name, [this](const platform::Notification& notification) {
+            mSaveError = notification.text;
+            showNotice();
+        });
+    }
     center.addObserver(
         *this, platform::kEventTakenNotification, [this](const platform::Notification&) {
             mPushFailed = false;
@@ -190,20 +196,14 @@ void QVTblt_prefPanePref::followDriver()
     }
 }
 
-void QVTblt_prefPanePref::writeFile()
-{
-    mSaveError = WriteQVConfigPlist();
-    showNotice();
-}
-
 void QVTblt_prefPanePref::showNotice()
 {
     if (mainView() == nullptr) {
         return; // the main view has gone before the pane
     }
     QString text;
-    if (!mSaveError.empty()) {
-        text = tr("The settings are not saved: %1").arg(QString::fromStdString(mSaveError));
+    if (!mSaveError.isEmpty()) {
+        text = tr("The settings are not saved: %1").arg(mSaveError);
     } else if (mPushFailed) {
         text = tr("The tablet's driver has not taken the last change. Is it running?");
     }
@@ -226,7 +226,7 @@ void QVTblt_prefPanePref::willUnselect()
 {
     // The driver must not be left waiting for points that nobody asks for.
     mMonitorView->endCalibration();
-    writeFile();
+    WriteQVConfigPlist();
 }
 
 void QVTblt_prefPanePref::didUnselect()
@@ -239,7 +239,7 @@ void QVTblt_prefPanePref::didUnselect()
 void QVTblt_prefPanePref::SaveSet()
 {
     takeScrollBoxes();
-    writeFile();
+    WriteQVConfigPlist();
     PushQVTabletInfo();
 }
 

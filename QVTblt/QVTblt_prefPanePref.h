@@ -14,7 +14,6 @@
 #include <array>
 #include <cstdint>
 #include <optional>
-#include <string>
 
 class QVKeyComboBox;
 class QVKeySetClass;
@@ -91,7 +90,6 @@ private:
     void showModel();
     void showNoDevice();
     void placeNoDevice();
-    void writeFile();
     void showNotice();
     void followDriver();
     void takeScrollBoxes();
@@ -107,7 +105,7 @@ private:
     QTranslator mTranslator; ///< of the panel's own texts
     double mNoDevTitleX = 0; ///< of the label, from the side on which lines begin
     bool mPushFailed = false; ///< the driver has not taken the latest push
-    std::string mSaveError; ///< why the latest save failed; empty when it did not
+    QString mSaveError; ///< why the latest save failed; empty when it did not
     bool mButtonsShown = true; ///< Save and Cancel, where there is a tablet
     QVKeySetClass* mKeyset = nullptr; ///< belongs to the main view
     QString mFileName; ///< path of the application last chosen

@@ -22,6 +22,7 @@ struct Notification {
     QString name;
     const QObject* object = nullptr; ///< who posts it
     QHash<QString, std::shared_ptr<const Event>> userInfo;
+    QString text = {}; ///< why something failed, for people; empty when nothing did
 };
 
 /** Main thread only. */

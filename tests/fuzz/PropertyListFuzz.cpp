@@ -6,6 +6,7 @@
 
 #include "FakeDisplays.h"
 #include "Fuzz.h"
+#include "Notifications.h"
 #include "PropertyList.h"
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
@@ -87,6 +88,17 @@ void requireStored(const Dictionary& root, const tagQVTabletInfo& record)
         });
 }
 
+/** Saves the record. @return why that failed; empty when it did not */
+std::string save(QVConfigStore& store)
+{
+    std::string why;
+    const QObject observer;
+    notifications().addObserver(observer, kConfigNotSavedNotification,
+        [&](const Notification& notification) { why = notification.text.toStdString(); });
+    store.WriteQVConfigPlist();
+    return why;
+}
+
 std::string contents(const QString& path)
 {
     return readFile(path).toStdString();
@@ -118,7 +130,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (!list) {
         require(!error.message.empty(), "a file is refused with a reason");
         require(sameRecord(qvTabletInfo, before), "a broken file leaves the record");
-        require(!store.WriteQVConfigPlist().empty(), "a broken file cannot be saved into");
+        require(!save(store).empty(), "a broken file cannot be saved into");
         require(contents(path) == std::string(reinterpret_cast<const char*>(data), size),
             "a broken file stays as it is");
         return 0;
@@ -133,7 +145,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(again.has_value(), "what is written can be read");
     require(again->toXml() == xml, "what is written is read as it was");
 
-    require(store.WriteQVConfigPlist().empty(), "a file that was loaded can be saved");
+    require(save(store).empty(), "a file that was loaded can be saved");
     require(sameRecord(qvTabletInfo, loaded), "a save leaves the record");
     const auto saved = PropertyList::load(path.toStdString(), error);
     require(saved.has_value(), "a saved file can be loaded");
@@ -142,7 +154,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fillRecord('B');
     store.ReadQVConfigPlist();
     const std::string first = contents(path);
-    require(store.WriteQVConfigPlist().empty(), "a saved file can be saved");
+    require(save(store).empty(), "a saved file can be saved");
     require(contents(path) == first, "a second save writes the same");
     return 0;
 }

@@ -3,12 +3,14 @@
 #include "QVConfigStore.h"
 
 #include "FakeDisplays.h"
+#include "Notifications.h"
 #include "SampleConfig.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <sys/stat.h>
@@ -81,8 +83,8 @@ TEST_F(QVConfigStoreFile, isTheFolderItselfWhileThereIsNoName)
     *GetPListName() = '\0';
     EXPECT_EQ(QVConfigStore::configPath(),
         mHome.path().toStdString() + "/Library/Preferences/QuorviaTablet/config/");
-    read();
-    write();
+    EXPECT_EQ(read(), "") << "it is a missing file, and those are not logged";
+    EXPECT_EQ(write(), "");
     EXPECT_TRUE(sameBytes(qvTabletInfo, {}));
     EXPECT_EQ(readFile(mPath), sampleConfig());
 }
@@ -415,6 +417,45 @@ TEST_F(QVConfigStoreFile, isFoundByANameOfAnyLengthInItsBuffer)
     std::memset(GetPListName(), 'n', kQVListNameSize - 1);
     EXPECT_EQ(QVConfigStore::configPath(),
         mHome.configFolder().path().toStdString() + '/' + std::string(kQVListNameSize - 1, 'n'));
+}
+
+TEST_F(QVConfigStoreFile, tellsWhoeverListensWhatBecameOfEachLoadAndSave)
+{
+    std::vector<std::string> told;
+    const QObject observer;
+    for (const QLatin1String name : {kConfigLoadedNotification, kConfigNotLoadedNotification,
+             kConfigSavedNotification, kConfigNotSavedNotification}) {
+        platform::notifications().addObserver(
+            observer, name, [&told](const platform::Notification& notification) {
+                told.push_back(
+                    notification.name.toStdString() + ": " + notification.text.toStdString());
+            });
+    }
+    const auto loadAndSave = [&] {
+        told.clear();
+        read();
+        write();
+        return told;
+    };
+    using Told = std::vector<std::string>;
+    const std::string path = mPath.toStdString();
+    const std::string notLoaded = "kConfigNotLoadedNotification: ";
+    const std::string notSaved = "kConfigNotSavedNotification: ";
+    EXPECT_EQ(loadAndSave(), (Told{"kConfigLoadedNotification: ", "kConfigSavedNotification: "}));
+
+    writeFile(mPath, "hello");
+    const std::string broken = "cannot use " + path + ": ";
+    EXPECT_TRUE(loadAndSave().at(0).starts_with(notLoaded + broken)) << told.at(0);
+    EXPECT_TRUE(told.at(1).starts_with(notSaved + broken)) << told.at(1);
+    EXPECT_EQ(told.size(), 2U);
+
+    ASSERT_TRUE(QFile::remove(mPath));
+    const std::string missing = "cannot read " + path + ": " + std::strerror(ENOENT);
+    EXPECT_EQ(loadAndSave(), (Told{notLoaded + missing, notSaved + missing}));
+
+    *GetPListName() = '\0';
+    const std::string nameless = "no configuration file is known, since no driver has named one";
+    EXPECT_EQ(loadAndSave(), (Told{notLoaded + nameless, notSaved + nameless}));
 }
 
 TEST_F(QVConfigStoreFile, holdsNothingUnsavedWhenItIsLoadedOrSaved)
