@@ -8,10 +8,13 @@
 #include "rzkApplication.h"
 
 #include <QImage>
+#include <QPainter>
+#include <QPalette>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdlib>
 
 namespace {
@@ -127,6 +130,62 @@ TEST_F(KeyView, takesTheDenserPictureWhereItHasMorePixelsThanThePlainOne)
     EXPECT_EQ(draw(kDraft), QColor(Qt::red)) << "better than none";
 }
 
+TEST_F(KeyView, takesTheDarkPictureInADarkTheme)
+{
+    addPicture("tabletpic6.PNG", Qt::red);
+    addPicture("tabletpic6-dark.PNG", Qt::blue);
+    QPalette palette;
+    palette.setColor(QPalette::Window, QColor(0xEF, 0xF0, 0xF1));
+    mView.setPalette(palette);
+    EXPECT_EQ(draw(kDraft), QColor(Qt::red));
+    palette.setColor(QPalette::Window, QColor(0x2A, 0x2E, 0x32));
+    mView.setPalette(palette);
+    EXPECT_EQ(draw(kDraft), QColor(Qt::blue));
+    removePicture("tabletpic6-dark.PNG");
+    EXPECT_EQ(draw(kDraft), QColor(Qt::blue)) << "it is read once";
+    EXPECT_EQ(draw(kSlate), kNothing);
+    EXPECT_EQ(draw(kDraft), QColor(Qt::red)) << "better than none";
+}
+
+TEST_F(KeyView, isDrawnAgainWhenTheThemeChanges)
+{
+    addPicture("tabletpic6.PNG", Qt::red);
+    addPicture("tabletpic6-dark.PNG", Qt::blue);
+    mView.setPalette(QPalette(QColor(0xEF, 0xF0, 0xF1)));
+    EXPECT_EQ(draw(kDraft), QColor(Qt::red));
+    mView.setPalette(QPalette(QColor(0x2A, 0x2E, 0x32)));
+    EXPECT_EQ(mView.grab().toImage().pixelColor(20, 15), QColor(Qt::blue));
+}
+
+TEST_F(KeyView, showsTheLowerLeftPartOfAPictureLargerThanItself)
+{
+    // Two pixels to the point, as all these: 60 x 50 points for a view of 40 x 30.
+    QImage image(120, 100, QImage::Format_RGB32);
+    image.setDotsPerMeterX(5669);
+    image.setDotsPerMeterY(5669);
+    image.fill(Qt::red);
+    QPainter painter(&image);
+    painter.fillRect(0, 40, 80, 60, Qt::blue); // what the view has room for
+    painter.end();
+    ASSERT_TRUE(image.save(mFolder.filePath(QStringLiteral("tabletpic6.PNG")), "PNG"));
+    draw(kDraft);
+    const QImage drawn = mView.grab().toImage();
+    const int density = static_cast<int>(mView.devicePixelRatioF());
+    for (int y = 2; y < 28; ++y) {
+        for (int x = 2; x < 38; ++x) {
+            ASSERT_EQ(drawn.pixelColor(x * density, y * density), QColor(Qt::blue))
+                << x << ' ' << y;
+        }
+    }
+    // One point more to the right or above, and red comes in.
+    mView.resize(44, 34);
+    draw(kDraft);
+    const QImage larger = mView.grab().toImage();
+    EXPECT_EQ(larger.pixelColor(42 * density, 30 * density), QColor(Qt::red));
+    EXPECT_EQ(larger.pixelColor(20 * density, 1 * density), QColor(Qt::red));
+    EXPECT_EQ(larger.pixelColor(37 * density, 6 * density), QColor(Qt::blue));
+}
+
 TEST_F(KeyView, aMissingFileDrawsNothingAndIsNotLookedForAgain)
 {
     testing::internal::CaptureStderr();
@@ -182,18 +241,35 @@ TEST_F(KeyView, everyPictureOfTheTableIsInTheBundleAndFillsTheView)
             }
         }
     }
-    for (const QString& name : names) {
-        for (const int density : {1, 2}) {
-            QString file = QStringLiteral(QVTBLT_STAGE_RESOURCES "/") + name;
-            file.replace(u'.', density == 1 ? QStringLiteral(".") : QStringLiteral("@2x."));
-            const QImage picture(file);
-            EXPECT_EQ(picture.isNull(), name.isEmpty()) << qPrintable(file);
-            if (!name.isEmpty()) {
-                const platform::Rect bounds = platform::imageBounds(picture);
-                EXPECT_NEAR(bounds.width, 384, 0.1) << qPrintable(file);
-                EXPECT_NEAR(bounds.height, 270, 0.1) << qPrintable(file);
-                EXPECT_EQ(picture.width(), 384 * density) << qPrintable(file);
-            }
+}
+
+TEST_F(KeyView, everyPictureHasItsTrueColoursAndSizeInAllItsForms)
+{
+    struct Form {
+        const char* suffix;
+        int density;
+        QRgb ground; ///< of the drawings, in light and in dark
+    };
+    constexpr std::array<Form, 4> kForms{{{".", 1, 0xFFEEF0F3}, {"@2x.", 2, 0xFFEEF0F3},
+        {"-dark.", 1, 0xFF24282E}, {"-dark@2x.", 2, 0xFF24282E}}};
+    for (const char* const name : {"tabletpic1.jpg", "tabletpic2.jpg", "tabletpic3.jpg",
+             "tabletpic4.jpg", "tabletpic5.png", "tabletpic6.PNG", "tabletpic7.png"}) {
+        for (const Form& form : kForms) {
+            QString file = QString::fromLatin1(name);
+            file.replace(QStringLiteral("."), QString::fromLatin1(form.suffix));
+            SCOPED_TRACE(qPrintable(file));
+            const QImage picture(QStringLiteral(QVTBLT_STAGE_RESOURCES "/") + file);
+            ASSERT_FALSE(picture.isNull());
+            const platform::Rect bounds = platform::imageBounds(picture);
+            EXPECT_NEAR(bounds.width, 384, 0.1);
+            EXPECT_NEAR(bounds.height, 270, 0.1);
+            EXPECT_EQ(picture.width(), 384 * form.density);
+            const QColor ground = picture.pixelColor(4, 4);
+            // JPEG rounds on its way from one kind of colours to the other.
+            const int rounding = file.endsWith(QStringLiteral("jpg")) ? 2 : 0;
+            EXPECT_NEAR(ground.red(), qRed(form.ground), rounding);
+            EXPECT_NEAR(ground.green(), qGreen(form.ground), rounding);
+            EXPECT_NEAR(ground.blue(), qBlue(form.ground), rounding);
         }
     }
 }
