@@ -10,6 +10,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <utility>
 
 namespace platform {
 
@@ -52,8 +53,31 @@ void PaneView::setNeedsDisplay()
 
 void PaneView::setNeedsDisplayInRect(const Rect& rect)
 {
-    mNeedsDisplay = mNeedsDisplay || !mIsDrawing;
+    if (mIsDrawingAgain) {
+        return; // drawing that asks for itself would never end
+    }
+    if (mIsDrawing) {
+        mAskedAgain.push_back(rect);
+    } else {
+        mNeedsDisplay = true;
+    }
     update(toPixels(rect));
+}
+
+void PaneView::drawAgain(const Rect& dirty)
+{
+    const QRectF inside = toQRect(dirty).intersected(toQRect(bounds()));
+    if (inside.isEmpty()) {
+        return;
+    }
+    QPainter painter(&mStore);
+    painter.setClipRect(toPixels(dirty));
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(rect(), Qt::transparent);
+    painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
+    beginPoints(painter);
+    const QScopedValueRollback drawing(mIsDrawingAgain, true);
+    drawRect(painter, {inside.x(), inside.y(), inside.width(), inside.height()});
 }
 
 QRect PaneView::toPixels(const Rect& rect) const
@@ -83,6 +107,7 @@ void PaneView::updateStore()
     const QSize pixels = (QSizeF(size()) * density).toSize().expandedTo({1, 1});
     if (mNeedsDisplay || mStore.size() != pixels || mStore.devicePixelRatio() != density) {
         mNeedsDisplay = false;
+        mAskedAgain.clear();
         mFocus.reset();
         mStore = QPixmap(pixels);
         mStore.setDevicePixelRatio(density);
@@ -91,6 +116,11 @@ void PaneView::updateStore()
         beginPoints(painter);
         const QScopedValueRollback drawing(mIsDrawing, true);
         drawRect(painter, bounds());
+    } else if (!mAskedAgain.empty()) {
+        mFocus.reset();
+        for (const Rect& asked : std::exchange(mAskedAgain, {})) {
+            drawAgain(asked);
+        }
     }
 }
 

@@ -10,6 +10,7 @@
 #include <QWidget>
 
 #include <optional>
+#include <vector>
 
 namespace platform {
 
@@ -32,8 +33,8 @@ public:
     /** Has the whole view drawn again, before it is next painted, and tells its new words. */
     void setNeedsDisplay();
     /**
-     * Has at least that part, in points, drawn again. From within drawing, only has what is drawn
-     * painted.
+     * Has at least that part, in points, drawn again. From within drawing, has exactly that part,
+     * as far as it is in the view, drawn once more: what that drawing asks for in turn is not done.
      */
     void setNeedsDisplayInRect(const Rect& rect);
 
@@ -51,7 +52,10 @@ protected:
     /** A point's size. */
     double pixelsPerPoint() const;
 
-    /** Draws at least what the rectangle covers. The painter is in points, y growing upwards. */
+    /**
+     * Draws at least what the rectangle covers; on what lies beside it the painter does not draw.
+     * The painter is in points, y growing upwards.
+     */
     virtual void drawRect(QPainter& painter, const Rect& dirty) = 0;
 
     void paintEvent(QPaintEvent* event) override;
@@ -59,6 +63,7 @@ protected:
 
 private:
     void updateStore();
+    void drawAgain(const Rect& dirty);
     void beginPoints(QPainter& painter) const;
     QRect toPixels(const Rect& rect) const;
 
@@ -66,6 +71,8 @@ private:
     std::optional<QPainter> mFocus;
     bool mNeedsDisplay = true;
     bool mIsDrawing = false;
+    bool mIsDrawingAgain = false;
+    std::vector<Rect> mAskedAgain; ///< what drawing has asked to be drawn once more
 };
 
 /**
