@@ -6,6 +6,7 @@
 
 #include <QMessageBox>
 #include <QPointer>
+#include <QWindow>
 
 namespace platform {
 
@@ -31,6 +32,7 @@ public:
         // The parent may end before the alert is answered, and takes it along.
         const QPointer<QMessageBox> box = new QMessageBox(parent);
         box->setIcon(iconOf(alert.type));
+        box->setWindowTitle(alert.title);
         box->setText(alert.message);
         box->setInformativeText(alert.explanation);
         box->setTextFormat(Qt::PlainText);
@@ -41,6 +43,14 @@ public:
         box->setDefaultButton(QMessageBox::Ok);
         // Above what the parent stays above of.
         box->setWindowFlag(Qt::WindowStaysOnTopHint);
+        QWindow* const below = parent == nullptr ? nullptr : parent->window()->windowHandle();
+        if (below != nullptr) {
+            QObject::connect(below, &QWindow::visibleChanged, box, [box](bool isVisible) {
+                if (!isVisible && !box.isNull()) {
+                    box->done(QMessageBox::NoButton);
+                }
+            });
+        }
         const int hit = box->exec();
         if (box.isNull()) {
             return 0;

@@ -24,6 +24,7 @@ inline constexpr std::int16_t kAlertStdAlertCancelButton = 2;
 /** An alert in the desktop's look, with the desktop's words on its buttons. */
 struct StandardAlert {
     AlertType type = AlertType::Note;
+    QString title{}; ///< of its window
     QString message{};
     QString explanation{}; ///< below the message; may be empty
     bool hasCancelButton = false; ///< beside OK, which is the default
@@ -44,7 +45,7 @@ public:
      *
      * @param parent the window that it belongs to
      * @return the button that was hit; Escape is Cancel, or OK where that is alone; 0 when the
-     * alert went away without an answer
+     * alert went away without an answer, as it does with its parent's window
      */
     virtual std::int16_t runStandardAlert(const StandardAlert& alert, QWidget* parent) = 0;
 };
