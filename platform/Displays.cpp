@@ -10,6 +10,7 @@
 #include <QTimer>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 #include <numeric>
 #include <utility>
@@ -82,6 +83,61 @@ private:
     bool mIsTelling = false;
 };
 
+/** The factor of an entry "name=2" or "2" of a list, for a screen with that name and place. */
+std::optional<double> listedFactor(const QString& list, const QString& name, qsizetype place)
+{
+    const QStringList entries = list.split(u';');
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        const QString& entry = entries[static_cast<int>(i)];
+        const auto equals = entry.lastIndexOf(u'=');
+        bool isNumber = false;
+        const double factor = entry.mid(equals + 1).toDouble(&isNumber);
+        const bool isIts = equals < 0 ? i == place : entry.left(equals) == name;
+        if (isIts && isNumber && factor > 0) {
+            return factor;
+        }
+    }
+    return std::nullopt;
+}
+
+/**
+ * The window system's units in one of Qt's, on that screen. Wherever Qt is told to scale, it
+ * divides a screen's size, and leaves the origin in the window system's units.
+ */
+double unitsPerPoint(const QScreen& screen)
+{
+    if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        return screen.devicePixelRatio();
+    }
+    // There that counts the compositor's scaling too, which its units know already. What Qt does
+    // besides comes from the environment alone.
+    bool isNumber = false;
+    const double all = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&isNumber);
+    const double one = listedFactor(qEnvironmentVariable("QT_SCREEN_SCALE_FACTORS"), screen.name(),
+        QGuiApplication::screens().indexOf(const_cast<QScreen*>(&screen))) // NOLINT(*-const-cast)
+                           .value_or(1.0);
+    return (isNumber && all > 0 ? all : 1.0) * one;
+}
+
+/**
+ * The length in the window system's units that Qt has divided by the factor and rounded. Of those
+ * that it may have been, the one that is divisible by two most often: lengths of displays are.
+ */
+double unitsIn(int points, double factor)
+{
+    const double around = points * factor;
+    const auto last = static_cast<std::int64_t>(std::floor(around + factor / 2));
+    std::int64_t best = std::llround(around);
+    const auto lowestBit = [](std::int64_t length) { return length & -length; };
+    for (auto length = static_cast<std::int64_t>(std::ceil(around - factor / 2)); length <= last;
+         ++length) {
+        if (lowestBit(length) > lowestBit(best)) {
+            best = length;
+        }
+    }
+    return static_cast<double>(best);
+}
+
 /** A display's ID is its place in Qt's list of screens. */
 class ScreenDisplays final : public Displays {
 public:
@@ -108,14 +164,7 @@ public:
     {
         const QList<QScreen*> screens = QGuiApplication::screens();
         const auto index = static_cast<qsizetype>(display);
-        if (index >= screens.size()) {
-            return {};
-        }
-        const QRect place = screens[static_cast<int>(index)]->geometry();
-        const QPoint origin = QGuiApplication::primaryScreen()->geometry().topLeft();
-        return {static_cast<double>(place.x() - origin.x()),
-            static_cast<double>(place.y() - origin.y()), static_cast<double>(place.width()),
-            static_cast<double>(place.height())};
+        return index < screens.size() ? screenBounds(*screens[static_cast<int>(index)]) : Rect();
     }
 
     bool isMain(DisplayID display) const override
@@ -167,6 +216,44 @@ private:
 };
 
 } // namespace
+
+Rect screenBounds(const QScreen& screen)
+{
+    const QRect place = screen.geometry();
+    const QPoint origin = QGuiApplication::primaryScreen()->geometry().topLeft();
+    const double factor = unitsPerPoint(screen);
+    return {static_cast<double>(place.x() - origin.x()),
+        static_cast<double>(place.y() - origin.y()), unitsIn(place.width(), factor),
+        unitsIn(place.height(), factor)};
+}
+
+QRect windowGeometry(const Rect& part)
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (screen == nullptr) {
+        return {};
+    }
+    const QPointF middle(part.x + part.width / 2, part.y + part.height / 2);
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* const other : screens) {
+        const Rect bounds = screenBounds(*other);
+        if (bounds == part) {
+            return other->geometry();
+        }
+        if (QRectF(bounds.x, bounds.y, bounds.width, bounds.height).contains(middle)) {
+            screen = other;
+        }
+    }
+    // From the screen's corner, which is the same in both.
+    const Rect bounds = screenBounds(*screen);
+    const double factor = unitsPerPoint(*screen);
+    const auto scaled = [factor](double length) {
+        return static_cast<int>(std::lround(length / factor));
+    };
+    const QPoint corner = screen->geometry().topLeft();
+    return {corner.x() + scaled(part.x - bounds.x), corner.y() + scaled(part.y - bounds.y),
+        scaled(part.width), scaled(part.height)};
+}
 
 Displays& displays()
 {

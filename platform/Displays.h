@@ -4,6 +4,8 @@
 
 #include "Geometry.h"
 
+#include <QRect>
+
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -12,9 +14,13 @@
  * @file
  * The displays of the desktop, in the order in which the desktop lists them.
  *
- * Global display coordinates are in points, with their origin at the upper left corner of the main
- * display and y growing downwards.
+ * Global display coordinates have their origin at the upper left corner of the main display, with y
+ * growing downwards. A point is the window system's own unit, in which it places displays: on X11 a
+ * pixel of the X screen, on Wayland a logical pixel of the compositor. So displays that lie beside
+ * each other touch, however each of them is scaled.
  */
+class QScreen;
+
 namespace platform {
 
 /** Names an active display until the displays change. */
@@ -66,6 +72,17 @@ public:
     virtual void removeReconfigurationCallback(
         DisplayReconfigurationCallback callback, void* userInfo) = 0;
 };
+
+/** A screen's place and size in global display coordinates. */
+Rect screenBounds(const QScreen& screen);
+
+/**
+ * The geometry with which a window covers a part of the desktop, which is scaled where the screen
+ * is on which its middle lies.
+ *
+ * @param part in global display coordinates
+ */
+QRect windowGeometry(const Rect& part);
 
 /** The desktop's displays, or what a ServiceScope<Displays> has put in their place. */
 Displays& displays();
