@@ -20,6 +20,7 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 
 using namespace platform;
 
@@ -113,16 +114,22 @@ void takePoint(QVCalibrateView& view, std::int32_t cross, const PenReport& repor
 void confirm(QVCalibrateView& view, const QVTabletArea& before)
 {
     const QPointer<QVCalibrateView> guard(&view);
-    const std::int16_t hit = alerts().runStandardAlert(
-        {.type = AlertType::Stop, .message = localized("Ok"), .hasCancelButton = true},
-        view.window());
-    if (guard.isNull()) {
-        return; // the panel was closed meanwhile
+    view.askAboutArea(before);
+    const std::int16_t hit =
+        alerts().runStandardAlert({.type = AlertType::Stop,
+                                      .title = QVCalibrateView::tr("Calibration finished"),
+                                      .message = localized("Ok"),
+                                      .hasCancelButton = true},
+            view.window());
+    if (guard.isNull() || view.hasStopped()) {
+        return; // the panel was left meanwhile
     }
     if (hit == kAlertStdAlertCancelButton) {
+        view.keepArea();
         view.setQVTabletRectInfo(before.xmin, before.xmax, before.ymin, before.ymax);
         startAgain(view);
     } else if (hit == kAlertStdAlertOKButton) {
+        view.keepArea();
         if (auto* const window = qobject_cast<QVCalibrateWin*>(view.window())) {
             window->removeAndClose();
         }
@@ -147,9 +154,11 @@ void finishPass(QVCalibrateView& view)
         return;
     }
     const QPointer<QVCalibrateView> guard(&view);
-    alerts().runStandardAlert(
-        {.type = AlertType::Caution, .message = localized("Error")}, view.window());
-    if (!guard.isNull()) {
+    alerts().runStandardAlert({.type = AlertType::Caution,
+                                  .title = QVCalibrateView::tr("Calibration failed"),
+                                  .message = localized("Error")},
+        view.window());
+    if (!guard.isNull() && !view.hasStopped()) {
         startAgain(view);
     }
 }
@@ -200,10 +209,7 @@ void QVCalibrateView::disableTablet(std::int16_t flag)
 void QVCalibrateView::setQVTabletRectInfo(
     std::uint16_t xmin, std::uint16_t xmax, std::uint16_t ymin, std::uint16_t ymax)
 {
-    qvTabletInfo.Monitor.cTabletXmin = xmin;
-    qvTabletInfo.Monitor.cTabletXmax = xmax;
-    qvTabletInfo.Monitor.cTabletYmin = ymin;
-    qvTabletInfo.Monitor.cTabletYmax = ymax;
+    QVSetUsedArea(qvTabletInfo, {xmin, xmax, ymin, ymax});
     PushQVTabletInfo();
 }
 
@@ -225,6 +231,26 @@ std::uint16_t QVCalibrateView::getQVTabletRectInfoYmin() const
 std::uint16_t QVCalibrateView::getQVTabletRectInfoYmax() const
 {
     return qvTabletInfo.Monitor.cTabletYmax;
+}
+
+void QVCalibrateView::askAboutArea(const QVTabletArea& before)
+{
+    if (!mAreaBefore) { // else the last question has had no answer
+        mAreaBefore = before;
+    }
+}
+
+void QVCalibrateView::keepArea()
+{
+    mAreaBefore.reset();
+}
+
+void QVCalibrateView::stop()
+{
+    mHasStopped = true;
+    if (const auto before = std::exchange(mAreaBefore, std::nullopt)) {
+        QVSetUsedArea(qvTabletInfo, *before);
+    }
 }
 
 QString QVCalibrateView::spokenContents() const
@@ -270,12 +296,12 @@ void QVCalibrateView::drawCross(QPainter& painter, std::int32_t cross) const
     path.lineTo(centre + QPointF(kHalfCross, 0));
     path.moveTo(centre + QPointF(0, kHalfCross));
     path.lineTo(centre - QPointF(0, kHalfCross));
-    painter.strokePath(path, QPen(Qt::red, 1));
+    painter.strokePath(path, QPen(Qt::red, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
 }
 
 void QVCalibrateView::eraseCross(std::int32_t cross)
 {
-    // A cross's height above the cross itself; drawing covers the whole view anyway.
+    // A cross's height above the cross itself.
     const QPointF centre = centreOf(cross, bounds());
     setNeedsDisplayInRect(
         {centre.x() - kHalfCross, centre.y() + kHalfCross, 2 * kHalfCross, 2 * kHalfCross});
@@ -284,8 +310,8 @@ void QVCalibrateView::eraseCross(std::int32_t cross)
 OSErr QVTabletGetDatahandler(const AppleEvent& event, AppleEvent& reply, QVCalibrateView* view)
 {
     static_cast<void>(reply);
-    if (isFinishing) {
-        return noErr; // an alert is open, and what the pen does belongs to it
+    if (isFinishing || view->hasStopped()) {
+        return noErr; // an alert is open, and what the pen does belongs to it; or all is over
     }
     const QPointer<QVCalibrateView> guard(view);
     const AEList items = itemsOf(event);
@@ -309,7 +335,7 @@ OSErr QVTabletGetDatahandler(const AppleEvent& event, AppleEvent& reply, QVCalib
         cachedKey = static_cast<std::int32_t>(report.key);
         if (view->changenPointValue(0) == kCrosses) {
             finishPass(*view);
-            if (guard.isNull()) {
+            if (guard.isNull() || view->hasStopped()) {
                 break;
             }
         }

@@ -4,10 +4,12 @@
 
 #include "AppleEvents.h"
 #include "PaneView.h"
+#include "QVMonitorGeometry.h"
 
 #include <QColor>
 
 #include <cstdint>
+#include <optional>
 
 /**
  * What the calibration window shows: a hint, and one cross at a time near each corner, to be
@@ -46,6 +48,20 @@ public:
     std::uint16_t getQVTabletRectInfoYmin() const;
     std::uint16_t getQVTabletRectInfoYmax() const;
 
+    /**
+     * The driver has a new area, and the user is asked whether it shall stay. Until keepArea(), the
+     * one from before the first such question is what stop() goes back to.
+     */
+    void askAboutArea(const QVTabletArea& before);
+    /** The user has decided. */
+    void keepArea();
+    /**
+     * Takes no more reports: the calibration has ended. An area that the user has not agreed to is
+     * taken back, in the record alone.
+     */
+    void stop();
+    bool hasStopped() const { return mHasStopped; }
+
     /** Where the cross is; the name says what to do with it. */
     QString spokenContents() const override;
 
@@ -59,6 +75,8 @@ private:
     QColor fillColor = Qt::transparent;
     std::int32_t drawflag = kDrawCross;
     std::int32_t nPoint = 0; ///< points taken in this pass: 0 to 4
+    std::optional<QVTabletArea> mAreaBefore; ///< the one in the record is not confirmed
+    bool mHasStopped = false;
 };
 
 /**

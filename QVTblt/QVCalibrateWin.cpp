@@ -2,7 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "QVCalibrateWin.h"
 
+#include "Displays.h"
 #include "QVNSView.h"
+#include "rzkApplication.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QGuiApplication>
@@ -10,8 +12,6 @@
 #include <QScreen>
 #include <QVBoxLayout>
 #include <QWindow>
-
-#include <cmath>
 
 using platform::Rect;
 
@@ -22,9 +22,15 @@ constexpr double kOpacity = 0.7;
 /** Keys by their place on the keyboard, whatever is written on them. */
 enum class PlacedKey { S, E, Escape, Other };
 
-/** The window system counts keys as the kernel does, plus eight. */
+/**
+ * The window system counts keys as the kernel does, plus eight. Escape is also what means it: some
+ * keyboards have it elsewhere, and the window covers all else.
+ */
 PlacedKey placedKey(const QKeyEvent& event)
 {
+    if (event.key() == Qt::Key_Escape) {
+        return PlacedKey::Escape;
+    }
     switch (event.nativeScanCode()) {
     case 0: // no real keyboard
         break;
@@ -38,8 +44,6 @@ PlacedKey placedKey(const QKeyEvent& event)
         return PlacedKey::Other;
     }
     switch (event.key()) {
-    case Qt::Key_Escape:
-        return PlacedKey::Escape;
     case Qt::Key_E:
         return PlacedKey::E;
     case Qt::Key_S:
@@ -49,14 +53,13 @@ PlacedKey placedKey(const QKeyEvent& event)
     }
 }
 
-/** From points above the main display's lower left corner to the window system's. */
-QRect toWindowSystem(const Rect& rect)
+/** The window's geometry, from points above the main display's lower left corner. */
+QRect placeOf(const Rect& rect)
 {
-    const QScreen* const screen = QGuiApplication::primaryScreen();
-    const QRect main = screen == nullptr ? QRect() : screen->geometry();
-    return {main.x() + static_cast<int>(std::lround(rect.x)),
-        main.y() + main.height() - static_cast<int>(std::lround(rect.y + rect.height)),
-        static_cast<int>(std::lround(rect.width)), static_cast<int>(std::lround(rect.height))};
+    const QScreen* const main = QGuiApplication::primaryScreen();
+    const double height = main == nullptr ? 0 : platform::screenBounds(*main).height;
+    return platform::windowGeometry(
+        {rect.x, height - (rect.y + rect.height), rect.width, rect.height});
 }
 
 } // namespace
@@ -86,7 +89,7 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     mView->setColor(Qt::yellow);
     mView->setFocus();
 
-    const QRect place = toWindowSystem(contentRect);
+    const QRect place = placeOf(contentRect);
     setGeometry(place);
     const QScreen* const screen = QGuiApplication::screenAt(place.center());
     if (screen != nullptr && screen->geometry() == place) {
@@ -114,12 +117,17 @@ bool QVCalibrateWin::isChildOfMainWindow() const
         && mCalibrateWin->parentWidget() == mMainWindow;
 }
 
-bool QVCalibrateWin::endCalibration()
+bool QVCalibrateWin::endCalibration(bool pushes)
 {
     if (!isChildOfMainWindow()) {
         return false;
     }
-    mView->disableTablet(0);
+    mView->stop();
+    if (pushes) {
+        mView->disableTablet(0);
+    } else {
+        GetqvTabletInfo()->Monitor.disableFlag = 0;
+    }
     removeAndClose();
     return true;
 }
@@ -128,6 +136,7 @@ void QVCalibrateWin::removeAndClose()
 {
     const QPointer<QWidget> calibration = mCalibrateWin;
     mMainWindow.clear();
+    mView->stop();
     if (!calibration.isNull()) {
         calibration->close();
     }
@@ -142,6 +151,7 @@ void QVCalibrateWin::closeEvent(QCloseEvent* event)
 {
     if (!mMainWindow.isNull()) { // nobody has ended the calibration
         mMainWindow.clear();
+        mView->stop();
         mView->disableTablet(0);
     }
     QWidget::closeEvent(event);

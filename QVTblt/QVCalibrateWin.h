@@ -30,9 +30,15 @@ public:
     /** Sets the window that Escape closes, which is this one. */
     void sethCalibrateWin(QWidget* window);
 
-    /** Ends the calibration as Escape does. @return false when the window is nobody's any more */
-    bool endCalibration();
-    /** Takes the window from the panel's and closes it. */
+    /**
+     * Ends the calibration as Escape does: an area that the user has not agreed to is taken back,
+     * the record says that nothing is calibrated, and an alert goes with the window.
+     *
+     * @param pushes whether the driver is told
+     * @return false when the window is nobody's any more
+     */
+    bool endCalibration(bool pushes = true);
+    /** Takes the window from the panel's and closes it; its reports count no more. */
     void removeAndClose();
 
     /** Spreads the pen's coming and going, which while the window is open reaches nobody else. */

@@ -39,26 +39,33 @@ Rect QVMiniature(const Rect& display, const Rect& bounds)
         480.0 - (height + (display.y / kMiniature + (bounds.height - 110.0))), width, height};
 }
 
-std::optional<QVPoint> QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole)
+void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)
 {
-    const std::int32_t wholeWidth = whole.xmax - whole.xmin;
-    const std::int32_t wholeHeight = whole.ymax - whole.ymin;
-    if (wholeWidth == 0 || wholeHeight == 0) {
-        return std::nullopt;
-    }
-    const auto pictureWidth = static_cast<std::int32_t>(kQVPictureArea.width);
-    const auto pictureHeight = static_cast<std::int32_t>(kQVPictureArea.height);
-    const std::int32_t right = (used.xmax - used.xmin) * pictureWidth / wholeWidth;
-    const std::int32_t down = (used.ymax - used.ymin) * pictureHeight / wholeHeight;
-    return QVPoint{kQVPictureArea.x + right, kQVPictureArea.y + kQVPictureArea.height - down};
+    info.Monitor.cTabletXmin = area.xmin;
+    info.Monitor.cTabletXmax = area.xmax;
+    info.Monitor.cTabletYmin = area.ymin;
+    info.Monitor.cTabletYmax = area.ymax;
+}
+
+QVPoint QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole)
+{
+    // Of a tablet without extent, all of it.
+    const auto part = [](std::int32_t length, std::int32_t of, double picture) {
+        return of == 0 ? picture : length * static_cast<std::int32_t>(picture) / of;
+    };
+    const double right = part(used.xmax - used.xmin, whole.xmax - whole.xmin, kQVPictureArea.width);
+    const double down = part(used.ymax - used.ymin, whole.ymax - whole.ymin, kQVPictureArea.height);
+    return {kQVPictureArea.x + right, kQVPictureArea.y + kQVPictureArea.height - down};
 }
 
 std::optional<QVTabletArea> QVAspectFit(
     const QVTabletArea& whole, std::int16_t width, std::int16_t height)
 {
+    // No product of a span of the tablet and a side of the display is beyond 32 bits.
     const std::int32_t tabletWidth = whole.xmax - whole.xmin;
     const std::int32_t tabletHeight = whole.ymax - whole.ymin;
-    if (tabletWidth == 0 || tabletHeight == 0 || width == 0 || height == 0) {
+    const bool isTabletWider = tabletHeight * width <= tabletWidth * height;
+    if ((isTabletWider ? height : width) == 0) {
         return std::nullopt;
     }
     QVTabletArea fitted = whole;
@@ -66,7 +73,7 @@ std::optional<QVTabletArea> QVAspectFit(
     const auto edge = [](std::uint16_t start, std::int32_t length) {
         return static_cast<std::uint16_t>(start + static_cast<std::uint16_t>(length));
     };
-    if (tabletHeight * width <= tabletWidth * height) {
+    if (isTabletWider) {
         fitted.xmax = edge(whole.xmin, tabletHeight * width / height);
     } else {
         fitted.ymax = edge(whole.ymin, tabletWidth * height / width);

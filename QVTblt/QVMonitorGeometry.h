@@ -4,6 +4,7 @@
 
 #include "Geometry.h"
 #include "QVPoint.h"
+#include "tagQVTabletInfo.h"
 
 #include <cstdint>
 #include <optional>
@@ -45,20 +46,24 @@ struct QVTabletArea {
     bool operator==(const QVTabletArea&) const = default;
 };
 
+/** Stores the part of the tablet that is used. */
+void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area);
+
 /**
  * The lower right corner in the picture of an area in use, whose upper left corner is drawn at that
- * of the whole area. Whole points: quotients are cut off.
- *
- * @return nothing when the whole area has no width or no height
+ * of the whole area. Whole points: quotients are cut off. Where the whole area has no width or no
+ * height, the picture's own edge.
  */
-std::optional<QVPoint> QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole);
+QVPoint QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole);
 
 /**
  * The largest part of the tablet, from its upper left corner, that has the shape of a display, so
  * that circles stay round.
  *
  * @param width of the mapped area, in display points
- * @return nothing when tablet or display has no width or no height
+ * @param height of the mapped area, in display points
+ * @return nothing when that would be divided by a side that is zero: by the height where the tablet
+ * is as wide as the display or wider, compared with its height; else by the width
  */
 std::optional<QVTabletArea> QVAspectFit(
     const QVTabletArea& whole, std::int16_t width, std::int16_t height);

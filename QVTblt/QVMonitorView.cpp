@@ -13,6 +13,7 @@
 #include <QLoggingCategory>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPushButton>
 
 #include <algorithm>
 #include <cmath>
@@ -40,7 +41,7 @@ QString displayName(std::uint32_t index)
 {
     const QString display = rzkBundle.localizedString(
         QStringLiteral("Monitor"), QString(), QStringLiteral("InfoPlist"));
-    return QStringLiteral("%1 #%2").arg(display).arg(index + 1);
+    return QStringLiteral("%1 #%2").arg(display, QString::number(index + 1));
 }
 
 QVTabletArea wholeArea(const tagQVTabletInfo& info)
@@ -55,12 +56,35 @@ QVTabletArea usedArea(const tagQVTabletInfo& info)
         info.Monitor.cTabletYmax};
 }
 
-void setUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)
+/** A line one point wide that ends where it ends. */
+QPen linePen(const QColor& color)
 {
-    info.Monitor.cTabletXmin = area.xmin;
-    info.Monitor.cTabletXmax = area.xmax;
-    info.Monitor.cTabletYmin = area.ymin;
-    info.Monitor.cTabletYmax = area.ymax;
+    return {color, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
+}
+
+/** The largest font up to the painter's in which the text is so wide, but one that can be read. */
+QFont fittingFont(const QPainter& painter, const QString& text, double width)
+{
+    constexpr int kSmallest = 7; // points of the view
+    QFont font = painter.font();
+    for (int size = QFontInfo(font).pixelSize(); size > kSmallest
+         && QFontMetricsF(font, painter.device()).horizontalAdvance(text) > width;) {
+        font.setPixelSize(--size);
+    }
+    return font;
+}
+
+/** Draws a display's name in its miniature, small enough to end where that does. */
+void drawLabel(QPainter& painter, const QString& name, const Rect& miniature)
+{
+    constexpr double kLeft = 20;
+    constexpr double kAbove = 15;
+    constexpr double kRight = 3;
+    painter.save();
+    painter.setClipRect(QRectF(miniature.x, miniature.y, miniature.width, miniature.height));
+    painter.setFont(fittingFont(painter, name, miniature.width - kLeft - kRight));
+    platform::drawText(painter, name, miniature.x + kLeft, miniature.y + kAbove);
+    painter.restore();
 }
 
 } // namespace
@@ -89,11 +113,39 @@ QVMonitorView::~QVMonitorView()
     }
 }
 
-void QVMonitorView::setOutlets(QComboBox* displays, QComboBox* speed, QComboBox* useMode)
+void QVMonitorView::setOutlets(
+    QComboBox* displays, QComboBox* speed, QComboBox* useMode, QPushButton* calibrate)
 {
     mComboBox = displays;
     mComboBoxSpeed = speed;
     mComboBoxUseMode = useMode;
+    mDoCalibrate = calibrate;
+    if (displays != nullptr) {
+        connect(displays, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &QVMonitorView::updateCalibrate);
+    }
+    if (calibrate != nullptr) {
+        mCalibrateHelp = calibrate->toolTip();
+    }
+}
+
+int QVMonitorView::chosenItem() const
+{
+    return mComboBox.isNull() ? -1 : mComboBox->currentIndex();
+}
+
+void QVMonitorView::updateCalibrate()
+{
+    if (mDoCalibrate.isNull()) {
+        return;
+    }
+    const bool hasOneDisplay = mDspCount == 1 || chosenItem() > 0;
+    const QString help = hasOneDisplay
+        ? mCalibrateHelp
+        : tr("Choose one display first: all displays together have no corners to touch.");
+    mDoCalibrate->setEnabled(hasOneDisplay);
+    mDoCalibrate->setToolTip(help);
+    mDoCalibrate->setAccessibleDescription(help);
 }
 
 void QVMonitorView::awakeFromNib()
@@ -103,7 +155,9 @@ void QVMonitorView::awakeFromNib()
 
 void QVMonitorView::disableUI()
 {
-    mComboBox->clear();
+    if (!mComboBox.isNull()) {
+        mComboBox->clear();
+    }
 }
 
 void QVMonitorView::interrogateHardware()
@@ -113,20 +167,26 @@ void QVMonitorView::interrogateHardware()
     const auto displays = service.activeDisplays();
     if (!displays) {
         mDisplays.assign(mDspCount, 0);
+        updateCalibrate();
         return;
     }
     mDisplays = *displays;
     mDisplays.resize(std::min<std::size_t>(mDisplays.size(), mDspCount));
     mDspCount = static_cast<std::uint32_t>(mDisplays.size());
     disableUI();
+    QStringList items;
     if (mDspCount >= 2) {
-        mComboBox->addItem(rzkBundle.localizedString(
+        items.append(rzkBundle.localizedString(
             QStringLiteral("Monitors"), QString(), QStringLiteral("InfoPlist")));
     }
     for (std::uint32_t i = 0; i < mDspCount; ++i) {
-        mComboBox->addItem(displayName(i));
+        items.append(displayName(i));
         mSubMonitorRect[i] = service.bounds(mDisplays[i]);
     }
+    if (!mComboBox.isNull()) {
+        mComboBox->addItems(items);
+    }
+    updateCalibrate();
 }
 
 void QVMonitorView::GetAllMonitorRect(const Rect* rects, Rect* outRect) const
@@ -142,45 +202,53 @@ void QVMonitorView::setMappedArea(const Rect& area)
     pQVInfo->Monitor.Height = QVTruncate(area.height);
 }
 
-void QVMonitorView::updateMappedArea(const Rect& all)
+bool QVMonitorView::updateMappedArea()
 {
-    if (mDspCount == 1) {
-        mComboBox->setCurrentIndex(0);
-        setMappedArea(all);
-        return;
-    }
     if (mDspCount == 0) {
-        return;
+        return false;
     }
-    const std::int16_t num = pQVInfo->Monitor.num;
+    const auto& monitor = pQVInfo->Monitor;
+    const auto area = [&monitor] {
+        return std::array<std::int16_t, 4>{
+            monitor.XOrg, monitor.Width, monitor.YOrg, monitor.Height};
+    };
+    const auto before = area();
+    const std::int16_t num = mDspCount == 1 ? std::int16_t{0} : monitor.num;
     const auto chosen = static_cast<std::uint32_t>(std::int32_t{num}); // negative is too large
-    mComboBox->setCurrentIndex(chosen > mDspCount ? 0 : num);
+    if (!mComboBox.isNull()) {
+        mComboBox->setCurrentIndex(chosen > mDspCount ? 0 : num);
+    }
     if (num == 0) {
+        Rect all;
+        GetAllMonitorRect(mSubMonitorRect.data(), &all);
         setMappedArea(all);
     } else if (chosen <= mSubMonitorRect.size()) {
         setMappedArea(mSubMonitorRect[chosen - 1]);
-    } else {
+    } else if (num != mUnknownDisplay) { // once, not each time that it is drawn
+        mUnknownDisplay = num;
         qCWarning(lcMonitor, "there is no display %d: the mapped area stays as it is", num);
     }
+    updateCalibrate();
+    return area() != before;
 }
 
 void QVMonitorView::updatePicturePoints()
 {
-    const auto corner = QVPictureCorner(usedArea(*pQVInfo), wholeArea(*pQVInfo));
+    const QVTabletArea whole = wholeArea(*pQVInfo);
     mTabletPicLeftUp = {kPictureLeft, kPictureTop};
-    if (corner) {
-        mTabletPicRightDn = *corner;
-    } else if (mHasTabletArea) { // once, not each time that it is drawn
+    mTabletPicRightDn = QVPictureCorner(usedArea(*pQVInfo), whole);
+    const bool hasArea = whole.xmin != whole.xmax && whole.ymin != whole.ymax;
+    if (!hasArea && mHasTabletArea) { // once, not each time that it is drawn
         qCWarning(lcMonitor, "the tablet's active area has no width or no height");
     }
-    mHasTabletArea = corner.has_value();
+    mHasTabletArea = hasArea;
 }
 
 void QVMonitorView::updateLists()
 {
     const auto select = [](QComboBox* list, std::int16_t value, std::int16_t first,
                             std::int16_t second) {
-        if (value == first || value == second) {
+        if (list != nullptr && (value == first || value == second)) {
             list->setCurrentIndex(value == first ? 0 : 1);
         }
     };
@@ -194,14 +262,14 @@ Rect QVMonitorView::drawMiniatures(QPainter& painter) const
     for (std::uint32_t i = 0; i < mDspCount; ++i) {
         Rect& miniature = miniatures[i];
         miniature = QVMiniature(mSubMonitorRect[i], bounds());
-        painter.setPen(QPen(Qt::magenta, 1));
+        painter.setPen(linePen(Qt::magenta));
         painter.setBrush(Qt::magenta);
         painter.drawRect(QRectF(miniature.x, miniature.y, miniature.width, miniature.height));
         // On a miniature, which has the same colour in every theme.
         painter.setPen(Qt::black);
-        platform::drawText(painter, displayName(i), miniature.x + 20, miniature.y + 15);
+        drawLabel(painter, displayName(i), miniature);
     }
-    const int chosen = mComboBox->currentIndex();
+    const int chosen = chosenItem();
     if (mDspCount == 1) {
         return miniatures[0];
     }
@@ -218,14 +286,12 @@ QString QVMonitorView::spokenContents() const
     QStringList sentences;
     for (std::uint32_t i = 0; i < mDspCount; ++i) {
         const Rect& display = mSubMonitorRect[i];
+        const auto number = [](double value) { return QString::number(std::lround(value)); };
         sentences.append(tr("%1: %2 by %3 points, its upper left corner at %4, %5.")
-                             .arg(displayName(i))
-                             .arg(std::lround(display.width))
-                             .arg(std::lround(display.height))
-                             .arg(std::lround(display.x))
-                             .arg(std::lround(display.y)));
+                             .arg(displayName(i), number(display.width), number(display.height),
+                                 number(display.x), number(display.y)));
     }
-    if (mComboBox->currentIndex() >= 0) {
+    if (chosenItem() >= 0) {
         sentences.append(tr("The tablet reaches %1.").arg(mComboBox->currentText()));
     }
     return sentences.join(u' ');
@@ -233,9 +299,7 @@ QString QVMonitorView::spokenContents() const
 
 void QVMonitorView::drawRect(QPainter& painter, const Rect& dirty)
 {
-    Rect all;
-    GetAllMonitorRect(mSubMonitorRect.data(), &all);
-    updateMappedArea(all);
+    updateMappedArea();
     updatePicturePoints();
     updateLists();
 
@@ -263,12 +327,12 @@ void QVMonitorView::drawRect(QPainter& painter, const Rect& dirty)
     lines.lineTo(kPictureRight, kPictureBottom);
     lines.moveTo(left, bottom);
     lines.lineTo(kPictureLeft, kPictureBottom);
-    painter.strokePath(lines, QPen(Qt::black, 1));
+    painter.strokePath(lines, linePen(Qt::black));
 }
 
 void QVMonitorView::SelectMonitor()
 {
-    const int chosen = mComboBox->currentIndex();
+    const int chosen = chosenItem();
     pQVInfo->Monitor.num = static_cast<std::int16_t>(chosen);
     if (chosen == 0 && mDspCount > 1) {
         Rect all;
@@ -287,7 +351,7 @@ void QVMonitorView::SelectMonitor()
 void QVMonitorView::SelectSpeed()
 {
     const auto productID = static_cast<std::uint16_t>(pQVInfo->Basic.ProductID);
-    switch (mComboBoxSpeed->currentIndex()) {
+    switch (mComboBoxSpeed.isNull() ? -1 : mComboBoxSpeed->currentIndex()) {
     case 0:
         pQVInfo->Monitor.Speed = kFast;
         controlUSBDev(kQVReportFast, productID);
@@ -304,7 +368,7 @@ void QVMonitorView::SelectSpeed()
 
 void QVMonitorView::SelectUseMode()
 {
-    switch (mComboBoxUseMode->currentIndex()) {
+    switch (mComboBoxUseMode.isNull() ? -1 : mComboBoxUseMode->currentIndex()) {
     case 0:
         pQVInfo->Monitor.rotationFlag = kTurned;
         break;
@@ -319,7 +383,7 @@ void QVMonitorView::SelectUseMode()
 
 void QVMonitorView::setTabletDefaultArea()
 {
-    setUsedArea(*pQVInfo, wholeArea(*pQVInfo));
+    QVSetUsedArea(*pQVInfo, wholeArea(*pQVInfo));
     PushQVTabletInfo();
 }
 
@@ -330,11 +394,10 @@ void QVMonitorView::AutoCalibrate()
     const QVTabletArea whole = wholeArea(*pQVInfo);
     const auto fitted = QVAspectFit(whole, pQVInfo->Monitor.Width, pQVInfo->Monitor.Height);
     if (fitted) {
-        setUsedArea(*pQVInfo, *fitted);
-        updatePicturePoints();
+        QVSetUsedArea(*pQVInfo, *fitted);
+        mTabletPicRightDn = QVPictureCorner(*fitted, whole);
     } else {
-        qCWarning(
-            lcMonitor, "the tablet cannot be fitted: it or the display has no width or height");
+        qCWarning(lcMonitor, "the tablet cannot be fitted to a display without width or height");
     }
     setNeedsDisplay();
     PushQVTabletInfo();
@@ -356,7 +419,7 @@ void QVMonitorView::DoCalibrate()
         PushQVTabletInfo();
         return;
     }
-    const int chosen = mComboBox->currentIndex();
+    const int chosen = chosenItem();
     if (chosen <= 0 || static_cast<std::size_t>(chosen) > mDisplays.size()) {
         return; // all displays together have no corners to touch
     }
@@ -380,10 +443,10 @@ void QVMonitorView::DoCalibrate()
     PushQVTabletInfo();
 }
 
-void QVMonitorView::endCalibration()
+void QVMonitorView::endCalibration(bool pushes)
 {
     if (!mCalibration.isNull()) {
-        mCalibration->endCalibration();
+        mCalibration->endCalibration(pushes);
     }
 }
 
@@ -402,5 +465,6 @@ void DisplayRegisterReconfigurationCallback(
     } else {
         view.interrogateHardware();
         view.setNeedsDisplay();
+        Q_EMIT view.displaysChanged();
     }
 }

@@ -15,6 +15,7 @@
 #include <vector>
 
 class QComboBox;
+class QPushButton;
 class QVCalibrateWin;
 
 /**
@@ -35,8 +36,12 @@ public:
     QVMonitorView(QVMonitorView&&) = delete;
     QVMonitorView& operator=(QVMonitorView&&) = delete;
 
-    /** Connects the page's lists; before awakeFromNib(). They outlive the view's last drawing. */
-    void setOutlets(QComboBox* displays, QComboBox* speed, QComboBox* useMode);
+    /**
+     * Connects the page's lists, and the button that starts a calibration, which is off while there
+     * is none to start; before awakeFromNib(). Without them, what they would do is left out.
+     */
+    void setOutlets(QComboBox* displays, QComboBox* speed, QComboBox* useMode,
+        QPushButton* calibrate = nullptr);
     /** The interface file has been loaded. */
     void awakeFromNib();
 
@@ -58,10 +63,26 @@ public:
      * more displays than one and all of them chosen, nothing is shown.
      */
     void DoCalibrate();
-    /** Ends a calibration that is going on, as Escape does. */
-    void endCalibration();
+    /**
+     * Ends a calibration that is going on, as Escape does. An area that the user has not agreed to
+     * is taken back, and an alert that asks for it goes.
+     *
+     * @param pushes whether the driver is told; false where it has another tablet by now
+     */
+    void endCalibration(bool pushes = true);
     /** Uses the part of the tablet that has the mapped area's shape. */
     void AutoCalibrate();
+
+    /**
+     * Brings the list of displays and the mapped area of the record up to date with the displays,
+     * as drawing does. Pushes nothing.
+     *
+     * @return whether the record's area is another now
+     */
+    bool updateMappedArea();
+
+    /** The lower right corner of the tablet's area in use, in the picture, as last drawn. */
+    QVPoint tabletPictureCorner() const { return mTabletPicRightDn; }
 
     /**
      * The smallest rectangle around the first mDspCount rectangles.
@@ -73,6 +94,10 @@ public:
     /** Which displays there are, where, and which of them the tablet reaches. */
     QString spokenContents() const override;
 
+Q_SIGNALS:
+    /** Displays have come, gone, moved or turned, and the list shows them as they are now. */
+    void displaysChanged();
+
 protected:
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
 
@@ -82,15 +107,18 @@ private:
 
     /** @param rect in points from the main display's lower left corner, y growing upwards */
     void CreateCalibrateWin(const platform::Rect& rect);
-    void updateMappedArea(const platform::Rect& all);
+    int chosenItem() const;
+    void updateCalibrate();
     void setMappedArea(const platform::Rect& area);
     void updatePicturePoints();
     void updateLists();
     platform::Rect drawMiniatures(QPainter& painter) const;
 
-    QComboBox* mComboBox = nullptr;
-    QComboBox* mComboBoxSpeed = nullptr;
-    QComboBox* mComboBoxUseMode = nullptr;
+    QPointer<QComboBox> mComboBox;
+    QPointer<QComboBox> mComboBoxSpeed;
+    QPointer<QComboBox> mComboBoxUseMode;
+    QPointer<QPushButton> mDoCalibrate;
+    QString mCalibrateHelp; ///< the button's own words
     QByteArray mBackgroundFile; ///< the picture's file until the view is drawn for the first time:
                                 ///< decoded, it takes 4 MiB, which most showings of the panel spare
     QImage mBackgroundImage;
@@ -103,6 +131,7 @@ private:
     QVPoint mTabletPicLeftUp{}; ///< of the area in use, in the picture
     QVPoint mTabletPicRightDn{};
     bool mHasTabletArea = true; ///< as it was last drawn
+    std::int16_t mUnknownDisplay = 0; ///< the number of the last one that there was not
 };
 
 /** Empties the view's list when displays begin to change, and fills it when they have changed. */

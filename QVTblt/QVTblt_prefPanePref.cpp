@@ -86,7 +86,7 @@ void QVTblt_prefPanePref::setUpPenPage()
 
 void QVTblt_prefPanePref::setUpDisplayPage()
 {
-    mMonitorView->setOutlets(mComboBox, mComboBoxSpeed, mComboBoxUseMode);
+    mMonitorView->setOutlets(mComboBox, mComboBoxSpeed, mComboBoxUseMode, mDoCalibrate);
     mMonitorView->awakeFromNib();
     // Where there is no room for the whole picture, the part with the tablet and the main display.
     QScrollBar* const upDown = mMonitorScroll->verticalScrollBar();

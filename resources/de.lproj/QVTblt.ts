@@ -34,6 +34,14 @@
         <source>Cross 4 of 4, at the lower left.</source>
         <translation>Kreuz 4 von 4, unten links.</translation>
     </message>
+    <message>
+        <source>Calibration finished</source>
+        <translation>Kalibrierung abgeschlossen</translation>
+    </message>
+    <message>
+        <source>Calibration failed</source>
+        <translation>Kalibrierung fehlgeschlagen</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateWin</name>
@@ -175,6 +183,10 @@
     <message>
         <source>The tablet reaches %1.</source>
         <translation>Das Tablett erreicht: %1.</translation>
+    </message>
+    <message>
+        <source>Choose one display first: all displays together have no corners to touch.</source>
+        <translation>Zuerst einen Bildschirm wählen: Alle zusammen haben keine Ecken zum Antippen.</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,14 @@
         <source>Cross 4 of 4, at the lower left.</source>
         <translation>Cruz 4 de 4, abajo a la izquierda.</translation>
     </message>
+    <message>
+        <source>Calibration finished</source>
+        <translation>Calibración terminada</translation>
+    </message>
+    <message>
+        <source>Calibration failed</source>
+        <translation>Calibración fallida</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateWin</name>
@@ -175,6 +183,10 @@
     <message>
         <source>The tablet reaches %1.</source>
         <translation>La tableta abarca: %1.</translation>
+    </message>
+    <message>
+        <source>Choose one display first: all displays together have no corners to touch.</source>
+        <translation>Elija primero una pantalla: todas juntas no tienen esquinas que tocar.</translation>
     </message>
 </context>
 <context>

@@ -34,6 +34,14 @@
         <source>Cross 4 of 4, at the lower left.</source>
         <translation>Croix 4 sur 4, en bas à gauche.</translation>
     </message>
+    <message>
+        <source>Calibration finished</source>
+        <translation>Calibrage terminé</translation>
+    </message>
+    <message>
+        <source>Calibration failed</source>
+        <translation>Échec du calibrage</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateWin</name>
@@ -175,6 +183,10 @@
     <message>
         <source>The tablet reaches %1.</source>
         <translation>La tablette couvre&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Choose one display first: all displays together have no corners to touch.</source>
+        <translation>Choisissez d’abord un écran&#xa0;: tous les écrans ensemble n’ont pas de coins à toucher.</translation>
     </message>
 </context>
 <context>

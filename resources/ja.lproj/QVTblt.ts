@@ -34,6 +34,14 @@
         <source>Cross 4 of 4, at the lower left.</source>
         <translation>4 つのうち 4 番目の十字、左下です。</translation>
     </message>
+    <message>
+        <source>Calibration finished</source>
+        <translation>キャリブレーション完了</translation>
+    </message>
+    <message>
+        <source>Calibration failed</source>
+        <translation>キャリブレーション失敗</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateWin</name>
@@ -175,6 +183,10 @@
     <message>
         <source>The tablet reaches %1.</source>
         <translation>タブレットの対応範囲は %1 です。</translation>
+    </message>
+    <message>
+        <source>Choose one display first: all displays together have no corners to touch.</source>
+        <translation>先にディスプレイを1つ選んでください。すべてのディスプレイでは、触れる角がありません。</translation>
     </message>
 </context>
 <context>

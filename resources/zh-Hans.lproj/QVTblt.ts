@@ -34,6 +34,14 @@
         <source>Cross 4 of 4, at the lower left.</source>
         <translation>第 4 个十字（共 4 个），位于左下角。</translation>
     </message>
+    <message>
+        <source>Calibration finished</source>
+        <translation>校准完成</translation>
+    </message>
+    <message>
+        <source>Calibration failed</source>
+        <translation>校准失败</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateWin</name>
@@ -175,6 +183,10 @@
     <message>
         <source>The tablet reaches %1.</source>
         <translation>数位板的映射区域：%1。</translation>
+    </message>
+    <message>
+        <source>Choose one display first: all displays together have no corners to touch.</source>
+        <translation>请先选择一个显示器：所有显示器合在一起没有可触碰的角。</translation>
     </message>
 </context>
 <context>

@@ -84,10 +84,7 @@ protected:
         mDisplays.change({{0, 0, 1920, 1080}});
         PaneTest::SetUp();
         show();
-        qvTabletInfo.Monitor.cTabletXmin = 11;
-        qvTabletInfo.Monitor.cTabletXmax = 12;
-        qvTabletInfo.Monitor.cTabletYmin = 13;
-        qvTabletInfo.Monitor.cTabletYmax = 14;
+        setAreaBefore();
         mEvents.sent.clear();
     }
 
@@ -107,12 +104,14 @@ protected:
         return windows.isEmpty() || !windows.constFirst()->isVisible() ? nullptr
                                                                        : windows.constFirst();
     }
+    void setAreaBefore() { QVSetUsedArea(qvTabletInfo, {11, 12, 13, 14}); }
     /** The calibration's view, at the size of the display. */
     QVCalibrateView& view()
     {
         EXPECT_NE(window(), nullptr);
         QVCalibrateView& found = window()->view();
-        found.resize(1920, 1080);
+        window()->resize(mSize); // which is smaller where a point is larger than a pixel
+        found.resize(mSize);
         return found;
     }
     void deliverDirect(const AEDesc& direct)
@@ -160,6 +159,7 @@ protected:
 
     FakeAlerts mAlerts;
     FakeUsb mUsb; // for its sleep
+    QSize mSize{1920, 1080};
     const std::vector<int> mBefore{11, 12, 13, 14};
     const std::vector<int> mCalibrated{500, 19700, 300, 11100};
 };
@@ -199,7 +199,7 @@ TEST_F(Calibration, ofAllDisplaysTogetherOpensNothing)
 {
     mDisplays.change({{0, 0, 1920, 1080}, {1920, 0, 800, 600}});
     outlet<QComboBox>("mComboBox").setCurrentIndex(0);
-    start();
+    outlet<QVMonitorView>("mMonitorView").DoCalibrate();
     EXPECT_EQ(window(), nullptr);
     EXPECT_TRUE(pushes().empty());
     EXPECT_EQ(+qvTabletInfo.Monitor.disableFlag, 1) << "it goes with the next push";
@@ -685,6 +685,16 @@ TEST_F(Calibration, keysCountByTheirPlaceNotByWhatIsOnThem)
     EXPECT_EQ(window(), nullptr);
 }
 
+TEST_F(Calibration, whatMeansEscapeEndsItWhereverItLies)
+{
+    start();
+    QKeyEvent event(
+        QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 66, 0, 0); // Caps Lock's place
+    QCoreApplication::sendEvent(window(), &event);
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0}));
+}
+
 TEST_F(Calibration, closingItsWindowByOtherMeansFreesTheDriver)
 {
     start();
@@ -700,6 +710,259 @@ TEST_F(Calibration, leavingThePanelEndsIt)
     EXPECT_EQ(window(), nullptr);
     EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0}));
     EXPECT_EQ(+recordInFile().Monitor.disableFlag, 0);
+}
+
+TEST_F(Calibration, thePanelLeftUnderEitherAlertHasTheAreaFromBefore)
+{
+    // Neither the answer that the alert then has nor that it has none changes anything.
+    for (const bool isInOrder : {true, false}) {
+        for (const int answer : {0, 1, 2}) {
+            mEvents.sent.clear();
+            mAlerts.shown.clear();
+            startFarFromTheLastPoint();
+            setAreaBefore();
+            mAlerts.answer = static_cast<std::int16_t>(answer);
+            std::size_t pushed = 0;
+            mAlerts.whileOpen = [&] {
+                leave();
+                EXPECT_EQ(window(), nullptr);
+                pushed = pushes().size();
+            };
+            if (isInOrder) {
+                tapAllFour();
+            } else {
+                tap(19200, 10600);
+                tap(1000, 10600);
+                tap(1000, 800);
+                tap(19200, 800);
+            }
+            ASSERT_EQ(mAlerts.shown.size(), 1U);
+            ASSERT_EQ(pushes().size(), pushed) << "nothing follows the alert";
+            EXPECT_EQ(pushedFlags().back(), 0);
+            EXPECT_EQ(area(), mBefore);
+            EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
+            EXPECT_EQ(+qvTabletInfo.Monitor.disableFlag, 0);
+            const auto& monitor = recordInFile().Monitor;
+            EXPECT_EQ((std::vector<int>{monitor.cTabletXmin, monitor.cTabletXmax,
+                          monitor.cTabletYmin, monitor.cTabletYmax}),
+                mBefore);
+            EXPECT_EQ(+monitor.disableFlag, 0);
+            show();
+            setAreaBefore();
+        }
+    }
+}
+
+TEST_F(Calibration, endedWithoutAPushLeavesTheDriverAlone)
+{
+    auto& page = outlet<QVMonitorView>("mMonitorView");
+    start();
+    tap(40000, 40000);
+    page.endCalibration(false);
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(+qvTabletInfo.Monitor.disableFlag, 0);
+    EXPECT_EQ(pushedFlags(), std::vector<int>{1});
+
+    startFarFromTheLastPoint();
+    setAreaBefore();
+    mEvents.sent.clear();
+    std::size_t pushed = 0;
+    mAlerts.whileOpen = [&] {
+        pushed = pushes().size();
+        page.endCalibration(false);
+    };
+    tapAllFour();
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(pushes().size(), pushed);
+    EXPECT_EQ(+qvTabletInfo.Monitor.disableFlag, 0);
+    EXPECT_EQ(area(), mBefore);
+}
+
+TEST_F(Calibration, endedAfterAnAlertWithoutAnAnswerTakesTheAreaBack)
+{
+    start();
+    mAlerts.answer = 0;
+    tapAllFour();
+    tap(5000, 5000); // asks again
+    EXPECT_EQ(area(), mCalibrated);
+    leave();
+    EXPECT_EQ(area(), mBefore);
+    EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
+}
+
+TEST_F(Calibration, endedAfterACancelledPassKeepsWhatThePageHasSetSince)
+{
+    start();
+    mAlerts.answer = kAlertStdAlertCancelButton;
+    tapAllFour();
+    qvTabletInfo.Monitor.cTabletXmin = 77;
+    leave();
+    EXPECT_EQ(+qvTabletInfo.Monitor.cTabletXmin, 77);
+}
+
+TEST_F(Calibration, theAlertsHaveTitles)
+{
+    start();
+    mAlerts.answer = kAlertStdAlertCancelButton;
+    tapAllFour();
+    tap(19200, 10600);
+    tap(1000, 10600);
+    tap(1000, 800);
+    tap(19200, 800);
+    ASSERT_EQ(mAlerts.shown.size(), 2U);
+    EXPECT_EQ(mAlerts.shown[0].title, QStringLiteral("Calibration finished"));
+    EXPECT_EQ(mAlerts.shown[1].title, QStringLiteral("Calibration failed"));
+}
+
+TEST_F(Calibration, reportsAfterItsEndCountNoMore)
+{
+    const std::pair key(kAECoreSuite, kAEGetData);
+    const auto late = [&](std::uint32_t state, std::uint16_t x, std::uint16_t y) {
+        AppleEvent reply;
+        EXPECT_EQ(mEvents.handlers[key](
+                      {kAECoreSuite, kAEGetData, {},
+                          {{keyDirectObject,
+                              {typeAEList, AEList{{fourCharCode("rprt"), report(state, x, y)}}}}}},
+                      reply),
+            noErr);
+    };
+    startFarFromTheLastPoint();
+    setAreaBefore();
+    tap(1000, 800);
+    tap(19200, 800);
+    tap(19200, 10600);
+    const QPointer<QVCalibrateView> last = &view();
+    window()->close();
+    mEvents.sent.clear();
+    late(1, 1000, 10600);
+    late(0, 1000, 10600);
+    ASSERT_FALSE(last.isNull());
+    EXPECT_EQ(last->changenPointValue(0), 3);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    ASSERT_TRUE(last.isNull());
+    late(1, 1000, 10600);
+    late(0, 1000, 10600);
+    EXPECT_TRUE(mAlerts.shown.empty());
+    EXPECT_TRUE(pushes().empty());
+    EXPECT_EQ(area(), mBefore);
+}
+
+TEST_F(Calibration, anotherGoesOnFromWhereTheLastOneEnded)
+{
+    startFarFromTheLastPoint();
+    tap(1000, 800);
+    tap(19200, 800);
+    deliver({report(1, 19200, 10600)});
+    QTest::keyClick(window(), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    start();
+    EXPECT_EQ(points(), 0);
+    deliver({report(0, 19200, 800)});
+    EXPECT_EQ(points(), 0) << "the pen was down: a lift, but too near the last point";
+    deliver({report(0, 19200, 10600)});
+    EXPECT_EQ(points(), 1) << "it still counts as down";
+}
+
+TEST_F(Calibration, thePointsOfTheLastOneAreKeptUntilTheyAreTakenAnew)
+{
+    startFarFromTheLastPoint();
+    tap(1000, 800);
+    tap(19200, 800);
+    QTest::keyClick(window(), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    start();
+    view().changenPointValue(2);
+    tap(19200, 10600);
+    tap(1000, 10600);
+    EXPECT_EQ(area(), mCalibrated);
+}
+
+TEST_F(Calibration, theDriverIsToldOfTheEndBeforeThePauseAndTheAreaAfterIt)
+{
+    struct Pauses final : Sleep {
+        void sleepFor(std::chrono::milliseconds) override
+        {
+            if (whenAsleep) {
+                whenAsleep();
+            }
+        }
+        std::function<void()> whenAsleep;
+        ServiceScope<Sleep> scope{*this};
+    } pauses;
+    std::vector<std::size_t> pushed;
+    std::vector<int> taken;
+    startFarFromTheLastPoint();
+    mEvents.sent.clear();
+    pauses.whenAsleep = [&] {
+        pushed.push_back(pushes().size());
+        taken.push_back(points());
+    };
+    tapAllFour();
+    EXPECT_EQ(taken, (std::vector{1, 4, 4}));
+    EXPECT_EQ(pushed, (std::vector<std::size_t>{0, 0, 1}));
+    EXPECT_EQ(pushedFlags(), (std::vector<int>{0, 0}));
+    EXPECT_EQ(+pushes()[0].Monitor.cTabletXmax, mBefore[1]);
+    EXPECT_EQ(+pushes()[1].Monitor.cTabletXmax, mCalibrated[1]);
+}
+
+TEST_F(Calibration, duringThePauseAfterTheFirstPointNoCrossIsShownNext)
+{
+    struct Pauses final : Sleep {
+        void sleepFor(std::chrono::milliseconds) override
+        {
+            if (whenAsleep) {
+                std::exchange(whenAsleep, nullptr)();
+            }
+        }
+        std::function<void()> whenAsleep;
+        ServiceScope<Sleep> scope{*this};
+    } pauses;
+    startFarFromTheLastPoint();
+    view().setDrawEraseFlag(0);
+    const QImage none = view().grab().toImage();
+    QImage during;
+    pauses.whenAsleep = [&] { during = view().grab().toImage(); };
+    tap(1000, 800);
+    EXPECT_EQ(during, none) << "cross 0 is erased before, cross 1 drawn after";
+}
+
+TEST_F(Calibration, edgesAreCutOffTowardZero)
+{
+    startFarFromTheLastPoint();
+    tap(1013, 811);
+    tap(19207, 797);
+    tap(19188, 10613);
+    tap(998, 10607);
+    EXPECT_EQ(area(), (std::vector{505, 19696, 303, 11110}));
+}
+
+TEST_F(Calibration, anEdgeBeyondSixteenBitsIsSentAsTheLowOnes)
+{
+    startFarFromTheLastPoint();
+    mSize = {400, 400};
+    tap(1400, 800);
+    tap(60200, 800);
+    tap(60200, 10600);
+    tap(1400, 10600);
+    // 60200 + 58800 * 50 / 300 is 70000
+    EXPECT_EQ(+pushes().back().Monitor.cTabletXmax, 4464);
+}
+
+TEST_F(Calibration, withOneDisplayThatOneIsCovered)
+{
+    mDisplays.change({{0, 0, 800, 600}, {800, 100, 640, 480}});
+    outlet<QComboBox>("mComboBox").setCurrentIndex(2);
+    mDisplays.change({{0, 0, 700, 500}});
+    outlet<QComboBox>("mComboBox").setCurrentIndex(-1);
+    start();
+    ASSERT_NE(window(), nullptr);
+    EXPECT_EQ(window()->view().size(), QSize(700, 500));
+}
+
+TEST_F(Calibration, itsWindowStaysOnTop)
+{
+    start();
+    EXPECT_TRUE(window()->windowFlags() & Qt::WindowStaysOnTopHint);
 }
 
 TEST_F(Calibration, escapeInAWindowThatIsNobodysGoesOn)
@@ -747,7 +1010,7 @@ TEST_F(Calibration, drawsEachCrossAndTheHintAsPlainPainterCallsDo)
         painter.scale(1, -1);
         if (flag >= 16 && flag <= 19) {
             const Cross& cross = crosses[static_cast<std::size_t>(flag) - 16];
-            painter.setPen(QPen(Qt::red, 1));
+            painter.setPen(QPen(Qt::red, 1, Qt::SolidLine, Qt::FlatCap));
             painter.drawLine(cross.across);
             painter.drawLine(cross.along);
         }
@@ -789,6 +1052,48 @@ TEST_F(Calibration, afterTheLastPointNoCrossIsShownAndThenTheFirst)
     tapAllFour();
     EXPECT_EQ(below, none);
     EXPECT_EQ(view().grab().toImage(), first);
+}
+
+TEST_F(Calibration, theErasedCrossesRectangleHasTheHintWhereThatPutsIt)
+{
+    // Each, as far as the view has it, from the upper left corner: a cross's height above the
+    // cross.
+    const std::array<QRect, 4> rectangles{{
+        {25, 0, 50, 25},
+        {1845, 0, 50, 25},
+        {1845, 1080 - 125, 50, 50},
+        {25, 1080 - 125, 50, 50},
+    }};
+    start();
+    const double density = view().devicePixelRatioF();
+    view().setDrawEraseFlag(0);
+    const QImage none = view().grab().toImage();
+    QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
+    font.setBold(true);
+    font.setPixelSize(40);
+    for (int cross = 0; cross < 4; ++cross) {
+        const QRect& part = rectangles[static_cast<std::size_t>(cross)];
+        QImage expected = none.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        QPainter painter(&expected);
+        painter.setClipRect(part);
+        painter.fillRect(part, Qt::yellow);
+        painter.setFont(font);
+        painter.setPen(QColor::fromRgbF(1.0F, 0.2F, 0.2F, 0.6F));
+        painter.drawText(QPointF(part.x() + part.width() * 0.5 - 500,
+                             part.y() + part.height() * 0.5 - painter.fontMetrics().descent()),
+            QStringLiteral("Touch the cross with the pen. Esc ends."));
+        painter.end();
+        EXPECT_NE(expected.convertToFormat(QImage::Format_RGB32),
+            none.convertToFormat(QImage::Format_RGB32));
+
+        view().setDrawEraseFlag(32 + cross);
+        view().grab();
+        for (int again = 0; again < 3; ++again) {
+            EXPECT_EQ(view().grab().toImage().convertToFormat(QImage::Format_RGB32),
+                expected.convertToFormat(QImage::Format_RGB32))
+                << cross << " at density " << density;
+        }
+    }
 }
 
 TEST_F(Calibration, drawsTheErasedCrossesRectangleOnceMore)

@@ -67,10 +67,10 @@ TEST(PictureCorner, takesAreasThatAreTurnedAround)
     EXPECT_EQ(QVPictureCorner({10000, 0, 6250, 0}, {0, 10000, 0, 6250}), (QVPoint{189, 127}));
 }
 
-TEST(PictureCorner, isNoneForATabletWithoutWidthOrHeight)
+TEST(PictureCorner, ofATabletWithoutWidthOrHeightLiesOnThePicturesEdge)
 {
-    EXPECT_EQ(QVPictureCorner({0, 5, 0, 5}, {7, 7, 0, 5}), std::nullopt);
-    EXPECT_EQ(QVPictureCorner({0, 5, 0, 5}, {0, 5, 7, 7}), std::nullopt);
+    EXPECT_EQ(QVPictureCorner({0, 5, 0, 5}, {7, 7, 0, 10}), (QVPoint{361, 80 - 23}));
+    EXPECT_EQ(QVPictureCorner({0, 5, 0, 5}, {0, 10, 7, 7}), (QVPoint{275 + 43, 33}));
 }
 
 TEST(AspectFit, cutsTheHeightForAWiderDisplay)
@@ -93,13 +93,24 @@ TEST(AspectFit, divisionsAreCutOff)
     EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 3, 2), (QVTabletArea{0, 100, 0, 66}));
 }
 
-TEST(AspectFit, isNoneWhereItWouldDivideByZero)
+TEST(AspectFit, isNoneOnlyWhereItWouldDivideByZero)
 {
+    // The tablet counts as the wider one, and the height is the divisor.
     EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 0, 0), std::nullopt);
-    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 10, 0), std::nullopt);
-    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 0, 10), std::nullopt);
-    EXPECT_EQ(QVAspectFit({5, 5, 0, 100}, 10, 10), std::nullopt);
-    EXPECT_EQ(QVAspectFit({0, 100, 5, 5}, 10, 10), std::nullopt);
+    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, -10, 0), std::nullopt);
+    EXPECT_EQ(QVAspectFit({0, 100, 5, 5}, 10, 0), std::nullopt);
+    // The tablet counts as the narrower one, and the width is the divisor.
+    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 0, -10), std::nullopt);
+    EXPECT_EQ(QVAspectFit({100, 0, 0, 100}, 0, 10), std::nullopt);
+}
+
+TEST(AspectFit, takesZerosThatAreNoDivisors)
+{
+    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 10, 0), (QVTabletArea{0, 100, 0, 0}));
+    EXPECT_EQ(QVAspectFit({0, 100, 0, 100}, 0, 10), (QVTabletArea{0, 0, 0, 100}));
+    EXPECT_EQ(QVAspectFit({5, 5, 0, 100}, 10, 10), (QVTabletArea{5, 5, 0, 0}));
+    EXPECT_EQ(QVAspectFit({0, 100, 5, 5}, 10, 10), (QVTabletArea{0, 0, 5, 5}));
+    EXPECT_EQ(QVAspectFit({5, 5, 7, 7}, 10, 10), (QVTabletArea{5, 5, 7, 7}));
 }
 
 TEST(AspectFit, survivesEveryExtreme)

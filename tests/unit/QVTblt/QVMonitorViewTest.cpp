@@ -305,40 +305,171 @@ TEST_F(DisplayPage, theFittedAreaHasTheDisplaysShape)
     EXPECT_EQ(+pushes().back().Monitor.cTabletYmax, 5625);
 }
 
-TEST_F(DisplayPage, aTabletWithoutWidthOrHeightIsNotFittedAndTheLogSaysSo)
+TEST_F(DisplayPage, aSideThatIsZeroIsFittedUnlessItDivides)
 {
-    const tagQVTabletInfo good = qvTabletInfo;
-    for (const auto& [xmax, ymax] : {std::pair(0, 6250), {10000, 0}, {0, 0}}) {
-        qvTabletInfo = good;
-        qvTabletInfo.Basic.TabletXmax = static_cast<std::uint16_t>(xmax);
-        qvTabletInfo.Basic.TabletYmax = static_cast<std::uint16_t>(ymax);
+    mDisplays.change({{0, 0, 10, 0}});
+    qvTabletInfo.Basic.TabletXmax = 100;
+    qvTabletInfo.Basic.TabletYmax = 100;
+    draw();
+    press("mAutoCalibrate");
+    EXPECT_EQ(used(), (std::vector{0, 100, 0, 0})) << "100 * 0 / 10";
+    EXPECT_EQ(view().tabletPictureCorner(), (QVPoint{361, 80}));
+    mDisplays.change({kFullHD});
+    qvTabletInfo.Basic.TabletXmax = 0;
+    draw();
+    press("mAutoCalibrate");
+    EXPECT_EQ(used(), (std::vector{0, 0, 0, 0})) << "0 * 1080 / 1920";
+    ASSERT_EQ(pushes().size(), 2U);
+    EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
+}
+
+TEST_F(DisplayPage, aSideThatWouldDivideByZeroIsNotFittedAndTheLogSaysSo)
+{
+    for (const Rect& empty : {Rect{0, 0, -1920, 0}, Rect{0, 0, 0, -1080}, Rect{}}) {
+        mDisplays.change({empty});
+        draw();
+        EXPECT_EQ(mapped(), empty);
         const tagQVTabletInfo before = qvTabletInfo;
         mEvents.sent.clear();
         testing::internal::CaptureStderr();
         press("mAutoCalibrate");
-        EXPECT_NE(
-            testing::internal::GetCapturedStderr().find("cannot be fitted: it or the display has"),
+        EXPECT_NE(testing::internal::GetCapturedStderr().find("cannot be fitted to a display"),
             std::string::npos);
-        EXPECT_TRUE(sameBytes(qvTabletInfo, before)) << xmax << " by " << ymax;
+        EXPECT_TRUE(sameBytes(qvTabletInfo, before));
         ASSERT_EQ(pushes().size(), 1U);
         EXPECT_TRUE(sameBytes(pushes().back(), before));
     }
 }
 
-TEST_F(DisplayPage, aDisplayWithoutWidthOrHeightIsNotFittedAndTheLogSaysSo)
+TEST_F(DisplayPage, thePicturesCornerFollowsTheAreaInUseWhenItIsDrawn)
 {
-    for (const Rect& empty : {Rect{0, 0, 0, 1080}, Rect{0, 0, 1920, 0}, Rect{}}) {
-        mDisplays.change({empty});
-        draw();
-        EXPECT_EQ(mapped(), empty);
-        const std::vector<int> before = used();
-        testing::internal::CaptureStderr();
-        press("mAutoCalibrate");
-        EXPECT_NE(
-            testing::internal::GetCapturedStderr().find("cannot be fitted: it or the display has"),
-            std::string::npos);
-        EXPECT_EQ(used(), before);
+    choose(list(), 1);
+    press("mAutoCalibrate");
+    EXPECT_EQ(view().tabletPictureCorner(), (QVPoint{361, 38}));
+    draw();
+    EXPECT_EQ(view().tabletPictureCorner(), (QVPoint{361, 38}));
+    press("mDefaultArea");
+    draw();
+    EXPECT_EQ(view().tabletPictureCorner(), (QVPoint{361, 33}));
+}
+
+TEST_F(DisplayPage, speedUseModeAndDefaultAreaAskForNoDrawing)
+{
+    EXPECT_FALSE(isDrawnAfter([this] {
+        view().SelectSpeed();
+        view().SelectUseMode();
+        view().setTabletDefaultArea();
+    }));
+}
+
+// Calibrate… --------------------------------------------------------------------------------------
+
+TEST_F(DisplayPage, allDisplaysTogetherCannotBeCalibratedAndTheButtonSaysSo)
+{
+    auto& button = outlet<QPushButton>("mDoCalibrate");
+    const QString why =
+        QStringLiteral("Choose one display first: all displays together have no corners to touch.");
+    const auto expect = [&](bool isOn, const char* when) {
+        EXPECT_EQ(button.isEnabled(), isOn) << when;
+        EXPECT_EQ(button.toolTip() == why, !isOn) << when;
+        EXPECT_EQ(button.accessibleDescription(), button.toolTip()) << when;
+        EXPECT_FALSE(button.toolTip().isEmpty()) << when;
+    };
+    expect(false, "at first");
+    choose(list(), 2);
+    expect(true, "chosen");
+    choose(list(), 0);
+    expect(false, "all chosen");
+    qvTabletInfo.Monitor.num = 1;
+    draw();
+    expect(true, "drawn");
+    mDisplays.change({kFullHD});
+    expect(true, "of one, the one is meant");
+    mDisplays.change({kFullHD, kRight, kRight});
+    qvTabletInfo.Monitor.num = 0;
+    draw();
+    expect(false, "drawn with all");
+    mDisplays.change({kFullHD});
+    expect(true, "one is left");
+}
+
+// Changes of the displays -------------------------------------------------------------------------
+
+TEST_F(DisplayPage, onlyTheFlagOneAloneIsABeginning)
+{
+    for (const std::uint32_t flags : {3U, 9U}) {
+        mDisplays.tell(flags);
+        EXPECT_EQ(list().count(), 3) << flags;
+        mDisplays.tell(platform::kDisplayBeginConfiguration);
+        EXPECT_EQ(list().count(), 0) << flags;
+        mDisplays.tell(flags);
+        EXPECT_EQ(list().count(), 3) << flags << " is an end";
     }
+}
+
+TEST_F(DisplayPage, tellsOnceThatDisplaysHaveChanged)
+{
+    int told = 0;
+    int listed = 0;
+    QObject::connect(&view(), &QVMonitorView::displaysChanged, &view(), [&] {
+        ++told;
+        listed = list().count();
+    });
+    mDisplays.change({kFullHD, kRight, kRight});
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(listed, 4) << "when they are in the list";
+    mDisplays.tell(platform::kDisplaySetMode);
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(DisplayPage, theMappedAreaFollowsTheDisplaysAlsoWhereNothingIsDrawn)
+{
+    choose(list(), 2);
+    mWindow->hide();
+    mEvents.sent.clear();
+    EXPECT_FALSE(view().updateMappedArea());
+    mDisplays.change({kFullHD, {1920, 56, 1280, 1024}});
+    EXPECT_TRUE(view().updateMappedArea());
+    EXPECT_EQ(mapped(), (Rect{1920, 56, 1280, 1024}));
+    EXPECT_EQ(list().currentIndex(), 2);
+    EXPECT_FALSE(view().updateMappedArea());
+    mDisplays.change({kFullHD}); // the chosen one is unplugged
+    EXPECT_TRUE(view().updateMappedArea());
+    EXPECT_EQ(mapped(), kFullHD);
+    EXPECT_EQ(list().currentIndex(), 0);
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(DisplayPage, withoutItsListsItDoesWhatItCan)
+{
+    const auto useAll = [](QVMonitorView& bare) {
+        bare.awakeFromNib();
+        bare.disableUI();
+        bare.interrogateHardware();
+        bare.resize(600, 360);
+        EXPECT_FALSE(bare.grab().toImage().isNull());
+        bare.updateMappedArea();
+        bare.SelectMonitor();
+        bare.SelectSpeed();
+        bare.SelectUseMode();
+        bare.setTabletDefaultArea();
+        bare.AutoCalibrate();
+        bare.DoCalibrate();
+        bare.endCalibration();
+        EXPECT_FALSE(bare.spokenContents().isEmpty());
+    };
+    QVMonitorView never;
+    useAll(never);
+    QVMonitorView left;
+    {
+        QComboBox displays;
+        QComboBox speed;
+        QComboBox mode;
+        QPushButton calibrate;
+        left.setOutlets(&displays, &speed, &mode, &calibrate);
+        left.awakeFromNib();
+    }
+    useAll(left);
 }
 
 // Drawing -----------------------------------------------------------------------------------------
@@ -373,9 +504,9 @@ TEST_F(DisplayPage, drawingFramesTheOneDisplay)
         return drawn.pixelColor(static_cast<int>(x * density), static_cast<int>(y * density));
     };
     // Its miniature has 128 by 72 points; the name stands in its left half.
-    EXPECT_EQ(colorAt(420.5, 110.5), QColor(Qt::magenta));
-    for (const QPointF& edge : {QPointF(310.5, 130.5), QPointF(437.5, 130.5), QPointF(380.5, 90.5),
-             QPointF(380.5, 161.5)}) {
+    EXPECT_EQ(colorAt(340.5, 150.5), QColor(Qt::magenta));
+    for (const QPointF& edge : {QPointF(230.5, 170.5), QPointF(357.5, 170.5), QPointF(300.5, 130.5),
+             QPointF(300.5, 201.5)}) {
         EXPECT_EQ(colorAt(edge.x(), edge.y()), QColor(Qt::black)) << edge.x() << ", " << edge.y();
     }
 }
@@ -400,9 +531,58 @@ TEST_F(DisplayPage, anyNumberOfADisplayIsSafe)
         draw();
         EXPECT_EQ(list().currentIndex(), 0) << num;
         EXPECT_EQ(mapped(), before) << num;
+        EXPECT_NE(
+            testing::internal::GetCapturedStderr().find("there is no display"), std::string::npos)
+            << num;
+        testing::internal::CaptureStderr();
+        draw();
+        draw();
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "once for each";
+        testing::internal::CaptureStderr();
     }
-    EXPECT_NE(
-        testing::internal::GetCapturedStderr().find("there is no display"), std::string::npos);
+    testing::internal::GetCapturedStderr();
+}
+
+TEST_F(DisplayPage, aDisplaysNameEndsWhereItsMiniatureDoes)
+{
+    const double density = view().devicePixelRatioF();
+    for (const double width : {450.0, 640.0, 800.0, 1024.0, 1280.0}) {
+        mDisplays.change({kFullHD, {1920, 0, width, 600}});
+        qvTabletInfo.Monitor.num = 1;
+        const QImage drawn = draw();
+        const auto at = [&](double x, double y) {
+            return drawn.pixelColor(static_cast<int>(x * density), static_cast<int>(y * density));
+        };
+        // Beside the second miniature there is nothing but the ground.
+        const double right = 230 + 128 + width / 15;
+        const QColor ground = at(580, 10);
+        for (double y = 131; y < 169; y += 1 / density) {
+            for (double x = right + 1.5; x < right + 90; x += 1 / density) {
+                const QColor color = at(x, y);
+                ASSERT_LT(std::abs(color.red() - ground.red())
+                        + std::abs(color.green() - ground.green())
+                        + std::abs(color.blue() - ground.blue()),
+                    24)
+                    << width << ": " << x << ", " << y;
+            }
+        }
+    }
+}
+
+TEST_F(DisplayPage, aDisplaysWholeNameStandsInAMiniatureOfUsualSize)
+{
+    // From 1280 points on, the last sign of the name is in it: what is drawn differs by it.
+    mDisplays.change({kFullHD, {1920, 0, 1280, 720}});
+    qvTabletInfo.Monitor.num = 1;
+    const QImage second = draw();
+    mDisplays.change({kFullHD, {-9000, 0, 100, 100}, {1920, 0, 1280, 720}});
+    const QImage third = draw();
+    const double density = view().devicePixelRatioF();
+    const auto miniature = [&](const QImage& drawn) {
+        return drawn.copy(
+            QRectF(359 * density, 131 * density, 84 * density, 46 * density).toRect());
+    };
+    EXPECT_NE(miniature(second), miniature(third)) << "#2 and #3";
 }
 
 TEST_F(DisplayPage, showsATabletWithoutWidthOrHeightAndLogsItOnce)
@@ -468,38 +648,47 @@ TEST_F(DisplayPage, drawsMiniaturesFrameAndLinesAtTheirPlaces)
     const double density = view().devicePixelRatioF(); // the tests run at 1 and at 2
     for (const int num : {0, 1, 2}) {
         qvTabletInfo.Monitor.num = static_cast<std::int16_t>(num);
-        // Plain calls with plain numbers: 840 / 3 + 30 = 310, 480 - (72 + 230) = 178.
-        QImage expected((QSizeF(840, 340) * density).toSize(), QImage::Format_ARGB32_Premultiplied);
+        // Plain calls with plain numbers: 600 / 3 + 30 = 230, 480 - (72 + 250) = 158.
+        QImage expected((QSizeF(600, 360) * density).toSize(), QImage::Format_ARGB32_Premultiplied);
         expected.setDevicePixelRatio(density);
         expected.fill(Qt::transparent);
         QPainter painter(&expected);
         painter.setFont(view().font());
         painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
         const QImage background(QStringLiteral(QVTBLT_STAGE_RESOURCES "/backgroundregion.jpg"));
-        ASSERT_EQ(background.size(), QSize(1680, 680));
-        painter.drawImage(QRectF(0, 0, 840, 340), background);
-        const QRectF first(310, 340 - 178 - 72, 128, 72);
-        const QRectF second(438, 90, 1280 / 15.0, 1024 / 15.0);
+        ASSERT_EQ(background.size(), QSize(1200, 720));
+        painter.drawImage(QRectF(0, 0, 600, 360), background);
+        const QRectF first(230, 360 - 158 - 72, 128, 72);
+        const QRectF second(358, 130, 1280 / 15.0, 1024 / 15.0);
         int i = 0;
         for (const QRectF& miniature : {first, second}) {
-            painter.setPen(QPen(Qt::magenta, 1));
+            painter.setPen(QPen(Qt::magenta, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
             painter.setBrush(Qt::magenta);
             painter.drawRect(miniature);
             painter.setPen(Qt::black);
+            painter.save();
+            painter.setClipRect(miniature);
+            const QString name = QStringLiteral("Display #%1").arg(++i);
+            QFont font = painter.font();
+            while (painter.fontMetrics().horizontalAdvance(name) > miniature.width() - 23) {
+                font.setPixelSize(QFontInfo(painter.font()).pixelSize() - 1);
+                painter.setFont(font);
+            }
             painter.drawText(QPointF(miniature.x() + 20,
                                  miniature.bottom() - 15 - painter.fontMetrics().descent()),
-                QStringLiteral("Display #%1").arg(++i));
+                name);
+            painter.restore();
         }
         const QRectF framed = num == 0 ? first.united(second) : num == 1 ? first : second;
         QPainterPath frame;
         frame.addRect(framed);
         frame.addRect(framed.adjusted(1, 1, -1, -1));
         painter.fillPath(frame, Qt::black);
-        painter.setPen(QPen(Qt::black, 1));
-        painter.drawLine(framed.topLeft(), QPointF(275, 340 - 80));
-        painter.drawLine(framed.topRight(), QPointF(361, 340 - 80));
-        painter.drawLine(framed.bottomRight(), QPointF(361, 340 - 33));
-        painter.drawLine(framed.bottomLeft(), QPointF(275, 340 - 33));
+        painter.setPen(QPen(Qt::black, 1, Qt::SolidLine, Qt::FlatCap));
+        painter.drawLine(framed.topLeft(), QPointF(275, 360 - 80));
+        painter.drawLine(framed.topRight(), QPointF(361, 360 - 80));
+        painter.drawLine(framed.bottomRight(), QPointF(361, 360 - 33));
+        painter.drawLine(framed.bottomLeft(), QPointF(275, 360 - 33));
         painter.end();
 
         const QImage drawn = draw();
@@ -527,10 +716,10 @@ TEST_F(DisplayPage, withoutItsPictureTheRestIsDrawn)
     QComboBox speed;
     QComboBox mode;
     bare.setOutlets(&list, &speed, &mode);
-    bare.resize(840, 340);
+    bare.resize(600, 360);
     bare.awakeFromNib();
     const QImage drawn = bare.grab().toImage();
-    EXPECT_EQ(drawn.pixelColor(320, 120), QColor(Qt::magenta));
+    EXPECT_EQ(drawn.pixelColor(240, 160), QColor(Qt::magenta));
     EXPECT_EQ(list.itemText(1), QStringLiteral("Monitor #1")) << "a missing text stands for itself";
     rzkBundle = bundle;
 }
@@ -546,10 +735,10 @@ TEST_F(DisplayPage, itsPictureIsReadWhenItIsMade)
     QComboBox speed;
     QComboBox mode;
     made.setOutlets(&list, &speed, &mode);
-    made.resize(840, 340);
+    made.resize(600, 360);
     made.awakeFromNib();
     ASSERT_TRUE(QFile::remove(copy)); // as an update of the package does
-    const QPoint onPicture(700, 300);
+    const QPoint onPicture(500, 300);
     const QColor color = made.grab().toImage().pixelColor(onPicture);
     EXPECT_EQ(color, view().grab().toImage().pixelColor(onPicture));
     rzkBundle = bundle;
