@@ -15,6 +15,8 @@
 
 #include <algorithm>
 #include <memory>
+#include <string_view>
+#include <utility>
 
 platform::Bundle rzkBundle;
 
@@ -30,7 +32,21 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
     platform::events().acceptEventsFrom(kQVDriverSignature);
     platform::notifications().addObserver(*this, kRecordPushedNotification,
         [this](const platform::Notification&) { mayHaveChanged(); });
+    relay(platform::kSourceChangedNotification, News::DeviceMayHaveChanged);
+    relay(platform::kEventTakenNotification, News::ChangeTaken);
+    relay(platform::kEventNotTakenNotification, News::ChangeNotTaken);
+    relay(kConfigLoadedNotification, News::Loaded);
+    relay(kConfigNotLoadedNotification, News::NotLoaded);
+    relay(kConfigSavedNotification, News::Saved);
+    relay(kConfigNotSavedNotification, News::NotSaved);
     return pane;
+}
+
+void QVTblt_prefPanePref::relay(QLatin1String name, News news)
+{
+    platform::notifications().addObserver(*this, name,
+        [this, news](
+            const platform::Notification& notification) { tell(news, notification.text); });
 }
 
 QWidget* QVTblt_prefPanePref::makeMainView()
@@ -38,33 +54,13 @@ QWidget* QVTblt_prefPanePref::makeMainView()
     auto view = std::make_unique<QVNSView>();
     setupUi(view.get());
     mNoDevTitleX = platform::frame(*NoDevTitle).x;
+    mLaidOutProduct.reset();
+    mEnabledAtFirst.clear();
     connect(view.get(), &QVNSView::resized, this, &QVTblt_prefPanePref::placeNoDevice);
     setUpKeyPage();
     setUpPenPage();
     setUpDisplayPage();
-    QSizePolicy noticePolicy = mNotice->sizePolicy();
-    noticePolicy.setRetainSizeWhenHidden(true); // Save and Cancel stay where they are
-    mNotice->setSizePolicy(noticePolicy);
     connect(mSave, &QPushButton::clicked, this, &QVTblt_prefPanePref::SaveSet);
-    platform::NotificationCenter& center = platform::notifications();
-    center.addObserver(*this, platform::kSourceChangedNotification,
-        [this](const platform::Notification&) { followDriver(); });
-    for (const QLatin1String name : {kConfigSavedNotification, kConfigNotSavedNotification}) {
-        center.addObserver(*this, name, [this](const platform::Notification& notification) {
-            mSaveError = notification.text;
-            showNotice();
-        });
-    }
-    center.addObserver(
-        *this, platform::kEventTakenNotification, [this](const platform::Notification&) {
-            mPushFailed = false;
-            showNotice();
-        });
-    center.addObserver(
-        *this, platform::kEventNotTakenNotification, [this](const platform::Notification&) {
-            mPushFailed = true;
-            showNotice();
-        });
     connect(mCancel, &QPushButton::clicked, this, &QVTblt_prefPanePref::CancelSet);
     return view.release();
 }
@@ -101,20 +97,58 @@ void QVTblt_prefPanePref::setUpDisplayPage()
     connect(
         mDefaultArea, &QPushButton::clicked, mMonitorView, &QVMonitorView::setTabletDefaultArea);
     connect(mAutoCalibrate, &QPushButton::clicked, mMonitorView, &QVMonitorView::AutoCalibrate);
+    connect(mMonitorView, &QVMonitorView::displaysChanged, this, [this] {
+        if (hasDevice() && mMonitorView->updateMappedArea()) {
+            tell(News::ChangedByItself);
+        }
+    });
+}
+
+platform::PreferencePane::Device QVTblt_prefPanePref::checkDevice()
+{
+    Answer answer;
+    answer.hasDevice = GetQVConfigFileName(answer.name.data());
+    if (answer.name.front() == '\0') {
+        return Device::Unknown;
+    }
+    const bool isSame = answer.hasDevice == hasDevice()
+        && (!answer.hasDevice || std::string_view(answer.name.data()) == GetPListName());
+    if (isSame) {
+        return Device::Same;
+    }
+    mAnswer = answer;
+    return Device::Other;
+}
+
+bool QVTblt_prefPanePref::askForDevice()
+{
+    const std::optional<Answer> answer = std::exchange(mAnswer, {});
+    if (!answer) {
+        return rzkgetQVDevice();
+    }
+    pListname = answer->name;
+    return answer->hasDevice;
+}
+
+bool QVTblt_prefPanePref::hasDevice() const
+{
+    return mainView() != nullptr && mHasDevice;
 }
 
 void QVTblt_prefPanePref::willSelect()
 {
-    const bool hasDevice = rzkgetQVDevice();
-    tabView->setVisible(hasDevice);
-    NoDevTitle->setVisible(!hasDevice);
-    NoDevHelp->setVisible(!hasDevice);
+    mHasDevice = askForDevice();
+    if (mainView() == nullptr) {
+        return; // its window has gone
+    }
+    tabView->setVisible(mHasDevice);
+    NoDevTitle->setVisible(!mHasDevice);
+    NoDevHelp->setVisible(!mHasDevice);
     // Without a tablet there is nothing to name, to save or to cancel.
-    mSoft->setVisible(hasDevice);
-    mNotice->setVisible(hasDevice && !mNotice->text().isEmpty());
-    mSave->setVisible(hasDevice && mButtonsShown);
-    mCancel->setVisible(hasDevice && mButtonsShown);
-    if (!hasDevice) {
+    mSoft->setVisible(mHasDevice);
+    mSave->setVisible(mHasDevice && mButtonsShown);
+    mCancel->setVisible(mHasDevice && mButtonsShown);
+    if (!mHasDevice) {
         showNoDevice();
         return;
     }
@@ -181,41 +215,11 @@ void QVTblt_prefPanePref::placeNoDevice()
     platform::setFrame(*NoDevHelp, place);
 }
 
-void QVTblt_prefPanePref::followDriver()
-{
-    if (mainView() == nullptr || !mainView()->isVisible()) {
-        return;
-    }
-    if (NoDevTitle->isHidden()) {
-        if (mPushFailed) {
-            PushQVTabletInfo(); // the driver that has come does not know of it
-        }
-    } else if (rzkgetQVDevice()) {
-        willSelect();
-        didSelect();
-    }
-}
-
-void QVTblt_prefPanePref::showNotice()
-{
-    if (mainView() == nullptr) {
-        return; // the main view has gone before the pane
-    }
-    QString text;
-    if (!mSaveError.isEmpty()) {
-        text = tr("The settings are not saved: %1").arg(mSaveError);
-    } else if (mPushFailed) {
-        text = tr("The tablet's driver has not taken the last change. Is it running?");
-    }
-    if (text != mNotice->text()) {
-        mNotice->hide(); // only what appears is read out
-        mNotice->setText(text);
-        mNotice->setVisible(!text.isEmpty());
-    }
-}
-
 void QVTblt_prefPanePref::didSelect()
 {
+    if (mainView() == nullptr) {
+        return;
+    }
     mSoft->setFocus();
     if (!NoDevHelp->isHidden()) {
         NoDevHelp->setFocus(); // what there is to read
@@ -224,13 +228,19 @@ void QVTblt_prefPanePref::didSelect()
 
 void QVTblt_prefPanePref::willUnselect()
 {
-    // The driver must not be left waiting for points that nobody asks for.
-    mMonitorView->endCalibration();
+    if (mainView() != nullptr) {
+        // The driver must not be left waiting for points that nobody asks for. One that has another
+        // tablet by now doesn't wait, and the settings are not that tablet's.
+        mMonitorView->endCalibration(!mAnswer);
+    }
     WriteQVConfigPlist();
 }
 
 void QVTblt_prefPanePref::didUnselect()
 {
+    if (mainView() == nullptr) {
+        return;
+    }
     platform::setFrame(*mKey1_1, keyFrame_org);
     platform::setFrame(*mKeyLScroll, keyFrame_org_scroll_l);
     platform::setFrame(*mKeyRScroll, keyFrame_org_scroll_r);
@@ -238,7 +248,9 @@ void QVTblt_prefPanePref::didUnselect()
 
 void QVTblt_prefPanePref::SaveSet()
 {
-    takeScrollBoxes();
+    if (mainView() != nullptr) {
+        takeScrollBoxes();
+    }
     WriteQVConfigPlist();
     PushQVTabletInfo();
 }
@@ -246,7 +258,10 @@ void QVTblt_prefPanePref::SaveSet()
 void QVTblt_prefPanePref::CancelSet()
 {
     ReadQVConfigPlist();
-    mPressView->setNeedsDisplay();
-    mMonitorView->setNeedsDisplay();
+    PushQVTabletInfo();
+}
+
+void QVTblt_prefPanePref::send()
+{
     PushQVTabletInfo();
 }

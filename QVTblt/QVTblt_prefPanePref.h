@@ -6,6 +6,7 @@
 #include "Geometry.h"
 #include "PreferencePane.h"
 #include "QVConfigStore.h"
+#include "rzkApplication.h"
 #include "ui_QVTblt_prefPanePref.h"
 
 #include <QHash>
@@ -47,13 +48,14 @@ public:
     void cancel() override { CancelSet(); }
     bool hasChanges() const override { return hasUnsavedFields(); }
     void setButtonsShown(bool shown) override { mButtonsShown = shown; }
+    /** Asks for at most a quarter of a second. */
+    Device checkDevice() override;
+    bool hasDevice() const override;
+    void send() override;
 
     /** Saves the record into its file and pushes it. */
     void SaveSet();
-    /**
-     * Loads the file again and pushes the record. The views follow; the key page's controls keep
-     * showing the choices.
-     */
+    /** Loads the file again and pushes the record. All pages keep showing what was given up. */
     void CancelSet();
 
     /**
@@ -90,8 +92,8 @@ private:
     void showModel();
     void showNoDevice();
     void placeNoDevice();
-    void showNotice();
-    void followDriver();
+    void relay(QLatin1String name, News news);
+    bool askForDevice();
     void takeScrollBoxes();
 
     void setUpDisplayPage();
@@ -104,9 +106,14 @@ private:
 
     QTranslator mTranslator; ///< of the panel's own texts
     double mNoDevTitleX = 0; ///< of the label, from the side on which lines begin
-    bool mPushFailed = false; ///< the driver has not taken the latest push
-    QString mSaveError; ///< why the latest save failed; empty when it did not
-    bool mButtonsShown = true; ///< Save and Cancel, where there is a tablet
+    /** What the driver says of its tablet. */
+    struct Answer {
+        std::array<char, kQVListNameSize> name{};
+        bool hasDevice = false;
+    };
+    std::optional<Answer> mAnswer; ///< for the next showing; other than what is shown
+    bool mHasDevice = false; ///< as it is shown
+    bool mButtonsShown = false; ///< Save and Cancel, where there is a tablet
     QVKeySetClass* mKeyset = nullptr; ///< belongs to the main view
     QString mFileName; ///< path of the application last chosen
 

@@ -6,9 +6,11 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QString>
 #include <QWidget>
 #include <QtPlugin>
 
+#include <cstdint>
 #include <functional>
 #include <memory>
 #include <utility>
@@ -51,7 +53,41 @@ public:
     virtual void willUnselect() { }
     virtual void didUnselect() { }
 
-    // For a host that has buttons of its own for the pane's settings:
+    // For what a host puts around the pane:
+
+    /** What a pane can tell its host. */
+    enum class News : std::uint8_t {
+        ChangeTaken, ///< the device's driver has taken the last change
+        ChangeNotTaken, ///< it has not
+        Loaded, ///< the settings have been read
+        NotLoaded, ///< they could not be; the text says why
+        Saved, ///< the settings have been made permanent
+        NotSaved, ///< they could not be; the text says why
+        DeviceMayHaveChanged, ///< a driver has come, or has another device than before
+        ChangedByItself, ///< the settings follow the displays and have not been sent since
+    };
+    using NewsHandler = std::function<void(News news, const QString& text)>;
+
+    /** Takes what is told, on the main thread, when there is news. */
+    void setNewsHandler(NewsHandler handler) { mNewsHandler = std::move(handler); }
+
+    /** What the driver says when it is asked for its device. */
+    enum class Device : std::uint8_t {
+        Unknown, ///< it does not answer
+        Same, ///< what the pane shows, be it that there is none
+        Other, ///< the pane has to be left and shown anew
+    };
+    /**
+     * Asks the driver for its device. After Other, the pane takes the answer for its next showing
+     * instead of asking again, and sends the driver nothing before that.
+     */
+    virtual Device checkDevice() { return Device::Same; }
+
+    /** Whether the pane shows the settings of a device. */
+    virtual bool hasDevice() const { return true; }
+
+    /** Sends all settings to the driver, changed or not. */
+    virtual void send() { }
 
     /** Makes the settings permanent. */
     virtual void save() { }
@@ -65,8 +101,8 @@ public:
     /** Takes what is called, on the main thread, each time hasChanges() may have another answer. */
     void setChangeHandler(std::function<void()> handler) { mChangeHandler = std::move(handler); }
     /**
-     * Whether the pane shows its own buttons for save() and cancel(), from the next showing on. It
-     * does unless told.
+     * Whether the pane shows buttons of its own for save() and cancel(), from the next showing on.
+     * It does not unless told.
      */
     virtual void setButtonsShown(bool shown) { static_cast<void>(shown); }
 
@@ -81,6 +117,13 @@ protected:
         }
     }
 
+    void tell(News news, const QString& text = {}) const
+    {
+        if (mNewsHandler) {
+            mNewsHandler(news, text);
+        }
+    }
+
 private:
     /** Builds the main view from the interface file. */
     virtual QWidget* makeMainView() = 0;
@@ -88,6 +131,7 @@ private:
     Bundle mBundle;
     QPointer<QWidget> mMainView;
     std::function<void()> mChangeHandler;
+    NewsHandler mNewsHandler;
 };
 
 /** What a module's plug-in is: a maker of panes. */

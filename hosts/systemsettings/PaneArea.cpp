@@ -2,22 +2,22 @@
 // SPDX-License-Identifier: MIT
 #include "PaneArea.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDialog>
 #include <QHideEvent>
+#include <QMessageBox>
 #include <QVBoxLayout>
 
 #include <utility>
 
 PaneArea::PaneArea(std::unique_ptr<platform::PreferencePane> pane, QWidget* parent)
     : QWidget(parent)
-    , mPane(std::move(pane))
+    , mShell(new PaneShell(std::move(pane), PaneShell::Host::SettingsApplication))
 {
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(mPane->loadMainView());
-    mPane->setButtonsShown(false);
-    mPane->setChangeHandler([this] { tell(); });
+    layout->addWidget(mShell);
+    mShell->setChangeHandler([this] { tell(); });
     // A host that rearranges its window hides what it shows again a moment later.
     connect(this, &PaneArea::hidden, this, &PaneArea::unselectWhereHidden, Qt::QueuedConnection);
     // Once it has called, a host takes the settings for saved without a look at the outcome.
@@ -27,8 +27,7 @@ PaneArea::PaneArea(std::unique_ptr<platform::PreferencePane> pane, QWidget* pare
 
 PaneArea::~PaneArea()
 {
-    mChangeHandler = nullptr;
-    unselect();
+    mChangeHandler = nullptr; // the shell leaves the pane yet
 }
 
 void PaneArea::setChangeHandler(std::function<void(bool)> handler)
@@ -39,24 +38,45 @@ void PaneArea::setChangeHandler(std::function<void(bool)> handler)
 void PaneArea::tell() const
 {
     if (mChangeHandler) {
-        mChangeHandler(mPane->hasChanges());
+        mChangeHandler(mShell->hasChanges());
     }
-}
-
-void PaneArea::select()
-{
-    mSelected = true;
-    mPane->willSelect();
 }
 
 void PaneArea::unselect()
 {
-    if (!std::exchange(mSelected, false)) {
+    if (!mShell->isSelected()) {
         return;
     }
-    mPane->willUnselect();
-    mPane->didUnselect();
+    const QPointer<PaneArea> area(this);
+    QString why = mShell->willUnselect();
+    while (!why.isEmpty() && asksToTryAgain(why)) {
+        why = mShell->willUnselect();
+    }
+    if (area.isNull() || !mShell->isSelected()) {
+        return; // the host has gone on while the user was asked
+    }
+    if (!why.isEmpty()) {
+        mShell->giveUp();
+    }
+    mShell->didUnselect();
     tell();
+}
+
+bool PaneArea::asksToTryAgain(const QString& why)
+{
+    if (qGuiApp->isSavingSession()) {
+        return false; // who logs out is not kept
+    }
+    const QPointer<PaneArea> area(this);
+    // Its parent may end before the user answers, and takes it along.
+    const QPointer<QMessageBox> question = new QMessageBox(QMessageBox::Warning,
+        mShell->windowTitle(), tr("The tablet's settings could not be saved: %1").arg(why),
+        QMessageBox::Retry | QMessageBox::Discard, window());
+    question->setTextFormat(Qt::PlainText);
+    question->setEscapeButton(QMessageBox::Discard);
+    const int answer = question->exec();
+    delete question;
+    return answer == QMessageBox::Retry && !area.isNull();
 }
 
 void PaneArea::unselectWhereHidden()
@@ -68,43 +88,31 @@ void PaneArea::unselectWhereHidden()
 
 void PaneArea::apply()
 {
-    mPane->save();
+    mShell->save();
     Q_EMIT served();
 }
 
 void PaneArea::reset()
 {
-    if (!mPane->hasChanges()) {
+    if (!mShell->hasChanges()) {
         return;
     }
-    mPane->cancel();
-    if (mSelected) {
-        unselect();
-        select();
-        mPane->didSelect();
-    }
+    mShell->cancel();
     Q_EMIT served();
-}
-
-void PaneArea::giveUp()
-{
-    if (mSelected && mPane->hasChanges()) {
-        mPane->cancel();
-    }
 }
 
 void PaneArea::showEvent(QShowEvent* event)
 {
-    const bool isComing = !mSelected;
+    const bool isComing = !mShell->isSelected();
     if (isComing) {
-        select();
+        mShell->willSelect();
     }
     QWidget::showEvent(event);
     if (isComing) {
-        mPane->didSelect();
+        mShell->didSelect();
         if (const auto* const dialog = qobject_cast<QDialog*>(window())) {
             // It tells right after it has hidden itself, and so before the pane is left.
-            connect(dialog, &QDialog::rejected, this, &PaneArea::giveUp, Qt::UniqueConnection);
+            connect(dialog, &QDialog::rejected, mShell, &PaneShell::giveUp, Qt::UniqueConnection);
         }
     }
 }

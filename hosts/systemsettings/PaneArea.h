@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "PreferencePane.h"
+#include "PaneShell.h"
 
 #include <QWidget>
 
@@ -21,20 +21,16 @@
  *
  * Leaving the pane saves it. A host that asks the user beforehand calls apply() or reset(). One
  * that does not ask, but shows the module in a dialog, has the user's answer when the dialog is
- * rejected: the changes are given up.
+ * rejected: the changes are given up. Where changes cannot be saved when the pane is left, the user
+ * is asked whether to try again, since by then nothing of the module can be seen.
  */
 class PaneArea final : public QWidget {
     Q_OBJECT
 
 public:
-    /** Loads the pane's main view; its own buttons for what apply() and reset() do are not shown.
-     */
     explicit PaneArea(std::unique_ptr<platform::PreferencePane> pane, QWidget* parent = nullptr);
     ~PaneArea() override;
-    PaneArea(const PaneArea&) = delete;
-    PaneArea& operator=(const PaneArea&) = delete;
-    PaneArea(PaneArea&&) = delete;
-    PaneArea& operator=(PaneArea&&) = delete;
+    Q_DISABLE_COPY_MOVE(PaneArea)
 
     /** Takes what is told each time whether there is something to apply or to reset. */
     void setChangeHandler(std::function<void(bool)> handler);
@@ -59,13 +55,11 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    void select();
     void unselect();
     void unselectWhereHidden();
-    void giveUp();
+    bool asksToTryAgain(const QString& why);
     void tell() const;
 
-    std::unique_ptr<platform::PreferencePane> mPane;
+    PaneShell* mShell;
     std::function<void(bool)> mChangeHandler;
-    bool mSelected = false;
 };

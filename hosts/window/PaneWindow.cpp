@@ -2,61 +2,99 @@
 // SPDX-License-Identifier: MIT
 #include "PaneWindow.h"
 
+#include "PaneShell.h"
+
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
+#include <QGuiApplication>
+#include <QMessageBox>
 #include <QPixmap>
+#include <QPointer>
+#include <QPushButton>
 #include <QScreen>
-#include <QScrollArea>
 #include <QTabWidget>
 
 #include <optional>
 #include <utility>
 
 PaneWindow::PaneWindow(std::unique_ptr<platform::PreferencePane> pane)
-    : mPane(std::move(pane))
+    : mShell(new PaneShell(std::move(pane), PaneShell::Host::Window))
 {
-    QWidget* const view = mPane->loadMainView();
-    mNaturalSize = view->size().expandedTo(view->sizeHint());
-    auto* const scroll = new QScrollArea;
-    scroll->setFrameShape(QFrame::NoFrame);
-    scroll->setWidgetResizable(true);
-    scroll->setFocusPolicy(Qt::NoFocus); // it follows the focus of what is in it
-    scroll->setWidget(view);
-    setCentralWidget(scroll);
-    setWindowTitle(view->windowTitle());
-    resize(mNaturalSize.boundedTo(screen()->availableSize()));
+    setCentralWidget(mShell);
+    setWindowTitle(mShell->windowTitle());
+    resize(naturalSize().boundedTo(roomOnScreen()));
 }
 
 PaneWindow::~PaneWindow() = default;
 
+QSize PaneWindow::naturalSize() const
+{
+    const QWidget& view = mShell->view();
+    const QSize contents = view.size().expandedTo(view.sizeHint());
+    return {contents.width(), contents.height() + mShell->bottomHeight()};
+}
+
+QSize PaneWindow::roomOnScreen() const
+{
+    // The frame, which the window system adds later, has a title in about the font of the desktop.
+    const int title = 2 * fontMetrics().height();
+    const int edge = fontMetrics().height() / 2;
+    return screen()->availableSize() - QSize(2 * edge, title + edge);
+}
+
 void PaneWindow::select()
 {
-    mPane->willSelect();
-    mSelected = true;
+    mShell->willSelect();
     show();
-    mPane->didSelect();
+    mShell->didSelect();
 }
 
 void PaneWindow::unselect()
 {
-    if (!std::exchange(mSelected, false)) {
-        return;
+    if (mShell->isSelected()) {
+        mShell->willUnselect();
+        hide();
+        mShell->didUnselect();
     }
-    mPane->willUnselect();
-    hide();
-    mPane->didUnselect();
 }
 
 void PaneWindow::closeEvent(QCloseEvent* event)
 {
-    unselect();
-    event->accept();
+    if (!mShell->isSelected()) {
+        return;
+    }
+    const QString why = mShell->willUnselect();
+    // Who logs out is not kept.
+    if (!why.isEmpty() && !qGuiApp->isSavingSession()) {
+        if (!discards(why)) {
+            event->ignore();
+            return;
+        }
+        mShell->giveUp();
+    }
+    hide();
+    mShell->didUnselect();
+}
+
+bool PaneWindow::discards(const QString& why)
+{
+    // Its parent may end before the user answers, and takes it along.
+    const QPointer<QMessageBox> question = new QMessageBox(QMessageBox::Warning, windowTitle(),
+        tr("The tablet's settings could not be saved: %1").arg(why), QMessageBox::Discard, this);
+    question->setInformativeText(tr("Close the window and lose the changes?"));
+    question->setTextFormat(Qt::PlainText);
+    QPushButton* const keep = question->addButton(tr("&Keep Open"), QMessageBox::RejectRole);
+    question->setDefaultButton(keep);
+    question->setEscapeButton(keep);
+    const int answer = question->exec();
+    delete question;
+    return answer == QMessageBox::Discard;
 }
 
 QTabWidget* PaneWindow::pages() const
 {
-    return mPane->mainView()->findChild<QTabWidget*>();
+    return mShell->view().findChild<QTabWidget*>();
 }
 
 bool PaneWindow::hasPages() const
@@ -71,7 +109,8 @@ QStringList PaneWindow::render(const QString& folder)
     const auto save = [&](const QString& name) {
         const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
         // A picture has room for all of it, unlike a screen.
-        resize(mNaturalSize.expandedTo(mPane->mainView()->minimumSizeHint()));
+        resize(naturalSize().expandedTo(
+            mShell->view().minimumSizeHint() + QSize(0, mShell->bottomHeight())));
         // A window that is never shown is laid out for its picture. What it posts then lets go of a
         // scroll bar that it has no need for, one by one.
         for (int bar = 0; bar < 2; ++bar) {
@@ -84,7 +123,7 @@ QStringList PaneWindow::render(const QString& folder)
         files.append(file);
         return true;
     };
-    mPane->willSelect();
+    mShell->willSelect();
     ensurePolished();
     if (!hasPages()) {
         save(QStringLiteral("noDevice"));

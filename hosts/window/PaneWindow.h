@@ -2,28 +2,30 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "PreferencePane.h"
-
 #include <QMainWindow>
 #include <QSize>
 
 #include <memory>
 
+class PaneShell;
 class QTabWidget;
+
+namespace platform {
+class PreferencePane;
+}
 
 /**
  * A window that hosts one pane. It calls the pane's callbacks in the order that every host keeps:
  * main view loaded, will select, (shown,) did select; when it closes, will unselect, (hidden,) did
- * unselect.
+ * unselect. It fits on the screen, frame included, and scrolls what has no room.
  */
 class PaneWindow final : public QMainWindow {
+    Q_OBJECT
+
 public:
     explicit PaneWindow(std::unique_ptr<platform::PreferencePane> pane);
     ~PaneWindow() override;
-    PaneWindow(const PaneWindow&) = delete;
-    PaneWindow& operator=(const PaneWindow&) = delete;
-    PaneWindow(PaneWindow&&) = delete;
-    PaneWindow& operator=(PaneWindow&&) = delete;
+    Q_DISABLE_COPY_MOVE(PaneWindow)
 
     /** Shows the pane. */
     void select();
@@ -44,12 +46,16 @@ public:
     bool hasPages() const;
 
 protected:
+    /** Leaves the pane. Where the changes cannot be saved, asks whether to lose them. */
     void closeEvent(QCloseEvent* event) override;
 
 private:
     QTabWidget* pages() const;
+    /** In which nothing of the pane has to scroll. */
+    QSize naturalSize() const;
+    /** What the screen has room for, the window's frame taken off. */
+    QSize roomOnScreen() const;
+    bool discards(const QString& why);
 
-    std::unique_ptr<platform::PreferencePane> mPane;
-    QSize mNaturalSize; ///< in which nothing of the pane has to scroll
-    bool mSelected = false;
+    PaneShell* mShell;
 };

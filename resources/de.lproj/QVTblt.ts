@@ -17,6 +17,67 @@
     </message>
 </context>
 <context>
+    <name>PaneArea</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>Die Einstellungen des Tabletts konnten nicht gespeichert werden: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PaneShell</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>Go back to the settings in the file</source>
+        <translation>Zu den gespeicherten Einstellungen zurückkehren</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>Keep the settings as they are now</source>
+        <translation>Die jetzigen Einstellungen behalten</translation>
+    </message>
+    <message>
+        <source>The settings are not saved: %1</source>
+        <translation>Die Einstellungen sind nicht gespeichert: %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
+        <translation>Die Einstellungen des Tabletts lassen sich nicht laden, deshalb zeigen die Seiten sie nicht: %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <translation>Der Treiber des Tabletts hat die letzte Änderung nicht angenommen. Läuft er?</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y Again</source>
+        <translation>Er&amp;neut versuchen</translation>
+    </message>
+    <message>
+        <source>Send A&amp;gain</source>
+        <translation>Er&amp;neut senden</translation>
+    </message>
+</context>
+<context>
+    <name>PaneWindow</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>Die Einstellungen des Tabletts konnten nicht gespeichert werden: %1</translation>
+    </message>
+    <message>
+        <source>Close the window and lose the changes?</source>
+        <translation>Soll das Fenster geschlossen werden, wobei die Änderungen verloren gehen?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Open</source>
+        <translation>&amp;Offen lassen</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateView</name>
     <message>
         <source>Cross 1 of 4, at the upper left.</source>
@@ -524,14 +585,6 @@
     <message>
         <source>Is the tablet plugged in? Is its driver running? As soon as both are there, the settings appear here by themselves.</source>
         <translation>Ist das Tablett angeschlossen? Läuft sein Treiber? Sobald beides da ist, erscheinen die Einstellungen hier von selbst.</translation>
-    </message>
-    <message>
-        <source>The settings are not saved: %1</source>
-        <translation>Die Einstellungen sind nicht gespeichert: %1</translation>
-    </message>
-    <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
-        <translation>Der Treiber des Tabletts hat die letzte Änderung nicht angenommen. Läuft er?</translation>
     </message>
 </context>
 </TS>

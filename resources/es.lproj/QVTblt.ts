@@ -17,6 +17,67 @@
     </message>
 </context>
 <context>
+    <name>PaneArea</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>No se pudieron guardar los ajustes de la tableta: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PaneShell</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Go back to the settings in the file</source>
+        <translation>Volver a los ajustes del archivo</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>Keep the settings as they are now</source>
+        <translation>Conservar los ajustes actuales</translation>
+    </message>
+    <message>
+        <source>The settings are not saved: %1</source>
+        <translation>Los ajustes no se han guardado: %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
+        <translation>No se pueden cargar los ajustes de la tableta, por lo que las páginas no los muestran: %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <translation>El controlador de la tableta no ha aceptado el último cambio. ¿Está en marcha?</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y Again</source>
+        <translation>&amp;Reintentar</translation>
+    </message>
+    <message>
+        <source>Send A&amp;gain</source>
+        <translation>&amp;Enviar de nuevo</translation>
+    </message>
+</context>
+<context>
+    <name>PaneWindow</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>No se pudieron guardar los ajustes de la tableta: %1</translation>
+    </message>
+    <message>
+        <source>Close the window and lose the changes?</source>
+        <translation>¿Cerrar la ventana y perder los cambios?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Open</source>
+        <translation>&amp;Mantener abierta</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateView</name>
     <message>
         <source>Cross 1 of 4, at the upper left.</source>
@@ -524,14 +585,6 @@
     <message>
         <source>Unknown tablet, product %1</source>
         <translation>Tableta desconocida, producto %1</translation>
-    </message>
-    <message>
-        <source>The settings are not saved: %1</source>
-        <translation>Los ajustes no se han guardado: %1</translation>
-    </message>
-    <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
-        <translation>El controlador de la tableta no ha aceptado el último cambio. ¿Está en marcha?</translation>
     </message>
 </context>
 </TS>

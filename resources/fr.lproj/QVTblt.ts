@@ -17,6 +17,67 @@
     </message>
 </context>
 <context>
+    <name>PaneArea</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>Les réglages de la tablette n’ont pas pu être enregistrés : %1</translation>
+    </message>
+</context>
+<context>
+    <name>PaneShell</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>Go back to the settings in the file</source>
+        <translation>Revenir aux réglages du fichier</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>Keep the settings as they are now</source>
+        <translation>Garder les réglages actuels</translation>
+    </message>
+    <message>
+        <source>The settings are not saved: %1</source>
+        <translation>Les réglages ne sont pas enregistrés&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
+        <translation>Les réglages de la tablette ne peuvent pas être chargés, les pages ne les montrent donc pas : %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <translation>Le pilote de la tablette n’a pas pris en compte le dernier changement. Est-il en cours d’exécution&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y Again</source>
+        <translation>&amp;Réessayer</translation>
+    </message>
+    <message>
+        <source>Send A&amp;gain</source>
+        <translation>Re&amp;nvoyer</translation>
+    </message>
+</context>
+<context>
+    <name>PaneWindow</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>Les réglages de la tablette n’ont pas pu être enregistrés : %1</translation>
+    </message>
+    <message>
+        <source>Close the window and lose the changes?</source>
+        <translation>Fermer la fenêtre et perdre les modifications ?</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Open</source>
+        <translation>&amp;Garder ouverte</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateView</name>
     <message>
         <source>Cross 1 of 4, at the upper left.</source>
@@ -524,14 +585,6 @@
     <message>
         <source>Unknown tablet, product %1</source>
         <translation>Tablette inconnue, produit %1</translation>
-    </message>
-    <message>
-        <source>The settings are not saved: %1</source>
-        <translation>Les réglages ne sont pas enregistrés&#xa0;: %1</translation>
-    </message>
-    <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
-        <translation>Le pilote de la tablette n’a pas pris en compte le dernier changement. Est-il en cours d’exécution&#xa0;?</translation>
     </message>
 </context>
 </TS>

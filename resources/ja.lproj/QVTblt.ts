@@ -17,6 +17,67 @@
     </message>
 </context>
 <context>
+    <name>PaneArea</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>タブレットの設定を保存できませんでした: %1</translation>
+    </message>
+</context>
+<context>
+    <name>PaneShell</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Go back to the settings in the file</source>
+        <translation>保存されている設定に戻します</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>保存(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Keep the settings as they are now</source>
+        <translation>現在の設定を保存します</translation>
+    </message>
+    <message>
+        <source>The settings are not saved: %1</source>
+        <translation>設定は保存されていません: %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
+        <translation>タブレットの設定を読み込めないため、ページには表示されていません: %1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <translation>タブレットのドライバーが最後の変更を受け取っていません。動作していますか？</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y Again</source>
+        <translation>再試行(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Send A&amp;gain</source>
+        <translation>再送信(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>PaneWindow</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>タブレットの設定を保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Close the window and lose the changes?</source>
+        <translation>ウィンドウを閉じて変更を破棄しますか？</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Open</source>
+        <translation>開いたままにする(&amp;K)</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateView</name>
     <message>
         <source>Cross 1 of 4, at the upper left.</source>
@@ -524,14 +585,6 @@
     <message>
         <source>Unknown tablet, product %1</source>
         <translation>不明なタブレット (製品 %1)</translation>
-    </message>
-    <message>
-        <source>The settings are not saved: %1</source>
-        <translation>設定は保存されていません: %1</translation>
-    </message>
-    <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
-        <translation>タブレットのドライバーが最後の変更を受け取っていません。動作していますか？</translation>
     </message>
 </context>
 </TS>

@@ -17,6 +17,67 @@
     </message>
 </context>
 <context>
+    <name>PaneArea</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>无法保存数位板的设置：%1</translation>
+    </message>
+</context>
+<context>
+    <name>PaneShell</name>
+    <message>
+        <source>&amp;Cancel</source>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Go back to the settings in the file</source>
+        <translation>恢复为文件中保存的设置</translation>
+    </message>
+    <message>
+        <source>Sa&amp;ve</source>
+        <translation>保存(&amp;V)</translation>
+    </message>
+    <message>
+        <source>Keep the settings as they are now</source>
+        <translation>保存当前的设置</translation>
+    </message>
+    <message>
+        <source>The settings are not saved: %1</source>
+        <translation>设置未保存：%1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
+        <translation>无法加载数位板的设置，因此各页没有显示它们：%1</translation>
+    </message>
+    <message>
+        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <translation>数位板驱动程序没有接受最后一次更改。它是否正在运行？</translation>
+    </message>
+    <message>
+        <source>Tr&amp;y Again</source>
+        <translation>重试(&amp;A)</translation>
+    </message>
+    <message>
+        <source>Send A&amp;gain</source>
+        <translation>重新发送(&amp;A)</translation>
+    </message>
+</context>
+<context>
+    <name>PaneWindow</name>
+    <message>
+        <source>The tablet&apos;s settings could not be saved: %1</source>
+        <translation>无法保存数位板的设置：%1</translation>
+    </message>
+    <message>
+        <source>Close the window and lose the changes?</source>
+        <translation>关闭窗口并放弃更改？</translation>
+    </message>
+    <message>
+        <source>&amp;Keep Open</source>
+        <translation>保持打开(&amp;K)</translation>
+    </message>
+</context>
+<context>
     <name>QVCalibrateView</name>
     <message>
         <source>Cross 1 of 4, at the upper left.</source>
@@ -524,14 +585,6 @@
     <message>
         <source>Unknown tablet, product %1</source>
         <translation>未知数位板，产品 %1</translation>
-    </message>
-    <message>
-        <source>The settings are not saved: %1</source>
-        <translation>设置未保存：%1</translation>
-    </message>
-    <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
-        <translation>数位板驱动程序没有接受最后一次更改。它是否正在运行？</translation>
     </message>
 </context>
 </TS>

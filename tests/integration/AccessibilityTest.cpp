@@ -5,6 +5,8 @@
 // colours that stand apart.
 
 #include "Contrast.h"
+#include "NotedPane.h"
+#include "PaneShell.h"
 #include "PaneTest.h"
 #include "QVCalibrateWin.h"
 #include "QVDrawView.h"
@@ -374,21 +376,35 @@ TEST_F(Accessibility, saysWhichCrossToTouch)
 
 TEST_F(Accessibility, readsOutWhatHasGoneWrong)
 {
-    showProduct(kProducts[0]);
-    auto& notice = outlet<platform::NoticeLabel>("mNotice");
+    using News = platform::PreferencePane::News;
+    PaneLife life;
+    auto noted = std::make_unique<NotedPane>(life);
+    const NotedPane& pane = *noted;
+    PaneShell shell(std::move(noted), PaneShell::Host::Window);
+    shell.willSelect();
+    shell.show();
+    activate(shell);
+    const auto buttons = shell.findChildren<QPushButton*>();
+    ASSERT_EQ(buttons.size(), 2);
+    const QRect save = placeOf(*buttons[1]);
+    pane.tell(News::ChangeNotTaken);
+    auto& notice = *shell.findChild<platform::NoticeLabel*>();
+    pane.tell(News::ChangeTaken);
     EXPECT_FALSE(notice.isVisible());
-    const QRect save = placeOf(outlet<QPushButton>("mSave"));
+
     const Told told;
-    platform::notifications().post({platform::kEventNotTakenNotification, nullptr, {}});
+    pane.tell(News::ChangeNotTaken);
     EXPECT_EQ(Told::count(notice, QAccessible::ObjectShow), 1);
     EXPECT_EQ(accessible(notice).role(), QAccessible::Notification);
     EXPECT_EQ(textOf(accessible(notice), QAccessible::Name),
         "The tablet's driver has not taken the last change. Is it running?");
-    platform::notifications().post({platform::kEventNotTakenNotification, nullptr, {}});
+    pane.tell(News::ChangeNotTaken);
     EXPECT_EQ(Told::count(notice, QAccessible::ObjectShow), 0) << "it stands there already";
-    platform::notifications().post({platform::kEventTakenNotification, nullptr, {}});
+    expectNoFaults(shell, 4);
+    expectTabVisitsAllInOrder(shell);
+    pane.tell(News::ChangeTaken);
     EXPECT_FALSE(notice.isVisible());
-    EXPECT_EQ(placeOf(outlet<QPushButton>("mSave")), save);
+    EXPECT_EQ(placeOf(*buttons[1]), save);
 }
 
 TEST_F(Accessibility, saysTheCurveInWords)

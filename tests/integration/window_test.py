@@ -3,6 +3,7 @@
 """The panel in its own window, as a person uses it: mouse, real X server, real driver, real file."""
 
 import plistlib
+import re
 import signal
 import unittest
 
@@ -52,8 +53,8 @@ class Window(desktop.Desktop):
         self.assertEqual(self.driver_strips(), (1, 0))
         self.click(self.find("qvtblt", "Cancel", "push button"))
         session.wait_for(lambda: self.driver_strips() == (0, 0), "the driver")
-        # The box keeps the choice until the panel is shown again.
-        self.assertFalse(self.find("qvtblt", "Left scroll strip")["checked"])
+        # The panel is shown anew, so that its pages follow.
+        session.wait_for(lambda: self.find("qvtblt", "Left scroll strip")["checked"], "the box")
 
     def test_an_edit_works_by_keyboard_alone(self):
         self.start_driver()
@@ -108,7 +109,8 @@ class Window(desktop.Desktop):
     def notice(self):
         """The line that says what has gone wrong; nothing while there is none."""
         return [thing["name"] for thing in self.things("qvtblt") if thing["showing"]
-                and ("not taken" in thing["name"] or "not saved" in thing["name"])]
+                and any(words in thing["name"]
+                        for words in ("not taken", "not saved", "cannot be loaded"))]
 
     def test_the_pages_appear_when_a_tablet_is_attached(self):
         self.start_driver("--attach", "none")
@@ -127,7 +129,7 @@ class Window(desktop.Desktop):
         self.find("qvtblt", "Keys", "page tab")
         self.click_strip()
 
-    def test_what_the_driver_has_not_taken_it_gets_when_it_comes_back(self):
+    def test_what_the_driver_has_not_taken_is_sent_again_by_hand(self):
         driver = self.start_driver()
         self.start([session.BIN / "qvtblt"])
         strip = self.find("qvtblt", "Left scroll strip", "check box")
@@ -135,8 +137,40 @@ class Window(desktop.Desktop):
         self.click(strip, 8)
         session.wait_for(self.notice, "the line")
         self.start_driver()
+        before = self.simulator("Pushes")
+        # The panel hears of the driver and asks it; only then is there an end to wait for.
+        self.assertTrue(self.notice(), "nothing is sent that nobody has asked for")
+        self.assertEqual(self.simulator("Pushes"), before)
+        self.click(self.find("qvtblt", "Send Again", "push button"))
         session.wait_for(lambda: self.record() and self.driver_strips() == (1, 0), "the record")
         session.wait_for(lambda: not self.notice(), "the line's end")
+
+    def test_reset_leaves_no_line_behind_when_the_driver_comes_back(self):
+        driver = self.start_driver()
+        self.start_panel()
+        self.stop_driver(driver, signal.SIGKILL)
+        self.click(self.find("qvtblt", "Left scroll strip", "check box"), 8)
+        session.wait_for(self.notice, "the line")
+        self.click(self.find("qvtblt", "Cancel", "push button"))
+        self.find("qvtblt", "No tablet was found", "label")
+        self.start_driver()
+        self.find("qvtblt", "Left scroll strip", "check box")
+        self.assertEqual(self.notice(), [])
+
+    def test_another_tablet_gets_its_own_settings_and_the_former_one_keeps_its(self):
+        self.start_driver()
+        self.start_panel()
+        self.click_strip()
+        other = self.config(20738)
+        self.simulator("Attach", "q", "20738")
+        self.find("qvtblt", "Quorvia Draft M", "label")
+        self.assertEqual(self.file_strips(), (1, 0), "the former tablet's file has the edit")
+        self.assertEqual(plistlib.loads(other.read_bytes())["Key"]["Scrollbar0"], 0)
+        self.assertEqual(plistlib.loads(other.read_bytes())["Tablet"]["ProductID"], 20738)
+        pushes = self.simulator("Pushes")
+        self.assertEqual(pushes, ["u", "1"], "only the edit, to the tablet that it was made for")
+        self.click_strip()
+        self.assertEqual(int.from_bytes(self.record()[2:4], "little"), 20738)
 
     def test_a_file_that_cannot_be_saved_is_told(self):
         self.start_driver()
@@ -147,9 +181,70 @@ class Window(desktop.Desktop):
         self.click(self.find("qvtblt", "Save", "push button"))
         session.wait_for(self.notice, "the line")
         away.rename(self.config())
-        self.xdotool("key", "alt+v")
+        self.click(self.find("qvtblt", "Try Again", "push button"))
         session.wait_for(lambda: not self.notice(), "the line's end")
         self.assertEqual(self.file_strips(), (1, 0))
+
+    def test_settings_that_cannot_be_loaded_are_told_at_once_and_not_overwritten(self):
+        self.start_driver()
+        whole = self.config().read_bytes()
+        self.config().write_bytes(b"nonsense")
+        self.start([session.BIN / "qvtblt"])
+        session.wait_for(self.notice, "the line")
+        self.config().write_bytes(whole)
+        self.click(self.find("qvtblt", "Try Again", "push button"))
+        self.find("qvtblt", "Quorvia Draft S", "label")
+        session.wait_for(lambda: not self.notice(), "the line's end")
+        self.assertEqual(self.config().read_bytes(), whole)
+
+    def test_a_window_whose_changes_cannot_be_saved_is_not_closed_unasked(self):
+        self.start_driver()
+        panel = self.start_panel()
+        away = self.config().with_suffix(".away")
+        self.config().rename(away)
+        self.click_strip()
+        self.close_window(TITLE)
+        self.click(self.find("qvtblt", "Keep Open", "push button"))
+        session.wait_for(lambda: not [thing for thing in self.things("qvtblt")
+                                      if thing["name"] == "Keep Open"], "the question's end")
+        self.assertIsNone(panel.poll())
+        self.close_window(TITLE)
+        self.click(self.find("qvtblt", "Discard", "push button"))
+        self.assertEqual(panel.wait(timeout=20), 0)
+
+
+class SmallScreen(desktop.Desktop):
+    """The window with its frame on a small screen, in large text."""
+
+    SCREEN = "1024x600x24"
+
+    def test_the_whole_window_is_on_the_screen(self):
+        self.start_driver()
+        for points in (10, 14, 18):
+            for language in ("en", "de", "es", "fr", "ja", "zh_CN"):
+                with self.subTest(points=points, language=language):
+                    self.env["LANGUAGE"] = language
+                    self.env["QT_FONT_DPI"] = str(96 * points // 10)  # of the usual 10 points
+                    panel = self.start([session.BIN / "qvtblt"])
+                    window = session.wait_for(
+                        lambda: self.run_program("xdotool", "search", "--onlyvisible", "--class",
+                                                 "qvtblt").stdout.split(), "the window")[-1]
+                    frame = session.wait_for(lambda: self.frame(window), "its frame")
+                    left, top, width, height = frame
+                    self.assertGreaterEqual((left, top), (0, 0))
+                    self.assertLessEqual(left + width, 1024)
+                    self.assertLessEqual(top + height, 600)
+                    panel.terminate()
+                    panel.wait(timeout=20)
+
+    def frame(self, window):
+        """The window's place with its frame; None before it has one."""
+        text = self.run_program("xwininfo", "-id", window, "-frame").stdout
+        extents = self.run_program("xprop", "-id", window, "_NET_FRAME_EXTENTS").stdout
+        if "=" not in extents:
+            return None
+        return tuple(int(re.search(rf"{words}: +(-?\d+)", text)[1]) for words in (
+            "Absolute upper-left X", "Absolute upper-left Y", "Width", "Height"))
 
 
 class WithoutDisplay(session.Session):

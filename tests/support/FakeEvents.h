@@ -6,6 +6,7 @@
 #include "Service.h"
 
 #include <functional>
+#include <functional>
 #include <map>
 #include <utility>
 #include <vector>
@@ -38,6 +39,7 @@ public:
     platform::OSErr putParamResult = platform::noErr;
     platform::OSErr sendResult = platform::noErr;
     platform::AERecord reply; ///< what a query is answered
+    std::function<void()> onSend; ///< called before each event is sent
 
     platform::OSErr createDesc(
         platform::DescType type, std::span<const std::byte> data, platform::AEDesc& result) override
@@ -69,6 +71,9 @@ public:
     platform::OSErr send(const platform::AppleEvent& event, platform::AppleEvent* answer,
         platform::AESendMode mode, platform::AESendPriority priority, std::int32_t timeOut) override
     {
+        if (onSend) {
+            onSend();
+        }
         sent.push_back({event, answer != nullptr, mode, priority, timeOut});
         if (answer != nullptr && sendResult == platform::noErr) {
             answer->parameters = reply;

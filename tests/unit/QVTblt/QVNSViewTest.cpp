@@ -6,7 +6,7 @@
 #include "PenInput.h"
 #include "QVCalibrateWin.h"
 
-#include <QPushButton>
+#include <QCheckBox>
 #include <QTabWidget>
 #include <QTest>
 
@@ -117,10 +117,10 @@ TEST_F(Proximity, leavesThePenToTheControlsAsAMouse)
 {
     auto& pages = outlet<QTabWidget>("tabView");
     pages.setCurrentIndex(0);
-    auto& cancel = outlet<QPushButton>("mCancel");
+    auto& strip = outlet<QCheckBox>("mKeyLScroll");
     int clicks = 0;
-    QObject::connect(&cancel, &QPushButton::clicked, [&clicks] { ++clicks; });
-    PenInput pen(cancel, 1);
+    QObject::connect(&strip, &QCheckBox::clicked, [&clicks] { ++clicks; });
+    PenInput pen(strip, 1);
     pen.press({5, 5}, 0.5);
     pen.release({5, 5});
     PenInput::deliver();

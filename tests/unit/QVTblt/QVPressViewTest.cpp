@@ -147,7 +147,9 @@ TEST_F(PressurePage, followsTheFileAfterCancel)
 {
     slider().setValue(2000);
     view().grab();
-    QTest::mouseClick(&outlet<QPushButton>("mCancel"), Qt::LeftButton);
+    mPane.CancelSet();
+    leave();
+    show();
     const int inFile = recordInFile().Pen.PressureThreshold;
     EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, inFile);
     EXPECT_TRUE(QTest::qWaitFor([&] { return slider().value() == inFile * 10; }));
@@ -156,7 +158,7 @@ TEST_F(PressurePage, followsTheFileAfterCancel)
 TEST_F(PressurePage, isSavedWithTheRecord)
 {
     slider().setValue(1230);
-    QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
+    mPane.SaveSet();
     EXPECT_EQ(+recordInFile().Pen.PressureThreshold, 123);
 }
 

@@ -932,7 +932,7 @@ TEST_F(KeyPage, cancelPushesTheFileWhileTheBoxesKeepTheChoices)
     edit([](tagQVTabletInfo& record) { record.Key.SubKey[0].Valid = 4; });
     show();
     choose(box(0), 9);
-    QTest::mouseClick(&outlet<QPushButton>("mCancel"), Qt::LeftButton);
+    mPane.CancelSet();
     EXPECT_EQ(+pushes().back().Key.SubKey[0].Valid, 4);
     EXPECT_EQ(box(0).currentIndex(), 9);
     leave();

@@ -21,10 +21,23 @@ using platform::Rect;
 
 namespace {
 
+using News = platform::PreferencePane::News;
+using Device = platform::PreferencePane::Device;
+
 class Pane : public PaneTest {
 protected:
-    QString notice() { return outlet<QLabel>("mNotice").text(); }
+    void SetUp() override
+    {
+        PaneTest::SetUp();
+        mPane.setNewsHandler([this](News news, const QString& text) {
+            mNews.push_back(news);
+            mNewsText = text;
+        });
+    }
     static void post(QLatin1String name) { platform::notifications().post({name, nullptr, {}}); }
+
+    std::vector<News> mNews;
+    QString mNewsText; ///< of the last one
 };
 
 } // namespace
@@ -90,9 +103,7 @@ TEST_F(Pane, showsOnlyTheLabelWithoutATablet)
     EXPECT_NEAR(color.greenF(), 0.2, 1e-4);
     EXPECT_NEAR(color.blueF(), 0.2, 1e-4);
     EXPECT_NEAR(color.alphaF(), 0.6, 1e-4);
-    for (const char* const name : {"mSave", "mCancel", "mSoft"}) {
-        EXPECT_FALSE(outlet<QWidget>(name).isVisible()) << name;
-    }
+    EXPECT_FALSE(outlet<QWidget>("mSoft").isVisible());
     EXPECT_TRUE(sameBytes(qvTabletInfo, {})) << "no file may be loaded";
 }
 
@@ -114,6 +125,32 @@ TEST_F(Pane, movesTheLabelFurtherAtEachShowingWithoutATablet)
     EXPECT_EQ(third.height, label.sizeHint().height());
 }
 
+TEST_F(Pane, widensTheLabelFivefoldBeforeItIsMadeToFit)
+{
+    /** Takes down the widths that a widget is given. */
+    class Widths final : public QObject {
+    public:
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            if (event->type() == QEvent::Resize) {
+                widths.push_back(static_cast<QWidget*>(watched)->width());
+            }
+            return false;
+        }
+        std::vector<int> widths;
+    };
+    mEvents.answer(0);
+    show();
+    leave();
+    auto& label = outlet<QLabel>("NoDevTitle");
+    const int fitted = label.width();
+    Widths widths;
+    label.installEventFilter(&widths);
+    mWindow->show(); // what is out of sight is told its last size alone
+    mPane.willSelect();
+    EXPECT_EQ(widths.widths, (std::vector{5 * fitted, fitted}));
+}
+
 TEST_F(Pane, comesBackWhenATabletIsThereAgain)
 {
     mEvents.answer(0);
@@ -122,8 +159,9 @@ TEST_F(Pane, comesBackWhenATabletIsThereAgain)
     mEvents.answer(7);
     show();
     EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible());
-    EXPECT_TRUE(outlet<QPushButton>("mSave").isVisible());
+    EXPECT_TRUE(outlet<QLabel>("mSoft").isVisible());
     EXPECT_FALSE(outlet<QLabel>("NoDevTitle").isVisible());
+    EXPECT_FALSE(outlet<QLabel>("NoDevHelp").isVisible());
 }
 
 TEST_F(Pane, saysUnderTheLabelWhatToTryAndNeverOutOfSight)
@@ -144,67 +182,138 @@ TEST_F(Pane, saysUnderTheLabelWhatToTryAndNeverOutOfSight)
     EXPECT_FALSE(outlet<QLabel>("NoDevHelp").isVisible());
 }
 
-TEST_F(Pane, isShownAnewWhenTheDriverSaysThatThereIsATablet)
-{
-    mEvents.answer(0);
-    show();
-    const Rect before = platform::frame(outlet<QLabel>("NoDevTitle"));
-    post(platform::kSourceChangedNotification);
-    EXPECT_FALSE(outlet<QTabWidget>("tabView").isVisible());
-    EXPECT_EQ(platform::frame(outlet<QLabel>("NoDevTitle")), before) << "it was not shown again";
-    mEvents.answer(7);
-    post(platform::kSourceChangedNotification);
-    EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible());
-    EXPECT_FALSE(outlet<QLabel>("NoDevTitle").isVisible());
-    EXPECT_TRUE(sameBytes(qvTabletInfo, sampleRecord()));
-    EXPECT_TRUE(pushes().empty());
-}
-
-TEST_F(Pane, asksNobodyWhileItIsNotShown)
-{
-    mEvents.answer(0);
-    show();
-    leave();
-    mEvents.sent.clear();
-    mEvents.answer(7);
-    post(platform::kSourceChangedNotification);
-    EXPECT_TRUE(mEvents.sent.empty());
-}
-
-TEST_F(Pane, saysThatTheDriverHasNotTakenAPushUntilItTakesOne)
+TEST_F(Pane, tellsItsHostWhatBecomesOfWhatItHasAskedFor)
 {
     show();
-    EXPECT_EQ(notice(), QString());
+    EXPECT_EQ(mNews, std::vector{News::Loaded});
     post(platform::kEventNotTakenNotification);
-    EXPECT_EQ(notice(),
-        QStringLiteral("The tablet's driver has not taken the last change. Is it running?"));
     post(platform::kEventTakenNotification);
-    EXPECT_EQ(notice(), QString());
+    post(platform::kSourceChangedNotification);
+    EXPECT_EQ(mNews,
+        (std::vector{News::Loaded, News::ChangeNotTaken, News::ChangeTaken,
+            News::DeviceMayHaveChanged}));
+    EXPECT_TRUE(pushes().empty()) << "it repeats nothing by itself";
 }
 
-TEST_F(Pane, pushesAgainWhatWasNotTakenWhenTheDriverComesBack)
-{
-    show();
-    post(platform::kSourceChangedNotification);
-    EXPECT_TRUE(pushes().empty()) << "nothing was lost";
-    post(platform::kEventNotTakenNotification);
-    post(platform::kSourceChangedNotification);
-    ASSERT_EQ(pushes().size(), 1U);
-    EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
-}
-
-TEST_F(Pane, saysWhyTheSettingsAreNotSavedUntilTheyAre)
+TEST_F(Pane, tellsItsHostWhyTheSettingsAreNotSaved)
 {
     show();
     const QString path = mHome.configFile(7);
     ASSERT_TRUE(QFile::rename(path, path + QStringLiteral(".away")));
-    QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
-    EXPECT_TRUE(notice().startsWith(QStringLiteral("The settings are not saved: ")))
-        << notice().toStdString();
-    EXPECT_TRUE(notice().contains(path));
+    mPane.save();
+    EXPECT_EQ(mNews.back(), News::NotSaved);
+    EXPECT_TRUE(mNewsText.contains(path)) << mNewsText.toStdString();
     ASSERT_TRUE(QFile::rename(path + QStringLiteral(".away"), path));
-    QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
-    EXPECT_EQ(notice(), QString());
+    mPane.save();
+    EXPECT_EQ(mNews.back(), News::Saved);
+    EXPECT_EQ(mNewsText, QString());
+}
+
+TEST_F(Pane, tellsItsHostWhyTheSettingsAreNotLoaded)
+{
+    const QString path = mHome.configFile(7);
+    writeFile(path, "nonsense");
+    show();
+    EXPECT_EQ(mNews, std::vector{News::NotLoaded});
+    EXPECT_TRUE(mNewsText.contains(path)) << mNewsText.toStdString();
+    EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible()) << "the pages are shown all the same";
+}
+
+TEST_F(Pane, hasNoDeviceBeforeItIsShownAndWithoutATablet)
+{
+    EXPECT_FALSE(mPane.hasDevice());
+    show();
+    EXPECT_TRUE(mPane.hasDevice());
+    leave();
+    mEvents.answer(0);
+    show();
+    EXPECT_FALSE(mPane.hasDevice());
+}
+
+TEST_F(Pane, knowsTheSameTabletFromAnother)
+{
+    show();
+    EXPECT_EQ(mPane.checkDevice(), Device::Same);
+    mEvents.answer(8);
+    EXPECT_EQ(mPane.checkDevice(), Device::Other);
+    EXPECT_STREQ(GetPListName(), "7.plist") << "until it is shown anew, the file is the old one";
+    mEvents.answer(0);
+    EXPECT_EQ(mPane.checkDevice(), Device::Other);
+    mEvents.sendResult = platform::procNotFound;
+    EXPECT_EQ(mPane.checkDevice(), Device::Unknown);
+}
+
+TEST_F(Pane, knowsATabletThatComesFromNone)
+{
+    mEvents.answer(0);
+    show();
+    EXPECT_EQ(mPane.checkDevice(), Device::Same);
+    mEvents.answer(7);
+    EXPECT_EQ(mPane.checkDevice(), Device::Other);
+}
+
+TEST_F(Pane, asksTheDriverOnceWhenItIsShownAnewAfterACheck)
+{
+    mEvents.answer(0);
+    show();
+    mEvents.answer(7);
+    mEvents.sent.clear();
+    ASSERT_EQ(mPane.checkDevice(), Device::Other);
+    mPane.willUnselect();
+    mPane.didUnselect();
+    mPane.willSelect();
+    mPane.didSelect();
+    EXPECT_EQ(mEvents.sent.size(), 1U);
+    EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible());
+    EXPECT_TRUE(sameBytes(qvTabletInfo, sampleRecord()));
+    leave();
+    show();
+    EXPECT_EQ(mEvents.sent.size(), 2U) << "an answer is good for one showing";
+}
+
+TEST_F(Pane, savesIntoTheFormerTabletsFileAndSendsNothingWhenTheTabletIsAnother)
+{
+    QByteArray other = sampleConfig();
+    other.replace("<key>ProductID</key><integer>2</integer>",
+        "<key>ProductID</key><integer>8</integer>");
+    writeFile(mHome.configFile(8), other);
+    show();
+    qvTabletInfo.Pen.Speed = 99;
+    outlet<QPushButton>("mDoCalibrate").setEnabled(true);
+    outlet<QComboBox>("mComboBox").setCurrentIndex(1);
+    QTest::mouseClick(&outlet<QPushButton>("mDoCalibrate"), Qt::LeftButton);
+    ASSERT_EQ(pushes().size(), 1U);
+    ASSERT_EQ(+pushes().back().Monitor.disableFlag, 1);
+    mEvents.answer(8);
+    ASSERT_EQ(mPane.checkDevice(), Device::Other);
+    mPane.willUnselect();
+    mPane.didUnselect();
+    mPane.willSelect();
+    EXPECT_EQ(pushes().size(), 1U) << "the new driver must not get the old tablet's settings";
+    EXPECT_EQ(+recordInFile().Pen.Speed, 99);
+    EXPECT_EQ(+recordInFile().Monitor.disableFlag, 0);
+    EXPECT_EQ(+qvTabletInfo.Basic.ProductID, 8);
+    EXPECT_EQ(readFile(mHome.configFile(8)), other);
+}
+
+TEST_F(Pane, tellsOnceThatTheMappedAreaFollowsTheDisplays)
+{
+    QByteArray second = sampleConfig();
+    second.replace("<key>num</key><integer>14</integer>", "<key>num</key><integer>2</integer>");
+    writeFile(mHome.configFile(7), second);
+    show();
+    outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("displayPage"));
+    mWindow->grab();
+    mNews.clear();
+    mDisplays.change({{0, 0, 100, 100}, {100, 0, 100, 100}});
+    EXPECT_TRUE(mNews.empty()) << "the area is the same";
+    mDisplays.change({{0, 0, 100, 100}, {100, 0, 300, 200}});
+    EXPECT_EQ(mNews, std::vector{News::ChangedByItself});
+    EXPECT_EQ(+qvTabletInfo.Monitor.Width, 300);
+    EXPECT_TRUE(pushes().empty()) << "sending is its host's";
+    mPane.send();
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
 }
 
 TEST_F(Pane, putsTheFocusOnMSoft)
@@ -277,7 +386,7 @@ TEST_F(Pane, saveStoresZeroForABoxThatIsOnAndOneForABoxThatIsOff)
         outlet<QCheckBox>("mKeyLScroll").setChecked(true);
         outlet<QCheckBox>("mKeyRScroll").setChecked(false);
     }
-    QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
+    mPane.SaveSet();
     EXPECT_EQ(+qvTabletInfo.Key.Scrollbar0, 0);
     EXPECT_EQ(+qvTabletInfo.Key.Scrollbar1, 1);
     EXPECT_TRUE(sameBytes(recordInFile(), qvTabletInfo));
@@ -285,12 +394,21 @@ TEST_F(Pane, saveStoresZeroForABoxThatIsOnAndOneForABoxThatIsOff)
     EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
 }
 
+TEST_F(Pane, saveWritesTheFileBeforeItPushes)
+{
+    show();
+    qvTabletInfo.Pen.Speed = 99;
+    mEvents.onSend = [this] { EXPECT_EQ(+recordInFile().Pen.Speed, 99); };
+    mPane.SaveSet();
+    EXPECT_EQ(pushes().size(), 1U);
+}
+
 TEST_F(Pane, cancelPushesTheFilesValuesWhileTheBoxKeepsTheChoice)
 {
     show();
     QTest::mouseClick(&outlet<QCheckBox>("mKeyLScroll"), Qt::LeftButton, {}, QPoint(8, 8));
     ASSERT_TRUE(outlet<QCheckBox>("mKeyLScroll").isChecked());
-    QTest::mouseClick(&outlet<QPushButton>("mCancel"), Qt::LeftButton);
+    mPane.CancelSet();
     ASSERT_EQ(pushes().size(), 2U);
     EXPECT_TRUE(sameBytes(pushes().back(), sampleRecord()));
     EXPECT_TRUE(outlet<QCheckBox>("mKeyLScroll").isChecked());
@@ -395,11 +513,77 @@ TEST_F(Pane, hasNoChangesWhereAllItsPagesWereOnlyLookedAt)
     EXPECT_FALSE(mPane.hasChanges());
 }
 
-TEST_F(Pane, leavesItsButtonsToAHostThatHasThem)
+TEST_F(Pane, cancelAsksForNoRedraw)
 {
-    mPane.setButtonsShown(false);
+    show();
+    outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
+    outlet<QSlider>("mSlider").setValue(700);
+    const QImage edited = outlet<QWidget>("mPressView").grab().toImage();
+    mPane.CancelSet();
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 12);
+    EXPECT_EQ(outlet<QWidget>("mPressView").grab().toImage(), edited);
+    EXPECT_EQ(outlet<QSlider>("mSlider").value(), 700);
+}
+
+TEST_F(Pane, showsButtonsOfItsOwnWhereAHostAsksForThem)
+{
     show();
     EXPECT_FALSE(outlet<QPushButton>("mSave").isVisible());
     EXPECT_FALSE(outlet<QPushButton>("mCancel").isVisible());
     EXPECT_TRUE(outlet<QLabel>("mSoft").isVisible());
+    leave();
+    mPane.setButtonsShown(true);
+    show();
+    outlet<QSlider>("mSlider").setValue(700);
+    QTest::mouseClick(&outlet<QPushButton>("mSave"), Qt::LeftButton);
+    EXPECT_EQ(+recordInFile().Pen.PressureThreshold, 70);
+    outlet<QSlider>("mSlider").setValue(800);
+    QTest::mouseClick(&outlet<QPushButton>("mCancel"), Qt::LeftButton);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 70);
+    leave();
+    mEvents.answer(0);
+    show();
+    EXPECT_FALSE(outlet<QPushButton>("mSave").isVisible());
+    EXPECT_FALSE(outlet<QPushButton>("mCancel").isVisible());
+}
+
+TEST_F(Pane, worksOnWithoutItsMainView)
+{
+    show();
+    mWindow.reset();
+    qvTabletInfo.Pen.Speed = 99;
+    mPane.SaveSet();
+    EXPECT_EQ(+recordInFile().Pen.Speed, 99);
+    EXPECT_EQ(pushes().size(), 1U);
+    qvTabletInfo.Pen.Speed = 98;
+    mPane.CancelSet();
+    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 99);
+    EXPECT_EQ(pushes().size(), 2U);
+    qvTabletInfo.Pen.Speed = 97;
+    mPane.willUnselect();
+    mPane.didUnselect();
+    EXPECT_EQ(+recordInFile().Pen.Speed, 97);
+    EXPECT_FALSE(mPane.hasDevice());
+    mPane.willSelect();
+    mPane.didSelect();
+}
+
+TEST_F(Pane, worksWithAMainViewThatIsLoadedAgain)
+{
+    show();
+    leave();
+    mWindow.reset();
+    mWindow.reset(mPane.loadMainView());
+    ASSERT_NE(mWindow, nullptr);
+    mNews.clear();
+    show();
+    EXPECT_EQ(mNews, std::vector{News::Loaded}) << "each is told once";
+    QTest::mouseClick(&outlet<QCheckBox>("mKeyLScroll"), Qt::LeftButton, {}, QPoint(8, 8));
+    EXPECT_EQ(pushes().size(), 1U);
+    mEvents.answer(8);
+    writeFile(mHome.configFile(8), QByteArray(sampleConfig()).replace(
+        "<key>ProductID</key><integer>2</integer>", "<key>ProductID</key><integer>9</integer>"));
+    leave();
+    show();
+    EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible());
 }

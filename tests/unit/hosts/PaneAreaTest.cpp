@@ -2,10 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "PaneArea.h"
 
+#include "AlertAnswer.h"
+#include "NotedPane.h"
+
 #include <QCoreApplication>
 #include <QDialog>
 #include <QHideEvent>
-#include <QStringList>
 #include <QVBoxLayout>
 #include <QtTest/qtestspontaneevent.h>
 
@@ -15,54 +17,6 @@
 #include <optional>
 
 namespace {
-
-/** What a host has done with its pane, which says so also when it is gone. */
-struct Life {
-    QStringList calls;
-    bool hasChanges = false;
-    bool canSave = true;
-};
-
-/** Takes its calls down. */
-class NotedPane final : public platform::PreferencePane {
-public:
-    explicit NotedPane(Life& life)
-        : mLife(life)
-    {
-    }
-    void willSelect() override { note("will select"); }
-    void didSelect() override { note("did select"); }
-    void willUnselect() override { note("will unselect"); }
-    void didUnselect() override { note("did unselect"); }
-    void save() override
-    {
-        note("save");
-        mLife.hasChanges = mLife.hasChanges && !mLife.canSave;
-        mayHaveChanged();
-    }
-    void cancel() override
-    {
-        note("cancel");
-        mLife.hasChanges = false;
-        mayHaveChanged();
-    }
-    bool hasChanges() const override { return mLife.hasChanges; }
-    void setButtonsShown(bool shown) override { note(shown ? "buttons shown" : "buttons hidden"); }
-    void edit()
-    {
-        mLife.hasChanges = true;
-        mayHaveChanged();
-    }
-
-private:
-    void note(const char* call) { mLife.calls.append(QString::fromLatin1(call)); }
-    QWidget* makeMainView() override { return new QWidget; }
-
-    Life& mLife;
-};
-
-const QStringList kComing{QStringLiteral("will select"), QStringLiteral("did select")};
-const QStringList kLeaving{QStringLiteral("will unselect"), QStringLiteral("did unselect")};
 
 class Area : public testing::Test {
 protected:
@@ -76,8 +30,7 @@ protected:
         layout->addWidget(mArea);
     }
 
-    /** The calls since it was last asked. */
-    QStringList calls() { return std::exchange(mLife.calls, {}); }
+    QStringList calls() { return mLife.take(); }
 
     /** Lets the host's event loop come to rest. */
     static void settle() { QCoreApplication::processEvents(); }
@@ -89,7 +42,7 @@ protected:
         calls();
     }
 
-    Life mLife;
+    PaneLife mLife;
     std::unique_ptr<QDialog> mWindow = std::make_unique<QDialog>();
     NotedPane* mPane = nullptr;
     PaneArea* mArea = nullptr;
@@ -231,5 +184,45 @@ TEST_F(Area, cancelsNothingWhenAnUnchangedDialogIsRejectedOrAChangedOneAccepted)
     mPane->edit();
     mWindow->accept();
     settle();
+    EXPECT_EQ(calls(), kLeaving);
+}
+
+TEST_F(Area, asksWhetherToTryAgainWhenChangesCannotBeSavedOnceItIsOutOfSight)
+{
+    show();
+    mPane->edit();
+    mLife.canSave = false;
+    mWindow->hide();
+    const AlertAnswer first("Retry");
+    QTimer::singleShot(0, &first, [&] {
+        // Now that the user has made room:
+        mLife.canSave = true;
+    });
+    settle();
+    EXPECT_EQ(
+        first.text(), QStringLiteral("The tablet's settings could not be saved: the disk is full"));
+    EXPECT_EQ(calls(), QStringList{QStringLiteral("will unselect")} + kLeaving);
+}
+
+TEST_F(Area, givesUpTheChangesThatCannotBeSavedWhenTheUserDiscardsThem)
+{
+    show();
+    mPane->edit();
+    mLife.canSave = false;
+    mWindow->hide();
+    const AlertAnswer answer("Discard");
+    settle();
+    EXPECT_EQ(calls(),
+        (QStringList{QStringLiteral("will unselect"), QStringLiteral("cancel"),
+            QStringLiteral("did unselect")}));
+    EXPECT_EQ(mTold, false);
+}
+
+TEST_F(Area, asksNothingWhenItIsDestroyed)
+{
+    show();
+    mPane->edit();
+    mLife.canSave = false;
+    mWindow.reset();
     EXPECT_EQ(calls(), kLeaving);
 }

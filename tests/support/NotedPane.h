@@ -1,0 +1,104 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PreferencePane.h"
+
+#include <QCheckBox>
+#include <QStringList>
+#include <QVBoxLayout>
+
+#include <utility>
+
+/** What a host has done with its pane, which says so also when it is gone. */
+struct PaneLife {
+    QStringList calls;
+    bool hasChanges = false;
+    bool canSave = true;
+    bool canLoad = true;
+    bool hasDevice = true;
+    platform::PreferencePane::Device device = platform::PreferencePane::Device::Same;
+
+    /** The calls since it was last asked. */
+    QStringList take() { return std::exchange(calls, {}); }
+};
+
+inline const QStringList kComing{QStringLiteral("will select"), QStringLiteral("did select")};
+inline const QStringList kLeaving{QStringLiteral("will unselect"), QStringLiteral("did unselect")};
+
+/** A pane that takes its calls down and has the news that a pane has with them. */
+class NotedPane final : public platform::PreferencePane {
+public:
+    explicit NotedPane(PaneLife& life)
+        : mLife(life)
+    {
+    }
+
+    void willSelect() override
+    {
+        note("will select");
+        if (mLife.hasDevice) {
+            load();
+        }
+    }
+    void didSelect() override { note("did select"); }
+    void willUnselect() override
+    {
+        note("will unselect");
+        write();
+    }
+    void didUnselect() override { note("did unselect"); }
+    void save() override
+    {
+        note("save");
+        write();
+        mayHaveChanged();
+    }
+    void cancel() override
+    {
+        note("cancel");
+        load();
+        mLife.hasChanges = false;
+        mayHaveChanged();
+    }
+    void send() override { note("send"); }
+    Device checkDevice() override
+    {
+        note("check");
+        return mLife.device;
+    }
+    bool hasDevice() const override { return mLife.hasDevice; }
+    bool hasChanges() const override { return mLife.hasChanges; }
+    void setButtonsShown(bool shown) override { note(shown ? "buttons shown" : "buttons hidden"); }
+
+    void edit()
+    {
+        mLife.hasChanges = true;
+        mayHaveChanged();
+    }
+    using PreferencePane::tell;
+
+private:
+    void note(const char* call) { mLife.calls.append(QString::fromLatin1(call)); }
+    void load()
+    {
+        tell(mLife.canLoad ? News::Loaded : News::NotLoaded,
+            mLife.canLoad ? QString() : QStringLiteral("no such file"));
+    }
+    void write()
+    {
+        mLife.hasChanges = mLife.hasChanges && !mLife.canSave;
+        tell(mLife.canSave ? News::Saved : News::NotSaved,
+            mLife.canSave ? QString() : QStringLiteral("the disk is full"));
+    }
+    QWidget* makeMainView() override
+    {
+        auto* const view = new QWidget;
+        view->setWindowTitle(QStringLiteral("Noted"));
+        view->resize(300, 200);
+        (new QVBoxLayout(view))->addWidget(new QCheckBox(QStringLiteral("Noted")));
+        return view;
+    }
+
+    PaneLife& mLife;
+};

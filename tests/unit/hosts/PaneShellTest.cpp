@@ -1,0 +1,342 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "PaneShell.h"
+
+#include "Accessible.h"
+#include "NotedPane.h"
+
+#include <QDialog>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+using News = platform::PreferencePane::News;
+using Device = platform::PreferencePane::Device;
+
+const QString kNotTaken =
+    QStringLiteral("The tablet's driver has not taken the last change. Is it running?");
+
+class Shell : public testing::TestWithParam<PaneShell::Host> {
+protected:
+    Shell()
+    {
+        auto pane = std::make_unique<NotedPane>(mLife);
+        mPane = pane.get();
+        mShell = std::make_unique<PaneShell>(std::move(pane), GetParam());
+        mLife.take();
+    }
+
+    void show()
+    {
+        mShell->willSelect();
+        mShell->show();
+        mShell->didSelect();
+        mLife.take();
+    }
+    void leave()
+    {
+        mShell->willUnselect();
+        mShell->hide();
+        mShell->didUnselect();
+        mLife.take();
+    }
+
+    /** What the line says; empty while there is none. */
+    QString notice()
+    {
+        const auto* const label = mShell->findChild<platform::NoticeLabel*>();
+        return label == nullptr || !label->isVisible() ? QString() : label->text();
+    }
+    /** The button that is shown with that text; null where there is none. */
+    QPushButton* button(const char* text)
+    {
+        const auto buttons = mShell->findChildren<QPushButton*>();
+        for (QPushButton* const button : buttons) {
+            if (button->isVisible()
+                && QString(button->text()).remove(u'&') == QLatin1String(text)) {
+                return button;
+            }
+        }
+        return nullptr;
+    }
+    void press(const char* text)
+    {
+        QPushButton* const found = button(text);
+        ASSERT_NE(found, nullptr) << text;
+        QTest::mouseClick(found, Qt::LeftButton);
+    }
+
+    PaneLife mLife;
+    NotedPane* mPane = nullptr;
+    std::unique_ptr<PaneShell> mShell;
+};
+
+QStringList calls(std::initializer_list<const char*> names)
+{
+    QStringList list;
+    for (const char* const name : names) {
+        list.append(QString::fromLatin1(name));
+    }
+    return list;
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(InEachHost, Shell,
+    testing::Values(PaneShell::Host::Window, PaneShell::Host::SettingsApplication),
+    [](const auto& host) {
+        return std::string(host.param == PaneShell::Host::Window ? "window" : "settings");
+    });
+
+TEST_P(Shell, saysThatAChangeWasNotTakenUntilOneIs)
+{
+    show();
+    EXPECT_EQ(notice(), QString());
+    mPane->tell(News::ChangeNotTaken);
+    EXPECT_EQ(notice(), kNotTaken);
+    mPane->tell(News::ChangeTaken);
+    EXPECT_EQ(notice(), QString());
+    EXPECT_EQ(mLife.take(), QStringList()) << "nobody asked for anything to be sent";
+}
+
+TEST_P(Shell, sendsAgainByHandToADriverThatHasTheSameTablet)
+{
+    show();
+    mPane->tell(News::ChangeNotTaken);
+    press("Send Again");
+    EXPECT_EQ(mLife.take(), calls({"check", "send"}));
+    EXPECT_EQ(notice(), kNotTaken) << "until it is taken";
+}
+
+TEST_P(Shell, sendsNothingToADriverThatDoesNotSayWhichTabletItHas)
+{
+    show();
+    mPane->tell(News::ChangeNotTaken);
+    mLife.device = Device::Unknown;
+    press("Send Again");
+    EXPECT_EQ(mLife.take(), calls({"check"}));
+    EXPECT_EQ(notice(), kNotTaken);
+}
+
+TEST_P(Shell, showsThePaneAnewInsteadOfSendingToADriverThatHasAnotherTablet)
+{
+    show();
+    mPane->tell(News::ChangeNotTaken);
+    mLife.device = Device::Other;
+    press("Send Again");
+    EXPECT_EQ(mLife.take(), calls({"check"}) + kLeaving + kComing);
+    EXPECT_EQ(notice(), QString()) << "each showing begins without";
+}
+
+TEST_P(Shell, sendsNothingByItselfWhenADriverComes)
+{
+    show();
+    mPane->tell(News::ChangeNotTaken);
+    mPane->tell(News::DeviceMayHaveChanged);
+    EXPECT_EQ(mLife.take(), calls({"check"}));
+    EXPECT_EQ(notice(), kNotTaken);
+}
+
+TEST_P(Shell, leavesThePaneAndShowsItAnewWhenTheTabletIsAnother)
+{
+    show();
+    mLife.device = Device::Other;
+    mPane->tell(News::DeviceMayHaveChanged);
+    EXPECT_EQ(mLife.take(), calls({"check"}) + kLeaving + kComing);
+    EXPECT_TRUE(mShell->isSelected());
+}
+
+TEST_P(Shell, asksNobodyWhileItIsNotShown)
+{
+    mPane->tell(News::DeviceMayHaveChanged);
+    show();
+    leave();
+    mPane->tell(News::DeviceMayHaveChanged);
+    EXPECT_EQ(mLife.take(), QStringList());
+}
+
+TEST_P(Shell, closesThePanesDialogsWhenTheTabletIsAnother)
+{
+    show();
+    QDialog dialog(&mShell->view());
+    QTimer::singleShot(0, mShell.get(), [this] {
+        mLife.device = Device::Other;
+        mPane->tell(News::DeviceMayHaveChanged);
+    });
+    EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+    EXPECT_EQ(mLife.take(), calls({"check"}) + kLeaving + kComing);
+}
+
+TEST_P(Shell, leavesTheDialogsOfTheHostOpenWhenTheTabletIsAnother)
+{
+    show();
+    QDialog dialog;
+    QTimer::singleShot(0, mShell.get(), [&] {
+        mLife.device = Device::Other;
+        mPane->tell(News::DeviceMayHaveChanged);
+        EXPECT_TRUE(dialog.isVisible());
+        dialog.accept();
+    });
+    EXPECT_EQ(dialog.exec(), QDialog::Accepted);
+}
+
+TEST_P(Shell, sendsOnceWhatHasChangedByItself)
+{
+    show();
+    mPane->tell(News::ChangedByItself);
+    EXPECT_EQ(mLife.take(), calls({"check", "send"}));
+    mLife.device = Device::Unknown;
+    mPane->tell(News::ChangedByItself);
+    EXPECT_EQ(mLife.take(), calls({"check"}));
+    EXPECT_EQ(notice(), kNotTaken);
+}
+
+TEST_P(Shell, sendsNothingWhatHasChangedByItselfWhileItIsNotShown)
+{
+    show();
+    leave();
+    mPane->tell(News::ChangedByItself);
+    EXPECT_EQ(mLife.take(), QStringList());
+}
+
+TEST_P(Shell, saysWhyASaveFailedAndTriesAgainByHand)
+{
+    show();
+    mPane->edit();
+    mLife.canSave = false;
+    mShell->save();
+    EXPECT_EQ(notice(), QStringLiteral("The settings are not saved: the disk is full"));
+    mLife.take();
+    press("Try Again");
+    EXPECT_EQ(mLife.take(), calls({"check", "save"}));
+    EXPECT_EQ(notice(), QStringLiteral("The settings are not saved: the disk is full"));
+    mLife.canSave = true;
+    press("Try Again");
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(Shell, savesNothingAgainForADriverThatHasAnotherTablet)
+{
+    show();
+    mLife.canSave = false;
+    mShell->save();
+    mLife.take();
+    mLife.device = Device::Other;
+    press("Try Again");
+    EXPECT_EQ(mLife.take(), calls({"check"}) + kLeaving + kComing);
+}
+
+TEST_P(Shell, saysAtOnceThatTheSettingsCannotBeLoadedAndLoadsThemAgainByHand)
+{
+    mLife.canLoad = false;
+    show();
+    EXPECT_EQ(notice(),
+        QStringLiteral(
+            "The tablet's settings cannot be loaded, so the pages do not show them: no such file"));
+    mLife.canLoad = true;
+    press("Try Again");
+    EXPECT_EQ(mLife.take(), calls({"did unselect"}) + kComing)
+        << "leaving the pane would have saved what could not be loaded";
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(Shell, loadsTheSettingsWhenADriverComesThatMayHaveBroughtThem)
+{
+    mLife.canLoad = false;
+    show();
+    mLife.canLoad = true;
+    mPane->tell(News::DeviceMayHaveChanged);
+    EXPECT_EQ(mLife.take(), calls({"check", "did unselect"}) + kComing);
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(Shell, saysNothingOfAFailedSaveWithoutATablet)
+{
+    mLife.hasDevice = false;
+    mLife.canSave = false;
+    show();
+    mShell->willUnselect();
+    EXPECT_EQ(notice(), QString());
+    mPane->tell(News::ChangeNotTaken);
+    EXPECT_EQ(notice(), QString());
+    mShell->didUnselect();
+    mLife.hasDevice = true;
+    show();
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(Shell, beginsEachShowingWithoutALine)
+{
+    show();
+    mPane->tell(News::ChangeNotTaken);
+    mLife.canSave = false;
+    mShell->save();
+    leave();
+    show();
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(Shell, showsThePaneAnewAfterCancel)
+{
+    show();
+    mPane->edit();
+    mPane->tell(News::ChangeNotTaken);
+    mShell->cancel();
+    EXPECT_EQ(mLife.take(), calls({"cancel"}) + kLeaving + kComing);
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(Shell, tellsItsHostWhetherChangesAreLostOnLeaving)
+{
+    show();
+    mLife.canSave = false;
+    EXPECT_EQ(mShell->willUnselect(), QString()) << "there are none";
+    mPane->edit();
+    EXPECT_EQ(mShell->willUnselect(), QStringLiteral("the disk is full"));
+    mLife.canSave = true;
+    EXPECT_EQ(mShell->willUnselect(), QString());
+}
+
+TEST_P(Shell, hasSaveAndCancelWhereTheHostHasNone)
+{
+    show();
+    const bool isWindow = GetParam() == PaneShell::Host::Window;
+    EXPECT_EQ(button("Save") != nullptr, isWindow);
+    EXPECT_EQ(button("Cancel") != nullptr, isWindow);
+    if (isWindow) {
+        press("Save");
+        EXPECT_EQ(mLife.take(), calls({"save"}));
+        press("Cancel");
+        EXPECT_EQ(mLife.take(), calls({"cancel"}) + kLeaving + kComing);
+        mLife.hasDevice = false;
+        leave();
+        show();
+        EXPECT_EQ(button("Save"), nullptr);
+        EXPECT_EQ(button("Cancel"), nullptr);
+    }
+}
+
+TEST_P(Shell, givesTheFocusBackWhenTheLineGoes)
+{
+    show();
+    mPane->tell(News::ChangeNotTaken);
+    mShell->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mShell.get()));
+    button("Send Again")->setFocus();
+    mLife.take();
+    mPane->tell(News::ChangeTaken);
+    EXPECT_EQ(mLife.take(), calls({"did select"}));
+}
+
+TEST_P(Shell, showsThePanesOwnButtonsNowhere)
+{
+    PaneLife life;
+    const PaneShell shell(std::make_unique<NotedPane>(life), GetParam());
+    EXPECT_EQ(life.take(), calls({"buttons hidden"}));
+}
