@@ -64,7 +64,9 @@ void QVKeySetClass::ClickButton(const QAbstractButton* key)
     }
     const QString text = ui->mKeyText->text();
     ui->mKeyText->setText(text.isEmpty() ? titleOf(*key) : text + separator() + titleOf(*key));
-    mKeyValue |= key->property("tag").toLongLong() << (8 * mNum);
+    if (mNum >= 0) { // a key that makes up for a deletion of nothing has no byte
+        mKeyValue |= key->property("tag").toLongLong() << (8 * mNum);
+    }
     setHasKeys(true);
     ++mNum;
 }
@@ -86,9 +88,7 @@ void QVKeySetClass::DeleteOneSet()
             mKeyValue = (mKeyValue & 0xFF) | 0x01000000;
         }
     }
-    if (mNum > 0) {
-        --mNum;
-    }
+    --mNum;
 }
 
 void QVKeySetClass::SaveKeyData()

@@ -50,7 +50,9 @@ public:
     void CancelSet();
     /**
      * Takes the last key back. Of the value, the keys that remain are kept and their number is
-     * written into its highest byte, where SaveKeyData() adds the number at that time by OR.
+     * written into its highest byte, where SaveKeyData() adds the number at that time by OR. The
+     * number of keys goes down where there is none as well, which no button does: as many keys
+     * after that show their names and are not stored.
      */
     void DeleteOneSet();
     /** Adds the button's key, its property "tag", under the button's title. A fourth is ignored. */
@@ -65,7 +67,8 @@ protected:
 private:
     void setHasKeys(bool hasKeys);
 
-    std::int32_t mNum = 0; ///< keys so far: 0 to 3
+    std::int32_t mNum = 0; ///< keys so far: up to 3
+    [[maybe_unused]] QPointer<QVKeyComboBox> mComboboxkey; ///< nothing looks at it
     QPointer<QVKeyComboBox> mComboBox; ///< the box that opened the dialog
     std::int64_t mKeyValue = 0; ///< byte n is the code of key n + 1; byte 3 may hold a number
     std::unique_ptr<Ui::QVKeySetClass> ui;

@@ -171,15 +171,44 @@ TEST_F(KeySet, deletingTheOnlyKeyLeavesNothing)
     EXPECT_EQ(+slot().Key, 0x01000008U) << "nothing of the deleted key may be left";
 }
 
-TEST_F(KeySet, deleteOnAnEmptyTextChangesNothing)
+TEST_F(KeySet, noButtonDeletesFromAnEmptyText)
+{
+    press("delBtn");
+    press("delBtn");
+    EXPECT_EQ(text(), QString());
+    click({"B", "C"});
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x0200080BU);
+}
+
+TEST_F(KeySet, aDeletionOfNothingIsMadeUpForByAKeyThatIsNotStored)
 {
     mDialog.DeleteOneSet();
     mDialog.DeleteOneSet();
     EXPECT_EQ(text(), QString());
     expectHasKeys(false);
-    click({"B", "C"});
+    click({"B", "C", "D", "E", "F", "G"});
+    EXPECT_EQ(text(), QStringLiteral("B  C  D  E  F"));
     press("okBtn");
-    EXPECT_EQ(+slot().Key, 0x0200080BU);
+    EXPECT_EQ(+slot().Key, 0x03030E02U) << "D, E and F";
+}
+
+TEST_F(KeySet, aNumberBelowZeroIsStoredAsItIs)
+{
+    mDialog.DeleteOneSet();
+    mDialog.SaveKeyData();
+    EXPECT_EQ(+slot().Valid, 3);
+    EXPECT_EQ(+slot().Key, 0xFF000000U);
+}
+
+TEST_F(KeySet, deletingOneOfThreeAndAddingAnotherLeavesTheCountAtThree)
+{
+    click({"X", "Y", "Z"});
+    press("delBtn");
+    click({"C"});
+    press("okBtn");
+    EXPECT_EQ(+slot().Key, 0x03081007U);
+    EXPECT_EQ(mBox.currentText(), QStringLiteral("X  Y  C"));
 }
 
 TEST_F(KeySet, theCountAfterADeletionIsTheOrOfBothCounts)

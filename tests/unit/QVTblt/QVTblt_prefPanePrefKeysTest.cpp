@@ -646,6 +646,14 @@ TEST_F(KeyPage, aPathWithoutItsNulIsReadToTheFieldsEndOnly)
     tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
     key.Valid = 2;
     key.App.fill('x');
+TEST_F(KeyPage, aCodeThatFollowsNothingIsNoCombinationUnlessItsCountSaysSo)
+{
+    qvTabletInfo.Key.SubKey[5].Key = 0x00000600;
+    EXPECT_EQ(mPane.GetSubKeyString(5), QString()) << "first byte and count are 0";
+    qvTabletInfo.Key.SubKey[5].Key = 0x01060000;
+    EXPECT_EQ(mPane.GetSubKeyString(5), QStringLiteral("A")) << "the second byte ends it";
+}
+
     qvTabletInfo.Key.SubKey[3].Valid = 0x7979;
     mPane.InitSingleComboBoxWithKey(&box(2), 2);
     EXPECT_EQ(box(2).currentText(), QString(256, u'x'));
