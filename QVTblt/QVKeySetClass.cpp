@@ -10,7 +10,11 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QEvent>
+#include <QScreen>
 #include <QStringList>
+#include <QStyle>
+
+#include <algorithm>
 
 namespace {
 
@@ -25,6 +29,13 @@ QString titleOf(const QAbstractButton& key)
     return key.text().remove(u'&');
 }
 
+/** What a desktop puts around a window: as much as around another, and not less than is usual. */
+QSize frameOf(const QWidget* other)
+{
+    constexpr QSize kUsual(12, 40);
+    return other == nullptr ? kUsual : kUsual.expandedTo(other->frameSize() - other->size());
+}
+
 } // namespace
 
 QVKeySetClass::QVKeySetClass(QWidget* parent)
@@ -35,6 +46,10 @@ QVKeySetClass::QVKeySetClass(QWidget* parent)
     setModal(true);
     connect(ui->mKeys, qOverload<QAbstractButton*>(&QButtonGroup::buttonClicked), this,
         &QVKeySetClass::ClickButton);
+    const auto keys = ui->mKeys->buttons();
+    for (QAbstractButton* const key : keys) {
+        key->installEventFilter(this);
+    }
     connect(ui->delBtn, &QPushButton::clicked, this, &QVKeySetClass::DeleteOneSet);
     connect(ui->okBtn, &QPushButton::clicked, this, &QVKeySetClass::SaveKeyData);
     connect(ui->cancelBtn, &QPushButton::clicked, this, &QVKeySetClass::CancelSet);
@@ -55,6 +70,24 @@ void QVKeySetClass::QVShowWindow(QVKeyComboBox* comboBox)
     mKeyValue = 0;
     setHasKeys(false);
     ui->keyCtrl->setFocus(); // where most combinations begin
+    fitInto((parentWidget() == nullptr ? this : parentWidget())->screen()->availableSize());
+}
+
+void QVKeySetClass::fitInto(const QSize& room)
+{
+    ensurePolished();
+    // A scroll area asks for a few lines of text, not for all that is in it.
+    const QSize keyboard = ui->keyboard->sizeHint();
+    const QMargins margins = layout()->contentsMargins();
+    const QSize hint = layout()->sizeHint();
+    QSize whole(std::max(hint.width(), keyboard.width() + margins.left() + margins.right()),
+        hint.height() - ui->keyScroll->sizeHint().height() + keyboard.height());
+    const QWidget* const owner = parentWidget() == nullptr ? nullptr : parentWidget()->window();
+    const QSize most = room - frameOf(owner);
+    if (whole.width() > most.width()) { // the bar to scroll with needs some of the height
+        whole.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+    }
+    resize(whole.boundedTo(most));
 }
 
 void QVKeySetClass::ClickButton(const QAbstractButton* key)
@@ -126,6 +159,15 @@ bool QVKeySetClass::event(QEvent* event)
         setAttribute(Qt::WA_KeyboardFocusChange);
     }
     return isHandled;
+}
+
+bool QVKeySetClass::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type()
+        == QEvent::FocusIn) { // by the arrows or the mouse; Tab would scroll by itself
+        ui->keyScroll->ensureWidgetVisible(qobject_cast<QWidget*>(watched));
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void QVKeySetClass::setHasKeys(bool hasKeys)

@@ -38,7 +38,7 @@ public:
 
     /** Shows the window without waiting for the user. */
     void showWindow();
-    /** Empties the dialog for the box. Shows nothing yet. */
+    /** Empties the dialog for the box and fits it into the screen. Shows nothing yet. */
     void QVShowWindow(QVKeyComboBox* comboBox);
 
     /**
@@ -58,11 +58,19 @@ public:
     /** Adds the button's key, its property "tag", under the button's title. A fourth is ignored. */
     void ClickButton(const QAbstractButton* key);
 
+    /**
+     * Gives the window the size at which no key has to be scrolled to, as far as there is room.
+     *
+     * @param room for the window with its frame, in pixels
+     */
+    void fitInto(const QSize& room);
+
     /** Escape and the window's close button cancel. */
     void reject() override;
 
 protected:
     bool event(QEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void setHasKeys(bool hasKeys);

@@ -9,10 +9,13 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSet>
 #include <QTest>
 #include <QTimer>
 #include <QToolButton>
+#include <QTranslator>
 
 #include <gtest/gtest.h>
 
@@ -332,6 +335,66 @@ TEST_F(KeySet, noKeysNameIsCutOffAtAnyTextSize)
             EXPECT_GE(button->width(), button->sizeHint().width()) << qPrintable(button->text());
             EXPECT_GE(button->height(), button->sizeHint().height()) << qPrintable(button->text());
         }
+    }
+}
+
+TEST_F(KeySet, fitsIntoSmallScreensInEveryLanguageAndTextSize)
+{
+    // As much as most desktops put around a window.
+    constexpr QSize kFrame(12, 40);
+    for (const char* const language : {"en", "fr", "de", "ja", "zh-Hans", "es"}) {
+        QTranslator translator;
+        const QString file = QStringLiteral(QVTBLT_STAGE_RESOURCES "/%1.lproj/QVTblt.qm")
+                                 .arg(QLatin1String(language));
+        ASSERT_EQ(translator.load(file), QLatin1String(language) != QLatin1String("en"));
+        QCoreApplication::installTranslator(&translator);
+        for (const QSize& room : {QSize(1024, 600), QSize(1366, 768)}) {
+            for (const int points : {10, 14, 18}) {
+                SCOPED_TRACE(
+                    testing::Message() << language << ' ' << room.width() << ' ' << points);
+                QVKeySetClass dialog;
+                QFont font = QApplication::font();
+                font.setPointSize(points);
+                dialog.setFont(font);
+                dialog.QVShowWindow(&mBox);
+                dialog.fitInto(room);
+                dialog.show();
+                QCoreApplication::processEvents();
+                EXPECT_LE(dialog.width() + kFrame.width(), room.width());
+                EXPECT_LE(dialog.height() + kFrame.height(), room.height());
+                for (const char* const name : {"mKeyText", "delBtn", "cancelBtn", "okBtn"}) {
+                    const auto* const part = dialog.findChild<QWidget*>(QLatin1String(name));
+                    const QRect place(part->mapTo(&dialog, QPoint(0, 0)), part->size());
+                    EXPECT_TRUE(dialog.rect().contains(place)) << name;
+                    EXPECT_GE(part->height(), part->minimumSizeHint().height()) << name;
+                }
+                const auto& area = *dialog.findChild<QScrollArea*>();
+                for (QToolButton* const key : dialog.findChildren<QToolButton*>()) {
+                    key->setFocus();
+                    const QRect place(key->mapTo(area.viewport(), QPoint(0, 0)), key->size());
+                    EXPECT_TRUE(area.viewport()->rect().contains(place)) << qPrintable(key->text());
+                }
+                EXPECT_EQ(area.verticalScrollBar()->maximum(), 0) << "all rows are seen at once";
+            }
+        }
+        QCoreApplication::removeTranslator(&translator);
+    }
+}
+
+TEST_F(KeySet, needsNoScrollingWhereThereIsRoom)
+{
+    for (const int points : {8, 10, 14, 18}) {
+        QVKeySetClass dialog;
+        QFont font = QApplication::font();
+        font.setPointSize(points);
+        dialog.setFont(font);
+        dialog.fitInto({4000, 2000});
+        dialog.show();
+        QCoreApplication::processEvents();
+        const auto& area = *dialog.findChild<QScrollArea*>();
+        EXPECT_EQ(area.horizontalScrollBar()->maximum(), 0) << points;
+        EXPECT_EQ(area.verticalScrollBar()->maximum(), 0) << points;
+        EXPECT_LT(dialog.width(), 200 * points) << "and takes no more than it needs";
     }
 }
 
