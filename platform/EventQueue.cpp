@@ -80,9 +80,7 @@ bool EventQueue::eventFilter(QObject* watched, QEvent* event)
     case QEvent::TabletMove:
     case QEvent::TabletRelease:
         // Not every tablet's driver tells of a pen before the pen does something.
-        if (!mInReach || !isSameDevice(*mInReach, proximityEvent(tablet(), true))) {
-            noteProximity(tablet(), true);
-        }
+        noteAnyPen(tablet());
         break;
     default:
         break;
@@ -92,13 +90,17 @@ bool EventQueue::eventFilter(QObject* watched, QEvent* event)
 
 void EventQueue::noteProximity(const QTabletEvent& tablet, bool isEntering)
 {
-    const Event event = proximityEvent(tablet, isEntering);
-    if (isEntering) {
-        mInReach = event;
-    } else if (mInReach && isSameDevice(*mInReach, event)) {
-        mInReach.reset();
+    enqueue({nullptr, proximityEvent(tablet, isEntering)});
+}
+
+void EventQueue::noteAnyPen(const QTabletEvent& tablet)
+{
+    const Event event = proximityEvent(tablet, true);
+    const bool isIdle = mQueue.empty() && mParked.empty();
+    const std::optional<Event>& last = isIdle ? mInReach : mLastInQueue;
+    if (!last || !isSameDevice(*last, event)) {
+        enqueue({nullptr, event, true});
     }
-    enqueue({nullptr, event});
 }
 
 void EventQueue::post(PenView& view, const Event& event)
@@ -153,7 +155,11 @@ void EventQueue::enqueue(Waiting waiting)
         event.type = EventType::LeftMouseDown; // it has pressed before it left, or elsewhere
     }
     mQueue.push_back(waiting);
-    if (event.type == EventType::LeftMouseDown
+    if (event.type == EventType::TabletProximity) {
+        mLastInQueue = event.isEnteringProximity ? std::optional(event) : std::nullopt;
+    }
+    // A drag whose press was elsewhere is one too, of which somebody may await the end.
+    if (event.type == EventType::LeftMouseDown || event.type == EventType::LeftMouseDragged
         || (mStroke && event.type != EventType::TabletProximity)) {
         mStroke = waiting;
     }
@@ -211,10 +217,13 @@ void EventQueue::dispatch()
     }
 }
 
-void EventQueue::deliver(const Waiting& waiting) const
+void EventQueue::deliver(const Waiting& waiting)
 {
     if (waiting.event.type == EventType::TabletProximity) {
-        deliverProximity(waiting.event);
+        const bool isNews = !mInReach || !isSameDevice(*mInReach, waiting.event);
+        if (isNews || !waiting.isGuess) {
+            deliverProximity(waiting.event);
+        }
         return;
     }
     switch (waiting.event.type) {
@@ -238,11 +247,16 @@ void EventQueue::deliver(const Waiting& waiting) const
     }
 }
 
-void EventQueue::deliverProximity(const Event& event) const
+void EventQueue::deliverProximity(const Event& event)
 {
     const auto responder = std::find_if(mResponders.rbegin(), mResponders.rend(),
         [](const ProximityResponder* candidate) { return candidate->mWidget.isVisible(); });
     if (responder != mResponders.rend()) {
+        if (event.isEnteringProximity) {
+            mInReach = event;
+        } else if (mInReach && isSameDevice(*mInReach, event)) {
+            mInReach.reset();
+        }
         (*responder)->tabletProximity(std::make_shared<const Event>(event));
     }
 }

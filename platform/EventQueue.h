@@ -47,7 +47,8 @@ private:
  * The events of pens and mouse on their way to the views: in their order, and in well-formed
  * strokes.
  *
- * A stroke is a press, what the same device does then, and its release. What other devices do
+ * A stroke is a press, what the same device does then, and its release; a mouse may have pressed
+ * elsewhere. What other devices do
  * meanwhile waits for its end, so that strokes never mix. A release that never came is made up when
  * the device leaves, presses again or moves without its button, and when the view is hidden or
  * gone.
@@ -86,6 +87,7 @@ private:
     struct Waiting {
         PenView* view; ///< null for TabletProximity
         Event event;
+        bool isGuess = false; ///< a coming that no driver has told, but that follows from the rest
     };
 
     EventQueue();
@@ -93,14 +95,17 @@ private:
     void enqueue(Waiting waiting);
     void release();
     void dispatch();
-    void deliver(const Waiting& waiting) const;
-    void deliverProximity(const Event& event) const;
+    void deliver(const Waiting& waiting);
+    void deliverProximity(const Event& event);
     void noteProximity(const QTabletEvent& tablet, bool isEntering);
+    void noteAnyPen(const QTabletEvent& tablet);
 
     std::deque<Waiting> mQueue;
     std::deque<Waiting> mParked; ///< of other devices than the stroke's
     std::optional<Waiting> mStroke; ///< the last event of a stroke that has no release yet
-    std::optional<Event> mInReach; ///< the pen that was last said to be in reach
+    std::optional<Event> mInReach; ///< the pen of which a responder was told last
+    std::optional<Event>
+        mLastInQueue; ///< the pen that is in reach when all in mQueue is handed over
     PenView* mTracking = nullptr;
     std::vector<ProximityResponder*> mResponders;
     QTimer mHandOver;

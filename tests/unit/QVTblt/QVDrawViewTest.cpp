@@ -230,6 +230,64 @@ TEST_F(DrawingPad, atSteadyPressureTheWidthRisesFromRestAndTheHistoryEndsWithThe
             pen().move(QPointF(13 + 0.1 * i, 10), 1);
         }
         PenInput::deliver();
+TEST_F(DrawingPad, anEraserThatHoversWhileThePenIsDownDoesNotStick)
+{
+    useFixedWidth();
+    PenInput eraser(pad(), 88, PenInput::End::Eraser);
+    pen().press({50, 50}, 1);
+    PenInput::deliver();
+    eraser.hover({300, 250});
+    pen().move({150, 50}, 1);
+    PenInput::deliver();
+    pen().release({150, 50});
+    PenInput::deliver();
+    EXPECT_TRUE(pad().isErasing()) << "the eraser was the last that came";
+    pen().press({50, 150}, 1);
+    pen().move({150, 150}, 1);
+    pen().release({150, 150});
+    PenInput::deliver();
+    EXPECT_FALSE(pad().isErasing());
+    EmptyPad expected(pad());
+    paintStep(expected.painter, {50, 50}, {150, 50}, 25);
+    paintStep(expected.painter, {50, 150}, {150, 150}, 25);
+    expectShown(expected);
+}
+
+TEST_F(DrawingPad, anEraserThatHoversDoesNotStickEvenWhenAllArrivesTogether)
+{
+    useFixedWidth();
+    PenInput eraser(pad(), 88, PenInput::End::Eraser);
+    pen().press({50, 50}, 1);
+    eraser.hover({300, 250});
+    eraser.hover({301, 250});
+    pen().move({150, 50}, 1);
+    pen().release({150, 50});
+    pen().press({50, 150}, 1);
+    pen().move({150, 150}, 1);
+    pen().release({150, 150});
+    PenInput::deliver();
+    EXPECT_FALSE(pad().isErasing());
+    EmptyPad expected(pad());
+    paintStep(expected.painter, {50, 50}, {150, 50}, 25);
+    paintStep(expected.painter, {50, 150}, {150, 150}, 25);
+    expectShown(expected);
+}
+
+TEST_F(DrawingPad, anEraserThatCameWhileThePaneWasHiddenErasesFromItsFirstEventOn)
+{
+    pen().hover({5, 5});
+    PenInput::deliver();
+    leave();
+    PenInput eraser(pad(), 77, PenInput::End::Eraser);
+    eraser.enter();
+    PenInput::deliver();
+    EXPECT_FALSE(pad().isErasing());
+    show();
+    eraser.hover({5, 5});
+    PenInput::deliver();
+    EXPECT_TRUE(pad().isErasing());
+}
+
         EXPECT_EQ(raw(), QStringLiteral("65535"));
         pen().release({213, 10});
         PenInput::deliver();
