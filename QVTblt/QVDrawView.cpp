@@ -5,6 +5,7 @@
 #include "QVNSView.h"
 
 #include <QLabel>
+#include <QLocale>
 #include <QPainterPath>
 
 #include <algorithm>
@@ -37,6 +38,16 @@ constexpr Qt::GlobalColor kGround = Qt::lightGray;
 bool isSame(const QPointF& one, const QPointF& other)
 {
     return one.x() == other.x() && one.y() == other.y();
+}
+
+/** A number with as many of two decimals as it has, in the locale's form, in one piece. */
+QString decimals(double number)
+{
+    constexpr double kHundred = 100;
+    QLocale locale;
+    locale.setNumberOptions(locale.numberOptions() | QLocale::OmitGroupSeparator);
+    return locale.toString(
+        std::round(number * kHundred) / kHundred, 'f', QLocale::FloatingPointShortest);
 }
 
 } // namespace
@@ -218,7 +229,7 @@ void QVDrawView::handleMouseEvent(const Event& event)
 
 void QVDrawView::showPressure(float pressure)
 {
-    txtRawTabletPressure->setText(QString::number(std::lround(pressure * kRawPressure)));
+    txtRawTabletPressure->setText(decimals(pressure * kRawPressure));
     mShownPressure = pressure;
     contentsChanged();
 }

@@ -23,7 +23,7 @@ class QVDrawView final : public platform::PenView {
 public:
     explicit QVDrawView(QWidget* parent = nullptr);
 
-    /** Connects what shows the pressure, 0 to 65535; before awakeFromNib(). */
+    /** Connects what shows the pressure, 0 to 65535 with two decimals; before awakeFromNib(). */
     void setOutlets(QLabel* rawTabletPressure);
     /** The interface file has been loaded. */
     void awakeFromNib();
