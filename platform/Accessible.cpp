@@ -14,9 +14,9 @@ namespace {
 constexpr int kPause = 500; ///< milliseconds between two messages
 
 /** Of a widget that is just being destroyed, Accessible has gone already. */
-const Accessible* accessibleOf(const QWidget* widget)
+Accessible* accessibleOf(QWidget* widget)
 {
-    return dynamic_cast<const Accessible*>(widget);
+    return dynamic_cast<Accessible*>(widget);
 }
 
 class Interface final : public QAccessibleWidget {
@@ -50,8 +50,8 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 {
     static_cast<void>(className);
     auto* const widget = qobject_cast<QWidget*>(object);
-    const Accessible* const accessible = accessibleOf(widget);
-    return accessible == nullptr ? nullptr : new Interface(widget, accessible->role());
+    Accessible* const accessible = accessibleOf(widget);
+    return accessible == nullptr ? nullptr : accessible->newInterface();
 }
 
 } // namespace
@@ -139,6 +139,11 @@ QString Accessible::spokenName() const
 QString Accessible::spokenContents() const
 {
     return {};
+}
+
+QAccessibleInterface* Accessible::newInterface()
+{
+    return new Interface(&mWidget, mRole);
 }
 
 void Accessible::contentsChanged()

@@ -43,6 +43,9 @@ public:
      */
     void contentsChanged();
 
+    /** What Qt shows to screen readers of the widget, which owns it from then on. */
+    virtual QAccessibleInterface* newInterface();
+
 private:
     class Notice;
 
