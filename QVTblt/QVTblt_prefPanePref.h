@@ -14,10 +14,16 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 class QVKeyComboBox;
 class QVKeySetClass;
+
+namespace platform {
+struct Event;
+struct Notification;
+} // namespace platform
 
 /** The module's own bundle: strings and pictures are looked up here, never in the host's. */
 extern platform::Bundle rzkBundle;
@@ -85,6 +91,10 @@ public:
     /** The text of a slot's key combination, whether or not the slot is one. @param keyNo 0 to 17
      */
     QString GetSubKeyString(std::int32_t keyNo) const;
+
+    /** The pen's coming and going is the views' alone. */
+    void tabletProximity(const std::shared_ptr<const platform::Event>& /*event*/) { }
+    void handleProximity(const platform::Notification& /*notification*/) { }
 
 private:
     QWidget* makeMainView() override;

@@ -5,8 +5,10 @@
 #include "PaneTest.h"
 #include "PenInput.h"
 #include "QVCalibrateWin.h"
+#include "QVDrawView.h"
 
 #include <QCheckBox>
+#include <QLabel>
 #include <QTabWidget>
 #include <QTest>
 
@@ -83,6 +85,29 @@ TEST_F(Proximity, isPostedByTheCalibrationWindowWhileItIsOpen)
     PenInput::deliver();
     ASSERT_EQ(mPosted.size(), 2U);
     EXPECT_EQ(mPosted[1].object, mWindow.get());
+}
+
+TEST_F(Proximity, reachesBothViewsOfThePenPageByOneNotification)
+{
+    auto& pages = outlet<QTabWidget>("tabView");
+    pages.setCurrentWidget(&outlet<QWidget>("penPage"));
+    PenInput eraser(*mWindow, 4711, PenInput::End::Eraser);
+    eraser.enter();
+    PenInput::deliver();
+    ASSERT_EQ(mPosted.size(), 1U);
+    EXPECT_TRUE(outlet<QVDrawView>("mDrawView").isErasing());
+    EXPECT_EQ(outlet<QLabel>("mPenID").text(), QStringLiteral("Eraser, serial number 4711"));
+}
+
+TEST_F(Proximity, isNothingToThePaneItself)
+{
+    const tagQVTabletInfo before = qvTabletInfo;
+    mEvents.sent.clear();
+    mPane.tabletProximity(std::make_shared<const platform::Event>());
+    mPane.handleProximity({kProximityNotification, mWindow.get(), {}});
+    EXPECT_TRUE(mPosted.empty());
+    EXPECT_TRUE(mEvents.sent.empty());
+    EXPECT_EQ(std::memcmp(&before, &qvTabletInfo, sizeof before), 0);
 }
 
 TEST_F(Proximity, isNotPostedWhileThePaneIsHidden)
