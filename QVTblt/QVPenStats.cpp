@@ -23,7 +23,8 @@ QString textOf(const QVDrawView::Stats& stats)
         QVPenStats::tr("Tilt %1° right, %2° down")
             .arg(rounded(stats.mTiltX), rounded(stats.mTiltY)),
         QVPenStats::tr("Rotation %1°").arg(rounded(stats.mRotDeg)),
-        QVPenStats::tr("At %1, %2 of the desktop").arg(stats.mAbsX).arg(stats.mAbsY),
+        QVPenStats::tr("At %1, %2 of the desktop")
+            .arg(QString::number(stats.mAbsX), QString::number(stats.mAbsY)),
     };
     if (stats.mDeviceID != 0) {
         parts.append(QVPenStats::tr("Pen number %1").arg(stats.mDeviceID));
