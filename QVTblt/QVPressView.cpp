@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "QVPressView.h"
 
+#include "ChoiceSlider.h"
 #include "Client.h"
 #include "QVNSView.h"
 #include "rzkApplication.h"
@@ -9,7 +10,6 @@
 #include <QLabel>
 #include <QPainterPath>
 #include <QSignalBlocker>
-#include <QSlider>
 
 namespace {
 
@@ -26,6 +26,16 @@ QString nameOf(const platform::Event& pen)
         .arg(pen.uniqueID);
 }
 
+/** A line a point wide that ends where its path does. */
+void strokeLine(QPainter& painter, const QPainterPath& path)
+{
+    constexpr double kLongestMitre = 10; // in widths; sharper corners are cut off
+    QPen pen(Qt::black, 1, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
+    pen.setMiterLimit(kLongestMitre);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(path, pen);
+}
+
 } // namespace
 
 QVPressView::QVPressView(QWidget* parent)
@@ -34,10 +44,12 @@ QVPressView::QVPressView(QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent); // nothing shows through its ground
 }
 
-void QVPressView::setOutlets(QSlider* slider, QLabel* penID)
+void QVPressView::setOutlets(platform::ChoiceSlider* slider, QLabel* penID)
 {
     mSlider = slider;
     mPenID = penID;
+    mSlider->setStored(
+        [](int value) { return value / kSliderSteps == GetqvTabletInfo()->Pen.PressureThreshold; });
 }
 
 void QVPressView::awakeFromNib()
@@ -58,13 +70,11 @@ QString QVPressView::spokenContents() const
 {
     const int threshold = GetqvTabletInfo()->Pen.PressureThreshold;
     // Points of the curve's width and height, of which 200 are all.
-    const auto percentAt = [threshold](int j) { return QVPressHeight(threshold, j) / 2; };
+    const auto percentAt = [threshold](
+                               int j) { return QString::number(QVPressHeight(threshold, j) / 2); };
     return tr("Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % "
               "at a quarter of it, %3 % at half and %4 % at three quarters.")
-        .arg(threshold)
-        .arg(percentAt(50))
-        .arg(percentAt(100))
-        .arg(percentAt(150));
+        .arg(QString::number(threshold), percentAt(50), percentAt(100), percentAt(150));
 }
 
 void QVPressView::drawRect(QPainter& painter, const platform::Rect& dirty)
@@ -73,22 +83,38 @@ void QVPressView::drawRect(QPainter& painter, const platform::Rect& dirty)
     const platform::Rect all = bounds();
     painter.fillRect(QRectF(all.x, all.y, all.width, all.height), Qt::lightGray);
     platform::frameRect(painter, dirty);
+    QPainterPath path;
+    if (mRedraw == 0) {
+        mFirstLoc = QPointF(dirty.x, dirty.y);
+        mLastLoc = mFirstLoc + QPointF(dirty.width, dirty.height);
+        path.moveTo(mFirstLoc);
+        path.lineTo(mLastLoc);
+        strokeLine(painter, path);
+    }
     SetPoint(threshold);
-    DrawPressLine(painter);
+    DrawPressLine(painter, path);
     const QSignalBlocker blocker(mSlider); // the record is as it is
     mSlider->setValue(threshold * kSliderSteps);
 }
 
-void QVPressView::DrawPressLine(QPainter& painter) const
+void QVPressView::DrawPressLine(QPainter& painter, QPainterPath& path) const
 {
     // The curve ends a point before the upper right corner.
-    QPainterPath path;
     path.moveTo(m_pt[0].x, m_pt[0].y);
     for (std::size_t i = 0; i + 1 < m_pt.size(); ++i) {
         path.lineTo(m_pt[i].x, m_pt[i].y);
     }
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(path, QPen(Qt::black, 1));
+    strokeLine(painter, path);
+}
+
+void QVPressView::InitPoint()
+{
+    for (std::size_t i = 0; i < m_pt.size(); ++i) {
+        const auto x = static_cast<double>(i);
+        m_pt[i] = {x, static_cast<double>(m_pt.size()) - x};
+    }
+    m_pt.front() = {0, 0};
+    m_pt.back() = {static_cast<double>(m_pt.size()), static_cast<double>(m_pt.size())};
 }
 
 void QVPressView::SetPoint(int value)
@@ -99,6 +125,10 @@ void QVPressView::SetPoint(int value)
 void QVPressView::AdjustPressLine(const QSlider* sender)
 {
     const int threshold = sender->value() / kSliderSteps; // cut off toward zero
+    const platform::Rect all = bounds();
+    mRedraw = 1;
+    mFirstLoc = QPointF(static_cast<double>(sender->value()) / kSliderSteps + all.x, all.y);
+    mLastLoc = QPointF(all.x + all.width, all.y + all.height);
     SetPoint(threshold);
     setNeedsDisplay();
     GetqvTabletInfo()->Pen.PressureThreshold = static_cast<std::int16_t>(threshold);

@@ -6,8 +6,17 @@
 #include "PaneView.h"
 #include "QVPressCurve.h"
 
+#include <QPointF>
+
+#include <cstdint>
+
 class QLabel;
+class QPainterPath;
 class QSlider;
+
+namespace platform {
+class ChoiceSlider;
+}
 
 /**
  * The pen's pressure curve: how hard one presses to the right, what programs receive upwards. It is
@@ -20,7 +29,7 @@ public:
     explicit QVPressView(QWidget* parent = nullptr);
 
     /** Connects the slider, which carries tenths, and what names the pen; before awakeFromNib(). */
-    void setOutlets(QSlider* slider, QLabel* penID);
+    void setOutlets(platform::ChoiceSlider* slider, QLabel* penID);
     /** The interface file has been loaded. */
     void awakeFromNib();
 
@@ -28,6 +37,8 @@ public:
     void AdjustPressLine(const QSlider* sender);
     /** Computes the curve of a threshold. */
     void SetPoint(int value);
+    /** Computes a falling line as the curve; nothing here asks for it. */
+    void InitPoint();
 
     /** The curve at three places. */
     QString spokenContents() const override;
@@ -39,9 +50,16 @@ protected:
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
 
 private:
-    void DrawPressLine(QPainter& painter) const;
+    friend struct PressViewAccess; ///< of the tests: what nothing here reaches
 
+    /** Adds the curve to a path and strokes it. */
+    void DrawPressLine(QPainter& painter, QPainterPath& path) const;
+
+    // A line across what is drawn, in points, for as long as mRedraw is 0, which it never is.
+    QPointF mFirstLoc;
+    QPointF mLastLoc;
+    std::uint8_t mRedraw = 1;
     std::array<QVPoint, kQVCurvePoints> m_pt{};
-    QSlider* mSlider = nullptr;
+    platform::ChoiceSlider* mSlider = nullptr;
     QLabel* mPenID = nullptr;
 };

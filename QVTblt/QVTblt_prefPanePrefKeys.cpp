@@ -156,6 +156,9 @@ void moveColumn(
 
 void QVTblt_prefPanePref::setUpKeyPage()
 {
+    // What was of another main view is gone with it.
+    mEnabledAtFirst.clear();
+    mLaidOutProduct.reset();
     keyCanvas->takePlaces();
     keyFrame_org = platform::frame(*mKey1_1);
     keyFrame_org_scroll_l = platform::frame(*mKeyLScroll);
@@ -180,6 +183,7 @@ void QVTblt_prefPanePref::setUpKeyPage()
         // Screen readers toggle a box without a click.
         connect(box, &QCheckBox::toggled, this, &QVTblt_prefPanePref::SelectScroll);
     }
+    mScrollSpeed->setStored([](int value) { return value == qvTabletInfo.Key.ScrollSpeed; });
     connect(mScrollSpeed, &QSlider::valueChanged, this, [this] { ScrollSpeed(mScrollSpeed); });
 }
 

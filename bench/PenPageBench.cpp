@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
+#include "ChoiceSlider.h"
 #include "Paired.h"
 #include "QVDrawView.h"
 #include "QVPressView.h"
@@ -9,7 +10,6 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
-#include <QSlider>
 
 #include <vector>
 
@@ -103,7 +103,7 @@ BENCHMARK(drawSteps)->Iterations(kBatches)->UseManualTime();
 /** Floor: the curve's path, known already, is painted on a ground with a frame, and copied. */
 void redrawCurve(benchmark::State& state)
 {
-    QSlider slider;
+    platform::ChoiceSlider slider;
     slider.setMaximum(2000);
     QLabel penID;
     QVPressView view;

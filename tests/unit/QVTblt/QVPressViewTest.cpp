@@ -10,12 +10,24 @@
 #include "QVNSView.h"
 #include "SameImage.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPainterPath>
 #include <QPushButton>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTest>
+#include <QWheelEvent>
+
+#include <functional>
+
+/** What of a view nothing in the panel reaches. */
+struct PressViewAccess {
+    static auto& curve(const QVPressView& view) { return view.m_pt; }
+    static auto& redraw(QVPressView& view) { return view.mRedraw; }
+    static QPointF first(const QVPressView& view) { return view.mFirstLoc; }
+    static QPointF last(const QVPressView& view) { return view.mLastLoc; }
+};
 
 namespace {
 
@@ -69,7 +81,9 @@ TEST_F(PressurePage, drawsTheCurveInItsFrame)
         for (int j = 1; j <= 198; ++j) {
             path.lineTo(j, QVPressHeight(threshold, j));
         }
-        expected.painter.strokePath(path, QPen(Qt::black, 1));
+        QPen pen(Qt::black, 1, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
+        pen.setMiterLimit(10);
+        expected.painter.strokePath(path, pen);
         expected.painter.end();
         expectSameImage(drawWith(threshold), expected.image);
     }
@@ -92,6 +106,9 @@ TEST_F(PressurePage, endsTheCurveBeforeTheUpperRightCorner)
     };
     EXPECT_NE(at(190.2, 190.2), QColor(Qt::lightGray));
     EXPECT_EQ(at(198.5, 196.0), QColor(Qt::lightGray));
+    // On the line on, where its last segment would be.
+    EXPECT_NE(at(197.4, 197.4), QColor(Qt::lightGray));
+    EXPECT_EQ(at(198.4, 198.4), QColor(Qt::lightGray));
 }
 
 TEST_F(PressurePage, theSliderInTenthsStoresWholes)
@@ -141,6 +158,96 @@ TEST_F(PressurePage, theKeyboardMovesByWholesAndTens)
     EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 0);
     QTest::keyClick(&slider(), Qt::Key_End);
     EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 200);
+}
+
+TEST_F(PressurePage, theSlidersEndsAreChosenForThresholdsBeyondThem)
+{
+    struct End {
+        int stored;
+        Qt::Key key;
+        int chosen;
+    };
+    const auto expectChosen = [this](const End& end, const std::function<void()>& act) {
+        drawWith(end.stored);
+        ASSERT_EQ(slider().value(), end.chosen * 10);
+        mEvents.sent.clear();
+        act();
+        EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, end.chosen);
+        ASSERT_EQ(pushes().size(), 1U);
+        EXPECT_EQ(+pushes().front().Pen.PressureThreshold, end.chosen);
+        view().grab();
+        act();
+        EXPECT_EQ(pushes().size(), 1U) << "it is stored already";
+    };
+    for (const End& end : {End{300, Qt::Key_End, 200}, End{-5, Qt::Key_Home, 0}}) {
+        SCOPED_TRACE(end.stored);
+        expectChosen(end, [&] { QTest::keyClick(&slider(), end.key); });
+        expectChosen(end, [&] { // on the handle
+            const int x = end.chosen == 0 ? 5 : slider().width() - 5;
+            QTest::mouseClick(&slider(), Qt::LeftButton, {}, {x, slider().height() / 3});
+        });
+        expectChosen(end, [&] { // as a screen reader sets it
+            QAccessibleInterface* const heard = QAccessible::queryAccessibleInterface(&slider());
+            ASSERT_NE(heard, nullptr);
+            ASSERT_NE(heard->valueInterface(), nullptr);
+            heard->valueInterface()->setCurrentValue(end.chosen * 10);
+        });
+    }
+    drawWith(300);
+    mEvents.sent.clear();
+    QTest::keyClick(&slider(), Qt::Key_Left);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 199);
+    EXPECT_EQ(pushes().size(), 1U);
+}
+
+TEST_F(PressurePage, theWheelDoesNothingToASliderWithoutFocus)
+{
+    drawWith(100);
+    mEvents.sent.clear();
+    outlet<QTabWidget>("tabView").setFocus();
+    const QPoint at(10, 10);
+    QWheelEvent event(at, slider().mapToGlobal(at), {}, QPoint(0, -120), Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&slider(), &event);
+    EXPECT_EQ(slider().value(), 1000);
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(PressurePage, hasACurveForTheBeginningThatFalls)
+{
+    view().InitPoint();
+    const auto& curve = PressViewAccess::curve(view());
+    EXPECT_EQ(curve[0].x, 0);
+    EXPECT_EQ(curve[0].y, 0);
+    for (std::size_t i = 1; i < 199; ++i) {
+        EXPECT_EQ(curve[i].x, static_cast<double>(i));
+        EXPECT_EQ(curve[i].y, 200.0 - static_cast<double>(i));
+    }
+    EXPECT_EQ(curve[199].x, 200);
+    EXPECT_EQ(curve[199].y, 200);
+}
+
+TEST_F(PressurePage, drawsALineAcrossForAsLongAsItIsSaidNotToBeRedrawn)
+{
+    const QImage without = drawWith(200);
+    PressViewAccess::redraw(view()) = 0;
+    const QImage with = drawWith(200);
+    const double density = view().devicePixelRatioF();
+    const auto at = [density](const QImage& image, double x, double y) {
+        return image.pixelColor(
+            static_cast<int>(x * density), static_cast<int>((200 - y) * density));
+    };
+    EXPECT_EQ(at(without, 100.2, 100.2), QColor(Qt::lightGray));
+    EXPECT_NE(at(with, 100.2, 100.2), QColor(Qt::lightGray));
+    EXPECT_EQ(PressViewAccess::first(view()), QPointF(0, 0));
+    EXPECT_EQ(PressViewAccess::last(view()), QPointF(200, 200));
+
+    // The slider's action redraws again, and says where the line would go.
+    slider().setValue(505);
+    EXPECT_EQ(+PressViewAccess::redraw(view()), 1);
+    EXPECT_EQ(PressViewAccess::first(view()), QPointF(50.5, 0));
+    EXPECT_EQ(PressViewAccess::last(view()), QPointF(200, 200));
+    expectSameImage(drawWith(200), without);
 }
 
 TEST_F(PressurePage, followsTheFileAfterCancel)

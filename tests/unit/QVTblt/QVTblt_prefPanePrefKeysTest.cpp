@@ -383,6 +383,26 @@ TEST_F(KeyPage, layoutHDisablesAllKeys)
     EXPECT_FALSE(enabled("mScrollSpeed"));
 }
 
+TEST_F(KeyPage, everyKeyThatIsShownCanBeUsedInLayoutsAAndCToG)
+{
+    // Hidden boxes stay enabled too, but for those of layout E.
+    for (const std::uint16_t product :
+        {kProductA, kProductC, kProductD, kProductE, kProductFLite, kProductF, kProductG}) {
+        showProduct(product);
+        for (int i = 0; i < 16; ++i) {
+            const bool isDisabled = product == kProductE && i >= 5 && i < 8;
+            EXPECT_EQ(box(i).isEnabled(), !isDisabled) << std::hex << product << ' ' << i;
+        }
+        EXPECT_TRUE(enabled("penKeyUpper")) << std::hex << product;
+        EXPECT_TRUE(enabled("mKeyLScroll")) << std::hex << product;
+        const bool hasStrip = product == kProductA || product == kProductG;
+        EXPECT_EQ(enabled("mScrollSpeed"), hasStrip) << std::hex << product;
+        const bool hasLower = hasStrip || product == kProductF;
+        EXPECT_EQ(enabled("penKeyLower"), hasLower) << std::hex << product;
+        leave();
+    }
+}
+
 TEST_F(KeyPage, laidOutTwiceMovesTheFirstKeyTwice)
 {
     setProduct(kProductC);
@@ -626,6 +646,14 @@ TEST_F(KeyPage, theCombinationsTextDoesNotLookAtTheKind)
     EXPECT_TRUE(sameBytes(qvTabletInfo, before));
 }
 
+TEST_F(KeyPage, aCodeThatFollowsNothingIsNoCombinationUnlessItsCountSaysSo)
+{
+    qvTabletInfo.Key.SubKey[5].Key = 0x00000600;
+    EXPECT_EQ(mPane.GetSubKeyString(5), QString()) << "first byte and count are 0";
+    qvTabletInfo.Key.SubKey[5].Key = 0x01060000;
+    EXPECT_EQ(mPane.GetSubKeyString(5), QStringLiteral("A")) << "the second byte ends it";
+}
+
 TEST_F(KeyPage, everyCombinationIsShownWithoutHarm)
 {
     show();
@@ -646,14 +674,6 @@ TEST_F(KeyPage, aPathWithoutItsNulIsReadToTheFieldsEndOnly)
     tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
     key.Valid = 2;
     key.App.fill('x');
-TEST_F(KeyPage, aCodeThatFollowsNothingIsNoCombinationUnlessItsCountSaysSo)
-{
-    qvTabletInfo.Key.SubKey[5].Key = 0x00000600;
-    EXPECT_EQ(mPane.GetSubKeyString(5), QString()) << "first byte and count are 0";
-    qvTabletInfo.Key.SubKey[5].Key = 0x01060000;
-    EXPECT_EQ(mPane.GetSubKeyString(5), QStringLiteral("A")) << "the second byte ends it";
-}
-
     qvTabletInfo.Key.SubKey[3].Valid = 0x7979;
     mPane.InitSingleComboBoxWithKey(&box(2), 2);
     EXPECT_EQ(box(2).currentText(), QString(256, u'x'));
@@ -762,6 +782,43 @@ TEST_F(KeyPage, anApplicationIsStoredShownAndPushedTwice)
     }
     EXPECT_EQ(box(3).currentIndex(), 5);
     EXPECT_EQ(box(3).currentText(), *mPanel.path);
+}
+
+TEST_F(KeyPage, anApplicationIsCommittedByTheNextShowingNotByTheChoice)
+{
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = 4; });
+    show();
+    mPanel.path = QStringLiteral("/a.app");
+    choose(box(3), 5);
+    EXPECT_EQ(box(3).maxVisibleItems(), 107);
+    leave();
+    show();
+    EXPECT_EQ(box(3).maxVisibleItems(), 105);
+}
+
+TEST_F(KeyPage, aCancelledChooserCommitsWhatTheRecordHas)
+{
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = 4; });
+    show();
+    choose(box(3), 9); // not committed, but in the record
+    EXPECT_EQ(box(3).maxVisibleItems(), 107);
+    choose(box(3), 5);
+    EXPECT_EQ(box(3).currentIndex(), 9);
+    EXPECT_EQ(box(3).maxVisibleItems(), 109);
+}
+
+TEST_F(KeyPage, aDialogCancelledAfterAnApplicationGoesBackToTheCommittedItem)
+{
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = 5; });
+    show();
+    mPanel.path = QStringLiteral("/a.app");
+    choose(box(3), 5);
+    const std::size_t before = pushes().size();
+    chooseKeys(box(3), [](QVKeySetClass& dialog) { click(dialog, {"keyB", "cancelBtn"}); });
+    EXPECT_EQ(box(3).currentIndex(), 8);
+    EXPECT_EQ(box(3).itemText(5), QStringLiteral("/a.app"));
+    EXPECT_EQ(+slot(3).Valid, 2) << "the record keeps the application";
+    EXPECT_EQ(pushes().size(), before);
 }
 
 TEST_F(KeyPage, aCancelledChooserShowsTheRecordAgainAndStillPushes)
@@ -933,6 +990,65 @@ TEST_F(KeyPage, theSlidersValueIsPushedAtOnce)
     QTest::keyClick(&slider, Qt::Key_Right);
     ASSERT_GE(pushes().size(), 1U);
     EXPECT_EQ(+pushes().back().Key.ScrollSpeed, 5);
+}
+
+TEST_F(KeyPage, theSlidersEndIsChosenForAValueBeyondItWithKeyboardAndMouse)
+{
+    auto& slider = outlet<QSlider>("mScrollSpeed");
+    const auto expectChosen = [&](const std::function<void()>& act) {
+        edit([](tagQVTabletInfo& record) {
+            record.Basic.ProductID = kProductG;
+            record.Key.ScrollSpeed = 28;
+        });
+        show();
+        ASSERT_EQ(slider.value(), 10);
+        mEvents.sent.clear();
+        act();
+        EXPECT_EQ(slider.value(), 10);
+        EXPECT_EQ(+qvTabletInfo.Key.ScrollSpeed, 10);
+        ASSERT_EQ(pushes().size(), 1U);
+        EXPECT_EQ(+pushes().back().Key.ScrollSpeed, 10);
+        leave();
+    };
+    expectChosen([&] { QTest::keyClick(&slider, Qt::Key_End); });
+    expectChosen([&] {
+        const QPoint end(slider.width() - 2, slider.height() / 3);
+        QTest::mouseClick(&slider, Qt::LeftButton, {}, end);
+    });
+}
+
+TEST_F(KeyPage, theSlidersFirstValueCanBeChosenWhereTheLayoutDoesNotShowTheRecords)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Basic.ProductID = static_cast<std::int16_t>(kProductA);
+        record.Key.ScrollSpeed = 5;
+    });
+    show();
+    auto& slider = outlet<QSlider>("mScrollSpeed");
+    ASSERT_EQ(slider.value(), 1);
+    QTest::keyClick(&slider, Qt::Key_Home);
+    EXPECT_EQ(+qvTabletInfo.Key.ScrollSpeed, 1);
+    EXPECT_EQ(pushes().size(), 1U);
+    QTest::keyClick(&slider, Qt::Key_Home);
+    EXPECT_EQ(pushes().size(), 1U) << "it is 1 already";
+}
+
+TEST_F(KeyPage, servesAMainViewThatIsMadeAnew)
+{
+    showProduct(kProductC);
+    leave();
+    mWindow.reset();
+    mWindow.reset(mPane.loadMainView());
+    mFirst = frame("mKey1_1");
+    showProduct(kProductC);
+    EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x + 5, mFirst.y - 65, mFirst.width, mFirst.height}));
+    leave();
+    showProduct(kProductA); // which brings everything back to the interface file's state
+    EXPECT_EQ(frame("mKey1_1"), mFirst);
+    mEvents.sent.clear();
+    chooseKeys(box(2), [](QVKeySetClass& dialog) { click(dialog, {"keyB", "okBtn"}); });
+    EXPECT_EQ(+slot(2).Key, 0x0100000BU);
+    EXPECT_EQ(pushes().size(), 1U);
 }
 
 TEST_F(KeyPage, cancelPushesTheFileWhileTheBoxesKeepTheChoices)
