@@ -80,13 +80,30 @@ protected:
     }
 };
 
+QRect fieldOf(const QStyleOptionComboBox& option, const QWidget* box)
+{
+    return box->style()->subControlRect(
+        QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box);
+}
+
+/**
+ * By how much the text has to begin later, in pixels. Some styles give up their margins in a box
+ * that is as low as these, and the text would touch the frame.
+ */
+int missingMargin(const QStyleOptionComboBox& option, const QWidget* box)
+{
+    constexpr int kUsual = 4;
+    const QRect field = fieldOf(option, box);
+    const int margin = option.direction == Qt::RightToLeft ? option.rect.right() - field.right()
+                                                           : field.left() - option.rect.left();
+    return margin > 1 ? 0 : kUsual - margin;
+}
+
 /** Room for the text in the closed box, in pixels. */
 int textWidth(const QStyleOptionComboBox& option, const QWidget* box)
 {
     constexpr int kMargins = 4;
-    const QRect field = box->style()->subControlRect(
-        QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, box);
-    return field.width() - kMargins;
+    return fieldOf(option, box).width() - missingMargin(option, box) - kMargins;
 }
 
 bool isPrintable(const QKeyEvent& event)
@@ -169,6 +186,12 @@ void QVKeyComboBox::paintEvent(QPaintEvent* event)
     option.currentText = fontMetrics().elidedText(
         drawnText(option.currentText, currentIndex()), Qt::ElideMiddle, textWidth(option, this));
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const int missing = missingMargin(option, this);
+    if (option.direction == Qt::RightToLeft) {
+        option.rect.setRight(option.rect.right() - missing);
+    } else {
+        option.rect.setLeft(option.rect.left() + missing);
+    }
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
 }
 

@@ -4,6 +4,7 @@
 
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QProxyStyle>
 #include <QSignalSpy>
 #include <QStyleOption>
 #include <QStyledItemDelegate>
@@ -12,6 +13,8 @@
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -167,6 +170,48 @@ TEST_F(KeyBox, aTextThatFitsIsDrawnAsInAnyBox)
     plain.setFocusPolicy(mBox.focusPolicy());
     plain.resize(mBox.size());
     EXPECT_EQ(mBox.grab().toImage(), plain.grab().toImage());
+}
+
+TEST_F(KeyBox, keepsItsTextOffTheFrameWhereTheStyleHasNoMargin)
+{
+    /** As some styles are in low boxes. */
+    class TightStyle final : public QProxyStyle {
+    public:
+        QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+            SubControl part, const QWidget* widget) const override
+        {
+            if (control != CC_ComboBox || part != SC_ComboBoxEditField) {
+                return QProxyStyle::subControlRect(control, option, part, widget);
+            }
+            const QRect field = option->rect.adjusted(0, 0, -20, 0);
+            return visualRect(option->direction, option->rect, field);
+        }
+    } style;
+    mBox.setStyle(&style);
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        mBox.setLayoutDirection(direction);
+        const auto drawn = [this](const QString& text) {
+            mBox.replaceItem(QVKeyComboBox::Application, text);
+            return mBox.grab().toImage();
+        };
+        // Only the texts differ.
+        const QImage one = drawn(QStringLiteral("MMMM"));
+        const QImage other = drawn(QStringLiteral("...."));
+        int first = one.width();
+        int last = 0;
+        for (int x = 0; x < one.width(); ++x) {
+            for (int y = 0; y < one.height(); ++y) {
+                if (one.pixel(x, y) != other.pixel(x, y)) {
+                    first = std::min(first, x);
+                    last = x;
+                }
+            }
+        }
+        const int margin = direction == Qt::LeftToRight ? first : one.width() - 1 - last;
+        EXPECT_GE(margin, 4) << direction;
+        EXPECT_LE(margin, 10) << direction;
+    }
+    mBox.setStyle(nullptr);
 }
 
 TEST_F(KeyBox, otherKeysOpenNothing)
