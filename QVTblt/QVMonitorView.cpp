@@ -4,11 +4,14 @@
 
 #include "Client.h"
 #include "QVCalibrateWin.h"
+#include "QVPictureFile.h"
 #include "QVTblt_prefPanePref.h"
 #include "QVTruncate.h"
+#include "WheelGuard.h"
 #include "rzkApplication.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QFile>
 #include <QLoggingCategory>
 #include <QPainter>
@@ -93,14 +96,7 @@ QVMonitorView::QVMonitorView(QWidget* parent)
     : PaneView(parent)
     , pQVInfo(GetqvTabletInfo())
 {
-    const auto path =
-        rzkBundle.pathForResource(QStringLiteral("backgroundregion"), QStringLiteral("jpg"));
-    if (path) {
-        QFile file(*path);
-        if (file.open(QIODevice::ReadOnly)) {
-            mBackgroundFile = file.readAll();
-        }
-    }
+    readPicture();
     DisplayRegistrationCallBackSuccessful = platform::displays().registerReconfigurationCallback(
         DisplayRegisterReconfigurationCallback, this);
 }
@@ -113,6 +109,30 @@ QVMonitorView::~QVMonitorView()
     }
 }
 
+void QVMonitorView::readPicture()
+{
+    mIsDark = QVIsDark(palette());
+    mBackgroundImage = QImage();
+    mBackgroundFile.clear();
+    const auto path = QVPicturePath(
+        rzkBundle, QStringLiteral("backgroundregion"), QStringLiteral("jpg"), false, mIsDark);
+    if (path) {
+        QFile file(*path);
+        if (file.open(QIODevice::ReadOnly)) {
+            mBackgroundFile = file.readAll();
+        }
+    }
+}
+
+void QVMonitorView::changeEvent(QEvent* event)
+{
+    PaneView::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && QVIsDark(palette()) != mIsDark) {
+        readPicture();
+        setNeedsDisplay();
+    }
+}
+
 void QVMonitorView::setOutlets(
     QComboBox* displays, QComboBox* speed, QComboBox* useMode, QPushButton* calibrate)
 {
@@ -120,6 +140,11 @@ void QVMonitorView::setOutlets(
     mComboBoxSpeed = speed;
     mComboBoxUseMode = useMode;
     mDoCalibrate = calibrate;
+    for (QComboBox* const list : {displays, speed, useMode}) {
+        if (list != nullptr) {
+            platform::ignoreWheelWithoutFocus(*list);
+        }
+    }
     if (displays != nullptr) {
         connect(displays, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &QVMonitorView::updateCalibrate);

@@ -99,6 +99,8 @@ Q_SIGNALS:
     void displaysChanged();
 
 protected:
+    /** Light windows have a light picture, dark ones a dark one. */
+    void changeEvent(QEvent* event) override;
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
 
 private:
@@ -107,6 +109,7 @@ private:
 
     /** @param rect in points from the main display's lower left corner, y growing upwards */
     void CreateCalibrateWin(const platform::Rect& rect);
+    void readPicture();
     int chosenItem() const;
     void updateCalibrate();
     void setMappedArea(const platform::Rect& area);
@@ -122,6 +125,7 @@ private:
     QByteArray mBackgroundFile; ///< the picture's file until the view is drawn for the first time:
                                 ///< decoded, it takes 4 MiB, which most showings of the panel spare
     QImage mBackgroundImage;
+    bool mIsDark = false; ///< the picture
     bool DisplayRegistrationCallBackSuccessful = false;
     tagQVTabletInfo* pQVInfo;
     std::vector<platform::DisplayID> mDisplays;

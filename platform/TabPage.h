@@ -20,12 +20,12 @@ class TabPage final : public QWidget {
 
 public:
     static constexpr QSize kRoom{800, 450}; ///< what a hidden page would like, in points
-    static constexpr QSize kLeast{700, 400}; ///< what it needs, in points
+    static constexpr QSize kLeast{600, 300}; ///< what it needs, in points
 
     using QWidget::QWidget;
 
     QSize sizeHint() const override;
-    /** A hidden page needs kLeast: none gets much narrower than the others are. */
+    /** A hidden page needs kLeast: it adds nothing to what the page needs that is shown. */
     QSize minimumSizeHint() const override;
     bool hasHeightForWidth() const override;
     int heightForWidth(int width) const override;

@@ -10,11 +10,15 @@
 #include "QVTabletModels.h"
 
 #include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPushButton>
 #include <QTest>
+#include <QWheelEvent>
+
+#include <cmath>
 
 using platform::Rect;
 
@@ -722,6 +726,60 @@ TEST_F(DisplayPage, withoutItsPictureTheRestIsDrawn)
     EXPECT_EQ(drawn.pixelColor(240, 160), QColor(Qt::magenta));
     EXPECT_EQ(list.itemText(1), QStringLiteral("Monitor #1")) << "a missing text stands for itself";
     rzkBundle = bundle;
+}
+
+TEST_F(DisplayPage, darkWindowsHaveAGroundOnWhichBlackAndMagentaCanBeSeen)
+{
+    const auto luminance = [](const QColor& color) {
+        const auto linear = [](double part) {
+            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
+            + 0.0722 * linear(color.blueF());
+    };
+    const auto contrast = [&](const QColor& a, const QColor& b) {
+        const auto [less, more] = std::minmax(luminance(a), luminance(b));
+        return (more + 0.05) / (less + 0.05);
+    };
+    const QPoint onGround(560, 20);
+    const QPalette before = QApplication::palette();
+    const QColor light = draw().pixelColor(onGround * view().devicePixelRatioF());
+    QPalette dark = before;
+    dark.setColor(QPalette::Window, QColor(0x20, 0x23, 0x26));
+    view().setPalette(dark);
+    const QColor ground = view().grab().toImage().pixelColor(onGround * view().devicePixelRatioF());
+    EXPECT_LT(luminance(ground), luminance(light) / 2);
+    for (const QColor& paper : {light, ground}) {
+        EXPECT_GT(contrast(paper, Qt::black), 3);
+        EXPECT_GT(contrast(paper, Qt::magenta), 2);
+    }
+    view().setPalette(before);
+    EXPECT_EQ(draw().pixelColor(onGround * view().devicePixelRatioF()), light);
+}
+
+TEST_F(DisplayPage, theWheelTurnsItsListsOnlyWithTheFocus)
+{
+    mWindow->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mWindow.get()));
+    for (const char* const name : {"mComboBox", "mComboBoxSpeed", "mComboBoxUseMode"}) {
+        auto& box = outlet<QComboBox>(name);
+        box.setCurrentIndex(0);
+        const auto turn = [&box] {
+            const QPointF middle = QRectF(box.rect()).center();
+            QWheelEvent event(middle, box.mapToGlobal(middle.toPoint()), {}, {0, -120},
+                Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(&box, &event);
+        };
+        outlet<QWidget>("mMonitorView").setFocus();
+        turn();
+        EXPECT_EQ(box.currentIndex(), 0) << name;
+        EXPECT_FALSE(box.hasFocus()) << name;
+        EXPECT_TRUE(pushes().empty()) << name;
+        box.setFocus();
+        turn();
+        EXPECT_EQ(box.currentIndex(), 1) << name;
+        mEvents.sent.clear();
+    }
 }
 
 TEST_F(DisplayPage, itsPictureIsReadWhenItIsMade)

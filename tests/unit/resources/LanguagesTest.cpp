@@ -24,6 +24,7 @@
 #include <QLineEdit>
 #include <QRegularExpression>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QTabWidget>
 #include <QTextLayout>
@@ -370,6 +371,32 @@ TEST_P(Language, needsNoMoreRoomThanTheInterfaceFileHas)
         EXPECT_LE(least.width(), mInterfaceFile.width()) << page;
         EXPECT_LE(least.height(), mInterfaceFile.height()) << page;
     }
+}
+
+TEST_P(Language, showsTheWholeDisplayPageInTheRoomThatSystemSettingsLeaves)
+{
+    mPane.setButtonsShown(false);
+    show();
+    auto& tabs = outlet<QTabWidget>("tabView");
+    tabs.setCurrentWidget(&outlet<QWidget>("displayPage"));
+    const auto hiddenBy = [](const QScrollArea& area) {
+        return std::pair(
+            area.horizontalScrollBar()->maximum(), area.verticalScrollBar()->maximum());
+    };
+    const auto& picture = outlet<QScrollArea>("mMonitorScroll");
+    if (std::get<1>(GetParam()) != kUsualText) {
+        return;
+    }
+    mArea.resize(659, 562); // of a window of 930 by 650
+    settle();
+    EXPECT_EQ(hiddenBy(mArea), std::pair(0, 0));
+    EXPECT_EQ(hiddenBy(picture), std::pair(0, 0));
+    EXPECT_GE(picture.viewport()->height(), outlet<QWidget>("mMonitorView").height());
+    // Where there is less room, the picture alone scrolls.
+    mArea.resize(659, 440);
+    settle();
+    EXPECT_EQ(hiddenBy(mArea), std::pair(0, 0));
+    EXPECT_GT(hiddenBy(picture).second, 0);
 }
 
 TEST_P(Language, needsNoMoreRoomOnAPageThanThatAsksForWhileItIsHidden)
