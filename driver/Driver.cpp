@@ -17,6 +17,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <cstring>
 #include <utility>
 
 using namespace platform;
@@ -75,6 +76,15 @@ QString changes(const QByteArray& before, const QByteArray& after)
     return told.isEmpty() ? QStringLiteral("nothing changed") : told.join(QStringLiteral(", "));
 }
 
+/** Monitor/disableFlag of a whole record. */
+std::int16_t disableFlag(const QByteArray& record)
+{
+    std::int16_t flag = 0;
+    std::memcpy(
+        &flag, record.constData() + offsetof(tagQVTabletInfo, Monitor.disableFlag), sizeof flag);
+    return flag;
+}
+
 QString modelText(std::uint16_t productID)
 {
     const QVTabletModel* const model = QVFindModel(productID);
@@ -101,7 +111,7 @@ Driver::Driver(AppleEvents& events, QDBusConnection bus)
 
     mPanels.setConnection(mBus);
     mPanels.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
-    connect(&mPanels, &QDBusServiceWatcher::serviceUnregistered, this, &Driver::endCalibration);
+    connect(&mPanels, &QDBusServiceWatcher::serviceUnregistered, this, &Driver::panelHasGone);
 
     mSinceStart.start();
     mSendReports.setSingleShot(true);
@@ -163,6 +173,8 @@ void Driver::setAttached(std::uint16_t productID)
     }
     mState.attached = productID;
     mReports.reset(); // a tablet that is pulled out reports no lift
+    mPanels.setWatchedServices({});
+    setCalibrating({}); // the panels were to fit the tablet that was here
     say(QStringLiteral("attached: %1").arg(modelText(productID)));
     mSaveSoon.start();
     Q_EMIT attachedChanged(productID);
@@ -179,7 +191,7 @@ QString Driver::tap(std::uint16_t x, std::uint16_t y)
     if (mState.attached == 0) {
         return QStringLiteral("no tablet is attached");
     }
-    if (mCalibrating.isEmpty()) {
+    if (!isCalibrating()) {
         return QStringLiteral("nobody asks for the pen: no calibration is going on");
     }
     mReports.tap(x, y);
@@ -259,37 +271,40 @@ void Driver::send(const PenReport& report)
     // Of a list, the panel reads every other item, beginning with the first.
     const AEDesc item{kPenReport,
         QByteArray(reinterpret_cast<const char*>(&report), static_cast<int>(sizeof report))};
-    AppleEvent event{kAECoreSuite, kAEGetData, {typeBusName, mCalibrating}, {}};
+    AppleEvent event{kAECoreSuite, kAEGetData, {typeBusName, mCalibrating.back()}, {}};
     mEvents.putParamDesc(event, keyDirectObject, {typeAEList, AEList{item}});
     mEvents.send(event, nullptr, kAEWaitReply, kAEHighPriority, kReportTimeOut);
 }
 
-void Driver::setCalibrating(const QByteArray& panel)
+void Driver::beginCalibration(const QByteArray& panel)
 {
-    if (panel == mCalibrating) {
-        return;
+    std::vector<QByteArray> panels = mCalibrating;
+    const bool isNew = std::erase(panels, panel) == 0;
+    panels.push_back(panel);
+    setCalibrating(std::move(panels));
+    if (isNew) {
+        watch(QString::fromUtf8(panel));
     }
+}
+
+bool Driver::endCalibration(const QByteArray& panel)
+{
+    std::vector<QByteArray> panels = mCalibrating;
+    if (std::erase(panels, panel) == 0) {
+        return false;
+    }
+    mPanels.removeWatchedService(QString::fromUtf8(panel));
+    setCalibrating(std::move(panels));
+    return true;
+}
+
+void Driver::setCalibrating(std::vector<QByteArray> panels)
+{
     const bool wasCalibrating = isCalibrating();
-    mCalibrating = panel;
-    mReports.forget(); // the next calibration begins with taps of its own
-    mPanels.setWatchedServices({});
-    if (isCalibrating()) {
-        const QString name = QString::fromUtf8(panel);
-        mPanels.addWatchedService(name);
-        // It may have gone already, before it was watched.
-        QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-            QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-            QStringLiteral("NameHasOwner"));
-        call << name;
-        auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
-        connect(answer, &QDBusPendingCallWatcher::finished, this,
-            [this, name](QDBusPendingCallWatcher* answered) {
-                const QDBusPendingReply<bool> isThere = *answered;
-                if (isThere.isValid() && !isThere.value()) {
-                    endCalibration(name);
-                }
-                answered->deleteLater();
-            });
+    const QByteArray listened = wasCalibrating ? mCalibrating.back() : QByteArray();
+    mCalibrating = std::move(panels);
+    if (!isCalibrating() || mCalibrating.back() != listened) {
+        mReports.forget(); // who listens next begins with taps of its own
     }
     wakeReports();
     if (wasCalibrating != isCalibrating()) {
@@ -297,11 +312,29 @@ void Driver::setCalibrating(const QByteArray& panel)
     }
 }
 
-void Driver::endCalibration(const QString& panel)
+void Driver::watch(const QString& panel)
 {
-    if (panel.toUtf8() == mCalibrating) {
+    mPanels.addWatchedService(panel);
+    // It may have gone already, before it was watched.
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("NameHasOwner"));
+    call << panel;
+    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this,
+        [this, panel](QDBusPendingCallWatcher* answered) {
+            const QDBusPendingReply<bool> isThere = *answered;
+            if (isThere.isValid() && !isThere.value()) {
+                panelHasGone(panel);
+            }
+            answered->deleteLater();
+        });
+}
+
+void Driver::panelHasGone(const QString& panel)
+{
+    if (endCalibration(panel.toUtf8())) {
         say(QStringLiteral("%1 has gone while it calibrated").arg(panel));
-        setCalibrating({});
     }
 }
 
@@ -339,10 +372,14 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
             .arg(mState.pushes)
             .arg(senderOf(event), changes(mState.record, record)));
     mState.record = record;
-    const QByteArray* const sender = event.address.bytes();
-    const QByteArray flag = record.mid(offsetof(tagQVTabletInfo, Monitor.disableFlag), 2);
-    const bool asksForPen = flag == QByteArray("\x01\x00", 2);
-    setCalibrating(asksForPen && sender != nullptr ? *sender : QByteArray());
+    // Only the panel itself ends its calibration: other programs push, too.
+    if (const QByteArray* const sender = event.address.bytes()) {
+        if (disableFlag(record) == 1) {
+            beginCalibration(*sender);
+        } else {
+            endCalibration(*sender);
+        }
+    }
     mSaveSoon.start();
     Q_EMIT pushed(mState.pushes);
     return noErr;

@@ -14,6 +14,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <vector>
 
 /**
  * The driver: answers the panel's query, takes its pushes, and has at most one simulated tablet
@@ -58,7 +59,7 @@ public:
     void stall(std::uint32_t milliseconds);
 
     /** Whether a panel asks for the pen. */
-    bool isCalibrating() const { return !mCalibrating.isEmpty(); }
+    bool isCalibrating() const { return !mCalibrating.empty(); }
 
     /**
      * The pen touches a point of the tablet and is lifted. Its reports go to the panel that
@@ -101,8 +102,13 @@ private:
     platform::OSErr refuse(
         const platform::AppleEvent& event, const QString& why, platform::AppleEvent& reply);
     void setAttached(std::uint16_t productID);
-    void setCalibrating(const QByteArray& panel);
-    void endCalibration(const QString& panel);
+    /** A panel asks for the pen; from now on it is the newest, also when it has asked before. */
+    void beginCalibration(const QByteArray& panel);
+    /** A panel no longer asks for the pen. @return whether it did */
+    bool endCalibration(const QByteArray& panel);
+    void setCalibrating(std::vector<QByteArray> panels);
+    void watch(const QString& panel);
+    void panelHasGone(const QString& panel);
     void wakeReports();
     void sendDueReports();
     void send(const PenReport& report);
@@ -113,8 +119,12 @@ private:
     DriverState mState;
     QTimer mSaveSoon;
     std::uint32_t mStall = 0;
-    QByteArray mCalibrating; ///< bus name of the panel whose last push said that it calibrates
-    QDBusServiceWatcher mPanels; ///< tells when that panel has gone
+    /**
+     * Bus names of the panels whose last push said that they calibrate. The newest, which gets the
+     * reports, is the last.
+     */
+    std::vector<QByteArray> mCalibrating;
+    QDBusServiceWatcher mPanels; ///< tells when one of these panels has gone
     PenReports mReports;
     ReportClock mClock;
     QElapsedTimer mSinceStart;

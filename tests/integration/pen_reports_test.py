@@ -28,6 +28,19 @@ class PenReports(session.Session):
         panel.stdin.write(f"tap {x} {y} {count}\n")
         panel.stdin.flush()
 
+    def push(self, panel, flag):
+        """Has a panel push that disableFlag; waits until the driver has it."""
+        panel.stdin.write(f"push {flag}\n")
+        panel.stdin.flush()
+        self.assertEqual(session.read_line(panel.stdout, "the push"),
+                         f"pushed {flag} as {panel.name}")
+
+    def assert_listens(self, panel, x):
+        """Whether what the pen does reaches that panel, and begins with what it does now."""
+        self.assertTrue(self.ctl("sim", "tap", x, x).returncode == 0)
+        told = [report[:3] for report in self.reports(panel, REPORTS_OF_TAP)]
+        self.assertEqual(told, [(1, x, x)] * 5 + [(0, x, x)])
+
     def reports(self, panel, count):
         """The next reports: key, x, y, and when each arrived, in seconds."""
         for _ in range(count):
@@ -97,6 +110,56 @@ class PenReports(session.Session):
         panel.wait(timeout=20)
         session.wait_for(lambda: not self.try_tap(), "the driver's notice")
         self.assertIn(f"{panel.name} has gone while it calibrated", self.stop_driver(driver))
+
+    def test_pushes_of_others_do_not_end_a_calibration(self):
+        self.start_driver()
+        panel = self.start_panel()
+        self.assertEqual(self.ctl("set", "Pen/Speed", 5).returncode, 0)
+        self.assertEqual(self.record()[293], 0)  # a push with 0, from another connection
+        self.assert_listens(panel, 7)
+        self.push(panel, 0)
+        self.assertFalse(self.try_tap())
+
+    def test_the_newest_panel_that_asks_has_the_pen_and_gives_it_back(self):
+        driver = self.start_driver()
+        first = self.start_panel()
+        second = self.start_panel()
+        self.assert_listens(second, 7)
+        self.push(second, 0)
+        self.assert_listens(first, 8)
+        self.push(second, 1)
+        self.assert_listens(second, 9)
+        self.push(first, 1)
+        self.assert_listens(first, 10)
+        first.send_signal(signal.SIGKILL)
+        first.wait()
+        while session.read_line(driver.stdout, "its end") != f"{first.name} has gone while it calibrated":
+            pass
+        self.assert_listens(second, 11)
+        self.push(second, 0)
+        self.assertFalse(self.try_tap())
+
+    def test_a_flag_whose_low_byte_alone_is_1_does_not_ask_for_the_pen(self):
+        self.start_driver()
+        panel = self.start_panel()
+        self.push(panel, 0x0101)
+        self.assertFalse(self.try_tap())
+
+    def test_another_tablet_or_none_ends_every_calibration(self):
+        self.start_driver()
+        for act in (lambda: self.simulator("Attach", "q", "20738"),
+                    lambda: self.simulator("Detach"),
+                    lambda: self.simulator("Attach", "q", "20737")):
+            panels = self.start_panel(), self.start_panel()
+            act()
+            if self.simulator("Attached") == ["q", "0"]:
+                self.simulator("Attach", "q", "20739")
+            self.assertIn("nobody asks for the pen", self.ctl("sim", "tap", 5, 5).stderr)
+            for panel in panels:  # each may ask anew
+                self.push(panel, 1)
+                self.assert_listens(panel, 6)
+            for panel in panels:
+                self.push(panel, 0)
 
 
 if __name__ == "__main__":

@@ -290,10 +290,15 @@ class VirtualTablet(Tablet, desktop.Desktop):
         self.release()
         self.simulator("Attach", "q", str(0x5101))
         self.find(PROGRAM, "Surface")
+        self.wait_for_label("not calibrating: it is told nothing of the pen")
+        panel.stdin.write("push 1\n")  # nobody else knows that it still wants the pen
+        panel.stdin.flush()
+        before = []
+        while not before or before[-1][0] != "pushed":
+            before.append(session.read_line(panel.stdout, "the push").split())
+        self.assertEqual({tuple(map(int, report[:3])) for report in before[:-1]}, {(1, *point)})
         self.ctl("sim", "tap", 7, 8)
-        reports = self.reports_until(panel, (0, 7, 8))
-        self.assertEqual(reports[-6:], [(1, 7, 8)] * 5 + [(0, 7, 8)])
-        self.assertEqual(set(reports[:-6]), {(1, *point)})
+        self.assertEqual(self.reports_until(panel, (0, 7, 8)), [(1, 7, 8)] * 5 + [(0, 7, 8)])
 
     def test_the_keyboard_alone_does_it(self):
         self.open_tablet()

@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
 """A panel that only asks the driver for the pen: pushes a record with disableFlag 1, then prints a
-line for each report, "key x y nanoseconds". Each line on its standard input, "tap X Y COUNT", has
-the pen tap so many times; "end" ends it.
+line for each report, "key x y nanoseconds". Lines on its standard input: "tap X Y COUNT" has the pen
+tap so many times, "push FLAG" pushes a record with that disableFlag, "end" ends it.
 
 A process of its own, so that a test can kill it.
 """
@@ -34,17 +34,21 @@ def main():
     dbus.mainloop.glib.DBusGMainLoop(set_as_default=True)
     bus = dbus.SessionBus()
     panel = Panel(bus, "/org/quorvia/AppleEvents")
-    record = bytearray(5077)
-    struct.pack_into("=h", record, 293, 1)
-    push = dbus.Struct((dbus.UInt32(0x75746638), dbus.ByteArray(bytes(record), variant_level=1)),
-                       signature="uv")
     driver = dbus.Interface(bus.get_object(DRIVER, "/org/quorvia/AppleEvents", introspect=False),
                             "org.quorvia.AppleEvents1")
     name = bus.get_unique_name()
-    driver.Send(dbus.UInt32(0x54645367), dbus.UInt32(0x57536E64),
-                dbus.Array([(dbus.UInt32(0x64617461), push)], signature="(u(uv))"),
-                reply_handler=lambda _: print("calibrating as", name, flush=True),
-                error_handler=lambda error: print("failed:", error, flush=True))
+
+    def push(flag, done):
+        record = bytearray(5077)
+        struct.pack_into("=h", record, 293, flag)
+        desc = dbus.Struct((dbus.UInt32(0x75746638),
+                            dbus.ByteArray(bytes(record), variant_level=1)), signature="uv")
+        driver.Send(dbus.UInt32(0x54645367), dbus.UInt32(0x57536E64),
+                    dbus.Array([(dbus.UInt32(0x64617461), desc)], signature="(u(uv))"),
+                    reply_handler=lambda _: print(done, name, flush=True),
+                    error_handler=lambda error: print("failed:", error, flush=True))
+
+    push(1, "calibrating as")
     bus.flush()
     print("pushed as", name, flush=True)
     simulator = dbus.Interface(bus.get_object(DRIVER, "/org/quorvia/TabletSimulator"),
@@ -55,7 +59,11 @@ def main():
         if line in ("", "end\n"):
             loop.quit()
             return False
-        _, x, y, count = line.split()
+        word, *numbers = line.split()
+        if word == "push":
+            push(int(numbers[0]), f"pushed {numbers[0]} as")
+            return True
+        x, y, count = numbers
         for _ in range(int(count)):
             simulator.Tap(dbus.UInt16(x), dbus.UInt16(y), reply_handler=lambda: None,
                           error_handler=lambda error: None)
