@@ -2,12 +2,18 @@
 // SPDX-License-Identifier: MIT
 #include "DriverState.h"
 
+#include "tagQVTabletInfo.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QJsonValue>
 #include <QSaveFile>
+
+#include <cmath>
+#include <limits>
 
 namespace {
 
@@ -24,6 +30,31 @@ QString statePath()
     return folder + QStringLiteral("/tdsg-driver/state.json");
 }
 
+/** A whole number that the type can hold; nothing for anything else. */
+template <class Number>
+std::optional<Number> wholeNumber(const QJsonValue& value)
+{
+    const double number = value.toDouble(-1);
+    // What is no number fails every comparison, too.
+    if (number >= 0 && number <= std::numeric_limits<Number>::max()
+        && number == std::floor(number)) {
+        return static_cast<Number>(number);
+    }
+    return std::nullopt;
+}
+
+/** A whole record, or an empty one; nothing for anything else. */
+std::optional<QByteArray> wholeRecord(const QJsonValue& value)
+{
+    const auto decoded = QByteArray::fromBase64Encoding(
+        value.toString().toLatin1(), QByteArray::AbortOnBase64DecodingErrors);
+    if (!value.isString() || !decoded
+        || (!decoded.decoded.isEmpty() && decoded.decoded.size() != kQVRecordSize)) {
+        return std::nullopt;
+    }
+    return decoded.decoded;
+}
+
 } // namespace
 
 std::optional<DriverState> DriverState::load()
@@ -37,11 +68,13 @@ std::optional<DriverState> DriverState::load()
         return std::nullopt;
     }
     const QJsonObject object = document.object();
-    DriverState state;
-    state.attached = static_cast<std::uint16_t>(object.value(kAttached).toInt());
-    state.record = QByteArray::fromBase64(object.value(kRecord).toString().toLatin1());
-    state.pushes = static_cast<std::uint32_t>(object.value(kPushes).toDouble());
-    return state;
+    const auto attached = wholeNumber<std::uint16_t>(object.value(kAttached));
+    const auto record = wholeRecord(object.value(kRecord));
+    const auto pushes = wholeNumber<std::uint32_t>(object.value(kPushes));
+    if (!attached || !record || !pushes) {
+        return std::nullopt;
+    }
+    return DriverState{*attached, *record, *pushes};
 }
 
 QString DriverState::save() const

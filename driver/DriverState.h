@@ -17,7 +17,12 @@ struct DriverState {
     QByteArray record; ///< the last push; empty before the first
     std::uint32_t pushes = 0; ///< how many there were
 
-    /** Reads the file. @return nothing when there is none, or none that can be read */
+    /**
+     * Reads the file.
+     *
+     * @return nothing when there is none, or one that no driver has written: its numbers have to be
+     *     whole and in the range of their types, its record empty or whole
+     */
     static std::optional<DriverState> load();
 
     /** Replaces the file. @return why it failed; empty on success */
