@@ -141,6 +141,10 @@ public:
     /**
      * Handles one event. An error goes back to the sender; a text under keyErrorString of the reply
      * then says why.
+     *
+     * The sender has its answer when the handler returns. Where a handler runs the event loop, as
+     * for an alert, the sender has it from then on: the reply as it is at that moment, and no
+     * error.
      */
     using Handler = std::function<OSErr(const AppleEvent& event, AppleEvent& reply)>;
 

@@ -132,12 +132,12 @@ public:
         if (!call.interface().isEmpty() && call.interface() != QLatin1String(wire::kInterface)) {
             return false;
         }
-        const QDBusMessage answer = call.member() == QLatin1String(wire::kSendMethod)
-            ? dispatch(call)
-            : call.createErrorReply(QDBusError::UnknownMethod,
-                QStringLiteral("there is no method %1").arg(call.member()));
-        if (call.isReplyRequired()) {
-            bus.send(answer);
+        if (call.member() == QLatin1String(wire::kSendMethod)) {
+            dispatch(call, bus);
+        } else {
+            answer(call, bus,
+                call.createErrorReply(QDBusError::UnknownMethod,
+                    QStringLiteral("there is no method %1").arg(call.member())));
         }
         return true;
     }
@@ -212,13 +212,23 @@ private:
         }
     }
 
-    QDBusMessage dispatch(const QDBusMessage& call)
+    static void answer(
+        const QDBusMessage& call, const QDBusConnection& bus, const QDBusMessage& reply)
+    {
+        if (call.isReplyRequired()) {
+            bus.send(reply);
+        }
+    }
+
+    void dispatch(const QDBusMessage& call, const QDBusConnection& bus)
     {
         const QString sender = call.service();
         if (!mayDeliver(sender)) {
             logRefusal(sender, "an event from elsewhere than the driver");
-            return call.createErrorReply(QDBusError::AccessDenied,
-                QStringLiteral("only the tablet's driver may send events here"));
+            answer(call, bus,
+                call.createErrorReply(QDBusError::AccessDenied,
+                    QStringLiteral("only the tablet's driver may send events here")));
+            return;
         }
         const QList<QVariant> arguments = call.arguments();
         std::optional<AERecord> parameters;
@@ -227,28 +237,53 @@ private:
         }
         if (!parameters) {
             logRefusal(sender, "a malformed event");
-            return errorReply(call, errAECoercionFail, QStringLiteral("the event is malformed"));
+            answer(call, bus,
+                errorReply(call, errAECoercionFail, QStringLiteral("the event is malformed")));
+            return;
         }
-        const AppleEvent event{arguments[0].toUInt(), arguments[1].toUInt(),
-            {typeBusName, sender.toUtf8()}, std::move(*parameters)};
-        const auto handler = mHandlers.find({event.eventClass, event.eventID});
-        if (handler == mHandlers.end()) {
-            return errorReply(call, errAEEventNotHandled,
-                QStringLiteral("nobody handles the event %1/%2")
-                    .arg(QLatin1String(quoted(event.eventClass)),
-                        QLatin1String(quoted(event.eventID))));
+        handle({arguments[0].toUInt(), arguments[1].toUInt(), {typeBusName, sender.toUtf8()},
+                   std::move(*parameters)},
+            call, bus);
+    }
+
+    void handle(const AppleEvent& event, const QDBusMessage& call, const QDBusConnection& bus)
+    {
+        const auto found = mHandlers.find({event.eventClass, event.eventID});
+        if (found == mHandlers.end()) {
+            answer(call, bus,
+                errorReply(call, errAEEventNotHandled,
+                    QStringLiteral("nobody handles the event %1/%2")
+                        .arg(QLatin1String(quoted(event.eventClass)),
+                            QLatin1String(quoted(event.eventID)))));
+            return;
         }
         AppleEvent reply;
+        // A handler that asks the user something runs the event loop, perhaps for minutes. Then the
+        // event is answered from there.
+        bool isAnswered = false;
+        QObject whileItAsks;
+        QMetaObject::invokeMethod(
+            &whileItAsks,
+            [&isAnswered, &reply, call, bus] {
+                isAnswered = true;
+                answer(call, bus, call.createReply(wire::encode(reply.parameters)));
+            },
+            Qt::QueuedConnection);
         // A copy, since a handler may remove itself.
-        const Handler handle = handler->second;
-        const OSErr error = handle(event, reply);
+        const Handler handler = found->second;
+        const OSErr error = handler(event, reply);
+        if (isAnswered) {
+            return;
+        }
         if (error != noErr) {
             const AEDesc* const text = find(reply.parameters, keyErrorString);
             const QByteArray* const why = text == nullptr ? nullptr : text->bytes();
-            return errorReply(
-                call, error, why == nullptr ? QString::number(error) : QString::fromUtf8(*why));
+            answer(call, bus,
+                errorReply(call, error,
+                    why == nullptr ? QString::number(error) : QString::fromUtf8(*why)));
+            return;
         }
-        return call.createReply(wire::encode(reply.parameters));
+        answer(call, bus, call.createReply(wire::encode(reply.parameters)));
     }
 
     /** Logs the first refusal of each sender, so that nobody can flood the log. */

@@ -16,13 +16,21 @@
 #include "rzkApplication.h"
 
 #include <QCoreApplication>
+#include <QDBusPendingCallWatcher>
 #include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstring>
 #include <malloc.h>
 #include <map>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+#include <vector>
 
 using namespace platform;
 
@@ -718,6 +726,36 @@ TEST_F(Inbound, aHandlersErrorAndReasonReachTheSender)
     const QDBusMessage reply = send(driver, event(1, 2, {}));
     EXPECT_EQ(reply.errorName(), QString::fromLatin1(kCoercionFail));
     EXPECT_EQ(reply.errorMessage(), QStringLiteral("too blue"));
+}
+
+TEST_F(Inbound, isAnsweredWhileItsHandlerRunsTheEventLoop)
+{
+    Peer driver(mBus, kDriverName);
+    bool wasAnswered = false;
+    QEventLoop loop;
+    int nested = 0;
+    mEvents.installEventHandler(1, 2, [&](const AppleEvent&, AppleEvent& reply) {
+        reply.parameters = {{keyDirectObject, {typeUTF8Text, "so far"}}};
+        nested = loop.exec();
+        reply.parameters = {{keyErrorString, {typeUTF8Text, "too late"}}};
+        return errAECoercionFail;
+    });
+    QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
+        QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
+        QStringLiteral("Send"));
+    call.setArguments(event(1, 2, {}));
+    const QDBusPendingCall pending = driver.connection().asyncCall(call, 20000);
+    QDBusPendingCallWatcher watcher(pending);
+    QObject::connect(&watcher, &QDBusPendingCallWatcher::finished, &loop, [&] {
+        wasAnswered = loop.isRunning();
+        loop.exit(7);
+    });
+    EXPECT_TRUE(waitUntil([&] { return pending.isFinished() && nested == 7; }));
+    EXPECT_TRUE(wasAnswered);
+    ASSERT_EQ(pending.reply().type(), QDBusMessage::ReplyMessage);
+    const auto answer = qdbus_cast<Parameters>(pending.reply().arguments().constFirst());
+    ASSERT_EQ(answer.size(), 1);
+    EXPECT_EQ(answer[0].desc.data.variant().toByteArray(), "so far");
 }
 
 TEST_F(Inbound, aHandlerMayRemoveItself)

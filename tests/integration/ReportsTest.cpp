@@ -15,10 +15,14 @@
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
 
+#include <QApplication>
 #include <QDBusPendingCall>
+#include <QElapsedTimer>
+#include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QTimer>
 #include <QWindow>
 
 #include <gtest/gtest.h>
@@ -285,4 +289,41 @@ TEST_F(Reports, fromAnotherProgramThanTheDriverAreRefused)
     send(mDriver.peer(), {item(report(0, 5000, 5000))});
     EXPECT_EQ(points(), 1);
     EXPECT_EQ(mDriver.pushes(), 1);
+}
+
+TEST_F(Reports, areAnsweredBeforeTheUserHasAnsweredTheAlert)
+{
+    const std::array<std::array<std::uint16_t, 2>, 4> touches{
+        {{1000, 1000}, {9000, 1100}, {9100, 5000}, {1100, 5100}}};
+    for (std::size_t i = 0; i < 3; ++i) {
+        send(mDriver.peer(), {item(report(1, touches[i][0], touches[i][1]))});
+        send(mDriver.peer(), {item(report(0, touches[i][0], touches[i][1]))});
+    }
+    send(mDriver.peer(), {item(report(1, touches[3][0], touches[3][1]))});
+    ASSERT_EQ(points(), 3);
+
+    const QDBusPendingCall last = mDriver.peer().connection().asyncCall(
+        eventOf({item(report(0, touches[3][0], touches[3][1]))}), 60000);
+    bool wasAnswered = false;
+    bool isOver = false;
+    QElapsedTimer open; // since the alert was seen first
+    QTimer user;
+    QObject::connect(&user, &QTimer::timeout, &user, [&] {
+        auto* const alert = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (alert == nullptr) {
+            return;
+        }
+        if (!open.isValid()) {
+            open.start();
+        }
+        wasAnswered = last.isFinished();
+        if (wasAnswered || open.elapsed() > 10000) {
+            alert->button(QMessageBox::Ok)->click();
+            isOver = true;
+        }
+    });
+    user.start(10);
+    waitUntil([&] { return isOver && last.isFinished(); });
+    EXPECT_TRUE(wasAnswered);
+    EXPECT_EQ(last.reply().type(), QDBusMessage::ReplyMessage);
 }
