@@ -3,6 +3,7 @@
 #include "DBusAppleEvents.h"
 
 #include "AppleEventWire.h"
+#include "LivingBus.h"
 #include "Notifications.h"
 
 #include <QDBusConnectionInterface>
@@ -12,9 +13,12 @@
 #include <QDBusPendingCallWatcher>
 #include <QDBusServiceWatcher>
 #include <QDBusVirtualObject>
+#include <QElapsedTimer>
 #include <QLoggingCategory>
 #include <QSet>
 
+#include <algorithm>
+#include <chrono>
 #include <cstring>
 #include <deque>
 #include <map>
@@ -84,10 +88,13 @@ QDBusMessage errorReply(const QDBusMessage& call, OSErr error, const QString& wh
     return call.createErrorReply(QLatin1String(name), why);
 }
 
-int milliseconds(std::int32_t ticks)
+std::chrono::milliseconds milliseconds(std::int32_t ticks)
 {
-    return static_cast<int>(std::int64_t{ticks} * 1000 / kTicksPerSecond);
+    return std::chrono::milliseconds(std::int64_t{ticks} * 1000 / kTicksPerSecond);
 }
+
+/** How long who wants to hear of events waits for a bus that hangs. */
+constexpr std::chrono::milliseconds kListenLimit{250};
 
 } // namespace
 
@@ -106,12 +113,31 @@ public:
     Private(Private&&) = delete;
     Private& operator=(Private&&) = delete;
 
+    /** The connection; made anew where there is none, as long as that takes. */
     QDBusConnection& connection()
     {
         if (!mConnection || !mConnection->isConnected()) {
             connectAgain();
         }
         return *mConnection;
+    }
+
+    /** The connection; null where there is none, or none answers within the limit. */
+    QDBusConnection* connectionWithin(std::chrono::milliseconds limit)
+    {
+        const bool isThere = mConnection && mConnection->isConnected();
+        if (!isThere && !sessionBusAnswers(limit)) {
+            return nullptr;
+        }
+        QDBusConnection& bus = connection();
+        return bus.isConnected() ? &bus : nullptr;
+    }
+
+    /** Why there is no connection. */
+    QString lastError() const
+    {
+        return mConnection ? mConnection->lastError().message()
+                           : QStringLiteral("it does not answer");
     }
 
     QString introspect(const QString& path) const override
@@ -332,9 +358,12 @@ OSErr DBusAppleEvents::send(const AppleEvent& event, AppleEvent* reply, AESendMo
     static_cast<void>(mode);
     static_cast<void>(priority);
 
-    QDBusConnection& bus = d->connection();
+    QElapsedTimer sinceStart;
+    sinceStart.start();
+    const std::chrono::milliseconds limit = milliseconds(timeOut);
+    QDBusConnection* const bus = d->connectionWithin(limit);
     const QString receiver = destination(event.address);
-    if (!bus.isConnected() || receiver.isEmpty()) {
+    if (bus == nullptr || receiver.isEmpty()) {
         if (reply == nullptr) {
             notifications().post({kEventNotTakenNotification, nullptr, {}});
         }
@@ -342,14 +371,15 @@ OSErr DBusAppleEvents::send(const AppleEvent& event, AppleEvent* reply, AESendMo
     }
     const QDBusMessage call = methodCall(event, receiver);
     if (reply == nullptr) {
-        auto* const watcher =
-            new QDBusPendingCallWatcher(bus.asyncCall(call, milliseconds(timeOut)), d.get());
+        auto* const watcher = new QDBusPendingCallWatcher(
+            bus->asyncCall(call, static_cast<int>(limit.count())), d.get());
         d->mPending.push_back(watcher);
         QObject::connect(watcher, &QDBusPendingCallWatcher::finished, d.get(),
             [this](QDBusPendingCallWatcher* answered) { d->noteAnswer(answered); });
         return noErr;
     }
-    const QDBusMessage answer = bus.call(call, QDBus::Block, milliseconds(timeOut));
+    const qint64 rest = std::max<qint64>(limit.count() - sinceStart.elapsed(), 1);
+    const QDBusMessage answer = bus->call(call, QDBus::Block, static_cast<int>(rest));
     if (answer.type() != QDBusMessage::ReplyMessage) {
         qCDebug(lcEvents, "%s did not answer: %s", qUtf8Printable(receiver),
             qUtf8Printable(answer.errorMessage()));
@@ -392,11 +422,10 @@ OSErr DBusAppleEvents::removeEventHandler(AEEventClass eventClass, AEEventID eve
 void DBusAppleEvents::acceptEventsFrom(FourCharCode signature)
 {
     d->mSource = signature;
-    const QDBusConnection& bus = d->connection();
-    if (bus.isConnected()) {
+    if (d->connectionWithin(kListenLimit) != nullptr) {
         d->watchSource();
     } else {
-        qCWarning(lcEvents, "no session bus: %s", qUtf8Printable(bus.lastError().message()));
+        qCWarning(lcEvents, "no session bus: %s", qUtf8Printable(d->lastError()));
     }
 }
 

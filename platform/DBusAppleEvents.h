@@ -14,6 +14,10 @@ namespace platform {
 /**
  * Events over the D-Bus session bus, on a connection of its own, made when it is first needed and
  * made again after it was lost.
+ *
+ * A send's time-out bounds the connecting, too: a bus that hangs is found out before. Only one that
+ * stops just between its first answer and the connection's last step holds the caller for longer,
+ * for the 25 seconds of the bus library.
  */
 class DBusAppleEvents final : public AppleEvents {
 public:

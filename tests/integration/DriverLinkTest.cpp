@@ -40,6 +40,9 @@ const QString kDriverName = QStringLiteral("org.quorvia.AppleEvents.TdSg");
 constexpr const char* kEventNotHandled = "org.quorvia.AppleEvents.Error.EventNotHandled";
 constexpr const char* kCoercionFail = "org.quorvia.AppleEvents.Error.CoercionFail";
 
+/** What the address of a private bus begins with. */
+const QByteArray kUnixPath("unix:path=");
+
 /** How long a query may block: its time-out, and room for a busy machine. */
 constexpr qint64 kQueryLimit = 1000;
 
@@ -599,6 +602,85 @@ TEST_F(DriverLink, goesOnAfterTheBusWasStartedAgain)
     mBus.start();
     const DriverProcess driver;
     EXPECT_TRUE(rzkgetQVDevice());
+}
+
+TEST_F(DriverLink, theQuerysTimeOutBoundsTheConnectingToABusThatHangs)
+{
+    {
+        const DriverProcess driver;
+        EXPECT_TRUE(rzkgetQVDevice());
+    }
+    mBus.stop();
+    mBus.start();
+    ::kill(static_cast<pid_t>(mBus.pid()), SIGSTOP);
+    DBusAppleEvents other;
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_FALSE(rzkgetQVDevice()) << "a connection made again";
+    EXPECT_LT(timer.restart(), kQueryLimit);
+    push();
+    EXPECT_LT(timer.restart(), kQueryLimit);
+    other.acceptEventsFrom(kQVDriverSignature);
+    EXPECT_LT(timer.restart(), kQueryLimit) << "the first connection";
+    ::kill(static_cast<pid_t>(mBus.pid()), SIGCONT);
+    const DriverProcess driver;
+    EXPECT_TRUE(rzkgetQVDevice());
+}
+
+TEST_F(DriverLink, aBusThatHangsWithAFullQueueIsGivenUpAtOnce)
+{
+    ::kill(static_cast<pid_t>(mBus.pid()), SIGSTOP);
+    const QByteArray path = mBus.address().toUtf8().mid(kUnixPath.size());
+    sockaddr_un place{};
+    place.sun_family = AF_UNIX;
+    ASSERT_LT(static_cast<std::size_t>(path.size()), sizeof place.sun_path);
+    std::memcpy(place.sun_path, path.constData(), static_cast<std::size_t>(path.size()));
+    std::vector<int> waiting;
+    int result = 0;
+    while (result == 0) {
+        waiting.push_back(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+        result = ::connect(waiting.back(), reinterpret_cast<const sockaddr*>(&place), sizeof place);
+    }
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_FALSE(rzkgetQVDevice());
+    EXPECT_LT(timer.elapsed(), kQueryLimit);
+    for (const int number : waiting) {
+        ::close(number);
+    }
+    ::kill(static_cast<pid_t>(mBus.pid()), SIGCONT);
+}
+
+TEST_F(DriverLink, aBusThatHangsIsFoundOutHoweverItsAddressIsGiven)
+{
+    const DriverProcess driver;
+    const QByteArray real = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    const QByteArray folder =
+        QFileInfo(QString::fromUtf8(real.mid(kUnixPath.size()))).path().toUtf8();
+    const QByteArray before = qgetenv("XDG_RUNTIME_DIR");
+    struct Case {
+        QByteArray address;
+        QByteArray runtimeFolder;
+    };
+    for (const Case& c : {Case{"unix:path=/nowhere;" + real, before},
+             {"unix:path=" + folder + "/%62us", before}, {"", folder}}) {
+        if (c.address.isEmpty()) {
+            qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+        } else {
+            qputenv("DBUS_SESSION_BUS_ADDRESS", c.address);
+        }
+        qputenv("XDG_RUNTIME_DIR", c.runtimeFolder);
+        DBusAppleEvents events;
+        const ServiceScope<AppleEvents> scope(events);
+        ::kill(static_cast<pid_t>(mBus.pid()), SIGSTOP);
+        QElapsedTimer timer;
+        timer.start();
+        EXPECT_FALSE(rzkgetQVDevice());
+        EXPECT_LT(timer.elapsed(), kQueryLimit) << c.address.constData();
+        ::kill(static_cast<pid_t>(mBus.pid()), SIGCONT);
+        EXPECT_TRUE(rzkgetQVDevice()) << c.address.constData();
+    }
+    qputenv("XDG_RUNTIME_DIR", before);
 }
 
 TEST(DriverActivation, theBusStartsTheDriverOnDemand)

@@ -1,0 +1,126 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "LivingBus.h"
+
+#include <QByteArray>
+#include <QByteArrayList>
+#include <QDeadlineTimer>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstddef>
+#include <cstring>
+#include <optional>
+#include <poll.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+namespace platform {
+
+namespace {
+
+/** A socket that is closed with its scope. */
+class Socket {
+public:
+    Socket()
+        : mNumber(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0))
+    {
+    }
+    ~Socket()
+    {
+        if (mNumber >= 0) {
+            ::close(mNumber);
+        }
+    }
+    Socket(const Socket&) = delete;
+    Socket& operator=(const Socket&) = delete;
+    Socket(Socket&&) = delete;
+    Socket& operator=(Socket&&) = delete;
+
+    int number() const { return mNumber; }
+
+private:
+    int mNumber;
+};
+
+/** The addresses at which the bus is looked for, in their order. */
+QByteArrayList addresses()
+{
+    const QByteArray given = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    if (!given.isEmpty()) {
+        return given.split(';');
+    }
+    const QByteArray folder = qgetenv("XDG_RUNTIME_DIR");
+    return folder.isEmpty() ? QByteArrayList() : QByteArrayList{"unix:path=" + folder + "/bus"};
+}
+
+/** The socket's name, a NUL before one that is no file; nothing for an address of another kind. */
+std::optional<QByteArray> socketName(const QByteArray& address)
+{
+    static constexpr char kUnix[] = "unix:"; // NOLINT(*-avoid-c-arrays): a literal
+    if (!address.startsWith(kUnix)) {
+        return std::nullopt;
+    }
+    for (const QByteArray& entry : address.mid(sizeof kUnix - 1).split(',')) {
+        const QByteArray value = QByteArray::fromPercentEncoding(entry.mid(entry.indexOf('=') + 1));
+        if (entry.startsWith("path=")) {
+            return value;
+        }
+        if (entry.startsWith("abstract=")) {
+            return '\0' + value;
+        }
+    }
+    return std::nullopt;
+}
+
+bool waitFor(const Socket& socket, short events, const QDeadlineTimer& deadline)
+{
+    pollfd wanted{socket.number(), events, 0};
+    int ready = 0;
+    do {
+        ready = ::poll(&wanted, 1, static_cast<int>(std::max<qint64>(deadline.remainingTime(), 0)));
+    } while (ready < 0 && errno == EINTR);
+    return ready > 0;
+}
+
+/** Introduces itself, and waits for whatever the bus says to that. */
+bool isAnswered(const Socket& socket, const QDeadlineTimer& deadline)
+{
+    // The bus knows the user from the socket; the name is in hexadecimal digits.
+    const QByteArray words = '\0' + QByteArrayLiteral("AUTH EXTERNAL ")
+        + QByteArray::number(::getuid()).toHex() + "\r\n";
+    const auto size = static_cast<std::size_t>(words.size());
+    return ::send(socket.number(), words.constData(), size, MSG_NOSIGNAL)
+        == static_cast<ssize_t>(size)
+        && waitFor(socket, POLLIN, deadline);
+}
+
+} // namespace
+
+bool sessionBusAnswers(std::chrono::milliseconds limit)
+{
+    const QDeadlineTimer deadline(limit, Qt::PreciseTimer);
+    for (const QByteArray& address : addresses()) {
+        const std::optional<QByteArray> name = socketName(address);
+        sockaddr_un place{};
+        if (!name || static_cast<std::size_t>(name->size()) >= sizeof place.sun_path) {
+            return true;
+        }
+        const auto length = static_cast<std::size_t>(name->size());
+        place.sun_family = AF_UNIX;
+        std::memcpy(place.sun_path, name->constData(), length);
+        const Socket socket;
+        if (::connect(socket.number(), reinterpret_cast<const sockaddr*>(&place),
+                static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + length))
+            == 0) {
+            return isAnswered(socket, deadline);
+        }
+        if (errno == EAGAIN) {
+            return false; // it has not taken those who came before
+        }
+    }
+    return true;
+}
+
+} // namespace platform
