@@ -18,20 +18,73 @@ namespace platform {
 
 namespace {
 
+/** Whether it is an application bundle: a folder that counts as one file. */
+bool isBundle(const QFileInfo& file)
+{
+    return file.isDir() && file.suffix().compare(QLatin1String("app"), Qt::CaseInsensitive) == 0;
+}
+
+/**
+ * A dialog for a file, in which a bundle is one: whoever enters it, by a double click or by its
+ * name, has chosen it. Any other folder is opened.
+ */
+class ApplicationDialog final : public QFileDialog {
+public:
+    ApplicationDialog(QWidget* parent, const QString& title)
+        : QFileDialog(parent, title)
+    {
+        setFileMode(QFileDialog::ExistingFile);
+        setNameFilter(QCoreApplication::translate("OpenPanel", "Applications")
+            + QStringLiteral(" (*.desktop *.AppImage *.appimage *.app)"));
+        connect(this, &QFileDialog::directoryEntered, this, [this](const QString& folder) {
+            if (isBundle(QFileInfo(folder))) {
+                choose(folder);
+            }
+        });
+    }
+
+    /** The file that was chosen, or the bundle. */
+    QString chosen() const { return mBundle.isEmpty() ? selectedFiles().value(0) : mBundle; }
+
+    /** Shows it until something was chosen, or nothing shall be. */
+    int exec() override
+    {
+        mBundle.clear();
+        return QFileDialog::exec();
+    }
+
+protected:
+    void accept() override
+    {
+        const QString file = selectedFiles().value(0);
+        if (isBundle(QFileInfo(file))) {
+            choose(file);
+        } else {
+            QFileDialog::accept();
+        }
+    }
+
+private:
+    void choose(const QString& bundle)
+    {
+        mBundle = bundle;
+        done(QDialog::Accepted);
+    }
+
+    QString mBundle;
+};
+
 class DesktopOpenPanel final : public OpenPanel {
 public:
     std::optional<QString> chooseApplication(QWidget* parent) override
     {
         // The parent may end before the user is done, and takes the dialog with it.
-        const QPointer<QFileDialog> dialog = new QFileDialog(
+        const QPointer<ApplicationDialog> dialog = new ApplicationDialog(
             parent, QCoreApplication::translate("OpenPanel", "Choose an application"));
-        dialog->setFileMode(QFileDialog::ExistingFile);
-        dialog->setNameFilter(QCoreApplication::translate("OpenPanel", "Applications")
-            + QStringLiteral(" (*.desktop *.AppImage *.appimage *.app)"));
         dialog->setDirectory(applicationsFolder());
         std::optional<QString> path;
         while (!path && dialog->exec() == QDialog::Accepted && !dialog.isNull()) {
-            path = applicationOf(dialog->selectedFiles().value(0));
+            path = applicationOf(dialog->chosen());
             if (!path) {
                 // A name that was typed in passes the filter.
                 QMessageBox::information(dialog, dialog->windowTitle(),
@@ -51,7 +104,7 @@ private:
         static const QStringList kTypes{
             QStringLiteral("desktop"), QStringLiteral("appimage"), QStringLiteral("app")};
         const QFileInfo info(file);
-        if (!kTypes.contains(info.suffix().toLower())) {
+        if (!kTypes.contains(info.suffix().toLower()) || (info.isDir() && !isBundle(info))) {
             return std::nullopt;
         }
         const QString resolved = info.canonicalFilePath();

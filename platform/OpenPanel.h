@@ -24,6 +24,9 @@ public:
      * Lets the user choose one application: a desktop entry, an AppImage or an application bundle.
      * Starts in the folder of installed applications and runs until the user is done.
      *
+     * A bundle is a folder named *.app. It counts as one file: to enter it is to choose it, also in
+     * the desktop's own dialog. No other folder can be chosen.
+     *
      * @return the chosen file's full path, links followed; nothing when the user chose none
      */
     virtual std::optional<QString> chooseApplication(QWidget* parent) = 0;

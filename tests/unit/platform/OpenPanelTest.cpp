@@ -5,9 +5,15 @@
 #include "Service.h"
 #include "TemporaryHome.h"
 
+#include <QAbstractItemModel>
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
+#include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
+#include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -89,4 +95,123 @@ TEST_F(OpenPanel, asksAgainForWhatIsNoApplication)
     answer.start(10);
     EXPECT_EQ(choose(tool), QFileInfo(file).canonicalFilePath());
     EXPECT_GE(told, 1);
+}
+
+namespace {
+
+/** A bundle in a folder; gives its path. */
+QString makeBundle(const QString& folder, const QString& name)
+{
+    EXPECT_TRUE(QDir(folder).mkpath(name + QStringLiteral("/Contents")));
+    return QFileInfo(folder + QLatin1Char('/') + name).canonicalFilePath();
+}
+
+/** The place of a file in the list of the dialog, once the dialog has read its folder. */
+QModelIndex placeOf(QFileDialog& dialog, const QString& name)
+{
+    auto* const list = dialog.findChild<QListView*>(QStringLiteral("listView"));
+    QModelIndex place;
+    const bool isThere = QTest::qWaitFor(
+        [&] {
+            const QAbstractItemModel& model = *list->model();
+            for (int row = 0; row < model.rowCount(list->rootIndex()); ++row) {
+                const QModelIndex index = model.index(row, 0, list->rootIndex());
+                if (index.data().toString() == name) {
+                    place = index;
+                }
+            }
+            return place.isValid();
+        },
+        20000);
+    EXPECT_TRUE(isThere) << qPrintable(name);
+    return place;
+}
+
+/** What the open panel gives when a person does something in its window. */
+template <class Act>
+std::optional<QString> chooseBy(const Act& act)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        act(*dialog);
+    });
+    return platform::openPanel().chooseApplication(nullptr);
+}
+
+/** Types a name and presses Return, as a person does. */
+void typeName(QFileDialog& dialog, const QString& name)
+{
+    auto* const line = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    line->setFocus();
+    line->setText(name);
+    QTest::keyClick(line, Qt::Key_Return);
+}
+
+} // namespace
+
+TEST_F(OpenPanel, takesABundleThatIsEntered)
+{
+    const QString bundle = makeBundle(mHome.path(), QStringLiteral("Draw.app"));
+    EXPECT_EQ(chooseBy([this](QFileDialog& dialog) {
+        dialog.setDirectory(mHome.path());
+        auto* const list = dialog.findChild<QListView*>(QStringLiteral("listView"));
+        list->setCurrentIndex(placeOf(dialog, QStringLiteral("Draw.app")));
+        QTest::keyClick(list, Qt::Key_Return);
+    }),
+        bundle);
+}
+
+TEST_F(OpenPanel, takesABundleWhoseNameIsTyped)
+{
+    const QString bundle = makeBundle(mHome.path(), QStringLiteral("Draw.App"));
+    EXPECT_EQ(chooseBy([&bundle](QFileDialog& dialog) { typeName(dialog, bundle); }), bundle);
+}
+
+TEST_F(OpenPanel, followsALinkToABundle)
+{
+    const QString bundle = makeBundle(mHome.path(), QStringLiteral("Draw.app"));
+    const QString link = mHome.path() + QStringLiteral("/link.app");
+    ASSERT_TRUE(QFile::link(bundle, link));
+    EXPECT_EQ(chooseBy([&link](QFileDialog& dialog) { typeName(dialog, link); }), bundle);
+}
+
+TEST_F(OpenPanel, opensAnyOtherFolderAndChoosesNone)
+{
+    const QString folder = makeBundle(mHome.path(), QStringLiteral("tools.desktop"));
+    QString shown;
+    EXPECT_EQ(chooseBy([&](QFileDialog& dialog) {
+        typeName(dialog, folder);
+        ASSERT_TRUE(dialog.isVisible());
+        shown = dialog.directory().canonicalPath();
+        dialog.setDirectory(mHome.path());
+        auto* const list = dialog.findChild<QListView*>(QStringLiteral("listView"));
+        list->setCurrentIndex(placeOf(dialog, QStringLiteral("tools.desktop")));
+        QTest::keyClick(list, Qt::Key_Return);
+        ASSERT_TRUE(dialog.isVisible());
+        EXPECT_EQ(dialog.directory().canonicalPath(), folder);
+        dialog.reject();
+    }),
+        std::nullopt);
+    EXPECT_EQ(shown, folder);
+}
+
+TEST_F(OpenPanel, asksAgainForAFolderThatIsNoBundle)
+{
+    // As a desktop's own dialog may give one.
+    const QString folder = makeBundle(mHome.path(), QStringLiteral("tools.desktop"));
+    int told = 0;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, qApp, [&] {
+        QWidget* const shown = QApplication::activeModalWidget();
+        if (auto* const message = qobject_cast<QMessageBox*>(shown)) {
+            ++told;
+            message->accept();
+        } else if (auto* const dialog = qobject_cast<QFileDialog*>(shown); told > 0 && dialog) {
+            dialog->reject();
+        }
+    });
+    answer.start(10);
+    EXPECT_EQ(choose(folder), std::nullopt);
+    EXPECT_EQ(told, 1);
 }
