@@ -3,11 +3,15 @@
 """The documents are true: their examples do what they say, their links lead somewhere, and what the
 user guide says is on screen is a text of the programs."""
 
+import os
+import pathlib
 import re
+import signal
 import subprocess
 import unittest
 from xml.etree import ElementTree
 
+import desktop
 import session
 
 DOCUMENTS = [session.SOURCE / "README.md", session.SOURCE / "CONTRIBUTING.md",
@@ -107,27 +111,111 @@ class UserGuide(unittest.TestCase):
                 self.assertTrue(any(form.fullmatch(text) for form in forms))
 
 
+PROTOCOL = session.SOURCE / "docs/driver-protocol.md"
+MINIMAL_DRIVER = session.SOURCE / "docs/minimal-driver.py"
+
+
 class DriverProtocol(session.Session):
+    def panel_name(self, driver):
+        """Opens a panel, without a screen; gives its connection, which the driver tells."""
+        self.env["QT_QPA_PLATFORM"] = "offscreen"
+        self.start([session.BIN / "qvtblt"])
+        line = ""
+        while not line.startswith("query from "):
+            line = session.read_line(driver.stdout, "the panel's query")
+        return line.split()[2].rstrip(":")
+
     def test_examples_work_as_written(self):
-        self.start_driver()
-        text = (session.SOURCE / "docs/driver-protocol.md").read_text()
+        self.env["PANEL"] = self.panel_name(self.start_driver())
         count = 0
-        for command, expected in examples(text):
+        for command, expected in examples(PROTOCOL.read_text()):
             with self.subTest(command=command):
                 result = self.run_program("bash", "-c", command)
                 self.assertEqual(result.stdout + result.stderr, expected)
             count += 1
-        self.assertGreaterEqual(count, 6)
+        self.assertGreaterEqual(count, 9)
 
     def test_minimal_driver_answers_the_panel(self):
-        text = (session.SOURCE / "docs/driver-protocol.md").read_text()
-        script = session.SOURCE / "docs/minimal-driver.py"
-        self.assertIn(f"```python\n{script.read_text()}```", text)
-
+        self.assertIn(f"```python\n{MINIMAL_DRIVER.read_text()}```", PROTOCOL.read_text())
         self.stop_driver(self.start_driver())  # leaves a configuration file
-        driver = self.start(["/usr/bin/python3", script], stdout=subprocess.PIPE)
+        driver = self.start(["/usr/bin/python3", MINIMAL_DRIVER], stdout=subprocess.PIPE)
         session.wait_for(lambda: self.ctl("push").returncode == 0, "the script")
         self.assertEqual(driver.stdout.readline(), "settings, 5077 bytes\n")
+
+    def test_minimal_driver_handles_no_other_event(self):
+        self.stop_driver(self.start_driver())  # leaves a configuration file
+        self.start(["/usr/bin/python3", MINIMAL_DRIVER], stdout=subprocess.PIPE)
+        session.wait_for(lambda: self.ctl("status").returncode == 0, "the script")
+        # Each code of the two events, with one of another.
+        for codes in ("0x54645367 0x67657464", "0x636F7265 0x57536E64", "1 2"):
+            result = self.run_program(
+                "busctl", "--user", "call", session.DRIVER_NAME, "/org/quorvia/AppleEvents",
+                "org.quorvia.AppleEvents1", "Send", "uua(u(uv))", *codes.split(), "0")
+            self.assertEqual(result.stderr, "Call failed: nobody handles this event\n")
+
+    def test_minimal_driver_does_not_queue_for_the_name(self):
+        self.start_driver()
+        result = self.run_program("/usr/bin/python3", MINIMAL_DRIVER)
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("NameExistsException", result.stderr)
+
+    def test_the_bus_starts_your_driver_in_place_of_ours(self):
+        self.stop_driver(self.start_driver())  # leaves a configuration file
+        command = next(command for command, _ in examples(PROTOCOL.read_text())
+                       if "dbus-1/services" in command)
+        # A bus with the folders of every session's.
+        address = f"unix:path={self.folder}/standard-bus"
+        config = self.folder / "standard-bus.conf"
+        config.write_text(session.BUS_CONFIG.format(
+            folder=self.folder, services="<standard_session_servicedirs/>").replace(
+                f"unix:path={self.folder}/bus", address))
+        self.env["XDG_DATA_DIRS"] = str(session.SERVICES.parent.parent)
+        self.env["XDG_DATA_HOME"] = str(self.home / ".local/share")
+        self.env["DBUS_SESSION_BUS_ADDRESS"] = address
+        bus = self.start(["dbus-daemon", "--nofork", "--nosyslog", "--print-address",
+                          f"--config-file={config}"], stdout=subprocess.PIPE)
+        self.assertTrue(bus.stdout.readline())
+
+        def owner():
+            """The program that the bus starts as the driver."""
+            session.wait_for(lambda: self.ctl("status").returncode == 0, "a driver")
+            found = self.run_program("busctl", "--user", "call", "org.freedesktop.DBus", "/",
+                                     "org.freedesktop.DBus", "GetConnectionUnixProcessID", "s",
+                                     session.DRIVER_NAME).stdout.split()[1]
+            return int(found), pathlib.Path(f"/proc/{found}/cmdline").read_text().split("\0")[0]
+
+        number, program = owner()
+        self.assertEqual(program, str(session.BIN / "tdsg-driver"))
+        os.kill(number, signal.SIGTERM)
+        session.wait_for(lambda: not pathlib.Path(f"/proc/{number}").exists(), "its end")
+        self.run_program("bash", "-c", command.replace(
+            "/usr/local/lib/minimal-driver.py", str(MINIMAL_DRIVER)))
+        self.run_program("busctl", "--user", "call", "org.freedesktop.DBus",
+                         "/org/freedesktop/DBus", "org.freedesktop.DBus", "ReloadConfig")
+        self.assertEqual(owner()[1], "/usr/bin/python3")
+
+
+class MinimalDriver(desktop.Desktop):
+    def test_calibrates(self):
+        self.stop_driver(self.start_driver())  # leaves a configuration file
+        driver = self.start(["/usr/bin/python3", MINIMAL_DRIVER], stdout=subprocess.PIPE)
+        session.wait_for(lambda: self.ctl("status").returncode == 0, "the script")
+        self.start([session.BIN / "qvtblt"])
+        self.click(self.find("qvtblt", "Display", "page tab"))
+        self.click(self.find("qvtblt", "Calibrate…", "push button"))
+        def wait_for_pushes(count):
+            for _ in range(count):
+                self.assertEqual(session.read_line(driver.stdout, "a push"),
+                                 "settings, 5077 bytes")
+
+        wait_for_pushes(3)  # the beginning, the end, the area
+        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.xdotool("key", "Escape")
+        wait_for_pushes(4)  # the former area, and once more
+        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.xdotool("key", "Return")
+        session.wait_for(lambda: not any(thing["name"] == "Calibration"
+                                         for thing in self.things("qvtblt")), "the end")
 
 
 if __name__ == "__main__":
