@@ -169,8 +169,6 @@ const char* QVKindName(platform::EntryKind kind)
         return "data";
     case platform::EntryKind::Date:
         return "a date";
-    case platform::EntryKind::Uid:
-        return "a reference";
     }
     return "nothing";
 }

@@ -2,64 +2,26 @@
 // SPDX-License-Identifier: MIT
 #include "PropertyList.h"
 
-#include "PropertyListShape.h"
+#include "PropertyListNode.h"
 
 #include <QByteArray>
 #include <QFile>
 #include <QSaveFile>
 #include <QTemporaryFile>
 
-#include <plist/plist.h>
-
+#include <algorithm>
 #include <cerrno>
-#include <clocale>
 #include <cmath>
-#include <cstdlib>
 #include <fcntl.h>
 #include <limits>
 #include <sys/stat.h>
 #include <system_error>
-#include <type_traits>
 #include <unistd.h>
 #include <utility>
 
 namespace platform {
 
 namespace {
-
-/**
- * libplist reads and writes reals by the locale's decimal point. While one of these lives, this
- * thread's is the point.
- */
-class DecimalPoint {
-public:
-    DecimalPoint()
-        : mBefore(uselocale(plain()))
-    {
-    }
-    ~DecimalPoint() { uselocale(mBefore); }
-    DecimalPoint(const DecimalPoint&) = delete;
-    DecimalPoint& operator=(const DecimalPoint&) = delete;
-    DecimalPoint(DecimalPoint&&) = delete;
-    DecimalPoint& operator=(DecimalPoint&&) = delete;
-
-private:
-    static locale_t plain()
-    {
-        struct Free {
-            void operator()(locale_t locale) const { freelocale(locale); }
-        };
-        static const std::unique_ptr<std::remove_pointer_t<locale_t>, Free> locale(
-            newlocale(LC_ALL_MASK, "C", nullptr));
-        return locale.get();
-    }
-
-    locale_t mBefore;
-};
-
-struct FreeXml {
-    void operator()(char* xml) const { plist_to_xml_free(xml); }
-};
 
 std::string systemText(int error)
 {
@@ -95,15 +57,23 @@ private:
     int mFd;
 };
 
-/** Reads a regular file whole, without ever waiting for another process. */
-std::optional<std::string> readFile(const std::string& path, PropertyListError& error)
+std::string tooLarge()
 {
+    return "it is larger than " + std::to_string(kPropertyListMaxSize) + " bytes";
+}
+
+/** Reads a file whole; a regular one without ever waiting for another process. */
+std::optional<std::string> readFile(
+    const std::string& path, PropertyListError& error, PropertyListSource source)
+{
+    const bool isRegular = source == PropertyListSource::RegularFile;
     const auto fail = [&](const std::string& why) {
         error.message = doing("cannot read", path, why);
         return std::nullopt;
     };
     // O_NONBLOCK: opening a FIFO would otherwise wait for a writer.
-    const Descriptor file(::open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY));
+    const Descriptor file(
+        ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | (isRegular ? O_NONBLOCK : 0)));
     if (file.get() < 0) {
         error.missing = errno == ENOENT;
         return fail(systemText(errno));
@@ -112,7 +82,7 @@ std::optional<std::string> readFile(const std::string& path, PropertyListError& 
     if (::fstat(file.get(), &status) != 0) {
         return fail(systemText(errno));
     }
-    if (!S_ISREG(status.st_mode)) {
+    if (isRegular && !S_ISREG(status.st_mode)) {
         return fail("it is no regular file");
     }
     // One byte more than the file is said to have shows that it has grown meanwhile.
@@ -129,7 +99,7 @@ std::optional<std::string> readFile(const std::string& path, PropertyListError& 
         }
         used += static_cast<std::size_t>(got);
         if (used > kPropertyListMaxSize || size > kPropertyListMaxSize) {
-            return fail("it is larger than " + std::to_string(kPropertyListMaxSize) + " bytes");
+            return fail(tooLarge());
         }
         if (got == 0) {
             bytes.resize(used);
@@ -199,67 +169,58 @@ bool Number::isWhole() const
 
 // Dictionary --------------------------------------------------------------------------------------
 
+using Kind = PropertyListNode::Kind;
+
 namespace {
 
-plist_t find(void* dictionary, const char* key)
+PropertyListNode* find(PropertyListNode* dictionary, const char* key)
 {
-    return dictionary == nullptr ? nullptr : plist_dict_get_item(dictionary, key);
+    return dictionary == nullptr ? nullptr : dictionary->find(key);
 }
 
 } // namespace
 
 EntryKind Dictionary::kind(const char* key) const
 {
-    void* const node = find(mNode, key);
+    const PropertyListNode* const node = find(mNode, key);
     if (node == nullptr) {
         return EntryKind::Absent;
     }
-    switch (plist_get_node_type(node)) {
-    case PLIST_BOOLEAN:
-    case PLIST_UINT:
-    case PLIST_REAL:
+    switch (node->kind) {
+    case Kind::True:
+    case Kind::False:
+    case Kind::Integer:
+    case Kind::Real:
         return EntryKind::Number;
-    case PLIST_STRING:
+    case Kind::String:
         return EntryKind::String;
-    case PLIST_DICT:
+    case Kind::Dictionary:
         return EntryKind::Dictionary;
-    case PLIST_ARRAY:
+    case Kind::Array:
         return EntryKind::Array;
-    case PLIST_DATE:
+    case Kind::Date:
         return EntryKind::Date;
-    case PLIST_DATA:
+    case Kind::Data:
         return EntryKind::Data;
-    case PLIST_UID:
-        return EntryKind::Uid;
-    case PLIST_KEY:
-    case PLIST_NONE:
-        break;
     }
     return EntryKind::Absent;
 }
 
 std::optional<Number> Dictionary::number(const char* key) const
 {
-    void* const node = find(mNode, key);
+    const PropertyListNode* const node = find(mNode, key);
     if (node == nullptr) {
         return std::nullopt;
     }
-    switch (plist_get_node_type(node)) {
-    case PLIST_BOOLEAN: {
-        std::uint8_t value = 0;
-        plist_get_bool_val(node, &value);
-        return Number::integer(value != 0 ? 1 : 0);
-    }
-    case PLIST_UINT: {
-        std::uint64_t value = 0;
-        plist_get_uint_val(node, &value);
-        return Number::integer(value);
-    }
-    case PLIST_REAL: {
-        double value = 0;
-        plist_get_real_val(node, &value);
-        return Number::real(value);
-    }
+    switch (node->kind) {
+    case Kind::True:
+        return Number::integer(1);
+    case Kind::False:
+        return Number::integer(0);
+    case Kind::Integer:
+        return Number::integer(propertyListInteger(node->text).value_or(0));
+    case Kind::Real:
+        return Number::real(propertyListReal(node->text).value_or(0));
     default:
         return std::nullopt;
     }
@@ -267,126 +228,117 @@ std::optional<Number> Dictionary::number(const char* key) const
 
 std::optional<std::string_view> Dictionary::string(const char* key) const
 {
-    void* const node = find(mNode, key);
-    if (node == nullptr || plist_get_node_type(node) != PLIST_STRING) {
+    const PropertyListNode* const node = find(mNode, key);
+    if (node == nullptr || node->kind != Kind::String) {
         return std::nullopt;
     }
-    std::uint64_t length = 0;
-    const char* const text = plist_get_string_ptr(node, &length);
-    return text == nullptr ? std::string_view() : std::string_view(text, length);
+    return node->text;
 }
 
 Dictionary Dictionary::dictionary(const char* key) const
 {
-    void* const node = find(mNode, key);
-    const bool isOne = node != nullptr && plist_get_node_type(node) == PLIST_DICT;
-    return Dictionary(isOne ? node : nullptr);
+    PropertyListNode* const node = find(mNode, key);
+    return Dictionary(node != nullptr && node->kind == Kind::Dictionary ? node : nullptr);
 }
 
 std::vector<std::string> Dictionary::keys() const
 {
     std::vector<std::string> keys;
-    if (mNode == nullptr) {
-        return keys;
-    }
-    plist_dict_iter iterator = nullptr;
-    plist_dict_new_iter(mNode, &iterator);
-    for (;;) {
-        char* key = nullptr;
-        plist_t value = nullptr;
-        plist_dict_next_item(mNode, iterator, &key, &value);
-        if (key == nullptr) {
-            break;
+    if (mNode != nullptr) {
+        for (const PropertyListNode& part : mNode->parts) {
+            keys.push_back(part.key);
         }
-        keys.emplace_back(key);
-        std::free(key); // NOLINT(*-no-malloc): libplist hands out malloc's memory
     }
-    std::free(iterator); // NOLINT(*-no-malloc): as above
     return keys;
+}
+
+/** The entry under the key, emptied, or a new one; null in no dictionary. */
+PropertyListNode* Dictionary::put(const char* key) const
+{
+    if (mNode == nullptr) {
+        return nullptr;
+    }
+    PropertyListNode* node = mNode->find(key);
+    if (node == nullptr) {
+        node = &mNode->parts.emplace_back();
+        node->key = key;
+    }
+    node->text.clear();
+    node->parts.clear();
+    return node;
 }
 
 void Dictionary::setInteger(const char* key, std::int64_t value)
 {
-    if (mNode != nullptr) {
-        // libplist keeps a negative number in its unsigned type and writes it with its sign.
-        plist_dict_set_item(mNode, key, plist_new_uint(static_cast<std::uint64_t>(value)));
+    if (PropertyListNode* const node = put(key)) {
+        node->kind = Kind::Integer;
+        node->text = std::to_string(value);
     }
 }
 
 void Dictionary::setBoolean(const char* key, bool value)
 {
-    if (mNode != nullptr) {
-        plist_dict_set_item(mNode, key, plist_new_bool(value ? 1 : 0));
+    if (PropertyListNode* const node = put(key)) {
+        node->kind = value ? Kind::True : Kind::False;
     }
 }
 
 void Dictionary::setString(const char* key, const std::string& value)
 {
-    if (mNode != nullptr) {
-        plist_dict_set_item(mNode, key, plist_new_string(value.c_str()));
+    if (PropertyListNode* const node = put(key)) {
+        node->kind = Kind::String;
+        node->text = value;
     }
 }
 
 Dictionary Dictionary::addDictionary(const char* key)
 {
-    if (mNode == nullptr) {
-        return {};
+    PropertyListNode* const node = put(key);
+    if (node != nullptr) {
+        node->kind = Kind::Dictionary;
     }
-    plist_t node = plist_new_dict();
-    plist_dict_set_item(mNode, key, node);
     return Dictionary(node);
 }
 
 // PropertyList ------------------------------------------------------------------------------------
 
-void PropertyList::Free::operator()(void* node) const
-{
-    plist_free(node);
-}
-
 PropertyList::PropertyList()
-    : mRoot(plist_new_dict())
+    : PropertyList(PropertyListNode())
 {
 }
 
-PropertyList::PropertyList(Node root)
-    : mRoot(std::move(root))
+PropertyList::PropertyList(PropertyListNode root)
+    : mRoot(std::make_unique<PropertyListNode>(std::move(root)))
 {
 }
+
+PropertyList::PropertyList(PropertyList&&) noexcept = default;
+PropertyList& PropertyList::operator=(PropertyList&&) noexcept = default;
+PropertyList::~PropertyList() = default;
 
 std::optional<PropertyList> PropertyList::parse(std::string_view bytes, PropertyListError& error)
 {
     if (bytes.size() > kPropertyListMaxSize) {
-        error.message = "it is larger than " + std::to_string(kPropertyListMaxSize) + " bytes";
+        error.message = tooLarge();
         return std::nullopt;
     }
-    error.message = propertyListShapeError(bytes);
-    if (!error.message.empty()) {
+    std::optional<PropertyListNode> root = bytes.starts_with(kBinaryPropertyList)
+        ? readBinaryPropertyList(bytes, error.message)
+        : readXmlPropertyList(bytes, error.message);
+    if (!root) {
         return std::nullopt;
     }
-    const DecimalPoint decimalPoint;
-    plist_t node = nullptr;
-    plist_from_memory(bytes.data(), static_cast<std::uint32_t>(bytes.size()), &node);
-    Node root(node);
-    if (root == nullptr) {
-        error.message = "it is no property list";
-        return std::nullopt;
-    }
-    if (plist_get_node_type(root.get()) != PLIST_DICT) {
+    if (root->kind != Kind::Dictionary) {
         error.message = "its root is no dictionary";
         return std::nullopt;
     }
-    PropertyList list(std::move(root));
-    // The binary form can say what XML cannot, as a key twice. So it is read as it would be
-    // written, and no save can change it.
-    return plist_is_binary(bytes.data(), static_cast<std::uint32_t>(bytes.size())) != 0
-        ? parse(list.toXml(), error)
-        : std::optional(std::move(list));
+    return PropertyList(std::move(*root));
 }
 
-std::optional<PropertyList> PropertyList::load(const std::string& path, PropertyListError& error)
+std::optional<PropertyList> PropertyList::load(
+    const std::string& path, PropertyListError& error, PropertyListSource source)
 {
-    const std::optional<std::string> bytes = readFile(path, error);
+    const std::optional<std::string> bytes = readFile(path, error, source);
     if (!bytes) {
         return std::nullopt;
     }
@@ -399,22 +351,38 @@ std::optional<PropertyList> PropertyList::load(const std::string& path, Property
 
 std::string PropertyList::toXml() const
 {
-    const DecimalPoint decimalPoint;
-    char* xml = nullptr;
-    std::uint32_t length = 0;
-    plist_to_xml(mRoot.get(), &xml, &length);
-    const std::unique_ptr<char, FreeXml> owner(xml);
-    return xml == nullptr ? std::string() : std::string(xml, length);
+    return writeXmlPropertyList(*mRoot);
 }
+
+namespace {
+
+/** Why the XML is not the list, so that it must not take the place of a file; empty when it is. */
+std::string whyNotTheSame(const std::string& xml, const PropertyListNode& root)
+{
+    if (xml.size() > kPropertyListMaxSize) {
+        return "in XML, " + tooLarge();
+    }
+    std::string why;
+    const std::optional<PropertyListNode> again = readXmlPropertyList(xml, why);
+    if (again && *again == root) {
+        return {};
+    }
+    return "it holds text that XML cannot" + (again ? std::string() : ": " + why);
+}
+
+} // namespace
 
 bool PropertyList::save(const std::string& path, PropertyListError& error) const
 {
     QSaveFile file(QFile::decodeName(QByteArray::fromStdString(path)));
-    std::string why;
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+    const std::string xml = toXml();
+    std::string why = whyNotTheSame(xml, *mRoot);
+    if (!why.empty()) {
+        // The old file stays: it holds what the new one could not.
+    } else if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
         why = file.errorString().toStdString();
     } else {
-        why = writeThrough(file, toXml());
+        why = writeThrough(file, xml);
         if (!why.empty()) {
             file.cancelWriting();
         }
@@ -433,11 +401,14 @@ bool PropertyList::saveNew(const std::string& path, PropertyListError& error) co
 {
     QTemporaryFile file(
         QFile::decodeName(QByteArray::fromStdString(path)) + QStringLiteral(".XXXXXX"));
-    std::string why;
-    if (!file.open()) {
+    const std::string xml = toXml();
+    std::string why = whyNotTheSame(xml, *mRoot);
+    if (!why.empty()) {
+        // No program could read it.
+    } else if (!file.open()) {
         why = file.errorString().toStdString();
     } else {
-        why = writeThrough(file, toXml());
+        why = writeThrough(file, xml);
         // A link, unlike a rename, never replaces a file that came into being meanwhile.
         if (why.empty()
             && (::fchmod(file.handle(), S_IRUSR | S_IWUSR) != 0

@@ -14,14 +14,15 @@
  * @file
  * Property lists: trees of dictionaries, numbers and strings in files.
  *
- * A list is loaded from its XML or its binary form and written as XML. Everything that was not
- * changed comes back as it was. Errors are results, never exceptions; nothing here writes to the
- * log. A list and its handles belong to one thread at a time.
+ * A list is loaded from its XML or its binary form and written as XML. What was not changed comes
+ * back to the letter, and a list that XML cannot hold is not written. Errors are results, never
+ * exceptions; nothing here writes to the log. A list and its handles belong to one thread at a
+ * time.
  */
 namespace platform {
 
 /** Longest file that is taken for a property list, in bytes. A configuration has about 12,000. */
-inline constexpr std::size_t kPropertyListMaxSize = std::size_t{1} << 20U;
+inline constexpr std::size_t kPropertyListMaxSize = std::size_t{16} << 20U;
 
 /** Deepest nesting of containers that is loaded. A configuration nests three deep. */
 inline constexpr int kPropertyListMaxDepth = 64;
@@ -61,7 +62,9 @@ private:
 };
 
 /** What stands under a key. */
-enum class EntryKind : std::uint8_t { Absent, Number, String, Dictionary, Array, Data, Date, Uid };
+enum class EntryKind : std::uint8_t { Absent, Number, String, Dictionary, Array, Data, Date };
+
+struct PropertyListNode;
 
 /**
  * A handle on a dictionary inside a PropertyList; valid as long as the list and that dictionary.
@@ -98,12 +101,20 @@ public:
 
 private:
     friend class PropertyList;
-    explicit Dictionary(void* node)
+    explicit Dictionary(PropertyListNode* node)
         : mNode(node)
     {
     }
 
-    void* mNode = nullptr;
+    PropertyListNode* put(const char* key) const;
+
+    PropertyListNode* mNode = nullptr;
+};
+
+/** What a list may be loaded from. */
+enum class PropertyListSource : std::uint8_t {
+    RegularFile, ///< never waits: a directory, a FIFO or a device is an error
+    AnyFile, ///< also a pipe or a terminal, up to its end
 };
 
 /** Why a file could not be loaded or saved. */
@@ -118,14 +129,18 @@ public:
     /** A new list with an empty root. */
     PropertyList();
 
-    /**
-     * Loads a regular file of at most kPropertyListMaxSize bytes. Never waits for a writer: a
-     * directory, a FIFO or a device in the file's place is an error.
-     */
-    static std::optional<PropertyList> load(const std::string& path, PropertyListError& error);
+    /** Loads a file of at most kPropertyListMaxSize bytes. */
+    static std::optional<PropertyList> load(const std::string& path, PropertyListError& error,
+        PropertyListSource source = PropertyListSource::RegularFile);
 
-    /** The same from bytes in memory. In the binary form, a list has to be as small in XML too. */
+    /** The same from bytes in memory. */
     static std::optional<PropertyList> parse(std::string_view bytes, PropertyListError& error);
+
+    PropertyList(PropertyList&&) noexcept;
+    PropertyList& operator=(PropertyList&&) noexcept;
+    PropertyList(const PropertyList&) = delete;
+    PropertyList& operator=(const PropertyList&) = delete;
+    ~PropertyList();
 
     Dictionary root() const { return Dictionary(mRoot.get()); }
 
@@ -134,8 +149,8 @@ public:
 
     /**
      * Writes the list as XML: to a temporary file in the same folder, flushed to disk, then renamed
-     * over the file. The file's mode stays. On failure the old file stands and the temporary one is
-     * gone.
+     * over the file. The file's mode stays. What is written has been parsed again and found to be
+     * this list. On failure the old file stands and the temporary one is gone.
      */
     bool save(const std::string& path, PropertyListError& error) const;
 
@@ -143,14 +158,9 @@ public:
     bool saveNew(const std::string& path, PropertyListError& error) const;
 
 private:
-    struct Free {
-        void operator()(void* node) const;
-    };
-    using Node = std::unique_ptr<void, Free>;
+    explicit PropertyList(PropertyListNode root);
 
-    explicit PropertyList(Node root);
-
-    Node mRoot;
+    std::unique_ptr<PropertyListNode> mRoot;
 };
 
 } // namespace platform

@@ -1,0 +1,351 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "PropertyListNode.h"
+
+#include <QByteArray>
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <utility>
+
+namespace platform {
+
+namespace {
+
+using Node = PropertyListNode;
+using Kind = Node::Kind;
+
+constexpr std::size_t kMagicSize = 8; // "bplist00"
+constexpr std::size_t kTrailerSize = 32;
+
+/** The shortest text that is read as the same real. */
+std::string realText(double value)
+{
+    std::array<char, 32> text{};
+    const auto [end, status] = std::to_chars(text.data(), text.data() + text.size(), value);
+    return {text.data(), end};
+}
+
+/** A date by its seconds since the beginning of 2001; nothing outside of the years 1 to 9999. */
+std::optional<std::string> dateText(double seconds)
+{
+    using namespace std::chrono;
+    constexpr sys_seconds kBegin = sys_days(2001y / January / 1);
+    constexpr sys_seconds kFirst = sys_days(1y / January / 1);
+    constexpr sys_seconds kEnd = sys_days(10000y / January / 1);
+    const double whole = std::floor(seconds);
+    if (!(whole >= static_cast<double>((kFirst - kBegin).count())
+            && whole < static_cast<double>((kEnd - kBegin).count()))) {
+        return std::nullopt;
+    }
+    const sys_seconds time = kBegin + std::chrono::seconds(static_cast<std::int64_t>(whole));
+    const sys_days day = floor<days>(time);
+    const year_month_day date(day);
+    const hh_mm_ss clock(time - day);
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ",
+        static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
+        static_cast<unsigned>(date.day()), static_cast<int>(clock.hours().count()),
+        static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()));
+    return std::string(text.data());
+}
+
+/**
+ * Reads the binary form.
+ *
+ * Layout: "bplist00", the objects, a table of their offsets, and a trailer of 32 bytes. The trailer
+ * holds, at these places: 6 the bytes per offset, 7 the bytes per reference, 8 the number of
+ * objects, 16 the top object, 24 where the table begins; the last three have 8 bytes. All integers
+ * are big-endian. An object begins with a byte whose high half is its type and whose low half is
+ * its size or count, or 15 when an integer object with the count follows. A container (0xA: an
+ * array, 0xD: a dictionary, its keys before its values) holds references to objects.
+ *
+ * Containers may share objects, and each sharing makes a value of its own; so a small file can
+ * stand for a list of any size, or hold itself. The limits of depth, of values and of bytes hold
+ * for what has been made, so that none of this goes far.
+ */
+class BinaryReader {
+public:
+    explicit BinaryReader(std::string_view bytes)
+        : mBytes(bytes)
+    {
+    }
+
+    std::optional<Node> read(std::string& why)
+    {
+        Node root;
+        if (!readTrailer() || !readNode(mTop, root, 0)) {
+            why = std::move(mWhy);
+            return std::nullopt;
+        }
+        return root;
+    }
+
+private:
+    /** An object without its first byte. */
+    struct Object {
+        std::size_t at = 0; ///< of what follows
+        unsigned type = 0;
+        unsigned low = 0; ///< half of the first byte
+        std::uint64_t count = 0; ///< for the types that have one
+    };
+
+    bool refuse(std::string why)
+    {
+        mWhy = std::move(why);
+        return false;
+    }
+
+    std::size_t byteAt(std::size_t at) const { return static_cast<unsigned char>(mBytes[at]); }
+
+    std::uint64_t number(std::size_t at, std::size_t width) const
+    {
+        std::uint64_t value = 0;
+        for (std::size_t i = 0; i < width; ++i) {
+            value = value << 8U | byteAt(at + i);
+        }
+        return value;
+    }
+
+    bool has(std::size_t at, std::uint64_t size) const { return mEnd - at >= size; }
+
+    bool readTrailer()
+    {
+        if (mBytes.size() < kMagicSize + kTrailerSize) {
+            return refuse("the binary list is too short");
+        }
+        mEnd = mBytes.size() - kTrailerSize;
+        mOffsetSize = byteAt(mEnd + 6);
+        mReferenceSize = byteAt(mEnd + 7);
+        mCount = number(mEnd + 8, 8);
+        mTop = number(mEnd + 16, 8);
+        mTable = number(mEnd + 24, 8);
+        const auto isWidth = [](std::size_t width) { return width >= 1 && width <= 8; };
+        if (!isWidth(mOffsetSize) || !isWidth(mReferenceSize) || mTop >= mCount || mTable > mEnd
+            || mCount > (mEnd - mTable) / mOffsetSize) {
+            return refuse("the binary list's trailer contradicts its size");
+        }
+        return true;
+    }
+
+    bool readObject(std::uint64_t index, Object& object)
+    {
+        const std::uint64_t offset = number(mTable + index * mOffsetSize, mOffsetSize);
+        if (offset < kMagicSize || offset >= mEnd) {
+            return refuse("an object lies outside of the list");
+        }
+        const std::size_t marker = byteAt(offset);
+        object = {offset + 1, static_cast<unsigned>(marker >> 4U),
+            static_cast<unsigned>(marker & 0xFU), marker & 0xFU};
+        if (object.type < 4 || object.type == 8 || object.count != 15) {
+            return true;
+        }
+        const std::size_t width =
+            has(object.at, 1) ? std::size_t{1} << (byteAt(object.at) & 0xFU) : 0;
+        if (!has(object.at, 1) || byteAt(object.at) >> 4U != 1 || width > 8
+            || !has(object.at + 1, width)) {
+            return refuse("a count is no integer");
+        }
+        object.count = number(object.at + 1, width);
+        object.at += 1 + width;
+        return true;
+    }
+
+    /** Reads the object into the node, with what is in it. @param depth containers around it */
+    bool readNode(std::uint64_t index, Node& node, int depth)
+    {
+        if (++mNodes > kPropertyListMaxNodes) {
+            return refuse(propertyListTooManyNodes());
+        }
+        Object object;
+        if (!readObject(index, object)) {
+            return false;
+        }
+        switch (object.type) {
+        case 0x0:
+            node.kind = object.low == 9 ? Kind::True : Kind::False;
+            return object.low == 8 || object.low == 9 || refuse("an object of an unknown type");
+        case 0x1:
+            node.kind = Kind::Integer;
+            return readInteger(object, node.text);
+        case 0x2:
+            node.kind = Kind::Real;
+            return readReal(object, node.text);
+        case 0x3:
+            node.kind = Kind::Date;
+            return readDate(object, node.text);
+        case 0x4:
+            node.kind = Kind::Data;
+            return readData(object, node.text);
+        case 0x5:
+        case 0x6:
+            node.kind = Kind::String;
+            return readString(object, node.text);
+        case 0x8:
+            return readReference(object, node);
+        case 0xA:
+        case 0xD:
+            node.kind = object.type == 0xA ? Kind::Array : Kind::Dictionary;
+            return readContainer(object, node, depth + 1);
+        default:
+            return refuse("an object of an unknown type");
+        }
+    }
+
+    bool readInteger(const Object& object, std::string& text)
+    {
+        const std::size_t width = std::size_t{1} << object.low;
+        if (object.low > 4 || !has(object.at, width)) {
+            return refuse("an integer is longer than the list");
+        }
+        const std::uint64_t low =
+            number(object.at + (width == 16 ? 8 : 0), std::min<std::size_t>(width, 8));
+        // From eight bytes on they have a sign.
+        const bool isNegative = width >= 8 && byteAt(object.at) >= 0x80;
+        if (width == 16) {
+            const std::uint64_t high = number(object.at, 8);
+            if (high != (isNegative ? ~std::uint64_t{0} : 0) || (isNegative && low >> 63U == 0)) {
+                return refuse("an integer does not fit into 64 bits");
+            }
+        }
+        text = isNegative ? std::to_string(static_cast<std::int64_t>(low)) : std::to_string(low);
+        return true;
+    }
+
+    bool readReal(const Object& object, std::string& text)
+    {
+        const std::size_t width = std::size_t{1} << object.low;
+        if ((width != 4 && width != 8) || !has(object.at, width)) {
+            return refuse("a real is longer than the list");
+        }
+        const std::uint64_t bits = number(object.at, width);
+        text = realText(width == 8
+                ? std::bit_cast<double>(bits)
+                : static_cast<double>(std::bit_cast<float>(static_cast<std::uint32_t>(bits))));
+        return true;
+    }
+
+    bool readDate(const Object& object, std::string& text)
+    {
+        if (object.low != 3 || !has(object.at, 8)) {
+            return refuse("a date is longer than the list");
+        }
+        const auto date = dateText(std::bit_cast<double>(number(object.at, 8)));
+        text = date.value_or(std::string());
+        return date || refuse("a date lies outside of the years 1 to 9999");
+    }
+
+    /** Counts what a text takes, before it is made. */
+    bool readText(const Object& object, std::size_t perUnit)
+    {
+        if (object.count > (mEnd - object.at) / perUnit) {
+            return refuse("a text is longer than the list");
+        }
+        mTextBytes += object.count * perUnit;
+        return mTextBytes <= kPropertyListMaxSize
+            || refuse(
+                "its texts are longer than " + std::to_string(kPropertyListMaxSize) + " bytes");
+    }
+
+    bool readData(const Object& object, std::string& text)
+    {
+        if (!readText(object, 1)) {
+            return false;
+        }
+        const QByteArray data =
+            QByteArray::fromRawData(mBytes.data() + object.at, static_cast<int>(object.count));
+        text = data.toBase64().toStdString();
+        return true;
+    }
+
+    bool readString(const Object& object, std::string& text)
+    {
+        const bool isWide = object.type == 6;
+        if (!readText(object, isWide ? 2 : 1)) {
+            return false;
+        }
+        if (!isWide) {
+            text = mBytes.substr(object.at, object.count);
+            return isUtf8(text) || refuse("a string is no text");
+        }
+        std::u16string wide;
+        for (std::size_t i = 0; i < object.count; ++i) {
+            wide += static_cast<char16_t>(number(object.at + 2 * i, 2));
+        }
+        appendUtf8(text, wide);
+        return true;
+    }
+
+    /** XML has no references between objects of an archive; this is how such a list spells them. */
+    bool readReference(const Object& object, Node& node)
+    {
+        const std::size_t width = object.low + 1;
+        if (width > 8 || !has(object.at, width)) {
+            return refuse("a reference is longer than the list");
+        }
+        node.kind = Kind::Dictionary;
+        Node& value = node.parts.emplace_back();
+        value.key = "CF$UID";
+        value.kind = Kind::Integer;
+        value.text = std::to_string(number(object.at, width));
+        return true;
+    }
+
+    bool readContainer(const Object& object, Node& node, int depth)
+    {
+        if (depth > kPropertyListMaxDepth) {
+            return refuse(propertyListTooDeep());
+        }
+        const std::size_t perPart = node.kind == Kind::Dictionary ? 2 : 1;
+        if (object.count > (mEnd - object.at) / mReferenceSize / perPart) {
+            return refuse("a container is longer than the list");
+        }
+        const auto reference = [&](std::uint64_t i) {
+            return number(object.at + i * mReferenceSize, mReferenceSize);
+        };
+        for (std::uint64_t i = 0; i < object.count; ++i) {
+            const std::uint64_t value = reference(i + (perPart - 1) * object.count);
+            if (value >= mCount || reference(i) >= mCount) {
+                return refuse("a container refers to an object that is not there");
+            }
+            Node& part = node.parts.emplace_back();
+            Object key;
+            if (perPart == 2 && !readObject(reference(i), key)) {
+                return false;
+            }
+            if (perPart == 2 && key.type != 5 && key.type != 6) {
+                return refuse("a key is no string");
+            }
+            if ((perPart == 2 && !readString(key, part.key)) || !readNode(value, part, depth)) {
+                return false;
+            }
+        }
+        node.dropOlderValues();
+        return true;
+    }
+
+    std::string_view mBytes;
+    std::size_t mEnd = 0; ///< of what objects may lie in: where the trailer begins
+    std::size_t mOffsetSize = 0;
+    std::size_t mReferenceSize = 0;
+    std::uint64_t mCount = 0;
+    std::uint64_t mTop = 0;
+    std::uint64_t mTable = 0;
+    std::size_t mNodes = 0; ///< made so far
+    std::size_t mTextBytes = 0; ///< of the strings and data made so far
+    std::string mWhy;
+};
+
+} // namespace
+
+std::optional<PropertyListNode> readBinaryPropertyList(std::string_view bytes, std::string& why)
+{
+    return BinaryReader(bytes).read(why);
+}
+
+} // namespace platform

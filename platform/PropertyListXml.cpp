@@ -1,0 +1,438 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "PropertyListNode.h"
+
+#include <QXmlStreamReader>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <utility>
+#include <vector>
+
+namespace platform {
+
+namespace {
+
+using Node = PropertyListNode;
+using Kind = Node::Kind;
+
+struct Tag {
+    const char* name;
+    Kind kind;
+};
+
+/** The most frequent first. */
+constexpr std::array<Tag, 9> kTags{{{"integer", Kind::Integer}, {"string", Kind::String},
+    {"dict", Kind::Dictionary}, {"true", Kind::True}, {"false", Kind::False}, {"real", Kind::Real},
+    {"array", Kind::Array}, {"data", Kind::Data}, {"date", Kind::Date}}};
+
+const char* tagName(Kind kind)
+{
+    return std::ranges::find(kTags, kind, &Tag::kind)->name;
+}
+
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
+std::string_view trimmed(std::string_view text)
+{
+    while (!text.empty() && isBlank(text.front())) {
+        text.remove_prefix(1);
+    }
+    while (!text.empty() && isBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    return text;
+}
+
+/** The beginning of a text in single quotes; each byte that is not plain is a question mark. */
+std::string shown(std::string_view text)
+{
+    std::string quoted(1, '\'');
+    for (const char c : text.substr(0, 32)) {
+        quoted += c >= ' ' && c <= '~' ? c : '?';
+    }
+    quoted += '\'';
+    return quoted;
+}
+
+/** The form of ISO 8601 that property lists use: 2026-11-21T02:46:00Z. */
+bool isDate(std::string_view text)
+{
+    constexpr std::string_view kForm = "0000-00-00T00:00:00Z";
+    return std::ranges::equal(text, kForm,
+        [](char c, char form) { return form == '0' ? c >= '0' && c <= '9' : c == form; });
+}
+
+// Reading -----------------------------------------------------------------------------------------
+
+class XmlReader {
+public:
+    explicit XmlReader(std::string_view bytes)
+        : mBytes(bytes)
+    {
+        // The dictionaries of a list are known by their tags' whole names.
+        mXml.setNamespaceProcessing(false);
+        const auto* const raw = reinterpret_cast<const unsigned char*>(bytes.data());
+        // UTF-16 shows by its mark, or by the NUL beside the first '<'. The reader takes it
+        // decoded, whatever order the declaration claims.
+        const bool isWide = bytes.size() >= 2
+            && ((raw[0] == 0xFF && raw[1] == 0xFE) || (raw[0] == 0xFE && raw[1] == 0xFF)
+                || (raw[0] == '<' && raw[1] == 0) || (raw[0] == 0 && raw[1] == '<'));
+        if (!isWide) {
+            mXml.addData(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
+            return;
+        }
+        const bool isBigEndian = raw[0] == 0xFE || raw[0] == 0;
+        const std::size_t mark = raw[0] >= 0xFE ? 2 : 0;
+        QString text;
+        text.reserve(static_cast<int>(bytes.size() / 2));
+        for (std::size_t at = mark; at + 1 < bytes.size(); at += 2) {
+            const unsigned high = raw[isBigEndian ? at : at + 1];
+            const unsigned low = raw[isBigEndian ? at + 1 : at];
+            text.append(QChar(static_cast<char16_t>(high << 8U | low)));
+        }
+        mIsDecoded = true;
+        if (bytes.size() % 2 != 0 || !text.isValidUtf16()) {
+            refuse("it is not valid UTF-16");
+        }
+        mXml.addData(text);
+    }
+
+    std::optional<Node> read(std::string& why)
+    {
+        while (mWhy.empty() && !mXml.atEnd()) {
+            step();
+        }
+        if (mWhy.empty() && mXml.hasError()) {
+            mWhy = mXml.errorString().toStdString() + " (line " + std::to_string(mXml.lineNumber())
+                + ")";
+        }
+        if (mWhy.empty() && !mHasRoot) {
+            mWhy = "it holds no value";
+        }
+        if (!mWhy.empty()) {
+            why = std::move(mWhy);
+            return std::nullopt;
+        }
+        return std::move(mRoot);
+    }
+
+private:
+    void refuse(std::string why)
+    {
+        if (mWhy.empty()) {
+            mWhy = std::move(why);
+        }
+    }
+
+    void step()
+    {
+        switch (mXml.readNext()) {
+        case QXmlStreamReader::StartDocument:
+            checkEncoding();
+            break;
+        case QXmlStreamReader::DTD:
+            // No list needs entities of its own, and no reader need expand them.
+            if (mXml.text().contains(QLatin1Char('['))) {
+                refuse("a document type with definitions");
+            }
+            break;
+        case QXmlStreamReader::StartElement:
+            begin();
+            break;
+        case QXmlStreamReader::EndElement:
+            end();
+            break;
+        case QXmlStreamReader::Characters:
+            if (!mXml.isWhitespace()) {
+                refuse(
+                    "text where a value belongs (line " + std::to_string(mXml.lineNumber()) + ")");
+            }
+            break;
+        case QXmlStreamReader::EntityReference:
+            refuse("an entity that is not defined");
+            break;
+        default:
+            break;
+        }
+    }
+
+    /** UTF-8 that is broken is refused; what another encoding cannot decode shows in the texts. */
+    void checkEncoding()
+    {
+        const QString encoding = mXml.documentEncoding().toString().toUpper();
+        const bool isUtf8Declared = encoding.isEmpty() || encoding == QLatin1String("UTF-8")
+            || encoding == QLatin1String("US-ASCII");
+        if (!mIsDecoded && isUtf8Declared) {
+            mIsDecoded = true;
+            if (!isUtf8(mBytes)) {
+                refuse("it is not valid UTF-8");
+            }
+        }
+    }
+
+    void begin()
+    {
+        const auto name = mXml.name();
+        if (name == QLatin1String("key")) {
+            if (mOpen.empty() || mOpen.back()->kind != Kind::Dictionary || mHasKey) {
+                refuse("a key where a value belongs");
+                return;
+            }
+            mKey.clear();
+            readText(mKey);
+            mHasKey = true;
+            return;
+        }
+        if (name == QLatin1String("plist") && mOpen.empty() && !mInPlist && !mHasRoot) {
+            mInPlist = true;
+            return;
+        }
+        const auto tag = std::ranges::find_if(
+            kTags, [&](const Tag& known) { return name == QLatin1String(known.name); });
+        if (tag == kTags.end()) {
+            refuse("unknown tag " + shown(name.toString().toStdString()));
+            return;
+        }
+        Node* const node = place(tag->kind);
+        if (node == nullptr) {
+            return;
+        }
+        if (!node->isContainer()) {
+            readText(node->text);
+            check(*node);
+        } else if (mOpen.size() == static_cast<std::size_t>(kPropertyListMaxDepth)) {
+            refuse(propertyListTooDeep());
+        } else {
+            mOpen.push_back(node);
+        }
+    }
+
+    /** Makes the value that begins here; null when it may not stand here. */
+    Node* place(Kind kind)
+    {
+        if (++mNodes > kPropertyListMaxNodes) {
+            refuse(propertyListTooManyNodes());
+            return nullptr;
+        }
+        if (mOpen.empty()) {
+            if (std::exchange(mHasRoot, true)) {
+                refuse("a second list follows the first");
+                return nullptr;
+            }
+            mRoot.kind = kind;
+            return &mRoot;
+        }
+        Node& container = *mOpen.back();
+        if (container.kind == Kind::Dictionary && !mHasKey) {
+            refuse("a value without a key");
+            return nullptr;
+        }
+        Node& node = container.parts.emplace_back();
+        node.kind = kind;
+        if (std::exchange(mHasKey, false)) {
+            node.key = std::move(mKey);
+        }
+        return &node;
+    }
+
+    void end()
+    {
+        if (mOpen.empty()) {
+            return; // </plist>
+        }
+        if (mHasKey) {
+            refuse("a key without a value");
+        }
+        mOpen.back()->dropOlderValues();
+        mOpen.pop_back();
+    }
+
+    /** Reads up to the element's end. Comments in between are no part of its text. */
+    void readText(std::string& text)
+    {
+        for (;;) {
+            switch (mXml.readNext()) {
+            case QXmlStreamReader::Characters: {
+                const auto part = mXml.text();
+                if (!mIsDecoded && part.contains(QChar(QChar::ReplacementCharacter))) {
+                    refuse("it is not in the encoding that it declares");
+                }
+                appendUtf8(text,
+                    {reinterpret_cast<const char16_t*>(part.data()),
+                        static_cast<std::size_t>(part.size())});
+                break;
+            }
+            case QXmlStreamReader::Comment:
+            case QXmlStreamReader::ProcessingInstruction:
+                break;
+            case QXmlStreamReader::EndElement:
+            case QXmlStreamReader::Invalid:
+                return;
+            default:
+                refuse(shown(text) + " is interrupted");
+                return;
+            }
+        }
+    }
+
+    /** Refuses a scalar that no reader could take for one. */
+    void check(const Node& node)
+    {
+        const std::string_view text = trimmed(node.text);
+        switch (node.kind) {
+        case Kind::Integer:
+            if (!propertyListInteger(text)) {
+                refuse(shown(text) + " is no integer of 64 bits");
+            }
+            break;
+        case Kind::Real:
+            if (!propertyListReal(text)) {
+                refuse(shown(text) + " is no real");
+            }
+            break;
+        case Kind::Date:
+            if (!isDate(text)) {
+                refuse(shown(text) + " is no date");
+            }
+            break;
+        case Kind::True:
+        case Kind::False:
+            if (!text.empty()) {
+                refuse(shown(text) + " in a boolean");
+            }
+            break;
+        default:
+            break;
+        }
+    }
+
+    std::string_view mBytes;
+    QXmlStreamReader mXml;
+    bool mIsDecoded = false; ///< what is not valid in its encoding has been found out
+    std::vector<Node*> mOpen; ///< containers, from the root inwards
+    bool mInPlist = false;
+    bool mHasRoot = false;
+    Node mRoot;
+    bool mHasKey = false; ///< the next value's
+    std::string mKey;
+    std::size_t mNodes = 0;
+    std::string mWhy;
+};
+
+// Writing -----------------------------------------------------------------------------------------
+
+void writeText(std::string& xml, std::string_view text)
+{
+    for (const char c : text) {
+        switch (c) {
+        case '&':
+            xml += "&amp;";
+            break;
+        case '<':
+            xml += "&lt;";
+            break;
+        case '>':
+            xml += "&gt;";
+            break;
+        case '\r':
+            xml += "&#13;"; // else readers take it for the end of a line
+            break;
+        default:
+            xml += c;
+        }
+    }
+}
+
+void writeElement(std::string& xml, std::string_view name, std::string_view text)
+{
+    xml += '<';
+    xml += name;
+    xml += '>';
+    writeText(xml, text);
+    xml += "</";
+    xml += name;
+    xml += ">\n";
+}
+
+void writeNode(std::string& xml, const Node& node, std::size_t depth)
+{
+    const char* const name = tagName(node.kind);
+    xml.append(depth, '\t');
+    if (!node.isContainer() && node.kind != Kind::True && node.kind != Kind::False) {
+        writeElement(xml, name, node.text);
+        return;
+    }
+    xml += '<';
+    xml += name;
+    if (node.parts.empty()) {
+        xml += "/>\n";
+        return;
+    }
+    xml += ">\n";
+    for (const Node& part : node.parts) {
+        if (node.kind == Kind::Dictionary) {
+            xml.append(depth + 1, '\t');
+            writeElement(xml, "key", part.key);
+        }
+        writeNode(xml, part, depth + 1);
+    }
+    xml.append(depth, '\t');
+    xml += "</";
+    xml += name;
+    xml += ">\n";
+}
+
+} // namespace
+
+std::optional<PropertyListNode> readXmlPropertyList(std::string_view bytes, std::string& why)
+{
+    return XmlReader(bytes).read(why);
+}
+
+std::string writeXmlPropertyList(const PropertyListNode& root)
+{
+    std::string xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n";
+    writeNode(xml, root, 0);
+    return xml + "</plist>\n";
+}
+
+std::optional<std::uint64_t> propertyListInteger(std::string_view text)
+{
+    text = trimmed(text);
+    const bool isNegative = text.starts_with('-');
+    if (isNegative || text.starts_with('+')) {
+        text.remove_prefix(1);
+    }
+    const bool isHex = text.starts_with("0x") || text.starts_with("0X");
+    if (isHex) {
+        text.remove_prefix(2);
+    }
+    std::uint64_t value = 0;
+    const auto [rest, status] =
+        std::from_chars(text.data(), text.data() + text.size(), value, isHex ? 16 : 10);
+    constexpr std::uint64_t kLargestNegative = std::uint64_t{1} << 63U;
+    if (status != std::errc() || rest != text.data() + text.size()
+        || (isNegative && value > kLargestNegative)) {
+        return std::nullopt;
+    }
+    return isNegative ? 0 - value : value;
+}
+
+std::optional<double> propertyListReal(std::string_view text)
+{
+    text = trimmed(text);
+    if (text.starts_with('+')) {
+        text.remove_prefix(1);
+    }
+    double value = 0;
+    const auto [rest, status] = std::from_chars(text.data(), text.data() + text.size(), value);
+    return status == std::errc() && rest == text.data() + text.size() ? std::optional(value)
+                                                                      : std::nullopt;
+}
+
+} // namespace platform
