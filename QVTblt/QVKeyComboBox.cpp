@@ -54,6 +54,12 @@ QString drawnText(const QString& text, int item)
     return drawn;
 }
 
+/** Where a text is shortened that does not fit: a path's end is what names the program. */
+Qt::TextElideMode elideModeOf(int item)
+{
+    return item == QVKeyComboBox::Application ? Qt::ElideLeft : Qt::ElideMiddle;
+}
+
 /** A tooltip that shows the text as it is, whatever a path may look like. */
 QString toolTipOf(const QString& text)
 {
@@ -77,6 +83,7 @@ protected:
     {
         QStyledItemDelegate::initStyleOption(option, index);
         option->text = drawnText(option->text, index.row());
+        option->textElideMode = elideModeOf(index.row());
     }
 };
 
@@ -183,8 +190,8 @@ void QVKeyComboBox::paintEvent(QPaintEvent* event)
     QStylePainter painter(this);
     QStyleOptionComboBox option;
     initStyleOption(&option);
-    option.currentText = fontMetrics().elidedText(
-        drawnText(option.currentText, currentIndex()), Qt::ElideMiddle, textWidth(option, this));
+    option.currentText = fontMetrics().elidedText(drawnText(option.currentText, currentIndex()),
+        elideModeOf(currentIndex()), textWidth(option, this));
     painter.drawComplexControl(QStyle::CC_ComboBox, option);
     const int missing = missingMargin(option, this);
     if (option.direction == Qt::RightToLeft) {

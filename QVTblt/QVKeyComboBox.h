@@ -9,8 +9,8 @@
  *
  * The list is chosen from as from a menu: nothing is chosen by the wheel, or by a key while the
  * list is closed, since every choice works at once and some open a window. Two items stand for what
- * the user has chosen through them; a text of theirs that does not fit is shortened in the middle
- * and whole in the tooltip.
+ * the user has chosen through them; a text of theirs that does not fit is whole in the tooltip. A
+ * path is shortened at its beginning, since its end names the program, keys are in their middle.
  */
 class QVKeyComboBox final : public QComboBox {
     Q_OBJECT

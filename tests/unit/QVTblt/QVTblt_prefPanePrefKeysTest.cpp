@@ -988,7 +988,8 @@ TEST_F(KeyPage, theSlidersValueIsPushedAtOnce)
     auto& slider = outlet<QSlider>("mScrollSpeed");
     slider.setValue(4);
     QTest::keyClick(&slider, Qt::Key_Right);
-    ASSERT_GE(pushes().size(), 1U);
+    ASSERT_EQ(pushes().size(), 2U);
+    EXPECT_EQ(+pushes().front().Key.ScrollSpeed, 4);
     EXPECT_EQ(+pushes().back().Key.ScrollSpeed, 5);
 }
 
