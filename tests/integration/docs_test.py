@@ -12,6 +12,7 @@ import unittest
 from xml.etree import ElementTree
 
 import desktop
+import pages
 import session
 
 DOCUMENTS = [session.SOURCE / "README.md", session.SOURCE / "CONTRIBUTING.md",
@@ -109,6 +110,39 @@ class UserGuide(unittest.TestCase):
         for text in sorted(set(bold)):
             with self.subTest(text):
                 self.assertTrue(any(form.fullmatch(text) for form in forms))
+
+
+class Pictures(desktop.Desktop):
+    """What the guide's pictures show is what the panel looks like."""
+
+    RETAKE = "run docs/make-screenshots, and look at what it has made"
+
+    def look(self, name, tab=None):
+        panel = self.start([session.BIN / "qvtblt"])
+        if tab is None:
+            self.find("qvtblt", "No tablet was found", "label")
+        else:
+            self.click(self.find("qvtblt", tab, "page tab"))
+            self.find("qvtblt", pages.CONTROLS[tab])
+        seen = pages.structure(self.things("qvtblt"))
+        self.assertEqual(seen, pages.written()[name], self.RETAKE)
+        panel.terminate()
+        panel.wait(timeout=20)
+
+    def test_each_page_is_as_on_its_picture(self):
+        for name, product, tab in pages.pages():
+            with self.subTest(name):
+                driver = self.start_driver("--attach", str(product))
+                self.look(name, tab)
+                self.stop_driver(driver)
+
+    def test_the_panel_without_a_tablet_is_as_on_its_picture(self):
+        self.start_driver("--attach", "none")
+        self.look("noTablet")
+
+    def test_no_picture_is_of_a_page_that_is_gone(self):
+        self.assertEqual(set(pages.written()),
+                         {name for name, _, _ in pages.pages()} | {"noTablet"})
 
 
 PROTOCOL = session.SOURCE / "docs/driver-protocol.md"
