@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """Whole calibrations: a real display beside the main one, the real driver, taps by script."""
 
+import plistlib
 import signal
 import struct
 import subprocess
@@ -152,6 +153,39 @@ class Calibration(displays.Displays):
         self.panel.send_signal(signal.SIGTERM)
         self.assertEqual(self.panel.wait(timeout=20), 0)
         self.wait_for_flag(0)
+
+    def area_in_file(self):
+        monitor = plistlib.loads(self.config().read_bytes())["Monitor"]
+        return tuple(monitor[f"cTablet{edge}"] for edge in ("Xmin", "Xmax", "Ymin", "Ymax"))
+
+    def expect_ended_as_before(self, before):
+        self.panel.send_signal(signal.SIGTERM)
+        self.assertEqual(self.panel.wait(timeout=20), 0)
+        session.wait_for(lambda: (self.flag(), self.area()) == (0, before), "the last push")
+        self.assertEqual(self.area_in_file(), before)
+        self.assertEqual(plistlib.loads(self.config().read_bytes())["Monitor"]["disableFlag"], 0)
+
+    def test_a_panel_told_to_end_while_it_asks_keeps_the_area_from_before(self):
+        before = self.area()
+        self.assertNotEqual(before, AREA)
+        self.tap(TAPS)
+        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.assertEqual(self.area(), AREA)
+        self.expect_ended_as_before(before)
+
+    def test_a_panel_told_to_end_while_it_says_what_was_wrong_frees_the_driver(self):
+        before = self.area()
+        self.tap((TAPS[1], TAPS[0], TAPS[3], TAPS[2]))
+        self.find("qvtblt", "The crosses were not touched in their order. "
+                            "Please begin again at the first one.")
+        self.expect_ended_as_before(before)
+
+    def test_a_caps_lock_that_is_escape_ends_it(self):
+        result = self.run_program("setxkbmap", "-option", "caps:escape")
+        self.assertEqual(result.returncode, 0, result.stderr)
+        self.xdotool("key", "66")  # the place of Caps Lock
+        self.wait_for_flag(0)
+        session.wait_for(lambda: not self.is_open(), "the window's end")
 
     def test_a_driver_that_dies_and_comes_back_can_be_calibrated_anew(self):
         self.tap(TAPS[:2])

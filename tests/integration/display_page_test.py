@@ -2,6 +2,7 @@
 # SPDX-License-Identifier: MIT
 """The display page on real displays that come, go, move and turn while the page is shown."""
 
+import plistlib
 import struct
 import subprocess
 import time
@@ -130,15 +131,49 @@ class DisplayPage(Page):
         self.expect_page(*places)
 
 
+class ChosenSecond(Page):
+    """The second display is chosen from the beginning."""
+
+    def start_driver(self):
+        self.plug(1, "800x600", "1024x0")
+        driver = super().start_driver()
+        settings = plistlib.loads(self.config().read_bytes())
+        settings["Monitor"]["num"] = 2
+        self.config().write_bytes(plistlib.dumps(settings))
+        return driver
+
+    def expect_second(self):
+        self.press("qvtblt", "Keep proportions", "push button")
+        session.wait_for(lambda: self.mapped() == (1024, 0, 800, 600), "the area")
+        self.press("qvtblt", "Calibrate…", "push button")
+        ScaledDisplay.expect_second_covered(self)
+
+
+class DenseMainDisplay(ChosenSecond):
+    SETTINGS = {"QT_SCREEN_SCALE_FACTORS": "DUMMY0=2"}
+
+    def test_the_display_beside_it_is_mapped_and_covered(self):
+        self.expect_second()
+
+
+class ScaledSession(ChosenSecond):
+    SETTINGS = {"QT_SCALE_FACTOR": "1.5"}
+
+    def test_the_display_beside_the_main_one_is_mapped_and_covered(self):
+        self.expect_second()
+
+
 class ScaledDisplay(Page):
     SETTINGS = {"QT_SCREEN_SCALE_FACTORS": "DUMMY1=2"}
 
-    def test_a_display_of_another_density_counts_in_points(self):
+    def test_a_display_of_another_density_is_as_large_as_to_the_window_system(self):
         self.plug(1, "800x600", "1024x0")
-        self.expect_page((0, 0, 1024, 768), (1024, 0, 400, 300))
-        # To the window system it is as large as ever, and is covered.
+        self.expect_page((0, 0, 1024, 768), (1024, 0, 800, 600))
         self.choose(2)
         self.click(self.find("qvtblt", "Calibrate…", "push button"))
+        self.expect_second_covered()
+
+    def expect_second_covered(self):
         window = session.wait_for(
             lambda: self.run_program("xdotool", "search", "--onlyvisible", "--name",
                                      "^Calibration$").stdout.split(), "the window")[0]

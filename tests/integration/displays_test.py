@@ -19,11 +19,18 @@ NOTICES = sys.argv.pop(1)
 class Notices(displays.Displays):
     def setUp(self):
         super().setUp()
-        self.lines = queue.Queue()
+        self.watch()
+        self.expect_now("0,0,1024,768*")
+
+    def watch(self):
+        lines = self.lines = queue.Queue()
         program = self.start([NOTICES], stdout=subprocess.PIPE)
-        threading.Thread(target=lambda: [self.lines.put(line.split()) for line in program.stdout],
+        threading.Thread(target=lambda: [lines.put(line.split()) for line in program.stdout],
                          daemon=True).start()
-        self.assertEqual(self.lines.get(timeout=20), ["now", "0,0,1024,768*"])
+
+    def expect_now(self, *bounds):
+        what, *places = self.lines.get(timeout=20)
+        self.assertEqual((what, sorted(places)), ("now", sorted(bounds)))
 
     def expect_change(self, *bounds):
         """One change: it begins once, ends once, and then all displays are where they belong."""
@@ -51,6 +58,25 @@ class Notices(displays.Displays):
         self.plug(2, "upright", "0x0")
         self.expect_change("-640,0,480,640", "0,0,1024,768*")
         self.assertTrue(self.lines.empty())
+
+    def test_displays_side_by_side_touch_however_they_are_scaled(self):
+        self.run_program("xrandr", "--newmode", "odd", *(
+            "85.5 1366 1436 1579 1792 768 771 774 798").split())
+        self.plug(1, "800x600", "1024x0")
+        self.plug(2, "odd", "0x768")
+        for settings in ({"QT_SCALE_FACTOR": "1.25"}, {"QT_SCALE_FACTOR": "1.5"},
+                         {"QT_SCALE_FACTOR": "1.75"}, {"QT_SCALE_FACTOR": "2"},
+                         {"QT_SCREEN_SCALE_FACTORS": "DUMMY0=1;DUMMY1=2;DUMMY2=1.25;"},
+                         {"QT_SCREEN_SCALE_FACTORS": "DUMMY0=2;DUMMY1=1;DUMMY2=1.5;",
+                          "QT_AUTO_SCREEN_SCALE_FACTOR": "0"},
+                         {"QT_SCREEN_SCALE_FACTORS": "1.25;1.5;2"}, {"QT_FONT_DPI": "144"},
+                         {"QT_SCALE_FACTOR": "1.25", "QT_SCREEN_SCALE_FACTORS": "DUMMY1=2"}):
+            with self.subTest(**settings):
+                before = self.env
+                self.env = {**before, **settings}
+                self.watch()
+                self.env = before
+                self.expect_now("0,0,1024,768*", "1024,0,800,600", "0,768,1366,768")
 
 
 if __name__ == "__main__":

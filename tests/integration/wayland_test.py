@@ -65,5 +65,27 @@ class WaylandCalibration(wayland.Wayland):
         self.assertEqual(struct.unpack_from("<h", self.record(), 293), (0,))
 
 
+class ScaledByTheToolkit(wayland.Wayland):
+    def test_the_second_display_is_as_large_as_to_the_compositor(self):
+        for settings in ({"QT_SCALE_FACTOR": "1.5"}, {"QT_SCREEN_SCALE_FACTORS": "1;2"},
+                         {"QT_SCREEN_SCALE_FACTORS": "Virtual-1=1.25"}):
+            with self.subTest(**settings):
+                driver = self.start_driver()
+                config = plistlib.loads(self.config().read_bytes())
+                config["Monitor"]["num"] = 2
+                self.config().write_bytes(plistlib.dumps(config))
+                before = self.env
+                self.env = {**before, **settings}
+                panel = self.start([session.BIN / "qvtblt"])
+                self.env = before
+                self.press("qvtblt", "Display", "page tab")
+                self.press("qvtblt", "Keep proportions", "push button")
+                session.wait_for(lambda: self.record() and struct.unpack_from(
+                    "<4h", self.record(), 295) == (1280, 1280, 0, 720), "the area")
+                panel.terminate()
+                self.assertEqual(panel.wait(timeout=20), 0)
+                self.stop_driver(driver)
+
+
 if __name__ == "__main__":
     unittest.main()
