@@ -54,8 +54,8 @@ public:
         mView.render(&mTarget);
     }
 
-    static constexpr int kWidth = 840;
-    static constexpr int kHeight = 340;
+    static constexpr int kWidth = 600;
+    static constexpr int kHeight = 360;
 
 private:
     FourDisplays mDisplays;
