@@ -9,6 +9,7 @@
 
 #include <QCloseEvent>
 #include <QComboBox>
+#include <QFontMetrics>
 #include <QFormLayout>
 #include <QGuiApplication>
 #include <QHBoxLayout>
@@ -31,6 +32,9 @@ constexpr int kKeyHeight = 40; ///< at most
 constexpr int kStripHeight = 80; ///< at most
 constexpr int kGroupGap = 12;
 constexpr QSize kUsualSize{620, 580};
+constexpr int kUsualLine = 32; ///< the usual width in heights of a line, for large letters
+constexpr int kLeastModelName = 9; ///< letters of a model's name that are always to be seen
+constexpr int kToldLines = 2; ///< that a text may take; a longer one is shortened
 
 /** How the keys of a layout lie one below the other; a 0 stands for the strip. */
 std::vector<int> keyGroups(QVKeyLayout layout)
@@ -54,7 +58,7 @@ std::vector<int> keyGroups(QVKeyLayout layout)
 }
 
 template <class Label = QLabel>
-QLabel* valueLabel(QFormLayout& form, const QString& name)
+Label* valueLabel(QFormLayout& form, const QString& name)
 {
     auto* const value = new Label;
     value->setWordWrap(true);
@@ -83,6 +87,41 @@ QRect screenArea(const tagQVTabletInfo& settings)
 
 } // namespace
 
+/**
+ * What a key does. A path that is too long loses its middle, since its end is what tells; screen
+ * readers and the tooltip have it whole.
+ */
+class TabletWindow::ToldLabel final : public QLabel {
+public:
+    void tell(const QString& text)
+    {
+        mWhole = text;
+        setAccessibleName(text);
+        fit();
+    }
+
+protected:
+    void resizeEvent(QResizeEvent* event) override
+    {
+        QLabel::resizeEvent(event);
+        fit();
+    }
+
+private:
+    void fit()
+    {
+        const QFontMetrics letters = fontMetrics();
+        const QRect needed =
+            letters.boundingRect(QRect(0, 0, width(), QWIDGETSIZE_MAX), Qt::TextWordWrap, mWhole);
+        const bool fits =
+            needed.width() <= width() && needed.height() <= kToldLines * letters.lineSpacing();
+        setText(fits ? mWhole : letters.elidedText(mWhole, Qt::ElideMiddle, width()));
+        setToolTip(fits ? QString() : mWhole);
+    }
+
+    QString mWhole;
+};
+
 TabletWindow::TabletWindow(Driver& driver)
     : Accessible(static_cast<QWidget&>(*this), QAccessible::Window)
     , mDriver(driver)
@@ -90,8 +129,8 @@ TabletWindow::TabletWindow(Driver& driver)
     , mTablet(new QWidget)
     , mSurface(new TabletSurface(mTablet))
     , mNoTablet(new QLabel)
+    , mTop(new QHBoxLayout)
     , mBody(new QHBoxLayout)
-    , mBelow(new QVBoxLayout)
 {
     mModels->setAccessibleName(tr("Tablet"));
     mModels->setAccessibleDescription(tr("The model that is attached."));
@@ -101,10 +140,11 @@ TabletWindow::TabletWindow(Driver& driver)
     }
     auto* const label = new QLabel(tr("&Tablet:"));
     label->setBuddy(mModels);
-    auto* const chooser = new QHBoxLayout;
-    chooser->addWidget(label);
-    chooser->addWidget(mModels);
-    chooser->addStretch();
+    mTop->addWidget(label);
+    // With large letters, the pen's buttons need room beside it.
+    mModels->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    mModels->setMinimumContentsLength(kLeastModelName);
+    mTop->addWidget(mModels, 1);
 
     auto* const body = new QFrame;
     body->setLayoutDirection(Qt::LeftToRight); // the keys are where they are, in every language
@@ -116,18 +156,17 @@ TabletWindow::TabletWindow(Driver& driver)
     mPen = valueLabel<platform::LiveLabel>(*form, tr("Pen:"));
     mListening = valueLabel(*form, tr("Panel:"));
     mMapped = valueLabel(*form, tr("Frame:"));
-    mTold = valueLabel(*form, tr("Pressed:"));
-    mBelow->addLayout(form);
+    mTold = valueLabel<ToldLabel>(*form, tr("Pressed:"));
     auto* const tablet = new QVBoxLayout(mTablet);
     tablet->setContentsMargins(0, 0, 0, 0);
     tablet->addWidget(body, 1);
-    tablet->addLayout(mBelow);
+    tablet->addLayout(form);
     mNoTablet->setAlignment(Qt::AlignCenter);
     mNoTablet->setWordWrap(true);
     mNoTablet->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);
 
     auto* const layout = new QVBoxLayout(this);
-    layout->addLayout(chooser);
+    layout->addLayout(mTop);
     layout->addWidget(mTablet, 1);
     layout->addWidget(mNoTablet, 1);
 
@@ -145,7 +184,13 @@ TabletWindow::TabletWindow(Driver& driver)
     showModel();
     showListening();
     mSurface->setFocus();
-    resize(kUsualSize.boundedTo(screen()->availableSize() * 0.9));
+    resize(usualSize(screen()->availableSize()));
+}
+
+QSize TabletWindow::usualSize(const QSize& available) const
+{
+    const QSize wide(kUsualLine * fontMetrics().lineSpacing(), kUsualSize.height());
+    return wide.expandedTo(kUsualSize).boundedTo(available * 0.9);
 }
 
 void TabletWindow::closeEvent(QCloseEvent* event)
@@ -185,7 +230,7 @@ void TabletWindow::choose()
         say(error);
         showModel();
         const QString text = tr("The tablet is not attached: %1").arg(error);
-        mTold->setText(text);
+        mTold->tell(text);
         mNoTablet->setText(text);
     }
 }
@@ -210,7 +255,7 @@ void TabletWindow::showModel()
     }
     addKeys(*attached);
     addPenButtons(*attached);
-    mTold->setText(tr("no key yet; press one to see what it does"));
+    mTold->tell(tr("no key yet; press one to see what it does"));
     const std::optional<tagQVTabletInfo> known = settings();
     mSurface->setTablet(tabletRange(*attached, known ? &*known : nullptr));
     showSettings();
@@ -249,13 +294,11 @@ void TabletWindow::addPenButtons(const QVTabletModel& model)
     mPenButtons = new QWidget;
     auto* const row = new QHBoxLayout(mPenButtons);
     row->setContentsMargins(0, 0, 0, 0);
-    row->addStretch();
     const std::array names{tr("Upper pen button"), tr("Lower pen button")};
     for (std::size_t i = 0; i < std::min<std::size_t>(model.penButtons, names.size()); ++i) {
         addButton(*row, names[i], names[i], kPenUpper + i);
     }
-    row->addStretch();
-    mBelow->insertWidget(0, mPenButtons);
+    mTop->addWidget(mPenButtons); // not in a row of its own: a small screen has none to spare
 }
 
 void TabletWindow::addButton(
@@ -263,8 +306,9 @@ void TabletWindow::addButton(
 {
     QToolButton* const button = keyButton(text, name);
     if (slot < kPenUpper) {
-        button->setMinimumWidth(kKeyWidth);
-        button->setMaximumHeight(kKeyHeight);
+        // All of them have to find room, so none takes more than its number needs.
+        button->setMinimumSize(kKeyWidth, button->fontMetrics().height());
+        button->setMaximumHeight(std::max(kKeyHeight, button->minimumHeight()));
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     }
     connect(button, &QToolButton::pressed, this, [this, name, slot] {
@@ -279,8 +323,8 @@ void TabletWindow::addStrip(std::size_t strip)
     const QString name = strip == 0 ? tr("Left scroll strip") : tr("Right scroll strip");
     QToolButton* const button = keyButton(QStringLiteral("\u2261"), name);
     button->setMinimumWidth(kKeyWidth);
-    button->setMinimumHeight(kKeyHeight);
-    button->setMaximumHeight(kStripHeight);
+    button->setMinimumHeight(std::max(kKeyHeight, button->fontMetrics().height()));
+    button->setMaximumHeight(std::max(kStripHeight, button->minimumHeight()));
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     connect(button, &QToolButton::pressed, this, [this, name, strip] {
         const std::optional<tagQVTabletInfo> known = settings();
@@ -296,7 +340,7 @@ void TabletWindow::addStrip(std::size_t strip)
 
 void TabletWindow::tell(const QString& name, const QString& action)
 {
-    mTold->setText(
+    mTold->tell(
         tr("%1: %2", "a key and what it does")
             .arg(name,
                 action.isEmpty() ? tr("not known before the panel sends its settings") : action));

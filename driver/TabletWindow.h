@@ -13,7 +13,6 @@
 class Driver;
 class QComboBox;
 class QLabel;
-class QVBoxLayout;
 class QHBoxLayout;
 class TabletSurface;
 struct QVTabletModel;
@@ -29,6 +28,9 @@ public:
     /** @param driver must live longer than the window */
     explicit TabletWindow(Driver& driver);
 
+    /** How large the window opens on a screen with so much room, its frame not counted. */
+    QSize usualSize(const QSize& available) const;
+
 Q_SIGNALS:
     /** Somebody has closed the window. */
     void closed();
@@ -37,6 +39,8 @@ protected:
     void closeEvent(QCloseEvent* event) override;
 
 private:
+    class ToldLabel;
+
     void choose();
     void showModel();
     void showSettings();
@@ -63,7 +67,7 @@ private:
     QLabel* mListening;
     QLabel* mPen;
     QLabel* mMapped;
-    QLabel* mTold;
+    ToldLabel* mTold;
+    QHBoxLayout* mTop;
     QHBoxLayout* mBody;
-    QVBoxLayout* mBelow;
 };
