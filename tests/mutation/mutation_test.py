@@ -6,6 +6,7 @@ import json
 import pathlib
 import subprocess
 import tempfile
+import tomllib
 import unittest
 
 RUN = pathlib.Path(__file__).resolve().parent / "run"
@@ -29,6 +30,8 @@ unsigned long steps(unsigned long count);
 void note(int value);
 int noted();
 int asked();
+bool isOdd(int value);
+int pick(bool first, bool second);
 """,
     "small.cpp": """
 #include "small.h"
@@ -65,6 +68,17 @@ int asked()
 {
     return ++questions;
 }
+bool isOdd(int value)
+{
+    return value % 2 == 1;
+}
+int pick(bool first, bool second)
+{
+    if (isOdd(3) && first) {
+        return 5;
+    }
+    return second ? 6 : 7;
+}
 """,
     "small_test.cpp": """
 #include "small.h"
@@ -91,6 +105,12 @@ TEST(Small, isAskedOnceInAnotherProcess)
 {
     EXPECT_EQ(asked(), 1);
 }
+TEST(Small, picks)
+{
+    EXPECT_EQ(pick(true, false), 5);
+    EXPECT_EQ(pick(false, true), 6);
+    EXPECT_EQ(pick(false, false), 7);
+}
 TEST(Other, isNotRun)
 {
     EXPECT_EQ(untested(1), 0);
@@ -112,6 +132,18 @@ small.cpp: six would do as well
 + return value * 6;
 """,
 }
+
+
+class Areas(unittest.TestCase):
+    def test_every_source_of_the_module_is_in_one(self):
+        source = RUN.parent.parent.parent
+        listed = {file for area in tomllib.loads((RUN.parent / "areas.toml").read_text()).values()
+                  for file in area}
+        # The plug-in's entry alone goes into no program of tests.
+        expected = {f"QVTblt/{path.name}" for path in (source / "QVTblt").glob("*.cpp")
+                    if path.name != "QVTbltModule.cpp"}
+        self.assertEqual(expected - listed, set())
+        self.assertEqual({file for file in listed if not (source / file).is_file()}, set())
 
 
 class MutationTest(unittest.TestCase):
@@ -144,6 +176,13 @@ class MutationTest(unittest.TestCase):
 
     def test_notices_a_call_that_is_left_out(self):
         self.assertEqual(self.result(";"), ("noticed", "Small.notes"))
+
+    def test_turns_conditions_round(self):
+        for new in ("if (!(isOdd(3)) && first) {", "if (isOdd(3) && !(first)) {",
+                    "return !(second) ? 6 : 7;"):
+            self.assertEqual(self.result(new), ("noticed", "Small.picks"))
+        # One with an operator of its own is changed there, and nowhere else.
+        self.assertNotIn("return !(value < 0) ? 0 : value;", self.results)
 
     def test_takes_a_hang_for_noticed(self):
         self.assertEqual(self.result("for (; done != count; --done) { }"),
@@ -187,11 +226,14 @@ class MutationTest(unittest.TestCase):
         before = equivalent.read_text()
         self.addCleanup(equivalent.write_text, before)
         equivalent.write_text(before + "small.cpp: it was there once\n- return 1;\n+ return 2;\n"
+                              "small.cpp: it was changed\n- return count * 5;\n+ return count * 6;\n"
                               "small.cpp: it is noticed\n- return value < 0 ? 0 : value;\n"
                               "+ return value < 0 ? 1 : value;\n")
         done = self.run_tool("--all", "--resume")
         self.assertEqual(done.returncode, 1)
         self.assertIn("no such fault any more, in small.cpp:\n    - return 1;", done.stdout)
+        self.assertIn("    - return count * 5;\n    + return count * 6;\n  the nearest one now: "
+                      "small.cpp:12:20\n    - return value * 5;\n", done.stdout)
         self.assertIn("Small.keepsAboveZero notices, in small.cpp:", done.stdout)
 
     def test_samples_the_same_faults_each_time(self):
