@@ -30,7 +30,7 @@ constexpr std::size_t kPenUpper = 16;
 constexpr int kKeyWidth = 48;
 constexpr int kKeyHeight = 40; ///< at most
 constexpr int kStripHeight = 80; ///< at most
-constexpr int kGroupGap = 12;
+constexpr int kGroupGap = 8;
 constexpr QSize kUsualSize{620, 580};
 constexpr int kUsualLine = 32; ///< the usual width in heights of a line, for large letters
 constexpr int kLeastModelName = 9; ///< letters of a model's name that are always to be seen
@@ -270,7 +270,7 @@ void TabletWindow::addKeys(const QVTabletModel& model)
     mKeys = new QWidget;
     auto* const column = new QVBoxLayout(mKeys);
     column->setContentsMargins(0, 0, 0, 0);
-    column->setSpacing(4);
+    column->setSpacing(2);
     column->addStretch();
     int key = 0;
     for (const int count : groups) {
@@ -323,7 +323,7 @@ void TabletWindow::addStrip(std::size_t strip)
     const QString name = strip == 0 ? tr("Left scroll strip") : tr("Right scroll strip");
     QToolButton* const button = keyButton(QStringLiteral("\u2261"), name);
     button->setMinimumWidth(kKeyWidth);
-    button->setMinimumHeight(std::max(kKeyHeight, button->fontMetrics().height()));
+    button->setMinimumHeight(button->fontMetrics().height());
     button->setMaximumHeight(std::max(kStripHeight, button->minimumHeight()));
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     connect(button, &QToolButton::pressed, this, [this, name, strip] {
