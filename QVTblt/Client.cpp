@@ -55,9 +55,15 @@ bool sendRecord(const void* record, std::int32_t length)
 {
     using namespace platform;
     AppleEvents& service = events();
-    const auto* const bytes = static_cast<const unsigned char*>(record);
+    static constexpr std::array<unsigned char, kQVRecordSize> kNone{};
+    const auto* const bytes =
+        record == nullptr ? kNone.data() : static_cast<const unsigned char*>(record);
     std::fprintf(
         stderr, "ConnectToDriver %x %d %d %d\n", bytes[318], bytes[319], bytes[320], bytes[321]);
+    if (record == nullptr || length < 0 || length > kQVRecordSize) {
+        std::fputs("ConnectToDriver fail...\n", stderr); // the event cannot hold it
+        return false;
+    }
 
     AEDesc driver;
     if (service.createDesc(typeApplSignature, bytesOf(kQVDriverSignature), driver) != noErr) {

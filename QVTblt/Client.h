@@ -18,8 +18,10 @@ inline constexpr QLatin1String kRecordPushedNotification("kRecordPushedNotificat
  * Writes two lines to standard error: the four bytes at offsets 318 to 321 of the record, and how
  * far it came.
  *
- * @param record at least 322 bytes, normally the whole record
- * @param length bytes to push, normally kQVRecordSize
+ * @param record a whole record: kQVRecordSize bytes, whatever the length. Without one, nothing is
+ *     sent, and the first line shows four zeros
+ * @param length bytes to push, normally kQVRecordSize. With one below 0 or above that, nothing is
+ *     sent
  * @return whether the event was made and handed over; not whether the driver took it
  */
 bool ConnectToDriver(const void* record, std::int32_t length);

@@ -27,14 +27,16 @@ void store(std::byte* to, Value value)
 
 bool isAscii(std::string_view text)
 {
-    return std::ranges::all_of(text, [](char c) { return c > 0; });
+    // Unsigned, since on some machines char is and on others it is not.
+    return std::ranges::all_of(text, [](unsigned char c) { return c != 0 && c < 0x80; });
 }
 
-/** XML can hold no control characters but these; the record, nothing but ASCII. */
+/** XML can hold no control characters but these. */
 bool isWritable(std::string_view text)
 {
-    return std::ranges::all_of(
-        text, [](char c) { return c >= ' ' || c == '\t' || c == '\n' || c == '\r'; });
+    return isAscii(text) && std::ranges::all_of(text, [](unsigned char c) {
+        return c >= ' ' || c == '\t' || c == '\n' || c == '\r';
+    });
 }
 
 /** Least and greatest whole number that keeps all its bits in a field of the type. */
@@ -107,7 +109,7 @@ bool QVWriteEntry(platform::Dictionary dictionary, const QVField& field, const s
     switch (field.type) {
     case QVFieldType::String: {
         const std::string text = QVFieldString(field, base);
-        if (!isWritable(text)) { // a byte beyond ASCII is a negative char
+        if (!isWritable(text)) {
             return false;
         }
         dictionary.setString(field.key, text);

@@ -25,6 +25,16 @@ std::byte* slotBytes(std::size_t slot)
     return reinterpret_cast<std::byte*>(&qvTabletInfo) + QVSlotOffset(slot);
 }
 
+/** Whether there is such a slot; logs one that there is not. */
+bool isSlot(std::int32_t i)
+{
+    if (i >= 0 && i < static_cast<std::int32_t>(kQVSlotCount)) {
+        return true;
+    }
+    qCWarning(lcStore, "there is no key slot %d", i);
+    return false;
+}
+
 /** Copies the entries of one dictionary; logs those that are there but do not fit. */
 void readEntries(const platform::Dictionary& dictionary, const char* name,
     std::span<const QVField> fields, std::byte* base)
@@ -152,17 +162,25 @@ std::string QVConfigStore::configPath()
 void QVConfigStore::ReadQVConfigPlist()
 {
     platform::PropertyListError error;
-    const std::optional<platform::PropertyList> list =
-        hasName(error) ? loadRecord(configPath(), error) : std::nullopt;
-    if (!list) {
+    if (!loadTabletsRecord(error)) {
         tellFailure(kConfigNotLoadedNotification, error);
         return;
     }
-    if (list->root().dictionary(kQVMonitorSection.key).exists()) {
-        mapSingleDisplay();
-    }
-    mInFile = qvTabletInfo;
     platform::notifications().post({kConfigLoadedNotification, nullptr, {}});
+}
+
+std::optional<platform::PropertyList> QVConfigStore::loadTabletsRecord(
+    platform::PropertyListError& error)
+{
+    std::optional<platform::PropertyList> list =
+        hasName(error) ? loadRecord(configPath(), error) : std::nullopt;
+    if (list) {
+        if (list->root().dictionary(kQVMonitorSection.key).exists()) {
+            mapSingleDisplay();
+        }
+        mInFile = qvTabletInfo;
+    }
+    return list;
 }
 
 void QVConfigStore::WriteQVConfigPlist()
@@ -190,10 +208,10 @@ bool QVConfigStore::hasUnsavedFields() const
     return isChanged;
 }
 
-std::optional<platform::PropertyList> QVConfigStore::loadRecord(
-    const std::string& path, platform::PropertyListError& error)
+std::optional<platform::PropertyList> QVConfigStore::loadRecord(const std::string& path,
+    platform::PropertyListError& error, platform::PropertyListSource source)
 {
-    std::optional<platform::PropertyList> list = platform::PropertyList::load(path, error);
+    std::optional<platform::PropertyList> list = platform::PropertyList::load(path, error, source);
     if (list) {
         for (const QVSection& section : kQVSections) {
             readSection(dictionaryIn(list->root(), section.key), section);
@@ -243,12 +261,18 @@ void QVConfigStore::writeSection(const platform::Dictionary& dictionary, const Q
 
 void QVConfigStore::GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object)
 {
+    if (!isSlot(i)) {
+        return;
+    }
     const auto slot = static_cast<std::size_t>(i);
     readEntries(object, kQVSlotKeys[slot], kQVSlotFields, slotBytes(slot));
 }
 
 void QVConfigStore::SetSubKeyInfo(std::int32_t i, const platform::Dictionary& object)
 {
+    if (!isSlot(i)) {
+        return;
+    }
     const auto slot = static_cast<std::size_t>(i);
     writeEntries(object, kQVSlotKeys[slot], kQVSlotFields, slotBytes(slot));
 }

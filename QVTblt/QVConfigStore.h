@@ -53,22 +53,26 @@ public:
      */
     bool hasUnsavedFields() const;
 
-    /** Copies a slot's dictionary into slot i of the record, i from 0 to 17. */
+    /** Copies a slot's dictionary into slot i of the record, i from 0 to 17; else does nothing. */
     void GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
 
-    /** Copies slot i of the record into a slot's dictionary, i from 0 to 17. */
+    /** Copies slot i of the record into a slot's dictionary, i from 0 to 17; else does nothing. */
     void SetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
 
     /** The file's path: its folder below the user's home, and pListname. */
     static std::string configPath();
 
     /**
-     * Loads any configuration file into the record, without regard to displays.
+     * ReadQVConfigPlist() for who has no ear for notifications.
      *
      * @return the file's contents; nothing when it cannot be used, and error then says why
      */
-    std::optional<platform::PropertyList> loadRecord(
-        const std::string& path, platform::PropertyListError& error);
+    std::optional<platform::PropertyList> loadTabletsRecord(platform::PropertyListError& error);
+
+    /** The same of any configuration file, without regard to displays. */
+    std::optional<platform::PropertyList> loadRecord(const std::string& path,
+        platform::PropertyListError& error,
+        platform::PropertyListSource source = platform::PropertyListSource::RegularFile);
 
     /**
      * Saves the record's sections into any configuration file that is there.

@@ -81,8 +81,8 @@ bool GetQVConfigFileName(char* name)
     if (!answer) {
         return false;
     }
-    // Longest: "65535.plist".
-    std::snprintf(name, kQVListNameSize, "%ld.plist", static_cast<long>(*answer & 0xFFFF));
+    constexpr std::size_t kLongest = sizeof "65535.plist"; // all that a caller need have room for
+    std::snprintf(name, kLongest, "%ld.plist", static_cast<long>(*answer & 0xFFFF));
     return *answer != 0;
 }
 

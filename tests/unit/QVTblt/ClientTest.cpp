@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <limits>
 #include <string>
 
 using namespace platform;
@@ -71,6 +72,22 @@ TEST(ConnectToDriver, waitsForNoReplyAndNamesModePriorityAndTimeOut)
     EXPECT_EQ(events.sent.front().mode, 3);
     EXPECT_EQ(events.sent.front().priority, 1);
     EXPECT_EQ(events.sent.front().timeOut, 15);
+}
+
+TEST(ConnectToDriver, sendsNothingOfARecordThatIsNotThereOrOfALengthThatItHasNot)
+{
+    FakeEvents events;
+    const auto record = markedRecord();
+    bool result = true;
+    for (const std::int32_t length : {-1, std::numeric_limits<std::int32_t>::min(), 5078}) {
+        EXPECT_EQ(pushAndCapture(record.data(), length, result),
+            std::string(kDiagnostic) + "ConnectToDriver fail...\n");
+        EXPECT_FALSE(result);
+    }
+    EXPECT_EQ(pushAndCapture(nullptr, 5077, result),
+        "ConnectToDriver 0 0 0 0\nConnectToDriver fail...\n");
+    EXPECT_FALSE(result);
+    EXPECT_TRUE(events.sent.empty());
 }
 
 TEST(ConnectToDriver, sendsAsManyBytesAsItIsTold)

@@ -268,8 +268,8 @@ TEST(QVReadEntry, tellsTheLastNumbersThatKeepAllTheirBits)
 TEST(QVReadEntry, takesAnyCharacterOfAscii)
 {
     Field field(QVFieldType::String);
-    EXPECT_EQ(field.read("<string>\x01 ~\x7F</string>"), QVEntryResult::Copied);
-    EXPECT_EQ(field.string(), "\x01 ~\x7F");
+    EXPECT_EQ(field.read("<string>\t ~\x7F</string>"), QVEntryResult::Copied);
+    EXPECT_EQ(field.string(), "\t ~\x7F");
 }
 
 TEST(QVWriteEntry, writesBooleansAndSignedNumbers)

@@ -4,6 +4,7 @@
 
 #include "FakeDisplays.h"
 #include "Notifications.h"
+#include "QVConfigEntry.h"
 #include "SampleConfig.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
@@ -13,6 +14,7 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <limits>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -205,27 +207,72 @@ TEST_F(QVConfigStoreFile, loadsAKeyBeyond32BitsByItsLowBitsAndSavesThose)
 
 TEST_F(QVConfigStoreFile, savesEveryFieldOfTheThreeSectionsAndNothingOfTheTablet)
 {
-    auto* const bytes = reinterpret_cast<unsigned char*>(&qvTabletInfo);
     const tagQVTabletInfo sample = sampleRecord();
-    std::memcpy(bytes, &sample, sizeof sample);
-    // Everything but the strings changes.
-    qvTabletInfo.Basic.VendorID = -1;
-    qvTabletInfo.Basic.TabletXmax = 999;
-    qvTabletInfo.Pen = {-101, -102};
-    qvTabletInfo.Monitor.num = -103;
-    qvTabletInfo.Monitor.cTabletYmax = 65535;
-    qvTabletInfo.Key.Scrollbar0 = -104;
-    qvTabletInfo.Key.SubKey[0].Valid = -105;
-    qvTabletInfo.Key.SubKey[17].Key = 0xFFFFFFFF;
-    std::strcpy(qvTabletInfo.Key.SubKey[9].App.data(), "/opt/new app");
-    tagQVTabletInfo expected = qvTabletInfo;
-    expected.Basic = sample.Basic;
-
+    qvTabletInfo = sample;
+    // Every field that has an entry gets a value that no other has, and that the file has not.
+    int number = -10'000;
+    auto* const record = reinterpret_cast<std::byte*>(&qvTabletInfo);
+    QVForEachField([&](const QVSection&, const char*, const QVField& field, std::size_t base) {
+        std::byte* const to = record + base + field.offset;
+        const auto value = static_cast<std::int16_t>(++number);
+        if (field.type == QVFieldType::String) {
+            std::strcpy(reinterpret_cast<char*>(to), ("/opt/" + std::to_string(number)).c_str());
+        } else if (field.type == QVFieldType::UInt32) {
+            const std::uint32_t wide = 0xFFFF0000U | static_cast<std::uint16_t>(value);
+            std::memcpy(to, &wide, sizeof wide);
+        } else if (field.type == QVFieldType::Boolean) {
+            *to = std::byte{0};
+        } else {
+            std::memcpy(to, &value, sizeof value);
+        }
+    });
     EXPECT_EQ(write(), "");
-    qvTabletInfo = {};
+
+    platform::PropertyListError error;
+    const auto list = platform::PropertyList::load(mPath.toStdString(), error);
+    ASSERT_TRUE(list) << error.message;
+    int saved = 0;
+    QVForEachField([&](const QVSection& section, const char* slot, const QVField& field,
+                       std::size_t base) {
+        const std::string path =
+            std::string(section.key) + '/' + (slot == nullptr ? "" : slot) + '/' + field.key;
+        const platform::Dictionary inSection = list->root().dictionary(section.key);
+        const platform::Dictionary entries =
+            slot == nullptr ? inSection : inSection.dictionary(slot);
+        const bool isTablet = std::string_view(section.key) == "Tablet";
+        saved += isTablet ? 0 : 1;
+        const auto* const from =
+            (isTablet ? reinterpret_cast<const std::byte*>(&sample) : record) + base;
+        if (field.type == QVFieldType::String) {
+            EXPECT_EQ(entries.string(field.key), QVFieldString(field, from)) << path;
+        } else if (field.type == QVFieldType::UInt16 && !isTablet) {
+            EXPECT_EQ(entries.number(field.key)->longValue(),
+                static_cast<std::int16_t>(QVFieldNumber(field, from)))
+                << path;
+        } else {
+            EXPECT_EQ(entries.number(field.key)->longValue(), QVFieldNumber(field, from)) << path;
+        }
+    });
+    EXPECT_EQ(saved, 89);
+}
+
+TEST_F(QVConfigStoreFile, aPartialTabletSectionStaysPartial)
+{
+    QByteArray config = sampleConfig();
+    const auto from = config.indexOf("<key>Tablet</key>");
+    const auto to = config.indexOf("</dict>", from) + 7;
+    config.replace(
+        from, to - from, "<key>Tablet</key><dict><key>KeyNum</key><integer>0x8</integer></dict>");
+    writeFile(mPath, config);
     read();
-    EXPECT_TRUE(sameBytes(qvTabletInfo, expected));
-    EXPECT_EQ(numberInFile("Tablet", "VendorID"), 1);
+    qvTabletInfo.Basic.KeyNum = 3;
+    write();
+    const QByteArray saved = readFile(mPath);
+    EXPECT_TRUE(saved.contains("<key>KeyNum</key>\n\t\t<integer>0x8</integer>\n\t</dict>"))
+        << saved.toStdString();
+    for (const char* const absent : {">VendorID", ">ProductID", ">TabletXmax", ">UpdateFilename"}) {
+        EXPECT_FALSE(saved.contains(absent)) << absent;
+    }
 }
 
 TEST_F(QVConfigStoreFile, writingNeverAddsSectionsOrSlots)
@@ -410,6 +457,24 @@ TEST_F(QVConfigStoreFile, copiesASingleSlotEitherWay)
     EXPECT_EQ(object.number("Key")->longValue(), 0x03063836);
     EXPECT_EQ(object.number("Mouse")->longValue(), -2);
     EXPECT_EQ(object.keys().size(), 4U);
+}
+
+TEST_F(QVConfigStoreFile, hasNoSlotsBut0To17)
+{
+    read();
+    platform::PropertyList list;
+    platform::Dictionary object = list.root().addDictionary("slot");
+    object.setInteger("Valid", 2);
+    for (const std::int32_t i : {-1, 18, 1'000'000, std::numeric_limits<std::int32_t>::min()}) {
+        testing::internal::CaptureStderr();
+        mStore.GetSubKeyInfo(i, object);
+        mStore.SetSubKeyInfo(i, object);
+        EXPECT_EQ(countOf(testing::internal::GetCapturedStderr(),
+                      "there is no key slot " + std::to_string(i)),
+            2);
+    }
+    EXPECT_TRUE(sameBytes(qvTabletInfo, sampleRecord()));
+    EXPECT_EQ(object.keys(), std::vector<std::string>{"Valid"});
 }
 
 TEST_F(QVConfigStoreFile, isFoundByANameOfAnyLengthInItsBuffer)

@@ -170,3 +170,13 @@ TEST_F(Query, writesIntoTheCallersBuffer)
     EXPECT_STREQ(name.data(), "12345.plist");
     EXPECT_STREQ(GetPListName(), "former.plist");
 }
+
+TEST_F(Query, neverWritesMoreThanTwelveBytes)
+{
+
+    std::array<char, 16> name{};
+    name.fill('?');
+    mEvents.answer(65535);
+    EXPECT_TRUE(GetQVConfigFileName(name.data()));
+    EXPECT_EQ(std::string(name.data(), name.size()), std::string("65535.plist\0????", 16));
+}
