@@ -111,7 +111,8 @@ void listAllUnknown(const platform::Dictionary& root, Tally& tally)
 bool checkFile(const QString& path)
 {
     platform::PropertyListError error;
-    const auto list = platform::PropertyList::load(QFile::encodeName(path).toStdString(), error);
+    const auto list = platform::PropertyList::load(
+        QFile::encodeName(path).toStdString(), error, platform::PropertyListSource::AnyFile);
     if (!list) {
         std::printf("unusable  %s\n", error.message.c_str());
         return false;

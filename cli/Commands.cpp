@@ -37,17 +37,29 @@ QString modelName(const tagQVTabletInfo& record)
         .arg(productID);
 }
 
-/** Finds the tablet and loads its file. @return why that failed; empty on success */
-QString loadTablet(QVConfigStore& store)
+/** Finds the tablet and loads its file. @return the file's contents; nothing when why says so */
+std::optional<platform::PropertyList> loadTablet(QVConfigStore& store, QString& why)
 {
     if (!rzkgetQVDevice()) {
-        return *GetPListName() == '\0' ? QStringLiteral("the driver does not answer")
-                                       : QStringLiteral("no tablet is attached");
+        why = *GetPListName() == '\0' ? QStringLiteral("the driver does not answer")
+                                      : QStringLiteral("no tablet is attached");
+        return std::nullopt;
     }
     platform::PropertyListError error;
-    return store.loadRecord(QVConfigStore::configPath(), error)
-        ? QString()
-        : QString::fromStdString(error.message);
+    auto list = store.loadTabletsRecord(error);
+    why = QString::fromStdString(error.message);
+    return list;
+}
+
+/** Whether the file has the dictionary that an entry belongs into: the panel adds none. */
+bool hasRoom(const platform::PropertyList& list, const QString& entry)
+{
+    platform::Dictionary dictionary = list.root();
+    const QStringList path = entry.split(QLatin1Char('/'));
+    for (const QString& key : path.mid(0, path.size() - 1)) {
+        dictionary = dictionary.dictionary(key.toUtf8().constData());
+    }
+    return dictionary.exists();
 }
 
 /** Pushes the record and waits for the driver. @return why it was not taken; empty on success */
@@ -113,9 +125,9 @@ int runStatus()
     return isUsable ? kExitGood : kExitBad;
 }
 
-int runShow(const QString& file, bool asJson)
+int runShow(const std::optional<QString>& file, bool asJson)
 {
-    if (file.isEmpty()) {
+    if (!file) {
         QString why;
         const std::optional<tagQVTabletInfo> record = lastRecord(why);
         if (!record) {
@@ -125,7 +137,8 @@ int runShow(const QString& file, bool asJson)
     } else {
         QVConfigStore store;
         platform::PropertyListError error;
-        if (!store.loadRecord(QFile::encodeName(file).toStdString(), error)) {
+        if (!store.loadRecord(QFile::encodeName(*file).toStdString(), error,
+                platform::PropertyListSource::AnyFile)) {
             return fail(QString::fromStdString(error.message));
         }
     }
@@ -143,8 +156,8 @@ int runCheck(const QString& file)
 int runPush()
 {
     QVConfigStore store;
-    QString why = loadTablet(store);
-    if (why.isEmpty()) {
+    QString why;
+    if (loadTablet(store, why)) {
         why = pushRecord();
     }
     if (!why.isEmpty()) {
@@ -163,9 +176,13 @@ int runSet(const QString& entry, const QString& value)
         return kExitUsage;
     }
     QVConfigStore store;
-    QString why = loadTablet(store);
-    if (!why.isEmpty()) {
+    QString why;
+    const auto list = loadTablet(store, why);
+    if (!list) {
         return fail(why);
+    }
+    if (!hasRoom(*list, entry)) {
+        return fail(QStringLiteral("the tablet's file has no place for %1").arg(entry));
     }
     why = setEntry(*GetqvTabletInfo(), *found, value);
     if (!why.isEmpty()) {
@@ -187,8 +204,8 @@ int runSet(const QString& entry, const QString& value)
 int runUsbMode(bool isFast)
 {
     QVConfigStore store;
-    const QString why = loadTablet(store);
-    if (!why.isEmpty()) {
+    QString why;
+    if (!loadTablet(store, why)) {
         return fail(why + QStringLiteral(", so it is not known which tablet to tell"));
     }
     const auto productID = static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID);

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <optional>
 
 /**
  * @file
@@ -19,10 +20,10 @@ inline constexpr int kExitUsage = 2; ///< the command line itself is wrong
 /** Says whether there is a driver, a tablet, and a usable file. */
 int runStatus();
 
-/** Prints the record of a file, or, without one, what the driver got last. */
-int runShow(const QString& file, bool asJson);
+/** Prints the record of a file or a pipe, or, without one, what the driver got last. */
+int runShow(const std::optional<QString>& file, bool asJson);
 
-/** Checks a file entry by entry. */
+/** Checks a file or a pipe entry by entry. */
 int runCheck(const QString& file);
 
 /** Loads the tablet's file and pushes the record. */

@@ -91,6 +91,14 @@ std::optional<RecordEntry> findEntry(const QString& path)
     return found;
 }
 
+std::optional<qint64> numberIn(const QString& words)
+{
+    bool isNumber = false;
+    const bool isHex = words.contains(QLatin1String("0x"), Qt::CaseInsensitive);
+    const qint64 number = words.toLongLong(&isNumber, isHex ? 16 : 10);
+    return isNumber ? std::optional(number) : std::nullopt;
+}
+
 QString setEntry(tagQVTabletInfo& record, const RecordEntry& entry, const QString& value)
 {
     // The way of an entry out of a file is also the way of a value from the command line.
@@ -98,17 +106,18 @@ QString setEntry(tagQVTabletInfo& record, const RecordEntry& entry, const QStrin
     if (entry.field.type == QVFieldType::String) {
         list.root().setString(entry.field.key, value.toStdString());
     } else {
-        bool isNumber = false;
-        const qint64 number = value.toLongLong(&isNumber, 0);
-        if (!isNumber) {
+        const std::optional<qint64> number = numberIn(value);
+        if (!number) {
             return QStringLiteral("'%1' is no number").arg(value);
         }
-        list.root().setInteger(entry.field.key, number);
+        list.root().setInteger(entry.field.key, *number);
     }
     auto* const base = reinterpret_cast<std::byte*>(&record) + entry.base;
     switch (QVReadEntry(list.root(), entry.field, base)) {
     case QVEntryResult::Copied:
-        return {};
+        return QVWriteEntry(list.root(), entry.field, base)
+            ? QString()
+            : QStringLiteral("the text must not have control characters: no file could hold them");
     case QVEntryResult::Truncated:
         return QStringLiteral("%1 does not fit").arg(value);
     default:

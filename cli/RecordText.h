@@ -28,5 +28,8 @@ struct RecordEntry {
 /** The entry with that path; nothing where there is none. */
 std::optional<RecordEntry> findEntry(const QString& path);
 
+/** A number in words: decimal, also with leading zeros, or hexadecimal with 0x before it. */
+std::optional<qint64> numberIn(const QString& words);
+
 /** Puts a value in words into the entry. @return why it does not fit; empty on success */
 QString setEntry(tagQVTabletInfo& record, const RecordEntry& entry, const QString& value);

@@ -1,10 +1,18 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 #include "Commands.h"
+#include "RecordText.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 
+#include <algorithm>
+#include <array>
+#include <cerrno>
 #include <cstdio>
+#include <cstring>
+#include <memory>
+#include <system_error>
 
 namespace {
 
@@ -14,7 +22,7 @@ The settings of the Quorvia pen tablet, without a window.
 Commands:
   status              say whether there is a driver, a tablet, and a usable file
   show [--json]       print the settings that the driver got last
-  show [--json] FILE  print the settings in a configuration file
+  show [--json] FILE  print the settings in a configuration file; - is standard input
   check FILE          say of every entry of a configuration file whether it is usable
   push                send the settings in the tablet's file to the driver
   set ENTRY VALUE     change a setting, for instance 'set Pen/PressureThreshold 120':
@@ -28,8 +36,8 @@ Options:
   -h, --help          print this text
   -v, --version       print the version
 
-Exit code: 0 when all is well; 1 when there is no driver, no tablet or no usable file;
-2 when the command is not understood.
+Exit code: 0 when all is well; 1 when there is no driver, no tablet or no usable file, or the
+output cannot be written; 2 when the command is not understood.
 )";
 
 int usageError(const QString& why)
@@ -38,74 +46,166 @@ int usageError(const QString& why)
     return kExitUsage;
 }
 
-int run(const QStringList& words, bool asJson)
+/** A command and the operands that it takes. */
+struct Command {
+    const char* name;
+    int least;
+    int most;
+};
+
+constexpr std::array<Command, 7> kCommands{{{"status", 0, 0}, {"show", 0, 1}, {"check", 1, 1},
+    {"push", 0, 0}, {"set", 2, 2}, {"usb-mode", 1, 1}, {"sim", 3, 3}}};
+
+/** Why the command line is none; empty when it is one. */
+QString misuse(const QStringList& words, bool asJson)
 {
     if (words.isEmpty()) {
-        return usageError(QStringLiteral("a command is missing"));
+        return QStringLiteral("a command is missing");
     }
-    const QString& command = words.constFirst();
+    const auto command = std::ranges::find_if(
+        kCommands, [&](const Command& one) { return words[0] == QLatin1String(one.name); });
+    if (command == kCommands.end()) {
+        return QStringLiteral("there is no command '%1'").arg(words[0]);
+    }
+    if (asJson && words[0] != QLatin1String("show")) {
+        return QStringLiteral("--json goes with show alone");
+    }
     const auto count = words.size() - 1;
-    if (asJson && command != QLatin1String("show")) {
-        return usageError(QStringLiteral("--json goes with show alone"));
+    if (count < command->least) {
+        return QStringLiteral("missing operand after '%1'").arg(words.constLast());
     }
-    if (command == QLatin1String("status") && count == 0) {
+    if (count > command->most) {
+        return QStringLiteral("extra operand '%1'").arg(words[command->most + 1]);
+    }
+    return {};
+}
+
+/** The path of an operand that names a file, of which - is the standard input. */
+QString fileOf(const QString& operand)
+{
+    return operand == QLatin1String("-") ? QStringLiteral("/dev/stdin") : operand;
+}
+
+int runMode(const QString& mode)
+{
+    const bool isFast = mode == QLatin1String("fast");
+    return isFast || mode == QLatin1String("normal")
+        ? runUsbMode(isFast)
+        : usageError(QStringLiteral("there is no report mode '%1'").arg(mode));
+}
+
+int runSim(const QString& what, const QString& x, const QString& y)
+{
+    constexpr qint64 kMost = 65535;
+    const qint64 left = numberIn(x).value_or(-1);
+    const qint64 top = numberIn(y).value_or(-1);
+    if (what != QLatin1String("tap")) {
+        return usageError(QStringLiteral("the pen cannot '%1'").arg(what));
+    }
+    return std::min(left, top) >= 0 && std::max(left, top) <= kMost
+        ? runSimTap(static_cast<std::uint16_t>(left), static_cast<std::uint16_t>(top))
+        : usageError(QStringLiteral("a point is two numbers from 0 to 65535"));
+}
+
+int run(const QStringList& words, bool asJson)
+{
+    const QString& command = words[0];
+    if (command == QLatin1String("status")) {
         return runStatus();
     }
-    if (command == QLatin1String("show") && count <= 1) {
-        return runShow(words.value(1), asJson);
+    if (command == QLatin1String("show")) {
+        return runShow(words.size() > 1 ? std::optional(fileOf(words[1])) : std::nullopt, asJson);
     }
-    if (command == QLatin1String("check") && count == 1) {
-        return runCheck(words[1]);
+    if (command == QLatin1String("check")) {
+        return runCheck(fileOf(words[1]));
     }
-    if (command == QLatin1String("push") && count == 0) {
+    if (command == QLatin1String("push")) {
         return runPush();
     }
-    if (command == QLatin1String("set") && count == 2) {
+    if (command == QLatin1String("set")) {
         return runSet(words[1], words[2]);
     }
-    if (command == QLatin1String("usb-mode") && count == 1
-        && (words[1] == QLatin1String("fast") || words[1] == QLatin1String("normal"))) {
-        return runUsbMode(words[1] == QLatin1String("fast"));
+    return command == QLatin1String("usb-mode") ? runMode(words[1])
+                                                : runSim(words[1], words[2], words[3]);
+}
+
+/** Whether a command loads the tablet's file to push it, which depends on the displays. */
+bool needsDisplays(const QString& command)
+{
+    return command == QLatin1String("push") || command == QLatin1String("set");
+}
+
+/**
+ * The application object, one that knows the displays where a window system is within reach. Where
+ * the environment names one that is not, Qt would end the program; "minimal", which is always
+ * there, keeps it from that.
+ */
+std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, const QString& command)
+{
+    QByteArray platforms;
+    for (const auto& [variable, platform] :
+        {std::pair("WAYLAND_DISPLAY", "wayland;"), {"DISPLAY", "xcb;"}}) {
+        platforms += qEnvironmentVariableIsEmpty(variable) ? "" : platform;
     }
-    if (command == QLatin1String("sim") && count == 3 && words[1] == QLatin1String("tap")) {
-        bool isX = false;
-        bool isY = false;
-        const ushort x = words[2].toUShort(&isX);
-        const ushort y = words[3].toUShort(&isY);
-        return isX && isY ? runSimTap(x, y)
-                          : usageError(QStringLiteral("a point is two numbers from 0 to 65535"));
+    if (needsDisplays(command) && !platforms.isEmpty()) {
+        qputenv("QT_QPA_PLATFORM", platforms + "minimal");
+        QGuiApplication::setDesktopSettingsAware(false); // nothing is shown
+        // Nobody need hear of a display that cannot be asked: the file's area stands then.
+        const QtMessageHandler handler =
+            qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+        auto application = std::make_unique<QGuiApplication>(argc, argv);
+        qInstallMessageHandler(handler);
+        if (QGuiApplication::platformName() != QLatin1String("minimal")) {
+            return application;
+        }
     }
-    return usageError(QStringLiteral("there is no command '%1'").arg(words.join(QLatin1Char(' '))));
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
+/** The exit code, once all output is where it belongs. */
+int finish(int code)
+{
+    const bool isWhole = std::ferror(stdout) == 0;
+    if (std::fflush(stdout) == 0 && isWhole) {
+        return code;
+    }
+    std::fprintf(
+        stderr, "qvtbltctl: write error: %s\n", std::system_category().message(errno).c_str());
+    return kExitBad;
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    const QCoreApplication application(argc, argv);
     QStringList words;
     bool asJson = false;
     bool areOptions = true;
-    const QStringList arguments = QCoreApplication::arguments().mid(1);
-    for (const QString& argument : arguments) {
-        bool isNumber = false;
-        argument.toLongLong(&isNumber, 0);
+    for (int i = 1; i < argc; ++i) {
+        const QString argument = QString::fromLocal8Bit(argv[i]);
         // A negative number is a value, not an option.
-        if (!areOptions || isNumber || !argument.startsWith(QLatin1Char('-'))) {
+        if (!areOptions || !argument.startsWith(QLatin1Char('-')) || argument.size() == 1
+            || numberIn(argument)) {
             words.append(argument);
         } else if (argument == QLatin1String("--")) {
             areOptions = false;
         } else if (argument == QLatin1String("-h") || argument == QLatin1String("--help")) {
             std::fputs(kHelp, stdout);
-            return kExitGood;
+            return finish(kExitGood);
         } else if (argument == QLatin1String("-v") || argument == QLatin1String("--version")) {
             std::puts("qvtbltctl " QVTBLT_VERSION);
-            return kExitGood;
+            return finish(kExitGood);
         } else if (argument == QLatin1String("--json")) {
             asJson = true;
         } else {
             return usageError(QStringLiteral("there is no option '%1'").arg(argument));
         }
     }
-    return run(words, asJson);
+    const QString why = misuse(words, asJson);
+    if (!why.isEmpty()) {
+        return usageError(why);
+    }
+    int nameAlone = 1; // an operand is no option of Qt's
+    const auto application = makeApplication(nameAlone, argv, words[0]);
+    return finish(run(words, asJson));
 }

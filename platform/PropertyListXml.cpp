@@ -108,8 +108,12 @@ public:
             step();
         }
         if (mWhy.empty() && mXml.hasError()) {
-            mWhy = mXml.errorString().toStdString() + " (line " + std::to_string(mXml.lineNumber())
-                + ")";
+            // Qt quotes what it has found, control characters too.
+            QString text = mXml.errorString();
+            for (QChar& c : text) {
+                c = c.isPrint() ? c : QChar(u'?');
+            }
+            mWhy = text.toStdString() + " (line " + std::to_string(mXml.lineNumber()) + ")";
         }
         if (mWhy.empty() && !mHasRoot) {
             mWhy = "it holds no value";

@@ -7,9 +7,11 @@ import plistlib
 import re
 import resource
 import signal
+import struct
 import subprocess
 import unittest
 
+import displays
 import session
 
 
@@ -38,11 +40,55 @@ class Ctl(session.Session):
 
     def test_misuse_is_told_with_exit_code_2(self):
         for words in ([], ["what"], ["status", "x"], ["check"], ["set", "Pen/Speed"], ["--what"],
-                      ["--json", "status"], ["show", "a", "b"], ["push", "now"],
+                      ["--json", "status"], ["show", "a", "b"], ["push", "now"], ["sim", "tap"],
                       ["usb-mode"], ["usb-mode", "slow"], ["sim", "tap", "1"],
                       ["sim", "tap", "1", "65536"]):
             with self.subTest(words):
                 self.assert_result(self.ctl(*words), 2, "", "Try 'qvtbltctl --help'.")
+
+    def test_misuse_says_what_is_missing_or_too_much(self):
+        for words, why in ((["set"], "missing operand after 'set'"),
+                           (["set", "Pen/Speed"], "missing operand after 'Pen/Speed'"),
+                           (["set", "Pen/Speed", "1", "2"], "extra operand '2'"),
+                           (["status", "x"], "extra operand 'x'"),
+                           (["what", "x"], "there is no command 'what'"),
+                           (["usb-mode", "slow"], "there is no report mode 'slow'"),
+                           (["sim", "draw", "1", "1"], "the pen cannot 'draw'"),
+                           ([], "a command is missing")):
+            with self.subTest(words):
+                self.assertTrue(self.ctl(*words).stderr.startswith(f"qvtbltctl: {why}\n"))
+
+    def test_output_that_cannot_be_written_is_an_error(self):
+        self.start_driver()
+        for words in (["--help"], ["--version"], ["status"], ["show", self.config()],
+                      ["show", "--json", self.config()], ["check", self.config()], ["push"],
+                      ["set", "Pen/Speed", "5"]):
+            with self.subTest(words), open("/dev/full", "w") as full:
+                result = subprocess.run(
+                    [str(session.BIN / "qvtbltctl"), *map(str, words)], env=self.env, text=True,
+                    stdout=full, stderr=subprocess.PIPE, timeout=60)
+                self.assertEqual(result.returncode, 1)
+                self.assertTrue(result.stderr.endswith(
+                    "qvtbltctl: write error: No space left on device\n"), result.stderr)
+
+    def test_show_and_check_read_pipes_up_to_the_limit(self):
+        self.stop_driver(self.start_driver())
+        config = self.config().read_text()
+        for words in (["show"], ["show", "--json"], ["check"]):
+            expected = self.ctl(*words, self.config()).stdout
+            for name in ("-", "/dev/stdin"):
+                with self.subTest(words=words, name=name):
+                    self.assert_result(
+                        self.run_program(session.BIN / "qvtbltctl", *words, name, input=config), 0,
+                        expected)
+        self.assert_result(self.run_program(session.BIN / "qvtbltctl", "check", "-",
+                                            input=" " * (16 * 1024 * 1024 + 1)), 1,
+                           "larger than 16777216 bytes")
+
+    def test_show_of_no_name_asks_no_driver(self):
+        self.start_driver()
+        self.ctl("push")
+        self.assert_result(self.ctl("show", ""), 1, "", "No such file or directory")
 
     def test_usb_mode_says_that_there_is_no_such_tablet(self):
         result = self.ctl("usb-mode", "fast")
@@ -94,7 +140,7 @@ class Ctl(session.Session):
 
     def test_show_says_why_a_file_cannot_be_used(self):
         self.assert_result(self.ctl("show", "/nowhere.plist"), 1, "", "No such file")
-        self.assert_result(self.ctl("show", "/"), 1, "", "no regular file")
+        self.assert_result(self.ctl("show", "/"), 1, "", "Is a directory")
 
     def test_check_looks_at_every_entry(self):
         self.stop_driver(self.start_driver())
@@ -129,7 +175,7 @@ class Ctl(session.Session):
         path = self.home / "x.plist"
         path.write_text("<plist><dict>")
         self.assert_result(self.ctl("check", path), 1, "unusable  cannot use ")
-        self.assert_result(self.ctl("check", self.home), 1, "no regular file")
+        self.assert_result(self.ctl("check", self.home), 1, "Is a directory")
 
     def test_push_sends_the_files_record(self):
         self.assert_result(self.ctl("push"), 1, "", "the driver does not answer")
@@ -163,6 +209,47 @@ class Ctl(session.Session):
         self.assert_result(self.ctl("set", "Key/Key0/App", "--", "-h"), 0)
         self.assertEqual(plistlib.loads(self.config().read_bytes())["Key"]["Key0"]["App"], "-h")
 
+    def test_set_takes_decimal_and_hexadecimal_numbers_and_no_others(self):
+        self.start_driver()
+        for value, number in (("010", 10), ("0x10", 16), ("-010", -10), ("-0X1f", -31), ("09", 9)):
+            with self.subTest(value):
+                self.assert_result(self.ctl("set", "Pen/Speed", value), 0)
+                self.assertEqual(
+                    plistlib.loads(self.config().read_bytes())["Pen"]["Speed"], number)
+
+    def test_set_says_when_the_file_has_no_place_for_an_entry(self):
+        self.start_driver()
+        config = plistlib.loads(self.config().read_bytes())
+        del config["Key"]["penKeyL"]
+        del config["Pen"]
+        self.config().write_bytes(plistlib.dumps(config))
+        before = self.config().read_bytes()
+        for entry in ("Key/penKeyL/Mouse", "Pen/Speed"):
+            self.assert_result(
+                self.ctl("set", entry, "1"), 1, "", f"the tablet's file has no place for {entry}\n")
+        self.assertEqual(self.config().read_bytes(), before)
+        self.assertEqual(self.simulator("Pushes"), ["u", "0"])
+
+    def start_with_area(self):
+        """The driver, and a file with a mapped area of its own."""
+        self.start_driver()
+        config = plistlib.loads(self.config().read_bytes())
+        config["Monitor"] |= {"XOrg": 5, "Width": 60, "YOrg": 7, "Height": 80}
+        self.config().write_bytes(plistlib.dumps(config))
+
+    def mapped_area(self):
+        return struct.unpack("<hhhh", self.record()[295:303])  # XOrg, Width, YOrg, Height
+
+    def test_the_files_area_stands_where_no_display_can_be_asked(self):
+        self.start_with_area()
+        for name in ("DISPLAY", "WAYLAND_DISPLAY"):
+            with self.subTest(name):
+                self.env[name] = ":98765" if name == "DISPLAY" else "nowhere"
+                result = self.ctl("push")
+                self.assert_result(result, 0)
+                self.assertEqual(result.stderr, "ConnectToDriver 0 0 0 0\nConnectToDriver ok\n")
+                self.assertEqual(self.mapped_area(), (5, 60, 7, 80))
+
     def test_set_refuses_what_is_no_setting_or_does_not_fit(self):
         self.start_driver()
         before = self.config().read_bytes()
@@ -174,7 +261,10 @@ class Ctl(session.Session):
                 ("Pen/Speed", "-32769", "-32769 does not fit"),
                 ("Key/Key0/Key", "4294967296", "does not fit"),
                 ("Key/Key0/App", "caf\u00e9", "must be ASCII"),
-                ("Key/Key0/App", "x" * 256, "must be ASCII and at most 255")):
+                ("Key/Key0/App", "x" * 256, "must be ASCII and at most 255"),
+                ("Key/Key0/App", "a\x1bb", "must not have control characters"),
+                ("Pen/Speed", "", "'' is no number"),
+                ("Pen/Speed", "0b1", "'0b1' is no number")):
             with self.subTest(entry=entry, value=value[:20]):
                 self.assert_result(self.ctl("set", entry, value), 2, "", why)
         self.assertEqual(self.config().read_bytes(), before)
@@ -193,6 +283,24 @@ class Ctl(session.Session):
         self.assert_result(result, 1, "", f"cannot write {self.config()}: File too large")
         self.assertEqual(self.config().read_bytes(), before)
         self.assertEqual(list(self.config().parent.iterdir()), [self.config()])
+
+
+class CtlOnDisplays(displays.Displays):
+    start_with_area = Ctl.start_with_area
+    mapped_area = Ctl.mapped_area
+
+    def test_one_display_is_the_mapped_area_of_push_and_set_and_of_two_the_files(self):
+        self.start_with_area()
+        self.plug(1, "800x600", "1024x0")
+        for words in (["push"], ["set", "Pen/Speed", "5"]):
+            self.assertEqual(self.ctl(*words).returncode, 0)
+            self.assertEqual(self.mapped_area(), (5, 60, 7, 80))
+        self.xrandr("--output", "DUMMY1", "--off")
+        for words in (["push"], ["set", "Pen/Speed", "6"]):
+            self.assertEqual(self.ctl(*words).returncode, 0)
+            self.assertEqual(self.mapped_area(), (0, 1024, 0, 768))
+        monitor = plistlib.loads(self.config().read_bytes())["Monitor"]
+        self.assertEqual((monitor["Width"], monitor["Height"]), (1024, 768))
 
 
 class CtlStartsTheDriver(session.Session):

@@ -274,7 +274,9 @@ TEST(PropertyListXml, refusesCharactersThatAreNone)
 {
     EXPECT_NE(errorOfEntry("<string>&#1;</string>"), "");
     EXPECT_NE(errorOfEntry("<string>&#0;</string>"), "");
-    EXPECT_NE(errorOfEntry("<string>\x01</string>"), "");
+    const std::string why = errorOfEntry("<string>\x1b</string>");
+    EXPECT_NE(why, "");
+    EXPECT_EQ(why.find('\x1b'), std::string::npos) << "it stands in a log";
     EXPECT_NE(errorOfEntry("<string>&#xD800;</string>"), "");
     EXPECT_EQ(stringIn(entry("<string>&#13;&#x20AC;</string>")), "\r\xE2\x82\xAC");
 }
