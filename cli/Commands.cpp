@@ -33,8 +33,8 @@ QString modelName(const tagQVTabletInfo& record)
     const auto productID = static_cast<std::uint16_t>(record.Basic.ProductID);
     const QVTabletModel* const model = QVFindModel(productID);
     return QStringLiteral("%1 (product %2)")
-        .arg(model == nullptr ? QStringLiteral("unknown model") : QString::fromUtf8(model->name))
-        .arg(productID);
+        .arg(model == nullptr ? QStringLiteral("unknown model") : QString::fromUtf8(model->name),
+            QString::number(productID));
 }
 
 /** Finds the tablet and loads its file. @return the file's contents; nothing when why says so */

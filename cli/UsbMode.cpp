@@ -179,8 +179,7 @@ UsbModeResult setUsbMode(bool isFast, std::uint16_t productID, const QString& na
     if (progress.configurations && progress.configurations != 1) {
         return {false,
             QStringLiteral("the %1 has %2 configurations instead of one, so it was left alone")
-                .arg(name)
-                .arg(*progress.configurations)};
+                .arg(name, QString::number(*progress.configurations))};
     }
     return {
         false, QStringLiteral("the %1 does not say what it is, so it was left alone").arg(name)};

@@ -88,9 +88,9 @@ std::int16_t disableFlag(const QByteArray& record)
 QString modelText(std::uint16_t productID)
 {
     const QVTabletModel* const model = QVFindModel(productID);
-    return model == nullptr
-        ? QStringLiteral("no tablet")
-        : QStringLiteral("%1 (product %2)").arg(QString::fromUtf8(model->name)).arg(productID);
+    return model == nullptr ? QStringLiteral("no tablet")
+                            : QStringLiteral("%1 (product %2)")
+                                  .arg(QString::fromUtf8(model->name), QString::number(productID));
 }
 
 } // namespace
@@ -355,7 +355,7 @@ OSErr Driver::answerQuery(const AppleEvent& event, AppleEvent& reply)
         return refuse(event, error, reply);
     }
     const std::int32_t answer = mState.attached;
-    say(QStringLiteral("query from %1: %2").arg(senderOf(event)).arg(answer));
+    say(QStringLiteral("query from %1: %2").arg(senderOf(event), QString::number(answer)));
     return mEvents.putParamPtr(reply, keyDirectObject, typeLongInteger, bytesOf(answer));
 }
 

@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QHash>
 #include <QLocale>
 #include <QLoggingCategory>
 
@@ -38,7 +39,40 @@ QStringList preferredLanguages()
     return languages;
 }
 
+/** The strings of a table; none, with a line in the log, where it cannot be used. */
+QHash<QString, QString> readTable(const std::optional<QString>& path)
+{
+    QHash<QString, QString> strings;
+    if (!path) {
+        return strings;
+    }
+    PropertyListError error;
+    const auto list = PropertyList::load(QFile::encodeName(*path).toStdString(), error);
+    if (!list) {
+        qCWarning(lcBundle, "%s", error.message.c_str());
+        return strings;
+    }
+    for (const std::string& key : list->root().keys()) {
+        if (const auto text = list->root().string(key.c_str())) {
+            strings.insert(QString::fromStdString(key),
+                QString::fromUtf8(text->data(), static_cast<int>(text->size())));
+        }
+    }
+    return strings;
+}
+
 } // namespace
+
+struct Bundle::Tables {
+    /** By their languages and names; empty where there is none, or none that can be used. */
+    QHash<QString, QHash<QString, QString>> strings;
+};
+
+Bundle::Bundle(QString folder)
+    : mFolder(std::move(folder))
+    , mTables(std::make_shared<Tables>())
+{
+}
 
 std::optional<QString> Bundle::pathForResource(const QString& name, const QString& type) const
 {
@@ -70,23 +104,17 @@ std::optional<QString> Bundle::pathForLocalizedResource(
 QString Bundle::localizedString(
     const QString& key, const QString& value, const QString& table) const
 {
-    const QStringList languages = preferredLanguages();
+    const QStringList languages = mTables ? preferredLanguages() : QStringList();
     for (const QString& language : languages) {
-        const std::optional<QString> path = pathForResource(
-            language + QStringLiteral(".lproj/") + table, QStringLiteral("strings"));
-        if (!path) {
-            continue;
+        const QString name = language + QStringLiteral(".lproj/") + table;
+        auto strings = mTables->strings.constFind(name);
+        if (strings == mTables->strings.constEnd()) {
+            strings = mTables->strings.insert(
+                name, readTable(pathForResource(name, QStringLiteral("strings"))));
         }
-        PropertyListError error;
-        const std::optional<PropertyList> strings =
-            PropertyList::load(QFile::encodeName(*path).toStdString(), error);
-        if (!strings) {
-            qCWarning(lcBundle, "%s", error.message.c_str());
-            continue;
-        }
-        const auto text = strings->root().string(key.toUtf8().constData());
-        if (text) {
-            return QString::fromUtf8(text->data(), static_cast<int>(text->size()));
+        const auto text = strings->constFind(key);
+        if (text != strings->constEnd()) {
+            return *text;
         }
     }
     return value.isEmpty() ? key : value;

@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 
 namespace platform {
@@ -16,16 +17,15 @@ namespace platform {
  * of strings. The user's preferred languages are those of the desktop's settings, best first. A
  * folder's language is written as in these: de, pt-BR, or zh-Hans, which serves Chinese in all
  * places that write it in simplified characters, and no other.
+ *
+ * A string table is read once, when its first string is asked for; the copies of a bundle share it.
  */
 class Bundle {
 public:
     /** A bundle without resources. */
     Bundle() = default;
 
-    explicit Bundle(QString folder)
-        : mFolder(std::move(folder))
-    {
-    }
+    explicit Bundle(QString folder);
 
     const QString& folder() const { return mFolder; }
 
@@ -52,7 +52,10 @@ public:
     QString localizedString(const QString& key, const QString& value, const QString& table) const;
 
 private:
+    struct Tables;
+
     QString mFolder;
+    std::shared_ptr<Tables> mTables; ///< those that have been read
 };
 
 } // namespace platform

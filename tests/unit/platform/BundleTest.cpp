@@ -5,6 +5,7 @@
 #include "SampleConfig.h"
 #include "TemporaryHome.h"
 
+#include <QFile>
 #include <QLocale>
 
 #include <gtest/gtest.h>
@@ -119,6 +120,31 @@ TEST_F(BundleFolder, fallsBackToEnglishForALanguageOrAKeyThatIsNotThere)
 {
     EXPECT_EQ(lookUp("es", "Hello"), QStringLiteral("Hello"));
     EXPECT_EQ(lookUp("de", "Only"), QStringLiteral("English"));
+}
+
+TEST_F(BundleFolder, readsATableOnceForAllItsCopies)
+{
+    const Bundle copy = mBundle;
+    EXPECT_EQ(lookUp("de", "Only"), QStringLiteral("English"));
+    for (const char* const language : {"de", "en"}) {
+        ASSERT_TRUE(QFile::remove(mHome.path() + u'/' + QString::fromLatin1(language)
+            + QStringLiteral(".lproj/Table.strings")));
+    }
+    EXPECT_EQ(lookUp("de", "Hello"), QString::fromUtf8("Gr\xC3\xBC\xC3\x9F Gott"));
+    EXPECT_EQ(lookUp("en", "Hello"), QStringLiteral("Hello")) << "another language, too";
+    EXPECT_EQ(copy.localizedString(QStringLiteral("Only"), QString(), QStringLiteral("Table")),
+        QStringLiteral("English"));
+}
+
+TEST_F(BundleFolder, saysOnceThatATableIsBroken)
+{
+    testing::internal::CaptureStderr();
+    lookUp("fr", "Hello");
+    lookUp("fr", "Only");
+    const std::string log = testing::internal::GetCapturedStderr();
+    const auto first = log.find("fr.lproj/Table.strings");
+    EXPECT_NE(first, std::string::npos) << log;
+    EXPECT_EQ(log.find("fr.lproj/Table.strings", first + 1), std::string::npos) << log;
 }
 
 TEST_F(BundleFolder, passesOverATableThatIsBroken)
