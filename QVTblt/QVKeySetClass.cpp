@@ -10,6 +10,7 @@
 #include <QAbstractButton>
 #include <QButtonGroup>
 #include <QEvent>
+#include <QLineEdit>
 #include <QScreen>
 #include <QStringList>
 #include <QStyle>
@@ -70,7 +71,15 @@ void QVKeySetClass::QVShowWindow(QVKeyComboBox* comboBox)
     mKeyValue = 0;
     setHasKeys(false);
     ui->keyCtrl->setFocus(); // where most combinations begin
-    fitInto((parentWidget() == nullptr ? this : parentWidget())->screen()->availableSize());
+}
+
+void QVKeySetClass::setVisible(bool visible)
+{
+    if (visible && isHidden()) {
+        const QWidget& owner = parentWidget() == nullptr ? *this : *parentWidget();
+        fitInto(owner.screen()->availableSize());
+    }
+    QDialog::setVisible(visible);
 }
 
 void QVKeySetClass::fitInto(const QSize& room)
@@ -79,11 +88,20 @@ void QVKeySetClass::fitInto(const QSize& room)
     // A scroll area asks for a few lines of text, not for all that is in it.
     const QSize keyboard = ui->keyboard->sizeHint();
     const QMargins margins = layout()->contentsMargins();
+    const QWidget* const owner = parentWidget() == nullptr ? nullptr : parentWidget()->window();
+    const QSize most = room - frameOf(owner);
+
+    // The field has to say what to do, as far as there is room. It asks for 17 letters.
+    QLineEdit& field = *ui->mKeyText;
+    const QFontMetrics metrics = field.fontMetrics();
+    const int text = metrics.horizontalAdvance(field.placeholderText()) + field.sizeHint().width()
+        - 17 * metrics.horizontalAdvance(u'x');
+    const int beside = ui->delBtn->sizeHint().width() + ui->textLayout->spacing();
+    field.setMinimumWidth(std::min(text, most.width() - beside - margins.left() - margins.right()));
+
     const QSize hint = layout()->sizeHint();
     QSize whole(std::max(hint.width(), keyboard.width() + margins.left() + margins.right()),
         hint.height() - ui->keyScroll->sizeHint().height() + keyboard.height());
-    const QWidget* const owner = parentWidget() == nullptr ? nullptr : parentWidget()->window();
-    const QSize most = room - frameOf(owner);
     if (whole.width() > most.width()) { // the bar to scroll with needs some of the height
         whole.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     }

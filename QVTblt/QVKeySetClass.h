@@ -38,7 +38,7 @@ public:
 
     /** Shows the window without waiting for the user. */
     void showWindow();
-    /** Empties the dialog for the box and fits it into the screen. Shows nothing yet. */
+    /** Empties the dialog for the box. Shows nothing yet. */
     void QVShowWindow(QVKeyComboBox* comboBox);
 
     /**
@@ -60,11 +60,13 @@ public:
 
     /**
      * Gives the window the size at which no key has to be scrolled to, as far as there is room.
+     * That happens whenever it is shown, for the screen's room.
      *
      * @param room for the window with its frame, in pixels
      */
     void fitInto(const QSize& room);
 
+    void setVisible(bool visible) override;
     /** Escape and the window's close button cancel. */
     void reject() override;
 

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSet>
@@ -357,8 +358,8 @@ TEST_F(KeySet, fitsIntoSmallScreensInEveryLanguageAndTextSize)
                 font.setPointSize(points);
                 dialog.setFont(font);
                 dialog.QVShowWindow(&mBox);
-                dialog.fitInto(room);
                 dialog.show();
+                dialog.fitInto(room);
                 QCoreApplication::processEvents();
                 EXPECT_LE(dialog.width() + kFrame.width(), room.width());
                 EXPECT_LE(dialog.height() + kFrame.height(), room.height());
@@ -381,6 +382,19 @@ TEST_F(KeySet, fitsIntoSmallScreensInEveryLanguageAndTextSize)
     }
 }
 
+TEST_F(KeySet, isShownWithinTheScreen)
+{
+    QVKeySetClass dialog;
+    QFont font = QApplication::font();
+    font.setPointSize(18);
+    dialog.setFont(font);
+    dialog.showWindow();
+    const QRect screen = dialog.screen()->availableGeometry();
+    EXPECT_LE(dialog.frameGeometry().width(), screen.width());
+    EXPECT_LE(dialog.frameGeometry().height(), screen.height());
+    EXPECT_GE(dialog.width(), screen.width() * 9 / 10) << "which this text size needs";
+}
+
 TEST_F(KeySet, needsNoScrollingWhereThereIsRoom)
 {
     for (const int points : {8, 10, 14, 18}) {
@@ -388,8 +402,8 @@ TEST_F(KeySet, needsNoScrollingWhereThereIsRoom)
         QFont font = QApplication::font();
         font.setPointSize(points);
         dialog.setFont(font);
-        dialog.fitInto({4000, 2000});
         dialog.show();
+        dialog.fitInto({4000, 2000});
         QCoreApplication::processEvents();
         const auto& area = *dialog.findChild<QScrollArea*>();
         EXPECT_EQ(area.horizontalScrollBar()->maximum(), 0) << points;
