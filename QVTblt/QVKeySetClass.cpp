@@ -91,11 +91,12 @@ void QVKeySetClass::fitInto(const QSize& room)
     const QWidget* const owner = parentWidget() == nullptr ? nullptr : parentWidget()->window();
     const QSize most = room - frameOf(owner);
 
-    // The field has to say what to do, as far as there is room. It asks for 17 letters.
+    // The field has to say what to do, as far as there is room. It asks for 17 letters,
+    // of which one is kept as a margin.
     QLineEdit& field = *ui->mKeyText;
     const QFontMetrics metrics = field.fontMetrics();
     const int text = metrics.horizontalAdvance(field.placeholderText()) + field.sizeHint().width()
-        - 17 * metrics.horizontalAdvance(u'x');
+        - 16 * metrics.horizontalAdvance(u'x');
     const int beside = ui->delBtn->sizeHint().width() + ui->textLayout->spacing();
     field.setMinimumWidth(std::min(text, most.width() - beside - margins.left() - margins.right()));
 
