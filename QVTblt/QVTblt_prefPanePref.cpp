@@ -44,9 +44,10 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
 
 void QVTblt_prefPanePref::relay(QLatin1String name, News news)
 {
-    platform::notifications().addObserver(*this, name,
-        [this, news](
-            const platform::Notification& notification) { tell(news, notification.text); });
+    platform::notifications().addObserver(
+        *this, name, [this, news](const platform::Notification& notification) {
+            tell(news, notification.text);
+        });
 }
 
 QWidget* QVTblt_prefPanePref::makeMainView()

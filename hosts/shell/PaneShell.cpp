@@ -36,8 +36,8 @@ PaneShell::PaneShell(std::unique_ptr<Pane> pane, Host host, QWidget* parent)
     layout->addWidget(mBottom);
     auto* const bottom = new QHBoxLayout(mBottom);
     // At the sides as far in as the pages, of which the pane's own margins are below.
-    bottom->setContentsMargins(
-        bottom->contentsMargins().left(), 0, bottom->contentsMargins().right(), bottom->contentsMargins().bottom());
+    bottom->setContentsMargins(bottom->contentsMargins().left(), 0,
+        bottom->contentsMargins().right(), bottom->contentsMargins().bottom());
     if (host == Host::Window) {
         makeButtons();
     }
@@ -48,11 +48,7 @@ PaneShell::PaneShell(std::unique_ptr<Pane> pane, Host host, QWidget* parent)
 
 PaneShell::~PaneShell()
 {
-    mPane->setNewsHandler(nullptr); // there is no line to say it in any more
-    if (mIsSelected) {
-        mPane->willUnselect();
-        mPane->didUnselect();
-    }
+    mPane->setNewsHandler(nullptr);
     mPane->setChangeHandler(nullptr);
 }
 
@@ -88,6 +84,7 @@ void PaneShell::makeNotice()
     row->insertWidget(1, mMend);
     if (mCancel != nullptr) {
         setTabOrder(mMend, mCancel);
+        setTabOrder(mCancel, mSave);
     }
 }
 
@@ -142,6 +139,15 @@ void PaneShell::didUnselect()
 {
     mIsSelected = false;
     mPane->didUnselect();
+}
+
+void PaneShell::end()
+{
+    mPane->setNewsHandler(nullptr); // nobody would see the line any more
+    if (mIsSelected) {
+        willUnselect();
+        didUnselect();
+    }
 }
 
 void PaneShell::showAnew()

@@ -39,7 +39,6 @@ public:
 
     /** Loads the pane's main view. */
     PaneShell(std::unique_ptr<platform::PreferencePane> pane, Host host, QWidget* parent = nullptr);
-    /** Leaves a pane that is still selected. */
     ~PaneShell() override;
     Q_DISABLE_COPY_MOVE(PaneShell)
 
@@ -66,6 +65,8 @@ public:
      */
     QString willUnselect();
     void didUnselect();
+    /** Leaves a pane that is still selected, because the shell is about to go. */
+    void end();
 
     /** Makes the settings permanent. */
     void save();

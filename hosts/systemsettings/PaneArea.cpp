@@ -27,7 +27,8 @@ PaneArea::PaneArea(std::unique_ptr<platform::PreferencePane> pane, QWidget* pare
 
 PaneArea::~PaneArea()
 {
-    mChangeHandler = nullptr; // the shell leaves the pane yet
+    mChangeHandler = nullptr;
+    mShell->end();
 }
 
 void PaneArea::setChangeHandler(std::function<void(bool)> handler)

@@ -190,8 +190,8 @@ TEST_F(Pane, tellsItsHostWhatBecomesOfWhatItHasAskedFor)
     post(platform::kEventTakenNotification);
     post(platform::kSourceChangedNotification);
     EXPECT_EQ(mNews,
-        (std::vector{News::Loaded, News::ChangeNotTaken, News::ChangeTaken,
-            News::DeviceMayHaveChanged}));
+        (std::vector{
+            News::Loaded, News::ChangeNotTaken, News::ChangeTaken, News::DeviceMayHaveChanged}));
     EXPECT_TRUE(pushes().empty()) << "it repeats nothing by itself";
 }
 
@@ -274,8 +274,8 @@ TEST_F(Pane, asksTheDriverOnceWhenItIsShownAnewAfterACheck)
 TEST_F(Pane, savesIntoTheFormerTabletsFileAndSendsNothingWhenTheTabletIsAnother)
 {
     QByteArray other = sampleConfig();
-    other.replace("<key>ProductID</key><integer>2</integer>",
-        "<key>ProductID</key><integer>8</integer>");
+    other.replace(
+        "<key>ProductID</key><integer>2</integer>", "<key>ProductID</key><integer>8</integer>");
     writeFile(mHome.configFile(8), other);
     show();
     qvTabletInfo.Pen.Speed = 99;
@@ -581,8 +581,10 @@ TEST_F(Pane, worksWithAMainViewThatIsLoadedAgain)
     QTest::mouseClick(&outlet<QCheckBox>("mKeyLScroll"), Qt::LeftButton, {}, QPoint(8, 8));
     EXPECT_EQ(pushes().size(), 1U);
     mEvents.answer(8);
-    writeFile(mHome.configFile(8), QByteArray(sampleConfig()).replace(
-        "<key>ProductID</key><integer>2</integer>", "<key>ProductID</key><integer>9</integer>"));
+    writeFile(mHome.configFile(8),
+        QByteArray(sampleConfig())
+            .replace("<key>ProductID</key><integer>2</integer>",
+                "<key>ProductID</key><integer>9</integer>"));
     leave();
     show();
     EXPECT_TRUE(outlet<QTabWidget>("tabView").isVisible());

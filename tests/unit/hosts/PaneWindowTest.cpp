@@ -52,8 +52,8 @@ TEST_F(Window, staysOpenWhereChangesCannotBeSavedAndTheUserWantsToKeepIt)
     mLife.canSave = false;
     const AlertAnswer answer("Keep Open");
     EXPECT_FALSE(mWindow->close());
-    EXPECT_EQ(
-        answer.text(), QStringLiteral("The tablet's settings could not be saved: the disk is full"));
+    EXPECT_EQ(answer.text(),
+        QStringLiteral("The tablet's settings could not be saved: the disk is full"));
     EXPECT_TRUE(mWindow->isVisible());
     EXPECT_EQ(mLife.take(), QStringList{QStringLiteral("will unselect")});
     mLife.canSave = true;

@@ -4,8 +4,8 @@
 // The panel in each of its languages: every text has its room, its glyphs and a letter of its own
 // on the keyboard. And in a language that is written from right to left.
 
-#include "Geometry.h"
 #include "Accessible.h"
+#include "Geometry.h"
 #include "NotedPane.h"
 #include "PaneShell.h"
 #include "PaneTest.h"
@@ -509,9 +509,8 @@ TEST_P(Language, reachesNoTwoControlsOfAPageWithTheSameLetter)
     PaneShell shell(std::make_unique<NotedPane>(life), PaneShell::Host::Window);
     shell.willSelect();
     shell.show();
-    atEveryPage([&] {
-        expectMnemonicsDiffer(textsOf(*mWindow) + textsOf(shell), kTabs + kButtons + 4);
-    });
+    atEveryPage(
+        [&] { expectMnemonicsDiffer(textsOf(*mWindow) + textsOf(shell), kTabs + kButtons + 4); });
     keyDialog().showWindow();
     expectMnemonicsDiffer(textsOf(keyDialog()), 3);
 }
