@@ -130,8 +130,11 @@ TEST_F(KeyBox, shortensAPathAtItsBeginningAndKeysInTheirMiddle)
         const bool isPath = item == QVKeyComboBox::Application;
         const auto drawn = [this, item](const QString& what) {
             mBox.replaceItem(item, what);
-            mBox.view()->resize(200, 300);
-            return std::pair(mBox.grab().toImage(), mBox.view()->grab().toImage());
+            const QImage closed = mBox.grab().toImage();
+            mBox.showPopup();
+            const QImage list = mBox.view()->viewport()->grab().toImage();
+            mBox.hidePopup();
+            return std::pair(closed, list);
         };
         const auto usual = drawn(text("/a/", "x", "/b"));
         const auto start = drawn(text("/c/", "x", "/b"));
