@@ -66,7 +66,7 @@ protected:
 
 TEST_F(Tabs, aHiddenPageNeedsAndAsksForTheUsualRoom)
 {
-    EXPECT_EQ(mSecond.minimumSizeHint(), QSize(700, 400));
+    EXPECT_EQ(mSecond.minimumSizeHint(), QSize(600, 300));
     EXPECT_EQ(mSecond.sizeHint(), QSize(800, 450));
     EXPECT_FALSE(mSecond.hasHeightForWidth());
     EXPECT_EQ(mSecond.heightForWidth(500), -1);
@@ -79,7 +79,7 @@ TEST_F(Tabs, theUsualRoomGrowsWithTheText)
 {
     setTextHeight(26);
     EXPECT_EQ(mSecond.sizeHint(), QSize(1600, 900));
-    EXPECT_EQ(mSecond.minimumSizeHint(), QSize(1400, 800));
+    EXPECT_EQ(mSecond.minimumSizeHint(), QSize(1200, 600));
 }
 
 TEST_F(Tabs, thePageThatIsShownNeedsWhatIsOnIt)
