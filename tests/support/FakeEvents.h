@@ -6,7 +6,6 @@
 #include "Service.h"
 
 #include <functional>
-#include <functional>
 #include <map>
 #include <utility>
 #include <vector>

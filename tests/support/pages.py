@@ -9,7 +9,7 @@ import re
 import session
 
 # Something on each tab's page, by which one knows that it is shown.
-CONTROLS = {"Keys": "Upper pen button", "Pen": "Drawing pad",
+CONTROLS = {"Keys": "Picture of the tablet", "Pen": "Drawing pad",
             "Display": "Picture of the displays and the tablet"}
 STRUCTURE = session.SOURCE / "docs/images/pages.json"
 
@@ -34,7 +34,7 @@ def pages():
 def structure(things):
     """What a person sees of a page, without what differs from desktop to desktop: tabs, controls with
     whether they can be used, and texts. A list stands under what it is for, not under what is chosen."""
-    seen = set()
+    seen = []
     for thing in things:
         if not thing["showing"]:
             continue
@@ -44,7 +44,7 @@ def structure(things):
                         thing["description"])
         name = re.sub(r"\d+(?:[.,]\d+)?", "#", name).strip()
         if name:
-            seen.add(f"{thing['role']}: {name}" + ("" if thing["enabled"] else " (disabled)"))
+            seen.append(f"{thing['role']}: {name}" + ("" if thing["enabled"] else " (disabled)"))
     return sorted(seen)
 
 
