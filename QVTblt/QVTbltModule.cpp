@@ -7,7 +7,7 @@
 /** The module's plug-in, by which a host makes the panel. */
 class QVTbltModule final : public QObject, public platform::PreferencePanePlugin {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.quorvia.PreferencePanePlugin/2")
+    Q_PLUGIN_METADATA(IID "org.quorvia.PreferencePanePlugin/3")
     Q_INTERFACES(platform::PreferencePanePlugin)
 
 public:

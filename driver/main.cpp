@@ -137,8 +137,6 @@ int main(int argc, char* argv[])
     QDBusConnection bus = events.connection();
     Driver driver(events, bus);
     TabletSimulator simulator(driver);
-    QObject::connect(&driver, &Driver::attachedChanged, application.get(),
-        [&events] { events.announceChange(); });
     bus.registerObject(QLatin1String(TabletSimulator::kObjectPath), &simulator,
         QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
     // Whoever does not get the name leaves the user's files alone. What arrives from here on waits
@@ -150,6 +148,9 @@ int main(int argc, char* argv[])
     if (!error.isEmpty()) {
         return fail(error);
     }
+    // That the driver itself has come, the bus tells.
+    QObject::connect(&driver, &Driver::attachedChanged, application.get(),
+        [&events] { events.announceChange(); });
     const platform::UnixSignals signals({SIGTERM, SIGINT, SIGHUP});
     const auto end = [] {
         // What has already arrived is handled before the driver goes.

@@ -149,4 +149,4 @@ public:
 
 } // namespace platform
 
-Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/2")
+Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/3")

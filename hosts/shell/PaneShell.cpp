@@ -7,6 +7,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QHBoxLayout>
+#include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollArea>
@@ -130,6 +131,9 @@ void PaneShell::didSelect()
 QString PaneShell::willUnselect()
 {
     const bool hasChanges = mPane->hasDevice() && mPane->hasChanges();
+    if (!mNotLoaded.isEmpty() && !hasChanges) {
+        load(); // else a file that has been mended meanwhile would get what is not its own
+    }
     mNotSaved.clear();
     mPane->willUnselect();
     return hasChanges ? mNotSaved : QString();
@@ -144,23 +148,26 @@ void PaneShell::didUnselect()
 void PaneShell::end()
 {
     mPane->setNewsHandler(nullptr); // nobody would see the line any more
-    if (mIsSelected) {
-        willUnselect();
-        didUnselect();
+    if (std::exchange(mIsSelected, false)) {
+        mPane->willUnselect();
+        mPane->didUnselect();
     }
 }
 
 void PaneShell::showAnew()
 {
     closeDialogs();
-    willUnselect();
+    const QString lost = willUnselect();
     didUnselect();
     willSelect();
     didSelect();
+    mNotKept = lost;
+    showNotice();
 }
 
 void PaneShell::load()
 {
+    closeDialogs();
     // Without leaving the pane, which would save what could not be loaded.
     didUnselect();
     willSelect();
@@ -184,6 +191,33 @@ void PaneShell::closeDialogs() const
         if (dialog->isVisible()) {
             return; // it does not let itself be closed
         }
+    }
+}
+
+PaneShell::Unsaved PaneShell::askAboutUnsaved(const QString& why, bool canStay)
+{
+    // Its parent may end before the user answers, and takes it along.
+    const QPointer<QMessageBox> question = new QMessageBox(QMessageBox::Warning, windowTitle(),
+        tr("The tablet's settings could not be saved: %1").arg(why),
+        QMessageBox::Retry | QMessageBox::Discard, window());
+    question->setTextFormat(Qt::PlainText);
+    if (canStay) {
+        question->setInformativeText(tr("Close the window and lose the changes?"));
+        QPushButton* const keep = question->addButton(tr("&Keep Open"), QMessageBox::RejectRole);
+        question->setDefaultButton(keep);
+        question->setEscapeButton(keep);
+    } else {
+        question->setEscapeButton(QMessageBox::Discard);
+    }
+    const int answer = question->exec();
+    delete question;
+    switch (answer) {
+    case QMessageBox::Retry:
+        return Unsaved::TryAgain;
+    case QMessageBox::Discard:
+        return Unsaved::Discard;
+    default:
+        return canStay ? Unsaved::Stay : Unsaved::Discard;
     }
 }
 
@@ -214,6 +248,9 @@ void PaneShell::take(Pane::News news, const QString& text)
     switch (news) {
     case Pane::News::ChangeTaken:
         mIsNotTaken = false;
+        if (mIsUnsure) {
+            followSoon();
+        }
         break;
     case Pane::News::ChangeNotTaken:
         mIsNotTaken = true;
@@ -232,7 +269,7 @@ void PaneShell::take(Pane::News news, const QString& text)
         mNotSaved = text;
         break;
     case Pane::News::DeviceMayHaveChanged:
-        followDevice();
+        followSoon();
         return;
     case Pane::News::ChangedByItself:
         if (mIsSelected) {
@@ -246,8 +283,10 @@ void PaneShell::take(Pane::News news, const QString& text)
 void PaneShell::forget()
 {
     mNotSaved.clear();
+    mNotKept.clear();
     mNotLoaded.clear();
     mIsNotTaken = false;
+    mIsUnsure = false;
 }
 
 PaneShell::Notice PaneShell::notice() const
@@ -257,6 +296,9 @@ PaneShell::Notice PaneShell::notice() const
     }
     if (!mNotSaved.isEmpty()) {
         return Notice::NotSaved;
+    }
+    if (!mNotKept.isEmpty()) {
+        return Notice::NotKept;
     }
     if (!mNotLoaded.isEmpty()) {
         return Notice::NotLoaded;
@@ -272,6 +314,9 @@ void PaneShell::showNotice()
     case Notice::NotSaved:
         text = tr("The settings are not saved: %1").arg(mNotSaved);
         button = tr("Tr&y Again");
+        break;
+    case Notice::NotKept:
+        text = tr("The former tablet's settings are not saved: %1").arg(mNotKept);
         break;
     case Notice::NotLoaded:
         text = tr("The tablet's settings cannot be loaded, so the pages do not show them: %1")
@@ -294,8 +339,8 @@ void PaneShell::showNotice()
         mNoticeLabel->setText(text);
         mNoticeLabel->setVisible(!text.isEmpty());
         mMend->setText(button);
-        mMend->setVisible(!text.isEmpty());
-        if (hadFocus && text.isEmpty()) {
+        mMend->setVisible(!button.isEmpty());
+        if (hadFocus && button.isEmpty()) {
             mPane->didSelect(); // back to where the pane's focus begins
         }
     }
@@ -318,6 +363,7 @@ void PaneShell::mend()
     case Notice::NotTaken:
         sendAgain();
         break;
+    case Notice::NotKept:
     case Notice::None:
         break;
     }
@@ -339,13 +385,24 @@ void PaneShell::sendAgain()
     }
 }
 
+void PaneShell::followSoon()
+{
+    // A driver that comes may be told of in more than one way, and is asked once.
+    if (mIsSelected && !std::exchange(mIsFollowing, true)) {
+        QMetaObject::invokeMethod(this, &PaneShell::followDevice, Qt::QueuedConnection);
+    }
+}
+
 void PaneShell::followDevice()
 {
+    mIsFollowing = false;
     if (!mIsSelected) {
         return;
     }
+    mIsUnsure = false;
     switch (mPane->checkDevice()) {
     case Pane::Device::Unknown:
+        mIsUnsure = true; // it is asked again when it takes something
         break;
     case Pane::Device::Same:
         if (!mNotLoaded.isEmpty()) {

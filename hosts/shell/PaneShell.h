@@ -22,7 +22,8 @@ class NoticeLabel;
  *
  * The pane itself reports and repeats nothing. The shell hears its news, and leaves the pane and
  * shows it anew when the driver has another tablet, or when the user goes back to the saved
- * settings. It sends a driver nothing that it has not asked, just before, which tablet it has.
+ * settings. Of its own accord and for "Send Again" it sends a driver nothing that has not said,
+ * just before, that it has the same tablet.
  *
  * The host calls willSelect(), didSelect(), willUnselect() and didUnselect() as it would call the
  * pane's own.
@@ -68,6 +69,17 @@ public:
     /** Leaves a pane that is still selected, because the shell is about to go. */
     void end();
 
+    /** What to do about changes that could not be saved. */
+    enum class Unsaved : std::uint8_t { TryAgain, Discard, Stay };
+    /**
+     * Asks the user, who may answer after the shell has gone.
+     *
+     * @param why from willUnselect()
+     * @param canStay whether the host can still go back to where it was; without an answer, it
+     *     does so if it can, and else discards
+     */
+    Unsaved askAboutUnsaved(const QString& why, bool canStay);
+
     /** Makes the settings permanent. */
     void save();
     /** Goes back to the saved settings, and shows the pane anew so that its controls follow. */
@@ -79,7 +91,7 @@ private:
     using Pane = platform::PreferencePane;
 
     /** What the line says; the first that holds is shown. */
-    enum class Notice : std::uint8_t { NotSaved, NotLoaded, NotTaken, None };
+    enum class Notice : std::uint8_t { NotSaved, NotKept, NotLoaded, NotTaken, None };
 
     void makeButtons();
     void makeNotice();
@@ -89,17 +101,20 @@ private:
     void showNotice();
     void mend();
     void sendAgain();
+    void followSoon();
     void followDevice();
     void load();
     void showAnew();
     void closeDialogs() const;
 
     std::unique_ptr<Pane> mPane;
-    std::function<void()> mChangeHandler;
     bool mIsSelected = false;
     QString mNotSaved; ///< why the last save failed; empty when it did not
+    QString mNotKept; ///< why the former tablet's changes were lost; empty when none were
     QString mNotLoaded; ///< why the settings could not be read; empty when they were
     bool mIsNotTaken = false; ///< the driver has not taken the last change
+    bool mIsFollowing = false; ///< followDevice() will be called soon
+    bool mIsUnsure = false; ///< a driver has come that did not say which tablet it has
 
     QWidget* mBottom = nullptr; ///< the line and the buttons
     platform::NoticeLabel* mNoticeLabel = nullptr; ///< null before there was anything to say

@@ -5,7 +5,7 @@
 #include <QApplication>
 #include <QDialog>
 #include <QHideEvent>
-#include <QMessageBox>
+#include <QPointer>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -49,35 +49,23 @@ void PaneArea::unselect()
         return;
     }
     const QPointer<PaneArea> area(this);
-    QString why = mShell->willUnselect();
-    while (!why.isEmpty() && asksToTryAgain(why)) {
-        why = mShell->willUnselect();
-    }
-    if (area.isNull() || !mShell->isSelected()) {
-        return; // the host has gone on while the user was asked
-    }
-    if (!why.isEmpty()) {
-        mShell->giveUp();
+    for (;;) {
+        const QString why = mShell->willUnselect();
+        // Logging out must not be held up.
+        if (why.isEmpty() || qGuiApp->isSavingSession()) {
+            break;
+        }
+        const PaneShell::Unsaved answer = mShell->askAboutUnsaved(why, false);
+        if (area.isNull() || !mShell->isSelected()) {
+            return; // the host has gone on while the user was asked
+        }
+        if (answer == PaneShell::Unsaved::Discard) {
+            mShell->giveUp();
+            break;
+        }
     }
     mShell->didUnselect();
     tell();
-}
-
-bool PaneArea::asksToTryAgain(const QString& why)
-{
-    if (qGuiApp->isSavingSession()) {
-        return false; // who logs out is not kept
-    }
-    const QPointer<PaneArea> area(this);
-    // Its parent may end before the user answers, and takes it along.
-    const QPointer<QMessageBox> question = new QMessageBox(QMessageBox::Warning,
-        mShell->windowTitle(), tr("The tablet's settings could not be saved: %1").arg(why),
-        QMessageBox::Retry | QMessageBox::Discard, window());
-    question->setTextFormat(Qt::PlainText);
-    question->setEscapeButton(QMessageBox::Discard);
-    const int answer = question->exec();
-    delete question;
-    return answer == QMessageBox::Retry && !area.isNull();
 }
 
 void PaneArea::unselectWhereHidden()

@@ -57,7 +57,6 @@ protected:
 private:
     void unselect();
     void unselectWhereHidden();
-    bool asksToTryAgain(const QString& why);
     void tell() const;
 
     PaneShell* mShell;

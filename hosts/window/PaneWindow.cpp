@@ -8,10 +8,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QGuiApplication>
-#include <QMessageBox>
 #include <QPixmap>
-#include <QPointer>
-#include <QPushButton>
 #include <QScreen>
 #include <QTabWidget>
 
@@ -64,32 +61,24 @@ void PaneWindow::closeEvent(QCloseEvent* event)
     if (!mShell->isSelected()) {
         return;
     }
-    const QString why = mShell->willUnselect();
-    // Who logs out is not kept.
-    if (!why.isEmpty() && !qGuiApp->isSavingSession()) {
-        if (!discards(why)) {
+    for (;;) {
+        const QString why = mShell->willUnselect();
+        // Logging out must not be held up.
+        if (why.isEmpty() || qGuiApp->isSavingSession()) {
+            break;
+        }
+        const PaneShell::Unsaved answer = mShell->askAboutUnsaved(why, true);
+        if (answer == PaneShell::Unsaved::Stay) {
             event->ignore();
             return;
         }
-        mShell->giveUp();
+        if (answer == PaneShell::Unsaved::Discard) {
+            mShell->giveUp();
+            break;
+        }
     }
     hide();
     mShell->didUnselect();
-}
-
-bool PaneWindow::discards(const QString& why)
-{
-    // Its parent may end before the user answers, and takes it along.
-    const QPointer<QMessageBox> question = new QMessageBox(QMessageBox::Warning, windowTitle(),
-        tr("The tablet's settings could not be saved: %1").arg(why), QMessageBox::Discard, this);
-    question->setInformativeText(tr("Close the window and lose the changes?"));
-    question->setTextFormat(Qt::PlainText);
-    QPushButton* const keep = question->addButton(tr("&Keep Open"), QMessageBox::RejectRole);
-    question->setDefaultButton(keep);
-    question->setEscapeButton(keep);
-    const int answer = question->exec();
-    delete question;
-    return answer == QMessageBox::Discard;
 }
 
 QTabWidget* PaneWindow::pages() const

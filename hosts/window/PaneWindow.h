@@ -55,7 +55,6 @@ private:
     QSize naturalSize() const;
     /** What the screen has room for, the window's frame taken off. */
     QSize roomOnScreen() const;
-    bool discards(const QString& why);
 
     PaneShell* mShell;
 };

@@ -17,13 +17,6 @@
     </message>
 </context>
 <context>
-    <name>PaneArea</name>
-    <message>
-        <source>The tablet&apos;s settings could not be saved: %1</source>
-        <translation>Les réglages de la tablette n’ont pas pu être enregistrés : %1</translation>
-    </message>
-</context>
-<context>
     <name>PaneShell</name>
     <message>
         <source>&amp;Cancel</source>
@@ -61,9 +54,6 @@
         <source>Send A&amp;gain</source>
         <translation>Re&amp;nvoyer</translation>
     </message>
-</context>
-<context>
-    <name>PaneWindow</name>
     <message>
         <source>The tablet&apos;s settings could not be saved: %1</source>
         <translation>Les réglages de la tablette n’ont pas pu être enregistrés : %1</translation>
@@ -75,6 +65,10 @@
     <message>
         <source>&amp;Keep Open</source>
         <translation>&amp;Garder ouverte</translation>
+    </message>
+    <message>
+        <source>The former tablet&apos;s settings are not saved: %1</source>
+        <translation>Les réglages de la tablette précédente ne sont pas enregistrés : %1</translation>
     </message>
 </context>
 <context>

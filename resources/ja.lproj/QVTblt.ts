@@ -17,13 +17,6 @@
     </message>
 </context>
 <context>
-    <name>PaneArea</name>
-    <message>
-        <source>The tablet&apos;s settings could not be saved: %1</source>
-        <translation>タブレットの設定を保存できませんでした: %1</translation>
-    </message>
-</context>
-<context>
     <name>PaneShell</name>
     <message>
         <source>&amp;Cancel</source>
@@ -61,9 +54,6 @@
         <source>Send A&amp;gain</source>
         <translation>再送信(&amp;A)</translation>
     </message>
-</context>
-<context>
-    <name>PaneWindow</name>
     <message>
         <source>The tablet&apos;s settings could not be saved: %1</source>
         <translation>タブレットの設定を保存できませんでした: %1</translation>
@@ -75,6 +65,10 @@
     <message>
         <source>&amp;Keep Open</source>
         <translation>開いたままにする(&amp;K)</translation>
+    </message>
+    <message>
+        <source>The former tablet&apos;s settings are not saved: %1</source>
+        <translation>前のタブレットの設定は保存されていません: %1</translation>
     </message>
 </context>
 <context>

@@ -17,13 +17,6 @@
     </message>
 </context>
 <context>
-    <name>PaneArea</name>
-    <message>
-        <source>The tablet&apos;s settings could not be saved: %1</source>
-        <translation>无法保存数位板的设置：%1</translation>
-    </message>
-</context>
-<context>
     <name>PaneShell</name>
     <message>
         <source>&amp;Cancel</source>
@@ -61,9 +54,6 @@
         <source>Send A&amp;gain</source>
         <translation>重新发送(&amp;A)</translation>
     </message>
-</context>
-<context>
-    <name>PaneWindow</name>
     <message>
         <source>The tablet&apos;s settings could not be saved: %1</source>
         <translation>无法保存数位板的设置：%1</translation>
@@ -75,6 +65,10 @@
     <message>
         <source>&amp;Keep Open</source>
         <translation>保持打开(&amp;K)</translation>
+    </message>
+    <message>
+        <source>The former tablet&apos;s settings are not saved: %1</source>
+        <translation>上一个数位板的设置未保存：%1</translation>
     </message>
 </context>
 <context>

@@ -125,9 +125,11 @@ class Window(desktop.Desktop):
     def test_the_pages_appear_when_the_driver_is_started(self):
         self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "No tablet was found", "label")
-        self.start_driver()
+        driver = self.start_driver()
         self.find("qvtblt", "Keys", "page tab")
         self.click_strip()
+        queries = [line for line in self.stop_driver(driver) if line.startswith("query from ")]
+        self.assertEqual(len(queries), 1, "it is asked once")
 
     def test_what_the_driver_has_not_taken_is_sent_again_by_hand(self):
         driver = self.start_driver()
@@ -136,11 +138,10 @@ class Window(desktop.Desktop):
         self.stop_driver(driver, signal.SIGKILL)
         self.click(strip, 8)
         session.wait_for(self.notice, "the line")
-        self.start_driver()
-        before = self.simulator("Pushes")
-        # The panel hears of the driver and asks it; only then is there an end to wait for.
-        self.assertTrue(self.notice(), "nothing is sent that nobody has asked for")
-        self.assertEqual(self.simulator("Pushes"), before)
+        driver = self.start_driver()
+        line = session.read_line(driver.stdout, "the panel's query")
+        self.assertTrue(line.startswith("query from "), f"'{line}': nothing is sent unasked")
+        self.assertTrue(self.notice())
         self.click(self.find("qvtblt", "Send Again", "push button"))
         session.wait_for(lambda: self.record() and self.driver_strips() == (1, 0), "the record")
         session.wait_for(lambda: not self.notice(), "the line's end")

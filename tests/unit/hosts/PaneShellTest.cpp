@@ -5,6 +5,7 @@
 #include "Accessible.h"
 #include "NotedPane.h"
 
+#include <QCoreApplication>
 #include <QDialog>
 #include <QPushButton>
 #include <QTest>
@@ -139,6 +140,7 @@ TEST_P(Shell, sendsNothingByItselfWhenADriverComes)
     show();
     mPane->tell(News::ChangeNotTaken);
     mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
     EXPECT_EQ(mLife.take(), calls({"check"}));
     EXPECT_EQ(notice(), kNotTaken);
 }
@@ -148,16 +150,78 @@ TEST_P(Shell, leavesThePaneAndShowsItAnewWhenTheTabletIsAnother)
     show();
     mLife.device = Device::Other;
     mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
     EXPECT_EQ(mLife.take(), calls({"check"}) + kLeaving + kComing);
     EXPECT_TRUE(mShell->isSelected());
+}
+
+TEST_P(Shell, asksOnceWhenADriverIsToldOfTwice)
+{
+    show();
+    mPane->tell(News::DeviceMayHaveChanged);
+    mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mLife.take(), calls({"check"}));
+}
+
+TEST_P(Shell, asksADriverThatDidNotAnswerAgainWhenItTakesSomething)
+{
+    show();
+    mLife.device = Device::Unknown;
+    mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mLife.take(), calls({"check"}));
+    mLife.device = Device::Other;
+    mPane->tell(News::ChangeTaken);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mLife.take(), calls({"check"}) + kLeaving + kComing);
+    mPane->tell(News::ChangeTaken);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mLife.take(), QStringList());
+}
+
+TEST_P(Shell, saysThatTheFormerTabletsChangesAreLost)
+{
+    show();
+    mPane->edit();
+    mLife.canSave = false;
+    mLife.device = Device::Other;
+    mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(
+        notice(), QStringLiteral("The former tablet's settings are not saved: the disk is full"));
+    EXPECT_EQ(button("Try Again"), nullptr) << "there is nothing left to save";
+    leave();
+    show();
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(Shell, loadsWhatCouldNotBeLoadedBeforeItSavesOnLeaving)
+{
+    mLife.canLoad = false;
+    show();
+    mLife.canLoad = true; // the file has been mended meanwhile
+    EXPECT_EQ(mShell->willUnselect(), QString());
+    EXPECT_EQ(mLife.take(), calls({"did unselect"}) + kComing + calls({"will unselect"}));
+}
+
+TEST_P(Shell, savesWhatTheUserHasChangedAlsoWhereNothingCouldBeLoaded)
+{
+    mLife.canLoad = false;
+    show();
+    mPane->edit();
+    mShell->willUnselect();
+    EXPECT_EQ(mLife.take(), calls({"will unselect"}));
 }
 
 TEST_P(Shell, asksNobodyWhileItIsNotShown)
 {
     mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
     show();
     leave();
     mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
     EXPECT_EQ(mLife.take(), QStringList());
 }
 
@@ -168,6 +232,7 @@ TEST_P(Shell, closesThePanesDialogsWhenTheTabletIsAnother)
     QTimer::singleShot(0, mShell.get(), [this] {
         mLife.device = Device::Other;
         mPane->tell(News::DeviceMayHaveChanged);
+        QCoreApplication::processEvents();
     });
     EXPECT_EQ(dialog.exec(), QDialog::Rejected);
     EXPECT_EQ(mLife.take(), calls({"check"}) + kLeaving + kComing);
@@ -180,6 +245,7 @@ TEST_P(Shell, leavesTheDialogsOfTheHostOpenWhenTheTabletIsAnother)
     QTimer::singleShot(0, mShell.get(), [&] {
         mLife.device = Device::Other;
         mPane->tell(News::DeviceMayHaveChanged);
+        QCoreApplication::processEvents();
         EXPECT_TRUE(dialog.isVisible());
         dialog.accept();
     });
@@ -252,6 +318,7 @@ TEST_P(Shell, loadsTheSettingsWhenADriverComesThatMayHaveBroughtThem)
     show();
     mLife.canLoad = true;
     mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
     EXPECT_EQ(mLife.take(), calls({"check", "did unselect"}) + kComing);
     EXPECT_EQ(notice(), QString());
 }
