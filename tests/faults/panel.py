@@ -14,14 +14,17 @@ import subprocess
 import threading
 import time
 
+import models
 import session
 from gi.repository import Gio, GLib
 
 ATSPI = "org.a11y.atspi."
 ROOT = "/org/a11y/atspi/accessible/root"
-STATES = {"checked": 4, "enabled": 8, "showing": 25}
+STATES = {"checked": 4, "enabled": 8, "pressed": 20, "showing": 25}
 FLAGS = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT \
     | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION
+
+MODEL_NAMES = {model.name for model in models.all_models()}
 
 # What the panel may say. Anything else, as a warning of Qt's or a sanitizer's, is a failure.
 KNOWN_LINES = re.compile(
@@ -204,12 +207,39 @@ class Panel:
         for path, role in self.walk_whole():
             if role == "notification":
                 text = self.texts(path)[0]
-                if ("not taken" in text or "not saved" in text) and self.state(path, "showing"):
+                if re.search("not taken|not saved|cannot be loaded", text) \
+                        and self.state(path, "showing"):
+                    return text
+        return None
+
+    def model(self):
+        """The name of the tablet above the pages; nothing without one."""
+        for path, role in self.walk_whole():
+            if role == "label" and self.state(path, "showing"):
+                text = self.texts(path)[0]
+                if text in MODEL_NAMES or text.startswith("Unknown tablet"):
                     return text
         return None
 
     def has_pages(self):
         return self.find("Keys", "page tab") is not None
+
+    def look(self):
+        """What the pages are of: the tablet's name, and what is wrong with its file, which names
+        that file; nothing without pages."""
+        if not self.has_pages():
+            return None
+        notice = self.notice() or ""
+        return self.model(), "" if "not taken" in notice else notice
+
+    def displays(self):
+        """Widths, heights and places of the displays, as the picture of them is read out."""
+        for path, role in self.walk_whole():
+            found = re.findall(r"#\d+: (\d+) by (\d+) points, its upper left corner at "
+                               r"(-?\d+), (-?\d+)\.", " ".join(self.texts(path)))
+            if found:
+                return [tuple(map(int, numbers)) for numbers in found]
+        return []
 
     # What the process holds -------------------------------------------------------------------
 
