@@ -85,6 +85,8 @@ void QVTblt_prefPanePref::setUpDisplayPage()
 {
     mMonitorView->setOutlets(mComboBox, mComboBoxSpeed, mComboBoxUseMode, mDoCalibrate);
     mMonitorView->awakeFromNib();
+    // Where the page has just the room that it needs, Qt 5 leaves the text a pixel too few.
+    mComboBoxUseMode->setMinimumWidth(mComboBoxUseMode->sizeHint().width() + 2);
     // Where there is no room for the whole picture, the part with the tablet and the main display.
     QScrollBar* const upDown = mMonitorScroll->verticalScrollBar();
     connect(upDown, &QScrollBar::rangeChanged, upDown,
