@@ -367,7 +367,7 @@ std::string whyNotTheSame(const std::string& xml, const PropertyListNode& root)
     if (again && *again == root) {
         return {};
     }
-    return "it holds text that XML cannot" + (again ? std::string() : ": " + why);
+    return "it holds text that XML cannot hold" + (again ? std::string() : ": " + why);
 }
 
 } // namespace

@@ -31,7 +31,24 @@ std::string realText(double value)
     return {text.data(), end};
 }
 
-/** A date by its seconds since the beginning of 2001; nothing outside of the years 1 to 9999. */
+/** What stands behind the whole seconds of a date: nothing, or a point and digits. */
+std::string fractionText(double fraction)
+{
+    if (fraction == 0) {
+        return {};
+    }
+    // The smallest double has 324 places. What rounds up to a second is not a whole one yet.
+    std::array<char, 400> text{};
+    const auto [end, status] = std::to_chars(text.data(), text.data() + text.size(),
+        std::min(fraction, std::nextafter(1.0, 0.0)), std::chars_format::fixed);
+    return {text.data() + 1, end};
+}
+
+/**
+ * A date by its seconds since the beginning of 2001; nothing outside of the years 1 to 9999. A date
+ * in XML has whole seconds. A fraction stays in the text all the same, so that the date is never
+ * written as another.
+ */
 std::optional<std::string> dateText(double seconds)
 {
     using namespace std::chrono;
@@ -48,11 +65,11 @@ std::optional<std::string> dateText(double seconds)
     const year_month_day date(day);
     const hh_mm_ss clock(time - day);
     std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02dZ",
+    std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d",
         static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
         static_cast<unsigned>(date.day()), static_cast<int>(clock.hours().count()),
         static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()));
-    return std::string(text.data());
+    return text.data() + fractionText(seconds - whole) + 'Z';
 }
 
 /**

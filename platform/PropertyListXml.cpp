@@ -301,7 +301,8 @@ private:
             break;
         case Kind::Date:
             if (!isDate(text)) {
-                refuse(shown(text) + " is no date");
+                refuse(shown(text) + " is no date"
+                    + (text.find('.') == std::string_view::npos ? "" : " in whole seconds"));
             }
             break;
         case Kind::True:

@@ -398,14 +398,27 @@ TEST(PropertyListBinary, datesAreThoseOfTheYears1To9999)
     const auto date = [](double seconds) { return xmlOf("\x33" + bits(seconds)); };
     const std::string outside = "a date lies outside of the years 1 to 9999";
     EXPECT_EQ(date(0), "<date>2001-01-01T00:00:00Z</date>");
-    EXPECT_EQ(date(-0.25), "<date>2000-12-31T23:59:59Z</date>");
-    EXPECT_EQ(date(817'008'360.75), "<date>2026-11-22T02:46:00Z</date>");
+    EXPECT_EQ(date(-1), "<date>2000-12-31T23:59:59Z</date>");
+    EXPECT_EQ(date(817'008'360), "<date>2026-11-22T02:46:00Z</date>");
     EXPECT_EQ(date(-63'113'904'000.0), "<date>0001-01-01T00:00:00Z</date>");
     EXPECT_EQ(date(-63'113'904'001.0), outside);
     EXPECT_EQ(date(252'423'993'599.0), "<date>9999-12-31T23:59:59Z</date>");
     EXPECT_EQ(date(252'423'993'600.0), outside);
     EXPECT_EQ(date(1e300), outside);
     EXPECT_EQ(date(std::numeric_limits<double>::quiet_NaN()), outside);
+}
+
+TEST(PropertyListBinary, datesKeepTheirFractionsOfASecond)
+{
+    const auto date = [](double seconds) { return xmlOf("\x33" + bits(seconds)); };
+    EXPECT_EQ(date(-0.25), "<date>2000-12-31T23:59:59.75Z</date>");
+    EXPECT_EQ(date(817'008'360.75), "<date>2026-11-22T02:46:00.75Z</date>");
+    EXPECT_EQ(date(1e-10), "<date>2001-01-01T00:00:00.0000000001Z</date>");
+    const std::string smallest = date(5e-324);
+    EXPECT_TRUE(smallest.starts_with("<date>2001-01-01T00:00:00.000")) << smallest;
+    EXPECT_TRUE(smallest.ends_with("0005Z</date>")) << smallest;
+    const std::string before = date(-5e-324);
+    EXPECT_TRUE(before.starts_with("<date>2000-12-31T23:59:59.999")) << before;
 }
 
 TEST(PropertyListBinary, refusesValuesThatAreCutOff)

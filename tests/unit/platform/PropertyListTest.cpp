@@ -476,7 +476,7 @@ TEST(PropertyList, aStringOfTheBinaryFormThatXmlCannotHoldIsReadButNotSaved)
         const Saved saved(bytes);
         EXPECT_FALSE(saved.isSaved());
         EXPECT_TRUE(saved.isAsBefore());
-        EXPECT_NE(saved.why().find("it holds text that XML cannot"), std::string::npos)
+        EXPECT_NE(saved.why().find("it holds text that XML cannot hold: "), std::string::npos)
             << saved.why();
         PropertyListError error;
         const auto list = PropertyList::parse(bytes.toStdString(), error);
@@ -486,6 +486,23 @@ TEST(PropertyList, aStringOfTheBinaryFormThatXmlCannotHoldIsReadButNotSaved)
     const Saved saved(binaryWithString("a\rb\tc"));
     EXPECT_TRUE(saved.isSaved()) << saved.why();
     EXPECT_EQ(saved.inPython("p['k']"), R"('a\rb\tc')");
+}
+
+TEST(PropertyList, aFractionOfASecondInTheBinaryFormIsReadButNotSaved)
+{
+    const std::string bytes =
+        toBinary(plist("<dict><key>k</key><date>2026-11-22T02:46:00Z</date></dict>"));
+    const std::string whole("\x33\x41\xC8\x59\x47\x74\0\0\0", 9); // its seconds, a double
+    ASSERT_NE(bytes.find(whole), std::string::npos);
+    QByteArray fraction = QByteArray::fromStdString(bytes);
+    fraction[static_cast<int>(bytes.find(whole)) + 6] = '\1';
+    const Saved saved(fraction);
+    EXPECT_FALSE(saved.isSaved());
+    EXPECT_TRUE(saved.isAsBefore());
+    EXPECT_NE(saved.why().find("it holds text that XML cannot hold: '2026-11-22T02:46:00."),
+        std::string::npos)
+        << saved.why();
+    EXPECT_TRUE(saved.why().ends_with("' is no date in whole seconds")) << saved.why();
 }
 
 TEST(PropertyList, whatWouldGrowPastTheLimitIsNotSaved)
