@@ -7,6 +7,10 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cmath>
+#include <limits>
+#include <locale>
+#include <sstream>
 #include <utility>
 #include <vector>
 
@@ -59,12 +63,18 @@ std::string shown(std::string_view text)
     return quoted;
 }
 
-/** The form of ISO 8601 that property lists use: 2026-11-21T02:46:00Z. */
+/** The form of ISO 8601 that property lists use: 2026-11-21T02:46:00Z, or only down to the day. */
 bool isDate(std::string_view text)
 {
-    constexpr std::string_view kForm = "0000-00-00T00:00:00Z";
-    return std::ranges::equal(text, kForm,
-        [](char c, char form) { return form == '0' ? c >= '0' && c <= '9' : c == form; });
+    constexpr std::string_view kForm = "0000-00-00T00:00:00";
+    constexpr std::array<std::size_t, 4> kLengths{10, 13, 16, 19}; // to the day, hour, ...
+    if (!text.ends_with('Z')) {
+        return false;
+    }
+    text.remove_suffix(1);
+    return std::ranges::find(kLengths, text.size()) != kLengths.end()
+        && std::ranges::equal(text, kForm.substr(0, text.size()),
+            [](char c, char form) { return form == '0' ? c >= '0' && c <= '9' : c == form; });
 }
 
 // Reading -----------------------------------------------------------------------------------------
@@ -433,11 +443,24 @@ std::optional<double> propertyListReal(std::string_view text)
     text = trimmed(text);
     if (text.starts_with('+')) {
         text.remove_prefix(1);
+        if (text.starts_with('-')) {
+            return std::nullopt;
+        }
     }
     double value = 0;
     const auto [rest, status] = std::from_chars(text.data(), text.data() + text.size(), value);
-    return status == std::errc() && rest == text.data() + text.size() ? std::optional(value)
-                                                                      : std::nullopt;
+    if (rest != text.data() + text.size() || status == std::errc::invalid_argument) {
+        return std::nullopt;
+    }
+    if (status == std::errc::result_out_of_range) {
+        // It does not say whether it is too large or too small; a stream gives the nearest number.
+        std::istringstream stream{std::string(text)};
+        stream.imbue(std::locale::classic());
+        stream >> value;
+        return std::abs(value) > 1 ? std::copysign(std::numeric_limits<double>::infinity(), value)
+                                   : 0.0;
+    }
+    return value;
 }
 
 } // namespace platform

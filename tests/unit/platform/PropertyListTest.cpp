@@ -151,6 +151,9 @@ TEST(PropertyList, realsAreTruncatedTowardZeroAndBooleansAre0And1)
     EXPECT_EQ(shortOf("<real>40000.5</real>"), -25536);
     EXPECT_EQ(shortOf("<real>1e300</real>"), -1);
     EXPECT_EQ(shortOf("<real>-1e300</real>"), 0);
+    EXPECT_EQ(shortOf("<real>1e999</real>"), shortOf("<real>inf</real>"));
+    EXPECT_EQ(shortOf("<real>-1e999</real>"), shortOf("<real>-inf</real>"));
+    EXPECT_EQ(shortOf("<real>1e-999</real>"), 0);
     EXPECT_EQ(shortOf("<real>nan</real>"), 0);
     EXPECT_EQ(shortOf("<true/>"), 1);
     EXPECT_EQ(shortOf("<false/>"), 0);
@@ -503,6 +506,16 @@ TEST(PropertyList, aFractionOfASecondInTheBinaryFormIsReadButNotSaved)
         std::string::npos)
         << saved.why();
     EXPECT_TRUE(saved.why().ends_with("' is no date in whole seconds")) << saved.why();
+}
+
+TEST(PropertyList, aDateDownToTheDayAndARealBeyondAllRangesAreSavedToTheLetter)
+{
+    const Saved saved(plist("<dict><key>day</key><date>2026-11-21Z</date>"
+                            "<key>real</key><real>-1e999</real></dict>"));
+    ASSERT_TRUE(saved.isSaved()) << saved.why();
+    EXPECT_EQ(saved.inPython("p['day']"), "datetime.datetime(2026, 11, 21, 0, 0)");
+    EXPECT_EQ(saved.inPython("p['real']"), "-inf");
+    EXPECT_EQ(saved.inPython("p['ours']"), "1");
 }
 
 TEST(PropertyList, whatWouldGrowPastTheLimitIsNotSaved)

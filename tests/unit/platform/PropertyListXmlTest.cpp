@@ -148,11 +148,11 @@ TEST(PropertyListXml, aLeadingZeroIsNoOtherBase)
 
 TEST(PropertyListXml, refusesRealsAndDatesThatAreNone)
 {
-    for (const char* const good :
-        {"0", "-1.5", "+2.5", "+7", "1e-300", "nan", "inf", "-infinity", "\t1.50\n"}) {
+    for (const char* const good : {"0", "-1.5", "+2.5", "+7", "1e-300", "nan", "inf", "-infinity",
+             "\t1.50\n", "1e999", "-1e999", "1e-999"}) {
         EXPECT_EQ(errorOfEntry(std::string("<real>") + good + "</real>"), "") << good;
     }
-    for (const char* const bad : {"", "1.5x", "1,5", "x", "1e999"}) {
+    for (const char* const bad : {"", "1.5x", "1,5", "x", "+", "+-5", "-+5", "1e999x"}) {
         EXPECT_NE(errorOfEntry(std::string("<real>") + bad + "</real>"), "") << bad;
     }
     for (const char* const bad : {"", "yesterday", "2026-11-21", "2026-11-21T02:46:00"}) {
@@ -170,6 +170,16 @@ TEST(PropertyListXml, datesHaveDigitsInTheirPlaces)
             other[at] = wrong;
             EXPECT_EQ(errorOfEntry("<date>" + other + "</date>") == "", other == date) << other;
         }
+    }
+}
+
+TEST(PropertyListXml, datesMayEndWithTheirDayHourOrMinute)
+{
+    const std::string date = "2026-11-21T02:46:00";
+    for (std::size_t length = 0; length <= date.size(); ++length) {
+        const std::string shorter = date.substr(0, length) + 'Z';
+        const bool isGood = length == 10 || length == 13 || length == 16 || length == 19;
+        EXPECT_EQ(errorOfEntry("<date>" + shorter + "</date>") == "", isGood) << shorter;
     }
 }
 
