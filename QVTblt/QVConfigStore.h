@@ -63,7 +63,7 @@ public:
     static std::string configPath();
 
     /**
-     * ReadQVConfigPlist() for who has no ear for notifications.
+     * ReadQVConfigPlist() for callers that do not observe notifications.
      *
      * @return the file's contents; nothing when it cannot be used, and error then says why
      */

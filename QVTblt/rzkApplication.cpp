@@ -81,7 +81,7 @@ bool GetQVConfigFileName(char* name)
     if (!answer) {
         return false;
     }
-    constexpr std::size_t kLongest = sizeof "65535.plist"; // all that a caller need have room for
+    constexpr std::size_t kLongest = sizeof "65535.plist"; // callers need room for no more
     std::snprintf(name, kLongest, "%ld.plist", static_cast<long>(*answer & 0xFFFF));
     return *answer != 0;
 }

@@ -11,10 +11,10 @@
 namespace platform {
 
 /**
- * A slider for a setting that may be what no slider shows: it stands at its end then, and who wants
- * just this end could not choose it, since the slider's value would not change. Here a click, a key
- * or a screen reader chooses the value at which the slider stands already, too: where the setting
- * is another, valueChanged() tells it.
+ * A slider for a setting that may be what no slider shows: it stands at its end then, and just that
+ * end could not be chosen, since the slider's value would not change. Here a click, a key or a
+ * screen reader chooses the value at which the slider stands already, too: where the setting is
+ * another, valueChanged() tells it.
  *
  * The wheel does nothing without the focus.
  */
