@@ -83,21 +83,32 @@ public:
             parent, QCoreApplication::translate("OpenPanel", "Choose an application"));
         dialog->setDirectory(applicationsFolder());
         std::optional<QString> path;
-        while (!path && dialog->exec() == QDialog::Accepted && !dialog.isNull()) {
+        bool goesOn = true;
+        while (goesOn && dialog->exec() == QDialog::Accepted && !dialog.isNull()) {
             path = applicationOf(dialog->chosen());
-            if (!path) {
-                // A name that was typed in passes the filter.
-                QMessageBox::information(dialog, dialog->windowTitle(),
-                    QCoreApplication::translate("OpenPanel",
-                        "This is not an application: choose a desktop entry, an AppImage or an "
-                        "application bundle."));
-            }
+            // A name that was typed in passes the filter. Whoever closes the message from outside,
+            // because what the file was for has gone, wants no other file.
+            goesOn = !path && tellOfNoApplication(dialog) && !dialog.isNull();
         }
         delete dialog;
         return path;
     }
 
 private:
+    /** Gives whether the user has closed the message. */
+    static bool tellOfNoApplication(QWidget* dialog)
+    {
+        const QPointer<QMessageBox> message = new QMessageBox(QMessageBox::Information,
+            dialog->windowTitle(),
+            QCoreApplication::translate("OpenPanel",
+                "This is not an application: choose a desktop entry, an AppImage or an application "
+                "bundle."),
+            QMessageBox::Ok, dialog);
+        const bool isRead = message->exec() != QDialog::Rejected; // which no button here stands for
+        delete message;
+        return isRead;
+    }
+
     /** The file's full path, links followed; nothing when it is no application. */
     static std::optional<QString> applicationOf(const QString& file)
     {

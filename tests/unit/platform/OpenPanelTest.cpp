@@ -97,6 +97,29 @@ TEST_F(OpenPanel, asksAgainForWhatIsNoApplication)
     EXPECT_GE(told, 1);
 }
 
+TEST_F(OpenPanel, asksForNothingMoreWhenItsMessageIsClosedFromOutside)
+{
+    const QString tool = mHome.path() + QStringLiteral("/tool");
+    writeFile(tool, "#!/bin/sh\n");
+    int told = 0;
+    int askedAgain = 0;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, qApp, [&] {
+        QWidget* const shown = QApplication::activeModalWidget();
+        if (auto* const message = qobject_cast<QMessageBox*>(shown)) {
+            ++told;
+            message->reject();
+        } else if (auto* const dialog = qobject_cast<QFileDialog*>(shown); told > 0 && dialog) {
+            ++askedAgain;
+            dialog->reject();
+        }
+    });
+    answer.start(10);
+    EXPECT_EQ(choose(tool), std::nullopt);
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(askedAgain, 0);
+}
+
 namespace {
 
 /** A bundle in a folder; gives its path. */
