@@ -59,7 +59,7 @@ QVTabletArea usedArea(const tagQVTabletInfo& info)
         info.Monitor.cTabletYmax};
 }
 
-/** A line one point wide that ends where it ends. */
+/** A line one point wide with flat ends. */
 QPen linePen(const QColor& color)
 {
     return {color, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
@@ -168,6 +168,11 @@ void QVMonitorView::updateCalibrate()
     const QString help = hasOneDisplay
         ? mCalibrateHelp
         : tr("Choose one display first: all displays together have no corners to touch.");
+    // Each redraw comes here, and screen readers hear of each help that is set.
+    if (mDoCalibrate->isEnabledTo(mDoCalibrate->parentWidget()) == hasOneDisplay
+        && mDoCalibrate->toolTip() == help && mDoCalibrate->accessibleDescription() == help) {
+        return;
+    }
     mDoCalibrate->setEnabled(hasOneDisplay);
     mDoCalibrate->setToolTip(help);
     mDoCalibrate->setAccessibleDescription(help);

@@ -397,6 +397,28 @@ TEST_F(DisplayPage, allDisplaysTogetherCannotBeCalibratedAndTheButtonSaysSo)
     expect(true, "one is left");
 }
 
+TEST_F(DisplayPage, aRedrawSetsTheHelpOfCalibrateOnlyWhenItIsAnother)
+{
+    class Counter : public QObject {
+    public:
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            count += event->type() == QEvent::ToolTipChange ? 1 : 0;
+            return QObject::eventFilter(watched, event);
+        }
+        int count = 0;
+    };
+    auto& button = outlet<QPushButton>("mDoCalibrate");
+    draw();
+    Counter counter;
+    button.installEventFilter(&counter);
+    draw();
+    EXPECT_EQ(counter.count, 0);
+    choose(list(), 2);
+    draw();
+    EXPECT_EQ(counter.count, 1);
+}
+
 // Changes of the displays -------------------------------------------------------------------------
 
 TEST_F(DisplayPage, onlyTheFlagOneAloneIsABeginning)
