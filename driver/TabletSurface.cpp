@@ -95,8 +95,7 @@ QRectF TabletSurface::surface() const
 QString TabletSurface::spokenContents() const
 {
     return (isPenDown() ? tr("The pen is down at %1, %2.") : tr("The pen is up at %1, %2."))
-        .arg(mPen.x)
-        .arg(mPen.y);
+        .arg(QString::number(mPen.x), QString::number(mPen.y));
 }
 
 QSize TabletSurface::sizeHint() const

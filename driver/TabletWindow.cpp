@@ -363,10 +363,8 @@ void TabletWindow::showSettings()
         known->Monitor.cTabletYmin, known->Monitor.cTabletYmax};
     mSurface->setMapped(mapped);
     mMapped->setText(tr("the part that covers the screen, x %1 to %2, y %3 to %4")
-                         .arg(mapped.xmin)
-                         .arg(mapped.xmax)
-                         .arg(mapped.ymin)
-                         .arg(mapped.ymax));
+                         .arg(QString::number(mapped.xmin), QString::number(mapped.xmax),
+                             QString::number(mapped.ymin), QString::number(mapped.ymax)));
 }
 
 void TabletWindow::showListening()
@@ -380,8 +378,8 @@ void TabletWindow::showListening()
 void TabletWindow::showPen()
 {
     const QVTabletPoint& pen = mSurface->pen();
-    mPen->setText(
-        (mSurface->isPenDown() ? tr("down at %1, %2") : tr("up at %1, %2")).arg(pen.x).arg(pen.y));
+    mPen->setText((mSurface->isPenDown() ? tr("down at %1, %2") : tr("up at %1, %2"))
+                      .arg(QString::number(pen.x), QString::number(pen.y)));
 }
 
 void TabletWindow::liftAboveCalibration()
