@@ -9,7 +9,7 @@ SETTINGS = 0x54645367, 0x57536E64  # 'TdSg', 'WSnd'
 TOUCHES = (1000, 800), (19000, 800), (19000, 12000), (1000, 12000)  # of the crosses, in their order
 
 class Driver(dbus.service.Object):
-    disable_flag = 0
+    calibrating = set()  # the panels that do, by their connections
 
     @dbus.service.method(INTERFACE, 'uua(u(uv))', 'a(u(uv))', sender_keyword='panel')
     def Send(self, event_class, event_id, parameters, panel):
@@ -20,8 +20,10 @@ class Driver(dbus.service.Object):
             raise dbus.DBusException('nobody handles this event', name=NOT_HANDLED)
         record = bytes(parameters[0][1][1])
         print('settings,', len(record), 'bytes', flush=True)
-        before, (self.disable_flag,) = self.disable_flag, struct.unpack_from('=h', record, 293)
-        if self.disable_flag == 1 and before != 1:  # the panel begins to calibrate
+        if struct.unpack_from('=h', record, 293) != (1,):
+            self.calibrating.discard(panel)
+        elif panel not in self.calibrating:  # the panel begins to calibrate
+            self.calibrating.add(panel)
             for x, y in TOUCHES:
                 self.report(panel, 1, x, y)
                 self.report(panel, 0, x, y)

@@ -147,6 +147,7 @@ class Pictures(desktop.Desktop):
 
 PROTOCOL = session.SOURCE / "docs/driver-protocol.md"
 MINIMAL_DRIVER = session.SOURCE / "docs/minimal-driver.py"
+PANEL = pathlib.Path(session.__file__).with_name("peer_panel.py")
 
 
 class DriverProtocol(session.Session):
@@ -186,6 +187,29 @@ class DriverProtocol(session.Session):
                 "busctl", "--user", "call", session.DRIVER_NAME, "/org/quorvia/AppleEvents",
                 "org.quorvia.AppleEvents1", "Send", "uua(u(uv))", *codes.split(), "0")
             self.assertEqual(result.stderr, "Call failed: nobody handles this event\n")
+
+    def test_minimal_driver_knows_which_panel_calibrates(self):
+        self.stop_driver(self.start_driver())  # leaves a configuration file
+        self.start(["/usr/bin/python3", MINIMAL_DRIVER], stdout=subprocess.DEVNULL)
+        session.wait_for(lambda: self.ctl("status").returncode == 0, "the script")
+
+        def start_panel():
+            """A panel that calibrates, after the touches of the four crosses."""
+            panel = self.start(["/usr/bin/python3", "-B", PANEL], stdin=subprocess.PIPE,
+                               stdout=subprocess.PIPE)
+            words = [session.read_line(panel.stdout, "a touch").split()[0] for _ in range(10)]
+            self.assertEqual(words, ["pushed", *["1", "0"] * 4, "calibrating"])
+            return panel
+
+        def push(panel, flag):
+            panel.stdin.write(f"push {flag}\n")
+            panel.stdin.flush()
+            return session.read_line(panel.stdout, "the push").split()[:2]
+
+        panel, other = start_panel(), start_panel()
+        self.assertEqual(push(other, 0), ["pushed", "0"])
+        self.assertEqual(push(panel, 1), ["pushed", "1"])  # it does so still: no new beginning
+        self.assertEqual(push(other, 1)[0], "1")  # a touch
 
     def test_minimal_driver_does_not_queue_for_the_name(self):
         self.start_driver()
