@@ -136,9 +136,9 @@ bool needsDisplays(const QString& command)
 }
 
 /**
- * The application object, one that knows the displays where a window system is within reach. Where
- * the environment names one that is not, Qt would end the program; "minimal", which is always
- * there, keeps it from that.
+ * The application object, one that knows the displays where a window system is within reach: the
+ * one that the user has chosen, or those that the environment names. Where it is not, Qt would end
+ * the program; "minimal", which is always there, keeps it from that.
  */
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, const QString& command)
 {
@@ -148,7 +148,8 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, const 
         platforms += qEnvironmentVariableIsEmpty(variable) ? "" : platform;
     }
     if (needsDisplays(command) && !platforms.isEmpty()) {
-        qputenv("QT_QPA_PLATFORM", platforms + "minimal");
+        const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
+        qputenv("QT_QPA_PLATFORM", (chosen.isEmpty() ? platforms : chosen + ';') + "minimal");
         QGuiApplication::setDesktopSettingsAware(false); // nothing is shown
         // Nobody need hear of a display that cannot be asked: the file's area stands then.
         const QtMessageHandler handler =
@@ -166,11 +167,14 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, const 
 int finish(int code)
 {
     const bool isWhole = std::ferror(stdout) == 0;
+    errno = 0;
     if (std::fflush(stdout) == 0 && isWhole) {
         return code;
     }
-    std::fprintf(
-        stderr, "qvtbltctl: write error: %s\n", std::system_category().message(errno).c_str());
+    // An earlier write may be the one that failed; nobody knows its cause any more.
+    const int cause = errno;
+    std::fprintf(stderr, "qvtbltctl: write error%s%s\n", cause == 0 ? "" : ": ",
+        cause == 0 ? "" : std::system_category().message(cause).c_str());
     return kExitBad;
 }
 

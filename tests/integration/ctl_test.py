@@ -71,6 +71,13 @@ class Ctl(session.Session):
                 self.assertTrue(result.stderr.endswith(
                     "qvtbltctl: write error: No space left on device\n"), result.stderr)
 
+    def test_a_write_that_failed_before_the_end_is_an_error_without_a_cause(self):
+        with open("/dev/full", "w") as full:
+            result = subprocess.run(["stdbuf", "-o0", str(session.BIN / "qvtbltctl"), "--version"],
+                                    env=self.env, text=True, stdout=full, stderr=subprocess.PIPE,
+                                    timeout=60)
+        self.assertEqual((result.returncode, result.stderr), (1, "qvtbltctl: write error\n"))
+
     def test_show_and_check_read_pipes_up_to_the_limit(self):
         self.stop_driver(self.start_driver())
         config = self.config().read_text()
@@ -301,6 +308,17 @@ class CtlOnDisplays(displays.Displays):
             self.assertEqual(self.mapped_area(), (0, 1024, 0, 768))
         monitor = plistlib.loads(self.config().read_bytes())["Monitor"]
         self.assertEqual((monitor["Width"], monitor["Height"]), (1024, 768))
+
+    def test_the_users_choice_of_a_window_system_stands(self):
+        self.start_with_area()
+        for platform in ("minimal", "there-is-none"):
+            with self.subTest(platform):
+                self.env["QT_QPA_PLATFORM"] = platform
+                self.assertEqual(self.ctl("push").returncode, 0)
+                self.assertEqual(self.mapped_area(), (5, 60, 7, 80))
+        self.env["QT_QPA_PLATFORM"] = "xcb"
+        self.assertEqual(self.ctl("push").returncode, 0)
+        self.assertEqual(self.mapped_area(), (0, 1024, 0, 768))
 
 
 class CtlStartsTheDriver(session.Session):
