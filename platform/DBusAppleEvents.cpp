@@ -93,7 +93,7 @@ std::chrono::milliseconds milliseconds(std::int32_t ticks)
     return std::chrono::milliseconds(std::int64_t{ticks} * 1000 / kTicksPerSecond);
 }
 
-/** How long who wants to hear of events waits for a bus that hangs. */
+/** How long a listener waits for a bus that hangs. */
 constexpr std::chrono::milliseconds kListenLimit{250};
 
 } // namespace
@@ -113,10 +113,12 @@ public:
     Private(Private&&) = delete;
     Private& operator=(Private&&) = delete;
 
+    bool isConnected() const { return mConnection && mConnection->isConnected(); }
+
     /** The connection; made anew where there is none, as long as that takes. */
     QDBusConnection& connection()
     {
-        if (!mConnection || !mConnection->isConnected()) {
+        if (!isConnected()) {
             connectAgain();
         }
         return *mConnection;
@@ -125,8 +127,7 @@ public:
     /** The connection; null where there is none, or none answers within the limit. */
     QDBusConnection* connectionWithin(std::chrono::milliseconds limit)
     {
-        const bool isThere = mConnection && mConnection->isConnected();
-        if (!isThere && !sessionBusAnswers(limit)) {
+        if (!isConnected() && !sessionBusAnswers(limit)) {
             return nullptr;
         }
         QDBusConnection& bus = connection();
@@ -178,7 +179,7 @@ public:
     {
         mOwner.reset();
         mWatcher.reset();
-        if (!mSource || !mConnection || !mConnection->isConnected()) {
+        if (!mSource || !isConnected()) {
             return;
         }
         mWatcher = std::make_unique<QDBusServiceWatcher>(
@@ -330,7 +331,12 @@ private:
             return false;
         }
         if (!mOwner) {
-            mOwner = mConnection->interface()->serviceOwner(wire::busName(*mSource)).value();
+            // A call may have come in before the connection went.
+            QDBusConnectionInterface* const bus = mConnection ? mConnection->interface() : nullptr;
+            if (bus == nullptr) {
+                return false;
+            }
+            mOwner = bus->serviceOwner(wire::busName(*mSource)).value();
         }
         return !sender.isEmpty() && sender == *mOwner;
     }
@@ -422,8 +428,11 @@ OSErr DBusAppleEvents::removeEventHandler(AEEventClass eventClass, AEEventID eve
 void DBusAppleEvents::acceptEventsFrom(FourCharCode signature)
 {
     d->mSource = signature;
+    const bool wasConnected = d->isConnected();
     if (d->connectionWithin(kListenLimit) != nullptr) {
-        d->watchSource();
+        if (wasConnected) {
+            d->watchSource(); // a new connection does so by itself
+        }
     } else {
         qCWarning(lcEvents, "no session bus: %s", qUtf8Printable(d->lastError()));
     }
