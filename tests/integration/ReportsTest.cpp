@@ -193,6 +193,7 @@ Descriptors floodEvent(std::uint32_t n)
 
 TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
 {
+    std::atomic<std::uint32_t> handled = 0; // of the events
     std::vector<std::uint32_t> seen;
     seen.reserve(std::size_t{kEvents} * kReportsInEvent);
     // What the view has installed, and a note of what comes to it.
@@ -202,12 +203,12 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
             for (std::size_t i = 0; i < list.size(); i += 2) {
                 seen.push_back(numberOf(*list[i].bytes()));
             }
+            ++handled;
             return QVTabletGetDatahandler(event, reply, &view());
         });
 
     std::vector<QDBusPendingCall> answers;
     answers.reserve(kEvents);
-    Clock::duration sending{};
     std::atomic<bool> isOver = false;
     std::vector<QDBusMessage> calls;
     for (std::uint32_t n = 0; n < kEvents; ++n) {
@@ -219,7 +220,6 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
             std::this_thread::sleep_until(start + n * kBetweenEvents);
             answers.push_back(mDriver.peer().connection().asyncCall(calls[n], 60000));
         }
-        sending = Clock::now() - start;
     });
 
     // The window system tells of a click; its answer is the push that reaches the driver.
@@ -227,7 +227,7 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
     QWindow* const target = mWindow->windowHandle();
     const QPointF local = clicked.mapTo(mWindow.get(), clicked.rect().center());
     const QPointF global = clicked.mapToGlobal(clicked.rect().center());
-    std::vector<double> clicks; // milliseconds
+    int answeredInTheFlood = 0;
     std::thread user([&] {
         const Clock::time_point start = Clock::now();
         for (int i = 1; i < 20; ++i) {
@@ -242,17 +242,16 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
             while (mDriver.pushes() == before && Clock::now() - click < 5s) {
                 std::this_thread::sleep_for(1ms);
             }
-            clicks.push_back(
-                std::chrono::duration<double, std::milli>(Clock::now() - click).count());
+            answeredInTheFlood += mDriver.pushes() != before && handled < kEvents ? 1 : 0;
         }
         isOver = true;
     });
-    waitUntil([&isOver] { return isOver.load(); });
+    // Longer than all clicks may wait together.
+    EXPECT_TRUE(QTest::qWaitFor([&isOver] { return isOver.load(); }, 120000));
     flood.join();
     user.join();
     waitUntil([&answers] { return answers.back().isFinished(); });
 
-    EXPECT_LT(sending, 5500ms) << "it was no flood";
     for (const QDBusPendingCall& answer : answers) {
         ASSERT_TRUE(answer.isValid()) << qPrintable(answer.error().message());
     }
@@ -261,10 +260,9 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
     EXPECT_EQ(seen, all) << "every event came, in order";
     EXPECT_EQ(points(), 0) << "of every event, every odd item was read, and no other";
     EXPECT_EQ(mDriver.pushes(), 1 + 19);
-    // One may have met a moment in which the machine was not there at all.
-    std::sort(clicks.begin(), clicks.end());
-    EXPECT_LT(clicks.at(17), 100);
-    EXPECT_LT(clicks.at(18), 1000);
+    // A panel that sees to the flood first would answer the first click at the flood's end. How
+    // long an answer takes depends on the machine, and so does which clicks come before that end.
+    EXPECT_GE(answeredInTheFlood, 10);
 
     send(mDriver.peer(), {item(report(1, 5000, 5000)), item({}), item(report(0, 5000, 5000))});
     EXPECT_EQ(points(), 1) << "a lift is one still";
