@@ -158,20 +158,25 @@ void PaneShell::showAnew()
 {
     closeDialogs();
     const QString lost = willUnselect();
-    didUnselect();
-    willSelect();
-    didSelect();
+    comeAgain();
     mNotKept = lost;
     showNotice();
+}
+
+void PaneShell::comeAgain()
+{
+    view().hide(); // what is shown again is drawn again
+    didUnselect();
+    willSelect();
+    view().show();
+    didSelect();
 }
 
 void PaneShell::load()
 {
     closeDialogs();
     // Without leaving the pane, which would save what could not be loaded.
-    didUnselect();
-    willSelect();
-    didSelect();
+    comeAgain();
 }
 
 void PaneShell::closeDialogs() const

@@ -105,6 +105,7 @@ private:
     void followDevice();
     void load();
     void showAnew();
+    void comeAgain();
     void closeDialogs() const;
 
     std::unique_ptr<Pane> mPane;

@@ -13,6 +13,7 @@
 /** What a host has done with its pane, which says so also when it is gone. */
 struct PaneLife {
     QStringList calls;
+    QStringList views; ///< when the main view went and came while its window stayed
     bool hasChanges = false;
     bool canSave = true;
     bool canLoad = true;
@@ -91,9 +92,33 @@ private:
         tell(mLife.canSave ? News::Saved : News::NotSaved,
             mLife.canSave ? QString() : QStringLiteral("the disk is full"));
     }
+    /** A view that notes when it goes and comes while its window stays. */
+    class View final : public QWidget {
+    public:
+        explicit View(PaneLife& life)
+            : mLife(life)
+        {
+        }
+
+    protected:
+        void hideEvent(QHideEvent*) override { note("hidden"); }
+        void showEvent(QShowEvent*) override { note("shown"); }
+
+    private:
+        void note(const char* event)
+        {
+            if (window()->isVisible()) {
+                mLife.views.append(QString::fromLatin1(event) + QStringLiteral(" after ")
+                    + (mLife.calls.isEmpty() ? QString() : mLife.calls.constLast()));
+            }
+        }
+
+        PaneLife& mLife;
+    };
+
     QWidget* makeMainView() override
     {
-        auto* const view = new QWidget;
+        auto* const view = new View(mLife);
         view->setWindowTitle(QStringLiteral("Noted"));
         view->resize(300, 200);
         (new QVBoxLayout(view))->addWidget(new QCheckBox(QStringLiteral("Noted")));

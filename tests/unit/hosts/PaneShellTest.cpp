@@ -359,6 +359,15 @@ TEST_P(Shell, showsThePaneAnewAfterCancel)
     EXPECT_EQ(notice(), QString());
 }
 
+TEST_P(Shell, takesThePaneOutOfSightBetweenTwoShowingsSoThatItIsDrawnAgain)
+{
+    show();
+    mLife.views.clear();
+    mShell->cancel();
+    EXPECT_EQ(mLife.views, calls({"hidden after will unselect", "shown after will select"}));
+    EXPECT_TRUE(mShell->view().isVisible());
+}
+
 TEST_P(Shell, tellsItsHostWhetherChangesAreLostOnLeaving)
 {
     show();
