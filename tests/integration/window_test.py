@@ -56,6 +56,26 @@ class Window(desktop.Desktop):
         # The panel is shown anew, so that its pages follow.
         session.wait_for(lambda: self.find("qvtblt", "Left scroll strip")["checked"], "the box")
 
+    def test_all_pages_follow_the_file_after_cancel(self):
+        self.start_driver()
+        self.start_panel()
+        self.click(self.find("qvtblt", "Pen", "page tab"))
+        before = self.find("qvtblt", "Pressure curve")["description"]
+        pushes = int(self.simulator("Pushes")[1])
+        self.xdotool("key", "alt+l", "Home")
+        session.wait_for(lambda: int(self.simulator("Pushes")[1]) > pushes, "the push")
+        session.wait_for(lambda: self.find("qvtblt", "Pressure curve")["description"] != before,
+                         "the other curve")
+        picture = self.curve()
+        self.press("qvtblt", "Cancel", "push button")
+        session.wait_for(lambda: self.find("qvtblt", "Pressure curve")["description"] == before,
+                         "the file's curve")
+        session.wait_for(lambda: self.curve() != picture, "its drawing")
+
+    def curve(self):
+        view = self.find("qvtblt", "Pressure curve")
+        return self.pixels(view["x"], view["y"], view["width"], view["height"])
+
     def test_an_edit_works_by_keyboard_alone(self):
         self.start_driver()
         self.start_panel()
@@ -127,22 +147,24 @@ class Window(desktop.Desktop):
         self.find("qvtblt", "No tablet was found", "label")
         driver = self.start_driver()
         self.find("qvtblt", "Keys", "page tab")
-        self.click_strip()
-        queries = [line for line in self.stop_driver(driver) if line.startswith("query from ")]
+        self.press("qvtblt", "Left scroll strip", "check box")
+        lines = [""]
+        while not lines[-1].startswith("push "):
+            lines.append(session.read_line(driver.stdout, "the push"))
+        queries = [line for line in lines if line.startswith("query from ")]
         self.assertEqual(len(queries), 1, "it is asked once")
 
     def test_what_the_driver_has_not_taken_is_sent_again_by_hand(self):
         driver = self.start_driver()
-        self.start([session.BIN / "qvtblt"])
-        strip = self.find("qvtblt", "Left scroll strip", "check box")
+        self.start_panel()
         self.stop_driver(driver, signal.SIGKILL)
-        self.click(strip, 8)
+        self.press("qvtblt", "Left scroll strip", "check box")
         session.wait_for(self.notice, "the line")
         driver = self.start_driver()
         line = session.read_line(driver.stdout, "the panel's query")
         self.assertTrue(line.startswith("query from "), f"'{line}': nothing is sent unasked")
         self.assertTrue(self.notice())
-        self.click(self.find("qvtblt", "Send Again", "push button"))
+        self.press("qvtblt", "Send Again", "push button")
         session.wait_for(lambda: self.record() and self.driver_strips() == (1, 0), "the record")
         session.wait_for(lambda: not self.notice(), "the line's end")
 
@@ -150,9 +172,9 @@ class Window(desktop.Desktop):
         driver = self.start_driver()
         self.start_panel()
         self.stop_driver(driver, signal.SIGKILL)
-        self.click(self.find("qvtblt", "Left scroll strip", "check box"), 8)
+        self.press("qvtblt", "Left scroll strip", "check box")
         session.wait_for(self.notice, "the line")
-        self.click(self.find("qvtblt", "Cancel", "push button"))
+        self.press("qvtblt", "Cancel", "push button")
         self.find("qvtblt", "No tablet was found", "label")
         self.start_driver()
         self.find("qvtblt", "Left scroll strip", "check box")
@@ -179,10 +201,10 @@ class Window(desktop.Desktop):
         away = self.config().with_suffix(".away")
         self.config().rename(away)
         self.click_strip()
-        self.click(self.find("qvtblt", "Save", "push button"))
+        self.press("qvtblt", "Save", "push button")
         session.wait_for(self.notice, "the line")
         away.rename(self.config())
-        self.click(self.find("qvtblt", "Try Again", "push button"))
+        self.press("qvtblt", "Try Again", "push button")
         session.wait_for(lambda: not self.notice(), "the line's end")
         self.assertEqual(self.file_strips(), (1, 0))
 
@@ -193,7 +215,7 @@ class Window(desktop.Desktop):
         self.start([session.BIN / "qvtblt"])
         session.wait_for(self.notice, "the line")
         self.config().write_bytes(whole)
-        self.click(self.find("qvtblt", "Try Again", "push button"))
+        self.press("qvtblt", "Try Again", "push button")
         self.find("qvtblt", "Quorvia Draft S", "label")
         session.wait_for(lambda: not self.notice(), "the line's end")
         self.assertEqual(self.config().read_bytes(), whole)
@@ -205,12 +227,12 @@ class Window(desktop.Desktop):
         self.config().rename(away)
         self.click_strip()
         self.close_window(TITLE)
-        self.click(self.find("qvtblt", "Keep Open", "push button"))
+        self.press("qvtblt", "Keep Open", "push button")
         session.wait_for(lambda: not [thing for thing in self.things("qvtblt")
                                       if thing["name"] == "Keep Open"], "the question's end")
         self.assertIsNone(panel.poll())
         self.close_window(TITLE)
-        self.click(self.find("qvtblt", "Discard", "push button"))
+        self.press("qvtblt", "Discard", "push button")
         self.assertEqual(panel.wait(timeout=20), 0)
 
 

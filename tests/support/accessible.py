@@ -85,7 +85,8 @@ def press(path):
         thing = thing.get_child_at_index(i)
     action = thing.get_action_iface()
     names = [action.get_action_name(i) for i in range(action.get_n_actions())]
-    action.do_action(names.index("Press"))
+    # What a click does is a box's toggling and a button's pressing; a box may have no press at all.
+    action.do_action(names.index("Toggle" if "Toggle" in names else "Press"))
 
 
 EVENTS = ("object:state-changed:showing", "object:property-change:accessible-description",
