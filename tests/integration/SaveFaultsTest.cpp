@@ -10,6 +10,8 @@
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
 
+#include <QElapsedTimer>
+
 #include <gtest/gtest.h>
 
 #include <cerrno>
@@ -99,9 +101,14 @@ TEST_F(SaveFaults, aKillAtAnyMomentLeavesTheOldOrTheNewFileWhole)
     const unsigned seed = std::random_device()();
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
-    std::uniform_int_distribution<unsigned> microseconds(0, 3000);
     setGeneration(0);
     save();
+    // The kills come at any moment of the first few saves, however long one takes here.
+    QElapsedTimer oneSave;
+    oneSave.start();
+    save();
+    std::uniform_int_distribution<unsigned> microseconds(
+        0, static_cast<unsigned>(4 * oneSave.nsecsElapsed() / 1000));
     int advanced = 0;
     std::int16_t last = 0;
     // At least so many rounds, and more where the machine is so slow that few saves get through.

@@ -762,7 +762,7 @@ TEST_F(DisplayPage, darkWindowsHaveAGroundOnWhichBlackAndMagentaCanBeSeen)
             + 0.0722 * linear(color.blueF());
     };
     const auto contrast = [&](const QColor& a, const QColor& b) {
-        const auto [less, more] = std::minmax(luminance(a), luminance(b));
+        const auto [less, more] = std::minmax({luminance(a), luminance(b)});
         return (more + 0.05) / (less + 0.05);
     };
     const QPoint onGround(560, 20);
