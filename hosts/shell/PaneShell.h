@@ -41,7 +41,10 @@ public:
     /** Loads the pane's main view. */
     PaneShell(std::unique_ptr<platform::PreferencePane> pane, Host host, QWidget* parent = nullptr);
     ~PaneShell() override;
-    Q_DISABLE_COPY_MOVE(PaneShell)
+    PaneShell(const PaneShell&) = delete;
+    PaneShell& operator=(const PaneShell&) = delete;
+    PaneShell(PaneShell&&) = delete;
+    PaneShell& operator=(PaneShell&&) = delete;
 
     /** Takes what is called each time hasChanges() may have another answer. */
     void setChangeHandler(std::function<void()> handler);

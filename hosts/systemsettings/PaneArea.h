@@ -30,7 +30,10 @@ class PaneArea final : public QWidget {
 public:
     explicit PaneArea(std::unique_ptr<platform::PreferencePane> pane, QWidget* parent = nullptr);
     ~PaneArea() override;
-    Q_DISABLE_COPY_MOVE(PaneArea)
+    PaneArea(const PaneArea&) = delete;
+    PaneArea& operator=(const PaneArea&) = delete;
+    PaneArea(PaneArea&&) = delete;
+    PaneArea& operator=(PaneArea&&) = delete;
 
     /** Takes what is told each time whether there is something to apply or to reset. */
     void setChangeHandler(std::function<void(bool)> handler);

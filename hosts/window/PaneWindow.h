@@ -25,7 +25,10 @@ class PaneWindow final : public QMainWindow {
 public:
     explicit PaneWindow(std::unique_ptr<platform::PreferencePane> pane);
     ~PaneWindow() override;
-    Q_DISABLE_COPY_MOVE(PaneWindow)
+    PaneWindow(const PaneWindow&) = delete;
+    PaneWindow& operator=(const PaneWindow&) = delete;
+    PaneWindow(PaneWindow&&) = delete;
+    PaneWindow& operator=(PaneWindow&&) = delete;
 
     /** Shows the pane. */
     void select();
