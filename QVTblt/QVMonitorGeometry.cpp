@@ -50,11 +50,13 @@ void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)
 QVPoint QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole)
 {
     // Of a tablet without extent, all of it.
-    const auto part = [](std::int32_t length, std::int32_t of, double picture) {
-        return of == 0 ? picture : length * static_cast<std::int32_t>(picture) / of;
+    const auto part = [](std::int32_t length, std::int32_t of, std::int32_t picture) {
+        return of == 0 ? picture : length * picture / of;
     };
-    const double right = part(used.xmax - used.xmin, whole.xmax - whole.xmin, kQVPictureArea.width);
-    const double down = part(used.ymax - used.ymin, whole.ymax - whole.ymin, kQVPictureArea.height);
+    const std::int32_t right = part(used.xmax - used.xmin, whole.xmax - whole.xmin,
+        static_cast<std::int32_t>(kQVPictureArea.width));
+    const std::int32_t down = part(used.ymax - used.ymin, whole.ymax - whole.ymin,
+        static_cast<std::int32_t>(kQVPictureArea.height));
     return {kQVPictureArea.x + right, kQVPictureArea.y + kQVPictureArea.height - down};
 }
 

@@ -94,11 +94,11 @@ void drawLabel(QPainter& painter, const QString& name, const Rect& miniature)
 
 QVMonitorView::QVMonitorView(QWidget* parent)
     : PaneView(parent)
+    , DisplayRegistrationCallBackSuccessful(platform::displays().registerReconfigurationCallback(
+          DisplayRegisterReconfigurationCallback, this))
     , pQVInfo(GetqvTabletInfo())
 {
     readPicture();
-    DisplayRegistrationCallBackSuccessful = platform::displays().registerReconfigurationCallback(
-        DisplayRegisterReconfigurationCallback, this);
 }
 
 QVMonitorView::~QVMonitorView()

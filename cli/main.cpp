@@ -62,7 +62,7 @@ QString misuse(const QStringList& words, bool asJson)
     if (words.isEmpty()) {
         return QStringLiteral("a command is missing");
     }
-    const auto command = std::ranges::find_if(
+    const auto* const command = std::ranges::find_if(
         kCommands, [&](const Command& one) { return words[0] == QLatin1String(one.name); });
     if (command == kCommands.end()) {
         return QStringLiteral("there is no command '%1'").arg(words[0]);

@@ -25,7 +25,7 @@ void PropertyListNode::dropOlderValues()
     }
     std::vector<Part> sorted;
     sorted.reserve(parts.size());
-    for (Part part = parts.begin(); part != parts.end(); ++part) {
+    for (auto part = parts.begin(); part != parts.end(); ++part) {
         sorted.push_back(part);
     }
     // Those of one key stay in the file's order.

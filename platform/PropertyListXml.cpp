@@ -206,7 +206,7 @@ private:
             mInPlist = true;
             return;
         }
-        const auto tag = std::ranges::find_if(
+        const auto* const tag = std::ranges::find_if(
             kTags, [&](const Tag& known) { return name == QLatin1String(known.name); });
         if (tag == kTags.end()) {
             refuse("unknown tag " + shown(name.toString().toStdString()));
