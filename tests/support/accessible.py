@@ -16,6 +16,14 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi, GLib  # noqa: E402
 
 
+def children(thing):
+    """The index of each child and the child. One that goes away meanwhile is left out."""
+    for i in range(thing.get_child_count()):
+        child = thing.get_child_at_index(i)
+        if child is not None:
+            yield i, child
+
+
 def describe(thing, path, options, found):
     """Adds the thing and what is below it."""
     try:
@@ -26,7 +34,7 @@ def describe(thing, path, options, found):
         value = thing.get_value_iface()
         name = thing.get_name()
         description = thing.get_description()
-        found.append({
+        found.append((thing, {
             "name": name,
             "role": thing.get_role_name(),
             "description": description,
@@ -42,7 +50,7 @@ def describe(thing, path, options, found):
             "y": extents.y if extents else 0,
             "width": extents.width if extents else 0,
             "height": extents.height if extents else 0,
-        })
+        }))
         if not isShowing and not options.all:
             return  # nor is anything below it
         if thing.get_role() == Atspi.Role.COMBO_BOX:
@@ -50,43 +58,47 @@ def describe(thing, path, options, found):
                 options = argparse.Namespace(**{**vars(options), "all": True})
             elif not options.items:
                 return
-        for i in range(thing.get_child_count()):
-            child = thing.get_child_at_index(i)
-            if child is not None:
-                describe(child, path + [i], options, found)
+        for i, child in children(thing):
+            describe(child, path + [i], options, found)
     except GLib.Error:
         pass  # the thing went away while it was looked at
 
 
 def labels(thing):
     """The names of what labels the thing."""
-    return [relation.get_target(i).get_name() for relation in thing.get_relation_set()
-            if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
-            for i in range(relation.get_n_targets())]
+    targets = [relation.get_target(i) for relation in thing.get_relation_set()
+               if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
+               for i in range(relation.get_n_targets())]
+    return [target.get_name() for target in targets if target is not None]
 
 
 def print_focused(thing):
     """Prints name and description of the thing below this one that has the focus. Gives whether
     there is one."""
-    states = thing.get_state_set()
-    if states.contains(Atspi.StateType.FOCUSED):
-        print(thing.get_name(), thing.get_description(), sep="\n")
-        return True
-    if not states.contains(Atspi.StateType.SHOWING) or thing.get_role() == Atspi.Role.COMBO_BOX:
-        return False
-    return any(print_focused(thing.get_child_at_index(i))
-               for i in range(thing.get_child_count()))
+    try:
+        states = thing.get_state_set()
+        if states.contains(Atspi.StateType.FOCUSED):
+            print(thing.get_name(), thing.get_description(), sep="\n")
+            return True
+        if not states.contains(Atspi.StateType.SHOWING) or thing.get_role() == Atspi.Role.COMBO_BOX:
+            return False
+        return any(print_focused(child) for _, child in children(thing))
+    except GLib.Error:
+        return False  # the thing went away while it was looked at
 
 
-def press(path):
-    """Does what a click on the thing would do."""
-    thing = Atspi.get_desktop(0)
-    for i in path:
-        thing = thing.get_child_at_index(i)
-    action = thing.get_action_iface()
-    names = [action.get_action_name(i) for i in range(action.get_n_actions())]
-    # What a click does is a box's toggling and a button's pressing; a box may have no press at all.
-    action.do_action(names.index("Toggle" if "Toggle" in names else "Press"))
+def press(name, role, found):
+    """Does what a click on the thing with that name or description would do. Gives whether there is
+    one."""
+    for thing, about in found:
+        if name in (about["name"], about["description"]) and role == about["role"] \
+                and about["showing"]:
+            action = thing.get_action_iface()
+            names = [action.get_action_name(i) for i in range(action.get_n_actions())]
+            # What a click does is a box's toggling and a button's pressing; a box may have no press
+            # at all.
+            return action.do_action(names.index("Toggle" if "Toggle" in names else "Press"))
+    return False
 
 
 EVENTS = ("object:state-changed:showing", "object:property-change:accessible-description",
@@ -127,8 +139,9 @@ def main():
                         help="also those of the combo box with that name or description")
     parser.add_argument("--focused", action="store_true",
                         help="print only name and description of what has the focus, in two lines")
-    parser.add_argument("--press", nargs="+", type=int, metavar="PLACE",
-                        help="press the thing at that path instead")
+    parser.add_argument("--press", nargs=2, metavar=("NAME", "ROLE"),
+                        help="instead, press the thing with that name or description, if it is "
+                        "there, and print whether it was")
     parser.add_argument("--listen", action="store_true",
                         help="instead, print a line for each thing that appears or says of itself "
                         "something new, until this is ended")
@@ -137,22 +150,23 @@ def main():
     if options.listen:
         listen(options.application)
         return
-    if options.press:
-        press(options.press)
-        return
     found = []
     desktop = Atspi.get_desktop(0)
-    for i in range(desktop.get_child_count()):
-        application = desktop.get_child_at_index(i)
-        if application is not None and application.get_name() == options.application:
-            for j in range(application.get_child_count()):
-                window = application.get_child_at_index(j)
+    for i, application in children(desktop):
+        try:
+            if application.get_name() != options.application:
+                continue
+            for j, window in children(application):
                 if options.focused:
                     print_focused(window)
                 else:
                     describe(window, [i, j], options, found)
-    if not options.focused:
-        json.dump(found, sys.stdout)
+        except GLib.Error:
+            pass  # the application has ended
+    if options.press:
+        json.dump(press(*options.press, found), sys.stdout)
+    elif not options.focused:
+        json.dump([about for _, about in found], sys.stdout)
 
 
 if __name__ == "__main__":

@@ -60,7 +60,10 @@ class Desktop(session.Session):
 
     def press(self, application, name, role):
         """Has the application press a control, as a screen reader does for those without a mouse."""
-        self.accessible(application, "--press", *self.find(application, name, role)["path"])
+        options = ["--items"] if role == "list item" else []
+        session.wait_for(
+            lambda: json.loads(self.accessible(application, *options, "--press", name, role)),
+            f"{role} '{name}' of {application}")
 
     def find(self, application, name, role=None, showing=True, inside=()):
         """Waits for the thing with that name or description; gives its properties. The thing is below
