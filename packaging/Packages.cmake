@@ -1,15 +1,15 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
 
-# Debian's packages, a component for each. A build tree makes those for the Qt it was made with;
-# make-packages makes them all.
+# The Debian packages, one for each component. A build tree builds those for its version of Qt;
+# make-packages builds them all.
 if(QT_MAJOR_VERSION EQUAL 5)
     set(CPACK_COMPONENTS_ALL kcm-qvtblt)
 else()
     set(CPACK_COMPONENTS_ALL qvtblt tdsg-driver)
 endif()
 
-# A machine-readable copyright file puts a dot on empty lines.
+# In a machine-readable copyright file, an empty line is a dot.
 file(READ ${PROJECT_SOURCE_DIR}/LICENSE QVTBLT_LICENSE)
 string(REGEX REPLACE "^MIT License\n+Copyright[^\n]*\n+" "" QVTBLT_LICENSE "${QVTBLT_LICENSE}")
 string(STRIP "${QVTBLT_LICENSE}" QVTBLT_LICENSE)
@@ -35,9 +35,9 @@ set(CPACK_DEB_COMPONENT_INSTALL ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 
-# What the programs need at run time and do not link: the session bus, on which panel and driver
-# meet, and the index of the icon theme that their icons belong to. Qt's plug-ins come with Qt,
-# all but those for Wayland.
+# What the programs need at run time without linking to it: the session bus, over which panel and
+# driver communicate, and the index of their icon theme. Qt's plug-ins come with Qt, except those
+# for Wayland.
 set(bus "default-dbus-session-bus | dbus-session-bus")
 
 set(CPACK_DEBIAN_QVTBLT_PACKAGE_NAME qvtblt)
@@ -47,24 +47,26 @@ set(CPACK_DEBIAN_QVTBLT_PACKAGE_RECOMMENDS "qt6-translations-l10n, qt6-wayland, 
 set(CPACK_DEBIAN_QVTBLT_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_SOURCE_DIR}/postinst)
 set(CPACK_DEBIAN_QVTBLT_PACKAGE_CONTROL_STRICT_PERMISSION ON)
 set(CPACK_DEBIAN_QVTBLT_DESCRIPTION "settings panel of the Quorvia pen tablet
-What each button of tablet and pen does, how the pen answers to the hand, and
-which part of the screen the tablet covers. Every change works at once.
+Sets what each button of the tablet and the pen does, how the pen responds to
+pressure, and which part of the screen the tablet covers. Every change takes
+effect at once.
 
-This package has the panel in a window of its own, and qvtbltctl, which does
-the same from the command line.")
+This package contains the panel in a window of its own, and qvtbltctl, which
+does the same from the command line.")
 
-# The module for Qt 5 shows the same texts and pictures, and needs the same access to the tablet, so
-# they are in one package, of the same version.
+# The module for Qt 5 shares texts, pictures and the udev rule with the window, so it depends on the
+# package qvtblt of the same version.
 set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_NAME kcm-qvtblt)
 set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_SECTION kde)
 set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_DEPENDS "qvtblt (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_RECOMMENDS systemsettings)
 set(CPACK_DEBIAN_KCM-QVTBLT_DESCRIPTION "settings panel of the Quorvia pen tablet for KDE
-What each button of tablet and pen does, how the pen answers to the hand, and
-which part of the screen the tablet covers. Every change works at once.
+Sets what each button of the tablet and the pen does, how the pen responds to
+pressure, and which part of the screen the tablet covers. Every change takes
+effect at once.
 
-This package has the panel as a module of System Settings, below the input
-devices.")
+This package contains the panel as a module of System Settings, under Input
+Devices.")
 
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_NAME tdsg-driver)
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_SECTION utils)
@@ -72,9 +74,9 @@ set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_DEPENDS "${bus}, hicolor-icon-theme")
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_RECOMMENDS qt6-wayland)
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_ENHANCES "kcm-qvtblt, qvtblt")
 set(CPACK_DEBIAN_TDSG-DRIVER_DESCRIPTION "driver of the Quorvia pen tablet
-Answers the tablet's settings panel on the session bus, which starts it when
-the panel asks.
+Serves the tablet's settings panel on the session bus, which starts it on
+demand.
 
-Its tablet is simulated, for those who have none at hand: it can be touched
-with the mouse in a window.")
+Its tablet is simulated, for use without a real one: it can be used with the
+mouse in a window.")
 include(CPack)
