@@ -6,12 +6,12 @@
 
 #include <QString>
 
-/** What a button does, for people: "Left mouse button". */
+/** Describes a button's action to the user: "Left mouse button". */
 QString actionText(const tagQVTabletInfoSubKey& slot);
 
 /**
- * What a strip does, for people.
+ * Describes a strip's action to the user.
  *
- * @param field 0 when the strip is on
+ * @param field Scrollbar0 or Scrollbar1; 0 is on
  */
 QString stripText(std::int16_t field, std::int16_t speed);

@@ -15,7 +15,7 @@
 
 namespace {
 
-/** The settings of a tablet fresh out of its box. */
+/** The settings of a new tablet. */
 tagQVTabletInfo defaults(const QVTabletModel& model)
 {
     tagQVTabletInfo record{};
@@ -36,7 +36,7 @@ tagQVTabletInfo defaults(const QVTabletModel& model)
     record.Monitor.cTabletXmax = model.tabletXmax;
     record.Monitor.cTabletYmax = model.tabletYmax;
     record.Key.ScrollSpeed = 5;
-    // The pen's buttons are the right and the middle button of a mouse.
+    // The pen's buttons are the right and the middle mouse button.
     record.Key.SubKey[16].Valid = 1;
     record.Key.SubKey[16].Mouse = 1;
     record.Key.SubKey[17].Valid = 1;
@@ -51,7 +51,7 @@ InstalledConfig installConfigFile(const QVTabletModel& model)
     std::snprintf(GetPListName(), kQVListNameSize, "%u.plist", unsigned{model.productID});
     const std::string path = QVConfigStore::configPath();
     InstalledConfig config{QFile::decodeName(path.c_str()), false, {}};
-    // Also where it is a broken link or a folder: it is the user's.
+    // Even a broken link or a folder is left alone: it is the user's.
     if (QFileInfo(config.path).exists() || QFileInfo(config.path).isSymLink()) {
         return config;
     }

@@ -6,15 +6,15 @@
 
 #include <QString>
 
-/** What became of a model's configuration file. */
+/** The result of installConfigFile(). */
 struct InstalledConfig {
     QString path;
-    bool created = false; ///< false: the user had one, and it was left alone
-    QString error; ///< why there is none; empty when there is one
+    bool created = false; ///< false: it existed, and was not touched
+    QString error; ///< why it could not be created; empty on success
 };
 
 /**
- * Sees that the user has the model's configuration file, "<product ID>.plist", with every entry
- * that a panel knows. One that is there, whatever it holds, is never touched.
+ * Creates the model's configuration file, "<product ID>.plist", with every entry that a panel
+ * knows. An existing file is never touched, whatever it contains.
  */
 InstalledConfig installConfigFile(const QVTabletModel& model);

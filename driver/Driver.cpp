@@ -29,10 +29,10 @@ constexpr std::int32_t kReportTimeOut = 10 * kTicksPerSecond; ///< the panel pau
 
 constexpr AEEventID kSettingsEvent = fourCharCode("WSnd");
 
-/** Changes that one push is told with; a whole new record would be a hundred. */
+/** Changes that are listed for a push; a completely new record would have a hundred. */
 constexpr int kMaxChangesTold = 4;
 
-/** Settings often come in bursts, as from a slider; the state is written after the burst. */
+/** Pushes often come in bursts, such as from a slider; the state is written after the burst. */
 constexpr std::chrono::milliseconds kSaveDelay{250};
 
 QString senderOf(const AppleEvent& event)
@@ -49,7 +49,7 @@ QString valueText(const QVField& field, const QByteArray& record, std::size_t ba
         : QString::number(QVFieldNumber(field, bytes));
 }
 
-/** What differs between two whole records, for people. */
+/** Lists the differences between two complete records, for the log. */
 QString changes(const QByteArray& before, const QByteArray& after)
 {
     if (before.size() != kQVRecordSize) {
@@ -76,7 +76,7 @@ QString changes(const QByteArray& before, const QByteArray& after)
     return told.isEmpty() ? QStringLiteral("nothing changed") : told.join(QStringLiteral(", "));
 }
 
-/** Monitor/disableFlag of a whole record. */
+/** Monitor/disableFlag of a complete record. */
 std::int16_t disableFlag(const QByteArray& record)
 {
     std::int16_t flag = 0;
@@ -172,9 +172,9 @@ void Driver::setAttached(std::uint16_t productID)
         return;
     }
     mState.attached = productID;
-    mReports.reset(); // a tablet that is pulled out reports no lift
+    mReports.reset(); // a tablet that is disconnected reports no lift
     mPanels.setWatchedServices({});
-    setCalibrating({}); // the panels were to fit the tablet that was here
+    setCalibrating({}); // the panels were calibrating the previous tablet
     say(QStringLiteral("attached: %1").arg(modelText(productID)));
     mSaveSoon.start();
     Q_EMIT attachedChanged(productID);
@@ -246,7 +246,7 @@ bool Driver::setReportRate(std::uint32_t perSecond)
 void Driver::wakeReports()
 {
     if (!isCalibrating()) {
-        mReports.forget(); // nobody wants to know
+        mReports.forget(); // there is no recipient
         mSendReports.stop();
     } else if (!mReports.isEmpty() && !mSendReports.isActive()) {
         mClock.begin(now());
@@ -268,7 +268,7 @@ void Driver::sendDueReports()
 
 void Driver::send(const PenReport& report)
 {
-    // Of a list, the panel reads every other item, beginning with the first.
+    // The panel reads every other item of a list, starting with the first.
     const AEDesc item{kPenReport,
         QByteArray(reinterpret_cast<const char*>(&report), static_cast<int>(sizeof report))};
     AppleEvent event{kAECoreSuite, kAEGetData, {typeBusName, mCalibrating.back()}, {}};
@@ -304,7 +304,7 @@ void Driver::setCalibrating(std::vector<QByteArray> panels)
     const QByteArray listened = wasCalibrating ? mCalibrating.back() : QByteArray();
     mCalibrating = std::move(panels);
     if (!isCalibrating() || mCalibrating.back() != listened) {
-        mReports.forget(); // who listens next begins with taps of its own
+        mReports.forget(); // the next panel must not get the taps of this one
     }
     wakeReports();
     if (wasCalibrating != isCalibrating()) {
@@ -315,7 +315,7 @@ void Driver::setCalibrating(std::vector<QByteArray> panels)
 void Driver::watch(const QString& panel)
 {
     mPanels.addWatchedService(panel);
-    // It may have gone already, before it was watched.
+    // It may have left the bus before it was watched.
     QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("NameHasOwner"));
@@ -372,7 +372,7 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
             .arg(mState.pushes)
             .arg(senderOf(event), changes(mState.record, record)));
     mState.record = record;
-    // Only the panel itself ends its calibration: other programs push, too.
+    // Only a push from the panel itself ends its calibration; other programs push, too.
     if (const QByteArray* const sender = event.address.bytes()) {
         if (disableFlag(record) == 1) {
             beginCalibration(*sender);

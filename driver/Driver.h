@@ -17,8 +17,8 @@
 #include <vector>
 
 /**
- * The driver: answers the panel's query, takes its pushes, and has at most one simulated tablet
- * attached. Says on standard output, one line each, what arrived and what it did.
+ * The driver: answers the panel's query, receives its pushes, and has at most one simulated tablet
+ * attached. Prints a line for each event.
  */
 class Driver final : public QObject {
     Q_OBJECT
@@ -27,16 +27,16 @@ public:
     /**
      * Installs the handlers of the panel's events.
      *
-     * @param bus on which the events come, and on which panels come and go
+     * @param bus carries the events, and tells when panels leave it
      */
     Driver(platform::AppleEvents& events, QDBusConnection bus);
 
     /**
-     * Takes up what was known when the driver last ended.
+     * Restores the state of the last run.
      *
-     * @param productID the model to attach, 0 for none; by default the one that was attached, and
-     *     the first of the table when there never was any
-     * @return why the model of the parameter could not be attached; empty on success
+     * @param productID the model to attach, 0 for none; by default the last one attached, or the
+     *     first of the table on the first run
+     * @return why the given model could not be attached; empty on success
      */
     QString start(std::optional<std::uint16_t> productID);
 
@@ -46,54 +46,53 @@ public:
     /** Bytes of the last push; empty before the first. */
     QByteArray lastRecord() const { return mState.record; }
 
-    /** How many pushes there were. */
+    /** Number of pushes so far. */
     std::uint32_t pushes() const { return mState.pushes; }
 
     /** Attaches a model in place of any other. @return why it failed; empty on success */
     QString attach(std::uint16_t productID);
 
-    /** Detaches the tablet; without one, nothing happens. */
+    /** Detaches the tablet, if any. */
     void detach();
 
-    /** From now on the driver does nothing at all for so long before it handles an event. */
+    /** From now on, the driver sleeps for this time before it handles an event. */
     void stall(std::uint32_t milliseconds);
 
-    /** Whether a panel asks for the pen. */
+    /** Whether a panel is calibrating. */
     bool isCalibrating() const { return !mCalibrating.empty(); }
 
     /**
-     * The pen touches a point of the tablet and is lifted. Its reports go to the panel that
-     * calibrates, one after the other at the report rate; without one, nothing happens.
+     * Touches a point of the tablet with the pen and lifts it. The reports go to the calibrating
+     * panel, at the report rate; without one, nothing happens.
      *
      * @param x in tablet units
-     * @return why it is not reported; empty when it is
+     * @return why it is not reported; empty on success
      */
     QString tap(std::uint16_t x, std::uint16_t y);
 
     /**
-     * The tip of the pen goes down and stays down until penUp(). As long as a panel calibrates, it
-     * is told at the report rate where the pen is, in the same row of reports as a tap's; also one
-     * that begins to calibrate meanwhile. Without a tablet, nothing happens.
+     * Presses the tip of the pen down until penUp(). Meanwhile, a calibrating panel gets the pen's
+     * position at the report rate, queued after the reports of taps, even if it begins to calibrate
+     * later. Without a tablet, nothing happens.
      */
     void penDown(std::uint16_t x, std::uint16_t y);
-    /** The pen is dragged; nothing while its tip is up. */
+    /** Drags the pen; does nothing while the tip is up. */
     void penMove(std::uint16_t x, std::uint16_t y);
-    /** The tip is lifted; nothing while it is up. */
+    /** Lifts the tip; does nothing while it is up. */
     void penUp();
 
-    /** Sets how many reports are sent in a second: 1 to 1000. @return whether it is such a number
-     */
+    /** Sets the reports per second, 1 to 1000. @return whether the number is valid */
     bool setReportRate(std::uint32_t perSecond);
 
-    /** Writes what is known to disk now. */
+    /** Writes the state to disk now. */
     void saveState();
 
 Q_SIGNALS:
     void attachedChanged(ushort productID);
     void pushed(uint count);
-    /** A panel begins to ask for the pen, or none does any more. */
+    /** A panel has begun to calibrate, or none does any longer. */
     void calibratingChanged(bool isCalibrating);
-    /** The pen touches a point and is lifted, as it was told to by tap(). */
+    /** tap() has touched a point. */
     void tapped(ushort x, ushort y);
 
 private:
@@ -102,9 +101,9 @@ private:
     platform::OSErr refuse(
         const platform::AppleEvent& event, const QString& why, platform::AppleEvent& reply);
     void setAttached(std::uint16_t productID);
-    /** A panel asks for the pen; from now on it is the newest, also when it has asked before. */
+    /** A panel calibrates; it becomes the newest, even if it was in the list already. */
     void beginCalibration(const QByteArray& panel);
-    /** A panel no longer asks for the pen. @return whether it did */
+    /** A panel no longer calibrates. @return whether it did */
     bool endCalibration(const QByteArray& panel);
     void setCalibrating(std::vector<QByteArray> panels);
     void watch(const QString& panel);
@@ -120,16 +119,16 @@ private:
     QTimer mSaveSoon;
     std::uint32_t mStall = 0;
     /**
-     * Bus names of the panels whose last push said that they calibrate. The newest, which gets the
-     * reports, is the last.
+     * Bus names of the panels whose last push had disableFlag 1. The last one is the newest, and
+     * gets the reports.
      */
     std::vector<QByteArray> mCalibrating;
-    QDBusServiceWatcher mPanels; ///< tells when one of these panels has gone
+    QDBusServiceWatcher mPanels; ///< tells when one of these panels leaves the bus
     PenReports mReports;
     ReportClock mClock;
     QElapsedTimer mSinceStart;
     QTimer mSendReports; ///< runs while there is something to report
 };
 
-/** Writes a line to standard output at once. */
+/** Writes a line to standard output, without buffering. */
 void say(const QString& line);

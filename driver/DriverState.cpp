@@ -30,12 +30,12 @@ QString statePath()
     return folder + QStringLiteral("/tdsg-driver/state.json");
 }
 
-/** A whole number that the type can hold; nothing for anything else. */
+/** Returns an integer that fits the type, or nothing. */
 template <class Number>
 std::optional<Number> wholeNumber(const QJsonValue& value)
 {
     const double number = value.toDouble(-1);
-    // What is no number fails every comparison, too.
+    // NaN fails every comparison, too.
     if (number >= 0 && number <= std::numeric_limits<Number>::max()
         && number == std::floor(number)) {
         return static_cast<Number>(number);
@@ -43,7 +43,7 @@ std::optional<Number> wholeNumber(const QJsonValue& value)
     return std::nullopt;
 }
 
-/** A whole record, or an empty one; nothing for anything else. */
+/** Returns a complete record, an empty one, or nothing if it is neither. */
 std::optional<QByteArray> wholeRecord(const QJsonValue& value)
 {
     const auto decoded = QByteArray::fromBase64Encoding(

@@ -9,19 +9,19 @@
 #include <optional>
 
 /**
- * What the driver knows and must not forget: a file in the user's folder of program states
- * (XDG_STATE_HOME, else ~/.local/state).
+ * What the driver keeps over a restart, in the file tdsg-driver/state.json in the user's state
+ * folder (XDG_STATE_HOME, or ~/.local/state).
  */
 struct DriverState {
     std::uint16_t attached = 0; ///< product ID; 0 is no tablet
     QByteArray record; ///< the last push; empty before the first
-    std::uint32_t pushes = 0; ///< how many there were
+    std::uint32_t pushes = 0; ///< number of pushes so far
 
     /**
      * Reads the file.
      *
-     * @return nothing when there is none, or one that no driver has written: its numbers have to be
-     *     whole and in the range of their types, its record empty or whole
+     * @return nothing if there is none or it is invalid: numbers must be integers in the range of
+     *     their types, and the record must be empty or complete
      */
     static std::optional<DriverState> load();
 

@@ -18,7 +18,7 @@ QByteArray codes(std::initializer_list<FourCharCode> list)
         static_cast<int>(list.size() * sizeof(FourCharCode))};
 }
 
-/** Why the entries' keywords are not exactly these, in this order. */
+/** Returns an error unless the entries' keywords are exactly these, in this order. */
 QString keywordError(
     const char* what, const AERecord& entries, std::initializer_list<AEKeyword> keywords)
 {
@@ -33,7 +33,7 @@ QString keywordError(
     return {};
 }
 
-/** Why the descriptor has not this type and one of these values. */
+/** Returns an error unless the descriptor has this type and one of these values. */
 QString valueError(const AEKeyDesc& entry, DescType type, std::initializer_list<QByteArray> values)
 {
     const QByteArray* const bytes = entry.desc.bytes();
@@ -71,7 +71,7 @@ QString specifierError(const AEDesc& desc)
         return error;
     }
     const AERecord& entry = *entries;
-    // A panel whose long integer has four bytes sends the property's code alone.
+    // A panel with a four-byte long sends only the property's code.
     return firstOf({valueError(entry[0], typeType, {codes({cProperty})}),
         valueError(entry[1], typeEnumerated, {codes({formPropertyID})}),
         valueError(entry[2], typeLongInteger,

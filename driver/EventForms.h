@@ -8,12 +8,12 @@
 
 /**
  * @file
- * The exact forms of the panel's two events. Everything else is refused, so that a change on one
- * side of the wire shows on the other at once.
+ * Checks the panel's two events for their exact forms. Everything else is rejected, so that a
+ * change on one side of the wire shows at once on the other.
  */
 
-/** Why the event is no query for the configuration file; empty when it is one. */
+/** Why the event is not a query for the configuration file; empty if it is. */
 QString queryFormError(const platform::AppleEvent& event);
 
-/** Why the event is no push of a whole record; empty when it is one. */
+/** Why the event is not a push of a complete record; empty if it is. */
 QString settingsFormError(const platform::AppleEvent& event);

@@ -9,7 +9,7 @@ namespace {
 constexpr std::uint32_t kPressure = 300;
 constexpr int kReportsOfTap = 5; ///< with the tip down
 
-/** What is overdue by more than this, as after the machine has slept, is not made up for. */
+/** Reports that are overdue by more, such as after a suspend, are not caught up on. */
 constexpr ReportClock::Time kMostLate = std::chrono::seconds(1);
 
 } // namespace

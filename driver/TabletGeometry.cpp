@@ -14,7 +14,7 @@ bool isEmpty(const QVTabletArea& range)
     return range.xmin >= range.xmax || range.ymin >= range.ymax;
 }
 
-/** Where between two numbers a fraction of their distance leads; not beyond them. */
+/** Interpolates between two numbers, without going beyond them. */
 std::uint16_t between(std::uint16_t low, std::uint16_t high, double fraction)
 {
     return static_cast<std::uint16_t>(

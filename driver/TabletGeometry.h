@@ -11,35 +11,34 @@
 
 /**
  * @file
- * Where a tablet's surface lies in a widget. The upper left corner of the surface is the lowest x
- * and the lowest y of its range; both count in tablet units, rightwards and downwards.
+ * Maps a tablet's surface to a widget. The upper left corner of the surface has the lowest x and y
+ * of its range; both are in tablet units, x rightwards and y downwards.
  */
 
 /**
- * The range of a model's surface: what its settings say, and what the model has by itself where
- * they say nothing, or are those of another model.
+ * The range of a model's surface: the one in its settings, or the model's default if they have none
+ * or belong to another model.
  *
- * @param settings null when there are none
+ * @param settings null if there are none
  */
 QVTabletArea tabletRange(const QVTabletModel& model, const tagQVTabletInfo* settings);
 
-/** The largest rectangle with the range's proportions within a place, in its middle. */
+/** The largest centred rectangle with the range's proportions within a rectangle. */
 QRectF surfaceRect(const QRectF& place, const QVTabletArea& range);
 
-/** The point of the tablet that is shown at a place; beside the surface, the nearest of its edge.
- */
+/** Converts a widget position to tablet units; outside the surface, to the nearest edge. */
 QVTabletPoint toTablet(const QPointF& place, const QRectF& surface, const QVTabletArea& range);
 
-/** The place that shows a point of the tablet. */
+/** Converts a point of the tablet to a widget position. */
 QPointF toPlace(const QVTabletPoint& point, const QRectF& surface, const QVTabletArea& range);
 
 /**
  * Moves a point by steps of a hundredth of the range's width, within the range.
  *
- * @param right steps, negative ones to the left
- * @param down steps, negative ones up
+ * @param right number of steps, negative to the left
+ * @param down number of steps, negative upwards
  */
 QVTabletPoint moved(const QVTabletPoint& point, int right, int down, const QVTabletArea& range);
 
-/** The place that shows an area of the tablet, as far as it lies on the surface; maybe nothing. */
+/** Converts an area of the tablet, clipped to the surface, to the widget; may be empty. */
 QRectF areaRect(const QVTabletArea& area, const QRectF& surface, const QVTabletArea& range);

@@ -12,8 +12,8 @@ class Driver;
 using ModelNames = QMap<ushort, QString>;
 
 /**
- * What people and tests do with the simulated tablet, on the driver's own connection; every public
- * member is on the bus, under org.quorvia.TabletSimulator1.
+ * Controls the simulated tablet over D-Bus, for people and tests. All public members are exported,
+ * as org.quorvia.TabletSimulator1.
  */
 class TabletSimulator final : public QObject, protected QDBusContext {
     Q_OBJECT
@@ -27,33 +27,33 @@ public:
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     /** The models that can be attached. */
     ModelNames Models() const;
-    /** Attaches a model in place of any other; an error for an unknown product ID. */
+    /** Attaches a model, replacing any other; an error for an unknown product ID. */
     void Attach(ushort productID);
     void Detach();
     /** Product ID of the attached tablet; 0 for none. */
     ushort Attached() const;
-    /** The driver sleeps for so long before it handles each event; 0 ends it. */
+    /** Makes the driver sleep for this time before it handles each event; 0 turns it off. */
     void Stall(uint milliseconds);
     /**
-     * The pen touches a point, in tablet units, and is lifted; an error while no panel calibrates.
+     * Touches a point, in tablet units, with the pen and lifts it; an error if no panel calibrates.
      */
     void Tap(ushort x, ushort y);
-    /** Sets how many reports a tap makes in a second: 1 to 1000. */
+    /** Sets the reports per second of a tap, 1 to 1000. */
     void SetReportRate(uint perSecond);
-    /** How many pushes the driver has taken. */
+    /** Number of pushes accepted so far. */
     uint Pushes() const;
-    /** The bytes of the last push; none before the first. */
+    /** The bytes of the last push; empty before the first. */
     QByteArray LastRecord() const;
-    /** The same as "dictionary/entry" and "Key/slot/entry" with their values. */
+    /** The same record as values by entry: "dictionary/entry" and "Key/slot/entry". */
     QVariantMap LastRecordDecoded() const;
 
 Q_SIGNALS:
     void AttachedChanged(ushort productID);
-    /** A push was taken: the count so far. */
+    /** A push was accepted; count is the number so far. */
     void Pushed(uint count);
 
 private:
-    /** Answers the call with an error, unless it is empty. */
+    /** Replies with the error, unless it is empty. */
     void answer(const QString& error);
 
     Driver& mDriver;

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr qreal kMargin = 3; ///< around the surface, for the frame that shows the focus
+constexpr qreal kMargin = 3; ///< around the surface, for the focus frame
 constexpr qreal kRing = 6; ///< radius of the ring around the pen
 constexpr int kLargeSteps = 10;
 
@@ -30,7 +30,7 @@ QPointF placeOf(const QMouseEvent& event)
 #endif
 }
 
-/** A place in the middle of a pixel, so that a thin line covers one. */
+/** Moves a coordinate to the middle of a pixel, so that a thin line covers just one. */
 qreal crisp(qreal place)
 {
     return std::floor(place) + 0.5;
@@ -55,7 +55,7 @@ TabletSurface::TabletSurface(QWidget* parent)
 
 void TabletSurface::setTablet(const QVTabletArea& range)
 {
-    mHeldBy = Holder::Nobody; // a tablet that is pulled out reports no lift
+    mHeldBy = Holder::Nobody; // a tablet that is disconnected reports no lift
     if (mRange != range) {
         mRange = range;
         mPen = middle(range);
@@ -100,7 +100,7 @@ QString TabletSurface::spokenContents() const
 
 QSize TabletSurface::sizeHint() const
 {
-    // Whatever settings say of a tablet, its window has to fit on a screen.
+    // Whatever range the settings contain, the window has to fit on a screen.
     constexpr QSize kLargest{480, 480};
     constexpr QSize kSmallest{60, 60};
     const QSize range(
@@ -123,7 +123,7 @@ void TabletSurface::paintEvent(QPaintEvent* event)
         QPointF(crisp(outer.right() - 1), crisp(outer.bottom() - 1)));
     const QColor text = palette().color(QPalette::Text);
     QColor line = text;
-    line.setAlphaF(0.6F); // fainter than the pen, and still to be seen in every theme
+    line.setAlphaF(0.6F); // fainter than the pen, but visible in every theme
     painter.setPen(QPen(line, 1));
     painter.setBrush(palette().base());
     painter.drawRect(sheet);
@@ -224,7 +224,7 @@ void TabletSurface::focusInEvent(QFocusEvent* event)
 void TabletSurface::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
-    release(Holder::SpaceBar); // its release goes elsewhere
+    release(Holder::SpaceBar); // its release goes to another widget
     update();
 }
 

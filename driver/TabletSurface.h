@@ -10,9 +10,9 @@
 #include <optional>
 
 /**
- * The surface of a tablet, with a cross where the pen is. Where the mouse goes, the pen goes;
- * pressing its left button is the tip going down. So do the arrow keys and the space bar, while the
- * surface has the focus. A pen that leaves the surface while it is down slides along its edge.
+ * The surface of a tablet, with a cross at the position of the pen. The pen follows the mouse, and
+ * the left button presses its tip down. With the keyboard focus, the arrow keys and the space bar
+ * do the same. If the pen leaves the surface while it is down, it slides along the edge.
  */
 class TabletSurface final : public QWidget, public platform::Accessible {
     Q_OBJECT
@@ -20,23 +20,23 @@ class TabletSurface final : public QWidget, public platform::Accessible {
 public:
     explicit TabletSurface(QWidget* parent);
 
-    /** Shows a tablet; the pen is up and, with another range, in the middle. */
+    /** Shows a tablet, with the pen up; a different range puts it into the middle. */
     void setTablet(const QVTabletArea& range);
-    /** Changes the range of the same tablet; the pen stays as it is. */
+    /** Changes the range of the same tablet; the pen does not change. */
     void setRange(const QVTabletArea& range);
-    /** Draws a frame around the area that covers the screen; nothing for none. */
+    /** Draws a frame around the area that covers the screen, if any. */
     void setMapped(const std::optional<QVTabletArea>& area);
-    /** Shows the pen elsewhere, unless it is held here. */
+    /** Shows the pen at a point, unless it is held here. */
     void showPen(const QVTabletPoint& pen);
 
     const QVTabletArea& range() const { return mRange; }
-    /** Where the pen is. */
+    /** Position of the pen. */
     const QVTabletPoint& pen() const { return mPen; }
     bool isPenDown() const { return mHeldBy != Holder::Nobody; }
-    /** The surface, in this widget. */
+    /** The surface's rectangle in this widget. */
     QRectF surface() const;
 
-    /** What the pen does. */
+    /** Describes the pen: up or down, and where. */
     QString spokenContents() const override;
 
     QSize sizeHint() const override;
@@ -46,7 +46,7 @@ Q_SIGNALS:
     void penDown(ushort x, ushort y);
     void penDragged(ushort x, ushort y);
     void penUp();
-    /** The pen is elsewhere, or has come down or up. */
+    /** The pen has moved, or its tip has gone down or up. */
     void penChanged();
 
 protected:
@@ -61,7 +61,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    /** What holds the pen down; what does not hold it cannot move or lift it. */
+    /** What holds the pen down; nothing else can move or lift it meanwhile. */
     enum class Holder : std::uint8_t { Nobody, Mouse, SpaceBar };
 
     void hold(Holder holder);

@@ -32,11 +32,11 @@ constexpr int kKeyHeight = 40; ///< at most
 constexpr int kStripHeight = 80; ///< at most
 constexpr int kGroupGap = 8;
 constexpr QSize kUsualSize{620, 580};
-constexpr int kUsualLine = 32; ///< the usual width in heights of a line, for large letters
-constexpr int kLeastModelName = 9; ///< letters of a model's name that are always to be seen
-constexpr int kToldLines = 2; ///< that a text may take; a longer one is shortened
+constexpr int kUsualLine = 32; ///< the usual width in line heights, for large fonts
+constexpr int kLeastModelName = 9; ///< characters of a model's name that are always visible
+constexpr int kToldLines = 2; ///< maximum lines of a text; a longer one is elided
 
-/** How the keys of a layout lie one below the other; a 0 stands for the strip. */
+/** The groups of keys of a layout, from top to bottom; a 0 stands for the strip. */
 std::vector<int> keyGroups(QVKeyLayout layout)
 {
     switch (layout) {
@@ -62,7 +62,7 @@ Label* valueLabel(QFormLayout& form, const QString& name)
 {
     auto* const value = new Label;
     value->setWordWrap(true);
-    value->setMinimumWidth(1); // a path may have no place to wrap, and must not widen the window
+    value->setMinimumWidth(1); // a path may not wrap, and must not widen the window
     form.addRow(name, value);
     return value;
 }
@@ -76,7 +76,7 @@ QToolButton* keyButton(const QString& text, const QString& name)
     return button;
 }
 
-/** Of the settings' screen area, which counts from the main display's upper left corner. */
+/** The settings' screen area, relative to the main display's upper left corner. */
 QRect screenArea(const tagQVTabletInfo& settings)
 {
     const QScreen* const main = QGuiApplication::primaryScreen();
@@ -88,8 +88,8 @@ QRect screenArea(const tagQVTabletInfo& settings)
 } // namespace
 
 /**
- * What a key does. A path that is too long loses its middle, since its end is what tells; screen
- * readers and the tooltip have it whole.
+ * Shows a key's action. A path that is too long is elided in the middle, since its end matters;
+ * screen readers and the tooltip get all of it.
  */
 class TabletWindow::ToldLabel final : public QLabel {
 public:
@@ -141,13 +141,13 @@ TabletWindow::TabletWindow(Driver& driver)
     auto* const label = new QLabel(tr("&Tablet:"));
     label->setBuddy(mModels);
     mTop->addWidget(label);
-    // With large letters, the pen's buttons need room beside it.
+    // With large fonts, the pen's buttons need room beside it.
     mModels->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     mModels->setMinimumContentsLength(kLeastModelName);
     mTop->addWidget(mModels, 1);
 
     auto* const body = new QFrame;
-    body->setLayoutDirection(Qt::LeftToRight); // the keys are where they are, in every language
+    body->setLayoutDirection(Qt::LeftToRight); // the keys are not mirrored in any language
     body->setFrameShape(QFrame::StyledPanel);
     body->setLayout(mBody);
     mBody->addWidget(mSurface, 1);
@@ -298,7 +298,7 @@ void TabletWindow::addPenButtons(const QVTabletModel& model)
     for (std::size_t i = 0; i < std::min<std::size_t>(model.penButtons, names.size()); ++i) {
         addButton(*row, names[i], names[i], kPenUpper + i);
     }
-    mTop->addWidget(mPenButtons); // not in a row of its own: a small screen has none to spare
+    mTop->addWidget(mPenButtons); // saves a row on small screens
 }
 
 void TabletWindow::addButton(
@@ -306,7 +306,7 @@ void TabletWindow::addButton(
 {
     QToolButton* const button = keyButton(text, name);
     if (slot < kPenUpper) {
-        // All of them have to find room, so none takes more than its number needs.
+        // All of them have to fit, so each takes only the room for its number.
         button->setMinimumSize(kKeyWidth, button->fontMetrics().height());
         button->setMaximumHeight(std::max(kKeyHeight, button->minimumHeight()));
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -387,8 +387,8 @@ void TabletWindow::liftAboveCalibration()
     if (windowHandle() == nullptr) {
         return;
     }
-    // The panel covers the display that it calibrates, and stays on top of it; with a single
-    // display there would be no way to this window.
+    // The panel covers the display that it calibrates and stays on top; with a single display, this
+    // window could not be reached.
     const std::optional<tagQVTabletInfo> known = settings();
     const bool isCovered =
         mDriver.isCalibrating() && known && screenArea(*known).intersects(frameGeometry());

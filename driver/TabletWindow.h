@@ -18,8 +18,8 @@ class TabletSurface;
 struct QVTabletModel;
 
 /**
- * The simulated tablet in a window: its surface to be touched with mouse or keyboard, its keys,
- * and what of it reaches the panel. Follows the driver, whoever attaches or detaches a tablet.
+ * The window of the simulated tablet: its surface, to be used with mouse or keyboard, its keys, and
+ * what the panel gets of it. Follows the driver when any program attaches or detaches a tablet.
  */
 class TabletWindow final : public QWidget, public platform::Accessible {
     Q_OBJECT
@@ -28,11 +28,11 @@ public:
     /** @param driver must live longer than the window */
     explicit TabletWindow(Driver& driver);
 
-    /** How large the window opens on a screen with so much room, its frame not counted. */
+    /** The size to open with, given the space on the screen, without the frame. */
     QSize usualSize(const QSize& available) const;
 
 Q_SIGNALS:
-    /** Somebody has closed the window. */
+    /** The user has closed the window. */
     void closed();
 
 protected:
@@ -48,18 +48,20 @@ private:
     void showPen();
     void addKeys(const QVTabletModel& model);
     void addPenButtons(const QVTabletModel& model);
-    /** Adds a button that tells, when it is pressed, what the settings say it does. */
+    /** Adds a button that shows its action in the settings when it is pressed. */
     void addButton(QLayout& layout, const QString& text, const QString& name, std::size_t slot);
     void addStrip(std::size_t strip);
     void tell(const QString& name, const QString& action);
     const QVTabletModel* model() const;
-    /** The settings that the attached tablet got; nothing before, and with those of another. */
+    /**
+     * The attached tablet's settings; nothing before a push, or if they belong to another tablet.
+     */
     std::optional<tagQVTabletInfo> settings() const;
     void liftAboveCalibration();
 
     Driver& mDriver;
     QComboBox* mModels;
-    QWidget* mTablet; ///< all that is shown of a tablet
+    QWidget* mTablet; ///< contains all that depends on the tablet
     QWidget* mKeys = nullptr;
     QWidget* mPenButtons = nullptr;
     TabletSurface* mSurface;

@@ -33,7 +33,7 @@ int fail(const QString& why)
     return kFailure;
 }
 
-/** Whether the words ask for a window, and not only for something to be printed. */
+/** Whether the arguments ask for a window, and not just for printed output. */
 bool wantsWindow(std::span<char*> words)
 {
     bool isWanted = false;
@@ -48,7 +48,7 @@ bool wantsWindow(std::span<char*> words)
     return isWanted;
 }
 
-/** Qt ends a program that finds no display with abort(), which looks like a fault of its own. */
+/** Without a display, Qt calls abort(), which would look like a crash. */
 void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     static_cast<void>(context);
@@ -59,7 +59,9 @@ void endWithoutDisplay(QtMsgType type, const QMessageLogContext& context, const 
     std::fprintf(stderr, "%s\n", qUtf8Printable(message));
 }
 
-/** With windows only where one is wanted, since the bus starts the driver also without a display.
+/**
+ * A QApplication only if a window is wanted, since the bus also starts the driver without a
+ * display.
  */
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, bool hasWindow)
 {
@@ -69,14 +71,14 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, bool h
     const QtMessageHandler before = qInstallMessageHandler(endWithoutDisplay);
     auto application = std::make_unique<QApplication>(argc, argv);
     qInstallMessageHandler(before);
-    QGuiApplication::setQuitOnLastWindowClosed(false); // the window says itself what it ends
+    QGuiApplication::setQuitOnLastWindowClosed(false); // the window decides what its closing ends
     QGuiApplication::setDesktopFileName(QStringLiteral("org.quorvia.tdsg-driver"));
     QGuiApplication::setWindowIcon(QIcon::fromTheme(
         QGuiApplication::desktopFileName(), QIcon::fromTheme(QStringLiteral("input-tablet"))));
     return application;
 }
 
-/** Has the window's texts in the user's language. What is printed stays English. */
+/** Translates the window's texts into the user's language. Printed output stays English. */
 void translateWindow(QTranslator& translator)
 {
     const QDir folder(QCoreApplication::applicationDirPath());
@@ -139,8 +141,8 @@ int main(int argc, char* argv[])
     TabletSimulator simulator(driver);
     bus.registerObject(QLatin1String(TabletSimulator::kObjectPath), &simulator,
         QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
-    // Whoever does not get the name leaves the user's files alone. What arrives from here on waits
-    // for the event loop.
+    // Without the name, the user's files are left alone. Events that arrive from here on wait for
+    // the event loop.
     QString error = events.registerApplication(kQVDriverSignature);
     if (error.isEmpty()) {
         error = driver.start(productID);
@@ -148,17 +150,17 @@ int main(int argc, char* argv[])
     if (!error.isEmpty()) {
         return fail(error);
     }
-    // That the driver itself has come, the bus tells.
+    // The bus itself announces that the driver has appeared.
     QObject::connect(&driver, &Driver::attachedChanged, application.get(),
         [&events] { events.announceChange(); });
     const platform::UnixSignals signals({SIGTERM, SIGINT, SIGHUP});
     const auto end = [] {
-        // What has already arrived is handled before the driver goes.
+        // Handle what has already arrived before exiting.
         QCoreApplication::processEvents();
         QCoreApplication::quit();
     };
     QObject::connect(&signals, &platform::UnixSignals::received, application.get(), end);
-    // Without its bus, nobody can reach the driver any more.
+    // Without its bus, the driver cannot be reached any longer.
     bus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
         application.get(), SLOT(quit()));
@@ -171,7 +173,7 @@ int main(int argc, char* argv[])
             window.get(), &TabletWindow::closed, application.get(), end, Qt::QueuedConnection);
         window->show();
     }
-    say(QStringLiteral("ready")); // for what may end it, too
+    say(QStringLiteral("ready")); // also to receive signals
     const int result = hasWindow ? QApplication::exec() : QCoreApplication::exec();
     driver.saveState();
     say(QStringLiteral("ended"));
