@@ -8,17 +8,17 @@
 
 #include <memory>
 
-/** A pane, or why there is none. */
+/** The result of loadPane(). */
 struct LoadedPane {
     std::unique_ptr<platform::PreferencePane> pane;
-    QString error; ///< for people; empty when there is a pane
-    platform::Bundle bundle; ///< the module's, with or without a pane
+    QString error; ///< for the user; empty on success
+    platform::Bundle bundle; ///< the module's, even if there is no pane
 };
 
 /**
- * Loads a module's plug-in and makes a pane of it, initialised with its bundle.
+ * Loads a module's plug-in and creates its pane, initialised with its bundle.
  *
  * @param modulePath the plug-in's file
- * @param resourcesPath the bundle's folder, seen from the plug-in's
+ * @param resourcesPath the bundle's folder, relative to the plug-in's
  */
 LoadedPane loadPane(const QString& modulePath, const QString& resourcesPath);

@@ -29,14 +29,14 @@ PaneShell::PaneShell(std::unique_ptr<Pane> pane, Host host, QWidget* parent)
         auto* const scroll = new QScrollArea;
         scroll->setFrameShape(QFrame::NoFrame);
         scroll->setWidgetResizable(true);
-        scroll->setFocusPolicy(Qt::NoFocus); // it follows the focus of what is in it
+        scroll->setFocusPolicy(Qt::NoFocus); // it scrolls to the focused control
         scroll->setWidget(contents);
         contents = scroll;
     }
     layout->addWidget(contents, 1);
     layout->addWidget(mBottom);
     auto* const bottom = new QHBoxLayout(mBottom);
-    // At the sides as far in as the pages, of which the pane's own margins are below.
+    // Align the sides with the pages; the pane's own margins are below.
     bottom->setContentsMargins(bottom->contentsMargins().left(), 0,
         bottom->contentsMargins().right(), bottom->contentsMargins().bottom());
     if (host == Host::Window) {
@@ -79,7 +79,7 @@ void PaneShell::makeNotice()
     connect(mMend, &QPushButton::clicked, this, &PaneShell::mend);
     auto* const row = static_cast<QHBoxLayout*>(mBottom->layout()); // NOLINT(*-downcast): made so
     if (mSave != nullptr) {
-        delete row->takeAt(0); // the line takes the room that was left free
+        delete row->takeAt(0); // the line takes the place of the stretch
     }
     row->insertWidget(0, mNoticeLabel, 1);
     row->insertWidget(1, mMend);
@@ -109,7 +109,8 @@ int PaneShell::bottomHeight() const
     return mBottom->sizeHint().height();
 }
 
-// Coming and leaving ------------------------------------------------------------------------------
+// Selecting and leaving
+// ------------------------------------------------------------------------------
 
 void PaneShell::willSelect()
 {
@@ -132,7 +133,7 @@ QString PaneShell::willUnselect()
 {
     const bool hasChanges = mPane->hasDevice() && mPane->hasChanges();
     if (!mNotLoaded.isEmpty() && !hasChanges) {
-        load(); // else a file that has been mended meanwhile would get what is not its own
+        load(); // otherwise a file repaired meanwhile would be overwritten with foreign settings
     }
     mNotSaved.clear();
     mPane->willUnselect();
@@ -147,7 +148,7 @@ void PaneShell::didUnselect()
 
 void PaneShell::end()
 {
-    mPane->setNewsHandler(nullptr); // nobody would see the line any more
+    mPane->setNewsHandler(nullptr); // the line is no longer visible
     if (std::exchange(mIsSelected, false)) {
         mPane->willUnselect();
         mPane->didUnselect();
@@ -165,7 +166,7 @@ void PaneShell::showAnew()
 
 void PaneShell::comeAgain()
 {
-    view().hide(); // what is shown again is drawn again
+    view().hide(); // showing it again redraws it
     didUnselect();
     willSelect();
     view().show();
@@ -175,13 +176,13 @@ void PaneShell::comeAgain()
 void PaneShell::load()
 {
     closeDialogs();
-    // Without leaving the pane, which would save what could not be loaded.
+    // Do not leave the pane, which would save what could not be loaded.
     comeAgain();
 }
 
 void PaneShell::closeDialogs() const
 {
-    // What is asked there is of the tablet that has gone.
+    // These dialogs are about the tablet that has gone.
     for (QWidget* widget = QApplication::activeModalWidget(); widget != nullptr;
          widget = QApplication::activeModalWidget()) {
         const QWidget* ancestor = widget;
@@ -194,14 +195,14 @@ void PaneShell::closeDialogs() const
         }
         dialog->reject();
         if (dialog->isVisible()) {
-            return; // it does not let itself be closed
+            return; // it refuses to close
         }
     }
 }
 
 PaneShell::Unsaved PaneShell::askAboutUnsaved(const QString& why, bool canStay)
 {
-    // Its parent may end before the user answers, and takes it along.
+    // Its parent may be destroyed, and the message box with it, before the user answers.
     const QPointer<QMessageBox> question = new QMessageBox(QMessageBox::Warning, windowTitle(),
         tr("The tablet's settings could not be saved: %1").arg(why),
         QMessageBox::Retry | QMessageBox::Discard, window());
@@ -268,7 +269,7 @@ void PaneShell::take(Pane::News news, const QString& text)
         break;
     case Pane::News::Saved:
         mNotSaved.clear();
-        mNotLoaded.clear(); // the file now says what the pages show
+        mNotLoaded.clear(); // the file now matches the pages
         break;
     case Pane::News::NotSaved:
         mNotSaved = text;
@@ -340,13 +341,13 @@ void PaneShell::showNotice()
     }
     if (mNoticeLabel != nullptr && text != mNoticeLabel->text()) {
         const bool hadFocus = mMend->hasFocus();
-        mNoticeLabel->hide(); // only what appears is read out
+        mNoticeLabel->hide(); // screen readers announce only what appears
         mNoticeLabel->setText(text);
         mNoticeLabel->setVisible(!text.isEmpty());
         mMend->setText(button);
         mMend->setVisible(!button.isEmpty());
         if (hadFocus && button.isEmpty()) {
-            mPane->didSelect(); // back to where the pane's focus begins
+            mPane->didSelect(); // the focus goes back to the pane's first control
         }
     }
     mBottom->setVisible(!text.isEmpty() || (mSave != nullptr && mPane->hasDevice()));
@@ -392,7 +393,7 @@ void PaneShell::sendAgain()
 
 void PaneShell::followSoon()
 {
-    // A driver that comes may be told of in more than one way, and is asked once.
+    // A new driver may be announced more than once, but is asked only once.
     if (mIsSelected && !std::exchange(mIsFollowing, true)) {
         QMetaObject::invokeMethod(this, &PaneShell::followDevice, Qt::QueuedConnection);
     }
@@ -407,11 +408,11 @@ void PaneShell::followDevice()
     mIsUnsure = false;
     switch (mPane->checkDevice()) {
     case Pane::Device::Unknown:
-        mIsUnsure = true; // it is asked again when it takes something
+        mIsUnsure = true; // it is asked again when it accepts a push
         break;
     case Pane::Device::Same:
         if (!mNotLoaded.isEmpty()) {
-            load(); // a driver that comes may have brought the file
+            load(); // the driver may have created the file
         }
         break;
     case Pane::Device::Other:

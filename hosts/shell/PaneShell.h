@@ -17,22 +17,22 @@ class NoticeLabel;
 }
 
 /**
- * What every host puts around the pane: a line that says what has gone wrong, with a button that
- * mends it, and, in a window of our own, scroll bars and the buttons Save and Cancel.
+ * What every host puts around the pane: a line that reports a problem, with a button that fixes it,
+ * and, in our own window, scroll bars and the buttons Save and Cancel.
  *
- * The pane itself reports and repeats nothing. The shell hears its news, and leaves the pane and
- * shows it anew when the driver has another tablet, or when the user goes back to the saved
- * settings. Of its own accord and for "Send Again" it sends a driver nothing that has not said,
- * just before, that it has the same tablet.
+ * The pane itself reports no failures and retries nothing. The shell listens to its news, and
+ * leaves and reshows the pane when the driver has another tablet, or when the user goes back to the
+ * saved settings. Before it sends anything, on its own or for "Send Again", it checks that the
+ * driver still has the same tablet.
  *
- * The host calls willSelect(), didSelect(), willUnselect() and didUnselect() as it would call the
- * pane's own.
+ * The host calls willSelect(), didSelect(), willUnselect() and didUnselect() here instead of on the
+ * pane.
  */
 class PaneShell final : public QWidget {
     Q_OBJECT
 
 public:
-    /** Who shows the shell. */
+    /** What kind of host shows the shell. */
     enum class Host : std::uint8_t {
         Window, ///< has no buttons for save() and cancel(), and no scroll bars
         SettingsApplication, ///< has both
@@ -46,18 +46,18 @@ public:
     PaneShell(PaneShell&&) = delete;
     PaneShell& operator=(PaneShell&&) = delete;
 
-    /** Takes what is called each time hasChanges() may have another answer. */
+    /** Sets the function to call when the result of hasChanges() may have changed. */
     void setChangeHandler(std::function<void()> handler);
-    /** Whether there is something that save() would make permanent and cancel() give up. */
+    /** Whether there is anything to save() or cancel(). */
     bool hasChanges() const;
 
     /** The pane's main view. */
     QWidget& view() const;
 
-    /** How much height the line and the buttons need below the pane, in pixels. */
+    /** The height of the line and the buttons below the pane, in pixels. */
     int bottomHeight() const;
 
-    /** Whether the pane has been selected and not unselected since. */
+    /** Whether the pane is selected. */
     bool isSelected() const { return mIsSelected; }
 
     void willSelect();
@@ -65,27 +65,27 @@ public:
     /**
      * Has the pane save its settings.
      *
-     * @return why the user's changes could not be saved; empty when none are lost
+     * @return why the user's changes could not be saved; empty if none are lost
      */
     QString willUnselect();
     void didUnselect();
-    /** Leaves a pane that is still selected, because the shell is about to go. */
+    /** Leaves the pane if it is still selected, before the shell is destroyed. */
     void end();
 
-    /** What to do about changes that could not be saved. */
+    /** What to do with changes that could not be saved. */
     enum class Unsaved : std::uint8_t { TryAgain, Discard, Stay };
     /**
-     * Asks the user, who may answer after the shell has gone.
+     * Asks the user. The shell may be destroyed before the answer.
      *
      * @param why from willUnselect()
-     * @param canStay whether the host can still go back to where it was; without an answer, it
-     *     does so if it can, and else discards
+     * @param canStay whether the host can still go back; without an answer, the result is then
+     *     Stay, otherwise Discard
      */
     Unsaved askAboutUnsaved(const QString& why, bool canStay);
 
-    /** Makes the settings permanent. */
+    /** Saves the settings. */
     void save();
-    /** Goes back to the saved settings, and shows the pane anew so that its controls follow. */
+    /** Goes back to the saved settings, and reshows the pane so that its controls match. */
     void cancel();
     /** Goes back to the saved settings just before the pane is left. */
     void giveUp();
@@ -93,7 +93,7 @@ public:
 private:
     using Pane = platform::PreferencePane;
 
-    /** What the line says; the first that holds is shown. */
+    /** What the line says; the first that applies is shown. */
     enum class Notice : std::uint8_t { NotSaved, NotKept, NotLoaded, NotTaken, None };
 
     void makeButtons();
@@ -113,16 +113,16 @@ private:
 
     std::unique_ptr<Pane> mPane;
     bool mIsSelected = false;
-    QString mNotSaved; ///< why the last save failed; empty when it did not
-    QString mNotKept; ///< why the former tablet's changes were lost; empty when none were
-    QString mNotLoaded; ///< why the settings could not be read; empty when they were
-    bool mIsNotTaken = false; ///< the driver has not taken the last change
+    QString mNotSaved; ///< why the last save failed; empty on success
+    QString mNotKept; ///< why the former tablet's changes were lost; empty if none were
+    QString mNotLoaded; ///< why the settings could not be read; empty on success
+    bool mIsNotTaken = false; ///< the driver has not accepted the last change
     bool mIsFollowing = false; ///< followDevice() will be called soon
-    bool mIsUnsure = false; ///< a driver has come that did not say which tablet it has
+    bool mIsUnsure = false; ///< a new driver did not say which tablet it has
 
     QWidget* mBottom = nullptr; ///< the line and the buttons
-    platform::NoticeLabel* mNoticeLabel = nullptr; ///< null before there was anything to say
+    platform::NoticeLabel* mNoticeLabel = nullptr; ///< null until the first notice
     QPushButton* mMend = nullptr;
-    QPushButton* mSave = nullptr; ///< null where the host has one
+    QPushButton* mSave = nullptr; ///< null if the host has its own
     QPushButton* mCancel = nullptr;
 };

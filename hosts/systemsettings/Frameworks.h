@@ -8,13 +8,13 @@
 
 /**
  * @file
- * What a module of settings is in KDE Frameworks 5 and in 6: in 5 it is the widget that the host
- * shows, in 6 it has one.
+ * The differences of a settings module between KDE Frameworks 5 and 6: in 5 it is the widget that
+ * the host shows, in 6 it has one.
  */
 
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
 #include <QVariantList>
-/** What a host gives a module's constructor: a parent, and more. */
+/** The type of a module's parent in its constructor. */
 using ModuleParent = QWidget;
 using ModuleArguments = QVariantList;
 

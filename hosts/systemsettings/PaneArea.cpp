@@ -18,9 +18,9 @@ PaneArea::PaneArea(std::unique_ptr<platform::PreferencePane> pane, QWidget* pare
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(mShell);
     mShell->setChangeHandler([this] { tell(); });
-    // A host that rearranges its window hides what it shows again a moment later.
+    // A host that rearranges its window hides the area and shows it again a moment later.
     connect(this, &PaneArea::hidden, this, &PaneArea::unselectWhereHidden, Qt::QueuedConnection);
-    // Once it has called, a host takes the settings for saved without a look at the outcome.
+    // After the call, a host assumes that the settings are saved, without checking the result.
     connect(this, &PaneArea::served, this, &PaneArea::tell, Qt::QueuedConnection);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &PaneArea::unselect);
 }
@@ -51,13 +51,13 @@ void PaneArea::unselect()
     const QPointer<PaneArea> area(this);
     for (;;) {
         const QString why = mShell->willUnselect();
-        // Logging out must not be held up.
+        // Do not delay a logout.
         if (why.isEmpty() || qGuiApp->isSavingSession()) {
             break;
         }
         const PaneShell::Unsaved answer = mShell->askAboutUnsaved(why, false);
         if (area.isNull() || !mShell->isSelected()) {
-            return; // the host has gone on while the user was asked
+            return; // the host has moved on while the user was asked
         }
         if (answer == PaneShell::Unsaved::Discard) {
             mShell->giveUp();
@@ -100,7 +100,7 @@ void PaneArea::showEvent(QShowEvent* event)
     if (isComing) {
         mShell->didSelect();
         if (const auto* const dialog = qobject_cast<QDialog*>(window())) {
-            // It tells right after it has hidden itself, and so before the pane is left.
+            // The dialog emits this right after it has hidden itself, so before the pane is left.
             connect(dialog, &QDialog::rejected, mShell, &PaneShell::giveUp, Qt::UniqueConnection);
         }
     }

@@ -10,19 +10,19 @@
 #include <memory>
 
 /**
- * Where a settings application shows the pane. Such a host does not tell when the user comes to a
- * module and leaves it: it shows and hides widgets, some of them several times on the way. So the
- * pane is selected when the area is first shown, and unselected
- * - when the area has been hidden and nobody has shown it again once the host is done,
+ * The widget in which a settings application shows the pane. Such a host does not say when the user
+ * enters or leaves a module: it shows and hides widgets, some of them several times in between. So
+ * the pane is selected when the area is first shown, and unselected
+ * - when the area is hidden and not shown again by the time the host is done,
  * - when the area is destroyed, or
  * - when the application ends.
  *
- * A window that is minimised is not left.
+ * Minimising the window does not leave the pane.
  *
- * Leaving the pane saves it. A host that asks the user beforehand calls apply() or reset(). One
- * that does not ask, but shows the module in a dialog, has the user's answer when the dialog is
- * rejected: the changes are given up. Where changes cannot be saved when the pane is left, the user
- * is asked whether to try again, since by then nothing of the module can be seen.
+ * Leaving the pane saves it. A host that asks the user first calls apply() or reset(). If a host
+ * does not ask, but shows the module in a dialog, rejecting the dialog discards the changes. If the
+ * changes cannot be saved when the pane is left, the user is asked whether to try again, since the
+ * module is no longer visible then.
  */
 class PaneArea final : public QWidget {
     Q_OBJECT
@@ -35,22 +35,19 @@ public:
     PaneArea(PaneArea&&) = delete;
     PaneArea& operator=(PaneArea&&) = delete;
 
-    /** Takes what is told each time whether there is something to apply or to reset. */
+    /** Sets the function that is told whether there is anything to apply or reset. */
     void setChangeHandler(std::function<void(bool)> handler);
 
-    /** Makes the pane's settings permanent. */
+    /** Saves the pane's settings. */
     void apply();
 
-    /**
-     * Gives up what has changed; the pane is left and shown anew, so that its controls follow.
-     * Where nothing has changed there is nothing to do.
-     */
+    /** Discards the changes, if any; the pane is left and reshown, so that its controls match. */
     void reset();
 
 Q_SIGNALS:
-    /** The host has hidden the area, perhaps only to show it again at once. */
+    /** The host has hidden the area, possibly for just a moment. */
     void hidden();
-    /** The host has asked for apply() or reset(), and that is done. */
+    /** A call of apply() or reset() by the host is done. */
     void served();
 
 protected:

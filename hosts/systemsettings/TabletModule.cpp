@@ -48,7 +48,7 @@ TabletModule::TabletModule(ModuleParent* parent, const ModuleArguments& argument
         layout->addWidget(label);
         return;
     }
-    setButtons(Apply); // and with it Reset
+    setButtons(Apply); // includes Reset
     mArea = new PaneArea(std::move(loaded.pane), &widget);
     mArea->setChangeHandler([this](bool isChanged) { unmanagedWidgetChangeState(isChanged); });
     layout->addWidget(mArea);
@@ -57,7 +57,7 @@ TabletModule::TabletModule(ModuleParent* parent, const ModuleArguments& argument
 TabletModule::~TabletModule()
 {
     if (mArea != nullptr) {
-        mArea->setChangeHandler(nullptr); // where it is still there, it goes later than this
+        mArea->setChangeHandler(nullptr); // it may be destroyed later than this
     }
 }
 

@@ -9,8 +9,8 @@
 
 /**
  * The module that System Settings loads: the pane with the host's buttons. Apply is the pane's
- * Save, Reset its Cancel, and there is something to do for them while the record and the file
- * differ. Where the pane cannot be loaded, the module says why.
+ * Save, Reset its Cancel; they are enabled while the record and the file differ. If the pane cannot
+ * be loaded, the module says why.
  */
 class TabletModule final : public KCModule {
     Q_OBJECT
@@ -29,5 +29,5 @@ public:
     void save() override;
 
 private:
-    QPointer<PaneArea> mArea; ///< null where the pane cannot be loaded
+    QPointer<PaneArea> mArea; ///< null if the pane cannot be loaded
 };

@@ -34,7 +34,7 @@ QSize PaneWindow::naturalSize() const
 
 QSize PaneWindow::roomOnScreen() const
 {
-    // The frame, which the window system adds later, has a title in about the font of the desktop.
+    // The window system adds the frame later; its title is about two lines high.
     const int title = 2 * fontMetrics().height();
     const int edge = fontMetrics().height() / 2;
     return screen()->availableSize() - QSize(2 * edge, title + edge);
@@ -63,7 +63,7 @@ void PaneWindow::closeEvent(QCloseEvent* event)
     }
     for (;;) {
         const QString why = mShell->willUnselect();
-        // Logging out must not be held up.
+        // Do not delay a logout.
         if (why.isEmpty() || qGuiApp->isSavingSession()) {
             break;
         }
@@ -97,11 +97,11 @@ QStringList PaneWindow::render(const QString& folder)
     QStringList files;
     const auto save = [&](const QString& name) {
         const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
-        // A picture has room for all of it, unlike a screen.
+        // Unlike a screen, a picture has room for everything.
         resize(naturalSize().expandedTo(
             mShell->view().minimumSizeHint() + QSize(0, mShell->bottomHeight())));
-        // A window that is never shown is laid out for its picture. What it posts then lets go of a
-        // scroll bar that it has no need for, one by one.
+        // A hidden window is laid out only for its picture. Each round of posted events removes one
+        // scroll bar that is not needed.
         for (int bar = 0; bar < 2; ++bar) {
             grab();
             QCoreApplication::sendPostedEvents();

@@ -15,9 +15,9 @@ class PreferencePane;
 }
 
 /**
- * A window that hosts one pane. It calls the pane's callbacks in the order that every host keeps:
- * main view loaded, will select, (shown,) did select; when it closes, will unselect, (hidden,) did
- * unselect. It fits on the screen, frame included, and scrolls what has no room.
+ * A window that hosts one pane. It calls the pane's callbacks in the order of every host: main view
+ * loaded, will select, (shown,) did select; when it closes, will unselect, (hidden,) did unselect.
+ * It fits on the screen with its frame, and scrolls if necessary.
  */
 class PaneWindow final : public QMainWindow {
     Q_OBJECT
@@ -33,30 +33,29 @@ public:
     /** Shows the pane. */
     void select();
 
-    /** Hides the pane, which then saves; a second call does nothing. */
+    /** Hides the pane, which saves; a second call does nothing. */
     void unselect();
 
     /**
-     * Writes a picture of each of the pane's pages into the folder, named after the page, and of
-     * the whole pane where it shows no pages. The pane is shown but never left, so nothing is
-     * saved.
+     * Writes a picture of each of the pane's pages to the folder, named after the page, or of the
+     * whole pane if it has no pages. The pane is shown but never left, so nothing is saved.
      *
-     * @return the files; empty when one could not be written
+     * @return the files; empty if one could not be written
      */
     QStringList render(const QString& folder);
 
-    /** Whether the pane shows pages, as it does with a tablet. */
+    /** Whether the pane has pages, as it does with a tablet. */
     bool hasPages() const;
 
 protected:
-    /** Leaves the pane. Where the changes cannot be saved, asks whether to lose them. */
+    /** Leaves the pane. If the changes cannot be saved, asks whether to discard them. */
     void closeEvent(QCloseEvent* event) override;
 
 private:
     QTabWidget* pages() const;
-    /** In which nothing of the pane has to scroll. */
+    /** The size at which nothing has to scroll. */
     QSize naturalSize() const;
-    /** What the screen has room for, the window's frame taken off. */
+    /** The space on the screen, without the window's frame. */
     QSize roomOnScreen() const;
 
     PaneShell* mShell;

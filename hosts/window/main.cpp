@@ -28,14 +28,14 @@ void say(FILE* stream, const QString& text)
     std::fprintf(stream, "%s\n", qUtf8Printable(text));
 }
 
-/** Whether there is a window system, or the user has named Qt's plug-in for one. */
+/** Whether there is a window system, or the user has selected a platform plug-in. */
 bool hasDisplay()
 {
     return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
         || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
-/** The pane without a tablet: the same program, on a bus that is not there, finds none. */
+/** Renders the pane without a tablet: the same program finds none without a bus. */
 bool renderWithoutTablet(const QString& folder)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
@@ -66,7 +66,7 @@ int render(PaneWindow& window, const QString& folder)
     return 0;
 }
 
-/** Qt's own texts, as those of its standard buttons, in the language of the panel's. */
+/** Loads Qt's own texts, such as those of standard buttons, in the panel's language. */
 bool loadQtTexts(QTranslator& translator, const platform::Bundle& panel)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
@@ -74,8 +74,7 @@ bool loadQtTexts(QTranslator& translator, const platform::Bundle& panel)
 #else
     const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
 #endif
-    // Qt names its files as locales: zh_CN for zh-Hans. What has none for a place has the
-    // language's.
+    // Qt names its files after locales: zh_CN for zh-Hans. Some exist only for the language.
     const QLocale locale(panel.preferredLocalization());
     return translator.load(QStringLiteral("qtbase_") + locale.name(), folder);
 }
@@ -135,7 +134,7 @@ int main(int argc, char* argv[])
         return render(window, parser.value(renderOption));
     }
 
-    // Told to end, the program leaves the pane as if its window had been closed, and so saves.
+    // On a signal, leave the pane as if the window had been closed, which saves.
     const platform::UnixSignals signals({SIGTERM, SIGINT, SIGHUP});
     QObject::connect(&signals, &platform::UnixSignals::received, &application, [&] {
         window.unselect();
