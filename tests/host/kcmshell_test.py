@@ -44,7 +44,7 @@ class KcmShell(host.Host):
         self.assertFalse(self.driver_strip())
         self.assertTrue(self.file_strip())
         self.press("OK")
-        self.assertEqual(shell.wait(timeout=20), 0)
+        self.assertEqual(shell.wait(timeout=session.PATIENCE), 0)
         self.assertFalse(self.file_strip())
         self.assertFalse(self.driver_strip())
 
@@ -53,7 +53,7 @@ class KcmShell(host.Host):
         shell = self.start_shell()
         self.edit(APPLICATION)
         self.press("Cancel")
-        self.assertEqual(shell.wait(timeout=20), 0)
+        self.assertEqual(shell.wait(timeout=session.PATIENCE), 0)
         session.wait_for(self.driver_strip, "the driver")
         self.assertTrue(self.file_strip())
 
@@ -62,7 +62,7 @@ class KcmShell(host.Host):
         shell = self.start_shell()
         before = self.saves()
         self.press("Cancel")
-        self.assertEqual(shell.wait(timeout=20), 0)
+        self.assertEqual(shell.wait(timeout=session.PATIENCE), 0)
         self.assertNotEqual(self.saves(), before)
         self.assertEqual(self.pushes(), 0, "leaving must not push")
 
@@ -87,7 +87,7 @@ class KcmShell(host.Host):
                 session.wait_for(lambda: any(thing["name"].startswith(text + "\n")
                                              for thing in self.things(APPLICATION)), text)
                 shell.kill()
-                shell.wait(timeout=20)
+                shell.wait(timeout=session.PATIENCE)
 
 
 if __name__ == "__main__":

@@ -160,7 +160,7 @@ class SystemSettings(host.Host):
         self.close()
         question = self.find(APPLICATION, "Apply Settings", "dialog")
         self.click(self.find(APPLICATION, "Apply", "push button", inside=question["path"]))
-        self.assertEqual(settings.wait(timeout=20), 0)
+        self.assertEqual(settings.wait(timeout=session.PATIENCE), 0)
         self.assertFalse(self.file_strip())
         self.assertFalse(self.driver_strip())
 
@@ -169,7 +169,7 @@ class SystemSettings(host.Host):
         settings = self.start_at_the_module()
         before = self.saves()
         self.close()
-        self.assertEqual(settings.wait(timeout=20), 0)
+        self.assertEqual(settings.wait(timeout=session.PATIENCE), 0)
         self.assertNotEqual(self.saves(), before)
         self.assertEqual(self.showings(), 1)
         self.assertEqual(self.pushes(), 0, "leaving must not push")

@@ -13,6 +13,7 @@
 #include "PrivateBus.h"
 #include "Service.h"
 #include "TemporaryHome.h"
+#include "Wait.h"
 #include "rzkApplication.h"
 
 #include <QCoreApplication>
@@ -143,7 +144,7 @@ protected:
     {
         QElapsedTimer timer;
         timer.start();
-        while (!holds() && timer.elapsed() < 20000) {
+        while (!holds() && timer.elapsed() < kPatience) {
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
         }
         return holds();
@@ -295,18 +296,18 @@ TEST_F(DriverLink, logsAReplyOfAnotherForm)
         << log;
 }
 
-TEST_F(DriverLink, waitsForADriverThatNeeds200Milliseconds)
+TEST_F(DriverLink, waitsForADriverThatTakesATenthOfASecond)
 {
     Peer driver(mBus, kDriverName);
-    driver.delay = std::chrono::milliseconds(200);
+    driver.delay = std::chrono::milliseconds(100);
     driver.answer = replyWithLong(7);
     EXPECT_TRUE(rzkgetQVDevice());
 }
 
-TEST_F(DriverLink, givesUpOnADriverThatNeeds300Milliseconds)
+TEST_F(DriverLink, givesUpOnADriverThatTakesThreeSeconds)
 {
     Peer driver(mBus, kDriverName);
-    driver.delay = std::chrono::milliseconds(300);
+    driver.delay = std::chrono::seconds(3);
     driver.answer = replyWithLong(7);
     EXPECT_FALSE(rzkgetQVDevice());
     EXPECT_STREQ(GetPListName(), "");
@@ -555,7 +556,7 @@ TEST_F(DriverLink, aPushNeverHoldsTheCallerWhileTheDriverHangs)
         push();
     }
     // Waiting for each would have taken ten seconds.
-    EXPECT_LT(timer.elapsed(), 2000);
+    EXPECT_LT(timer.elapsed(), 5000);
     EXPECT_EQ(mEvents.finishSends(), errAETimeout);
     driver.signal(SIGCONT);
     while (DriverProcess::ask<uint>("Pushes") < 40) {

@@ -13,6 +13,7 @@
 #include "SampleConfig.h"
 #include "Service.h"
 #include "TemporaryHome.h"
+#include "Wait.h"
 #include "rzkApplication.h"
 
 #include <QApplication>
@@ -107,7 +108,7 @@ protected:
         mWindow->findChild<QTabWidget*>()->setCurrentWidget(
             mWindow->findChild<QWidget*>(QStringLiteral("displayPage")));
         button("mDoCalibrate").click();
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(window()));
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(window(), kPatience));
         waitUntil([this] { return mDriver.pushes() == 1; });
     }
 
@@ -123,7 +124,7 @@ protected:
     template <class Condition>
     static void waitUntil(const Condition& condition)
     {
-        ASSERT_TRUE(QTest::qWaitFor(condition, 20000));
+        ASSERT_TRUE(QTest::qWaitFor(condition, kPatience));
     }
 
     QDBusMessage eventOf(const Descriptors& items)
@@ -145,7 +146,7 @@ protected:
     /** Sends an event and runs the panel until it has answered. */
     QDBusMessage send(Peer& sender, const Descriptors& items)
     {
-        const QDBusPendingCall pending = sender.connection().asyncCall(eventOf(items), 10000);
+        const QDBusPendingCall pending = sender.connection().asyncCall(eventOf(items), kPatience);
         waitUntil([&pending] { return pending.isFinished(); });
         return pending.reply();
     }
@@ -239,15 +240,15 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
                     type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
                     Qt::LeftButton, type, Qt::NoModifier, 1000 * i);
             }
-            while (mDriver.pushes() == before && Clock::now() - click < 5s) {
+            while (mDriver.pushes() == before && Clock::now() - click < kPatience * 1ms) {
                 std::this_thread::sleep_for(1ms);
             }
             answeredInTheFlood += mDriver.pushes() != before && handled < kEvents ? 1 : 0;
         }
         isOver = true;
     });
-    // Longer than all clicks may wait together.
-    EXPECT_TRUE(QTest::qWaitFor([&isOver] { return isOver.load(); }, 120000));
+    // Longer than all clicks may take together.
+    EXPECT_TRUE(QTest::qWaitFor([&isOver] { return isOver.load(); }, 20 * kPatience));
     flood.join();
     user.join();
     waitUntil([&answers] { return answers.back().isFinished(); });
@@ -301,7 +302,7 @@ TEST_F(Reports, areAnsweredBeforeTheUserHasAnsweredTheAlert)
     ASSERT_EQ(points(), 3);
 
     const QDBusPendingCall last = mDriver.peer().connection().asyncCall(
-        eventOf({item(report(0, touches[3][0], touches[3][1]))}), 60000);
+        eventOf({item(report(0, touches[3][0], touches[3][1]))}), 2 * kPatience);
     bool wasAnswered = false;
     bool isOver = false;
     QElapsedTimer open; // since the alert was seen first
@@ -315,13 +316,13 @@ TEST_F(Reports, areAnsweredBeforeTheUserHasAnsweredTheAlert)
             open.start();
         }
         wasAnswered = last.isFinished();
-        if (wasAnswered || open.elapsed() > 10000) {
+        if (wasAnswered || open.elapsed() > kPatience) {
             alert->button(QMessageBox::Ok)->click();
             isOver = true;
         }
     });
     user.start(10);
-    waitUntil([&] { return isOver && last.isFinished(); });
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isOver && last.isFinished(); }, 2 * kPatience));
     EXPECT_TRUE(wasAnswered);
     EXPECT_EQ(last.reply().type(), QDBusMessage::ReplyMessage);
 }

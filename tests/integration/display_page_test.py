@@ -170,7 +170,7 @@ class ScaledDisplay(Page):
         self.plug(1, "800x600", "1024x0")
         self.expect_page((0, 0, 1024, 768), (1024, 0, 800, 600))
         self.choose(2)
-        self.click(self.find("qvtblt", "Calibrate…", "push button"))
+        self.press("qvtblt", "Calibrate…", "push button")
         self.expect_second_covered()
 
     def expect_second_covered(self):

@@ -12,6 +12,7 @@ import threading
 import unittest
 
 import displays
+import session
 
 NOTICES = sys.argv.pop(1)
 
@@ -29,13 +30,13 @@ class Notices(displays.Displays):
                          daemon=True).start()
 
     def expect_now(self, *bounds):
-        what, *places = self.lines.get(timeout=20)
+        what, *places = self.lines.get(timeout=session.PATIENCE)
         self.assertEqual((what, sorted(places)), ("now", sorted(bounds)))
 
     def expect_change(self, *bounds):
         """One change: it begins once, ends once, and then all displays are where they belong."""
-        self.assertEqual(self.lines.get(timeout=20)[0], "begin")
-        what, *places = self.lines.get(timeout=20)
+        self.assertEqual(self.lines.get(timeout=session.PATIENCE)[0], "begin")
+        what, *places = self.lines.get(timeout=session.PATIENCE)
         self.assertEqual((what, sorted(places)), ("end", sorted(bounds)))
 
     def test_the_end_is_told_when_all_displays_have_come_to_rest(self):

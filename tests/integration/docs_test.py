@@ -122,12 +122,12 @@ class Pictures(desktop.Desktop):
         if tab is None:
             self.find("qvtblt", "No tablet was found", "label")
         else:
-            self.click(self.find("qvtblt", tab, "page tab"))
+            self.press("qvtblt", tab, "page tab")
             self.find("qvtblt", pages.CONTROLS[tab])
         seen = pages.structure(self.things("qvtblt"))
         self.assertEqual(seen, pages.written()[name], self.RETAKE)
         panel.terminate()
-        panel.wait(timeout=20)
+        panel.wait(timeout=session.PATIENCE)
 
     def test_each_page_is_as_on_its_picture(self):
         for name, product, tab in pages.pages():
@@ -259,8 +259,8 @@ class MinimalDriver(desktop.Desktop):
         driver = self.start(["/usr/bin/python3", MINIMAL_DRIVER], stdout=subprocess.PIPE)
         session.wait_for(lambda: self.ctl("status").returncode == 0, "the script")
         self.start([session.BIN / "qvtblt"])
-        self.click(self.find("qvtblt", "Display", "page tab"))
-        self.click(self.find("qvtblt", "Calibrate…", "push button"))
+        self.press("qvtblt", "Display", "page tab")
+        self.press("qvtblt", "Calibrate…", "push button")
         def wait_for_pushes(count):
             for _ in range(count):
                 self.assertEqual(session.read_line(driver.stdout, "a push"),

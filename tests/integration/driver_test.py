@@ -231,7 +231,7 @@ class Driver(session.Session):
             lambda: subprocess.run(["pgrep", "-f", f"config-file={self.folder}"],
                                    capture_output=True, text=True).stdout.split(), "the bus")
         subprocess.run(["kill", *bus], check=True)
-        self.assertEqual(driver.wait(timeout=20), 0)
+        self.assertEqual(driver.wait(timeout=session.PATIENCE), 0)
 
 
 if __name__ == "__main__":

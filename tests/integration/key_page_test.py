@@ -26,7 +26,7 @@ class KeyPage(desktop.Desktop):
 
     def close_panel(self, panel):
         self.close_window(TITLE)
-        self.assertEqual(panel.wait(timeout=20), 0)
+        self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
 
     def slot(self, number):
         """Kind, combination and path of a slot of the driver's record."""
@@ -119,7 +119,7 @@ class KeyPage(desktop.Desktop):
         self.xdotool("key", "Return")
         self.wait_for_slot(2, (3, CTRL_SHIFT_Z, ""))
         self.xdotool("key", "alt+F4")
-        self.assertEqual(panel.wait(timeout=20), 0)
+        self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
         self.start_panel()
         self.assertEqual(self.shown(), (1, 0))
 

@@ -235,7 +235,7 @@ class Choice(desktop.Desktop):
                 title = self.text(wanted, "Quorvia Tablet")
                 self.find("qvtblt", title)
                 panel.terminate()
-                panel.wait(timeout=20)
+                panel.wait(timeout=session.PATIENCE)
 
     # In the dialog for an application, which is Qt's.
     QT_TEXTS = {"en": "Look in:", "fr": "Voir dans :", "zh-Hans": "查找范围："}
@@ -253,7 +253,7 @@ class Choice(desktop.Desktop):
                 self.find("qvtblt", self.text(wanted, "Choose an application"))
                 self.find("qvtblt", self.QT_TEXTS[wanted])
                 panel.kill()
-                panel.wait(timeout=20)
+                panel.wait(timeout=session.PATIENCE)
 
     def test_the_simulated_tablet_follows_it_too(self):
         for languages, title, button in (

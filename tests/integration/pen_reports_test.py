@@ -107,7 +107,7 @@ class PenReports(session.Session):
         self.assertTrue(self.try_tap())
         panel.stdin.write("end\n")
         panel.stdin.flush()
-        panel.wait(timeout=20)
+        panel.wait(timeout=session.PATIENCE)
         session.wait_for(lambda: not self.try_tap(), "the driver's notice")
         self.assertIn(f"{panel.name} has gone while it calibrated", self.stop_driver(driver))
 

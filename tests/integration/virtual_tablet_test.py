@@ -330,7 +330,7 @@ class VirtualTablet(Tablet, desktop.Desktop):
         self.open_tablet("--attach", "20739")
         self.ctl("set", "Pen/Speed", "9")
         self.close_window("Virtual tablet")
-        rest, _ = self.driver.communicate(timeout=20)
+        rest, _ = self.driver.communicate(timeout=session.PATIENCE)
         self.assertEqual((self.driver.returncode, rest.splitlines()[-1]), (0, "ended"))
         state = json.loads((self.home / ".local/state/tdsg-driver/state.json").read_text())
         self.assertEqual((state["attached"], state["pushes"]), (20739, 1))

@@ -83,7 +83,7 @@ class ScaledByTheToolkit(wayland.Wayland):
                 session.wait_for(lambda: self.record() and struct.unpack_from(
                     "<4h", self.record(), 295) == (1280, 1280, 0, 720), "the area")
                 panel.terminate()
-                self.assertEqual(panel.wait(timeout=20), 0)
+                self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
                 self.stop_driver(driver)
 
 

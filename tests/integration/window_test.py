@@ -43,7 +43,7 @@ class Window(desktop.Desktop):
         self.click_strip()
         self.assertEqual(self.driver_strips(), (1, 0))
         self.assertEqual(self.file_strips(), (0, 0))
-        self.click(self.find("qvtblt", "Save", "push button"))
+        self.press("qvtblt", "Save", "push button")
         session.wait_for(lambda: self.file_strips() == (1, 0), "the file")
 
     def test_cancel_takes_the_edit_back_from_the_driver(self):
@@ -51,7 +51,7 @@ class Window(desktop.Desktop):
         self.start_panel()
         self.click_strip()
         self.assertEqual(self.driver_strips(), (1, 0))
-        self.click(self.find("qvtblt", "Cancel", "push button"))
+        self.press("qvtblt", "Cancel", "push button")
         session.wait_for(lambda: self.driver_strips() == (0, 0), "the driver")
         # The panel is shown anew, so that its pages follow.
         session.wait_for(lambda: self.find("qvtblt", "Left scroll strip")["checked"], "the box")
@@ -59,7 +59,7 @@ class Window(desktop.Desktop):
     def test_all_pages_follow_the_file_after_cancel(self):
         self.start_driver()
         self.start_panel()
-        self.click(self.find("qvtblt", "Pen", "page tab"))
+        self.press("qvtblt", "Pen", "page tab")
         before = self.find("qvtblt", "Pressure curve")["description"]
         pushes = int(self.simulator("Pushes")[1])
         self.xdotool("key", "alt+l", "Home")
@@ -92,7 +92,7 @@ class Window(desktop.Desktop):
         panel = self.start_panel()
         self.click_strip()
         self.close_window(TITLE)
-        self.assertEqual(panel.wait(timeout=20), 0)
+        self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
         self.assertEqual(self.file_strips(), (1, 0))
 
     def test_being_told_to_end_saves(self):
@@ -104,7 +104,7 @@ class Window(desktop.Desktop):
                 self.click_strip()
                 self.assertEqual(self.file_strips(), before)
                 panel.send_signal(number)
-                self.assertEqual(panel.wait(timeout=20), 0)
+                self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
                 self.assertEqual(self.file_strips(), (1 - before[0], 0))
 
     def test_without_a_tablet_there_is_only_the_label(self):
@@ -120,10 +120,10 @@ class Window(desktop.Desktop):
         panel = self.start_panel()
         self.stop_driver(driver, signal.SIGKILL)
         self.click(self.find("qvtblt", "Left scroll strip", "check box"), 8)
-        self.click(self.find("qvtblt", "Save", "push button"))
+        self.press("qvtblt", "Save", "push button")
         session.wait_for(lambda: self.file_strips() == (1, 0), "the file")
         self.close_window(TITLE)
-        self.assertEqual(panel.wait(timeout=20), 0)
+        self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
 
 
     def notice(self):
@@ -233,7 +233,7 @@ class Window(desktop.Desktop):
         self.assertIsNone(panel.poll())
         self.close_window(TITLE)
         self.press("qvtblt", "Discard", "push button")
-        self.assertEqual(panel.wait(timeout=20), 0)
+        self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
 
 
 class SmallScreen(desktop.Desktop):
@@ -258,7 +258,7 @@ class SmallScreen(desktop.Desktop):
                     self.assertLessEqual(left + width, 1024)
                     self.assertLessEqual(top + height, 600)
                     panel.terminate()
-                    panel.wait(timeout=20)
+                    panel.wait(timeout=session.PATIENCE)
 
     def frame(self, window):
         """The window's place with its frame; None before it has one."""

@@ -18,6 +18,10 @@ BIN = pathlib.Path(os.environ["QVTBLT_STAGE_BIN"])
 SERVICES = pathlib.Path(os.environ["QVTBLT_STAGE_SERVICES"])
 SOURCE = pathlib.Path(__file__).resolve().parent.parent.parent
 
+# How long a wait lasts before it fails, in seconds. It ends with its event, so this costs nothing, and
+# a machine that is busy with something else may take long.
+PATIENCE = 60
+
 DRIVER_NAME = "org.quorvia.AppleEvents.TdSg"
 
 BUS_CONFIG = """<busconfig><type>session</type><listen>unix:path={folder}/bus</listen>{services}
@@ -25,7 +29,7 @@ BUS_CONFIG = """<busconfig><type>session</type><listen>unix:path={folder}/bus</l
 </policy><limit name="max_replies_per_connection">50000</limit></busconfig>"""
 
 
-def wait_for(condition, what, seconds=20):
+def wait_for(condition, what, seconds=PATIENCE):
     """Waits until the condition gives something true, and gives that. For events of other
     processes that send no word."""
     end = time.monotonic() + seconds
@@ -38,7 +42,7 @@ def wait_for(condition, what, seconds=20):
         time.sleep(0.02)
 
 
-def read_line(pipe, what, seconds=20):
+def read_line(pipe, what, seconds=PATIENCE):
     """Waits for the next line of a program; gives it without its end."""
     def give_up(*_):
         raise AssertionError(f"waited in vain for {what}")
@@ -138,14 +142,14 @@ class Session(unittest.TestCase):
     def stop_driver(self, driver, number=signal.SIGTERM):
         """Ends the driver with a signal. Gives all that it has said."""
         driver.send_signal(number)
-        rest, _ = driver.communicate(timeout=20)
+        rest, _ = driver.communicate(timeout=PATIENCE)
         driver.said += rest.splitlines()
         return driver.said
 
     def run_program(self, *command, **options):
         """Runs a program to its end."""
         return subprocess.run([str(word) for word in command], env=self.env, text=True,
-                              capture_output=True, timeout=60, **options)
+                              capture_output=True, timeout=2 * PATIENCE, **options)
 
     def ctl(self, *arguments):
         return self.run_program(BIN / "qvtbltctl", *arguments)

@@ -10,6 +10,7 @@
 #include "PaneTest.h"
 #include "QVCalibrateWin.h"
 #include "QVCalibration.h"
+#include "Wait.h"
 
 #include <QComboBox>
 #include <QFontDatabase>
@@ -63,7 +64,7 @@ public:
     /** Waits for so many parts, and for more that should not come. */
     void wait(std::size_t count)
     {
-        EXPECT_TRUE(QTest::qWaitFor([&] { return regions.size() >= count; }));
+        EXPECT_TRUE(QTest::qWaitFor([&] { return regions.size() >= count; }, kPatience));
         QTest::qWait(20);
     }
     bool eventFilter(QObject* watched, QEvent* event) override
@@ -661,7 +662,7 @@ TEST_F(Calibration, itsWindowHasNoBorderButTheKeyboard)
     start();
     EXPECT_TRUE(window()->windowFlags() & Qt::FramelessWindowHint);
     EXPECT_EQ(view().focusPolicy(), Qt::ClickFocus) << "a screen reader says what has the focus";
-    EXPECT_TRUE(QTest::qWaitForWindowActive(window()));
+    EXPECT_TRUE(QTest::qWaitForWindowActive(window(), kPatience));
 }
 
 TEST_F(Calibration, keysCountByTheirPlaceNotByWhatIsOnThem)

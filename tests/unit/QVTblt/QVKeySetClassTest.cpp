@@ -3,6 +3,7 @@
 #include "QVKeySetClass.h"
 
 #include "QVKeyComboBox.h"
+#include "Wait.h"
 #include "hid_usb_2_adb_keymap_char.h"
 #include "rzkApplication.h"
 
@@ -294,7 +295,7 @@ TEST_F(KeySet, returnIsOkOnceThereIsAKey)
 TEST_F(KeySet, everyKeyIsReachedByArrowsAndByTab)
 {
     mDialog.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog, kPatience));
     QSet<QWidget*> reached;
     QList<QWidget*> open{&child<QToolButton>("keyCtrl")};
     while (!open.isEmpty()) {
@@ -415,7 +416,7 @@ TEST_F(KeySet, needsNoScrollingWhereThereIsRoom)
 TEST_F(KeySet, showsWhichKeyHasTheFocus)
 {
     mDialog.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog, kPatience));
     auto& key = child<QToolButton>("keyM");
     const QImage before = key.grab().toImage();
     key.setFocus();
@@ -438,7 +439,7 @@ TEST_F(KeySet, showsTheFocusFromItsActivationOn)
 TEST_F(KeySet, afterTheLastKeyIsDeletedTheFocusIsOnTheFirst)
 {
     mDialog.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mDialog, kPatience));
     click({"B", "C"});
     child<QPushButton>("delBtn").setFocus();
     QTest::keyClick(&child<QPushButton>("delBtn"), Qt::Key_Space);

@@ -8,6 +8,7 @@
 #include "FakeUsb.h"
 #include "PaneTest.h"
 #include "QVTabletModels.h"
+#include "Wait.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -54,7 +55,7 @@ protected:
         }
         return texts;
     }
-    /** Whether the view is painted soon after that. */
+    /** Whether the view is painted after that, before a neighbour that is updated later. */
     template <class Action>
     bool isDrawnAfter(const Action& action)
     {
@@ -65,11 +66,21 @@ protected:
                 return QObject::eventFilter(watched, event);
             }
             bool seen = false;
-        } paints;
-        QTest::qWait(50); // what is due already
+        };
+        QWidget neighbour(view().parentWidget());
+        neighbour.show();
+        const auto isPainted = [&neighbour] {
+            Paints paints;
+            neighbour.installEventFilter(&paints);
+            neighbour.update();
+            return QTest::qWaitFor([&] { return paints.seen; }, kPatience);
+        };
+        EXPECT_TRUE(isPainted()); // and with it all that was due already
+        Paints paints;
         view().installEventFilter(&paints);
         action();
-        return QTest::qWaitFor([&] { return paints.seen; }, 1000);
+        EXPECT_TRUE(isPainted());
+        return paints.seen;
     }
     QImage draw()
     {
@@ -784,7 +795,7 @@ TEST_F(DisplayPage, darkWindowsHaveAGroundOnWhichBlackAndMagentaCanBeSeen)
 TEST_F(DisplayPage, theWheelTurnsItsListsOnlyWithTheFocus)
 {
     mWindow->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(mWindow.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mWindow.get(), kPatience));
     for (const char* const name : {"mComboBox", "mComboBoxSpeed", "mComboBoxUseMode"}) {
         auto& box = outlet<QComboBox>(name);
         box.setCurrentIndex(0);

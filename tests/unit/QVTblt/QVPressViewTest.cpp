@@ -9,6 +9,7 @@
 #include "PaneTest.h"
 #include "QVNSView.h"
 #include "SameImage.h"
+#include "Wait.h"
 
 #include <QAccessible>
 #include <QLabel>
@@ -259,7 +260,7 @@ TEST_F(PressurePage, followsTheFileAfterCancel)
     show();
     const int inFile = recordInFile().Pen.PressureThreshold;
     EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, inFile);
-    EXPECT_TRUE(QTest::qWaitFor([&] { return slider().value() == inFile * 10; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return slider().value() == inFile * 10; }, kPatience));
 }
 
 TEST_F(PressurePage, isSavedWithTheRecord)

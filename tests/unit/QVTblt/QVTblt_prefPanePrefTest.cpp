@@ -4,6 +4,7 @@
 
 #include "Notifications.h"
 #include "PaneTest.h"
+#include "Wait.h"
 
 #include <QAccessible>
 #include <QCheckBox>
@@ -320,7 +321,7 @@ TEST_F(Pane, putsTheFocusOnMSoft)
 {
     show();
     mWindow->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(mWindow.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mWindow.get(), kPatience));
     EXPECT_TRUE(outlet<QWidget>("mSoft").hasFocus());
 }
 

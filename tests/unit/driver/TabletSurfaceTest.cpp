@@ -3,6 +3,7 @@
 #include "TabletSurface.h"
 
 #include "Contrast.h"
+#include "Wait.h"
 
 #include <QImage>
 #include <QMouseEvent>
@@ -29,7 +30,7 @@ protected:
         mSurface.show();
         mSurface.activateWindow();
         mSurface.setFocus();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&mSurface));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&mSurface, kPatience));
     }
 
     void note(const char* what, ushort x, ushort y)

@@ -4,6 +4,7 @@
 
 #include "Accessible.h"
 #include "NotedPane.h"
+#include "Wait.h"
 
 #include <QCoreApplication>
 #include <QDialog>
@@ -403,7 +404,7 @@ TEST_P(Shell, givesTheFocusBackWhenTheLineGoes)
     show();
     mPane->tell(News::ChangeNotTaken);
     mShell->activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(mShell.get()));
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mShell.get(), kPatience));
     button("Send Again")->setFocus();
     mLife.take();
     mPane->tell(News::ChangeTaken);

@@ -3,6 +3,7 @@
 #include "Displays.h"
 
 #include "FakeDisplays.h"
+#include "Wait.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -88,7 +89,7 @@ TEST(Displays, tellOnceOfTheBeginningAndOnceWhenAllHaveComeToRest)
     QTest::qWait(100);
     changeScreen();
     EXPECT_EQ(listener.told, std::vector{kBegin});
-    EXPECT_TRUE(QTest::qWaitFor([&] { return listener.told.size() > 1; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return listener.told.size() > 1; }, kPatience));
     EXPECT_EQ(listener.told, (std::vector{kBegin, kEnd}));
     QTest::qWait(300);
     EXPECT_EQ(listener.told.size(), 2U);
@@ -100,7 +101,7 @@ TEST(Displays, aListenerMayStopItselfWhileItIsTold)
     stopping.whenTold = [&](std::uint32_t) { stopping.stop(); };
     Listener staying;
     changeScreen();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return staying.told.size() == 2; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return staying.told.size() == 2; }, kPatience));
     EXPECT_EQ(stopping.told, std::vector{kBegin});
 }
 
@@ -110,7 +111,7 @@ TEST(Displays, aListenerThatAnotherStopsIsToldNoMore)
     Listener stopped;
     stopping.whenTold = [&](std::uint32_t) { stopped.stop(); };
     changeScreen();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return stopping.told.size() == 2; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return stopping.told.size() == 2; }, kPatience));
     EXPECT_EQ(stopped.told, std::vector<std::uint32_t>());
 }
 
@@ -125,10 +126,10 @@ TEST(Displays, theLastListenerMayStopAtTheEndAndAnotherMayBegin)
         }
     };
     changeScreen();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return next != nullptr; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return next != nullptr; }, kPatience));
     EXPECT_EQ(next->told, std::vector<std::uint32_t>()) << "that change was before its time";
     changeScreen();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return next->told.size() == 2; }));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return next->told.size() == 2; }, kPatience));
     EXPECT_EQ(next->told, (std::vector{kBegin, kEnd}));
     EXPECT_EQ(last.told.size(), 2U);
 }

@@ -4,6 +4,7 @@
 
 #include "Service.h"
 #include "TemporaryHome.h"
+#include "Wait.h"
 
 #include <QAbstractItemModel>
 #include <QApplication>
@@ -145,7 +146,7 @@ QModelIndex placeOf(QFileDialog& dialog, const QString& name)
             }
             return place.isValid();
         },
-        20000);
+        kPatience);
     EXPECT_TRUE(isThere) << qPrintable(name);
     return place;
 }

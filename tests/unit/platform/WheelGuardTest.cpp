@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "WheelGuard.h"
 
+#include "Wait.h"
+
 #include <QComboBox>
 #include <QCoreApplication>
 #include <QScrollArea>
@@ -33,7 +35,7 @@ protected:
         mArea.verticalScrollBar()->setValue(200);
         mArea.show();
         mArea.activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(&mArea));
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&mArea, kPatience));
         mArea.setFocus();
         platform::ignoreWheelWithoutFocus(*mSlider);
         platform::ignoreWheelWithoutFocus(*mBox);
