@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <deque>
+#include <functional>
 #include <utility>
 
 namespace platform {
@@ -154,34 +155,60 @@ bool matches(const UsbMatching& matching, libusb_device* device)
     return agrees("idVendor", descriptor.idVendor) && agrees("idProduct", descriptor.idProduct);
 }
 
-class DeviceIterator final : public UsbIterator {
+using Services = std::deque<std::unique_ptr<UsbService>>;
+/** Adds what is on the bus now. */
+using Search = std::function<IOReturn(Services& found)>;
+
+IOReturn findDevices(const UsbMatching& matching, Services& found)
+{
+    Context context;
+    const IOReturn error = makeContext(context);
+    if (error != kIOReturnSuccess) {
+        return error;
+    }
+    libusb_device** list = nullptr;
+    const auto count = libusb_get_device_list(context.get(), &list);
+    if (count < 0) {
+        return resultOf(static_cast<int>(count));
+    }
+    for (std::ptrdiff_t i = 0; i < count; ++i) {
+        if (matches(matching, list[i])) {
+            found.push_back(std::make_unique<DeviceService>(Device(libusb_ref_device(list[i]),
+                [context](libusb_device* device) { libusb_unref_device(device); })));
+        }
+    }
+    libusb_free_device_list(list, 1);
+    return kIOReturnSuccess;
+}
+
+IOReturn findInterfaces(const Device& device, Services& found)
+{
+    libusb_config_descriptor* config = nullptr;
+    const int error = libusb_get_active_config_descriptor(device.get(), &config);
+    if (error != LIBUSB_SUCCESS) {
+        return resultOf(error);
+    }
+    for (int i = 0; i < config->bNumInterfaces; ++i) {
+        if (config->interface[i].num_altsetting > 0) {
+            found.push_back(std::make_unique<InterfaceService>(
+                device, config->interface[i].altsetting->bInterfaceNumber));
+        }
+    }
+    libusb_free_config_descriptor(config);
+    return kIOReturnSuccess;
+}
+
+class FoundServices final : public UsbIterator {
 public:
-    explicit DeviceIterator(UsbMatching matching)
-        : mMatching(std::move(matching))
+    explicit FoundServices(Search search)
+        : mSearch(std::move(search))
     {
     }
 
     IOReturn find()
     {
         mFound.clear();
-        Context context;
-        const IOReturn error = makeContext(context);
-        if (error != kIOReturnSuccess) {
-            return error;
-        }
-        libusb_device** list = nullptr;
-        const auto count = libusb_get_device_list(context.get(), &list);
-        if (count < 0) {
-            return resultOf(static_cast<int>(count));
-        }
-        for (std::ptrdiff_t i = 0; i < count; ++i) {
-            if (matches(mMatching, list[i])) {
-                mFound.emplace_back(libusb_ref_device(list[i]),
-                    [context](libusb_device* device) { libusb_unref_device(device); });
-            }
-        }
-        libusb_free_device_list(list, 1);
-        return kIOReturnSuccess;
+        return mSearch(mFound);
     }
 
     std::unique_ptr<UsbService> next() override
@@ -189,7 +216,7 @@ public:
         if (mFound.empty()) {
             return nullptr;
         }
-        auto service = std::make_unique<DeviceService>(std::move(mFound.front()));
+        auto service = std::move(mFound.front());
         mFound.pop_front();
         return service;
     }
@@ -197,50 +224,20 @@ public:
     void reset() override { find(); }
 
 private:
-    UsbMatching mMatching;
-    std::deque<Device> mFound;
+    Search mSearch;
+    Services mFound;
 };
 
-class InterfaceIterator final : public UsbIterator {
-public:
-    explicit InterfaceIterator(Device device)
-        : mDevice(std::move(device))
-    {
+/** Gives an iterator over what a search finds, unless the search fails. */
+IOReturn iterate(Search search, std::unique_ptr<UsbIterator>& services)
+{
+    auto found = std::make_unique<FoundServices>(std::move(search));
+    const IOReturn error = found->find();
+    if (error == kIOReturnSuccess) {
+        services = std::move(found);
     }
-
-    IOReturn find()
-    {
-        mNumbers.clear();
-        libusb_config_descriptor* config = nullptr;
-        const int error = libusb_get_active_config_descriptor(mDevice.get(), &config);
-        if (error != LIBUSB_SUCCESS) {
-            return resultOf(error);
-        }
-        for (int i = 0; i < config->bNumInterfaces; ++i) {
-            if (config->interface[i].num_altsetting > 0) {
-                mNumbers.push_back(config->interface[i].altsetting->bInterfaceNumber);
-            }
-        }
-        libusb_free_config_descriptor(config);
-        return kIOReturnSuccess;
-    }
-
-    std::unique_ptr<UsbService> next() override
-    {
-        if (mNumbers.empty()) {
-            return nullptr;
-        }
-        auto service = std::make_unique<InterfaceService>(mDevice, mNumbers.front());
-        mNumbers.pop_front();
-        return service;
-    }
-
-    void reset() override { find(); }
-
-private:
-    Device mDevice;
-    std::deque<int> mNumbers;
-};
+    return error;
+}
 
 class LibusbDevice final : public UsbDeviceInterface {
 public:
@@ -302,12 +299,9 @@ public:
 
     IOReturn createInterfaceIterator(std::unique_ptr<UsbIterator>& interfaces) override
     {
-        auto found = std::make_unique<InterfaceIterator>(mDevice);
-        const IOReturn error = found->find();
-        if (error == kIOReturnSuccess) {
-            interfaces = std::move(found);
-        }
-        return error;
+        return iterate(
+            [device = mDevice](Services& found) { return findInterfaces(device, found); },
+            interfaces);
     }
 
 private:
@@ -346,12 +340,9 @@ public:
     IOReturn getMatchingServices(
         UsbMatching matching, std::unique_ptr<UsbIterator>& services) override
     {
-        auto found = std::make_unique<DeviceIterator>(std::move(matching));
-        const IOReturn error = found->find();
-        if (error == kIOReturnSuccess) {
-            services = std::move(found);
-        }
-        return error;
+        return iterate([matching = std::move(matching)](
+                           Services& found) { return findDevices(matching, found); },
+            services);
     }
 
     std::unique_ptr<UsbDeviceInterface> createDeviceInterface(const UsbService& service) override
