@@ -50,6 +50,69 @@ platform::IOReturn setReportMode(platform::UsbDeviceInterface& device, std::uint
     return device.deviceRequest(request);
 }
 
+/** openUSBDevice(), which notes how far it came. */
+std::int32_t openDevice(platform::UsbDeviceInterface& device, ReportModeOutcome& outcome)
+{
+    std::uint8_t configurations = 0;
+    platform::UsbConfigurationDescriptor configuration{};
+    const platform::IOReturn counted = device.getNumberOfConfigurations(configurations);
+    outcome.configurations = configurations;
+    if (counted != platform::kIOReturnSuccess || configurations != 1
+        || device.getConfigurationDescriptor(0, configuration) != platform::kIOReturnSuccess) {
+        return kNotOpened;
+    }
+    const platform::IOReturn error = device.open();
+    outcome.opened = error;
+    if (error == platform::kIOReturnExclusiveAccess) {
+        return kHeldByAnother;
+    }
+    if (error == platform::kIOReturnNotPermitted) {
+        qCWarning(lcClient,
+            "this user may not open the tablet; the udev rule 60-quorvia-tablet.rules gives leave");
+    }
+    return error == platform::kIOReturnSuccess ? configuration.bConfigurationValue : kNotOpened;
+}
+
+/** iterateDevices(), which notes how far it came. */
+std::int32_t askDevices(
+    platform::UsbIterator& devices, std::uint8_t flag, ReportModeOutcome& outcome)
+{
+    std::int32_t result = -1;
+    // Of all passes together: without any device's answer, it counts as open.
+    std::int32_t opened = 0;
+    for (int pass = 1;;) {
+        std::unique_ptr<platform::UsbService> service = devices.next();
+        if (service == nullptr) {
+            std::fputs("Unable to find first matching USB device\n", stderr);
+            return -1;
+        }
+        outcome.isFound = true;
+        int busy = 0;
+        for (; service != nullptr; service = devices.next()) {
+            if (const auto device = getUSBDevice(*service)) {
+                opened = openDevice(*device, outcome);
+                if (opened == kHeldByAnother) {
+                    ++busy;
+                } else if (opened >= 0) {
+                    result = setReportMode(*device, flag);
+                    outcome.requested = result;
+                }
+            }
+            if (opened >= 0) {
+                return 0;
+            }
+        }
+        if (busy == 0) {
+            return result;
+        }
+        platform::sleeper().sleepFor(std::chrono::seconds(1));
+        devices.reset();
+        if (++pass > kPasses) {
+            return result;
+        }
+    }
+}
+
 /** ConnectToDriver() without the notice. */
 bool sendRecord(const void* record, std::int32_t length)
 {
@@ -103,59 +166,36 @@ bool PushQVTabletInfo()
 
 bool controlUSBDev(std::uint8_t flag, std::uint16_t productID)
 {
+    return requestReportMode(flag, productID).isSearched;
+}
+
+ReportModeOutcome requestReportMode(std::uint8_t flag, std::uint16_t productID)
+{
+    ReportModeOutcome outcome;
     platform::Usb& service = platform::usb();
     if (service.mainPort() != platform::kIOReturnSuccess) {
-        return false;
+        return outcome;
     }
     std::optional<platform::UsbMatching> matching =
         service.serviceMatching(platform::kIOUSBDeviceClassName);
     if (!matching) {
-        return false;
+        return outcome;
     }
     matching->properties["idVendor"] = kQVVendorID;
     matching->properties["idProduct"] = productID;
     std::unique_ptr<platform::UsbIterator> devices;
-    if (service.getMatchingServices(std::move(*matching), devices) != platform::kIOReturnSuccess) {
-        return false;
+    outcome.isSearched =
+        service.getMatchingServices(std::move(*matching), devices) == platform::kIOReturnSuccess;
+    if (outcome.isSearched) {
+        askDevices(*devices, flag, outcome);
     }
-    iterateDevices(*devices, flag);
-    return true;
+    return outcome;
 }
 
 std::int32_t iterateDevices(platform::UsbIterator& devices, std::uint8_t flag)
 {
-    std::int32_t result = -1;
-    // Of all passes together: without any device's answer, it counts as open.
-    std::int32_t opened = 0;
-    for (int pass = 1;;) {
-        std::unique_ptr<platform::UsbService> service = devices.next();
-        if (service == nullptr) {
-            std::fputs("Unable to find first matching USB device\n", stderr);
-            return -1;
-        }
-        int busy = 0;
-        for (; service != nullptr; service = devices.next()) {
-            if (const auto device = getUSBDevice(*service)) {
-                opened = openUSBDevice(*device);
-                if (opened == kHeldByAnother) {
-                    ++busy;
-                } else if (opened >= 0) {
-                    result = setReportMode(*device, flag);
-                }
-            }
-            if (opened >= 0) {
-                return 0;
-            }
-        }
-        if (busy == 0) {
-            return result;
-        }
-        platform::sleeper().sleepFor(std::chrono::seconds(1));
-        devices.reset();
-        if (++pass > kPasses) {
-            return result;
-        }
-    }
+    ReportModeOutcome outcome;
+    return askDevices(devices, flag, outcome);
 }
 
 std::unique_ptr<platform::UsbDeviceInterface> getUSBDevice(const platform::UsbService& service)
@@ -169,22 +209,8 @@ std::unique_ptr<platform::UsbDeviceInterface> getUSBDevice(const platform::UsbSe
 
 std::int32_t openUSBDevice(platform::UsbDeviceInterface& device)
 {
-    std::uint8_t configurations = 0;
-    platform::UsbConfigurationDescriptor configuration{};
-    if (device.getNumberOfConfigurations(configurations) != platform::kIOReturnSuccess
-        || configurations != 1
-        || device.getConfigurationDescriptor(0, configuration) != platform::kIOReturnSuccess) {
-        return kNotOpened;
-    }
-    const platform::IOReturn error = device.open();
-    if (error == platform::kIOReturnExclusiveAccess) {
-        return kHeldByAnother;
-    }
-    if (error == platform::kIOReturnNotPermitted) {
-        qCWarning(lcClient,
-            "this user may not open the tablet; the udev rule 60-quorvia-tablet.rules gives leave");
-    }
-    return error == platform::kIOReturnSuccess ? configuration.bConfigurationValue : kNotOpened;
+    ReportModeOutcome outcome;
+    return openDevice(device, outcome);
 }
 
 std::int32_t useUSBDevice(platform::UsbDeviceInterface& device, std::uint8_t configuration)

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 
 /** Posted after each push, whatever became of it: the record has been edited, or loaded again. */
 inline constexpr QLatin1String kRecordPushedNotification("kRecordPushedNotification");
@@ -44,6 +45,18 @@ inline constexpr std::uint8_t kQVReportNormal = 0;
  * @return false when the bus could not be searched, else true
  */
 bool controlUSBDev(std::uint8_t flag, std::uint16_t productID);
+
+/** What became of a request; of several devices, each value is that of the last to come so far. */
+struct ReportModeOutcome {
+    bool isSearched = false; ///< the bus could be searched
+    bool isFound = false; ///< the tablet is on it
+    std::optional<int> configurations; ///< of the tablet
+    std::optional<platform::IOReturn> opened;
+    std::optional<platform::IOReturn> requested;
+};
+
+/** controlUSBDev() for callers who want to know what became of the request. */
+ReportModeOutcome requestReportMode(std::uint8_t flag, std::uint16_t productID);
 
 /**
  * Sends the request to the first of the devices that can be opened. Where all are held by others,
