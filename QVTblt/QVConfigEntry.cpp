@@ -12,17 +12,17 @@ namespace {
 
 /** The record is packed: a field's bytes may lie at any address. */
 template <class Value>
-Value load(const std::byte* from)
+Value load(const QVEntry& entry, const tagQVTabletInfo& record)
 {
     Value value{};
-    std::memcpy(&value, from, sizeof value);
+    std::memcpy(&value, reinterpret_cast<const std::byte*>(&record) + entry.offset, sizeof value);
     return value;
 }
 
 template <class Value>
-void store(std::byte* to, Value value)
+void store(Value value, const QVEntry& entry, tagQVTabletInfo& record)
 {
-    std::memcpy(to, &value, sizeof value);
+    std::memcpy(reinterpret_cast<std::byte*>(&record) + entry.offset, &value, sizeof value);
 }
 
 bool isAscii(std::string_view text)
@@ -58,100 +58,121 @@ std::pair<std::int64_t, std::int64_t> range(QVFieldType type)
     return {0, 0};
 }
 
-QVEntryResult storeNumber(QVFieldType type, platform::Number number, std::byte* to)
+QVEntryResult storeNumber(platform::Number number, const QVEntry& entry, tagQVTabletInfo& record)
 {
     const std::int64_t whole = number.longValue();
-    switch (type) {
+    switch (entry.type) {
     case QVFieldType::Int16:
     case QVFieldType::UInt16:
-        store(to, number.shortValue());
+        store(number.shortValue(), entry, record);
         break;
     case QVFieldType::UInt32:
-        store(to, static_cast<std::uint32_t>(whole));
+        store(static_cast<std::uint32_t>(whole), entry, record);
         break;
     case QVFieldType::Boolean:
-        store(to, static_cast<std::uint8_t>(number.boolValue() ? 1 : 0));
+        store(std::uint8_t{number.boolValue()}, entry, record);
         break;
     case QVFieldType::String:
         break;
     }
-    const auto [least, greatest] = range(type);
+    const auto [least, greatest] = range(entry.type);
     return number.isWhole() && whole >= least && whole <= greatest ? QVEntryResult::Copied
                                                                    : QVEntryResult::Truncated;
 }
 
+QVEntryResult storeString(std::string_view text, const QVEntry& entry, tagQVTabletInfo& record)
+{
+    QVString field{};
+    if (text.size() >= field.size() || !isAscii(text)) {
+        return QVEntryResult::Unfit;
+    }
+    std::ranges::copy(text, field.begin());
+    store(field, entry, record);
+    return QVEntryResult::Copied;
+}
+
 } // namespace
 
-QVEntryResult QVReadEntry(
-    const platform::Dictionary& dictionary, const QVField& field, std::byte* base)
+std::string QVEntryPath(const QVEntry& entry)
 {
-    std::byte* const to = base + field.offset;
-    if (field.type == QVFieldType::String) {
-        const auto text = dictionary.string(field.key);
-        if (text && (text->size() >= kQVStringSize || !isAscii(*text))) {
-            return QVEntryResult::Unfit;
-        }
-        if (text) {
-            std::fill_n(
-                std::copy_n(reinterpret_cast<const std::byte*>(text->data()), text->size(), to),
-                kQVStringSize - text->size(), std::byte{0});
-            return QVEntryResult::Copied;
-        }
-    } else if (const auto number = dictionary.number(field.key)) {
-        return storeNumber(field.type, *number, to);
+    std::string path = std::string(entry.section->key) + '/';
+    if (entry.slot != nullptr) {
+        path += std::string(entry.slot) + '/';
     }
-    return dictionary.kind(field.key) == platform::EntryKind::Absent ? QVEntryResult::Absent
+    return path + entry.key;
+}
+
+platform::Dictionary QVEntryDictionary(const platform::Dictionary& root, const QVEntry& entry)
+{
+    const platform::Dictionary section = root.dictionary(entry.section->key);
+    return entry.slot == nullptr ? section : section.dictionary(entry.slot);
+}
+
+QVEntryResult QVReadEntry(
+    const platform::Dictionary& dictionary, const QVEntry& entry, tagQVTabletInfo& record)
+{
+    if (entry.type == QVFieldType::String) {
+        if (const auto text = dictionary.string(entry.key)) {
+            return storeString(*text, entry, record);
+        }
+    } else if (const auto number = dictionary.number(entry.key)) {
+        return storeNumber(*number, entry, record);
+    }
+    return dictionary.kind(entry.key) == platform::EntryKind::Absent ? QVEntryResult::Absent
                                                                      : QVEntryResult::WrongType;
 }
 
-bool QVWriteEntry(platform::Dictionary dictionary, const QVField& field, const std::byte* base)
+bool QVWriteEntry(
+    platform::Dictionary dictionary, const QVEntry& entry, const tagQVTabletInfo& record)
 {
-    switch (field.type) {
+    switch (entry.type) {
     case QVFieldType::String: {
-        const std::string text = QVFieldString(field, base);
+        const std::string text = QVFieldText(entry, record);
         if (!isWritable(text)) {
             return false;
         }
-        dictionary.setString(field.key, text);
+        dictionary.setString(entry.key, text);
         return true;
     }
     case QVFieldType::UInt16:
         // The file has always held signed numbers here: 40000 stands as -25536.
-        dictionary.setInteger(field.key, load<std::int16_t>(base + field.offset));
+        dictionary.setInteger(entry.key, load<std::int16_t>(entry, record));
         return true;
     case QVFieldType::Boolean:
-        dictionary.setBoolean(field.key, QVFieldNumber(field, base) != 0);
+        dictionary.setBoolean(entry.key, QVFieldNumber(entry, record) != 0);
         return true;
     case QVFieldType::Int16:
     case QVFieldType::UInt32:
-        dictionary.setInteger(field.key, QVFieldNumber(field, base));
+        dictionary.setInteger(entry.key, QVFieldNumber(entry, record));
         return true;
     }
     return false;
 }
 
-std::int64_t QVFieldNumber(const QVField& field, const std::byte* base)
+std::int64_t QVFieldNumber(const QVEntry& entry, const tagQVTabletInfo& record)
 {
-    const std::byte* const from = base + field.offset;
-    switch (field.type) {
+    switch (entry.type) {
     case QVFieldType::Int16:
-        return load<std::int16_t>(from);
+        return load<std::int16_t>(entry, record);
     case QVFieldType::UInt16:
-        return load<std::uint16_t>(from);
+        return load<std::uint16_t>(entry, record);
     case QVFieldType::UInt32:
-        return load<std::uint32_t>(from);
+        return load<std::uint32_t>(entry, record);
     case QVFieldType::Boolean:
-        return load<std::uint8_t>(from);
+        return load<std::uint8_t>(entry, record);
     case QVFieldType::String:
         break;
     }
     return 0;
 }
 
-std::string QVFieldString(const QVField& field, const std::byte* base)
+std::string QVFieldText(const QVEntry& entry, const tagQVTabletInfo& record)
 {
-    const auto* const text = reinterpret_cast<const char*>(base + field.offset);
-    return {text, ::strnlen(text, kQVStringSize)};
+    if (entry.type != QVFieldType::String) {
+        return std::to_string(QVFieldNumber(entry, record));
+    }
+    const auto text = load<QVString>(entry, record);
+    return {text.begin(), std::ranges::find(text, '\0')};
 }
 
 const char* QVKindName(platform::EntryKind kind)

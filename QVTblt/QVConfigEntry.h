@@ -24,6 +24,12 @@ enum class QVEntryResult : std::uint8_t {
     Unfit, ///< a string that is too long or not ASCII; the field keeps its value
 };
 
+/** The entry's path: "Pen/Speed", or "Key/Key3/App" in a slot. */
+std::string QVEntryPath(const QVEntry& entry);
+
+/** The dictionary of the file that an entry belongs to; a handle on none where there is none. */
+platform::Dictionary QVEntryDictionary(const platform::Dictionary& root, const QVEntry& entry);
+
 /**
  * Copies an entry into its field.
  *
@@ -32,10 +38,9 @@ enum class QVEntryResult : std::uint8_t {
  * field becomes zero.
  *
  * @param dictionary where the entry stands; one that does not exist has no entries
- * @param base first byte of the record or the slot that the field's offset counts from
  */
 QVEntryResult QVReadEntry(
-    const platform::Dictionary& dictionary, const QVField& field, std::byte* base);
+    const platform::Dictionary& dictionary, const QVEntry& entry, tagQVTabletInfo& record);
 
 /**
  * Sets an entry from its field, whether or not it was there. A string that is not ASCII, or holds a
@@ -43,13 +48,14 @@ QVEntryResult QVReadEntry(
  *
  * @return false when the entry was left
  */
-bool QVWriteEntry(platform::Dictionary dictionary, const QVField& field, const std::byte* base);
+bool QVWriteEntry(
+    platform::Dictionary dictionary, const QVEntry& entry, const tagQVTabletInfo& record);
 
-/** The number in a field of any type but String. */
-std::int64_t QVFieldNumber(const QVField& field, const std::byte* base);
+/** The number in an entry's field; 0 when it is a string. */
+std::int64_t QVFieldNumber(const QVEntry& entry, const tagQVTabletInfo& record);
 
-/** The bytes of a String field before its NUL; all of them when it has none. */
-std::string QVFieldString(const QVField& field, const std::byte* base);
+/** The value in an entry's field: a string's bytes before its NUL, or a number in decimal. */
+std::string QVFieldText(const QVEntry& entry, const tagQVTabletInfo& record);
 
 /** What an entry's kind is called in messages: "a string", "an array". */
 const char* QVKindName(platform::EntryKind kind);

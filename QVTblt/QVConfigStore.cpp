@@ -11,6 +11,9 @@
 
 #include <QLoggingCategory>
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -19,11 +22,6 @@ namespace {
 Q_LOGGING_CATEGORY(lcStore, "org.quorvia.tablet.store", QtInfoMsg)
 
 constexpr const char* kConfigFolder = "~/Library/Preferences/QuorviaTablet/config/";
-
-std::byte* slotBytes(std::size_t slot)
-{
-    return reinterpret_cast<std::byte*>(&qvTabletInfo) + QVSlotOffset(slot);
-}
 
 /** Whether there is such a slot; logs one that there is not. */
 bool isSlot(std::int32_t i)
@@ -36,35 +34,35 @@ bool isSlot(std::int32_t i)
 }
 
 /** Copies the entries of one dictionary; logs those that are there but do not fit. */
-void readEntries(const platform::Dictionary& dictionary, const char* name,
-    std::span<const QVField> fields, std::byte* base)
+void readEntries(
+    const platform::Dictionary& dictionary, const char* name, std::span<const QVEntry> entries)
 {
-    for (const QVField& field : fields) {
-        switch (QVReadEntry(dictionary, field, base)) {
+    for (const QVEntry& entry : entries) {
+        switch (QVReadEntry(dictionary, entry, qvTabletInfo)) {
         case QVEntryResult::Copied:
         case QVEntryResult::Truncated:
         case QVEntryResult::Absent:
             break;
         case QVEntryResult::WrongType:
-            qCWarning(lcStore, "skipped %s of %s: %s where %s belongs", field.key, name,
-                QVKindName(dictionary.kind(field.key)),
-                field.type == QVFieldType::String ? "a string" : "a number");
+            qCWarning(lcStore, "skipped %s of %s: %s where %s belongs", entry.key, name,
+                QVKindName(dictionary.kind(entry.key)),
+                entry.type == QVFieldType::String ? "a string" : "a number");
             break;
         case QVEntryResult::Unfit:
             qCWarning(lcStore, "skipped %s of %s: longer than %zu characters, or not ASCII",
-                field.key, name, kQVStringSize - 1);
+                entry.key, name, kQVStringSize - 1);
             break;
         }
     }
 }
 
-void writeEntries(const platform::Dictionary& dictionary, const char* name,
-    std::span<const QVField> fields, const std::byte* base)
+void writeEntries(
+    const platform::Dictionary& dictionary, const char* name, std::span<const QVEntry> entries)
 {
-    for (const QVField& field : fields) {
-        if (!QVWriteEntry(dictionary, field, base)) {
+    for (const QVEntry& entry : entries) {
+        if (!QVWriteEntry(dictionary, entry, qvTabletInfo)) {
             qCWarning(
-                lcStore, "kept the old %s of %s: the new one cannot be written", field.key, name);
+                lcStore, "kept the old %s of %s: the new one cannot be written", entry.key, name);
         }
     }
 }
@@ -122,30 +120,10 @@ void tellFailure(QLatin1String name, const platform::PropertyListError& error)
     platform::notifications().post({name, nullptr, {}, QString::fromStdString(error.message)});
 }
 
-/** Whether a field is nothing that the user has chosen: it is of the moment, or follows. */
-bool isOfTheMoment(const QVSection& section, const QVField& field)
-{
-    if (section.fields.data() != kQVMonitorFields.data()) {
-        return false;
-    }
-    switch (field.offset) {
-    case offsetof(tagQVTabletInfo, Monitor.disableFlag):
-    case offsetof(tagQVTabletInfo, Monitor.XOrg):
-    case offsetof(tagQVTabletInfo, Monitor.Width):
-    case offsetof(tagQVTabletInfo, Monitor.YOrg):
-    case offsetof(tagQVTabletInfo, Monitor.Height):
-        return true;
-    default:
-        return false;
-    }
-}
-
-bool isSame(const QVField& field, const std::byte* one, const std::byte* other)
-{
-    return field.type == QVFieldType::String
-        ? QVFieldString(field, one) == QVFieldString(field, other)
-        : QVFieldNumber(field, one) == QVFieldNumber(field, other);
-}
+/** What the user does not choose: it is of the moment, or follows from num. */
+constexpr std::array kNotChosen{offsetof(tagQVTabletInfo, Monitor.disableFlag),
+    offsetof(tagQVTabletInfo, Monitor.XOrg), offsetof(tagQVTabletInfo, Monitor.Width),
+    offsetof(tagQVTabletInfo, Monitor.YOrg), offsetof(tagQVTabletInfo, Monitor.Height)};
 
 } // namespace
 
@@ -196,16 +174,11 @@ void QVConfigStore::WriteQVConfigPlist()
 
 bool QVConfigStore::hasUnsavedFields() const
 {
-    const auto* const record = reinterpret_cast<const std::byte*>(&qvTabletInfo);
-    const auto* const file = reinterpret_cast<const std::byte*>(&mInFile);
-    bool isChanged = false;
-    QVForEachField(
-        [&](const QVSection& section, const char*, const QVField& field, std::size_t base) {
-            isChanged = isChanged
-                || (section.saved && !isOfTheMoment(section, field)
-                    && !isSame(field, record + base, file + base));
-        });
-    return isChanged;
+    return std::ranges::any_of(kQVEntries, [this](const QVEntry& entry) {
+        return entry.section->saved
+            && std::ranges::find(kNotChosen, entry.offset) == kNotChosen.end()
+            && QVFieldText(entry, qvTabletInfo) != QVFieldText(entry, mInFile);
+    });
 }
 
 std::optional<platform::PropertyList> QVConfigStore::loadRecord(const std::string& path,
@@ -213,8 +186,8 @@ std::optional<platform::PropertyList> QVConfigStore::loadRecord(const std::strin
 {
     std::optional<platform::PropertyList> list = platform::PropertyList::load(path, error, source);
     if (list) {
-        for (const QVSection& section : kQVSections) {
-            readSection(dictionaryIn(list->root(), section.key), section);
+        for (const QVSection* const section : kQVSections) {
+            readSection(dictionaryIn(list->root(), section->key), *section);
         }
     }
     return list;
@@ -226,10 +199,10 @@ bool QVConfigStore::saveRecord(const std::string& path, platform::PropertyListEr
     if (!list) {
         return false;
     }
-    for (const QVSection& section : kQVSections) {
-        const platform::Dictionary dictionary = list->root().dictionary(section.key);
-        if (section.saved && dictionary.exists()) {
-            writeSection(dictionary, section);
+    for (const QVSection* const section : kQVSections) {
+        const platform::Dictionary dictionary = list->root().dictionary(section->key);
+        if (section->saved && dictionary.exists()) {
+            writeSection(dictionary, *section);
         }
     }
     return list->save(path, error);
@@ -237,8 +210,7 @@ bool QVConfigStore::saveRecord(const std::string& path, platform::PropertyListEr
 
 void QVConfigStore::readSection(const platform::Dictionary& dictionary, const QVSection& section)
 {
-    readEntries(
-        dictionary, section.key, section.fields, reinterpret_cast<std::byte*>(&qvTabletInfo));
+    readEntries(dictionary, section.key, QVEntriesOf(section));
     for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
         const platform::Dictionary object = dictionaryIn(dictionary, kQVSlotKeys[slot]);
         if (object.exists()) {
@@ -249,8 +221,7 @@ void QVConfigStore::readSection(const platform::Dictionary& dictionary, const QV
 
 void QVConfigStore::writeSection(const platform::Dictionary& dictionary, const QVSection& section)
 {
-    writeEntries(
-        dictionary, section.key, section.fields, reinterpret_cast<const std::byte*>(&qvTabletInfo));
+    writeEntries(dictionary, section.key, QVEntriesOf(section));
     for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
         const platform::Dictionary object = dictionary.dictionary(kQVSlotKeys[slot]);
         if (object.exists()) {
@@ -264,8 +235,8 @@ void QVConfigStore::GetSubKeyInfo(std::int32_t i, const platform::Dictionary& ob
     if (!isSlot(i)) {
         return;
     }
-    const auto slot = static_cast<std::size_t>(i);
-    readEntries(object, kQVSlotKeys[slot], kQVSlotFields, slotBytes(slot));
+    const char* const slot = kQVSlotKeys[static_cast<std::size_t>(i)];
+    readEntries(object, slot, QVEntriesOf(kQVKeySection, slot));
 }
 
 void QVConfigStore::SetSubKeyInfo(std::int32_t i, const platform::Dictionary& object)
@@ -273,6 +244,6 @@ void QVConfigStore::SetSubKeyInfo(std::int32_t i, const platform::Dictionary& ob
     if (!isSlot(i)) {
         return;
     }
-    const auto slot = static_cast<std::size_t>(i);
-    writeEntries(object, kQVSlotKeys[slot], kQVSlotFields, slotBytes(slot));
+    const char* const slot = kQVSlotKeys[static_cast<std::size_t>(i)];
+    writeEntries(object, slot, QVEntriesOf(kQVKeySection, slot));
 }

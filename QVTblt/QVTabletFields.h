@@ -4,6 +4,7 @@
 
 #include "tagQVTabletInfo.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -11,9 +12,9 @@
 
 /**
  * @file
- * The one table of the record's fields: which entry of the configuration file belongs to which
- * bytes of the record. Loading, saving, checking and printing all walk it. A field that has no row
- * here is never loaded or saved and stays zero.
+ * The one table of the configuration file's entries: which bytes of the record each belongs to.
+ * Loading, saving, checking and printing all walk it. A field of the record that has no entry here
+ * is never loaded or saved and stays zero.
  */
 
 /** How an entry of the file becomes bytes of the record. */
@@ -25,108 +26,95 @@ enum class QVFieldType : std::uint8_t {
     String, ///< ASCII string; NUL-terminated, kQVStringSize bytes
 };
 
-/** One row: an entry of a dictionary and its place in that dictionary's part of the record. */
-struct QVField {
-    const char* key; ///< the entry's key in its dictionary
-    std::size_t offset; ///< bytes from the start of the record, or of the slot
-    QVFieldType type;
-};
-
-/** One of the file's four dictionaries. */
+/** One of the dictionaries at the root of the file. */
 struct QVSection {
-    const char* key; ///< the dictionary's key in the file
-    std::span<const QVField> fields;
+    const char* key;
     bool saved; ///< whether the panel writes it back
     bool hasSlots; ///< whether it also holds the slots' dictionaries, under kQVSlotKeys
 };
 
-inline constexpr std::array<QVField, 13> kQVTabletFields{{
-    {"VendorID", offsetof(tagQVTabletInfo, Basic.VendorID), QVFieldType::Int16},
-    {"ProductID", offsetof(tagQVTabletInfo, Basic.ProductID), QVFieldType::Int16},
-    {"VersionNumber", offsetof(tagQVTabletInfo, Basic.VersionNumber), QVFieldType::Int16},
-    {"InputLength", offsetof(tagQVTabletInfo, Basic.InputLength), QVFieldType::Int16},
-    {"KeyNum", offsetof(tagQVTabletInfo, Basic.KeyNum), QVFieldType::Int16},
-    {"ScrollNum", offsetof(tagQVTabletInfo, Basic.ScrollNum), QVFieldType::Int16},
-    {"PressureMax", offsetof(tagQVTabletInfo, Basic.PressureMax), QVFieldType::Int16},
-    {"TabletXmin", offsetof(tagQVTabletInfo, Basic.TabletXmin), QVFieldType::UInt16},
-    {"TabletXmax", offsetof(tagQVTabletInfo, Basic.TabletXmax), QVFieldType::UInt16},
-    {"TabletYmin", offsetof(tagQVTabletInfo, Basic.TabletYmin), QVFieldType::UInt16},
-    {"TabletYmax", offsetof(tagQVTabletInfo, Basic.TabletYmax), QVFieldType::UInt16},
-    {"isUpdate", offsetof(tagQVTabletInfo, Basic.isUpdate), QVFieldType::Boolean},
-    {"UpdateFilename", offsetof(tagQVTabletInfo, Basic.UpdateFilename), QVFieldType::String},
-}};
+inline constexpr QVSection kQVTabletSection{"Tablet", false, false};
+inline constexpr QVSection kQVPenSection{"Pen", true, false};
+inline constexpr QVSection kQVKeySection{"Key", true, true};
+inline constexpr QVSection kQVMonitorSection{"Monitor", true, false};
 
-inline constexpr std::array<QVField, 2> kQVPenFields{{
-    {"PressureThreshold", offsetof(tagQVTabletInfo, Pen.PressureThreshold), QVFieldType::Int16},
-    {"Speed", offsetof(tagQVTabletInfo, Pen.Speed), QVFieldType::Int16},
-}};
-
-inline constexpr std::array<QVField, 12> kQVMonitorFields{{
-    {"num", offsetof(tagQVTabletInfo, Monitor.num), QVFieldType::Int16},
-    {"rotationFlag", offsetof(tagQVTabletInfo, Monitor.rotationFlag), QVFieldType::Int16},
-    {"disableFlag", offsetof(tagQVTabletInfo, Monitor.disableFlag), QVFieldType::Int16},
-    {"Speed", offsetof(tagQVTabletInfo, Monitor.Speed), QVFieldType::Int16},
-    {"XOrg", offsetof(tagQVTabletInfo, Monitor.XOrg), QVFieldType::Int16},
-    {"Width", offsetof(tagQVTabletInfo, Monitor.Width), QVFieldType::Int16},
-    {"YOrg", offsetof(tagQVTabletInfo, Monitor.YOrg), QVFieldType::Int16},
-    {"Height", offsetof(tagQVTabletInfo, Monitor.Height), QVFieldType::Int16},
-    {"cTabletXmin", offsetof(tagQVTabletInfo, Monitor.cTabletXmin), QVFieldType::UInt16},
-    {"cTabletXmax", offsetof(tagQVTabletInfo, Monitor.cTabletXmax), QVFieldType::UInt16},
-    {"cTabletYmin", offsetof(tagQVTabletInfo, Monitor.cTabletYmin), QVFieldType::UInt16},
-    {"cTabletYmax", offsetof(tagQVTabletInfo, Monitor.cTabletYmax), QVFieldType::UInt16},
-}};
-
-inline constexpr std::array<QVField, 3> kQVKeyFields{{
-    {"Scrollbar0", offsetof(tagQVTabletInfo, Key.Scrollbar0), QVFieldType::Int16},
-    {"Scrollbar1", offsetof(tagQVTabletInfo, Key.Scrollbar1), QVFieldType::Int16},
-    {"ScrollSpeed", offsetof(tagQVTabletInfo, Key.ScrollSpeed), QVFieldType::Int16},
-}};
-
-/** The entries of a key slot's dictionary; offsets count from the start of the slot. */
-inline constexpr std::array<QVField, 4> kQVSlotFields{{
-    {"Valid", offsetof(tagQVTabletInfoSubKey, Valid), QVFieldType::Int16},
-    {"Mouse", offsetof(tagQVTabletInfoSubKey, Mouse), QVFieldType::Int16},
-    {"Key", offsetof(tagQVTabletInfoSubKey, Key), QVFieldType::UInt32},
-    {"App", offsetof(tagQVTabletInfoSubKey, App), QVFieldType::String},
-}};
-
-inline constexpr QVSection kQVTabletSection{"Tablet", kQVTabletFields, false, false};
-inline constexpr QVSection kQVPenSection{"Pen", kQVPenFields, true, false};
-inline constexpr QVSection kQVMonitorSection{"Monitor", kQVMonitorFields, true, false};
-inline constexpr QVSection kQVKeySection{"Key", kQVKeyFields, true, true};
-
-/** The dictionaries in the order in which they are loaded. */
-inline constexpr std::array<QVSection, 4> kQVSections{
-    kQVTabletSection, kQVPenSection, kQVKeySection, kQVMonitorSection};
+/** The sections in the order in which they are loaded. */
+inline constexpr std::array<const QVSection*, 4> kQVSections{
+    &kQVTabletSection, &kQVPenSection, &kQVKeySection, &kQVMonitorSection};
 
 /** Keys of the slots' dictionaries, in slot order. */
 inline constexpr std::array<const char*, kQVSlotCount> kQVSlotKeys{"Key0", "Key1", "Key2", "Key3",
     "Key4", "Key5", "Key6", "Key7", "Key8", "Key9", "Key10", "Key11", "Key12", "Key13", "Key14",
     "Key15", "penKeyU", "penKeyL"};
 
-/** Bytes from the start of the record to a slot; slot from 0 to kQVSlotCount - 1. */
-constexpr std::size_t QVSlotOffset(std::size_t slot)
-{
-    return offsetof(tagQVTabletInfo, Key.SubKey) + slot * sizeof(tagQVTabletInfoSubKey);
-}
+/** An entry of the file and its field in the record. */
+struct QVEntry {
+    const QVSection* section;
+    const char* slot; ///< the key of the slot's dictionary; null for an entry of the section itself
+    const char* key; ///< the entry's key in its dictionary
+    std::size_t offset; ///< bytes from the start of the record
+    QVFieldType type;
+};
 
-/**
- * Visits every field of the record that has an entry in the file, in the order of loading.
- *
- * @param visit called with the section, the slot's key (null for a field outside of the slots), the
- *     field, and the bytes from the start of the record to what the field's offset counts from
- */
-template <class Visit>
-void QVForEachField(const Visit& visit)
-{
-    for (const QVSection& section : kQVSections) {
-        for (const QVField& field : section.fields) {
-            visit(section, static_cast<const char*>(nullptr), field, std::size_t{0});
-        }
-        for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
-            for (const QVField& field : kQVSlotFields) {
-                visit(section, kQVSlotKeys[slot], field, QVSlotOffset(slot));
-            }
-        }
+/** All entries in the order in which they are loaded; those of one dictionary are consecutive. */
+inline constexpr std::array<QVEntry, 102> kQVEntries = [] {
+    using enum QVFieldType;
+    using Record = tagQVTabletInfo;
+    using Slot = tagQVTabletInfoSubKey;
+    std::array<QVEntry, 102> entries{};
+    std::size_t count = 0;
+    const auto add = [&](const QVSection& section, const char* key, std::size_t offset,
+                         QVFieldType type, const char* slot = nullptr) {
+        entries.at(count++) = {&section, slot, key, offset, type};
+    };
+    add(kQVTabletSection, "VendorID", offsetof(Record, Basic.VendorID), Int16);
+    add(kQVTabletSection, "ProductID", offsetof(Record, Basic.ProductID), Int16);
+    add(kQVTabletSection, "VersionNumber", offsetof(Record, Basic.VersionNumber), Int16);
+    add(kQVTabletSection, "InputLength", offsetof(Record, Basic.InputLength), Int16);
+    add(kQVTabletSection, "KeyNum", offsetof(Record, Basic.KeyNum), Int16);
+    add(kQVTabletSection, "ScrollNum", offsetof(Record, Basic.ScrollNum), Int16);
+    add(kQVTabletSection, "PressureMax", offsetof(Record, Basic.PressureMax), Int16);
+    add(kQVTabletSection, "TabletXmin", offsetof(Record, Basic.TabletXmin), UInt16);
+    add(kQVTabletSection, "TabletXmax", offsetof(Record, Basic.TabletXmax), UInt16);
+    add(kQVTabletSection, "TabletYmin", offsetof(Record, Basic.TabletYmin), UInt16);
+    add(kQVTabletSection, "TabletYmax", offsetof(Record, Basic.TabletYmax), UInt16);
+    add(kQVTabletSection, "isUpdate", offsetof(Record, Basic.isUpdate), Boolean);
+    add(kQVTabletSection, "UpdateFilename", offsetof(Record, Basic.UpdateFilename), String);
+    add(kQVPenSection, "PressureThreshold", offsetof(Record, Pen.PressureThreshold), Int16);
+    add(kQVPenSection, "Speed", offsetof(Record, Pen.Speed), Int16);
+    add(kQVKeySection, "Scrollbar0", offsetof(Record, Key.Scrollbar0), Int16);
+    add(kQVKeySection, "Scrollbar1", offsetof(Record, Key.Scrollbar1), Int16);
+    add(kQVKeySection, "ScrollSpeed", offsetof(Record, Key.ScrollSpeed), Int16);
+    for (std::size_t i = 0; i < kQVSlotCount; ++i) {
+        const char* const slot = kQVSlotKeys[i];
+        const std::size_t start = offsetof(Record, Key.SubKey) + i * sizeof(Slot);
+        add(kQVKeySection, "Valid", start + offsetof(Slot, Valid), Int16, slot);
+        add(kQVKeySection, "Mouse", start + offsetof(Slot, Mouse), Int16, slot);
+        add(kQVKeySection, "Key", start + offsetof(Slot, Key), UInt32, slot);
+        add(kQVKeySection, "App", start + offsetof(Slot, App), String, slot);
     }
+    add(kQVMonitorSection, "num", offsetof(Record, Monitor.num), Int16);
+    add(kQVMonitorSection, "rotationFlag", offsetof(Record, Monitor.rotationFlag), Int16);
+    add(kQVMonitorSection, "disableFlag", offsetof(Record, Monitor.disableFlag), Int16);
+    add(kQVMonitorSection, "Speed", offsetof(Record, Monitor.Speed), Int16);
+    add(kQVMonitorSection, "XOrg", offsetof(Record, Monitor.XOrg), Int16);
+    add(kQVMonitorSection, "Width", offsetof(Record, Monitor.Width), Int16);
+    add(kQVMonitorSection, "YOrg", offsetof(Record, Monitor.YOrg), Int16);
+    add(kQVMonitorSection, "Height", offsetof(Record, Monitor.Height), Int16);
+    add(kQVMonitorSection, "cTabletXmin", offsetof(Record, Monitor.cTabletXmin), UInt16);
+    add(kQVMonitorSection, "cTabletXmax", offsetof(Record, Monitor.cTabletXmax), UInt16);
+    add(kQVMonitorSection, "cTabletYmin", offsetof(Record, Monitor.cTabletYmin), UInt16);
+    add(kQVMonitorSection, "cTabletYmax", offsetof(Record, Monitor.cTabletYmax), UInt16);
+    return entries;
+}();
+static_assert(kQVEntries.back().key != nullptr, "the count is right");
+
+/** The entries of a section's own dictionary or, with a slot's key, of that slot's. */
+constexpr std::span<const QVEntry> QVEntriesOf(const QVSection& section, const char* slot = nullptr)
+{
+    const auto isOfIt = [&](const QVEntry& entry) {
+        return entry.section == &section && entry.slot == slot;
+    };
+    const auto first = std::ranges::find_if(kQVEntries, isOfIt);
+    return {first, std::ranges::find_if_not(first, kQVEntries.end(), isOfIt)};
 }

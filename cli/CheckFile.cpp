@@ -25,13 +25,13 @@ void printLine(const char* verdict, const QString& path, const QString& remark =
     std::printf("%-9s %s%s\n", verdict, qUtf8Printable(path), qUtf8Printable(tail));
 }
 
-void checkEntry(const platform::Dictionary& dictionary, const QString& path, const QVField& field,
-    std::byte* base, Tally& tally)
+void checkEntry(const platform::Dictionary& root, const QVEntry& entry, Tally& tally)
 {
-    const QVEntryResult result = QVReadEntry(dictionary, field, base);
-    const QString value = field.type == QVFieldType::String
-        ? QString::fromStdString(QVFieldString(field, base))
-        : QString::number(QVFieldNumber(field, base));
+    tagQVTabletInfo record{};
+    const platform::Dictionary dictionary = QVEntryDictionary(root, entry);
+    const QVEntryResult result = QVReadEntry(dictionary, entry, record);
+    const QString path = QString::fromStdString(QVEntryPath(entry));
+    const QString value = QString::fromStdString(QVFieldText(entry, record));
     ++(result == QVEntryResult::Copied ? tally.good : tally.bad);
     switch (result) {
     case QVEntryResult::Copied:
@@ -46,8 +46,8 @@ void checkEntry(const platform::Dictionary& dictionary, const QString& path, con
     case QVEntryResult::WrongType:
         printLine("wrong", path,
             QStringLiteral("%1 where %2 belongs")
-                .arg(QLatin1String(QVKindName(dictionary.kind(field.key))),
-                    field.type == QVFieldType::String ? QStringLiteral("a string")
+                .arg(QLatin1String(QVKindName(dictionary.kind(entry.key))),
+                    entry.type == QVFieldType::String ? QStringLiteral("a string")
                                                       : QStringLiteral("a number")));
         break;
     case QVEntryResult::Unfit:
@@ -70,38 +70,34 @@ void listUnknown(
     }
 }
 
-bool isField(std::span<const QVField> fields, const std::string& key)
-{
-    return std::ranges::find(fields, key, &QVField::key) != fields.end();
-}
-
-bool isSlot(const std::string& key)
-{
-    return std::ranges::find(kQVSlotKeys, key) != kQVSlotKeys.end();
-}
-
 void listAllUnknown(const platform::Dictionary& root, Tally& tally)
 {
+    const auto isEntry = [](const QVSection& section, const char* slot) {
+        return [entries = QVEntriesOf(section, slot)](const std::string& key) {
+            return std::ranges::find(entries, key, &QVEntry::key) != entries.end();
+        };
+    };
     listUnknown(
         root, {},
         [](const std::string& key) {
             return std::ranges::find(kQVSections, key, &QVSection::key) != kQVSections.end();
         },
         tally);
-    for (const QVSection& section : kQVSections) {
-        const platform::Dictionary dictionary = root.dictionary(section.key);
-        const QString prefix = QString::fromLatin1(section.key) + QLatin1Char('/');
+    for (const QVSection* const section : kQVSections) {
+        const platform::Dictionary dictionary = root.dictionary(section->key);
+        const QString prefix = QString::fromLatin1(section->key) + QLatin1Char('/');
         listUnknown(
             dictionary, prefix,
-            [&](const std::string& key) {
-                return isField(section.fields, key) || (section.hasSlots && isSlot(key));
+            [section, isOfSection = isEntry(*section, nullptr)](const std::string& key) {
+                return isOfSection(key)
+                    || (section->hasSlots
+                        && std::ranges::find(kQVSlotKeys, key) != kQVSlotKeys.end());
             },
             tally);
-        for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
-            listUnknown(
-                dictionary.dictionary(kQVSlotKeys[slot]),
+        for (std::size_t slot = 0; section->hasSlots && slot < kQVSlotCount; ++slot) {
+            listUnknown(dictionary.dictionary(kQVSlotKeys[slot]),
                 prefix + QString::fromLatin1(kQVSlotKeys[slot]) + QLatin1Char('/'),
-                [](const std::string& key) { return isField(kQVSlotFields, key); }, tally);
+                isEntry(*section, kQVSlotKeys[slot]), tally);
         }
     }
 }
@@ -117,15 +113,10 @@ bool checkFile(const QString& path)
         std::printf("unusable  %s\n", error.message.c_str());
         return false;
     }
-    tagQVTabletInfo record{};
     Tally tally;
-    QVForEachField(
-        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
-            const platform::Dictionary dictionary = list->root().dictionary(section.key);
-            checkEntry(slot == nullptr ? dictionary : dictionary.dictionary(slot),
-                entryPath(section, slot, field), field,
-                reinterpret_cast<std::byte*>(&record) + base, tally);
-        });
+    for (const QVEntry& entry : kQVEntries) {
+        checkEntry(list->root(), entry, tally);
+    }
     listAllUnknown(list->root(), tally);
     std::printf("%d of %d entries are usable, %d unknown ones are kept\n", tally.good,
         tally.good + tally.bad, tally.unknown);

@@ -5,6 +5,7 @@
 #include "AppleEvents.h"
 #include "CheckFile.h"
 #include "Client.h"
+#include "QVConfigEntry.h"
 #include "QVConfigStore.h"
 #include "QVTabletModels.h"
 #include "RecordText.h"
@@ -49,17 +50,6 @@ std::optional<platform::PropertyList> loadTablet(QVConfigStore& store, QString& 
     auto list = store.loadTabletsRecord(error);
     why = QString::fromStdString(error.message);
     return list;
-}
-
-/** Whether the file has the dictionary that an entry belongs into: the panel adds none. */
-bool hasRoom(const platform::PropertyList& list, const QString& entry)
-{
-    platform::Dictionary dictionary = list.root();
-    const QStringList path = entry.split(QLatin1Char('/'));
-    for (const QString& key : path.mid(0, path.size() - 1)) {
-        dictionary = dictionary.dictionary(key.toUtf8().constData());
-    }
-    return dictionary.exists();
 }
 
 /** Pushes the record and waits for the driver. @return why it was not taken; empty on success */
@@ -169,10 +159,11 @@ int runPush()
 
 int runSet(const QString& entry, const QString& value)
 {
-    const std::optional<RecordEntry> found = findEntry(entry);
-    if (!found || !found->saved) {
-        fail(found ? QStringLiteral("%1 belongs to the tablet and cannot be set").arg(entry)
-                   : QStringLiteral("there is no entry %1; 'show' lists them all").arg(entry));
+    const QVEntry* const found = findEntry(entry);
+    if (found == nullptr || !found->section->saved) {
+        fail(found != nullptr
+                ? QStringLiteral("%1 belongs to the tablet and cannot be set").arg(entry)
+                : QStringLiteral("there is no entry %1; 'show' lists them all").arg(entry));
         return kExitUsage;
     }
     QVConfigStore store;
@@ -181,7 +172,8 @@ int runSet(const QString& entry, const QString& value)
     if (!list) {
         return fail(why);
     }
-    if (!hasRoom(*list, entry)) {
+    // The panel adds no dictionaries.
+    if (!QVEntryDictionary(list->root(), *found).exists()) {
         return fail(QStringLiteral("the tablet's file has no place for %1").arg(entry));
     }
     why = setEntry(*GetqvTabletInfo(), *found, value);

@@ -7,88 +7,60 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
+
 namespace {
 
-const std::byte* bytesAt(const tagQVTabletInfo& record, std::size_t base)
+QJsonValue jsonValue(const QVEntry& entry, const tagQVTabletInfo& record)
 {
-    return reinterpret_cast<const std::byte*>(&record) + base;
-}
-
-QString stringValue(const QVField& field, const std::byte* bytes)
-{
-    return QString::fromLatin1(QVFieldString(field, bytes).c_str());
+    switch (entry.type) {
+    case QVFieldType::String:
+        return QString::fromLatin1(QVFieldText(entry, record).c_str());
+    case QVFieldType::Boolean:
+        return QVFieldNumber(entry, record) != 0;
+    default:
+        return static_cast<qint64>(QVFieldNumber(entry, record));
+    }
 }
 
 } // namespace
-
-QString entryPath(const QVSection& section, const char* slot, const QVField& field)
-{
-    QString path = QString::fromLatin1(section.key) + QLatin1Char('/');
-    if (slot != nullptr) {
-        path += QString::fromLatin1(slot) + QLatin1Char('/');
-    }
-    return path + QString::fromLatin1(field.key);
-}
 
 QString recordTable(const tagQVTabletInfo& record)
 {
     constexpr int kColumn = 26;
     QString table;
-    QVForEachField(
-        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
-            const std::byte* const bytes = bytesAt(record, base);
-            const QString value = field.type == QVFieldType::String
-                ? stringValue(field, bytes)
-                : QString::number(QVFieldNumber(field, bytes));
-            QString line = entryPath(section, slot, field);
-            if (!value.isEmpty()) {
-                line = line.leftJustified(kColumn) + value;
-            }
-            table += line + QLatin1Char('\n');
-        });
+    for (const QVEntry& entry : kQVEntries) {
+        const QString path = QString::fromStdString(QVEntryPath(entry));
+        const QString value = QString::fromLatin1(QVFieldText(entry, record).c_str());
+        table += (value.isEmpty() ? path : path.leftJustified(kColumn) + value) + QLatin1Char('\n');
+    }
     return table;
 }
 
 QByteArray recordJson(const tagQVTabletInfo& record)
 {
-    QJsonObject sections;
-    QVForEachField(
-        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
-            const std::byte* const bytes = bytesAt(record, base);
-            QJsonValue value;
-            if (field.type == QVFieldType::String) {
-                value = stringValue(field, bytes);
-            } else if (field.type == QVFieldType::Boolean) {
-                value = QVFieldNumber(field, bytes) != 0;
-            } else {
-                value = static_cast<qint64>(QVFieldNumber(field, bytes));
+    QJsonObject root;
+    for (const QVSection* const section : kQVSections) {
+        const auto object = [&](const char* slot) {
+            QJsonObject entries;
+            for (const QVEntry& entry : QVEntriesOf(*section, slot)) {
+                entries.insert(QLatin1String(entry.key), jsonValue(entry, record));
             }
-            const QString sectionKey = QString::fromLatin1(section.key);
-            const QString key = QString::fromLatin1(field.key);
-            QJsonObject entries = sections.value(sectionKey).toObject();
-            if (slot == nullptr) {
-                entries.insert(key, value);
-            } else {
-                const QString slotKey = QString::fromLatin1(slot);
-                QJsonObject slotEntries = entries.value(slotKey).toObject();
-                slotEntries.insert(key, value);
-                entries.insert(slotKey, slotEntries);
-            }
-            sections.insert(sectionKey, entries);
-        });
-    return QJsonDocument(sections).toJson();
+            return entries;
+        };
+        QJsonObject entries = object(nullptr);
+        for (std::size_t slot = 0; section->hasSlots && slot < kQVSlotCount; ++slot) {
+            entries.insert(QLatin1String(kQVSlotKeys[slot]), object(kQVSlotKeys[slot]));
+        }
+        root.insert(QLatin1String(section->key), entries);
+    }
+    return QJsonDocument(root).toJson();
 }
 
-std::optional<RecordEntry> findEntry(const QString& path)
+const QVEntry* findEntry(const QString& path)
 {
-    std::optional<RecordEntry> found;
-    QVForEachField(
-        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
-            if (entryPath(section, slot, field) == path) {
-                found = RecordEntry{field, base, section.saved};
-            }
-        });
-    return found;
+    const auto found = std::ranges::find(kQVEntries, path.toStdString(), QVEntryPath);
+    return found == kQVEntries.end() ? nullptr : &*found;
 }
 
 std::optional<qint64> numberIn(const QString& words)
@@ -99,23 +71,22 @@ std::optional<qint64> numberIn(const QString& words)
     return isNumber ? std::optional(number) : std::nullopt;
 }
 
-QString setEntry(tagQVTabletInfo& record, const RecordEntry& entry, const QString& value)
+QString setEntry(tagQVTabletInfo& record, const QVEntry& entry, const QString& value)
 {
     // The way of an entry out of a file is also the way of a value from the command line.
     const platform::PropertyList list;
-    if (entry.field.type == QVFieldType::String) {
-        list.root().setString(entry.field.key, value.toStdString());
+    if (entry.type == QVFieldType::String) {
+        list.root().setString(entry.key, value.toStdString());
     } else {
         const std::optional<qint64> number = numberIn(value);
         if (!number) {
             return QStringLiteral("'%1' is no number").arg(value);
         }
-        list.root().setInteger(entry.field.key, *number);
+        list.root().setInteger(entry.key, *number);
     }
-    auto* const base = reinterpret_cast<std::byte*>(&record) + entry.base;
-    switch (QVReadEntry(list.root(), entry.field, base)) {
+    switch (QVReadEntry(list.root(), entry, record)) {
     case QVEntryResult::Copied:
-        return QVWriteEntry(list.root(), entry.field, base)
+        return QVWriteEntry(list.root(), entry, record)
             ? QString()
             : QStringLiteral("the text must not have control characters: no file could hold them");
     case QVEntryResult::Truncated:

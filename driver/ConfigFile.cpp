@@ -60,20 +60,16 @@ InstalledConfig installConfigFile(const QVTabletModel& model)
         return config;
     }
     const tagQVTabletInfo record = defaults(model);
-    const auto* const bytes = reinterpret_cast<const std::byte*>(&record);
     platform::PropertyList list;
-    for (const QVSection& section : kQVSections) {
-        platform::Dictionary dictionary = list.root().addDictionary(section.key);
-        for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
+    for (const QVSection* const section : kQVSections) {
+        platform::Dictionary dictionary = list.root().addDictionary(section->key);
+        for (std::size_t slot = 0; section->hasSlots && slot < kQVSlotCount; ++slot) {
             dictionary.addDictionary(kQVSlotKeys[slot]);
         }
     }
-    QVForEachField(
-        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
-            const platform::Dictionary dictionary = list.root().dictionary(section.key);
-            QVWriteEntry(
-                slot == nullptr ? dictionary : dictionary.dictionary(slot), field, bytes + base);
-        });
+    for (const QVEntry& entry : kQVEntries) {
+        QVWriteEntry(QVEntryDictionary(list.root(), entry), entry, record);
+    }
     platform::PropertyListError error;
     config.created = list.saveNew(path, error);
     config.error = QString::fromStdString(error.message);

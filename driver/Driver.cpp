@@ -15,9 +15,7 @@
 #include <QThread>
 
 #include <chrono>
-#include <cstddef>
 #include <cstdio>
-#include <cstring>
 #include <utility>
 
 using namespace platform;
@@ -41,12 +39,16 @@ QString senderOf(const AppleEvent& event)
     return name == nullptr ? QStringLiteral("somebody") : QString::fromUtf8(*name);
 }
 
-QString valueText(const QVField& field, const QByteArray& record, std::size_t base)
+/** The bytes of a whole record, as the record. */
+const tagQVTabletInfo& recordIn(const QByteArray& bytes)
 {
-    const auto* const bytes = reinterpret_cast<const std::byte*>(record.constData()) + base;
-    return field.type == QVFieldType::String
-        ? QStringLiteral("\"%1\"").arg(QString::fromLatin1(QVFieldString(field, bytes).c_str()))
-        : QString::number(QVFieldNumber(field, bytes));
+    return *reinterpret_cast<const tagQVTabletInfo*>(bytes.constData());
+}
+
+QString valueText(const QVEntry& entry, const tagQVTabletInfo& record)
+{
+    const QString text = QString::fromLatin1(QVFieldText(entry, record).c_str());
+    return entry.type == QVFieldType::String ? QStringLiteral("\"%1\"").arg(text) : text;
 }
 
 /** Lists the differences between two complete records, for the log. */
@@ -57,32 +59,18 @@ QString changes(const QByteArray& before, const QByteArray& after)
     }
     QStringList told;
     int count = 0;
-    QVForEachField([&](const QVSection& section, const char* slot, const QVField& field,
-                       std::size_t base) {
-        const QString was = valueText(field, before, base);
-        const QString is = valueText(field, after, base);
-        if (was == is || ++count > kMaxChangesTold) {
-            return;
+    for (const QVEntry& entry : kQVEntries) {
+        const QString was = valueText(entry, recordIn(before));
+        const QString is = valueText(entry, recordIn(after));
+        if (was != is && ++count <= kMaxChangesTold) {
+            told.append(QStringLiteral("%1 %2 -> %3")
+                            .arg(QString::fromStdString(QVEntryPath(entry)), was, is));
         }
-        const QString path = slot == nullptr
-            ? QString::fromLatin1(section.key)
-            : QString::fromLatin1(section.key) + QLatin1Char('/') + QString::fromLatin1(slot);
-        told.append(
-            QStringLiteral("%1/%2 %3 -> %4").arg(path, QString::fromLatin1(field.key), was, is));
-    });
+    }
     if (count > kMaxChangesTold) {
         told.append(QStringLiteral("and %1 more").arg(count - kMaxChangesTold));
     }
     return told.isEmpty() ? QStringLiteral("nothing changed") : told.join(QStringLiteral(", "));
-}
-
-/** Monitor/disableFlag of a complete record. */
-std::int16_t disableFlag(const QByteArray& record)
-{
-    std::int16_t flag = 0;
-    std::memcpy(
-        &flag, record.constData() + offsetof(tagQVTabletInfo, Monitor.disableFlag), sizeof flag);
-    return flag;
 }
 
 QString modelText(std::uint16_t productID)
@@ -374,7 +362,7 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
     mState.record = record;
     // Only a push from the panel itself ends its calibration; other programs push, too.
     if (const QByteArray* const sender = event.address.bytes()) {
-        if (disableFlag(record) == 1) {
+        if (recordIn(record).Monitor.disableFlag == 1) {
             beginCalibration(*sender);
         } else {
             endCalibration(*sender);

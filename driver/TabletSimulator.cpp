@@ -77,23 +77,17 @@ QByteArray TabletSimulator::LastRecord() const
 
 QVariantMap TabletSimulator::LastRecordDecoded() const
 {
-    const QByteArray record = mDriver.lastRecord();
+    const QByteArray bytes = mDriver.lastRecord();
     QVariantMap entries;
-    if (record.size() != kQVRecordSize) {
+    if (bytes.size() != kQVRecordSize) {
         return entries;
     }
-    QVForEachField(
-        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
-            const auto* const bytes = reinterpret_cast<const std::byte*>(record.constData()) + base;
-            QStringList path{QString::fromLatin1(section.key)};
-            if (slot != nullptr) {
-                path.append(QString::fromLatin1(slot));
-            }
-            path.append(QString::fromLatin1(field.key));
-            entries.insert(path.join(QLatin1Char('/')),
-                field.type == QVFieldType::String
-                    ? QVariant(QString::fromLatin1(QVFieldString(field, bytes).c_str()))
-                    : QVariant(static_cast<qlonglong>(QVFieldNumber(field, bytes))));
-        });
+    const auto& record = *reinterpret_cast<const tagQVTabletInfo*>(bytes.constData());
+    for (const QVEntry& entry : kQVEntries) {
+        entries.insert(QString::fromStdString(QVEntryPath(entry)),
+            entry.type == QVFieldType::String
+                ? QVariant(QString::fromLatin1(QVFieldText(entry, record).c_str()))
+                : QVariant(static_cast<qlonglong>(QVFieldNumber(entry, record))));
+    }
     return entries;
 }

@@ -20,20 +20,20 @@ using namespace platform;
 
 namespace {
 
-std::byte* recordBytes()
+std::byte* fieldOf(const QVEntry& entry, tagQVTabletInfo& record)
 {
-    return reinterpret_cast<std::byte*>(&qvTabletInfo);
+    return reinterpret_cast<std::byte*>(&record) + entry.offset;
 }
 
 /** Fills the record with a byte, but for the ends of its strings. */
 void fillRecord(int byte)
 {
     std::memset(&qvTabletInfo, byte, sizeof qvTabletInfo);
-    QVForEachField([](const QVSection&, const char*, const QVField& field, std::size_t base) {
-        if (field.type == QVFieldType::String) {
-            recordBytes()[base + field.offset + kQVStringSize - 1] = std::byte{0};
+    for (const QVEntry& entry : kQVEntries) {
+        if (entry.type == QVFieldType::String) {
+            fieldOf(entry, qvTabletInfo)[kQVStringSize - 1] = std::byte{0};
         }
-    });
+    }
 }
 
 bool sameRecord(const tagQVTabletInfo& one, const tagQVTabletInfo& other)
@@ -46,46 +46,37 @@ void requireOnlyFieldsDiffer(const tagQVTabletInfo& before, const tagQVTabletInf
 {
     tagQVTabletInfo one = before;
     tagQVTabletInfo other = after;
-    QVForEachField([&](const QVSection&, const char*, const QVField& field, std::size_t base) {
+    for (const QVEntry& entry : kQVEntries) {
         std::size_t size = 2;
-        if (field.type == QVFieldType::String) {
+        if (entry.type == QVFieldType::String) {
             size = kQVStringSize;
-            require(QVFieldString(field, reinterpret_cast<const std::byte*>(&other) + base).size()
-                    < kQVStringSize,
-                "a string ends within its field");
-        } else if (field.type == QVFieldType::UInt32) {
+            require(
+                QVFieldText(entry, other).size() < kQVStringSize, "a string ends within its field");
+        } else if (entry.type == QVFieldType::UInt32) {
             size = 4;
-        } else if (field.type == QVFieldType::Boolean) {
+        } else if (entry.type == QVFieldType::Boolean) {
             size = 1;
         }
-        std::memset(reinterpret_cast<char*>(&one) + base + field.offset, 0, size);
-        std::memset(reinterpret_cast<char*>(&other) + base + field.offset, 0, size);
-    });
+        std::memset(fieldOf(entry, one), 0, size);
+        std::memset(fieldOf(entry, other), 0, size);
+    }
     require(sameRecord(one, other), "a load changes nothing but the file's fields");
 }
 
 /** What the saved file says of a field is what the record held. */
 void requireStored(const Dictionary& root, const tagQVTabletInfo& record)
 {
-    QVForEachField(
-        [&](const QVSection& section, const char* slot, const QVField& field, std::size_t base) {
-            const Dictionary inSection = root.dictionary(section.key);
-            const Dictionary dictionary = slot == nullptr ? inSection : inSection.dictionary(slot);
-            tagQVTabletInfo scratch{};
-            auto* const to = reinterpret_cast<std::byte*>(&scratch) + base;
-            const QVEntryResult result = QVReadEntry(dictionary, field, to);
-            if (section.saved && dictionary.exists()) {
-                require(result == QVEntryResult::Copied, "a saved entry is whole");
-            }
-            if (result != QVEntryResult::Copied && result != QVEntryResult::Truncated) {
-                return;
-            }
-            const auto* const from = reinterpret_cast<const std::byte*>(&record) + base;
-            require(field.type == QVFieldType::String
-                    ? QVFieldString(field, to) == QVFieldString(field, from)
-                    : QVFieldNumber(field, to) == QVFieldNumber(field, from),
-                "a saved field is what was loaded");
-        });
+    for (const QVEntry& entry : kQVEntries) {
+        const Dictionary dictionary = QVEntryDictionary(root, entry);
+        tagQVTabletInfo scratch{};
+        const QVEntryResult result = QVReadEntry(dictionary, entry, scratch);
+        if (entry.section->saved && dictionary.exists()) {
+            require(result == QVEntryResult::Copied, "a saved entry is whole");
+        }
+        require((result != QVEntryResult::Copied && result != QVEntryResult::Truncated)
+                || QVFieldText(entry, scratch) == QVFieldText(entry, record),
+            "a saved field is what was loaded");
+    }
 }
 
 /** Saves the record. @return why that failed; empty when it did not */

@@ -6,20 +6,22 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
+#include <algorithm>
+#include <cstring>
 #include <string>
+#include <vector>
 
 using platform::PropertyList;
 
 namespace {
 
-/** A field with guard bytes around it, filled with a pattern. */
+/** A field in a record that is filled with a pattern. */
 class Field {
 public:
     explicit Field(QVFieldType type)
-        : mField{"k", kGuard, type}
+        : mEntry{&kQVPenSection, nullptr, "k", kOffset, type}
     {
-        mBytes.fill(kPattern);
+        std::memset(&mRecord, kPattern, sizeof mRecord);
     }
 
     QVEntryResult read(const QByteArray& value)
@@ -28,21 +30,22 @@ public:
         const auto list = PropertyList::parse(
             plist("<dict><key>k</key>" + value + "</dict>").toStdString(), error);
         EXPECT_TRUE(list) << error.message;
-        return list ? QVReadEntry(list->root(), mField, mBytes.data()) : QVEntryResult::Absent;
+        return list ? QVReadEntry(list->root(), mEntry, mRecord) : QVEntryResult::Absent;
     }
 
-    std::int64_t number() const { return QVFieldNumber(mField, mBytes.data()); }
-    std::string string() const { return QVFieldString(mField, mBytes.data()); }
-    char* text() { return reinterpret_cast<char*>(mBytes.data()) + kGuard; }
+    std::int64_t number() const { return QVFieldNumber(mEntry, mRecord); }
+    std::string string() const { return QVFieldText(mEntry, mRecord); }
+    char* text() { return reinterpret_cast<char*>(&mRecord) + kOffset; }
 
     /** How many bytes from the field's first one are no longer the pattern. */
     std::size_t changed() const
     {
+        const auto* const bytes = reinterpret_cast<const unsigned char*>(&mRecord);
         std::size_t last = 0;
-        for (std::size_t i = 0; i < mBytes.size(); ++i) {
-            if (mBytes[i] != kPattern) {
-                EXPECT_GE(i, kGuard);
-                last = i - kGuard + 1;
+        for (std::size_t i = 0; i < sizeof mRecord; ++i) {
+            if (bytes[i] != kPattern) {
+                EXPECT_GE(i, kOffset);
+                last = i - kOffset + 1;
             }
         }
         return last;
@@ -53,20 +56,60 @@ public:
     {
         PropertyList list;
         list.root().setString("k", "old");
-        taken = QVWriteEntry(list.root(), mField, mBytes.data());
+        taken = QVWriteEntry(list.root(), mEntry, mRecord);
         const auto number = list.root().number("k");
         return number ? std::to_string(number->longValue()) : std::string(*list.root().string("k"));
     }
 
 private:
-    static constexpr std::size_t kGuard = 16;
-    static constexpr std::byte kPattern{0xA5};
+    static constexpr std::size_t kOffset = 1000;
+    static constexpr unsigned char kPattern = 0xA5;
 
-    QVField mField;
-    std::array<std::byte, kGuard + kQVStringSize + kGuard> mBytes{};
+    QVEntry mEntry;
+    tagQVTabletInfo mRecord{};
 };
 
 } // namespace
+
+TEST(QVEntryPath, namesSectionSlotAndKey)
+{
+    std::string paths;
+    for (const std::size_t entry : {0, 13, 18, 21, 86, 89, 90, 101}) {
+        paths += QVEntryPath(kQVEntries[entry]) + '\n';
+    }
+    EXPECT_EQ(paths,
+        "Tablet/VendorID\nPen/PressureThreshold\nKey/Key0/Valid\nKey/Key0/App\n"
+        "Key/penKeyL/Valid\nKey/penKeyL/App\nMonitor/num\nMonitor/cTabletYmax\n");
+}
+
+TEST(QVEntryDictionary, isTheSectionsOrTheSlots)
+{
+    PropertyList list;
+    const QVEntry& ofSection = QVEntriesOf(kQVKeySection).front();
+    const QVEntry& ofSlot = QVEntriesOf(kQVKeySection, kQVSlotKeys[3]).front();
+    EXPECT_FALSE(QVEntryDictionary(list.root(), ofSection).exists());
+    platform::Dictionary section = list.root().addDictionary("Key");
+    EXPECT_FALSE(QVEntryDictionary(list.root(), ofSlot).exists());
+    section.addDictionary("Key3").setInteger("Valid", 6);
+    EXPECT_EQ(QVEntryDictionary(list.root(), ofSection).keys(), std::vector<std::string>{"Key3"});
+    EXPECT_EQ(QVEntryDictionary(list.root(), ofSlot).keys(), std::vector<std::string>{"Valid"});
+}
+
+TEST(QVFieldText, isAStringUpToItsNulOrANumberInDecimal)
+{
+    tagQVTabletInfo record = sampleRecord();
+    record.Basic.TabletXmax = 40000;
+    record.Monitor.XOrg = -3;
+    const auto text = [&record](const char* path) {
+        return QVFieldText(*std::ranges::find(kQVEntries, std::string(path), QVEntryPath), record);
+    };
+    EXPECT_EQ(text("Tablet/UpdateFilename"), "update.bin");
+    EXPECT_EQ(text("Tablet/isUpdate"), "1");
+    EXPECT_EQ(text("Tablet/TabletXmax"), "40000");
+    EXPECT_EQ(text("Monitor/XOrg"), "-3");
+    EXPECT_EQ(text("Key/penKeyL/App"), "/app/17");
+    EXPECT_EQ(text("Key/penKeyL/Key"), "317");
+}
 
 TEST(QVReadEntry, takesNumbersOfAnyKindByTheirValue)
 {
@@ -144,14 +187,13 @@ TEST(QVReadEntry, skipsWhatIsNoString)
 
 TEST(QVReadEntry, leavesAnAbsentEntrysFieldAlone)
 {
-    Field field(QVFieldType::Int16);
-    PropertyList list;
-    std::array<std::byte, 64> bytes{};
-    bytes.fill(std::byte{1});
-    EXPECT_EQ(QVReadEntry(list.root(), {"k", 0, QVFieldType::Int16}, bytes.data()),
-        QVEntryResult::Absent);
-    EXPECT_EQ(QVReadEntry({}, {"k", 0, QVFieldType::String}, bytes.data()), QVEntryResult::Absent);
-    EXPECT_EQ(bytes[0], std::byte{1});
+    const PropertyList list;
+    for (const QVEntry& entry : kQVEntries) {
+        tagQVTabletInfo record = sampleRecord();
+        EXPECT_EQ(QVReadEntry(list.root(), entry, record), QVEntryResult::Absent);
+        EXPECT_EQ(QVReadEntry({}, entry, record), QVEntryResult::Absent);
+        EXPECT_TRUE(sameBytes(record, sampleRecord()));
+    }
 }
 
 TEST(QVReadEntry, takesAStringThatLeavesRoomForItsEnd)

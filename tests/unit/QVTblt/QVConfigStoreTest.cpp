@@ -15,6 +15,7 @@
 #include <cstdio>
 #include <cstring>
 #include <limits>
+#include <set>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -211,48 +212,43 @@ TEST_F(QVConfigStoreFile, savesEveryFieldOfTheThreeSectionsAndNothingOfTheTablet
     qvTabletInfo = sample;
     // Every field that has an entry gets a value that no other has, and that the file has not.
     int number = -10'000;
-    auto* const record = reinterpret_cast<std::byte*>(&qvTabletInfo);
-    QVForEachField([&](const QVSection&, const char*, const QVField& field, std::size_t base) {
-        std::byte* const to = record + base + field.offset;
+    for (const QVEntry& entry : kQVEntries) {
+        std::byte* const to = reinterpret_cast<std::byte*>(&qvTabletInfo) + entry.offset;
         const auto value = static_cast<std::int16_t>(++number);
-        if (field.type == QVFieldType::String) {
+        if (entry.type == QVFieldType::String) {
             std::strcpy(reinterpret_cast<char*>(to), ("/opt/" + std::to_string(number)).c_str());
-        } else if (field.type == QVFieldType::UInt32) {
+        } else if (entry.type == QVFieldType::UInt32) {
             const std::uint32_t wide = 0xFFFF0000U | static_cast<std::uint16_t>(value);
             std::memcpy(to, &wide, sizeof wide);
-        } else if (field.type == QVFieldType::Boolean) {
+        } else if (entry.type == QVFieldType::Boolean) {
             *to = std::byte{0};
         } else {
             std::memcpy(to, &value, sizeof value);
         }
-    });
+    }
     EXPECT_EQ(write(), "");
 
     platform::PropertyListError error;
     const auto list = platform::PropertyList::load(mPath.toStdString(), error);
     ASSERT_TRUE(list) << error.message;
     int saved = 0;
-    QVForEachField([&](const QVSection& section, const char* slot, const QVField& field,
-                       std::size_t base) {
-        const std::string path =
-            std::string(section.key) + '/' + (slot == nullptr ? "" : slot) + '/' + field.key;
-        const platform::Dictionary inSection = list->root().dictionary(section.key);
-        const platform::Dictionary entries =
-            slot == nullptr ? inSection : inSection.dictionary(slot);
-        const bool isTablet = std::string_view(section.key) == "Tablet";
+    for (const QVEntry& entry : kQVEntries) {
+        const std::string path = QVEntryPath(entry);
+        const platform::Dictionary dictionary = QVEntryDictionary(list->root(), entry);
+        const bool isTablet = entry.section == &kQVTabletSection;
         saved += isTablet ? 0 : 1;
-        const auto* const from =
-            (isTablet ? reinterpret_cast<const std::byte*>(&sample) : record) + base;
-        if (field.type == QVFieldType::String) {
-            EXPECT_EQ(entries.string(field.key), QVFieldString(field, from)) << path;
-        } else if (field.type == QVFieldType::UInt16 && !isTablet) {
-            EXPECT_EQ(entries.number(field.key)->longValue(),
-                static_cast<std::int16_t>(QVFieldNumber(field, from)))
+        const tagQVTabletInfo& record = isTablet ? sample : qvTabletInfo;
+        if (entry.type == QVFieldType::String) {
+            EXPECT_EQ(dictionary.string(entry.key), QVFieldText(entry, record)) << path;
+        } else if (entry.type == QVFieldType::UInt16 && !isTablet) {
+            EXPECT_EQ(dictionary.number(entry.key)->longValue(),
+                static_cast<std::int16_t>(QVFieldNumber(entry, record)))
                 << path;
         } else {
-            EXPECT_EQ(entries.number(field.key)->longValue(), QVFieldNumber(field, from)) << path;
+            EXPECT_EQ(dictionary.number(entry.key)->longValue(), QVFieldNumber(entry, record))
+                << path;
         }
-    });
+    }
     EXPECT_EQ(saved, 89);
 }
 
@@ -541,23 +537,19 @@ TEST_F(QVConfigStoreFile, tellsOfEachFieldThatTheUserChoosesAndOfNoOther)
 {
     read();
     int chosen = 0;
-    QVForEachField([&](const QVSection& section, const char* slot, const QVField& field,
-                       std::size_t base) {
-        const bool isMoment = std::string_view(section.key) == "Monitor"
-            && (std::string_view(field.key) == "disableFlag"
-                || std::string_view(field.key) == "XOrg" || std::string_view(field.key) == "YOrg"
-                || std::string_view(field.key) == "Width"
-                || std::string_view(field.key) == "Height");
-        const bool isChosen = std::string_view(section.key) != "Tablet" && !isMoment;
+    const std::set<std::string> notChosen{
+        "Monitor/disableFlag", "Monitor/XOrg", "Monitor/YOrg", "Monitor/Width", "Monitor/Height"};
+    for (const QVEntry& entry : kQVEntries) {
+        const std::string path = QVEntryPath(entry);
+        const bool isChosen = !path.starts_with("Tablet/") && !notChosen.contains(path);
         chosen += isChosen ? 1 : 0;
-        char* const byte = reinterpret_cast<char*>(&qvTabletInfo) + base + field.offset;
+        char* const byte = reinterpret_cast<char*>(&qvTabletInfo) + entry.offset;
         const char before = *byte;
         *byte = static_cast<char>(before ^ 1);
-        EXPECT_EQ(mStore.hasUnsavedFields(), isChosen)
-            << section.key << '/' << (slot == nullptr ? "" : slot) << '/' << field.key;
+        EXPECT_EQ(mStore.hasUnsavedFields(), isChosen) << path;
         *byte = before;
         EXPECT_FALSE(mStore.hasUnsavedFields());
-    });
+    }
     EXPECT_EQ(chosen, 2 + 7 + 3 + 18 * 4);
 }
 

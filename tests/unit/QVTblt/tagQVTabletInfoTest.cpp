@@ -74,12 +74,12 @@ TEST(tagQVTabletInfo, liesInMemoryAsItTravels)
 TEST(QVTabletFields, coverEveryByteButTheReservedOnesOnce)
 {
     std::set<std::size_t> covered;
-    QVForEachField([&](const QVSection&, const char*, const QVField& field, std::size_t base) {
-        for (std::size_t i = 0; i < widthOf(field.type); ++i) {
-            EXPECT_TRUE(covered.insert(base + field.offset + i).second)
-                << field.key << " overlaps another at " << base + field.offset + i;
+    for (const QVEntry& entry : kQVEntries) {
+        for (std::size_t i = 0; i < widthOf(entry.type); ++i) {
+            EXPECT_TRUE(covered.insert(entry.offset + i).second)
+                << entry.key << " overlaps another at " << entry.offset + i;
         }
-    });
+    }
     std::set<std::size_t> reserved;
     for (std::size_t i = 0; i < 4; ++i) {
         reserved.insert(22 + i);
@@ -100,12 +100,29 @@ TEST(QVTabletFields, nameTheSlotsInTheOrderOfTheRecord)
     }
     EXPECT_STREQ(kQVSlotKeys[16], "penKeyU");
     EXPECT_STREQ(kQVSlotKeys[17], "penKeyL");
-    EXPECT_EQ(QVSlotOffset(17), 319U + 264 * 17);
+    for (std::size_t slot = 0; slot < kQVSlotCount; ++slot) {
+        const auto entries = QVEntriesOf(kQVKeySection, kQVSlotKeys[slot]);
+        ASSERT_EQ(entries.size(), 4U);
+        EXPECT_EQ(entries.front().offset, 319U + 264 * slot);
+    }
+}
+
+TEST(QVTabletFields, lieWithThoseOfTheirDictionary)
+{
+    std::size_t count = 0;
+    for (const QVSection* const section : kQVSections) {
+        count += QVEntriesOf(*section).size();
+        for (std::size_t slot = 0; section->hasSlots && slot < kQVSlotCount; ++slot) {
+            count += QVEntriesOf(*section, kQVSlotKeys[slot]).size();
+        }
+    }
+    EXPECT_EQ(count, kQVEntries.size());
+    EXPECT_TRUE(QVEntriesOf(kQVPenSection, kQVSlotKeys[0]).empty());
 }
 
 TEST(QVTabletFields, leaveTheTabletSectionOutOfSaving)
 {
-    for (const QVSection& section : kQVSections) {
-        EXPECT_EQ(section.saved, std::string(section.key) != "Tablet");
+    for (const QVSection* const section : kQVSections) {
+        EXPECT_EQ(section->saved, std::string(section->key) != "Tablet");
     }
 }
