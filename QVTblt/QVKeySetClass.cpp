@@ -152,7 +152,7 @@ void QVKeySetClass::SaveKeyData()
     }
     tagQVTabletInfoSubKey& slot =
         qvTabletInfo.Key.SubKey[static_cast<std::size_t>(mComboBox->tag())];
-    slot.Valid = 3;
+    slot.Valid = kQVKeyCombination;
     // The number is added to what DeleteOneSet() left there; so the stored files have it.
     slot.Key = static_cast<std::uint32_t>(mNum) << 24U | static_cast<std::uint32_t>(mKeyValue);
     mComboBox->setMaxVisibleItems(kStored);

@@ -18,6 +18,7 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <array>
 #include <span>
 
 using platform::Rect;
@@ -25,7 +26,6 @@ using platform::Rect;
 namespace {
 
 constexpr std::size_t kBankSize = 8;
-constexpr std::size_t kPenUpper = 16;
 
 /** What a box's maxVisibleItems has on top of the committed item's index. */
 constexpr int kCommitted = 100;
@@ -33,37 +33,27 @@ constexpr int kCommitted = 100;
 /** From a box to its number, in points. */
 constexpr double kLabelDistance = 32.0;
 
+/** What an item of a button's list stores in the button's slot. */
+struct Choice {
+    std::int16_t valid;
+    std::int16_t mouse; ///< stored for a mouse button only
+};
+
+/** In the order of QVKeyComboBox::Item. */
+constexpr std::array<Choice, 10> kChoices{
+    {{kQVNoAction, 0}, {kQVMouseButton, kQVLeftButton}, {kQVMouseButton, kQVRightButton},
+        {kQVMouseButton, kQVMiddleButton}, {kQVMouseButton, kQVBackButton}, {kQVApplication, 0},
+        {kQVKeyCombination, 0}, {kQVNextDisplay, 0}, {kQVFinePositioning, 0}, {kQVPauseTablet, 0}}};
+
 /** The item for a slot; NoAction where the slot says nothing that is known. */
 QVKeyComboBox::Item itemOf(const tagQVTabletInfoSubKey& slot)
 {
-    using enum QVKeyComboBox::Item;
-    switch (slot.Valid) {
-    case 1:
-        switch (slot.Mouse) {
-        case 0:
-            return LeftButton;
-        case 1:
-            return RightButton;
-        case 3:
-            return MiddleButton;
-        case 2:
-            return BackButton;
-        default:
-            return NoAction;
-        }
-    case 2:
-        return Application;
-    case 3:
-        return KeyCombination;
-    case 4:
-        return NextDisplay;
-    case 5:
-        return FinePositioning;
-    case 6:
-        return PauseTablet;
-    default:
-        return NoAction;
-    }
+    const auto* const found = std::ranges::find_if(kChoices, [&slot](const Choice& choice) {
+        return choice.valid == slot.Valid
+            && (choice.valid != kQVMouseButton || choice.mouse == slot.Mouse);
+    });
+    return found == kChoices.end() ? QVKeyComboBox::NoAction
+                                   : static_cast<QVKeyComboBox::Item>(found - kChoices.begin());
 }
 
 /** A field's text up to its NUL; bytes that are not ASCII show as replacement characters. */
@@ -216,11 +206,11 @@ void QVTblt_prefPanePref::InitComboBoxWithKey()
     layOutKeyPage(productID);
     mLaidOutProduct = productID;
 
-    for (std::size_t slot = 0; slot < kPenUpper; ++slot) {
+    for (std::size_t slot = 0; slot < kQVUpperPenSlot; ++slot) {
         InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
     }
     showStrip(*mKeyLScroll, qvTabletInfo.Key.Scrollbar0);
-    for (std::size_t slot = kPenUpper; slot < kQVSlotCount; ++slot) {
+    for (std::size_t slot = kQVUpperPenSlot; slot < kQVSlotCount; ++slot) {
         InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
     }
     showStrip(*mKeyRScroll, qvTabletInfo.Key.Scrollbar1);
@@ -283,7 +273,7 @@ void QVTblt_prefPanePref::layOutKeyPage(std::uint16_t productID)
     case QVKeyLayout::H:
         mKeyLScroll->hide();
         penKeyLower->setEnabled(false);
-        disable(std::span(mSlotBoxes).first(kPenUpper));
+        disable(std::span(mSlotBoxes).first(kQVUpperPenSlot));
         mScrollSpeed->setEnabled(false);
         break;
     }
@@ -294,7 +284,7 @@ void QVTblt_prefPanePref::layOutKeyPage(std::uint16_t productID)
         QLabel& label = *mSlotLabels[slot];
         label.setVisible(!box.isHidden());
         label.setEnabled(box.isEnabled());
-        if (slot < kPenUpper) {
+        if (slot < kQVUpperPenSlot) {
             Rect place = platform::frame(box);
             place.x -= kLabelDistance;
             place.width = platform::frame(label).width;
@@ -327,46 +317,21 @@ void QVTblt_prefPanePref::InitSingleComboBoxWithKey(
 
 void QVTblt_prefPanePref::SelectKey(QVKeyComboBox* comboBox)
 {
-    using Item = QVKeyComboBox::Item;
     tagQVTabletInfoSubKey& slot =
         qvTabletInfo.Key.SubKey[static_cast<std::size_t>(comboBox->tag())];
-    const auto mouse = [&slot](std::int16_t button) {
-        slot.Valid = 1;
-        slot.Mouse = button;
-    };
-    switch (comboBox->currentIndex()) {
-    case Item::NoAction:
-        slot.Valid = 0;
-        break;
-    case Item::LeftButton:
-        mouse(0);
-        break;
-    case Item::RightButton:
-        mouse(1);
-        break;
-    case Item::MiddleButton:
-        mouse(3);
-        break;
-    case Item::BackButton:
-        mouse(2);
-        break;
-    case Item::Application:
-        takeApplication(*comboBox, slot);
-        break;
-    case Item::KeyCombination:
+    const int item = comboBox->currentIndex();
+    if (item == QVKeyComboBox::KeyCombination) {
         askForKeys(*comboBox);
         return;
-    case Item::NextDisplay:
-        slot.Valid = 4;
-        break;
-    case Item::FinePositioning:
-        slot.Valid = 5;
-        break;
-    case Item::PauseTablet:
-        slot.Valid = 6;
-        break;
-    default:
-        break;
+    }
+    if (item == QVKeyComboBox::Application) {
+        takeApplication(*comboBox, slot);
+    } else if (item >= 0) {
+        const Choice& choice = kChoices[static_cast<std::size_t>(item)];
+        slot.Valid = choice.valid;
+        if (choice.valid == kQVMouseButton) {
+            slot.Mouse = choice.mouse;
+        }
     }
     PushQVTabletInfo();
 }
@@ -383,7 +348,7 @@ void QVTblt_prefPanePref::takeApplication(QVKeyComboBox& comboBox, tagQVTabletIn
         return;
     }
     comboBox.replaceItem(QVKeyComboBox::Application, mFileName);
-    slot.Valid = 2;
+    slot.Valid = kQVApplication;
     storePath(mFileName, slot.App);
     PushQVTabletInfo(); // and a second time on leaving, as after every choice
 }
@@ -399,7 +364,8 @@ void QVTblt_prefPanePref::askForKeys(QVKeyComboBox& comboBox)
     if (comboBox.maxVisibleItems() == QVKeySetClass::kStored) {
         PushQVTabletInfo();
         comboBox.setMaxVisibleItems(kCommitted + QVKeyComboBox::KeyCombination);
-    } else if (qvTabletInfo.Key.SubKey[static_cast<std::size_t>(comboBox.tag())].Valid != 3) {
+    } else if (qvTabletInfo.Key.SubKey[static_cast<std::size_t>(comboBox.tag())].Valid
+        != kQVKeyCombination) {
         comboBox.setCurrentIndex(comboBox.maxVisibleItems() - kCommitted);
     }
 }

@@ -24,6 +24,29 @@ inline constexpr std::size_t kQVStringSize = 256;
 /** Number of buttons: sixteen express keys, then the upper and the lower pen button. */
 inline constexpr std::size_t kQVSlotCount = 18;
 
+/** The slots of the pen's buttons; those before are the express keys'. */
+inline constexpr std::size_t kQVUpperPenSlot = 16;
+inline constexpr std::size_t kQVLowerPenSlot = 17;
+
+/** What a button does: the values of a slot's Valid. */
+enum QVAction : std::int16_t {
+    kQVNoAction = 0,
+    kQVMouseButton = 1, ///< which one is in Mouse
+    kQVApplication = 2, ///< its path is in App
+    kQVKeyCombination = 3, ///< its keys are in Key
+    kQVNextDisplay = 4,
+    kQVFinePositioning = 5,
+    kQVPauseTablet = 6,
+};
+
+/** A mouse button: the values of a slot's Mouse. */
+enum QVMouseButton : std::int16_t {
+    kQVLeftButton = 0,
+    kQVRightButton = 1,
+    kQVBackButton = 2,
+    kQVMiddleButton = 3,
+};
+
 /** A NUL-terminated ASCII string in a field of fixed size. */
 using QVString = std::array<char, kQVStringSize>;
 
@@ -76,8 +99,8 @@ struct tagQVTabletInfoMonitior {
 
 /** One button's assignment. */
 struct tagQVTabletInfoSubKey {
-    std::int16_t Valid; ///< kind of assignment; 0 is none
-    std::int16_t Mouse; ///< mouse action, where the kind is a mouse button
+    std::int16_t Valid; ///< a QVAction; anything else is none
+    std::int16_t Mouse; ///< a QVMouseButton, where Valid is kQVMouseButton
     std::uint32_t Key; ///< key codes in bytes 0 to 2, their number in byte 3
     QVString App; ///< path of the application to start
 };

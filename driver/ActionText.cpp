@@ -16,13 +16,13 @@ struct ActionText {
 QString mouseText(std::int16_t button)
 {
     switch (button) {
-    case 0:
+    case kQVLeftButton:
         return ActionText::tr("Left mouse button");
-    case 1:
+    case kQVRightButton:
         return ActionText::tr("Right mouse button");
-    case 3:
+    case kQVMiddleButton:
         return ActionText::tr("Middle mouse button");
-    case 2:
+    case kQVBackButton:
         return ActionText::tr("Back mouse button");
     default:
         return ActionText::tr("No action");
@@ -40,23 +40,23 @@ QString pathText(const QVString& path)
 QString actionText(const tagQVTabletInfoSubKey& slot)
 {
     switch (slot.Valid) {
-    case 1:
+    case kQVMouseButton:
         return mouseText(slot.Mouse);
-    case 2: {
+    case kQVApplication: {
         const QString path = pathText(slot.App);
         return path.isEmpty() ? ActionText::tr("Open an application, of which no path is known")
                               : ActionText::tr("Open %1").arg(path);
     }
-    case 3: {
+    case kQVKeyCombination: {
         const QString keys = QString::fromStdU16String(QVKeyCombinationText(slot.Key)).trimmed();
         return keys.isEmpty() ? ActionText::tr("Press no keys")
                               : ActionText::tr("Press %1").arg(keys);
     }
-    case 4:
+    case kQVNextDisplay:
         return ActionText::tr("Go to the next display");
-    case 5:
+    case kQVFinePositioning:
         return ActionText::tr("Move finely while held");
-    case 6:
+    case kQVPauseTablet:
         return ActionText::tr("Pause the tablet");
     default:
         return ActionText::tr("No action");

@@ -37,10 +37,8 @@ tagQVTabletInfo defaults(const QVTabletModel& model)
     record.Monitor.cTabletYmax = model.tabletYmax;
     record.Key.ScrollSpeed = 5;
     // The pen's buttons are the right and the middle mouse button.
-    record.Key.SubKey[16].Valid = 1;
-    record.Key.SubKey[16].Mouse = 1;
-    record.Key.SubKey[17].Valid = 1;
-    record.Key.SubKey[17].Mouse = 3;
+    record.Key.SubKey[kQVUpperPenSlot] = {kQVMouseButton, kQVRightButton, 0, {}};
+    record.Key.SubKey[kQVLowerPenSlot] = {kQVMouseButton, kQVMiddleButton, 0, {}};
     return record;
 }
 

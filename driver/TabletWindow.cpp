@@ -26,7 +26,6 @@
 
 namespace {
 
-constexpr std::size_t kPenUpper = 16;
 constexpr int kKeyWidth = 48;
 constexpr int kKeyHeight = 40; ///< at most
 constexpr int kStripHeight = 80; ///< at most
@@ -296,7 +295,7 @@ void TabletWindow::addPenButtons(const QVTabletModel& model)
     row->setContentsMargins(0, 0, 0, 0);
     const std::array names{tr("Upper pen button"), tr("Lower pen button")};
     for (std::size_t i = 0; i < std::min<std::size_t>(model.penButtons, names.size()); ++i) {
-        addButton(*row, names[i], names[i], kPenUpper + i);
+        addButton(*row, names[i], names[i], kQVUpperPenSlot + i);
     }
     mTop->addWidget(mPenButtons); // saves a row on small screens
 }
@@ -305,7 +304,7 @@ void TabletWindow::addButton(
     QLayout& layout, const QString& text, const QString& name, std::size_t slot)
 {
     QToolButton* const button = keyButton(text, name);
-    if (slot < kPenUpper) {
+    if (slot < kQVUpperPenSlot) {
         // All of them have to fit, so each takes only the room for its number.
         button->setMinimumSize(kKeyWidth, button->fontMetrics().height());
         button->setMaximumHeight(std::max(kKeyHeight, button->minimumHeight()));
