@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 
@@ -11,7 +12,8 @@
  * The settings record of the one attached tablet.
  *
  * The record is a wire format: the driver receives its 5077 bytes as they lie in memory. It has no
- * padding, and its integers are in the host's byte order. The assertions below hold every offset.
+ * padding, and its integers are little-endian. The assertions below hold size, order and every
+ * offset.
  *
  * Tablet units count from the upper left corner of the tablet's surface. Screen areas are in points
  * of the global display coordinates: origin at the upper left corner of the main display, y growing
@@ -128,6 +130,8 @@ inline constexpr std::int32_t kQVRecordSize = 5077;
 
 static_assert(sizeof(tagQVTabletInfo) == kQVRecordSize);
 static_assert(alignof(tagQVTabletInfo) == 1);
+static_assert(
+    std::endian::native == std::endian::little, "drivers and stored records expect this order");
 
 static_assert(offsetof(tagQVTabletInfo, Basic) == 0);
 static_assert(sizeof(tagQVTabletInfoBasic) == 283);
