@@ -31,10 +31,6 @@ public:
 
     explicit QVKeySetClass(QWidget* parent = nullptr);
     ~QVKeySetClass() override;
-    QVKeySetClass(const QVKeySetClass&) = delete;
-    QVKeySetClass& operator=(const QVKeySetClass&) = delete;
-    QVKeySetClass(QVKeySetClass&&) = delete;
-    QVKeySetClass& operator=(QVKeySetClass&&) = delete;
 
     /** Shows the window without waiting for the user. */
     void showWindow();

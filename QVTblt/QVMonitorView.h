@@ -31,10 +31,6 @@ class QVMonitorView final : public platform::PaneView {
 public:
     explicit QVMonitorView(QWidget* parent = nullptr);
     ~QVMonitorView() override;
-    QVMonitorView(const QVMonitorView&) = delete;
-    QVMonitorView& operator=(const QVMonitorView&) = delete;
-    QVMonitorView(QVMonitorView&&) = delete;
-    QVMonitorView& operator=(QVMonitorView&&) = delete;
 
     /**
      * Connects the page's lists, and the button that starts a calibration, which is off while there

@@ -22,8 +22,6 @@ public:
     }
     NoDiagnostics(const NoDiagnostics&) = delete;
     NoDiagnostics& operator=(const NoDiagnostics&) = delete;
-    NoDiagnostics(NoDiagnostics&&) = delete;
-    NoDiagnostics& operator=(NoDiagnostics&&) = delete;
 
 private:
     int mBefore;

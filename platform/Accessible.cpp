@@ -66,8 +66,6 @@ public:
     ~AccessibleFactory() { QAccessible::removeFactory(makeInterface); }
     AccessibleFactory(const AccessibleFactory&) = delete;
     AccessibleFactory& operator=(const AccessibleFactory&) = delete;
-    AccessibleFactory(AccessibleFactory&&) = delete;
-    AccessibleFactory& operator=(AccessibleFactory&&) = delete;
 
     static std::shared_ptr<AccessibleFactory> shared()
     {

@@ -25,10 +25,6 @@ public:
     /** @param widget of which this is a base */
     Accessible(QWidget& widget, QAccessible::Role role);
     virtual ~Accessible();
-    Accessible(const Accessible&) = delete;
-    Accessible& operator=(const Accessible&) = delete;
-    Accessible(Accessible&&) = delete;
-    Accessible& operator=(Accessible&&) = delete;
 
     QAccessible::Role role() const { return mRole; }
 

@@ -33,12 +33,7 @@ struct StandardAlert {
 /** The desktop's alerts. Main thread only. */
 class Alerts {
 public:
-    Alerts() = default;
     virtual ~Alerts() = default;
-    Alerts(const Alerts&) = delete;
-    Alerts& operator=(const Alerts&) = delete;
-    Alerts(Alerts&&) = delete;
-    Alerts& operator=(Alerts&&) = delete;
 
     /**
      * Shows the alert and runs until it is answered.

@@ -148,12 +148,7 @@ public:
      */
     using Handler = std::function<OSErr(const AppleEvent& event, AppleEvent& reply)>;
 
-    AppleEvents() = default;
     virtual ~AppleEvents() = default;
-    AppleEvents(const AppleEvents&) = delete;
-    AppleEvents& operator=(const AppleEvents&) = delete;
-    AppleEvents(AppleEvents&&) = delete;
-    AppleEvents& operator=(AppleEvents&&) = delete;
 
     /** Makes a descriptor of plain data, an address among them. */
     virtual OSErr createDesc(DescType type, std::span<const std::byte> data, AEDesc& result);

@@ -108,10 +108,6 @@ public:
     {
     }
     ~Private() override { disconnect(); }
-    Private(const Private&) = delete;
-    Private& operator=(const Private&) = delete;
-    Private(Private&&) = delete;
-    Private& operator=(Private&&) = delete;
 
     bool isConnected() const { return mConnection && mConnection->isConnected(); }
 

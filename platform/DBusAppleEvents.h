@@ -23,10 +23,6 @@ class DBusAppleEvents final : public AppleEvents {
 public:
     DBusAppleEvents();
     ~DBusAppleEvents() override;
-    DBusAppleEvents(const DBusAppleEvents&) = delete;
-    DBusAppleEvents& operator=(const DBusAppleEvents&) = delete;
-    DBusAppleEvents(DBusAppleEvents&&) = delete;
-    DBusAppleEvents& operator=(DBusAppleEvents&&) = delete;
 
     OSErr send(const AppleEvent& event, AppleEvent* reply, AESendMode mode, AESendPriority priority,
         std::int32_t timeOut) override;

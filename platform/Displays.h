@@ -38,12 +38,7 @@ using DisplayReconfigurationCallback = void (*)(
 /** Main thread only. */
 class Displays {
 public:
-    Displays() = default;
     virtual ~Displays() = default;
-    Displays(const Displays&) = delete;
-    Displays& operator=(const Displays&) = delete;
-    Displays(Displays&&) = delete;
-    Displays& operator=(Displays&&) = delete;
 
     /** How many displays are active; nothing when the window system does not tell. */
     virtual std::optional<std::uint32_t> activeDisplayCount() const = 0;

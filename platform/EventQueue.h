@@ -31,8 +31,6 @@ public:
     virtual ~ProximityResponder();
     ProximityResponder(const ProximityResponder&) = delete;
     ProximityResponder& operator=(const ProximityResponder&) = delete;
-    ProximityResponder(ProximityResponder&&) = delete;
-    ProximityResponder& operator=(ProximityResponder&&) = delete;
 
     virtual void tabletProximity(const std::shared_ptr<const Event>& event) = 0;
 

@@ -35,8 +35,6 @@ public:
     }
     Socket(const Socket&) = delete;
     Socket& operator=(const Socket&) = delete;
-    Socket(Socket&&) = delete;
-    Socket& operator=(Socket&&) = delete;
 
     int number() const { return mNumber; }
 

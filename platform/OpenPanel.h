@@ -13,12 +13,7 @@ namespace platform {
 /** The desktop's panel for choosing a file. Main thread only. */
 class OpenPanel {
 public:
-    OpenPanel() = default;
     virtual ~OpenPanel() = default;
-    OpenPanel(const OpenPanel&) = delete;
-    OpenPanel& operator=(const OpenPanel&) = delete;
-    OpenPanel(OpenPanel&&) = delete;
-    OpenPanel& operator=(OpenPanel&&) = delete;
 
     /**
      * Lets the user choose one application: a desktop entry, an AppImage or an application bundle.

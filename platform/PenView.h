@@ -22,10 +22,6 @@ class PenView : public PaneView {
 public:
     explicit PenView(QWidget* parent = nullptr);
     ~PenView() override;
-    PenView(const PenView&) = delete;
-    PenView& operator=(const PenView&) = delete;
-    PenView(PenView&&) = delete;
-    PenView& operator=(PenView&&) = delete;
 
     // What the queue calls, for one event each.
     virtual void mouseDown(const Event& event) = 0;

@@ -137,12 +137,7 @@ private:
 /** What a module's plug-in is: a maker of panes. */
 class PreferencePanePlugin {
 public:
-    PreferencePanePlugin() = default;
     virtual ~PreferencePanePlugin() = default;
-    PreferencePanePlugin(const PreferencePanePlugin&) = delete;
-    PreferencePanePlugin& operator=(const PreferencePanePlugin&) = delete;
-    PreferencePanePlugin(PreferencePanePlugin&&) = delete;
-    PreferencePanePlugin& operator=(PreferencePanePlugin&&) = delete;
 
     virtual std::unique_ptr<PreferencePane> makePane() const = 0;
 };

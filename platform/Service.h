@@ -20,8 +20,6 @@ public:
     ~ServiceScope() { current() = mBefore; }
     ServiceScope(const ServiceScope&) = delete;
     ServiceScope& operator=(const ServiceScope&) = delete;
-    ServiceScope(ServiceScope&&) = delete;
-    ServiceScope& operator=(ServiceScope&&) = delete;
 
     /** The implementation in place; null for the desktop's own. */
     static Service*& current()

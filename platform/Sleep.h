@@ -9,12 +9,7 @@ namespace platform {
 /** Waiting that blocks the caller, where the work itself asks for it. */
 class Sleep {
 public:
-    Sleep() = default;
     virtual ~Sleep() = default;
-    Sleep(const Sleep&) = delete;
-    Sleep& operator=(const Sleep&) = delete;
-    Sleep(Sleep&&) = delete;
-    Sleep& operator=(Sleep&&) = delete;
 
     virtual void sleepFor(std::chrono::milliseconds time) = 0;
 };

@@ -75,8 +75,6 @@ public:
     ~Handle() { close(); }
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
-    Handle(Handle&&) = delete;
-    Handle& operator=(Handle&&) = delete;
 
     libusb_device* device() const { return mDevice.get(); }
     libusb_device_handle* get() const { return mHandle; }

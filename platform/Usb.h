@@ -54,23 +54,13 @@ struct UsbConfigurationDescriptor {
 /** A device or an interface on the bus, as found; it may be gone by now. */
 class UsbService {
 public:
-    UsbService() = default;
     virtual ~UsbService() = default;
-    UsbService(const UsbService&) = delete;
-    UsbService& operator=(const UsbService&) = delete;
-    UsbService(UsbService&&) = delete;
-    UsbService& operator=(UsbService&&) = delete;
 };
 
 /** Services that were found, in the bus's order. */
 class UsbIterator {
 public:
-    UsbIterator() = default;
     virtual ~UsbIterator() = default;
-    UsbIterator(const UsbIterator&) = delete;
-    UsbIterator& operator=(const UsbIterator&) = delete;
-    UsbIterator(UsbIterator&&) = delete;
-    UsbIterator& operator=(UsbIterator&&) = delete;
 
     /** @return the next service; null after the last */
     virtual std::unique_ptr<UsbService> next() = 0;
@@ -81,12 +71,7 @@ public:
 /** One device. Its release, when it is destroyed, gives back what open() has taken. */
 class UsbDeviceInterface {
 public:
-    UsbDeviceInterface() = default;
     virtual ~UsbDeviceInterface() = default;
-    UsbDeviceInterface(const UsbDeviceInterface&) = delete;
-    UsbDeviceInterface& operator=(const UsbDeviceInterface&) = delete;
-    UsbDeviceInterface(UsbDeviceInterface&&) = delete;
-    UsbDeviceInterface& operator=(UsbDeviceInterface&&) = delete;
 
     virtual IOReturn getNumberOfConfigurations(std::uint8_t& count) = 0;
     /** @param index from 0 */
@@ -111,12 +96,7 @@ public:
 /** One interface of a device. */
 class UsbInterfaceInterface {
 public:
-    UsbInterfaceInterface() = default;
     virtual ~UsbInterfaceInterface() = default;
-    UsbInterfaceInterface(const UsbInterfaceInterface&) = delete;
-    UsbInterfaceInterface& operator=(const UsbInterfaceInterface&) = delete;
-    UsbInterfaceInterface(UsbInterfaceInterface&&) = delete;
-    UsbInterfaceInterface& operator=(UsbInterfaceInterface&&) = delete;
 
     virtual IOReturn open() = 0;
     virtual IOReturn close() = 0;
@@ -125,12 +105,7 @@ public:
 /** The USB busses of this machine. Main thread only. */
 class Usb {
 public:
-    Usb() = default;
     virtual ~Usb() = default;
-    Usb(const Usb&) = delete;
-    Usb& operator=(const Usb&) = delete;
-    Usb(Usb&&) = delete;
-    Usb& operator=(Usb&&) = delete;
 
     /** Whether the machine's services can be asked at all. */
     virtual IOReturn mainPort() = 0;

@@ -41,10 +41,6 @@ public:
     /** Loads the pane's main view. */
     PaneShell(std::unique_ptr<platform::PreferencePane> pane, Host host, QWidget* parent = nullptr);
     ~PaneShell() override;
-    PaneShell(const PaneShell&) = delete;
-    PaneShell& operator=(const PaneShell&) = delete;
-    PaneShell(PaneShell&&) = delete;
-    PaneShell& operator=(PaneShell&&) = delete;
 
     /** Sets the function to call when the result of hasChanges() may have changed. */
     void setChangeHandler(std::function<void()> handler);

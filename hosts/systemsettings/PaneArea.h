@@ -30,10 +30,6 @@ class PaneArea final : public QWidget {
 public:
     explicit PaneArea(std::unique_ptr<platform::PreferencePane> pane, QWidget* parent = nullptr);
     ~PaneArea() override;
-    PaneArea(const PaneArea&) = delete;
-    PaneArea& operator=(const PaneArea&) = delete;
-    PaneArea(PaneArea&&) = delete;
-    PaneArea& operator=(PaneArea&&) = delete;
 
     /** Sets the function that is told whether there is anything to apply or reset. */
     void setChangeHandler(std::function<void(bool)> handler);

@@ -18,10 +18,6 @@ class TabletModule final : public KCModule {
 public:
     TabletModule(ModuleParent* parent, const ModuleArguments& arguments);
     ~TabletModule() override;
-    TabletModule(const TabletModule&) = delete;
-    TabletModule& operator=(const TabletModule&) = delete;
-    TabletModule(TabletModule&&) = delete;
-    TabletModule& operator=(TabletModule&&) = delete;
 
     /** The host's Reset, and its Discard on leaving; it also calls this after the first showing. */
     void load() override;

@@ -25,10 +25,6 @@ class PaneWindow final : public QMainWindow {
 public:
     explicit PaneWindow(std::unique_ptr<platform::PreferencePane> pane);
     ~PaneWindow() override;
-    PaneWindow(const PaneWindow&) = delete;
-    PaneWindow& operator=(const PaneWindow&) = delete;
-    PaneWindow(PaneWindow&&) = delete;
-    PaneWindow& operator=(PaneWindow&&) = delete;
 
     /** Shows the pane. */
     void select();

@@ -33,8 +33,6 @@ public:
     ~Container() { dbus_message_iter_close_container(&mParent, &mIter); }
     Container(const Container&) = delete;
     Container& operator=(const Container&) = delete;
-    Container(Container&&) = delete;
-    Container& operator=(Container&&) = delete;
 
     DBusMessageIter& iter() { return mIter; }
 

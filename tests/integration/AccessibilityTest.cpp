@@ -162,8 +162,6 @@ public:
     }
     Told(const Told&) = delete;
     Told& operator=(const Told&) = delete;
-    Told(Told&&) = delete;
-    Told& operator=(Told&&) = delete;
 
     /** How often, since the last time. */
     static int count(const QObject& object, QAccessible::Event what)

@@ -35,10 +35,6 @@ public:
         answer([key](QMessageBox& box) { QTest::keyClick(&box, key); });
     }
     ~AlertAnswer() override { EXPECT_FALSE(mText.isNull()) << "no alert was open"; }
-    AlertAnswer(const AlertAnswer&) = delete;
-    AlertAnswer& operator=(const AlertAnswer&) = delete;
-    AlertAnswer(AlertAnswer&&) = delete;
-    AlertAnswer& operator=(AlertAnswer&&) = delete;
 
     /** What the alert said. */
     QString text() const { return mText; }

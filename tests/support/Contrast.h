@@ -78,8 +78,6 @@ public:
     ~ThemeScope() { QApplication::setPalette(mBefore); }
     ThemeScope(const ThemeScope&) = delete;
     ThemeScope& operator=(const ThemeScope&) = delete;
-    ThemeScope(ThemeScope&&) = delete;
-    ThemeScope& operator=(ThemeScope&&) = delete;
 
 private:
     QPalette mBefore;

@@ -37,10 +37,6 @@ public:
         mProcess.kill();
         mProcess.waitForFinished();
     }
-    DriverProcess(const DriverProcess&) = delete;
-    DriverProcess& operator=(const DriverProcess&) = delete;
-    DriverProcess(DriverProcess&&) = delete;
-    DriverProcess& operator=(DriverProcess&&) = delete;
 
     void signal(int number) const
     {

@@ -48,10 +48,6 @@ public:
         mDevices.clear();
         g_object_unref(mTestbed);
     }
-    EmulatedUsb(const EmulatedUsb&) = delete;
-    EmulatedUsb& operator=(const EmulatedUsb&) = delete;
-    EmulatedUsb(EmulatedUsb&&) = delete;
-    EmulatedUsb& operator=(EmulatedUsb&&) = delete;
 
     /** Plugs a device in. */
     void plug(const EmulatedDevice& device)
@@ -102,8 +98,6 @@ private:
         }
         Emulation(const Emulation&) = delete;
         Emulation& operator=(const Emulation&) = delete;
-        Emulation(Emulation&&) = delete;
-        Emulation& operator=(Emulation&&) = delete;
     };
 
     static std::string node(int number)

@@ -96,10 +96,6 @@ private:
         {
         }
         ~Service() override { mUsb->log.emplace_back("release service"); }
-        Service(const Service&) = delete;
-        Service& operator=(const Service&) = delete;
-        Service(Service&&) = delete;
-        Service& operator=(Service&&) = delete;
 
         FakeUsbService* fake;
 
@@ -150,10 +146,6 @@ private:
         {
         }
         ~Device() override { mUsb->log.emplace_back("release device"); }
-        Device(const Device&) = delete;
-        Device& operator=(const Device&) = delete;
-        Device(Device&&) = delete;
-        Device& operator=(Device&&) = delete;
 
         platform::IOReturn getNumberOfConfigurations(std::uint8_t& count) override
         {
@@ -203,10 +195,6 @@ private:
         {
         }
         ~Interface() override { mUsb->log.emplace_back("release interface"); }
-        Interface(const Interface&) = delete;
-        Interface& operator=(const Interface&) = delete;
-        Interface(Interface&&) = delete;
-        Interface& operator=(Interface&&) = delete;
 
         platform::IOReturn open() override
         {

@@ -47,10 +47,6 @@ public:
         mConnection = QDBusConnection(QString());
         QDBusConnection::disconnectFromBus(name);
     }
-    Peer(const Peer&) = delete;
-    Peer& operator=(const Peer&) = delete;
-    Peer(Peer&&) = delete;
-    Peer& operator=(Peer&&) = delete;
 
     /** To be set before the first call arrives. */
     Answer answer;

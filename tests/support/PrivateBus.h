@@ -41,10 +41,6 @@ public:
         stop();
         qputenv("DBUS_SESSION_BUS_ADDRESS", mBefore);
     }
-    PrivateBus(const PrivateBus&) = delete;
-    PrivateBus& operator=(const PrivateBus&) = delete;
-    PrivateBus(PrivateBus&&) = delete;
-    PrivateBus& operator=(PrivateBus&&) = delete;
 
     /** Everybody on the bus is disconnected; nobody can connect. */
     void stop()

@@ -21,10 +21,6 @@ public:
         qunsetenv("XDG_STATE_HOME");
     }
     ~TemporaryHome() { qputenv("HOME", mBefore); }
-    TemporaryHome(const TemporaryHome&) = delete;
-    TemporaryHome& operator=(const TemporaryHome&) = delete;
-    TemporaryHome(TemporaryHome&&) = delete;
-    TemporaryHome& operator=(TemporaryHome&&) = delete;
 
     QString path() const { return mFolder.path(); }
 

@@ -23,8 +23,6 @@ struct Listener {
     ~Listener() { stop(); }
     Listener(const Listener&) = delete;
     Listener& operator=(const Listener&) = delete;
-    Listener(Listener&&) = delete;
-    Listener& operator=(Listener&&) = delete;
 
     void stop() { platform::displays().removeReconfigurationCallback(&note, this); }
     static void note(platform::DisplayID display, std::uint32_t flags, void* userInfo)

@@ -62,8 +62,6 @@ public:
     }
     UserSettings(const UserSettings&) = delete;
     UserSettings& operator=(const UserSettings&) = delete;
-    UserSettings(UserSettings&&) = delete;
-    UserSettings& operator=(UserSettings&&) = delete;
 };
 
 /** The panel in a language, shown as by its own window: in an area that scrolls. */
