@@ -4,6 +4,7 @@
 
 #include "Notifications.h"
 #include "QVTabletModels.h"
+#include "QVWire.h"
 #include "Sleep.h"
 #include "rzkApplication.h"
 
@@ -14,10 +15,6 @@
 #include <span>
 
 namespace {
-
-/** The settings event: the class is the driver's signature. */
-constexpr platform::AEEventID kSettingsEvent = platform::fourCharCode("WSnd");
-constexpr platform::AEKeyword kSettingsData = platform::fourCharCode("data");
 
 Q_LOGGING_CATEGORY(lcClient, "org.quorvia.tablet.client", QtInfoMsg)
 
@@ -134,13 +131,13 @@ bool sendRecord(const void* record, std::int32_t length)
         return false;
     }
     AppleEvent settings;
-    if (service.createAppleEvent(kQVDriverSignature, kSettingsEvent, driver, settings) != noErr) {
+    if (service.createAppleEvent(kQVDriverSignature, kQVSettingsEvent, driver, settings) != noErr) {
         std::fputs("ConnectToDriver fail..\n", stderr);
         return false;
     }
     // The record is binary. The driver expects it under the type of a text.
     const auto data = std::as_bytes(std::span(bytes, static_cast<std::size_t>(length)));
-    if (service.putParamPtr(settings, kSettingsData, typeUTF8Text, data) != noErr) {
+    if (service.putParamPtr(settings, kQVSettingsData, typeUTF8Text, data) != noErr) {
         std::fputs("ConnectToDriver fail...\n", stderr);
         return false;
     }

@@ -7,6 +7,7 @@
 #include "QVCalibrateWin.h"
 #include "QVCalibration.h"
 #include "QVTblt_prefPanePref.h"
+#include "QVWire.h"
 #include "Sleep.h"
 #include "rzkApplication.h"
 
@@ -32,14 +33,6 @@ constexpr std::int32_t kCrosses = 4;
 constexpr double kHalfCross = 25.0;
 constexpr double kHintLeft = 500.0; ///< of the middle
 
-/** One pen report, as the driver sends it. */
-struct PenReport {
-    std::uint32_t key; ///< 1 while the tip is down, 0 when it is up
-    std::uint16_t x;
-    std::uint16_t y;
-    std::uint32_t reserved;
-};
-static_assert(sizeof(PenReport) == 12);
 constexpr std::uint32_t kNeitherDownNorUp = 2;
 
 // Of the whole process: a calibration goes on from where the last one ended.
@@ -92,7 +85,7 @@ void startAgain(QVCalibrateView& view)
 }
 
 /** Takes a point for the cross that is shown; shows the next one. */
-void takePoint(QVCalibrateView& view, std::int32_t cross, const PenReport& report)
+void takePoint(QVCalibrateView& view, std::int32_t cross, const QVPenReport& report)
 {
     if (cross < kCrosses) {
         mXY[static_cast<std::size_t>(cross)] = {report.x, report.y};
@@ -317,7 +310,7 @@ OSErr QVTabletGetDatahandler(const AppleEvent& event, AppleEvent& reply, QVCalib
     const AEList items = itemsOf(event);
     // A report that is too short leaves the rest as it was; at first the pen is neither down nor
     // up.
-    PenReport report{};
+    QVPenReport report{};
     report.key = kNeitherDownNorUp;
     // Only every other item is a report.
     for (std::size_t i = 0; i < items.size(); i += 2) {

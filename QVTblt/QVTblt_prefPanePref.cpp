@@ -7,6 +7,7 @@
 #include "Notifications.h"
 #include "QVNSView.h"
 #include "QVTabletModels.h"
+#include "QVWire.h"
 #include "rzkApplication.h"
 
 #include <QCoreApplication>

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "rzkApplication.h"
 
+#include "QVWire.h"
+
 #include <cstdio>
 #include <cstring>
 #include <optional>

@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "AppleEvents.h"
 #include "tagQVTabletInfo.h"
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 
 /**
  * @file
@@ -14,12 +14,6 @@
  *
  * Everything runs on the main thread; nothing is copied or locked.
  */
-
-/** The driver's signature, 'TdSg'. */
-inline constexpr platform::FourCharCode kQVDriverSignature = platform::fourCharCode("TdSg");
-
-/** The driver's property that says which configuration file belongs to the tablet. */
-inline constexpr platform::FourCharCode kQVConfigProperty = platform::fourCharCode("QCFG");
 
 /** How long a request waits for the driver, in ticks: a quarter of a second. */
 inline constexpr std::int32_t kQVDriverTimeOut = 15;

@@ -5,6 +5,7 @@
 #include "Client.h"
 #include "NoDiagnostics.h"
 #include "Paired.h"
+#include "QVWire.h"
 #include "rzkApplication.h"
 
 #include <QDBusMessage>
@@ -59,7 +60,7 @@ void push(benchmark::State& state)
     QDBusConnection bus = session.events.connection();
     const QByteArray record(reinterpret_cast<const char*>(GetqvTabletInfo()), kQVRecordSize);
     AppleEvent event;
-    session.events.createAppleEvent(kQVDriverSignature, fourCharCode("WSnd"), AEDesc{}, event);
+    session.events.createAppleEvent(kQVDriverSignature, kQVSettingsEvent, AEDesc{}, event);
     event.parameters = {{fourCharCode("data"), {typeUTF8Text, record}}};
     std::optional<QDBusPendingCall> pending;
     timePaired(

@@ -6,6 +6,7 @@
 #include "Peer.h"
 #include "PlainWire.h"
 #include "QVCalibrateView.h"
+#include "QVWire.h"
 
 #include <QDBusPendingCall>
 
@@ -24,8 +25,7 @@ QDBusMessage reportFromTheBus(BenchSession& session)
     Peer panel(session.bus);
     panel.answer = [](const QDBusMessage& call) { return call.createReply(); };
     const QByteArray report(12, '\x02');
-    const AERecord parameters{
-        {keyDirectObject, {typeAEList, AEList{{fourCharCode("rprt"), report}}}}};
+    const AERecord parameters{{keyDirectObject, {typeAEList, AEList{{kQVPenReportType, report}}}}};
     QDBusMessage call =
         QDBusMessage::createMethodCall(panel.uniqueName(), QLatin1String(wire::kObjectPath),
             QLatin1String(wire::kInterface), QLatin1String(wire::kSendMethod));

@@ -2,12 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "Commands.h"
 
+#include "AppleEventWire.h"
 #include "AppleEvents.h"
 #include "CheckFile.h"
 #include "Client.h"
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
 #include "QVTabletModels.h"
+#include "QVWire.h"
 #include "RecordText.h"
 #include "UsbMode.h"
 #include "rzkApplication.h"
@@ -67,10 +69,9 @@ QString pushRecord()
 /** A call to the simulated tablet, which only a driver that is there may answer. */
 QDBusMessage simulatorCall(const char* method)
 {
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(QStringLiteral("org.quorvia.AppleEvents.TdSg"),
-            QStringLiteral("/org/quorvia/TabletSimulator"),
-            QStringLiteral("org.quorvia.TabletSimulator1"), QString::fromLatin1(method));
+    QDBusMessage call = QDBusMessage::createMethodCall(platform::wire::busName(kQVDriverSignature),
+        QLatin1String(kQVSimulatorPath), QLatin1String(kQVSimulatorInterface),
+        QString::fromLatin1(method));
     call.setAutoStartService(false);
     return call;
 }

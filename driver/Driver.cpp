@@ -6,6 +6,7 @@
 #include "EventForms.h"
 #include "QVConfigEntry.h"
 #include "QVTabletModels.h"
+#include "QVWire.h"
 #include "rzkApplication.h"
 
 #include <QDBusMessage>
@@ -22,10 +23,7 @@ using namespace platform;
 
 namespace {
 
-constexpr DescType kPenReport = fourCharCode("rprt");
 constexpr std::int32_t kReportTimeOut = 10 * kTicksPerSecond; ///< the panel pauses between points
-
-constexpr AEEventID kSettingsEvent = fourCharCode("WSnd");
 
 /** Changes that are listed for a push; a completely new record would have a hundred. */
 constexpr int kMaxChangesTold = 4;
@@ -108,7 +106,7 @@ Driver::Driver(AppleEvents& events, QDBusConnection bus)
 
     mEvents.installEventHandler(kAECoreSuite, kAEGetData,
         [this](const AppleEvent& event, AppleEvent& reply) { return answerQuery(event, reply); });
-    mEvents.installEventHandler(kQVDriverSignature, kSettingsEvent,
+    mEvents.installEventHandler(kQVDriverSignature, kQVSettingsEvent,
         [this](const AppleEvent& event, AppleEvent& reply) { return takeSettings(event, reply); });
 }
 
@@ -214,7 +212,7 @@ void Driver::penUp()
     }
     mReports.lift();
     if (isCalibrating()) {
-        const PenReport& pen = mReports.held();
+        const QVPenReport& pen = mReports.held();
         say(QStringLiteral("pen up at %1, %2").arg(pen.x).arg(pen.y));
     }
     wakeReports();
@@ -254,10 +252,10 @@ void Driver::sendDueReports()
     }
 }
 
-void Driver::send(const PenReport& report)
+void Driver::send(const QVPenReport& report)
 {
     // The panel reads every other item of a list, starting with the first.
-    const AEDesc item{kPenReport,
+    const AEDesc item{kQVPenReportType,
         QByteArray(reinterpret_cast<const char*>(&report), static_cast<int>(sizeof report))};
     AppleEvent event{kAECoreSuite, kAEGetData, {typeBusName, mCalibrating.back()}, {}};
     mEvents.putParamDesc(event, keyDirectObject, {typeAEList, AEList{item}});

@@ -110,7 +110,7 @@ private:
     void panelHasGone(const QString& panel);
     void wakeReports();
     void sendDueReports();
-    void send(const PenReport& report);
+    void send(const QVPenReport& report);
     ReportClock::Time now() const { return ReportClock::Time(mSinceStart.nsecsElapsed()); }
 
     platform::AppleEvents& mEvents;

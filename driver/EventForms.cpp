@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "EventForms.h"
 
-#include "rzkApplication.h"
+#include "QVWire.h"
+#include "tagQVTabletInfo.h"
 
 #include <span>
 
 namespace {
 
 using namespace platform;
-
-constexpr AEKeyword kSettingsData = fourCharCode("data");
 
 QByteArray codes(std::initializer_list<FourCharCode> list)
 {
@@ -95,7 +94,7 @@ QString queryFormError(const AppleEvent& event)
 QString settingsFormError(const AppleEvent& event)
 {
     const AERecord& entry = event.parameters;
-    QString error = keywordError("the settings", entry, {kSettingsData});
+    QString error = keywordError("the settings", entry, {kQVSettingsData});
     if (!error.isEmpty()) {
         return error;
     }

@@ -55,12 +55,12 @@ void PenReports::tap(std::uint16_t x, std::uint16_t y)
     mEndsWithMove = false;
 }
 
-PenReport PenReports::take()
+QVPenReport PenReports::take()
 {
     if (mReports.empty()) {
         return mHeld;
     }
-    const PenReport report = mReports.front();
+    const QVPenReport report = mReports.front();
     mReports.pop_front();
     return report;
 }

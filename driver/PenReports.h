@@ -2,20 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "QVWire.h"
+
 #include <chrono>
 #include <cstdint>
 #include <deque>
-
-/** One pen report, in the wire format. */
-struct PenReport {
-    std::uint32_t key; ///< 1 while the tip is down, 0 when it is up
-    std::uint16_t x; ///< in tablet units
-    std::uint16_t y;
-    std::uint32_t pressure; ///< the panel does not read it
-
-    bool operator==(const PenReport&) const = default;
-};
-static_assert(sizeof(PenReport) == 12);
 
 /**
  * Queues the reports that a tablet makes of the pen's movements.
@@ -38,11 +29,11 @@ public:
     /** Whether the tip is down, apart from taps. */
     bool isDown() const { return mIsDown; }
     /** The report to repeat while the tip is down. */
-    const PenReport& held() const { return mHeld; }
+    const QVPenReport& held() const { return mHeld; }
     /** Whether there is nothing to report. */
     bool isEmpty() const { return mReports.empty() && !mIsDown; }
     /** Removes and returns the next report; must not be empty. */
-    PenReport take();
+    QVPenReport take();
 
     /** Discards the queued reports. A pen that is down stays down. */
     void forget() { mReports.clear(); }
@@ -50,8 +41,8 @@ public:
     void reset();
 
 private:
-    std::deque<PenReport> mReports; ///< not taken yet
-    PenReport mHeld{}; ///< the report to repeat while the tip is down
+    std::deque<QVPenReport> mReports; ///< not taken yet
+    QVPenReport mHeld{}; ///< the report to repeat while the tip is down
     bool mIsDown = false;
     bool mEndsWithMove = false; ///< the last queued report is a move
 };

@@ -20,8 +20,6 @@ class TabletSimulator final : public QObject, protected QDBusContext {
     Q_CLASSINFO("D-Bus Interface", "org.quorvia.TabletSimulator1")
 
 public:
-    static constexpr auto kObjectPath = "/org/quorvia/TabletSimulator";
-
     explicit TabletSimulator(Driver& driver);
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it

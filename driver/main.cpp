@@ -4,6 +4,7 @@
 #include "DBusAppleEvents.h"
 #include "Driver.h"
 #include "QVTabletModels.h"
+#include "QVWire.h"
 #include "TabletSimulator.h"
 #include "TabletWindow.h"
 #include "UnixSignals.h"
@@ -139,7 +140,7 @@ int main(int argc, char* argv[])
     QDBusConnection bus = events.connection();
     Driver driver(events, bus);
     TabletSimulator simulator(driver);
-    bus.registerObject(QLatin1String(TabletSimulator::kObjectPath), &simulator,
+    bus.registerObject(QLatin1String(kQVSimulatorPath), &simulator,
         QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
     // Without the name, the user's files are left alone. Events that arrive from here on wait for
     // the event loop.

@@ -12,6 +12,7 @@
 #include "Driver.h"
 #include "EventMaker.h"
 #include "QVTabletModels.h"
+#include "QVWire.h"
 #include "TabletSimulator.h"
 #include "TabletSurface.h"
 #include "TabletWindow.h"
@@ -47,8 +48,8 @@ Message takeSimulatorCall(Input& input)
     // Stall is not among them: that the driver does nothing for long is all that it is for.
     constexpr std::array kMembers{"Attach", "Detach", "Attached", "Tap", "SetReportRate", "Pushes",
         "LastRecord", "LastRecordDecoded", "Models", "Unknown"};
-    Message call(dbus_message_new_method_call(FakeBus::kProgram, TabletSimulator::kObjectPath,
-        "org.quorvia.TabletSimulator1", kMembers[input.byte() % kMembers.size()]));
+    Message call(dbus_message_new_method_call(FakeBus::kProgram, kQVSimulatorPath,
+        kQVSimulatorInterface, kMembers[input.byte() % kMembers.size()]));
     const int count = input.word() % 4;
     for (int i = 0; i < count; ++i) {
         const dbus_uint16_t number = input.word();
@@ -67,8 +68,8 @@ struct Program {
     explicit Program(Bus& itsBus)
         : bus(itsBus)
     {
-        bus.events.connection().registerObject(QLatin1String(TabletSimulator::kObjectPath),
-            &simulator, QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
+        bus.events.connection().registerObject(QLatin1String(kQVSimulatorPath), &simulator,
+            QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
         require(driver.start(kQVTabletModels.front().productID).isEmpty(), "there is a tablet");
     }
 

@@ -3,6 +3,7 @@
 #include "EventMaker.h"
 
 #include "AppleEventWire.h"
+#include "QVWire.h"
 #include "rzkApplication.h"
 
 #include <array>
@@ -16,8 +17,8 @@ namespace {
 constexpr std::array kCodes{typeNull, typeType, typeEnumerated, typeLongInteger, typeUTF8Text,
     typeAEList, typeObjectSpecifier, keyDirectObject, keyAERequestedType, keyAEDesiredClass,
     keyAEKeyForm, keyAEKeyData, keyAEContainer, cProperty, kAECoreSuite, kAEGetData,
-    kQVDriverSignature, kQVConfigProperty, fourCharCode("WSnd"), fourCharCode("data"),
-    fourCharCode("rprt"), keyErrorString};
+    kQVDriverSignature, kQVConfigProperty, kQVSettingsEvent, kQVSettingsData, kQVPenReportType,
+    keyErrorString};
 
 /** Deeper than an event may be, and not yet as deep as D-Bus allows. */
 constexpr int kDeepest = 12;

@@ -11,6 +11,7 @@
 #include "Peer.h"
 #include "PlainWire.h"
 #include "PrivateBus.h"
+#include "QVWire.h"
 #include "Service.h"
 #include "TemporaryHome.h"
 #include "Wait.h"
@@ -38,6 +39,7 @@ using namespace platform;
 
 namespace {
 
+// What other drivers rely on, as it is written in docs/driver-protocol.md.
 const QString kDriverName = QStringLiteral("org.quorvia.AppleEvents.TdSg");
 constexpr const char* kEventNotHandled = "org.quorvia.AppleEvents.Error.EventNotHandled";
 constexpr const char* kCoercionFail = "org.quorvia.AppleEvents.Error.CoercionFail";
@@ -114,7 +116,7 @@ protected:
         DBusAppleEvents& receiver, Peer& sender, const QList<QVariant>& arguments)
     {
         QDBusMessage call = QDBusMessage::createMethodCall(receiver.connection().baseService(),
-            QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
+            QLatin1String(wire::kObjectPath), QLatin1String(wire::kInterface),
             QStringLiteral("Send"));
         call.setArguments(arguments);
         const QDBusPendingCall pending = sender.connection().asyncCall(call, 5000);
@@ -829,8 +831,7 @@ TEST_F(Inbound, isAnsweredWhileItsHandlerRunsTheEventLoop)
         return errAECoercionFail;
     });
     QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
-        QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
-        QStringLiteral("Send"));
+        QLatin1String(wire::kObjectPath), QLatin1String(wire::kInterface), QStringLiteral("Send"));
     call.setArguments(event(1, 2, {}));
     const QDBusPendingCall pending = driver.connection().asyncCall(call, 20000);
     QDBusPendingCallWatcher watcher(pending);
@@ -1093,8 +1094,8 @@ TEST_F(Inbound, theDriversComingAndItsWordAreChangesAndItsGoingIsNone)
     const int& changes = countOf(kSourceChangedNotification);
     Peer driver(mBus, kDriverName);
     EXPECT_EQ(waitForCount(changes, 1), 1);
-    driver.connection().send(QDBusMessage::createSignal(QStringLiteral("/org/quorvia/AppleEvents"),
-        QStringLiteral("org.quorvia.AppleEvents1"), QStringLiteral("Changed")));
+    driver.connection().send(QDBusMessage::createSignal(QLatin1String(wire::kObjectPath),
+        QLatin1String(wire::kInterface), QLatin1String(wire::kChangedSignal)));
     EXPECT_EQ(waitForCount(changes, 2), 2);
     ASSERT_TRUE(driver.connection().unregisterService(kDriverName));
     ASSERT_TRUE(driver.connection().registerService(kDriverName));
@@ -1126,8 +1127,7 @@ TEST_F(Inbound, aCallThatOutlivesItsConnectionIsRefused)
     Peer driver(mBus, kDriverName);
     driver.answer = replyWithLong(7);
     QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
-        QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
-        QStringLiteral("Send"));
+        QLatin1String(wire::kObjectPath), QLatin1String(wire::kInterface), QStringLiteral("Send"));
     call.setArguments(event(1, 2, {}));
     ASSERT_TRUE(driver.connection().send(call));
     // The driver's answer follows its call on the same way, so the call is waiting by then.
@@ -1154,7 +1154,7 @@ TEST_F(Inbound, aCallThatNamesNoInterfaceIsTakenAndOneOfAnotherIsNot)
     for (const auto& [interface, count] :
         {std::pair{QString(), 1}, std::pair{QStringLiteral("org.example.Other"), 1}}) {
         QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
-            QStringLiteral("/org/quorvia/AppleEvents"), interface, QStringLiteral("Send"));
+            QLatin1String(wire::kObjectPath), interface, QStringLiteral("Send"));
         call.setArguments(event(1, 2, {}));
         const QDBusPendingCall pending = driver.connection().asyncCall(call, 5000);
         while (!pending.isFinished()) {
@@ -1170,7 +1170,7 @@ TEST_F(Inbound, otherInterfacesAndMethodsAreUnknown)
 {
     Peer driver(mBus, kDriverName);
     QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
-        QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
+        QLatin1String(wire::kObjectPath), QLatin1String(wire::kInterface),
         QStringLiteral("Receive"));
     const QDBusPendingCall pending = driver.connection().asyncCall(call, 5000);
     while (!pending.isFinished()) {

@@ -3,6 +3,7 @@
 
 // Pen reports on their whole way: over a real session bus into the panel that calibrates.
 
+#include "AppleEventWire.h"
 #include "Client.h"
 #include "DBusAppleEvents.h"
 #include "Peer.h"
@@ -10,6 +11,7 @@
 #include "PrivateBus.h"
 #include "QVCalibrateWin.h"
 #include "QVTblt_prefPanePref.h"
+#include "QVWire.h"
 #include "SampleConfig.h"
 #include "Service.h"
 #include "TemporaryHome.h"
@@ -45,25 +47,20 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-const QString kDriverName = QStringLiteral("org.quorvia.AppleEvents.TdSg");
-constexpr uint kPush = fourCharCode("WSnd");
+const QString kDriverName = wire::busName(kQVDriverSignature);
 
 /** One report; the number is in the bytes that the panel does not read. */
 QByteArray report(std::uint32_t key, std::uint16_t x, std::uint16_t y, std::uint32_t number = 0)
 {
-    QByteArray bytes(12, '\0');
-    std::memcpy(bytes.data(), &key, sizeof key);
-    std::memcpy(bytes.data() + 4, &x, sizeof x);
-    std::memcpy(bytes.data() + 6, &y, sizeof y);
-    std::memcpy(bytes.data() + 8, &number, sizeof number);
-    return bytes;
+    const QVPenReport bytes{key, x, y, number};
+    return {reinterpret_cast<const char*>(&bytes), sizeof bytes};
 }
 
 std::uint32_t numberOf(const QByteArray& report)
 {
-    std::uint32_t number = 0;
-    std::memcpy(&number, report.constData() + 8, sizeof number);
-    return number;
+    QVPenReport bytes{};
+    std::memcpy(&bytes, report.constData(), sizeof bytes);
+    return bytes.pressure;
 }
 
 /** A driver that answers 7 to the query and nothing to pushes, and notes when pushes arrive. */
@@ -73,7 +70,7 @@ public:
         : mPeer(bus, kDriverName)
     {
         mPeer.answer = [this](const QDBusMessage& call) {
-            if (call.arguments()[1].toUInt() == kPush) {
+            if (call.arguments()[1].toUInt() == kQVSettingsEvent) {
                 ++mPushes;
                 return call.createReply(parameters({}));
             }
@@ -130,8 +127,8 @@ protected:
     QDBusMessage eventOf(const Descriptors& items)
     {
         QDBusMessage call = QDBusMessage::createMethodCall(mEvents.connection().baseService(),
-            QStringLiteral("/org/quorvia/AppleEvents"), QStringLiteral("org.quorvia.AppleEvents1"),
-            QStringLiteral("Send"));
+            QLatin1String(wire::kObjectPath), QLatin1String(wire::kInterface),
+            QLatin1String(wire::kSendMethod));
         call.setArguments({kAECoreSuite, kAEGetData,
             parameters(
                 {{keyDirectObject, {typeAEList, QDBusVariant(QVariant::fromValue(items))}}})});
@@ -140,7 +137,7 @@ protected:
 
     static TestDesc item(const QByteArray& bytes)
     {
-        return {fourCharCode("rprt"), QDBusVariant(bytes)};
+        return {kQVPenReportType, QDBusVariant(bytes)};
     }
 
     /** Sends an event and runs the panel until it has answered. */
@@ -183,9 +180,8 @@ Descriptors floodEvent(std::uint32_t n)
     for (std::uint32_t i = 0; i < kReportsInEvent; ++i) {
         const std::uint32_t number = n * kReportsInEvent + i;
         items.append(
-            {fourCharCode("rprt"), QDBusVariant(report(kReports[number % 3], 5000, 5000, number))});
-        items.append(
-            {fourCharCode("rprt"), QDBusVariant(report(kBetween[number % 3], 9000, 9000))});
+            {kQVPenReportType, QDBusVariant(report(kReports[number % 3], 5000, 5000, number))});
+        items.append({kQVPenReportType, QDBusVariant(report(kBetween[number % 3], 9000, 9000))});
     }
     return items;
 }

@@ -184,8 +184,8 @@ class DriverProtocol(session.Session):
         # Each code of the two events, with one of another.
         for codes in ("0x54645367 0x67657464", "0x636F7265 0x57536E64", "1 2"):
             result = self.run_program(
-                "busctl", "--user", "call", session.DRIVER_NAME, "/org/quorvia/AppleEvents",
-                "org.quorvia.AppleEvents1", "Send", "uua(u(uv))", *codes.split(), "0")
+                "busctl", "--user", "call", session.DRIVER_NAME, *session.EVENTS, "Send",
+                "uua(u(uv))", *codes.split(), "0")
             self.assertEqual(result.stderr, "Call failed: nobody handles this event\n")
 
     def test_minimal_driver_knows_which_panel_calibrates(self):

@@ -25,8 +25,8 @@ class Driver(session.Session):
     def send(self, words):
         """Sends an event in busctl's form. Gives what busctl printed."""
         result = self.run_program(
-            "busctl", "--user", "call", session.DRIVER_NAME, "/org/quorvia/AppleEvents",
-            "org.quorvia.AppleEvents1", "Send", *words.split())
+            "busctl", "--user", "call", session.DRIVER_NAME, *session.EVENTS, "Send",
+            *words.split())
         return (result.stdout + result.stderr).strip()
 
     def test_answers_the_query_with_the_product_id(self):
@@ -180,8 +180,8 @@ class Driver(session.Session):
     def test_attaches_only_models_that_there_are(self):
         self.start_driver()
         result = self.run_program(
-            "busctl", "--user", "call", session.DRIVER_NAME, "/org/quorvia/TabletSimulator",
-            "org.quorvia.TabletSimulator1", "Attach", "q", "5")
+            "busctl", "--user", "call", session.DRIVER_NAME, *session.SIMULATOR, "Attach",
+            "q", "5")
         self.assertNotEqual(result.returncode, 0)
         self.assertIn("no model with product 5", result.stderr)
         self.assertEqual(self.simulator("Attached"), ["q", "20737"])

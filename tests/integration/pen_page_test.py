@@ -121,8 +121,7 @@ class PenPage(Panel, desktop.Desktop):
     def test_the_slider_stays_smooth_while_the_driver_hangs(self):
         self.simulator("Stall", "u", "60000")
         self.run_program("busctl", "--user", "--timeout=1", "call", session.DRIVER_NAME,
-                         "/org/quorvia/AppleEvents", "org.quorvia.AppleEvents1", "Send",
-                         "uua(u(uv))", "0", "0", "0")
+                         *session.EVENTS, "Send", "uua(u(uv))", "0", "0", "0")
         for _ in self.drag_slider():
             pass
         session.wait_for(

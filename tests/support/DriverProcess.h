@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "AppleEventWire.h"
+#include "QVWire.h"
+
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
@@ -23,8 +26,8 @@ public:
         mProcess.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         mProcess.start(QStringLiteral(QVTBLT_STAGE_BIN "/tdsg-driver"), arguments);
         EXPECT_TRUE(mProcess.waitForStarted());
-        while (!bus().interface()->isServiceRegistered(
-            QStringLiteral("org.quorvia.AppleEvents.TdSg"))) {
+        while (
+            !bus().interface()->isServiceRegistered(platform::wire::busName(kQVDriverSignature))) {
             if (mProcess.waitForFinished(5)) {
                 ADD_FAILURE() << "the driver ended";
                 break;
@@ -57,10 +60,9 @@ public:
     template <class Value, class... Arguments>
     static Value ask(const char* method, const Arguments&... arguments)
     {
-        QDBusMessage call =
-            QDBusMessage::createMethodCall(QStringLiteral("org.quorvia.AppleEvents.TdSg"),
-                QStringLiteral("/org/quorvia/TabletSimulator"),
-                QStringLiteral("org.quorvia.TabletSimulator1"), QString::fromLatin1(method));
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            platform::wire::busName(kQVDriverSignature), QLatin1String(kQVSimulatorPath),
+            QLatin1String(kQVSimulatorInterface), QString::fromLatin1(method));
         call.setArguments({QVariant::fromValue(arguments)...});
         const QByteArray address = qgetenv("DBUS_SESSION_BUS_ADDRESS");
         const QDBusMessage reply = QDBusConnection::connectToBus(

@@ -5,6 +5,7 @@
 #include "FakeDisplays.h"
 #include "FakeEvents.h"
 #include "QVTblt_prefPanePref.h"
+#include "QVWire.h"
 #include "SampleConfig.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
@@ -56,7 +57,7 @@ protected:
     {
         std::vector<tagQVTabletInfo> records;
         for (const FakeEvents::Sent& sent : mEvents.sent) {
-            if (sent.event.eventID == platform::fourCharCode("WSnd")) {
+            if (sent.event.eventID == kQVSettingsEvent) {
                 const QByteArray bytes = *sent.event.parameters.front().desc.bytes();
                 EXPECT_EQ(bytes.size(), 5077);
                 std::memcpy(&records.emplace_back(), bytes.constData(), sizeof(tagQVTabletInfo));

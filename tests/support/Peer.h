@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "AppleEventWire.h"
 #include "PrivateBus.h"
 
 #include <QDBusConnection>
@@ -34,7 +35,7 @@ public:
         moveToThread(&mThread);
         mThread.start();
         EXPECT_TRUE(
-            mConnection.registerVirtualObject(QStringLiteral("/org/quorvia/AppleEvents"), this));
+            mConnection.registerVirtualObject(QLatin1String(platform::wire::kObjectPath), this));
         if (!name.isEmpty()) {
             EXPECT_TRUE(mConnection.registerService(name));
         }

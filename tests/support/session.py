@@ -23,6 +23,9 @@ SOURCE = pathlib.Path(__file__).resolve().parent.parent.parent
 PATIENCE = 60
 
 DRIVER_NAME = "org.quorvia.AppleEvents.TdSg"
+# Objects of the driver with their interfaces.
+EVENTS = ("/org/quorvia/AppleEvents", "org.quorvia.AppleEvents1")
+SIMULATOR = ("/org/quorvia/TabletSimulator", "org.quorvia.TabletSimulator1")
 
 BUS_CONFIG = """<busconfig><type>session</type><listen>unix:path={folder}/bus</listen>{services}
 <policy context="default"><allow send_destination="*"/><allow receive_sender="*"/><allow own="*"/>
@@ -157,8 +160,7 @@ class Session(unittest.TestCase):
     def simulator(self, method, *arguments):
         """Calls the simulator with arguments in busctl's form. Gives the words of its answer."""
         result = self.run_program(
-            "busctl", "--user", "call", DRIVER_NAME, "/org/quorvia/TabletSimulator",
-            "org.quorvia.TabletSimulator1", method, *arguments)
+            "busctl", "--user", "call", DRIVER_NAME, *SIMULATOR, method, *arguments)
         self.assertEqual(result.returncode, 0, result.stderr)
         return result.stdout.split()
 

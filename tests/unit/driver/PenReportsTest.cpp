@@ -11,21 +11,21 @@ using namespace std::chrono_literals;
 namespace {
 
 /** Takes what there is to report, at most so many. */
-std::vector<PenReport> take(PenReports& reports, std::size_t most = 100)
+std::vector<QVPenReport> take(PenReports& reports, std::size_t most = 100)
 {
-    std::vector<PenReport> taken;
+    std::vector<QVPenReport> taken;
     while (!reports.isEmpty() && taken.size() < most) {
         taken.push_back(reports.take());
     }
     return taken;
 }
 
-constexpr PenReport down(std::uint16_t x, std::uint16_t y)
+constexpr QVPenReport down(std::uint16_t x, std::uint16_t y)
 {
     return {1, x, y, 300};
 }
 
-constexpr PenReport up(std::uint16_t x, std::uint16_t y)
+constexpr QVPenReport up(std::uint16_t x, std::uint16_t y)
 {
     return {0, x, y, 0};
 }
@@ -109,7 +109,7 @@ TEST(PenReports, aMoveDoesNotChangeATapBeforeIt)
     reports.move(2, 2);
     reports.tap(3, 4);
     reports.move(5, 5);
-    const std::vector<PenReport> taken = take(reports, 9);
+    const std::vector<QVPenReport> taken = take(reports, 9);
     EXPECT_EQ(taken[1], down(2, 2));
     EXPECT_EQ(taken[7], up(3, 4));
     EXPECT_EQ(taken[8], down(5, 5));

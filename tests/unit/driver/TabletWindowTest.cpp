@@ -4,6 +4,7 @@
 
 #include "Driver.h"
 #include "FakeEvents.h"
+#include "QVWire.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
 
@@ -36,10 +37,9 @@ protected:
     {
         platform::AppleEvent reply;
         const QByteArray record(reinterpret_cast<const char*>(&settings), sizeof settings);
-        const auto handler =
-            mEvents.handlers.at({kQVDriverSignature, platform::fourCharCode("WSnd")});
+        const auto handler = mEvents.handlers.at({kQVDriverSignature, kQVSettingsEvent});
         testing::internal::CaptureStdout();
-        EXPECT_EQ(handler({kQVDriverSignature, platform::fourCharCode("WSnd"),
+        EXPECT_EQ(handler({kQVDriverSignature, kQVSettingsEvent,
                               {platform::typeBusName, QByteArray(":1.1")},
                               {{platform::fourCharCode("data"), {platform::typeUTF8Text, record}}}},
                       reply),

@@ -1,0 +1,42 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "AppleEvents.h"
+
+#include <cstdint>
+
+/**
+ * @file
+ * The wire between panel and driver: names, codes and the pen report, for whoever speaks on it.
+ * docs/driver-protocol.md describes the events; tagQVTabletInfo.h has the record that a push
+ * carries, AppleEventWire.h how events travel on the bus.
+ */
+
+/** The driver's signature, which gives it its bus name, and the class of the settings event. */
+inline constexpr platform::FourCharCode kQVDriverSignature = platform::fourCharCode("TdSg");
+
+/** The driver's property that says which configuration file belongs to the tablet. */
+inline constexpr platform::FourCharCode kQVConfigProperty = platform::fourCharCode("QCFG");
+
+/** The settings event, and its parameter: the record as text. */
+inline constexpr platform::AEEventID kQVSettingsEvent = platform::fourCharCode("WSnd");
+inline constexpr platform::AEKeyword kQVSettingsData = platform::fourCharCode("data");
+
+/** The type of a pen report. */
+inline constexpr platform::DescType kQVPenReportType = platform::fourCharCode("rprt");
+
+/** One report of the pen, as the driver sends it to a panel that calibrates. */
+struct QVPenReport {
+    std::uint32_t key; ///< 1 while the tip is down, 0 while it is up
+    std::uint16_t x; ///< in tablet units
+    std::uint16_t y;
+    std::uint32_t pressure; ///< which the panel does not read
+
+    bool operator==(const QVPenReport&) const = default;
+};
+static_assert(sizeof(QVPenReport) == 12);
+
+/** The simulated tablet, an object on the driver's connection. */
+inline constexpr auto kQVSimulatorPath = "/org/quorvia/TabletSimulator";
+inline constexpr auto kQVSimulatorInterface = "org.quorvia.TabletSimulator1";
