@@ -14,7 +14,7 @@
 
 #include <functional>
 
-/** Answers the next alert that is open when the event loop runs, by a button's text or by a key. */
+/** Answers the next alert that opens, with a button's text or a key. */
 class AlertAnswer final : public QObject {
 public:
     explicit AlertAnswer(const char* button)
@@ -36,7 +36,7 @@ public:
     }
     ~AlertAnswer() override { EXPECT_FALSE(mText.isNull()) << "no alert was open"; }
 
-    /** What the alert said. */
+    /** The alert's text. */
     QString text() const { return mText; }
 
 private:

@@ -13,7 +13,7 @@
 #include <map>
 #include <ostream>
 
-/** What text needs, and what lines and frames need that say something. */
+/** The contrasts required for text, and for lines and frames that carry information. */
 inline constexpr double kTextContrast = 4.5;
 inline constexpr double kGraphicsContrast = 3.0;
 
@@ -38,7 +38,7 @@ struct Theme {
 
     QPalette palette() const
     {
-        QPalette palette{QColor(button), QColor(window)}; // shades as Qt makes them
+        QPalette palette{QColor(button), QColor(window)}; // Qt derives the shades
         for (const QPalette::ColorRole role :
             {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
             palette.setColor(QPalette::Active, role, QColor(text));
@@ -56,7 +56,7 @@ inline void PrintTo(const Theme& theme, std::ostream* stream)
     *stream << theme.name;
 }
 
-/** Breeze's are those of its colour schemes, Fusion's those that Qt gives without a desktop. */
+/** Breeze's colours are from its colour schemes, Fusion's are Qt's without a desktop. */
 inline constexpr std::array<Theme, 6> kThemes{{
     {"BreezeLight", 0xFFEFF0F1, 0xFFFFFFFF, 0xFF232629, 0xFFFCFCFC, 0xFF3DAEE9, 0xFFFFFFFF},
     {"BreezeDark", 0xFF2A2E32, 0xFF1B1E20, 0xFFFCFCFC, 0xFF31363B, 0xFF3DAEE9, 0xFFFCFCFC},
@@ -66,7 +66,7 @@ inline constexpr std::array<Theme, 6> kThemes{{
     {"HighContrastInverse", 0xFFFFFFFF, 0xFFFFFFFF, 0xFF000000, 0xFFFFFFFF, 0xFF000080, 0xFFFFFFFF},
 }};
 
-/** Puts a theme in place of the desktop's for as long as it lives. */
+/** Replaces the desktop's theme for its lifetime. */
 class ThemeScope {
 public:
     explicit ThemeScope(const Theme& theme)
@@ -83,7 +83,7 @@ private:
     QPalette mBefore;
 };
 
-/** The colour of which there is most. */
+/** The most frequent colour. */
 inline QColor groundOf(const QImage& image)
 {
     std::map<QRgb, int> counts;
@@ -98,8 +98,8 @@ inline QColor groundOf(const QImage& image)
 }
 
 /**
- * The contrast of what is drawn in a picture to its ground. Of smoothed texts and lines, what
- * stands apart most has the colour that was meant.
+ * The contrast of a drawing to its background. In antialiased texts and lines, the pixel with the
+ * highest contrast has the intended colour.
  */
 inline double contrastIn(const QImage& image)
 {

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// Prints a line for each notice that displays change: "begin" or "end", then the bounds of each,
-// the main one's with a star. The first line, "now", is how they are.
+// Prints a line for each notification of a display change: "begin" or "end", then the bounds of
+// each display, the main one's with a star. The first line, "now", is the initial state.
 
 #include "Displays.h"
 

@@ -6,7 +6,8 @@
 #include <QMouseEvent>
 #include <QWidget>
 
-/** The mouse moves over a widget with its left button down, which Qt 5's own function leaves out.
+/**
+ * Moves the mouse over a widget with its left button down; Qt 5's own function drops the button.
  */
 inline void dragMouse(QWidget& widget, const QPoint& to)
 {

@@ -21,7 +21,7 @@ class DriverProcess {
 public:
     explicit DriverProcess(const QStringList& arguments = {})
     {
-        // Nobody reads what it says, and a full pipe would stop it.
+        // Its output is not read, and a full pipe would block it.
         mProcess.setStandardOutputFile(QProcess::nullDevice());
         mProcess.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         mProcess.start(QStringLiteral(QVTBLT_STAGE_BIN "/tdsg-driver"), arguments);
@@ -43,13 +43,13 @@ public:
 
     void signal(int number) const
     {
-        // Once it has ended it has no number, and 0 would be the whole group: other tests too.
+        // After its end the ID is 0, which would signal the whole process group, with other tests.
         if (mProcess.processId() > 0) {
             ::kill(static_cast<pid_t>(mProcess.processId()), number);
         }
     }
 
-    /** Kills it and waits until it is gone. */
+    /** Kills it and waits for its end. */
     void kill()
     {
         mProcess.kill();
@@ -75,12 +75,12 @@ public:
     }
 
 private:
-    /** A connection of the tests' own to the present bus. */
+    /** The test's own connection to the current bus. */
     static QDBusConnection bus()
     {
         const QString address = QString::fromUtf8(qgetenv("DBUS_SESSION_BUS_ADDRESS"));
         QDBusConnection connection = QDBusConnection::connectToBus(address, address);
-        if (!connection.isConnected()) { // it was to a bus that is gone
+        if (!connection.isConnected()) { // its bus has ended
             QDBusConnection::disconnectFromBus(address);
             connection = QDBusConnection::connectToBus(address, address);
         }

@@ -15,7 +15,7 @@
 #include <umockdev.h>
 #include <vector>
 
-/** How an emulated device is built and what it does. */
+/** The properties and the behaviour of an emulated device. */
 struct EmulatedDevice {
     int number = 2; ///< on bus 1
     std::uint16_t vendor = 0;
@@ -23,15 +23,15 @@ struct EmulatedDevice {
     int configurations = 1;
     bool hasConfiguration = true; ///< whether its configuration descriptors can be read
 
-    int heldClaims = 0; ///< claims that fail since another program has the interface
+    int heldClaims = 0; ///< number of claims that fail because another program has the interface
     int claimError = 0; ///< errno of every claim
-    int submitError = 0; ///< errno of every request's start
-    int requestStatus = 0; ///< negative errno with which every request ends
+    int submitError = 0; ///< errno of every submitted request
+    int requestStatus = 0; ///< negative errno of every completed request
 };
 
 /**
- * A USB bus that is not there, under the real library: its devices' files in /sys and /dev, and
- * what the kernel answers there. The process runs with libumockdev-preload.so.0.
+ * An emulated USB bus under the real library: its device files in /sys and /dev, and the kernel's
+ * answers there. The process runs with libumockdev-preload.so.0.
  */
 class EmulatedUsb {
 public:
@@ -66,7 +66,7 @@ public:
             << error->message;
     }
 
-    /** Pulls it out; nobody is told. */
+    /** Unplugs it, without an event. */
     void unplug(int number)
     {
         char* const root = umockdev_testbed_get_root_dir(mTestbed);
@@ -75,7 +75,7 @@ public:
         EXPECT_EQ(std::remove(inside.c_str()), 0) << inside << ' ' << std::strerror(errno);
     }
 
-    /** What was asked of the devices, in order: "claim 0", "21 09 … | 04 01", "release 0", … */
+    /** The requests to the devices, in order: "claim 0", "21 09 … | 04 01", "release 0", … */
     std::vector<std::string> asked()
     {
         const std::lock_guard lock(mMutex);
@@ -87,7 +87,7 @@ private:
         EmulatedDevice made;
         EmulatedUsb* owner = nullptr;
         UMockdevIoctlBase* handler = nullptr;
-        UMockdevIoctlData* urb = nullptr; ///< the request that waits to be reaped
+        UMockdevIoctlData* urb = nullptr; ///< the request that is waiting to be reaped
         void* urbAddress = nullptr;
 
         Emulation() = default;
@@ -119,7 +119,7 @@ private:
         return text;
     }
 
-    /** The device's descriptors, as /sys has them: a tablet's, with one HID interface. */
+    /** The device's descriptors, as in /sys: a tablet's, with one HID interface. */
     static std::string descriptors(const EmulatedDevice& device)
     {
         std::string text =
@@ -155,14 +155,14 @@ private:
         mAsked.push_back(what);
     }
 
-    /** Ends a call of the kernel's: its result, or minus one with an errno. */
+    /** Completes a system call: returns its result, or -1 with an errno. */
     static gboolean complete(UMockdevIoctlClient* client, int error)
     {
         umockdev_ioctl_client_complete(client, error == 0 ? 0 : -1, error);
         return TRUE;
     }
 
-    /** The kernel's side of a device's file. In umockdev's thread. */
+    /** The kernel's side of a device file. Runs in umockdev's thread. */
     static gboolean handle(UMockdevIoctlBase*, UMockdevIoctlClient* client, Emulation* emulation)
     {
         EmulatedDevice& device = emulation->made;

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-/** Displays with given bounds, in the place of the desktop's for as long as it lives. */
+/** Displays with given bounds, which replace the desktop's for its lifetime. */
 class FakeDisplays final : public platform::Displays {
 public:
     explicit FakeDisplays(std::vector<platform::Rect> bounds)
@@ -53,14 +53,14 @@ public:
         std::erase(mCallbacks, std::pair(callback, userInfo));
     }
 
-    /** Changes the displays as the desktop does: a notice for each before and after. */
+    /** Changes the displays as the desktop does, with notifications for each before and after. */
     void change(std::vector<platform::Rect> bounds)
     {
         tell(platform::kDisplayBeginConfiguration);
         mBounds = std::move(bounds);
         tell(platform::kDisplaySetMode);
     }
-    /** Gives one notice for each display. */
+    /** Sends a notification for each display. */
     void tell(std::uint32_t flags)
     {
         for (const auto& [callback, userInfo] : mCallbacks) {
@@ -71,9 +71,9 @@ public:
     }
     std::size_t callbackCount() const { return mCallbacks.size(); }
 
-    std::uint32_t main = 0; ///< place of the main display
-    bool failCount = false; ///< the window system does not tell how many there are
-    bool failList = false; ///< nor which
+    std::uint32_t main = 0; ///< index of the main display
+    bool failCount = false; ///< the window system does not return the number of displays
+    bool failList = false; ///< nor the list
 
 private:
     static constexpr platform::DisplayID kFirstID = 100;

@@ -11,8 +11,8 @@
 #include <vector>
 
 /**
- * Events that go nowhere, in the place of the session's for as long as it lives: what would be sent
- * is kept, and every step can be made to fail.
+ * Replaces the session's events for its lifetime: records what would be sent, and can make every
+ * step fail.
  */
 class FakeEvents final : public platform::AppleEvents {
 public:
@@ -21,7 +21,7 @@ public:
     {
     }
 
-    /** What was given to send(). */
+    /** The arguments of send(). */
     struct Sent {
         platform::AppleEvent event;
         bool wantsReply;
@@ -37,7 +37,7 @@ public:
     platform::OSErr createSpecifierResult = platform::noErr;
     platform::OSErr putParamResult = platform::noErr;
     platform::OSErr sendResult = platform::noErr;
-    platform::AERecord reply; ///< what a query is answered
+    platform::AERecord reply; ///< the reply to a query
     std::function<void()> onSend; ///< called before each event is sent
 
     platform::OSErr createDesc(
@@ -94,7 +94,7 @@ public:
     }
     void acceptEventsFrom(platform::FourCharCode) override { }
 
-    /** Makes the driver's answer to the query. */
+    /** Sets the driver's answer to the query. */
     void answer(platform::DescType type, const QByteArray& bytes)
     {
         reply = {{platform::keyDirectObject, {type, bytes}}};

@@ -11,34 +11,31 @@
 #include <utility>
 #include <vector>
 
-/** What a faked service does. */
+/** The behaviour of a fake service. */
 struct FakeUsbService {
-    platform::IOReturn interfaceError = platform::kIOReturnSuccess; ///< no interface is created
+    platform::IOReturn interfaceError = platform::kIOReturnSuccess; ///< of its creation
     int configurations = 1;
     std::uint8_t configurationValue = 7;
     platform::IOReturn countError = platform::kIOReturnSuccess;
     platform::IOReturn descriptorError = platform::kIOReturnSuccess;
-    std::deque<platform::IOReturn> openErrors; ///< of each opening; success after the last
+    std::deque<platform::IOReturn> openErrors; ///< results of opening, in order; then success
     platform::IOReturn requestError = platform::kIOReturnSuccess;
     platform::IOReturn configurationError = platform::kIOReturnSuccess;
     std::vector<FakeUsbService> interfaces;
 };
 
-/**
- * USB whose every step can fail, in the machine's place for as long as it lives; and the sleep,
- * which passes at once.
- */
+/** Replaces USB and sleep for its lifetime: every step can fail, and a sleep returns at once. */
 class FakeUsb final : public platform::Usb, public platform::Sleep {
 public:
     platform::IOReturn mainPortError = platform::kIOReturnSuccess;
     bool hasMatching = true;
     platform::IOReturn servicesError = platform::kIOReturnSuccess;
     std::vector<FakeUsbService> devices;
-    bool goesWithReset = false; ///< a reset finds no device
+    bool goesWithReset = false; ///< after a reset, there is no device
 
     platform::UsbMatching asked;
     std::vector<std::string> log; ///< "open", "request", "sleep 1000", …
-    std::vector<platform::UsbDeviceRequest> requests; ///< their data is gone
+    std::vector<platform::UsbDeviceRequest> requests; ///< their data pointers are invalid
     std::vector<std::vector<std::uint8_t>> data;
 
     platform::IOReturn mainPort() override { return mainPortError; }
@@ -81,7 +78,7 @@ public:
     {
         return std::make_unique<Iterator>(*this, devices);
     }
-    /** A device as something to be opened. */
+    /** Returns a device to be opened. */
     std::unique_ptr<platform::UsbDeviceInterface> device(std::size_t index)
     {
         return std::make_unique<Device>(*this, devices[index]);

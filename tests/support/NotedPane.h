@@ -10,24 +10,24 @@
 
 #include <utility>
 
-/** What a host has done with its pane, which says so also when it is gone. */
+/** What a host has done with its pane; outlives the pane. */
 struct PaneLife {
     QStringList calls;
-    QStringList views; ///< when the main view went and came while its window stayed
+    QStringList views; ///< when the main view was hidden and shown in a visible window
     bool hasChanges = false;
     bool canSave = true;
     bool canLoad = true;
     bool hasDevice = true;
     platform::PreferencePane::Device device = platform::PreferencePane::Device::Same;
 
-    /** The calls since it was last asked. */
+    /** Returns the calls since the last take(). */
     QStringList take() { return std::exchange(calls, {}); }
 };
 
 inline const QStringList kComing{QStringLiteral("will select"), QStringLiteral("did select")};
 inline const QStringList kLeaving{QStringLiteral("will unselect"), QStringLiteral("did unselect")};
 
-/** A pane that takes its calls down and has the news that a pane has with them. */
+/** A pane that records its calls and sends the news that belongs to them. */
 class NotedPane final : public platform::PreferencePane {
 public:
     explicit NotedPane(PaneLife& life)
@@ -92,7 +92,7 @@ private:
         tell(mLife.canSave ? News::Saved : News::NotSaved,
             mLife.canSave ? QString() : QStringLiteral("the disk is full"));
     }
-    /** A view that notes when it goes and comes while its window stays. */
+    /** A view that records when it is hidden and shown in a visible window. */
     class View final : public QWidget {
     public:
         explicit View(PaneLife& life)

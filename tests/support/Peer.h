@@ -18,15 +18,15 @@
 #include <vector>
 
 /**
- * Another program on the bus, on a connection and a thread of its own: it answers the panel's
- * events as it is told, and sends what it is told. It shares no code with the driver.
+ * Another program on the bus, with its own connection and thread: answers the panel's events and
+ * sends messages as the test wants. It shares no code with the driver.
  */
 class Peer final : public QDBusVirtualObject {
 public:
-    /** Makes the answer to a call. */
+    /** Creates the answer to a call. */
     using Answer = std::function<QDBusMessage(const QDBusMessage& call)>;
 
-    /** @param name the well-known name to own; none when empty */
+    /** @param name the well-known name to own; none if empty */
     explicit Peer(const PrivateBus& bus, const QString& name = {})
         : mConnection(QDBusConnection::connectToBus(
             bus.address(), QStringLiteral("peer-%1").arg(reinterpret_cast<quintptr>(this))))
@@ -49,7 +49,7 @@ public:
         QDBusConnection::disconnectFromBus(name);
     }
 
-    /** To be set before the first call arrives. */
+    /** Must be set before the first call arrives. */
     Answer answer;
     std::chrono::milliseconds delay{0};
 

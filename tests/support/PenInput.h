@@ -9,7 +9,7 @@
 #include <qpa/qwindowsysteminterface_p.h>
 
 /**
- * A pen of the window system: what it does goes through Qt's whole path. Nothing arrives before
+ * A pen of the window system, whose events take the whole path through Qt. Nothing arrives before
  * deliver(), so that many events can arrive together.
  */
 class PenInput {
@@ -21,7 +21,7 @@ public:
         , mSerial(serial)
         , mEnd(end)
     {
-        // As on a real desktop, where Qt makes mouse events of what nobody has taken.
+        // As on a real desktop, where Qt turns ignored pen events into mouse events.
         QWindowSystemInterfacePrivate::TabletEvent::setPlatformSynthesizesMouse(false);
     }
 
@@ -73,7 +73,7 @@ private:
     void put(const QPointF& at, Qt::MouseButtons buttons, qreal pressure)
     {
         const QWidget& window = *mView.window();
-        const qreal density = window.devicePixelRatioF(); // the window system counts its pixels
+        const qreal density = window.devicePixelRatioF(); // the window system uses pixels
         const QPointF inWindow = at + mView.mapTo(&window, QPoint(0, 0));
         const QPointF local = inWindow * density;
         const QPointF global = (inWindow + window.mapToGlobal(QPoint(0, 0))) * density;

@@ -8,8 +8,8 @@
 
 /**
  * @file
- * The wire's types once more, in QtDBus alone, so that the tests do not see with the program's own
- * eyes.
+ * The wire's types again, with QtDBus only, so that the tests do not rely on the program's own
+ * code.
  */
 
 /** (uv) */
@@ -61,7 +61,7 @@ inline const QDBusArgument& operator>>(const QDBusArgument& argument, TestParame
 using Parameters = QList<TestParameter>;
 using Descriptors = QList<TestDesc>;
 
-/** Before the first use of the types. */
+/** Must be called before the first use of the types. */
 inline void registerPlainWire()
 {
     qDBusRegisterMetaType<TestDesc>();

@@ -9,8 +9,8 @@
 #include <gtest/gtest.h>
 
 /**
- * A session bus of its own, a real dbus-daemon, for as long as it lives. It starts the driver of
- * this build on demand where that is wished.
+ * A private session bus, a real dbus-daemon, for its lifetime. Optionally starts the driver of this
+ * build on demand.
  */
 class PrivateBus {
 public:
@@ -42,14 +42,14 @@ public:
         qputenv("DBUS_SESSION_BUS_ADDRESS", mBefore);
     }
 
-    /** Everybody on the bus is disconnected; nobody can connect. */
+    /** Disconnects all clients; nobody can connect. */
     void stop()
     {
         mDaemon.terminate();
         mDaemon.waitForFinished();
     }
 
-    /** A new bus at the same address. */
+    /** Starts a new bus at the same address. */
     void start()
     {
         mDaemon.start(QStringLiteral("dbus-daemon"),
@@ -57,7 +57,7 @@ public:
                 QStringLiteral("--print-address"),
                 QStringLiteral("--config-file=") + mFolder.filePath(QStringLiteral("bus.conf"))});
         EXPECT_TRUE(mDaemon.waitForReadyRead());
-        // Without the identity of this very daemon, the address is also that of the next one.
+        // Without the GUID of this daemon, the address is valid for the next one, too.
         mAddress = mDaemon.readLine().trimmed().split(',').constFirst();
         EXPECT_FALSE(mAddress.isEmpty());
     }

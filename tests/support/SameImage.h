@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-/** A canvas of a view's size in points, at a density, whose painter has y growing upwards. */
+/** A canvas with a view's size in points, at a pixel density; its painter has y growing upwards. */
 struct Canvas {
     Canvas(const QSizeF& points, double density)
         : image((points * density).toSize(), QImage::Format_ARGB32_Premultiplied)
@@ -39,7 +39,7 @@ inline void expectSameImage(const QImage& drawn, const QImage& expected)
             const QRgb other = expected.pixel(x, y);
             const int difference = std::max({std::abs(qRed(one) - qRed(other)),
                 std::abs(qGreen(one) - qGreen(other)), std::abs(qBlue(one) - qBlue(other))});
-            // Where edges are smoothed, a step of rounding is no difference.
+            // Ignore rounding by one step at antialiased edges.
             differing += difference > 1 ? 1 : 0;
             greatest = std::max(greatest, difference);
         }

@@ -16,9 +16,8 @@ inline QByteArray plist(const QByteArray& root)
 }
 
 /**
- * A whole configuration file in which every entry has another value, so that a mix-up of two shows.
- * Field n of the file's order is n + 1; slot s has Valid s + 100, Mouse s + 200, Key s + 300 and
- * App
+ * A complete configuration file in which all entries differ, so that mixed-up entries are noticed.
+ * Field n in file order is n + 1; slot s has Valid s + 100, Mouse s + 200, Key s + 300 and App
  * "/app/s".
  */
 inline QByteArray sampleConfig()
@@ -58,7 +57,7 @@ inline QByteArray sampleConfig()
     return plist(text + "</dict></dict>");
 }
 
-/** The record that the sample loads into, with the mapped area of the file. */
+/** The record after loading the sample, with the mapped area of the file. */
 inline tagQVTabletInfo sampleRecord()
 {
     tagQVTabletInfo record{};

@@ -10,7 +10,7 @@
 
 #include <string>
 
-/** A home folder of its own for as long as it lives: HOME and the folders that follow from it. */
+/** A temporary home folder, for its lifetime: HOME and the folders derived from it. */
 class TemporaryHome {
 public:
     TemporaryHome()
@@ -24,7 +24,7 @@ public:
 
     QString path() const { return mFolder.path(); }
 
-    /** The folder of the configuration files; makes it. */
+    /** Creates and returns the folder of the configuration files. */
     QDir configFolder() const
     {
         const QDir folder(

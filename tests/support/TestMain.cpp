@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// Runs the tests of one program inside of an application object: one with windows, drawn nowhere,
-// where the program is built with QVTBLT_TEST_WINDOWS.
+// Runs a program's tests with an application object: one with offscreen windows if the program is
+// built with QVTBLT_TEST_WINDOWS.
 
 #include <gtest/gtest.h>
 

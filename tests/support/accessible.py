@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""Prints what an application tells screen readers, as JSON: one object for each accessible thing.
+"""Prints what an application exposes to screen readers, as JSON: one object per accessible.
 
-A process of its own, since the library can speak to one session in its life. Each question goes to
-the application and takes its time, so it looks at no more than it was asked for.
+It runs as a separate process, since the library can connect to only one session in its lifetime.
+Each request goes to the application and takes time, so it reads only what it was asked for.
 """
 
 import argparse
@@ -17,7 +17,7 @@ from gi.repository import Atspi, GLib  # noqa: E402
 
 
 def children(thing):
-    """The index of each child and the child. One that goes away meanwhile is left out."""
+    """Yields the index of each child and the child. Skips one that disappears meanwhile."""
     for i in range(thing.get_child_count()):
         child = thing.get_child_at_index(i)
         if child is not None:
@@ -25,7 +25,7 @@ def children(thing):
 
 
 def describe(thing, path, options, found):
-    """Adds the thing and what is below it."""
+    """Adds an accessible and its descendants."""
     try:
         states = thing.get_state_set()
         isShowing = states.contains(Atspi.StateType.SHOWING)
@@ -52,7 +52,7 @@ def describe(thing, path, options, found):
             "height": extents.height if extents else 0,
         }))
         if not isShowing and not options.all:
-            return  # nor is anything below it
+            return  # nor are its descendants
         if thing.get_role() == Atspi.Role.COMBO_BOX:
             if options.items_of in (name, description):
                 options = argparse.Namespace(**{**vars(options), "all": True})
@@ -65,7 +65,7 @@ def describe(thing, path, options, found):
 
 
 def labels(thing):
-    """The names of what labels the thing."""
+    """Returns the names of the accessible's labels."""
     targets = [relation.get_target(i) for relation in thing.get_relation_set()
                if relation.get_relation_type() == Atspi.RelationType.LABELLED_BY
                for i in range(relation.get_n_targets())]
@@ -73,8 +73,8 @@ def labels(thing):
 
 
 def print_focused(thing):
-    """Prints name and description of the thing below this one that has the focus. Gives whether
-    there is one."""
+    """Prints name and description of the descendant that has the focus. Returns whether there is
+    one."""
     try:
         states = thing.get_state_set()
         if states.contains(Atspi.StateType.FOCUSED):
@@ -88,15 +88,15 @@ def print_focused(thing):
 
 
 def press(name, role, found):
-    """Does what a click on the thing with that name or description would do. Gives whether there is
-    one."""
+    """Does what a click on the accessible with that name or description would do. Returns whether
+    there is one."""
     for thing, about in found:
         if name in (about["name"], about["description"]) and role == about["role"] \
                 and about["showing"]:
             action = thing.get_action_iface()
             names = [action.get_action_name(i) for i in range(action.get_n_actions())]
-            # What a click does is a box's toggling and a button's pressing; a box may have no press
-            # at all.
+            # A click toggles a check box and presses a button; a check box may have no press
+            # action.
             return action.do_action(names.index("Toggle" if "Toggle" in names else "Press"))
     return False
 
@@ -106,7 +106,7 @@ EVENTS = ("object:state-changed:showing", "object:property-change:accessible-des
 
 
 def listen(name):
-    """Prints what is told, as one JSON object a line."""
+    """Prints the announcements, one JSON object per line."""
     def take(event, *_):
         try:
             application = event.source.get_application()

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
 """A session with a screen: an X server without hardware, a window manager, and the accessibility
-bus, through which a test finds what a person sees."""
+bus, through which a test finds the controls."""
 
 import json
 import os
@@ -28,10 +28,10 @@ class Desktop(session.Session):
         session.wait_for(lambda: self.has_name("org.a11y.Bus"), "the accessibility bus")
 
     def start_display(self):
-        """Starts what shows windows."""
+        """Starts the X server and the window manager."""
         read, write = os.pipe()
-        # Without -noreset it would start over when the first of its programs ends, and take with it
-        # the one that is just connecting.
+        # Without -noreset, the server would reset when its first client disconnects, and drop
+        # another that is just connecting.
         self.start([*self.x_server(), "-displayfd", write, "-nolisten", "tcp", "-noreset"],
                    pass_fds=(write,), stdout=subprocess.DEVNULL)
         os.close(write)
@@ -43,13 +43,14 @@ class Desktop(session.Session):
                 "xprop", "-root", "_NET_SUPPORTING_WM_CHECK").stdout, "the window manager")
 
     def has_name(self, name):
-        """Whether somebody has that name on the bus."""
+        """Whether the name is owned on the bus."""
         return self.run_program(
             "busctl", "--user", "call", "org.freedesktop.DBus", "/org/freedesktop/DBus",
             "org.freedesktop.DBus", "NameHasOwner", "s", name).stdout == "b true\n"
 
     def things(self, application, *options):
-        """What the application shows to screen readers; options are those of accessible.py."""
+        """Returns what the application exposes to screen readers; options are those of
+        accessible.py."""
         return json.loads(self.accessible(application, *options))
 
     def accessible(self, *arguments):
@@ -59,15 +60,15 @@ class Desktop(session.Session):
         return result.stdout
 
     def press(self, application, name, role):
-        """Has the application press a control, as a screen reader does for those without a mouse."""
+        """Presses a control through the accessibility bus, as a screen reader does."""
         options = ["--items"] if role == "list item" else []
         session.wait_for(
             lambda: json.loads(self.accessible(application, *options, "--press", name, role)),
             f"{role} '{name}' of {application}")
 
     def find(self, application, name, role=None, showing=True, inside=()):
-        """Waits for the thing with that name or description; gives its properties. The thing is below
-        the one whose path is given."""
+        """Waits for the thing with that name or description below the given path, and returns its
+        properties."""
         options = ["--items"] if role == "list item" else []
         if not showing:
             options.append("--all")
@@ -87,35 +88,35 @@ class Desktop(session.Session):
         return result.stdout.strip()
 
     def click(self, thing, x=None):
-        """Presses and releases the mouse on a thing, in its middle or x points from its left."""
+        """Clicks a thing, in its middle or x points from its left edge."""
         across = thing["width"] // 2 if x is None else x
         self.xdotool("mousemove", thing["x"] + across, thing["y"] + thing["height"] // 2,
                      "click", 1)
 
     def close_window(self, title):
-        """Asks the window to close, as its close button does."""
+        """Asks a window to close, like its close button."""
         self.ask_to_close(session.wait_for(
             lambda: self.run_program("xdotool", "search", "--onlyvisible", "--name",
                                      title).stdout.split(), f"the window '{title}'")[0])
 
     def ask_to_close(self, window):
-        """The same for the window with that number. Goes through the window manager, since a key
-        that comes right after a window has been shown may reach nobody."""
+        """The same for the window with that ID. Goes through the window manager, since a key that
+        is pressed right after a window has been shown may get lost."""
         result = self.run_program("wmctrl", "-i", "-c", window)
         self.assertEqual(result.returncode, 0, result.stderr)
 
     def pixels(self, x, y, width, height):
-        """The colours of a part of the screen, row by row, as #RRGGBB."""
+        """Returns the colours of a part of the screen, row by row, as #RRGGBB."""
         result = self.run_program("import", "-silent", "-window", "root", "-crop",
                                   f"{width}x{height}+{x}+{y}", "-depth", "8", "txt:-")
         self.assertEqual(result.returncode, 0, result.stderr)
         return re.findall("#[0-9A-F]{6}", result.stdout)
 
     def pixel(self, x, y):
-        """The colour of a pixel of the screen."""
+        """Returns the colour of a pixel of the screen."""
         return self.pixels(x, y, 1, 1)[0]
 
     def screenshot(self, path):
-        """Writes a picture of the whole screen."""
+        """Writes a screenshot."""
         result = self.run_program("import", "-window", "root", path)
         self.assertEqual(result.returncode, 0, result.stderr)

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""A desktop whose displays are plugged in and out: a real X server with a driver for no hardware."""
+"""A desktop whose displays are connected and disconnected: a real X server with a dummy driver."""
 
 import desktop
 
@@ -30,7 +30,7 @@ class Displays(desktop.Desktop):
     """Starts with the display DUMMY0 of 1024 by 768 points."""
 
     def configuration(self):
-        """The server's."""
+        """Returns the X server's configuration."""
         return XORG_CONFIG
 
     def x_server(self):
@@ -42,14 +42,15 @@ class Displays(desktop.Desktop):
     def xrandr(self, *words):
         result = self.run_program("xrandr", *words)
         self.assertEqual(result.returncode, 0, result.stderr)
-        # The driver has no cable that could tell the server; the server tells nobody of a display
-        # before it has looked for itself, as it does when it is asked.
+        # The dummy driver cannot report a change by itself. The server announces a display only
+        # after it has probed the outputs, which a query makes it do.
         self.run_program("xrandr", "--query")
 
     def plug(self, number, mode, position):
-        """Plugs a display in, or changes it: a mode as 1024x768, a position as 1024x0."""
+        """Connects or changes a display, with a mode such as 1024x768 and a position such as
+        1024x0."""
         output = f"DUMMY{number}"
-        self.run_program("xrandr", "--addmode", output, mode)  # fails where it has it already
+        self.run_program("xrandr", "--addmode", output, mode)  # fails if the output has it already
         self.xrandr("--output", output, "--mode", mode, "--pos", position)
 
     def unplug(self, number):

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The tablet models, as the panel's own table has them."""
+"""The tablet models, read from the panel's own table."""
 
 import collections
 import re
@@ -14,7 +14,7 @@ TABLE = session.SOURCE / "QVTblt/QVTabletModels.h"
 
 
 def all_models():
-    """Every model of the table, in its order."""
+    """Returns all models of the table, in order."""
     rows = re.findall(r'^ *\{(0x[0-9A-F]+), "(.+)", QVKeyLayout::(\w), QVPicture::(\w+), (.+)\},$',
                       TABLE.read_text(), re.MULTILINE)
     models = [Model(int(product, 16), name, layout, picture, *map(int, numbers.split(",")))
@@ -24,7 +24,7 @@ def all_models():
 
 
 def of_each_layout():
-    """The first model with each layout of the key page, in the table's order."""
+    """Returns the first model with each layout of the key page, in the table's order."""
     first = {}
     for model in all_models():
         first.setdefault(model.layout, model)

@@ -1,21 +1,22 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The panel's pages as the user guide shows them: how to come to each, and what is on it. The script
-that takes the guide's pictures writes down what is on them, and a test compares."""
+"""The panel's pages in the user guide: how to open each, and what it contains. The script that
+takes the guide's pictures records their contents, and a test compares them with the panel."""
 
 import json
 import re
 
 import session
 
-# Something on each tab's page, by which one knows that it is shown.
+# A control on each tab's page that shows that the page is open.
 CONTROLS = {"Keys": "Picture of the tablet", "Pen": "Drawing pad",
             "Display": "Picture of the displays and the tablet"}
 STRUCTURE = session.SOURCE / "docs/images/pages.json"
 
 
 def layouts():
-    """The first model of each layout of the key page: the layout's letter and the product ID."""
+    """Returns the first model of each layout of the key page: the layout's letter and the product
+    ID."""
     table = (session.SOURCE / "QVTblt/QVTabletModels.h").read_text()
     found = {}
     for number, letter in re.findall(r"\{0x(\w{4}), .*?QVKeyLayout::(\w),", table):
@@ -24,7 +25,7 @@ def layouts():
 
 
 def pages():
-    """Each page: its picture's name, the product whose settings it shows, and its tab."""
+    """Yields each page: its picture's name, the product whose settings it shows, and its tab."""
     for letter, product in sorted(layouts().items()):
         yield f"keyPage-{letter}", product, "Keys"
     yield "penPage", layouts()["G"], "Pen"
@@ -32,8 +33,8 @@ def pages():
 
 
 def structure(things):
-    """What a person sees of a page, without what differs from desktop to desktop: tabs, controls with
-    whether they can be used, and texts. A list stands under what it is for, not under what is chosen."""
+    """Returns a page's contents without what varies between desktops: tabs, controls and whether
+    they are enabled, and texts. A list has the name of its purpose, not of its choice."""
     seen = []
     for thing in things:
         if not thing["showing"]:
@@ -49,11 +50,11 @@ def structure(things):
 
 
 def written():
-    """The structure of each picture, as it was taken."""
+    """Returns the recorded structure of each picture."""
     return json.loads(STRUCTURE.read_text()) if STRUCTURE.exists() else {}
 
 
 def write(name, things):
-    """Writes down what is on a picture."""
+    """Records the structure of a picture."""
     all_pages = written() | {name: structure(things)}
     STRUCTURE.write_text(json.dumps(all_pages, indent=1, sort_keys=True) + "\n")

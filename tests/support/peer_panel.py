@@ -1,10 +1,11 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""A panel that only asks the driver for the pen: pushes a record with disableFlag 1, then prints a
-line for each report, "key x y nanoseconds". Lines on its standard input: "tap X Y COUNT" has the pen
-tap so many times, "push FLAG" pushes a record with that disableFlag, "end" ends it.
+"""A panel that does nothing but request pen reports: pushes a record with disableFlag 1, then
+prints
+a line for each report, "key x y nanoseconds". Commands on its standard input: "tap X Y COUNT" taps
+the pen COUNT times, "push FLAG" pushes a record with that disableFlag, "end" ends it.
 
-A process of its own, so that a test can kill it.
+It is a separate process, so that a test can kill it.
 """
 
 import struct

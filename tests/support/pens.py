@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""A desktop with a pen: the X server has a pen and its eraser as devices of their own, with a
-driver for no hardware, so that what they do goes the whole way that a real pen's goes."""
+"""A desktop with a pen: the X server has a pen and its eraser as separate devices with a test
+driver, so that their events take the same path as a real pen's."""
 
 import re
 import socket
@@ -30,16 +30,16 @@ Section "ServerLayout"
 EndSection
 """
 
-# The driver's messages: length and kind, then what belongs to the kind, in C's layout.
+# The test driver's messages: length and type, then the data of the type, in C's layout.
 VERSION, SYNC, MOTION, PROXIMITY, BUTTON = range(5)
-AXES = 64  # in a message; the devices have five
+AXES = 64  # per message; the devices have five
 ACROSS, DOWN, PRESSURE = 0, 1, 4
-REACH = 0xFFFF  # across and down, over all displays
+REACH = 0xFFFF  # range of x and y, over all displays
 FULL_PRESSURE = 1000
 
 
 class Pen:
-    """One end of the pen. Places are in pixels of the desktop, pressures 0 to 1."""
+    """One end of the pen. Positions are in pixels of the desktop, pressures from 0 to 1."""
 
     def __init__(self, path, size):
         self.width, self.height = map(int, size)
@@ -57,12 +57,12 @@ class Pen:
         self.connection.sendall(struct.pack("=II", 8 + len(content), kind) + content)
 
     def put(self, kind, layout, values, axes):
-        """Sends a message that ends in axes, and waits until the server has handled it."""
+        """Sends a message that ends with axes, and waits until the server has handled it."""
         mask, numbers = 0, [0.0] * AXES
         for axis, value in axes.items():
             mask |= 1 << axis
             numbers[axis] = value
-        # C puts the axes' part on a multiple of eight bytes, and in it their numbers.
+        # In C's layout, the axes are aligned to eight bytes, and so are their values.
         filler = -(8 + struct.calcsize("=" + layout)) % 8
         self.send(kind, f"{layout}{filler}xI8s4x{AXES}d{AXES}d", *values, 0,
                   mask.to_bytes(8, "little"), *numbers, *numbers)
@@ -98,7 +98,7 @@ class Pens(displays.Displays):
         return super().configuration() + devices + LAYOUT
 
     def pen(self, end="pen"):
-        """Takes an end of the pen into the hand; all displays have their places by then."""
+        """Returns an end of the pen; all displays must have their positions by then."""
         size = re.search(r"current (\d+) x (\d+)", self.run_program("xrandr").stdout).groups()
         pen = Pen(self.folder / f"{end}.socket", size)
         self.addCleanup(pen.close)

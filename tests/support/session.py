@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""A session for tests of whole programs: a private bus, a fresh home, the programs of the build."""
+"""A session for tests of whole programs: a private bus, a new home folder, the programs of the
+build."""
 
 import os
 import pathlib
@@ -63,12 +64,12 @@ def read_line(pipe, what, seconds=PATIENCE):
 
 
 class Session(unittest.TestCase):
-    """Each test has a bus, a home and the environment of a user of its own."""
+    """Each test has its own bus, home folder and environment."""
 
     ACTIVATION = False
 
     def run(self, result=None):
-        """As always, and shows with a failure what the programs have said on their standard error."""
+        """Runs the test, and adds the programs' standard error to a failure."""
         self.errors = []
         failures = len(result.failures) + len(result.errors)
         super().run(result)
@@ -96,8 +97,8 @@ class Session(unittest.TestCase):
         for name in ("ASAN_OPTIONS", "UBSAN_OPTIONS", "LSAN_OPTIONS"):
             if name in os.environ:
                 self.env[name] = os.environ[name]
-        # At the end of a program whose threads end with it, the search for leaks fails by itself
-        # once in a few hundred times. The tests in C++ look for the leaks of the same code.
+        # At the end of a program with running threads, the leak checker itself fails once in a few
+        # hundred times. The C++ tests check the same code for leaks.
         self.env["ASAN_OPTIONS"] = self.env.get("ASAN_OPTIONS", "") + ":detect_leaks=0"
         bus = self.start(
             ["dbus-daemon", "--nofork", "--nosyslog", "--print-address", f"--config-file={config}"],
@@ -105,8 +106,8 @@ class Session(unittest.TestCase):
         self.assertTrue(bus.stdout.readline())
 
     def start(self, command, **options):
-        """Starts a program that is ended with the test, and with it all that it has started. Its
-        standard error is shown if the test fails, unless the test reads it itself."""
+        """Starts a program, which is ended with its children at the end of the test. Its standard
+        error is shown if the test fails, unless the test reads it."""
         options.setdefault("text", True)
         log = tempfile.TemporaryFile("w+", errors="replace")
         options.setdefault("stderr", log)
@@ -129,11 +130,11 @@ class Session(unittest.TestCase):
             log.seek(0)
             text = log.read()
         self.errors.append(f"{program.args[0]} ended with {program.returncode}: {text}")
-        # A sanitizer ends a program, which not every test would notice.
+        # A sanitizer aborts a program, which not every test would notice.
         self.assertIsNone(re.search("Sanitizer|runtime error:", text), text)
 
     def start_driver(self, *arguments):
-        """Starts the driver. Gives the process; what it says is read from its stdout."""
+        """Starts the driver and returns the process; its stdout has its messages."""
         driver = self.start([BIN / "tdsg-driver", *arguments], stdout=subprocess.PIPE)
         driver.said = []
         while not driver.said or driver.said[-1] != "ready":
@@ -143,7 +144,7 @@ class Session(unittest.TestCase):
         return driver
 
     def stop_driver(self, driver, number=signal.SIGTERM):
-        """Ends the driver with a signal. Gives all that it has said."""
+        """Ends the driver with a signal and returns all its output."""
         driver.send_signal(number)
         rest, _ = driver.communicate(timeout=PATIENCE)
         driver.said += rest.splitlines()
@@ -158,16 +159,17 @@ class Session(unittest.TestCase):
         return self.run_program(BIN / "qvtbltctl", *arguments)
 
     def simulator(self, method, *arguments):
-        """Calls the simulator with arguments in busctl's form. Gives the words of its answer."""
+        """Calls the simulator with arguments in busctl's form, and returns the words of the
+        reply."""
         result = self.run_program(
             "busctl", "--user", "call", DRIVER_NAME, *SIMULATOR, method, *arguments)
         self.assertEqual(result.returncode, 0, result.stderr)
         return result.stdout.split()
 
     def record(self):
-        """The bytes of the driver's last record."""
+        """Returns the bytes of the driver's last record."""
         return bytes(int(byte) for byte in self.simulator("LastRecord")[2:])
 
     def config(self, number=20737):
-        """Path of a configuration file."""
+        """Returns the path of a configuration file."""
         return self.home / "Library/Preferences/QuorviaTablet/config" / f"{number}.plist"

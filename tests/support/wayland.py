@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""A Wayland desktop with two displays side by side and no hardware: KWin, drawing into memory."""
+"""A Wayland desktop with two displays side by side and no hardware: KWin, rendering into memory."""
 
 import os
 import shutil
@@ -16,10 +16,10 @@ class Wayland(desktop.Desktop):
     """Its displays are Virtual-0 and, to the right of it, Virtual-1, of 1280 by 720 points each."""
 
     def start_display(self):
-        # The installed file asks for a capability that a container may not give.
+        # The installed file has a capability that a container may not grant.
         kwin = shutil.copy("/usr/bin/kwin_wayland", self.folder)
         self.env.update({
-            "KWIN_COMPOSE": "O2",  # else there are no pictures of the screen
+            "KWIN_COMPOSE": "O2",  # otherwise screenshots do not work
             "KWIN_SCREENSHOT_NO_PERMISSION_CHECKS": "1",
             "LIBGL_ALWAYS_SOFTWARE": "1",
             "QT_QPA_PLATFORM": "wayland",
@@ -42,13 +42,14 @@ class Wayland(desktop.Desktop):
             return dbus.Interface(bus.get_object("org.kde.KWin", path, introspect=False),
                                   "org.kde.KWin.ScreenShot2")
         except dbus.DBusException:
-            return None  # it has only just begun
+            return None  # it is still starting
 
     def pixels(self, display):
-        """What a display shows: a function that gives (red, green, blue) at a place."""
+        """Returns a display's contents: a function that returns (red, green, blue) at a
+        position."""
         read, write = os.pipe()
         with os.fdopen(read, "rb") as pipe:
-            descriptor = dbus.types.UnixFd(write)  # which is another one
+            descriptor = dbus.types.UnixFd(write)  # a duplicate
             os.close(write)
             picture = self.kwin.CaptureScreen(display, dbus.Dictionary(signature="sv"), descriptor)
             del descriptor
