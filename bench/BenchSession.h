@@ -8,7 +8,7 @@
 #include "Service.h"
 #include "TemporaryHome.h"
 
-/** A bus with the real driver, and the panel's own service on it. */
+/** A bus with the real driver, and the panel's own event service on it. */
 struct BenchSession {
     TemporaryHome home;
     PrivateBus bus;
@@ -17,5 +17,5 @@ struct BenchSession {
     platform::ServiceScope<platform::AppleEvents> scope{events};
 };
 
-/** The one session of this run: D-Bus's library knows one address in a process's life. */
+/** Returns the only session of this run: libdbus uses one bus address per process. */
 BenchSession& benchSession();

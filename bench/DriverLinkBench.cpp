@@ -26,7 +26,7 @@ QDBusMessage callOf(const AppleEvent& event)
     return call;
 }
 
-/** What the panel sends, caught on its way. */
+/** Captures what the panel sends. */
 class Caught final : public AppleEvents {
 public:
     AppleEvent event;
@@ -74,7 +74,7 @@ void push(benchmark::State& state)
 }
 BENCHMARK(push)->Iterations(kTurns)->UseManualTime();
 
-/** Floor: QtDBus sends the same bytes alone, as one array, to an object that nobody has. */
+/** Floor: QtDBus sends just the same bytes, as one array, to an object that does not exist. */
 void pushAgainstPlainBytes(benchmark::State& state)
 {
     BenchSession& session = benchSession();

@@ -5,7 +5,7 @@
 
 namespace {
 
-/** A module of settings with nothing in it: what the host itself costs. */
+/** An empty settings module, to measure the host itself. */
 class EmptyModule final : public KCModule {
     Q_OBJECT
 

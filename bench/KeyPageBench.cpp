@@ -19,7 +19,7 @@
 
 namespace {
 
-/** The panel, shown, with a record that uses every kind of item. */
+/** A visible panel with a record that uses every kind of item. */
 class ShownPane {
 public:
     ShownPane()
@@ -51,7 +51,7 @@ private:
     std::unique_ptr<QWidget> mView;
 };
 
-/** Floor: eighteen bare combo boxes on a page are filled with the same ten items. */
+/** Floor: eighteen plain combo boxes on a page are filled with the same ten items. */
 void showKeyPage(benchmark::State& state)
 {
     benchSession();
@@ -79,7 +79,7 @@ void showKeyPage(benchmark::State& state)
 }
 BENCHMARK(showKeyPage)->Iterations(kTurns)->UseManualTime();
 
-/** A click of the left mouse button on a row of the box's open list. */
+/** Clicks a row of the box's open list. */
 void click(QVKeyComboBox& box, int row)
 {
     QWidget* const list = box.view()->viewport();
@@ -110,7 +110,7 @@ void choose(benchmark::State& state)
         QCoreApplication::processEvents();
     };
     open();
-    // The list takes no click so soon after it was opened.
+    // The list ignores clicks right after it was opened.
     QTest::qWait(QApplication::doubleClickInterval() + 100);
     const auto before = DriverProcess::ask<uint>("Pushes");
     int turn = 0;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// What stays in memory after a hundred thousand pushes, loads and saves.
+// Memory growth after a hundred thousand pushes, loads and saves.
 
 #include "BenchSession.h"
 #include "Client.h"
@@ -21,7 +21,7 @@ constexpr int kTimes = 100'000;
 template <class Work>
 void growth(benchmark::State& state, const Work& work)
 {
-    // The first hundredth fills caches that stay.
+    // The first hundredth fills permanent caches.
     for (int i = 0; i < kTimes / 100; ++i) {
         work();
     }

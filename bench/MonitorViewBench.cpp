@@ -22,7 +22,7 @@ constexpr int kRedraws = 500;
 const std::array<Rect, 4> kDisplays{Rect{0, 0, 1920, 1080}, Rect{1920, 0, 1920, 1080},
     Rect{3840, 0, 1280, 1024}, Rect{-1280, 0, 1280, 1024}};
 
-/** Four displays that stay where they are. */
+/** Four displays that do not change. */
 class FourDisplays final : public platform::Displays {
 public:
     std::optional<std::uint32_t> activeDisplayCount() const override { return kDisplays.size(); }
@@ -39,7 +39,7 @@ public:
     void removeReconfigurationCallback(platform::DisplayReconfigurationCallback, void*) override { }
 };
 
-/** The page's picture, drawn on request. */
+/** Draws the page's picture on request. */
 class Picture {
 public:
     Picture()
@@ -67,7 +67,8 @@ private:
     QPixmap mTarget{kWidth, kHeight};
 };
 
-/** Floor: the same picture, rectangles, texts and lines are painted on a pixmap, which is copied.
+/**
+ * Floor: QPainter paints the same picture, rectangles, texts and lines on a pixmap, and copies it.
  */
 void redrawDisplays(benchmark::State& state)
 {

@@ -5,7 +5,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-/** Takes the diagnostics of pushes out of the way, as a host does that nobody watches. */
+/** Discards the diagnostics of pushes, as for a host without a terminal. */
 class NoDiagnostics {
 public:
     NoDiagnostics()

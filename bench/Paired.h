@@ -9,11 +9,11 @@
 #include <vector>
 
 /**
- * Times a piece of work against its floor, the least that any program would have to do for it, in
- * turn in the same run, so that a machine that slows down slows both. The counters hold the medians
- * in microseconds and their ratio.
+ * Times an operation alternately with its floor, the minimum that any program would have to do for
+ * it, so that a slowdown of the machine affects both. The counters hold the medians in microseconds
+ * and their ratio.
  *
- * @param rest called untimed after each, to let what was set going come to rest
+ * @param rest called untimed after each, to let pending work finish
  */
 template <class Work, class Floor, class Rest>
 void timePaired(benchmark::State& state, const Work& work, const Floor& floor, const Rest& rest)
@@ -52,5 +52,5 @@ void timePaired(benchmark::State& state, const Work& work, const Floor& floor, c
     state.counters["ratio"] = ours / least;
 }
 
-/** How many turns a pair takes. */
+/** Number of iterations of a pair. */
 inline constexpr int kTurns = 2000;

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// A pen of a thousand events a second on the real window system: from the event to its pixels.
+// A pen with a thousand events a second on the real window system: from the event to its pixels.
 
 #include "PenInput.h"
 #include "QVDrawView.h"
@@ -26,27 +26,27 @@ constexpr int kSeconds = 10;
 constexpr int kRate = 1000;
 constexpr int kEvents = kSeconds * kRate;
 constexpr QSize kPad(1000, 700);
-constexpr int kSampled = 100; ///< of so many events, one's pixels are asked from the window system
+constexpr int kSampled = 100; ///< one of this many events is checked in the window system
 
 double milliseconds(Clock::duration duration)
 {
     return std::chrono::duration<double, std::milli>(duration).count();
 }
 
-/** Notes when the events that the pad has taken have been painted. */
+/** Records when the events that the pad has taken have been painted. */
 class WatchingApplication final : public QApplication {
 public:
     using QApplication::QApplication;
 
     const QObject* pad = nullptr;
     int taken = 0; ///< pen events that have reached the pad
-    std::vector<Clock::time_point> shown; ///< of each event
-    std::vector<double> busy; ///< milliseconds of work in each second
+    std::vector<Clock::time_point> shown; ///< when each event was painted
+    std::vector<double> busy; ///< milliseconds of CPU time in each second
     Clock::time_point start;
 
     bool notify(QObject* receiver, QEvent* event) override
     {
-        if (mDepth > 0) { // below another event, which is timed as a whole
+        if (mDepth > 0) { // nested in another event, which is timed as a whole
             return noted(receiver, event);
         }
         ++mDepth;
@@ -70,7 +70,7 @@ private:
         mHandedOver += isHandingOver ? 1 : 0;
         const bool result = QApplication::notify(receiver, event);
         mHandedOver -= isHandingOver ? 1 : 0;
-        // While events are handed over, all that have been taken are drawn, and then painted.
+        // During delivery, all events that have been taken are drawn, and then painted.
         if (mHandedOver > 0 && event->type() == QEvent::UpdateRequest) {
             shown.resize(static_cast<std::size_t>(taken), Clock::now());
         }
@@ -86,7 +86,7 @@ WatchingApplication& watchingApplication()
     return *static_cast<WatchingApplication*>(QCoreApplication::instance());
 }
 
-/** Where the stroke is at an event: rows of the pad, one below the other. */
+/** The position of the stroke at an event: row by row across the pad. */
 QPointF placeOf(int event)
 {
     constexpr int kAcross = kPad.width() - 80;
@@ -150,7 +150,7 @@ void penLatency(benchmark::State& state)
                 }
             }
             if (grown == 0 && count > kEvents / kSeconds) {
-                grown = -residentKiB(); // after the first second, which fills what stays
+                grown = -residentKiB(); // after the first second, which fills permanent caches
             }
         }
     }
@@ -166,7 +166,7 @@ void penLatency(benchmark::State& state)
         std::ranges::sort(values);
         return values[static_cast<std::size_t>(part * static_cast<double>(values.size() - 1))];
     };
-    // In the picture itself, each event has left its mark.
+    // In the picture itself, each event has left a mark.
     settle();
     const QImage picture = window.screen()->grabWindow(window.winId()).toImage();
     int lost = kEvents - static_cast<int>(application.shown.size());

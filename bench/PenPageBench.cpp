@@ -20,10 +20,10 @@ namespace {
 
 constexpr int kRedraws = 2000;
 constexpr int kBatches = 300;
-constexpr int kBatch = 100; ///< steps that arrive together
+constexpr int kBatch = 100; ///< steps that arrive at once
 constexpr QSize kPad(500, 400);
 
-/** The pad with a stroke going on. */
+/** The pad during a stroke. */
 class Pad {
 public:
     Pad()
@@ -34,7 +34,7 @@ public:
         mView.mouseDown(eventAt({0, 200}));
     }
 
-    /** All steps arrive and are drawn. */
+    /** Delivers all steps and draws them. */
     void draw(const std::vector<QPointF>& places)
     {
         for (const QPointF& place : places) {
@@ -60,7 +60,7 @@ private:
     QPixmap mTarget{1, 1};
 };
 
-/** Steps of a few points each, up and down the pad. */
+/** Returns steps of a few points each, up and down the pad. */
 std::vector<QPointF> places()
 {
     std::vector<QPointF> all;
@@ -76,11 +76,11 @@ void drawSteps(benchmark::State& state)
     Pad pad;
     const std::vector<QPointF> steps = places();
     for (int i = 0; i < 10; ++i) {
-        pad.draw(steps); // the width comes to its end
+        pad.draw(steps); // the width reaches its final value
     }
     QPixmap target(kPad);
     target.fill(Qt::lightGray);
-    // The mean of the smoothed pressures, to which the width has come.
+    // The final width, from the mean of the smoothed pressures.
     constexpr double kWidth = 25;
     timePaired(
         state, [&] { pad.draw(steps); },
@@ -100,7 +100,7 @@ void drawSteps(benchmark::State& state)
 }
 BENCHMARK(drawSteps)->Iterations(kBatches)->UseManualTime();
 
-/** Floor: the curve's path, known already, is painted on a ground with a frame, and copied. */
+/** Floor: QPainter paints the precomputed path on a background with a frame, and copies it. */
 void redrawCurve(benchmark::State& state)
 {
     platform::ChoiceSlider slider;

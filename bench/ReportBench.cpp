@@ -19,7 +19,7 @@ namespace {
 
 constexpr int kReports = 20000;
 
-/** A message as it came over the bus, with a report of the pen that is neither down nor up. */
+/** A message as received from the bus, with a pen report that is neither down nor up. */
 QDBusMessage reportFromTheBus(BenchSession& session)
 {
     Peer panel(session.bus);
@@ -34,7 +34,7 @@ QDBusMessage reportFromTheBus(BenchSession& session)
     return panel.calls().at(0);
 }
 
-/** Floor: QtDBus reads the same message, to its last byte, into plain values. */
+/** Floor: QtDBus reads the same message completely into plain values. */
 void takeReport(benchmark::State& state)
 {
     registerPlainWire();

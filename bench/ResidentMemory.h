@@ -5,7 +5,7 @@
 #include <fstream>
 #include <string>
 
-/** Memory of this process that is in the machine, in KiB. */
+/** Returns the resident memory of this process, in KiB. */
 inline double residentKiB()
 {
     std::ifstream status("/proc/self/status");

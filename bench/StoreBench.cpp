@@ -20,13 +20,13 @@
 
 namespace {
 
-/** A full configuration file in a home of its own. */
+/** A full configuration file in a temporary home folder. */
 struct Files {
     Files()
     {
         std::strcpy(GetPListName(), "7.plist");
         writeFile(QString::fromStdString(path), sampleConfig());
-        // In the form in which the panel itself writes it.
+        // Convert it to the form in which the panel writes it.
         store.ReadQVConfigPlist();
         store.WriteQVConfigPlist();
     }
@@ -47,7 +47,7 @@ std::string contents(const std::string& path)
     return bytes;
 }
 
-/** Walks the XML without making anything of it. */
+/** Reads the XML and discards the result. */
 void walk(const std::string& bytes)
 {
     QXmlStreamReader xml(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
@@ -56,7 +56,7 @@ void walk(const std::string& bytes)
     }
 }
 
-/** Floor: the file is read and Qt's reader walks it. */
+/** Floor: the file is read, and Qt's reader parses it. */
 void load(benchmark::State& state)
 {
     Files files;
@@ -82,7 +82,7 @@ void loadAgainstLibplist(benchmark::State& state)
 }
 BENCHMARK(loadAgainstLibplist)->Iterations(kTurns)->UseManualTime();
 
-/** Floor: Qt's reader walks the file before and after it is written, flushed and renamed. */
+/** Floor: Qt's reader parses the file before and after it is written, flushed and renamed. */
 void save(benchmark::State& state)
 {
     Files files;

@@ -12,7 +12,7 @@ namespace {
 constexpr int kDevices = 64;
 constexpr int kListings = 200;
 
-/** There is no tablet among many devices. Floor: the library lists them. */
+/** Searches many devices without a tablet. Floor: libusb lists them. */
 void controlUSBDevWithoutTablet(benchmark::State& state)
 {
     EmulatedUsb bus;

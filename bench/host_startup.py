@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""From launching kcmshell5 with a module to its shown page, and the memory that it takes then.
+"""Measures the time from launching kcmshell5 with a module until its page is shown, and its memory.
 
-Three modules start in turn: the panel's, with a tablet plugged in; an empty one; and the tablet module
-that Debian packages for Plasma, without a tablet. Writes the figures as JSON, as the other benchmarks
-do. A page is shown when its window has a colour: Qt paints a window whole before it shows any of it.
+Three modules start in turn: the panel's, with a tablet; an empty one; and Plasma's tablet module as
+packaged in Debian, without a tablet. Writes the figures as JSON, like the other benchmarks. A page is
+shown when its window has a colour: Qt paints a window completely before it shows it.
 """
 
 import argparse
@@ -30,11 +30,11 @@ MODULES = [PANEL, EMPTY, PLASMA]
 
 SECONDS, RESIDENT = 0, 1  # the figures of a start
 
-BLACK = bytes(3)  # what a window is before it is painted
+BLACK = bytes(3)  # the colour of a window before it is painted
 
 
 class Screen:
-    """What a window manager sees of the windows."""
+    """The windows, as seen by a window manager."""
 
     def __init__(self, name):
         self.display = display.Display(name)
@@ -64,7 +64,7 @@ class Screen:
 
 
 def memory(pid):
-    """What the process has in main memory, in KiB."""
+    """Returns the process's resident memory, in KiB."""
     found = re.search(r"^VmRSS:\s*(\d+) kB$", pathlib.Path(f"/proc/{pid}/status").read_text(), re.M)
     return int(found[1])
 
@@ -75,7 +75,8 @@ def end(program):
 
 
 def measure(screen, module, environment, rest):
-    """Seconds until the page is shown, and the memory after a rest of so many seconds."""
+    """Returns the seconds until the page is shown, and the memory after that many seconds of
+    rest."""
     start = time.monotonic()
     host = subprocess.Popen(["kcmshell5", module], env=environment, start_new_session=True,
                             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
@@ -119,8 +120,8 @@ def main():
                 pass
             screen = Screen(environment["DISPLAY"])
             for module in MODULES:
-                measure(screen, module, environment, 0)  # the first fills the host's caches
-            # What a page does after it is shown takes memory too.
+                measure(screen, module, environment, 0)  # the first start fills the host's caches
+            # A page's work after it is shown takes memory, too.
             rested = [[measure(screen, module, environment, 1) for module in MODULES]
                       for _ in range(5)]
             found = [[measure(screen, module, environment, 0) for module in MODULES]
@@ -134,7 +135,7 @@ def main():
         return statistics.median(figures(runs, module, figure))
 
     def ratio(floor):
-        """Of each run's own, since a machine that others share is not as fast in all of them."""
+        """Returns the ratio within each run, since a shared machine varies between runs."""
         return statistics.median(map(operator.truediv, figures(found, PANEL, SECONDS),
                                      figures(found, floor, SECONDS)))
 

@@ -1,9 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The panel's window as a screen reader has it, and what its process holds of the system.
+"""The panel's window as seen by a screen reader, and the resources of its process.
 
-Unlike accessible.py it stays connected, and each of its calls has a time limit: a panel that does not
-answer is a failure.
+Unlike accessible.py, it stays connected, and each of its calls has a time limit: a panel that does
+not answer is a failure.
 """
 
 import collections
@@ -26,14 +26,14 @@ FLAGS = Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT \
 
 MODEL_NAMES = {model.name for model in models.all_models()}
 
-# What the panel may say. Anything else, as a warning of Qt's or a sanitizer's, is a failure.
+# What the panel may print. Anything else, such as a warning from Qt or a sanitizer, is a failure.
 KNOWN_LINES = re.compile(
     r"ConnectToDriver (ok|[0-9a-f]+ \d+ \d+ \d+)$|Unable to find first matching USB device$"
     r"|org\.quorvia\.tablet\.(store|monitor): ")
 
 
 class Bus:
-    """A connection to a bus. Calls wait for their answers, and no longer than the bound."""
+    """A connection to a bus. Calls wait for their answers, up to a time limit."""
 
     BOUND = 30
 
@@ -56,7 +56,7 @@ class Bus:
                          method, signature, *arguments)
 
     def names_of(self, pid):
-        """The connections of a process."""
+        """Returns the connections of a process."""
         found = []
         for name in self.ask("ListNames"):
             try:
@@ -64,17 +64,17 @@ class Bus:
                         "GetConnectionUnixProcessID", "(s)", name):
                     found.append(name)
             except GLib.Error:
-                pass  # it has gone meanwhile
+                pass  # it has left meanwhile
         return found
 
     def matches_of(self, name):
-        """The number of a connection's match rules."""
+        """Returns the number of a connection's match rules."""
         return self.call("org.freedesktop.DBus", "/org/freedesktop/DBus",
                          "org.freedesktop.DBus.Debug.Stats", "GetConnectionStats", "(s)",
                          name)["MatchRules"]
 
     def objects_of(self, name, path="/"):
-        """The paths of all objects of a connection."""
+        """Returns the paths of all objects of a connection."""
         try:
             xml = self.call(name, path, "org.freedesktop.DBus.Introspectable", "Introspect")
         except GLib.Error as error:
@@ -88,7 +88,7 @@ class Bus:
 
 
 class Panel:
-    """A process of the panel. It is the test's to end."""
+    """A panel process. The test has to end it."""
 
     def __init__(self, test):
         self.test = test
@@ -115,7 +115,7 @@ class Panel:
             self.lines.append(line.rstrip("\n"))
 
     def pushes(self):
-        """How many times the panel has pushed its record, taken or not."""
+        """Returns how many times the panel has pushed its record, accepted or not."""
         return self.lines.count("ConnectToDriver ok")
 
     # What is on the screen --------------------------------------------------------------------
@@ -139,15 +139,15 @@ class Panel:
         return [child for _, child in self.ask(path, ATSPI + "Accessible", "GetChildren")]
 
     def walk(self, path=ROOT):
-        """All things; of lists that open, the closed box alone, since their items are many."""
+        """Yields all things; of combo boxes only the closed box, since they have many items."""
         yield path, self.ask(path, ATSPI + "Accessible", "GetRoleName")
         if path == ROOT or self.ask(path, ATSPI + "Accessible", "GetRoleName") != "combo box":
             for child in self.children(path):
                 yield from self.walk(child)
 
     def find(self, text, role, hidden=False):
-        """The path of a thing with that name or description that is showing, or also of a hidden
-        one; nothing without one."""
+        """Returns the path of the thing with that name or description that is showing, or also of a
+        hidden one; None if there is none."""
         def is_it(path):
             return text in self.texts(path) and (hidden or self.state(path, "showing"))
 
@@ -156,7 +156,7 @@ class Panel:
             if known and is_it(known):
                 return known
         except GLib.Error:
-            pass  # it has gone
+            pass # it has disappeared
         for path, found_role in self.walk_whole():
             if found_role == role and is_it(path):
                 self.places[text, role] = path
@@ -164,7 +164,7 @@ class Panel:
         return None
 
     def walk_whole(self):
-        """All things as of now: a list, since looking at them may outlive one of them."""
+        """Returns all things as a list, since some may disappear while they are read."""
         for _ in range(20):
             try:
                 return list(self.walk())
@@ -177,12 +177,12 @@ class Panel:
         return session.wait_for(lambda: self.find(text, role), f"{role} '{text}'", 60)
 
     def usable(self, text, role):
-        """The thing, where this tablet has it and it is not grey."""
+        """Returns the thing if this tablet has it and it is enabled."""
         path = self.find(text, role)
         return path if path and self.state(path, "enabled") else None
 
     def press(self, path):
-        """As a click does."""
+        """Does what a click does."""
         interface = ATSPI + "Action"
         names = [name for name, *_ in self.ask(path, interface, "GetActions")]
         wanted = next(name for name in ("Press", "Toggle") if name in names)
@@ -196,14 +196,14 @@ class Panel:
                  "CurrentValue", GLib.Variant("d", value))
 
     def content(self, path):
-        """The text in a field."""
+        """Returns the text in a field."""
         return self.ask(path, ATSPI + "Text", "GetText", "(ii)", 0, -1)
 
     def extents(self, path):
         return self.ask(path, ATSPI + "Component", "GetExtents", "(u)", 0)
 
     def notice(self):
-        """The line that says what has gone wrong; nothing while there is none."""
+        """Returns the line about a problem; None if there is none."""
         for path, role in self.walk_whole():
             if role == "notification":
                 text = self.texts(path)[0]
@@ -213,7 +213,7 @@ class Panel:
         return None
 
     def model(self):
-        """The name of the tablet above the pages; nothing without one."""
+        """Returns the name of the tablet above the pages; None without a tablet."""
         for path, role in self.walk_whole():
             if role == "label" and self.state(path, "showing"):
                 text = self.texts(path)[0]
@@ -225,15 +225,15 @@ class Panel:
         return self.find("Keys", "page tab") is not None
 
     def look(self):
-        """What the pages are of: the tablet's name, and what is wrong with its file, which names
-        that file; nothing without pages."""
+        """Returns the tablet's name and the problem with its file, which contains the file's name;
+        None without pages."""
         if not self.has_pages():
             return None
         notice = self.notice() or ""
         return self.model(), "" if "not taken" in notice else notice
 
     def displays(self):
-        """Widths, heights and places of the displays, as the picture of them is read out."""
+        """Returns widths, heights and positions of the displays, from the picture's description."""
         for path, role in self.walk_whole():
             found = re.findall(r"#\d+: (\d+) by (\d+) points, its upper left corner at "
                                r"(-?\d+), (-?\d+)\.", " ".join(self.texts(path)))
@@ -248,7 +248,7 @@ class Panel:
             assert KNOWN_LINES.match(line), f"the panel says: {line}"
 
     def holdings(self):
-        """What must not grow while the panel is at rest with nothing but its window open."""
+        """Returns what must not grow while the panel is idle with just its window open."""
         proc = pathlib.Path("/proc", str(self.process.pid))
         held = collections.Counter()
         for link in (proc / "fd").iterdir():
@@ -271,7 +271,7 @@ class Panel:
         return held, int(memory[1])
 
     def check_holdings(self):
-        """Compares with what the panel held when this was first called."""
+        """Compares with the values of the first call."""
         held, memory = self.holdings()
         if self.held is None:
             self.held = held, memory

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// What is sent to the driver, from the bytes on the bus to the driver's state and its window.
-// Input: one message as it is on the wire, or steps (see EventMaker.h), each beginning with a byte:
-// 0 and an event; 1 and a call of the simulated tablet, a byte for its name and three words, of
-// which the first is the number of arguments; 2 and two bytes, at which place of the tablet's
-// window the mouse is pressed. The window is opened when it is first needed, and looked at in the
-// end.
+// Fuzzes what is sent to the driver, from the bytes on the bus to the driver's state and its
+// window. Input: one message as it is on the wire, or steps (see EventMaker.h), each beginning with
+// a byte: 0 and an event; 1 and a call of the simulated tablet, a byte for its name and three
+// words, of which the first is the number of arguments; 2 and two bytes, at which place of the
+// tablet's window the mouse is pressed. The window is opened when it is first needed, and checked
+// at the end.
 
 #include "DBusAppleEvents.h"
 #include "Driver.h"
@@ -42,10 +42,10 @@ struct Bus {
     DBusAppleEvents events;
 };
 
-/** A call of the simulated tablet; nothing for one that would only let time pass. */
+/** A call of the simulated tablet; null for one that would only waste time. */
 Message takeSimulatorCall(Input& input)
 {
-    // Stall is not among them: that the driver does nothing for long is all that it is for.
+    // Without Stall, which only makes the driver sleep.
     constexpr std::array kMembers{"Attach", "Detach", "Attached", "Tap", "SetReportRate", "Pushes",
         "LastRecord", "LastRecordDecoded", "Models", "Unknown"};
     Message call(dbus_message_new_method_call(FakeBus::kProgram, kQVSimulatorPath,
@@ -63,7 +63,7 @@ Message takeSimulatorCall(Input& input)
     return call;
 }
 
-/** The driver as its program makes it. */
+/** The driver as in its program. */
 struct Program {
     explicit Program(Bus& itsBus)
         : bus(itsBus)
@@ -113,7 +113,7 @@ void step(Program& program, Input& input)
     }
 }
 
-/** Looks at all that the window shows of the driver. */
+/** Checks all that the window shows of the driver. */
 void look(TabletWindow& window)
 {
     const auto buttons = window.findChildren<QToolButton*>();

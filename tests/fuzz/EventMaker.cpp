@@ -20,10 +20,10 @@ constexpr std::array kCodes{typeNull, typeType, typeEnumerated, typeLongInteger,
     kQVDriverSignature, kQVConfigProperty, kQVSettingsEvent, kQVSettingsData, kQVPenReportType,
     keyErrorString};
 
-/** Deeper than an event may be, and not yet as deep as D-Bus allows. */
+/** Deeper than allowed in an event, but less deep than D-Bus allows. */
 constexpr int kDeepest = 12;
 
-/** A container within another for as long as it lives. */
+/** Opens a container within another for its lifetime. */
 class Container {
 public:
     Container(DBusMessageIter& parent, int type, const char* signature)
@@ -106,7 +106,7 @@ void appendEmptyItems(DBusMessageIter& to, Input& input)
     }
 }
 
-/** Data of one of the types that no descriptor has. */
+/** Appends data of one of the types that no descriptor has. */
 void appendStrange(DBusMessageIter& to, Input& input)
 {
     switch (input.byte() % 5) {
@@ -221,7 +221,7 @@ Message takeWireMessage(std::span<const std::uint8_t> bytes)
         || (bytes.front() != DBUS_LITTLE_ENDIAN && bytes.front() != DBUS_BIG_ENDIAN)) {
         return nullptr;
     }
-    // The library checks a message only where its length is right.
+    // The library checks a message only if its length is right.
     const auto* const text = reinterpret_cast<const char*>(bytes.data());
     const auto size = static_cast<int>(bytes.size());
     return size == dbus_message_demarshal_bytes_needed(text, size)

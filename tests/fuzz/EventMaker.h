@@ -7,8 +7,8 @@
 
 /**
  * @file
- * Makes D-Bus messages of a fuzzer's input: always well-formed, of what an event may be made of and
- * of some that it may not.
+ * Turns a fuzzer's input into D-Bus messages: always well-formed, with valid and some invalid parts
+ * of an event.
  *
  * A code is a byte: the number of one that the wire knows, or a larger one and four bytes. A
  * parameter list is a byte, the number of its entries, and each entry a keyword's code and a
@@ -31,14 +31,14 @@ std::uint32_t takeCode(Input& input);
 /** Adds a parameter list to a message. */
 void appendParameters(DBusMessage* message, Input& input);
 
-/** A call of the program's Send: two codes, class and ID, and a parameter list. */
+/** A call of the program's Send: the codes of class and ID, and a parameter list. */
 Message takeEvent(Input& input);
 
-/** What somebody answers: a byte, 0 for a parameter list, else for an error, then that. */
+/** An answer: a byte, 0 for a parameter list and anything else for an error, then that. */
 Message takeAnswer(Input& input);
 
 /**
- * A message as it is on the wire, taken from the whole of the input; nothing where the input is no
- * message. No other input begins with the 'l' or the 'B' of a message's byte order.
+ * A message in wire format, from the whole input; null if the input is not a message. No other
+ * input begins with 'l' or 'B', the byte order of a message.
  */
 Message takeWireMessage(std::span<const std::uint8_t> bytes);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// What the driver sends to the panel that calibrates, from the bytes on the bus to the handler.
+// Fuzzes what the driver sends to a calibrating panel, from the bytes on the bus to the handler.
 // Input: one message as it is on the wire, or steps (see EventMaker.h), each beginning with a byte:
 // 0 and an event; 1 and the driver's answer to a query, which is then asked; 2 and the button that
 // alerts are answered with; 3 and the bytes with which the settings record begins, after a word for
@@ -58,8 +58,8 @@ struct Panel {
 };
 
 /**
- * Brings the calibration, which goes on from where the last one ended, into a known state: the last
- * point taken is (0, 0).
+ * Resets the calibration, which continues where the last one ended, to a known state: the last
+ * accepted point is (0, 0).
  */
 void calibrateFromStart()
 {
@@ -79,7 +79,8 @@ void calibrateFromStart()
             {kAECoreSuite, kAEGetData, {}, {{keyDirectObject, {typeAEList, reports}}}}, reply,
             &view);
     };
-    // One of the first two is far enough from any point, and the third from the second.
+    // One of the first two is far enough from any point, and the third is far enough from the
+    // second.
     point(0);
     point(40000);
     point(0);

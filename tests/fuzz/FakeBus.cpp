@@ -18,7 +18,7 @@
 
 namespace {
 
-/** Reads as many bytes; false at the end. */
+/** Reads exactly that many bytes; returns false at the end. */
 bool readAll(int socket, char* to, std::size_t size)
 {
     while (size > 0) {
@@ -32,20 +32,20 @@ bool readAll(int socket, char* to, std::size_t size)
     return true;
 }
 
-/** Writes all bytes; where that fails, the next reading finds the end. */
+/** Writes all bytes; if that fails, the next read finds the end. */
 void writeAll(int socket, std::string_view bytes)
 {
     static_cast<void>(::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL));
 }
 
-/** Ends the waiting of the main thread's event loop, also before it has begun. */
+/** Wakes the main thread's event loop, even before it waits. */
 void wakeMainThread()
 {
     QMetaObject::invokeMethod(
         qApp, [] {}, Qt::QueuedConnection);
 }
 
-/** An empty parameter list. */
+/** Appends an empty parameter list. */
 void appendNothing(DBusMessage* message)
 {
     DBusMessageIter all;
@@ -60,7 +60,7 @@ void appendNothing(DBusMessage* message)
 FakeBus::FakeBus()
     : mListening(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0))
 {
-    // An abstract socket leaves no file; the system gives it a name of its own.
+    // An abstract socket leaves no file; the system chooses its name.
     sockaddr_un address{};
     address.sun_family = AF_UNIX;
     socklen_t length = sizeof address.sun_family;
@@ -101,7 +101,7 @@ void FakeBus::serve()
 
 void FakeBus::authenticate() const
 {
-    // The first of its lines begins with a NUL; of the rest, only how they begin matters.
+    // Its first line begins with a NUL; of the rest, only the beginnings matter.
     for (;;) {
         std::string line;
         for (char c = 0; c != '\n'; line += c) {
@@ -198,7 +198,7 @@ void FakeBus::deliver(Message message)
 {
     dbus_message_set_sender(message.get(), kOther);
     send(message.get());
-    // Not every message is answered. What is sent behind it is answered behind it.
+    // Not every message is answered, but answers keep the order of the messages.
     const Message last(dbus_message_new_method_call(kProgram, platform::wire::kObjectPath,
         platform::wire::kInterface, platform::wire::kSendMethod));
     const dbus_uint32_t nobodys = 0;

@@ -17,9 +17,9 @@ struct MessageUnref {
 using Message = std::unique_ptr<DBusMessage, MessageUnref>;
 
 /**
- * The session bus as one program sees it that knows one other: a socket that speaks D-Bus, on a
- * thread of its own. What is delivered goes as bytes through the program's real D-Bus library. It
- * is a hundred times as fast as a bus of its own process, and ends with this one.
+ * The session bus as seen by a program that knows one other: a socket that speaks D-Bus, on its own
+ * thread. Messages pass as bytes through the program's real D-Bus library. It is a hundred times
+ * faster than a separate bus process, and ends with this process.
  *
  * The program is ":1.1"; the other is ":1.2" and owns every name that is asked for.
  */
@@ -28,13 +28,13 @@ public:
     static constexpr auto kProgram = ":1.1";
     static constexpr auto kOther = ":1.2";
 
-    /** From now on, the session's bus is this. */
+    /** Becomes the session bus. */
     FakeBus();
 
-    /** Delivers a message as the other's; runs the event loop until the program has had it. */
+    /** Delivers a message from the other program, and runs the event loop until it is handled. */
     void deliver(Message message);
 
-    /** What the other answers a query with, in its first arguments; nothing for an empty list. */
+    /** Sets the arguments of the other's answer to a query; null for an empty list. */
     void setAnswer(Message answer);
 
 private:

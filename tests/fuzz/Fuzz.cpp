@@ -12,17 +12,17 @@
 
 namespace {
 
-/** The standard error of the beginning: libFuzzer closes it for everything but finds. */
+/** The original standard error: libFuzzer closes it for everything but finds. */
 int finds = STDERR_FILENO;
 
-/** Our own warnings are answers to bad input. Qt's own tell of a call that it did not expect. */
+/** Our own warnings are about bad input. Qt's warnings are about wrong calls. */
 void judge(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     const bool isOurs =
         context.category != nullptr && std::strncmp(context.category, "org.quorvia.", 12) == 0;
     if (!isOurs && type != QtDebugMsg
         && type != QtInfoMsg
-        // Of the platform that draws nowhere.
+        // From the offscreen platform.
         && !message.startsWith(QLatin1String("This plugin does not support"))) {
         require(false, qUtf8Printable(message));
     }
@@ -31,8 +31,8 @@ void judge(QtMsgType type, const QMessageLogContext& context, const QString& mes
 } // namespace
 
 /**
- * Short stacks and a small store of freed memory: runs are short, and many. The last option keeps
- * Clang 14's search for leaks from crashing (https://github.com/google/sanitizers/issues/1322).
+ * Short stacks and a small quarantine: runs are short, and many. The last option keeps Clang 14's
+ * leak checker from crashing (https://github.com/google/sanitizers/issues/1322).
  */
 extern "C" const char* __asan_default_options() // NOLINT: the sanitizer's name
 {
@@ -44,10 +44,10 @@ extern "C" const char* __lsan_default_options() // NOLINT: the sanitizer's name
     return "print_suppressions=0";
 }
 
-/** Leaks of libraries that no call of ours can mend. */
+/** Leaks of libraries that we cannot fix. */
 extern "C" const char* __lsan_default_suppressions() // NOLINT: the sanitizer's name
 {
-    // The patterns of fonts that Qt has looked up; fontconfig keeps them for the process's life.
+    // Fontconfig keeps the patterns of fonts that Qt has looked up until the process ends.
     return "leak:libfontconfig.so\n";
 }
 
@@ -56,7 +56,7 @@ void startApplication(int* argc, char*** argv)
     finds = ::dup(STDERR_FILENO);
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication::setStyle(QStringLiteral("Windows")); // has the least to draw
-    // Never deleted, since libFuzzer ends the process without going back to main().
+    // Never deleted, since libFuzzer exits without returning to main().
     static const auto* const application = new QApplication(*argc, *argv);
     static_cast<void>(application);
     qInstallMessageHandler(judge);

@@ -11,22 +11,20 @@
 
 /**
  * @file
- * What the fuzzers share. Each has a file of its own, which says what its input is and what must
- * hold of it, and defines the two functions by which libFuzzer knows it.
+ * What the fuzzers share. Each has its own file, which describes its input and what must hold, and
+ * defines libFuzzer's two entry points.
  */
 
-/** Makes the process's application, whose windows are drawn nowhere; once. */
+/** Creates the process's application, with offscreen windows; call it once. */
 void startApplication(int* argc, char*** argv);
 
-/**
- * Ends the process, as a find, unless the condition holds. @param what names what ought to hold
- */
+/** Reports a find by ending the process, unless the condition holds. @param what should hold */
 void require(bool condition, const char* what);
 
 /** Replaces a file's contents, fast. */
 void putFile(const QString& path, std::span<const std::uint8_t> bytes);
 
-/** A fuzzer's input, taken from its beginning. Behind its end there are zeroes. */
+/** A fuzzer's input, consumed from its beginning. Beyond its end there are zeros. */
 class Input {
 public:
     explicit Input(std::span<const std::uint8_t> bytes)
@@ -55,7 +53,7 @@ public:
         return low | std::uint32_t{word()} << 16U;
     }
 
-    /** At most so many bytes: fewer at the end. */
+    /** At most that many bytes: fewer at the end. */
     std::span<const std::uint8_t> bytes(std::size_t count)
     {
         const auto taken = mBytes.first(std::min(count, mBytes.size()));

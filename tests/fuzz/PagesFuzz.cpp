@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// Any record on every page of the panel.
-// Input: a byte, of which the number of displays is made, then the bytes of the record.
+// Shows any record on every page of the panel. Input: a byte for the number of displays, then the
+// bytes of the record.
 
 #include "FakeDisplays.h"
 #include "FakeEvents.h"
@@ -23,7 +23,7 @@ namespace {
 
 constexpr unsigned kMostDisplays = 4;
 
-/** So many displays, one right of the other. */
+/** That many displays, from left to right. */
 std::vector<Rect> displayRow(unsigned count)
 {
     std::vector<Rect> row;

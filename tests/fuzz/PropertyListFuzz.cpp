@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The configuration file: loaded into the record and saved again, through the store.
+// Fuzzes the configuration file: loads it into the record and saves it again, through the store.
 // Input: the bytes of the file.
 
 #include "FakeDisplays.h"
@@ -25,7 +25,7 @@ std::byte* fieldOf(const QVEntry& entry, tagQVTabletInfo& record)
     return reinterpret_cast<std::byte*>(&record) + entry.offset;
 }
 
-/** Fills the record with a byte, but for the ends of its strings. */
+/** Fills the record with a byte, except for the ends of its strings. */
 void fillRecord(int byte)
 {
     std::memset(&qvTabletInfo, byte, sizeof qvTabletInfo);
@@ -41,7 +41,7 @@ bool sameRecord(const tagQVTabletInfo& one, const tagQVTabletInfo& other)
     return std::memcmp(&one, &other, sizeof one) == 0;
 }
 
-/** Sets what no entry of the file belongs to, in both, to zero. */
+/** Checks that the records differ only in fields that have an entry in the file. */
 void requireOnlyFieldsDiffer(const tagQVTabletInfo& before, const tagQVTabletInfo& after)
 {
     tagQVTabletInfo one = before;
@@ -63,7 +63,7 @@ void requireOnlyFieldsDiffer(const tagQVTabletInfo& before, const tagQVTabletInf
     require(sameRecord(one, other), "a load changes nothing but the file's fields");
 }
 
-/** What the saved file says of a field is what the record held. */
+/** Checks that the saved file has the record's values. */
 void requireStored(const Dictionary& root, const tagQVTabletInfo& record)
 {
     for (const QVEntry& entry : kQVEntries) {
@@ -79,7 +79,7 @@ void requireStored(const Dictionary& root, const tagQVTabletInfo& record)
     }
 }
 
-/** Saves the record. @return why that failed; empty when it did not */
+/** Saves the record. @return why it failed; empty on success */
 std::string save(QVConfigStore& store)
 {
     std::string why;
@@ -107,7 +107,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     static const TemporaryHome home;
     static const QString path = home.configFile(7);
-    // Two, so that the file's mapped area stands.
+    // Two displays, so that the file's mapped area is kept.
     static FakeDisplays displays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
     std::strcpy(GetPListName(), "7.plist");
 
@@ -137,7 +137,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         require(contents(path) == input, "what XML cannot hold stays as it is");
         return 0;
     }
-    // What the panel does not know comes back as it was.
+    // Unknown entries are written back unchanged.
     const std::string xml = list->toXml();
     const auto again = PropertyList::parse(xml, error);
     require(again.has_value(), "what is written can be read");

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// A table of localized strings, beside a good one in English.
-// Input: the bytes of the German table.
+// Fuzzes a table of localized strings, with a valid English one beside it. Input: the bytes of the
+// German table.
 
 #include "Bundle.h"
 #include "Fuzz.h"
@@ -21,7 +21,7 @@ namespace {
 constexpr std::string_view kEnglish = "<plist version=\"1.0\"><dict>"
                                       "<key>Ok</key><string>the English text</string>"
                                       "</dict></plist>";
-constexpr std::size_t kMostKeys = 8; ///< each look-up reads the file
+constexpr std::size_t kMostKeys = 8; ///< each lookup reads the file
 
 QString tableOf(const TemporaryHome& home, const char* language)
 {
@@ -66,7 +66,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::vector<std::string> keys{"Ok", "NoDevice"};
     if (list) {
         for (const std::string& key : list->root().keys()) {
-            // Only what a program can ask for.
+            // Only keys that a program can ask for.
             if (keys.size() < kMostKeys && QString::fromStdString(key).toStdString() == key) {
                 keys.push_back(key);
             }

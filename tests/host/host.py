@@ -30,32 +30,32 @@ class Host(desktop.Desktop):
         return [*super().x_server(), "-dpi", "96"]
 
     def start_driver_with_log(self, *arguments):
-        """Starts the driver. What it says is in its log, so that a test can look at it meanwhile."""
+        """Starts the driver with its output in a log file, so that a test can read it meanwhile."""
         with self.driver_log.open("w") as log:
             driver = self.start([session.BIN / "tdsg-driver", *arguments], stdout=log)
         session.wait_for(lambda: "ready\n" in self.driver_log.read_text(), "the driver")
         return driver
 
     def showings(self):
-        """How often the pane was about to be shown: each time, it asks the driver."""
+        """Returns how often the pane was shown: each time, it asks the driver."""
         return self.driver_log.read_text().count("query from")
 
     def start_host(self, *command):
         return self.start(command, stdout=subprocess.DEVNULL)
 
     def file_strip(self):
-        """Whether the file has the strip on."""
+        """Returns whether the strip is on in the file."""
         return plistlib.loads(self.config().read_bytes())["Key"]["Scrollbar0"] == 0
 
     def driver_strip(self):
-        """Whether the driver has it on."""
+        """Returns whether it is on in the driver."""
         return int.from_bytes(self.record()[5071:5073], "little", signed=True) == 0
 
     def pushes(self):
         return int(self.simulator("Pushes")[1])
 
     def saves(self):
-        """A number that is another after each save."""
+        """Returns a number that changes with each save."""
         return self.config().stat().st_ino, self.config().stat().st_mtime_ns
 
     def edit(self, application):
@@ -65,7 +65,7 @@ class Host(desktop.Desktop):
         session.wait_for(lambda: self.pushes() > before, "the push")
 
     def wait_for_button(self, application, name, enabled):
-        """Waits until the host's button can be used, or cannot; gives it."""
+        """Waits until the host's button is enabled, or disabled, and returns it."""
         def look():
             button = self.find(application, name, "push button")
             return button if button["enabled"] == enabled else None

@@ -73,7 +73,7 @@ class KcmShell(host.Host):
         self.wait_for_button(APPLICATION, "Apply", False)
 
     def test_says_in_the_users_language_that_there_is_no_panel(self):
-        # A copy of what is installed, without the panel itself.
+        # A copy of the installation, without the panel itself.
         plugins = pathlib.Path(host.PLUGINS).relative_to(session.STAGE)
         shutil.copytree(session.STAGE / plugins, self.folder / "usr" / plugins)
         shutil.copytree(session.STAGE / "share/qvtblt", self.folder / "usr/share/qvtblt")

@@ -39,22 +39,22 @@ class SystemSettings(host.Host):
                                      "systemsettings").stdout.split(), "the window")[0]
 
     def title(self):
-        """The window's name for screen readers, which is that of the module."""
+        """Returns the window's accessible name, which is that of the module."""
         return next((thing["name"].strip() for thing in self.things(APPLICATION)
                      if thing["role"] == "frame" and thing["showing"]), None)
 
     def point(self, x, y):
-        """Clicks into the window. The list at the side tells screen readers nothing."""
+        """Clicks into the window. The list at the side is not accessible to screen readers."""
         window = self.window()
         self.xdotool("mousemove", "--window", window, x, y, "click", 1)
 
     def go(self, word, arrived):
-        """Searches for a word that only one module has, and clicks on what is found."""
+        """Searches for a word that only one module has, and clicks the result."""
         self.point(110, 20)
         self.xdotool("key", "ctrl+a", "type", word)
 
         def click():
-            self.point(113, 119)  # below the headings of the category and what it belongs to
+            self.point(113, 119)  # below the two headings
             return arrived()
         session.wait_for(click, f"what '{word}' leads to")
 
@@ -74,7 +74,7 @@ class SystemSettings(host.Host):
         self.start_at_the_module()
         for page, file in PAGES.items():
             self.click(self.find(APPLICATION, page, "page tab"))
-            self.xdotool("mousemove", 0, 0)  # what lies under the pointer lights up
+            self.xdotool("mousemove", 0, 0)  # avoids a highlight under the pointer
             tabs = self.find(APPLICATION, page, "page tab list")  # it has the current page's name
             things = self.things(APPLICATION)
             pages, = [thing for thing in things if thing["path"] == tabs["path"][:-1]]

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// Every page and state of the panel for those who do not see it, do not use a mouse, or need
-// colours that stand apart.
+// Every page and state of the panel with a screen reader, with the keyboard, and with sufficient
+// contrast.
 
 #include "Contrast.h"
 #include "NotedPane.h"
@@ -74,14 +74,14 @@ bool isLabelled(QAccessibleInterface& thing)
     });
 }
 
-/** Qt's page control hands its focus on to its tabs, which are listed by themselves. */
+/** Qt's tab widget passes its focus on to its tabs, which are listed separately. */
 bool handsFocusOn(QAccessibleInterface& thing)
 {
     const auto* const widget = qobject_cast<const QWidget*>(thing.object());
     return widget != nullptr && widget->focusProxy() != nullptr;
 }
 
-/** What is wrong with a thing for a screen reader. */
+/** The problems of an accessible for a screen reader. */
 std::vector<std::string> faultsOf(QAccessibleInterface& thing)
 {
     std::vector<std::string> faults;
@@ -130,7 +130,7 @@ void look(QAccessibleInterface& thing, Findings& findings)
         findings.faults.push_back(fault);
     }
     if (thing.role() == QAccessible::ComboBox) {
-        return; // its list is a window of its own
+        return; // its list is a separate window
     }
     for (int i = 0; i < thing.childCount(); ++i) {
         if (QAccessibleInterface* const child = thing.child(i)) {
@@ -146,7 +146,7 @@ Findings look(QWidget& window)
     return findings;
 }
 
-/** What is told to screen readers. */
+/** The announcements to screen readers. */
 class Told {
 public:
     Told()
@@ -163,7 +163,7 @@ public:
     Told(const Told&) = delete;
     Told& operator=(const Told&) = delete;
 
-    /** How often, since the last time. */
+    /** The number of such events since the last call. */
     static int count(const QObject& object, QAccessible::Event what)
     {
         const auto count = std::ranges::count(sEvents, std::pair(&object, what));
@@ -172,7 +172,7 @@ public:
     }
 
 private:
-    /** As the window system does when a screen reader comes. */
+    /** Does what the window system does when a screen reader starts. */
     static void listen(bool listens)
     {
         QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(listens);
@@ -193,7 +193,7 @@ QRect placeOf(const QWidget& widget)
     return {widget.mapToGlobal(QPoint()), widget.size()};
 }
 
-/** Whether one reads on from the one to the other: downwards, or to the right. */
+/** Whether the second follows in reading order: below, or to the right. */
 bool isNext(const QWidget& from, const QWidget& to)
 {
     const QRect one = placeOf(from);
@@ -205,7 +205,7 @@ bool isNext(const QWidget& from, const QWidget& to)
     return goesUp ? goesRight : (goesLeft ? goesDown : true);
 }
 
-/** All that Tab has to reach. */
+/** Everything that Tab has to reach. */
 std::set<const QWidget*> stopsOf(const QWidget& window)
 {
     std::set<const QWidget*> stops;
@@ -218,7 +218,7 @@ std::set<const QWidget*> stopsOf(const QWidget& window)
     return stops;
 }
 
-/** Gives what has the focus after each step. */
+/** Returns the widget that has the focus after each step. */
 std::vector<const QWidget*> tabAround(QWidget& window, Qt::Key key, std::size_t most)
 {
     std::vector<const QWidget*> visited;
@@ -256,7 +256,7 @@ void expectTabVisitsAllInOrder(QWidget& window)
 // The panel --------------------------------------------------------------------------------------
 
 constexpr std::array<std::uint16_t, 9> kProducts{
-    0x5118, 0x511E, 0x5107, 0x5110, 0x5113, 0x5115, 0x5116, 0x5101, 0x5122}; // all layouts
+    0x5118, 0x511E, 0x5107, 0x5110, 0x5113, 0x5115, 0x5116, 0x5101, 0x5122}; // of all layouts
 
 class Accessibility : public PaneTest {
 protected:
@@ -274,7 +274,7 @@ protected:
     {
         outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>(name));
         if (auto* const view = mWindow->findChild<QVMonitorView*>(); view->isVisible()) {
-            view->grab(); // drawing brings its lists up to date
+            view->grab(); // drawing updates its lists
         }
     }
     void showWithoutTablet()
@@ -307,7 +307,7 @@ protected:
         EXPECT_EQ(findings.faults, std::vector<std::string>());
         EXPECT_GE(findings.things, least);
     }
-    /** Does something with the pages of each layout, and each of the other pages. */
+    /** Calls the function on the pages of each layout, and on each of the other pages. */
     void forEachPage(const std::function<void()>& what)
     {
         for (const std::uint16_t productID : kProducts) {
@@ -537,7 +537,7 @@ TEST(AccessibleFactory, isGoneFromTheHostWithTheLastView)
         const View first;
         const View second;
     }
-    // The latest factory is asked first. One that had stayed would now come after the host's.
+    // The latest factory is asked first. A factory that had stayed would now come after the host's.
     QAccessible::installFactory(hosts);
     View view;
     EXPECT_EQ(accessible(view).role(), QAccessible::Canvas);
@@ -599,7 +599,7 @@ TEST_F(Accessibility, showsWhichViewHasTheFocus)
             const QImage before = view.grab().toImage();
             view.setFocus(Qt::TabFocusReason);
             const QImage with = view.grab().toImage();
-            // Across the upper edge, what the focus makes of each line.
+            // Along the upper edge, the contrast of the focus frame in each line.
             double most = 1;
             for (int y = 0; y < 4; ++y) {
                 most = std::max(most,
@@ -632,7 +632,7 @@ TEST_F(Accessibility, textsStandApartInEveryTheme)
         int count = 0;
         const auto expectReadable = [&] {
             platform::notifications().post({platform::kEventNotTakenNotification, nullptr, {}});
-            // Whole controls in their surroundings: a label has no ground of its own.
+            // Take whole controls with their surroundings: a label has no background of its own.
             const QImage page = mWindow->grab().toImage();
             for (const QWidget* const widget : mWindow->findChildren<QWidget*>()) {
                 const auto* const label = qobject_cast<const QLabel*>(widget);

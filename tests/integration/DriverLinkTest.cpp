@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The link to the driver over a real session bus: against the driver itself, and against a peer
-// that answers as no driver should.
+// The link to the driver over a real session bus: with the real driver, and with a peer that
+// misbehaves.
 
 #include "Client.h"
 #include "DBusAppleEvents.h"
@@ -44,13 +44,13 @@ const QString kDriverName = QStringLiteral("org.quorvia.AppleEvents.TdSg");
 constexpr const char* kEventNotHandled = "org.quorvia.AppleEvents.Error.EventNotHandled";
 constexpr const char* kCoercionFail = "org.quorvia.AppleEvents.Error.CoercionFail";
 
-/** What the address of a private bus begins with. */
+/** The beginning of a private bus's address. */
 const QByteArray kUnixPath("unix:path=");
 
 /**
- * What shows that a query has given up by itself, in milliseconds. Its own time-out is a quarter of
- * a second; without it, the bus library hangs for 25 seconds. The limit lies far from both, so that
- * a busy machine fails nothing.
+ * Within this time in milliseconds, a query has timed out by itself. Its time-out is a quarter of a
+ * second; without it, the bus library hangs for 25 seconds. The limit is far from both, so that a
+ * busy machine causes no failure.
  */
 constexpr qint64 kQueryLimit = 10000;
 
@@ -73,7 +73,7 @@ Peer::Answer replyWithLong(std::int32_t number)
     return replyWith(keyDirectObject, typeLongInteger, bytes(number));
 }
 
-/** A part of a message that stands out in the memory that is in use. */
+/** The size of a message part that is noticed in the memory in use. */
 constexpr std::size_t kBigPart = std::size_t{1} << 20U;
 
 std::size_t memoryInUse()
@@ -82,12 +82,12 @@ std::size_t memoryInUse()
     return figures.uordblks + figures.hblkhd;
 }
 
-/** Expects of an exchange with a part of that size that nothing of it is kept. */
+/** Expects that an exchange with a part of that size keeps none of its memory. */
 template <class Exchange>
 void expectNoGrowth(const Exchange& exchange)
 {
     constexpr int kTimes = 8;
-    exchange(); // what the first one has made may stay
+    exchange(); // the first one may allocate permanently
     const std::size_t before = memoryInUse();
     for (int i = 0; i < kTimes; ++i) {
         exchange();
@@ -103,7 +103,7 @@ protected:
         pListname = {};
     }
 
-    /** Pushes without the diagnostics in the test's output. @return what they were */
+    /** Pushes, with the diagnostics captured. @return the diagnostics */
     static std::string push()
     {
         testing::internal::CaptureStderr();
@@ -111,7 +111,7 @@ protected:
         return testing::internal::GetCapturedStderr();
     }
 
-    /** Sends a call to a receiver of events and runs the event loop until its answer is there. */
+    /** Sends a call to a receiver of events and runs the event loop until the reply. */
     static QDBusMessage sendTo(
         DBusAppleEvents& receiver, Peer& sender, const QList<QVariant>& arguments)
     {
@@ -131,7 +131,7 @@ protected:
         return {eventClass, eventID, parameters(list)};
     }
 
-    /** Counts the notices under a name from now on. */
+    /** Counts the notifications with a name from now on. */
     int& countOf(QLatin1String name)
     {
         int& count = mCounts[QString(name)];
@@ -151,7 +151,7 @@ protected:
         }
         return holds();
     }
-    /** Waits until so many notices were counted; gives how many. */
+    /** Waits for that many notifications; returns the number. */
     static int waitForCount(const int& counted, int count)
     {
         waitUntil([&] { return counted >= count; });
@@ -697,7 +697,7 @@ TEST(DriverActivation, theBusStartsTheDriverOnDemand)
     const PrivateBus bus(PrivateBus::Activation::On);
     DBusAppleEvents events;
     const ServiceScope<AppleEvents> scope(events);
-    // The first query may time out on a machine that needs longer to start a program.
+    // The first query may time out on a machine that starts programs slowly.
     bool found = false;
     for (int i = 0; i < 20 && !found; ++i) {
         found = rzkgetQVDevice();
@@ -735,7 +735,7 @@ protected:
     }
 };
 
-/** A list within a list within …, so deep; the innermost is empty. */
+/** Nested lists of that depth; the innermost is empty. */
 TestDesc nestedList(int depth)
 {
     Descriptors list;
@@ -1130,7 +1130,7 @@ TEST_F(Inbound, aCallThatOutlivesItsConnectionIsRefused)
         QLatin1String(wire::kObjectPath), QLatin1String(wire::kInterface), QStringLiteral("Send"));
     call.setArguments(event(1, 2, {}));
     ASSERT_TRUE(driver.connection().send(call));
-    // The driver's answer follows its call on the same way, so the call is waiting by then.
+    // The driver's answer follows its call on the same connection, so the call has arrived by then.
     ASSERT_TRUE(rzkgetQVDevice());
     mBus.stop();
     while (mEvents.connection().isConnected()) {

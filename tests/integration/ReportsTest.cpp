@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// Pen reports on their whole way: over a real session bus into the panel that calibrates.
+// Pen reports end to end: over a real session bus to a calibrating panel.
 
 #include "AppleEventWire.h"
 #include "Client.h"
@@ -49,7 +49,7 @@ using Clock = std::chrono::steady_clock;
 
 const QString kDriverName = wire::busName(kQVDriverSignature);
 
-/** One report; the number is in the bytes that the panel does not read. */
+/** Returns a report; the number is in the bytes that the panel does not read. */
 QByteArray report(std::uint32_t key, std::uint16_t x, std::uint16_t y, std::uint32_t number = 0)
 {
     const QVPenReport bytes{key, x, y, number};
@@ -63,7 +63,9 @@ std::uint32_t numberOf(const QByteArray& report)
     return bytes.pressure;
 }
 
-/** A driver that answers 7 to the query and nothing to pushes, and notes when pushes arrive. */
+/**
+ * A driver that answers the query with 7 and pushes with nothing, and records when pushes arrive.
+ */
 class ReportingDriver {
 public:
     explicit ReportingDriver(const PrivateBus& bus)
@@ -90,7 +92,7 @@ private:
     Peer mPeer;
 };
 
-/** The panel in its window, with a calibration going on. */
+/** The panel in its window during a calibration. */
 class Reports : public testing::Test {
 protected:
     void SetUp() override
@@ -117,7 +119,7 @@ protected:
     QVCalibrateView& view() { return window()->view(); }
     int points() { return view().changenPointValue(0); }
 
-    /** Runs the panel until something is so. */
+    /** Runs the panel until the condition holds. */
     template <class Condition>
     static void waitUntil(const Condition& condition)
     {
@@ -164,12 +166,12 @@ constexpr std::uint32_t kReportsInEvent = 100; ///< 20000 in a second
 static_assert(kReportsInEvent % 3 != 0);
 
 /**
- * The n-th event of a flood in which there is no lift, unless somebody misses a report, or reads
- * what stands between two of them.
+ * Returns the n-th event of a flood without lifts, unless the receiver misses a report, or reads an
+ * item between two of them.
  *
- * Key states go down, neither, up, again and again. Without the one that is neither, down and up
- * are a lift. The number of reports is none of three, so that each place in an event has its turn.
- * Between down and neither stands an up, and between neither and up stands a down.
+ * Key states repeat as down, neither, up. Without "neither", down and up would be a lift. The
+ * number of reports is not a multiple of three, so that each position in an event is tested. The
+ * item between down and neither is an up, and that between neither and up is a down.
  */
 Descriptors floodEvent(std::uint32_t n)
 {
@@ -190,10 +192,10 @@ Descriptors floodEvent(std::uint32_t n)
 
 TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
 {
-    std::atomic<std::uint32_t> handled = 0; // of the events
+    std::atomic<std::uint32_t> handled = 0; // number of events
     std::vector<std::uint32_t> seen;
     seen.reserve(std::size_t{kEvents} * kReportsInEvent);
-    // What the view has installed, and a note of what comes to it.
+    // Wrap the view's handler to record what it gets.
     mEvents.installEventHandler(
         kAECoreSuite, kAEGetData, [&](const AppleEvent& event, AppleEvent& reply) {
             const auto& list = std::get<AEList>(find(event.parameters, keyDirectObject)->data);
@@ -219,7 +221,7 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
         }
     });
 
-    // The window system tells of a click; its answer is the push that reaches the driver.
+    // The window system reports a click; its answer is the push that reaches the driver.
     QPushButton& clicked = button("mDefaultArea");
     QWindow* const target = mWindow->windowHandle();
     const QPointF local = clicked.mapTo(mWindow.get(), clicked.rect().center());
@@ -243,7 +245,7 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
         }
         isOver = true;
     });
-    // Longer than all clicks may take together.
+    // Longer than all clicks together may take.
     EXPECT_TRUE(QTest::qWaitFor([&isOver] { return isOver.load(); }, 20 * kPatience));
     flood.join();
     user.join();
@@ -257,8 +259,8 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
     EXPECT_EQ(seen, all) << "every event came, in order";
     EXPECT_EQ(points(), 0) << "of every event, every odd item was read, and no other";
     EXPECT_EQ(mDriver.pushes(), 1 + 19);
-    // A panel that sees to the flood first would answer the first click at the flood's end. How
-    // long an answer takes depends on the machine, and so does which clicks come before that end.
+    // A panel that handles the flood first would answer the first click at its end. The time of an
+    // answer, and how many clicks come before that end, depend on the machine.
     EXPECT_GE(answeredInTheFlood, 10);
 
     send(mDriver.peer(), {item(report(1, 5000, 5000)), item({}), item(report(0, 5000, 5000))});
@@ -276,7 +278,7 @@ TEST_F(Reports, fromAnotherProgramThanTheDriverAreRefused)
     EXPECT_NE(testing::internal::GetCapturedStderr().find("refused an event"), std::string::npos);
     EXPECT_EQ(points(), 0);
 
-    // The stranger's report of a pen that is down is not joined to the driver's of one that is up.
+    // The stranger's "down" report is not combined with the driver's "up" report.
     send(stranger, {item(report(1, 5000, 5000))});
     send(mDriver.peer(), {item(report(0, 5000, 5000))});
     EXPECT_EQ(points(), 0);
@@ -301,7 +303,7 @@ TEST_F(Reports, areAnsweredBeforeTheUserHasAnsweredTheAlert)
         eventOf({item(report(0, touches[3][0], touches[3][1]))}), 2 * kPatience);
     bool wasAnswered = false;
     bool isOver = false;
-    QElapsedTimer open; // since the alert was seen first
+    QElapsedTimer open; // since the alert was first seen
     QTimer user;
     QObject::connect(&user, &QTimer::timeout, &user, [&] {
         auto* const alert = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());

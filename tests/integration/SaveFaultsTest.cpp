@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// Saving while the process is killed, the disk is full, or the folder may not be written: on real
-// file systems, with real signals.
+// Saving while the process is killed, the disk is full, or the folder is not writable: with real
+// file systems and signals.
 
 #include "FakeDisplays.h"
 #include "QVConfigStore.h"
@@ -61,7 +61,7 @@ protected:
     QVConfigStore mStore;
 };
 
-/** Gives this process mounts of its own, which end with it. @return false where it may not */
+/** Moves this process into a mount namespace of its own. @return false without permission */
 bool separateMounts()
 {
     if (::unshare(CLONE_NEWNS) != 0 && ::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) {
@@ -70,7 +70,7 @@ bool separateMounts()
     return ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
 
-/** Puts a value into fields from the file's beginning to its end. */
+/** Sets fields from the beginning to the end of the file to a value. */
 void setGeneration(std::int16_t generation)
 {
     qvTabletInfo.Pen.PressureThreshold = generation;
@@ -82,7 +82,7 @@ void setGeneration(std::int16_t generation)
     }
 }
 
-/** The value, where it is the same in all of them; -1 where two saves are mixed. */
+/** Returns the value if it is the same in all of them; -1 if two saves are mixed. */
 std::int16_t generation()
 {
     const std::int16_t value = qvTabletInfo.Pen.PressureThreshold;
@@ -103,7 +103,7 @@ TEST_F(SaveFaults, aKillAtAnyMomentLeavesTheOldOrTheNewFileWhole)
     std::mt19937 random(seed);
     setGeneration(0);
     save();
-    // The kills come at any moment of the first few saves, however long one takes here.
+    // The kills come at any moment of the first few saves, however long a save takes.
     QElapsedTimer oneSave;
     oneSave.start();
     save();
@@ -111,7 +111,7 @@ TEST_F(SaveFaults, aKillAtAnyMomentLeavesTheOldOrTheNewFileWhole)
         0, static_cast<unsigned>(4 * oneSave.nsecsElapsed() / 1000));
     int advanced = 0;
     std::int16_t last = 0;
-    // At least so many rounds, and more where the machine is so slow that few saves get through.
+    // At least this many rounds, and more if the machine is so slow that few saves are completed.
     for (int round = 0; round < 400 || (advanced < 50 && round < 4000); ++round) {
         const pid_t child = ::fork();
         ASSERT_GE(child, 0);
@@ -133,7 +133,7 @@ TEST_F(SaveFaults, aKillAtAnyMomentLeavesTheOldOrTheNewFileWhole)
         advanced += found > last ? 1 : 0;
         last = found;
     }
-    // Else the kills would all have come before the first save, and the test would show nothing.
+    // Otherwise all kills came before the first save, and the test would prove nothing.
     EXPECT_GE(advanced, 50);
 }
 
@@ -143,7 +143,7 @@ TEST_F(SaveFaults, aFullDiskLeavesTheOldFileAndNothingElse)
         GTEST_SKIP() << "this machine lets nobody mount: " << std::strerror(errno);
     }
     const QByteArray config = readFile(mPath);
-    // Room for the file and one page more, but not for the file twice.
+    // Room for the file and one page more, but not for two files.
     ASSERT_EQ(
         ::mount("tmpfs", mHome.configFolder().path().toStdString().c_str(), "tmpfs", 0, "size=12k"),
         0)
@@ -192,7 +192,7 @@ TEST_F(SaveFaults, aFileThatCannotBeReplacedStaysAndTheLogSaysSo)
 
 namespace {
 
-/** As a user whom file modes hold; root is above them. */
+/** Runs as a user to whom file modes apply, unlike root. */
 class SaveFaultsAsUser : public SaveFaults {
 protected:
     void SetUp() override

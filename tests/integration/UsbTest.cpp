@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The report mode's request through the real USB library, on a bus that is emulated below it.
+// The report mode's request through the real USB library, on an emulated bus.
 
 #include "Client.h"
 #include "EmulatedUsb.h"
@@ -22,7 +22,7 @@ constexpr const char* kNoDevice = "Unable to find first matching USB device\n";
 constexpr const char* kFast = "21 09 04 03 00 00 02 00 | 04 01";
 constexpr const char* kNormal = "21 09 04 03 00 00 02 00 | 04 00";
 
-/** Sleeps that pass at once and are counted. */
+/** Counts sleeps instead of sleeping. */
 class NoSleep final : public platform::Sleep {
 public:
     void sleepFor(std::chrono::milliseconds time) override
@@ -40,12 +40,12 @@ class UsbBus : public testing::Test {
 protected:
     void SetUp() override
     {
-        // Others' devices, before and after the tablet.
+        // Other devices, before and after the tablet.
         mBus.plug({.number = 2, .vendor = 0x1D6B, .product = kTablet});
         mBus.plug({.number = 3, .vendor = kQVVendorID, .product = 0x5102});
     }
 
-    /** Plugs the tablet in, as it is made. */
+    /** Plugs in a tablet, by default an intact one. */
     void plug(EmulatedDevice tablet = {})
     {
         tablet.number = 4;
@@ -55,7 +55,7 @@ protected:
         mBus.plug({.number = 5, .vendor = 0x1D6B, .product = 2});
     }
 
-    /** Asks for a report mode. @return the diagnostics */
+    /** Sets a report mode. @return the diagnostics */
     static std::string control(std::uint8_t flag = kQVReportFast)
     {
         testing::internal::CaptureStderr();

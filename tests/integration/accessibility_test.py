@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""What a screen reader gets of every page, window and state over the accessibility bus."""
+"""Every page, window and state as exposed to screen readers over the accessibility bus."""
 
 import json
 import pathlib
@@ -14,7 +14,7 @@ import desktop
 import session
 
 DRIVER = "tdsg-driver"
-# Whoever has the focus there can do something.
+# Roles of controls that can have the focus.
 OPERABLE = {"check box", "combo box", "list item", "page tab", "push button", "slider", "text",
             "toggle button"}
 VALUES = {"combo box", "slider", "spin button"}
@@ -23,10 +23,10 @@ SILENT = {"filler", "panel", "unknown", "layered pane"}
 
 
 def faults_of(things):
-    """What is wrong with what is shown, in words."""
+    """Returns the problems of what is shown."""
     parents = {tuple(thing["path"][:-1]) for thing in things}
     page_controls = {tuple(thing["path"][:-1]) for thing in things
-                     if thing["role"] == "page tab list"}  # hand their focus on to their tabs
+                     if thing["role"] == "page tab list"}  # pass their focus on to their tabs
     faults = []
     for thing in things:
         if not thing["showing"]:
@@ -51,7 +51,7 @@ def faults_of(things):
 
 
 class Harness(unittest.TestCase):
-    """What the walk has to find."""
+    """Checks what the search has to find."""
 
     GOOD = {"name": "a", "role": "push button", "description": "", "labels": [], "path": [0, 1],
             "showing": True, "focusable": True}
@@ -70,7 +70,7 @@ class Harness(unittest.TestCase):
 
 class Tree(desktop.Desktop):
     def expect_no_faults(self, application, least, *roles):
-        """All that is shown is well told, and there is as much as there has to be."""
+        """Expects no problems, and at least that many things with these roles."""
         things = self.things(application)
         self.assertEqual(faults_of(things), [])
         shown = [thing["role"] for thing in things if thing["showing"]]
@@ -157,7 +157,7 @@ class Tree(desktop.Desktop):
 
 
 class Told(desktop.Desktop):
-    """What a screen reader is told without asking."""
+    """Announcements to screen readers."""
 
     def setUp(self):
         super().setUp()
@@ -177,7 +177,8 @@ class Told(desktop.Desktop):
         thread.start()
 
     def told(self, event, role, pattern):
-        """Whether that event of that role was told, with the pattern in its name or description."""
+        """Returns whether that event of that role was announced, with the pattern in its name or
+        description."""
         return any(told["event"].startswith(event) and told["role"] == role
                    and re.search(pattern, told["name"] + told["description"])
                    for told in list(self.events))
@@ -204,7 +205,7 @@ class Told(desktop.Desktop):
         self.xdotool("mouseup", 1)
         session.wait_for(lambda: self.find("qvtblt", "Drawing pad")["description"].endswith(
             "Pressure 0 %"), "the lift")
-        # Several a second for a second or two, not one for each of the moves.
+        # A few per second for a second or two, not one for each move.
         self.assertLess(len(self.events) - before, 40)
 
 

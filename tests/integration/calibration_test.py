@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""Whole calibrations: a real display beside the main one, the real driver, taps by script."""
+"""Complete calibrations: a real display beside the main one, the real driver, scripted taps."""
 
 import plistlib
 import signal
@@ -69,7 +69,7 @@ class Calibration(displays.Displays):
                    for thing in self.things("qvtblt"))
 
     def accept(self):
-        """All four were touched: the area is with the driver before the user has agreed."""
+        """Checks after four touches that the driver has the area before the user has agreed."""
         self.find("qvtblt", "The tablet fits the display now. Keep it so?")
         self.assertEqual((self.flag(), self.area()), (0, AREA))
         self.xdotool("key", "Return")
@@ -77,7 +77,7 @@ class Calibration(displays.Displays):
         self.assertEqual((self.flag(), self.area()), (0, AREA))
 
     def crosses(self):
-        """The crosses that are to be seen on the display, by their numbers."""
+        """Returns the numbers of the crosses that are visible on the display."""
         pixels = subprocess.run(
             ["import", "-window", "root", "-crop", "800x600+1024+0", "-depth", "8", "rgb:-"],
             env=self.env, capture_output=True, check=True).stdout
@@ -120,7 +120,7 @@ class Calibration(displays.Displays):
         self.assertTrue(self.is_open())
 
     def test_escape_ends_it_at_each_cross(self):
-        # In an order in which no pass begins near where the last one ended.
+        # In an order in which no calibration begins near where the last one ended.
         for taken in (0, 2, 3, 1):
             self.tap(TAPS[:taken])
             self.wait_for_crosses([taken])
@@ -131,7 +131,7 @@ class Calibration(displays.Displays):
 
     def test_a_touch_near_the_last_one_does_not_count(self):
         self.tap(TAPS[:1])
-        self.touch(1100, 2899)  # 999 units on, both ways together
+        self.touch(1100, 2899)  # x + y differs by 999
         self.wait_for_crosses([1])
         self.tap(TAPS[1:])
         self.accept()
@@ -191,7 +191,7 @@ class Calibration(displays.Displays):
     def test_a_caps_lock_that_is_escape_ends_it(self):
         result = self.run_program("setxkbmap", "-option", "caps:escape")
         self.assertEqual(result.returncode, 0, result.stderr)
-        self.xdotool("key", "66")  # the place of Caps Lock
+        self.xdotool("key", "66")  # the position of Caps Lock
         self.wait_for_flag(0)
         session.wait_for(lambda: not self.is_open(), "the window's end")
 
@@ -199,7 +199,7 @@ class Calibration(displays.Displays):
         self.tap(TAPS[:2])
         self.stop_driver(self.driver, signal.SIGKILL)
         self.driver = self.start_driver()
-        # The new one knows of no calibration.
+        # The new driver does not know of a calibration.
         self.assertNotEqual(self.ctl("sim", "tap", *TAPS[2]).returncode, 0)
         self.xdotool("key", "Escape")
         session.wait_for(lambda: not self.is_open(), "the window's end")

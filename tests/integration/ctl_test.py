@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The command line, against the real driver."""
+"""The command line, with the real driver."""
 
 import json
 import plistlib
@@ -104,7 +104,7 @@ class Ctl(session.Session):
         for mode in ("fast", "normal"):
             result = self.ctl("usb-mode", mode)
             self.assertEqual((result.returncode, result.stdout), (1, ""))
-            # Where a machine has no USB at all, it says that.
+            # On a machine without USB, the message says so.
             self.assertRegex(
                 result.stderr,
                 r"there is no Quorvia Draft S \(product 20737\) on the USB bus\n$"
@@ -197,7 +197,7 @@ class Ctl(session.Session):
     def test_push_tells_when_the_driver_did_not_take_it(self):
         self.start_driver()
         self.simulator("Stall", "u", "200")
-        # The query is in time; the push, behind the next one's sleep, is too.
+        # The query is in time; so is the push, after the second sleep.
         self.assert_result(self.ctl("push"), 0)
         self.config().unlink()
         self.assert_result(self.ctl("push"), 1, "", "No such file")
@@ -238,7 +238,7 @@ class Ctl(session.Session):
         self.assertEqual(self.simulator("Pushes"), ["u", "0"])
 
     def start_with_area(self):
-        """The driver, and a file with a mapped area of its own."""
+        """Starts the driver with a file that has a mapped area."""
         self.start_driver()
         config = plistlib.loads(self.config().read_bytes())
         config["Monitor"] |= {"XOrg": 5, "Width": 60, "YOrg": 7, "Height": 80}

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The display page on real displays that come, go, move and turn while the page is shown."""
+"""The display page while real displays are connected, disconnected, moved and rotated."""
 
 import plistlib
 import struct
@@ -35,7 +35,7 @@ class Page(displays.Displays):
         session.wait_for(lambda: self.items() == names, names)
 
     def mapped(self):
-        """Left, top, width and height of the driver's mapped area; nothing before any push."""
+        """Returns left, top, width and height of the driver's mapped area; None before a push."""
         record = self.record()
         if not record:
             return None
@@ -43,7 +43,7 @@ class Page(displays.Displays):
         return left, top, width, height
 
     def choose(self, item):
-        """Chooses an item of the list by the keyboard, by its place."""
+        """Chooses an item of the list with the keyboard, by its index."""
         box = self.find("qvtblt", LIST, "combo box")
         self.click(box)
         self.xdotool("key", "Home", *["Down"] * item, "Return")
@@ -53,7 +53,7 @@ class Page(displays.Displays):
         session.wait_for(lambda: self.mapped() == area, f"{area}, not {self.mapped()}")
 
     def miniatures_are(self, places):
-        """Whether what is magenta on the screen is these displays, in their proportions."""
+        """Returns whether the magenta shapes on screen are these displays, in their proportions."""
         picture = subprocess.run(["import", "-window", "root", "-depth", "8", "ppm:-"],
                                  env=self.env, capture_output=True, check=True).stdout
         header, _, pixels = picture.partition(b"\n255\n")
@@ -66,12 +66,12 @@ class Page(displays.Displays):
             at = pixels.find(b"\xff\x00\xff", at + 1)
         if not magenta:
             return False
-        # Their common corner; an edge may cover parts of pixels.
+        # Their common corner; an edge may partly cover pixels.
         left = min(x for x, _ in magenta) - min(place[0] for place in places) / 15
         top = min(y for _, y in magenta) - min(place[1] for place in places) / 15
         rects = [(left + x / 15, top + y / 15, left + (x + w) / 15, top + (y + h) / 15)
                  for x, y, w, h in places]
-        # No part of any reaches beyond them; lines and names lie over some.
+        # Nothing reaches beyond them; lines and names may cover them.
         if any(not any(x0 - 2 <= x <= x1 + 2 and y0 - 2 <= y <= y1 + 2 for x0, y0, x1, y1 in rects)
                for x, y in magenta):
             return False
@@ -81,8 +81,8 @@ class Page(displays.Displays):
                    for x, inX in ((x0, 1), (x1, -1)) for y, inY in ((y0, 1), (y1, -1)))
 
     def expect_page(self, *places):
-        """The list has these displays, in some order, the picture shows them, and each of them can
-        be chosen; all together are their bounds."""
+        """Expects these displays in the list, in any order, and in the picture. Each of them can be
+        chosen, and all displays together give their bounding box."""
         self.wait_for_items(len(places))
         session.wait_for(lambda: self.miniatures_are(places), f"a picture of {places}")
         chosen = []
@@ -102,7 +102,7 @@ class DisplayPage(Page):
         self.expect_page((0, 0, 1024, 768))
         self.plug(1, "800x600", "1024x0")
         self.expect_page((0, 0, 1024, 768), (1024, 0, 800, 600))
-        # To the left of the main display: its places are negative then.
+        # To the left of the main display, with negative positions.
         self.xrandr("--output", "DUMMY1", "--pos", "0x0", "--output", "DUMMY0", "--pos", "800x0")
         self.expect_page((0, 0, 1024, 768), (-800, 0, 800, 600))
         # Apart from it, and lower.
@@ -132,7 +132,7 @@ class DisplayPage(Page):
 
 
 class ChosenSecond(Page):
-    """The second display is chosen from the beginning."""
+    """With the second display chosen at the start."""
 
     def start_driver(self):
         self.plug(1, "800x600", "1024x0")

@@ -1,8 +1,9 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""What is told of real displays that come, go and move: when it begins, and when all is at rest.
+"""Notifications about real displays that are connected, disconnected and moved: one when a change
+begins, one when all have settled.
 
-Usage: displays_test.py DISPLAY-NOTICES, the program that prints what it is told
+Usage: displays_test.py DISPLAY-NOTICES, the program that prints the notifications
 """
 
 import queue
@@ -34,7 +35,8 @@ class Notices(displays.Displays):
         self.assertEqual((what, sorted(places)), ("now", sorted(bounds)))
 
     def expect_change(self, *bounds):
-        """One change: it begins once, ends once, and then all displays are where they belong."""
+        """Expects one change: it begins once, ends once, and then all displays have these
+        bounds."""
         self.assertEqual(self.lines.get(timeout=session.PATIENCE)[0], "begin")
         what, *places = self.lines.get(timeout=session.PATIENCE)
         self.assertEqual((what, sorted(places)), ("end", sorted(bounds)))
@@ -43,7 +45,7 @@ class Notices(displays.Displays):
         # To the right: nothing else moves.
         self.plug(1, "800x600", "1024x0")
         self.expect_change("0,0,1024,768*", "1024,0,800,600")
-        # To the left: the main display moves aside, and its coordinates with it.
+        # To the left: the main display moves, and the origin with it.
         self.run_program("xrandr", "--addmode", "DUMMY2", "640x480")
         self.xrandr("--output", "DUMMY2", "--mode", "640x480", "--pos", "0x0",
                     "--output", "DUMMY0", "--pos", "640x0", "--output", "DUMMY1", "--pos", "1664x0")
@@ -51,10 +53,10 @@ class Notices(displays.Displays):
         # Another becomes the main one, with a gap below it and above the others.
         self.xrandr("--output", "DUMMY1", "--primary", "--pos", "700x900")
         self.expect_change("-700,-900,640,480", "-60,-900,1024,768", "0,0,800,600*")
-        # The main one goes.
+        # Disconnect the main one.
         self.xrandr("--output", "DUMMY1", "--off", "--output", "DUMMY0", "--primary")
         self.expect_change("-640,0,640,480", "0,0,1024,768*")
-        # Upright, as one that is turned; this X server cannot turn its displays itself.
+        # Upright, as if rotated; this X server cannot rotate displays.
         self.xrandr("--newmode", "upright", *"25 480 496 544 640 640 650 652 680".split())
         self.plug(2, "upright", "0x0")
         self.expect_change("-640,0,480,640", "0,0,1024,768*")

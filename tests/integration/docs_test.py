@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The documents are true: their examples do what they say, their links lead somewhere, and what the
-user guide says is on screen is a text of the programs."""
+"""Checks the documents: their examples work, their links are valid, and texts that the user guide
+quotes are in the programs."""
 
 import os
 import pathlib
@@ -21,7 +21,7 @@ FOLDERS = "bench|cli|docs|driver|hosts|packaging|platform|QVTblt|resources|scrip
 
 
 def examples(text):
-    """The commands of the console blocks, each with the output that is printed below it."""
+    """Yields the commands of the console blocks, each with the output printed below it."""
     for block in re.findall(r"^```console\n(.*?)^```$", text, re.MULTILINE | re.DOTALL):
         for part in re.split(r"^\$ ", block, flags=re.MULTILINE)[1:]:
             lines = part.splitlines(keepends=True)
@@ -32,19 +32,19 @@ def examples(text):
 
 
 def prose(document):
-    """A document's text without its blocks of code."""
+    """Returns a document's text without its code blocks."""
     return re.sub(r"^ *```.*?^ *```$", "", document.read_text(), flags=re.MULTILINE | re.DOTALL)
 
 
 def anchors(document):
-    """What links can name in a document, made of its headings as code hosts make them."""
+    """Returns the anchors of a document, made from its headings as code hosts do."""
     headings = re.findall(r"^#+ (.+)$", prose(document), re.MULTILINE)
     return {re.sub(r"[^\w -]", "", heading.lower()).replace(" ", "-") for heading in headings}
 
 
 def links(document):
-    """Each link's and picture's text and target; with "!" in front of a picture's."""
-    # A picture may be the text of a link: the inner one is found first.
+    """Returns whether it is a picture, the text and the target of each link and picture."""
+    # A picture may be the text of a link: the pattern finds the inner one.
     return [(bool(mark), text, target) for mark, text, target in
             re.findall(r"(!?)\[([^\[\]]*)\]\(([^()\s]+)\)", prose(document))]
 
@@ -87,7 +87,7 @@ class Links(unittest.TestCase):
 
 
 def texts_on_screen():
-    """All texts of the programs that a person sees, without the marks of underlined letters."""
+    """Returns all visible texts of the programs, without mnemonic marks."""
     resources = session.SOURCE / "resources"
     texts = {element.text for file in resources.glob("de.lproj/*.ts")
              for element in ElementTree.parse(file).iter("source")}
@@ -102,7 +102,7 @@ def texts_on_screen():
 
 class UserGuide(unittest.TestCase):
     def test_what_is_bold_is_on_screen(self):
-        # A %1 stands for a word that the program puts there.
+        # %1 stands for a word that the program inserts.
         forms = [re.compile(re.sub(r"%\d", r"\\S+", re.escape(text))) for text in texts_on_screen()]
         bold = re.findall(r"\*\*(.+?)\*\*", re.sub(
             r"\s+", " ", prose(session.SOURCE / "docs/guide.md")))
@@ -113,7 +113,7 @@ class UserGuide(unittest.TestCase):
 
 
 class Pictures(desktop.Desktop):
-    """What the guide's pictures show is what the panel looks like."""
+    """Checks that the guide's pictures show the current panel."""
 
     RETAKE = "run docs/make-screenshots, and look at what it has made"
 
@@ -152,7 +152,7 @@ PANEL = pathlib.Path(session.__file__).with_name("peer_panel.py")
 
 class DriverProtocol(session.Session):
     def panel_name(self, driver):
-        """Opens a panel, without a screen; gives its connection, which the driver tells."""
+        """Opens a panel without a screen, and returns its connection, from the driver's output."""
         self.env["QT_QPA_PLATFORM"] = "offscreen"
         self.start([session.BIN / "qvtblt"])
         line = ""
@@ -181,7 +181,7 @@ class DriverProtocol(session.Session):
         self.stop_driver(self.start_driver())  # leaves a configuration file
         self.start(["/usr/bin/python3", MINIMAL_DRIVER], stdout=subprocess.PIPE)
         session.wait_for(lambda: self.ctl("status").returncode == 0, "the script")
-        # Each code of the two events, with one of another.
+        # Combine a code of each of the two events with a wrong one.
         for codes in ("0x54645367 0x67657464", "0x636F7265 0x57536E64", "1 2"):
             result = self.run_program(
                 "busctl", "--user", "call", session.DRIVER_NAME, *session.EVENTS, "Send",
@@ -194,7 +194,7 @@ class DriverProtocol(session.Session):
         session.wait_for(lambda: self.ctl("status").returncode == 0, "the script")
 
         def start_panel():
-            """A panel that calibrates, after the touches of the four crosses."""
+            """Returns a calibrating panel, after the touches of the four crosses."""
             panel = self.start(["/usr/bin/python3", "-B", PANEL], stdin=subprocess.PIPE,
                                stdout=subprocess.PIPE)
             words = [session.read_line(panel.stdout, "a touch").split()[0] for _ in range(10)]
@@ -208,7 +208,7 @@ class DriverProtocol(session.Session):
 
         panel, other = start_panel(), start_panel()
         self.assertEqual(push(other, 0), ["pushed", "0"])
-        self.assertEqual(push(panel, 1), ["pushed", "1"])  # it does so still: no new beginning
+        self.assertEqual(push(panel, 1), ["pushed", "1"])  # it is still calibrating: no restart
         self.assertEqual(push(other, 1)[0], "1")  # a touch
 
     def test_minimal_driver_does_not_queue_for_the_name(self):
@@ -221,7 +221,7 @@ class DriverProtocol(session.Session):
         self.stop_driver(self.start_driver())  # leaves a configuration file
         command = next(command for command, _ in examples(PROTOCOL.read_text())
                        if "dbus-1/services" in command)
-        # A bus with the folders of every session's.
+        # A bus with the standard service folders of a session.
         address = f"unix:path={self.folder}/standard-bus"
         config = self.folder / "standard-bus.conf"
         config.write_text(session.BUS_CONFIG.format(
@@ -235,7 +235,7 @@ class DriverProtocol(session.Session):
         self.assertTrue(bus.stdout.readline())
 
         def owner():
-            """The program that the bus starts as the driver."""
+            """Returns the process ID and the program that the bus starts as the driver."""
             session.wait_for(lambda: self.ctl("status").returncode == 0, "a driver")
             found = self.run_program("busctl", "--user", "call", "org.freedesktop.DBus", "/",
                                      "org.freedesktop.DBus", "GetConnectionUnixProcessID", "s",

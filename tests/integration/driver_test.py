@@ -23,7 +23,7 @@ SLOTS = [f"Key{n}" for n in range(16)] + ["penKeyU", "penKeyL"]
 
 class Driver(session.Session):
     def send(self, words):
-        """Sends an event in busctl's form. Gives what busctl printed."""
+        """Sends an event in busctl's form. Returns busctl's output."""
         result = self.run_program(
             "busctl", "--user", "call", session.DRIVER_NAME, *session.EVENTS, "Send",
             *words.split())
@@ -214,7 +214,7 @@ class Driver(session.Session):
         while "is owned by" not in monitor.stdout.readline():
             pass
         self.simulator("Attach", "q", "20739")
-        # What the driver has said at its start may still be on its way.
+        # Skip the signals of the driver's start.
         line = monitor.stdout.readline()
         if "AttachedChanged (uint16 20737,)" in line:
             monitor.stdout.readline()

@@ -15,11 +15,11 @@ SIZE = 64
 class Icons(desktop.Desktop):
     def setUp(self):
         super().setUp()
-        # The index of the theme is the system's, the icons are the build's.
+        # Use the system's theme index and the build's icons.
         self.env["XDG_DATA_DIRS"] = f"{session.STAGE}/share:/usr/share"
 
     def window_icon(self, title):
-        """The pixels of the window's icon, each as alpha, red, green and blue."""
+        """Returns the pixels of the window's icon, each as alpha, red, green and blue."""
         window = session.wait_for(
             lambda: self.run_program("xdotool", "search", "--onlyvisible", "--name",
                                      title).stdout.split(), f"the window '{title}'")[0]
@@ -40,7 +40,7 @@ class Icons(desktop.Desktop):
         pixels = [data[i + 3:i + 4] + data[i:i + 3] for i in range(0, len(data), 4)]
         seen = self.window_icon(title)
         self.assertIsNotNone(seen, "the window has no icon of that size")
-        # What is half transparent is rounded on its way.
+        # Translucent pixels may be rounded in between.
         opaque = [(one, other) for one, other in zip(pixels, seen) if one[0] == 255]
         self.assertGreater(len(opaque), SIZE * SIZE / 4)
         self.assertEqual([one for one, _ in opaque], [other for _, other in opaque])

@@ -1,7 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The key page as a person uses it: a combination by mouse and by keyboard, an application, a model
-that is changed and comes back."""
+"""The key page in use: a combination by mouse and by keyboard, an application, and switching models
+back and forth."""
 
 import unittest
 
@@ -29,17 +29,17 @@ class KeyPage(desktop.Desktop):
         self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
 
     def slot(self, number):
-        """Kind, combination and path of a slot of the driver's record."""
+        """Returns kind, combination and path of a slot in the driver's record."""
         start = 319 + 264 * number
         record = self.record()[start:start + 264]
         return (int.from_bytes(record[0:2], "little", signed=True),
                 int.from_bytes(record[4:8], "little"), record[8:].split(b"\0")[0].decode())
 
     def choose(self, box, item):
-        """Opens a box's list with the mouse and clicks one of its items."""
+        """Opens a box's list with the mouse and clicks an item."""
         found = self.find("qvtblt", box, "combo box")
         self.click(found)
-        # The list's window slides into its place.
+        # The list's window is animated.
         place = [None]
 
         def has_settled():
@@ -53,7 +53,7 @@ class KeyPage(desktop.Desktop):
                          f"{expected} in slot {number}")
 
     def shown(self):
-        """How many boxes show the combination, and how many the application."""
+        """Returns how many boxes show the combination, and how many the application."""
         names = [thing["name"] for thing in self.things("qvtblt") if thing["role"] == "combo box"]
         return names.count("Ctrl  Shift  Z"), names.count(str(self.application))
 
@@ -86,7 +86,7 @@ class KeyPage(desktop.Desktop):
         self.assertEqual(self.shown(), (1, 1))
         self.close_panel(panel)
 
-        self.simulator("Attach", "q", "20752")  # four keys, and a file of its own
+        self.simulator("Attach", "q", "20752")  # four keys, and its own file
         panel = self.start_panel()
         self.find("qvtblt", "Quorvia Pocket", "label")
         self.assertEqual(self.shown(), (0, 0))
@@ -97,7 +97,7 @@ class KeyPage(desktop.Desktop):
         self.close_panel(panel)
 
     def focus(self, name):
-        """Goes to a control with Tab."""
+        """Focuses a control with Tab."""
         for _ in range(90):
             if name in self.accessible("qvtblt", "--focused").splitlines():
                 return

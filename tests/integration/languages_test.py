@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The translations: whether they are whole, and which of them a person gets."""
+"""The translations: that they are complete, and which of them is chosen."""
 
 import configparser
 import json
@@ -24,7 +24,7 @@ XML_LANGUAGE = "{http://www.w3.org/XML/1998/namespace}lang"
 
 
 def messages(path):
-    """A file's translations by what they translate: context, source, comment."""
+    """Returns a file's translations by context, source and comment."""
     found = {}
     for context in ElementTree.parse(path).iter("context"):
         for message in context.iter("message"):
@@ -45,7 +45,7 @@ def place_holders(text):
 class Translations(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        """Extracts the texts from the sources, as they are now."""
+        """Extracts the texts from the current sources."""
         with tempfile.TemporaryDirectory() as folder:
             fresh = pathlib.Path(folder) / "fresh.lproj"
             fresh.mkdir()
@@ -53,7 +53,7 @@ class Translations(unittest.TestCase):
             cls.texts = {file.stem: set(messages(file)) for file in fresh.glob("*.ts")}
 
     def for_each(self, check):
-        """Calls a check with each translation: its language, what it translates, and its element."""
+        """Calls check for each translation, with its language, its key, and its element."""
         for language in LANGUAGES:
             for name in self.texts:
                 path = RESOURCES / f"{language}.lproj/{name}.ts"
@@ -98,7 +98,7 @@ class Translations(unittest.TestCase):
             self.assertEqual(len(letters), len(MARK.findall(source)))
             found.extend(letters)
             if letters and language in ("ja", "zh-Hans"):
-                # Their own letters are not on the keyboard, so one stands behind the text.
+                # Their characters are not on the keyboard, so the mnemonic follows the text.
                 self.assertRegex(translation.text, IN_BRACKETS)
         self.for_each(check)
         self.assertGreater(len(found), 20 * len(LANGUAGES))
@@ -119,7 +119,7 @@ class Translations(unittest.TestCase):
                     self.assertEqual(place_holders(text), place_holders(english[key]), key)
 
     def test_no_text_of_a_language_is_that_of_another(self):
-        """Whole files in the wrong folder would pass all of the above."""
+        """All other tests would accept a file in the wrong folder."""
         for name in self.texts:
             found = [{key: translation.text for key, translation in
                       messages(RESOURCES / f"{language}.lproj/{name}.ts").items()}
@@ -140,7 +140,7 @@ class Translations(unittest.TestCase):
 
 
 class Entries(unittest.TestCase):
-    """What menus, System Settings and software centres show."""
+    """The texts in menus, System Settings and software centres."""
 
     LOCALES = {language.replace("zh-Hans", "zh_CN") for language in LANGUAGES}
     FOLDER = session.SOURCE / "packaging/desktop"
@@ -148,13 +148,13 @@ class Entries(unittest.TestCase):
 
     @staticmethod
     def titles():
-        """The panel's name in each language."""
+        """Returns the panel's name in each language."""
         return {language.replace("zh-Hans", "zh_CN"): translation.text for language in LANGUAGES
                 for key, translation in messages(RESOURCES / f"{language}.lproj/QVTblt.ts").items()
                 if key[1] == "Quorvia Tablet"}
 
     def check(self, texts):
-        """Of pairs of a key and a locale, each key has all locales."""
+        """Checks that each key has all locales, in pairs of key and locale."""
         self.assertTrue(texts)
         for key in {key for key, _ in texts}:
             self.assertEqual({locale for name, locale in texts if name == key}, self.LOCALES, key)
@@ -200,7 +200,7 @@ class Entries(unittest.TestCase):
 
 
 class Choice(desktop.Desktop):
-    """What a person gets whose languages are these, in the order of preference."""
+    """The language that is chosen for a list of preferred languages."""
 
     NO_DEVICE = {"en": "No tablet was found", "de": "Kein Tablett gefunden",
                  "es": "No se ha encontrado ninguna tableta", "fr": "Aucune tablette trouvée",
@@ -211,7 +211,7 @@ class Choice(desktop.Desktop):
         return self.start([session.BIN / "qvtblt"])
 
     def text(self, language, source):
-        """A text of the panel in a language."""
+        """Returns a text of the panel in a language."""
         if language == "en":
             return source
         return next(translation.text for key, translation in messages(
@@ -225,7 +225,7 @@ class Choice(desktop.Desktop):
         for languages, wanted in (
                 ("pt:fr:en", "fr"), ("es_MX", "es"), ("en_GB:de", "en"), ("xx", "en"),
                 ("zh_CN", "zh-Hans"), ("zh_SG", "zh-Hans"),
-                # Whoever writes it the other way gets it only where they have asked for it.
+                # Users of the other script get it only if they ask for it.
                 ("zh_TW", "en"), ("zh_TW:zh_CN", "zh-Hans")):
             with self.subTest(languages):
                 panel = self.start_panel(languages)
@@ -237,7 +237,7 @@ class Choice(desktop.Desktop):
                 panel.terminate()
                 panel.wait(timeout=session.PATIENCE)
 
-    # In the dialog for an application, which is Qt's.
+    # From the dialog for choosing an application, which is Qt's.
     QT_TEXTS = {"en": "Look in:", "fr": "Voir dans :", "zh-Hans": "查找范围："}
 
     def test_qts_own_texts_are_in_the_language_of_the_panel(self):
@@ -268,7 +268,7 @@ class Choice(desktop.Desktop):
                 self.stop_driver(driver)
 
     def test_the_simulated_tablets_keys_stay_at_their_side(self):
-        self.start_driver("--window", "-reverse")  # as in a language from right to left
+        self.start_driver("--window", "-reverse")  # as in a right-to-left language
         surface = self.find("tdsg-driver", "Surface")
         self.assertLess(self.find("tdsg-driver", "Key 1", "push button")["x"], surface["x"])
         label = self.find("tdsg-driver", "Tablet:", "label")

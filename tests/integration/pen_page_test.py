@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The pen page as a person uses it: the slider bends the curve, the pad shows strokes at once."""
+"""The pen page in use: the slider bends the curve, and the pad shows strokes at once."""
 
 import struct
 import unittest
@@ -14,7 +14,7 @@ BLACK, GREY, WHITE = "#000000", "#C0C0C0", "#FFFFFF"
 
 
 class Panel:
-    """The panel at its pen page, and where things are there."""
+    """The panel with its pen page open, and the positions of its controls."""
 
     def setUp(self):
         super().setUp()
@@ -39,7 +39,7 @@ class Panel:
         return self.pad["x"] + x, self.pad["y"] + y
 
     def press_on_pad(self, *places):
-        """Presses at the first place and drags to the others; the button stays down."""
+        """Presses at the first position and drags to the others; the button stays down."""
         self.xdotool("mousemove", *self.on_pad(*places[0]), "mousedown", 1)
         for place in places[1:]:
             self.xdotool("mousemove", *self.on_pad(*place))
@@ -83,7 +83,8 @@ class PenPage(Panel, desktop.Desktop):
         self.wait_for_pixel(self.on_pad(60, 60), BLACK)
 
     def drag_slider(self):
-        """From one end to the other, in steps; gives the driver's thresholds after each."""
+        """Drags from one end to the other in steps, and returns the driver's threshold after
+        each."""
         left, right = self.slider["x"] + 8, self.slider["x"] + self.slider["width"] - 8
         middle = self.slider["y"] + self.slider["height"] // 3
         self.xdotool("mousemove", (left + right) // 2, middle, "mousedown", 1)
@@ -93,7 +94,7 @@ class PenPage(Panel, desktop.Desktop):
         self.xdotool("mouseup", 1)
 
     def test_the_slider_pushes_every_value_and_bends_the_curve(self):
-        # What the curve is above, at a quarter of its width, is black there alone.
+        # At a quarter of the width, only the curve is black.
         x, y, height = self.curve["x"], self.curve["y"], self.curve["height"]
         quarter = self.curve["width"] // 4
 
@@ -147,7 +148,7 @@ class PenPage(Panel, desktop.Desktop):
 
 
 class AnotherScreen(Panel, displays.Displays):
-    """Beside the first display there is one of twice its density."""
+    """With a second display of twice the pixel density."""
 
     def setUp(self):
         super(Panel, self).setUp()
@@ -164,7 +165,7 @@ class AnotherScreen(Panel, displays.Displays):
         left, top = (int(line.split(":")[1]) for line in self.run_program(
             "xwininfo", "-id", window).stdout.splitlines() if "Absolute" in line)
         self.xdotool("windowmove", window, 1024, 0)
-        # There, all is twice as large; the stroke that was drawn is wiped, and goes on.
+        # There, everything is twice as large; the drawn stroke is cleared, and continues.
         place = [1064 + 2 * (self.pad["x"] - left), 120 + 2 * (self.pad["y"] - top)]
         self.wait_for_pixel((place[0] + 10, place[1]), GREY)
         for step in (60, 70):
@@ -175,14 +176,14 @@ class AnotherScreen(Panel, displays.Displays):
 
 
 class RealPen(Panel, pens.Pens):
-    """A pen that the X server has, with pressure and an eraser."""
+    """With a pen of the X server, with pressure and an eraser."""
 
     def line(self, pen, y, pressure):
         """Draws a line across the pad at one pressure, long enough to smooth it."""
         pen.stroke([(*self.on_pad(20 + step, y), pressure) for step in range(300)])
 
     def height_of_line(self, y):
-        """How many pixels of a line are black near its end, from the one end to the other."""
+        """Returns the height of a line near its end, in black pixels."""
         return self.pixels(*self.on_pad(300, y - 40), 1, 80).count(BLACK)
 
     def test_a_line_is_as_wide_as_the_pen_presses_and_the_eraser_wipes_it(self):

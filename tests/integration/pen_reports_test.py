@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The pen reports of the driver, as the panel gets them that asks for the pen."""
+"""The driver's pen reports, as received by a calibrating panel."""
 
 import pathlib
 import signal
@@ -16,7 +16,7 @@ REPORTS_OF_TAP = 6
 
 class PenReports(session.Session):
     def start_panel(self, *words):
-        """Starts a panel that asks for the pen, and waits until it has said so."""
+        """Starts a calibrating panel, and waits until it has pushed."""
         panel = self.start(["/usr/bin/python3", "-B", PANEL], stdin=subprocess.PIPE,
                            stdout=subprocess.PIPE)
         for expected in words or ("pushed", "calibrating"):
@@ -29,26 +29,26 @@ class PenReports(session.Session):
         panel.stdin.flush()
 
     def push(self, panel, flag):
-        """Has a panel push that disableFlag; waits until the driver has it."""
+        """Makes a panel push that disableFlag, and waits until the driver has it."""
         panel.stdin.write(f"push {flag}\n")
         panel.stdin.flush()
         self.assertEqual(session.read_line(panel.stdout, "the push"),
                          f"pushed {flag} as {panel.name}")
 
     def assert_listens(self, panel, x):
-        """Whether what the pen does reaches that panel, and begins with what it does now."""
+        """Checks that pen reports reach that panel, starting with the current ones."""
         self.assertTrue(self.ctl("sim", "tap", x, x).returncode == 0)
         told = [report[:3] for report in self.reports(panel, REPORTS_OF_TAP)]
         self.assertEqual(told, [(1, x, x)] * 5 + [(0, x, x)])
 
     def reports(self, panel, count):
-        """The next reports: key, x, y, and when each arrived, in seconds."""
+        """Returns the next reports: key, x, y, and the time of arrival in seconds."""
         for _ in range(count):
             key, x, y, arrived = session.read_line(panel.stdout, "a report").split()
             yield int(key), int(x), int(y), int(arrived) / 1e9
 
     def try_tap(self):
-        """Whether the driver takes a tap."""
+        """Returns whether the driver accepts a tap."""
         return self.ctl("sim", "tap", 5, 5).returncode == 0
 
     def test_a_tap_is_five_reports_and_a_lift(self):
@@ -61,13 +61,14 @@ class PenReports(session.Session):
     def test_the_report_rate_is_true_on_average(self):
         self.start_driver()
         panel = self.start_panel()
-        # In whole milliseconds these would be 1000, 333 and 142 reports in a second.
+        # With intervals in whole milliseconds, these would be 1000, 333 and 142 reports a second.
         for rate, taps in ((1000, 400), (700, 280), (300, 120), (140, 56)):
             with self.subTest(rate):
                 self.simulator("SetReportRate", "u", str(rate))
                 self.tap(panel, taps)
                 arrived = [when for *_, when in self.reports(panel, taps * REPORTS_OF_TAP)]
-                # Between the middles of both halves, so that no single late report counts.
+                # Measure between the middles of both halves, so that a single late report does not
+                # matter.
                 half = len(arrived) // 2
                 measured = half / (statistics.median(arrived[half:]) -
                                    statistics.median(arrived[:half]))
@@ -155,7 +156,7 @@ class PenReports(session.Session):
             if self.simulator("Attached") == ["q", "0"]:
                 self.simulator("Attach", "q", "20739")
             self.assertIn("nobody asks for the pen", self.ctl("sim", "tap", 5, 5).stderr)
-            for panel in panels:  # each may ask anew
+            for panel in panels:  # each may calibrate again
                 self.push(panel, 1)
                 self.assert_listens(panel, 6)
             for panel in panels:

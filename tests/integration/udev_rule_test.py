@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The udev rule, and that the maker's vendor ID is nobody else's."""
+"""The udev rule, and that the vendor ID belongs to no other vendor."""
 
 import re
 import unittest

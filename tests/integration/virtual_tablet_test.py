@@ -21,7 +21,8 @@ UNKNOWN = "not known before the panel sends its settings"
 
 
 def surface_rect(widget):
-    """Left, top and size on the screen of the surface, as large as its proportions let it be."""
+    """Returns left, top and size of the surface on the screen, as large as its proportions
+    allow."""
     width, height = widget["width"] - 2 * MARGIN, widget["height"] - 2 * MARGIN
     scale = min(width / WIDTH, height / HEIGHT)
     return (widget["x"] + MARGIN + (width - WIDTH * scale) / 2,
@@ -29,7 +30,7 @@ def surface_rect(widget):
 
 
 class Tablet:
-    """What a hand does with the window."""
+    """Operates the window by mouse and keyboard."""
 
     def open_tablet(self, *arguments):
         self.driver = self.start_driver("--window", *arguments)
@@ -39,17 +40,17 @@ class Tablet:
         self.xdotool("windowactivate", "--sync", self.window)
 
     def place(self, across, down):
-        """Where a point of the surface, given in fractions of it, is on the screen."""
+        """Returns the screen position of a point of the surface, given as fractions."""
         left, top, width, height = surface_rect(self.find(PROGRAM, "Surface"))
         return round(left + across * width), round(top + down * height)
 
     def units(self, x, y):
-        """The tablet units of a place on the screen."""
+        """Returns the tablet units of a screen position."""
         left, top, width, height = surface_rect(self.find(PROGRAM, "Surface"))
         return round((x - left) / width * WIDTH), round((y - top) / height * HEIGHT)
 
     def said(self, pattern):
-        """Waits for a line of the driver; gives the match."""
+        """Waits for a line from the driver, and returns the match."""
         while True:
             line = session.read_line(self.driver.stdout, f"the driver's line {pattern}")
             match = re.fullmatch(pattern, line)
@@ -57,7 +58,7 @@ class Tablet:
                 return match
 
     def said_pen(self, what):
-        """Waits until the driver says that the pen is down or up; gives the point."""
+        """Waits until the driver reports the pen as down or up, and returns the point."""
         return tuple(map(int, self.said(rf"pen {what} at (\d+), (\d+)").groups()))
 
     def labels(self):
@@ -68,7 +69,7 @@ class Tablet:
         session.wait_for(lambda: text in self.labels(), f"the label '{text}'")
 
     def assert_near(self, points, expected):
-        """Whether the points are the same but for the rounding of the window system's places."""
+        """Checks that the points are equal, except for the rounding of pixel positions."""
         for one, other in zip(points, expected, strict=True):
             self.assertAlmostEqual(one, other, delta=2)
 
@@ -91,7 +92,7 @@ class CalibrationByHand(Tablet, displays.Displays):
         if item:
             self.click(self.find("qvtblt", self.LIST, "combo box"))
             self.xdotool("key", "Home", *["Down"] * item, "Return")
-        # Beside the panel's controls, so that the one does not cover the other.
+        # Beside the panel's controls, so that neither covers the other.
         self.xdotool("windowmove", "--sync", self.window, 390, 150)
         button = self.find("qvtblt", "Calibrate…", "push button")
         panel = self.run_program("xdotool", "search", "--onlyvisible", "--name",
@@ -157,11 +158,11 @@ class VirtualTablet(Tablet, desktop.Desktop):
 
     @staticmethod
     def report(panel):
-        """The next report that the panel gets: key, x, y."""
+        """Returns the next report that the panel gets: key, x, y."""
         return tuple(map(int, session.read_line(panel.stdout, "a report").split()[:3]))
 
     def reports_until(self, panel, last):
-        """The reports up to that one."""
+        """Returns the reports up to that one."""
         reports = [self.report(panel)]
         while reports[-1] != last:
             reports.append(self.report(panel))
@@ -291,7 +292,7 @@ class VirtualTablet(Tablet, desktop.Desktop):
         self.simulator("Attach", "q", str(0x5101))
         self.find(PROGRAM, "Surface")
         self.wait_for_label("not calibrating: it is told nothing of the pen")
-        panel.stdin.write("push 1\n")  # nobody else knows that it still wants the pen
+        panel.stdin.write("push 1\n")  # only the panel knows that it is still calibrating
         panel.stdin.flush()
         before = []
         while not before or before[-1][0] != "pushed":

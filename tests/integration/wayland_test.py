@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""A calibration on the second display of a Wayland desktop, from its window to its end."""
+"""A complete calibration on the second display of a Wayland desktop."""
 
 import plistlib
 import struct
@@ -17,7 +17,7 @@ AREA = (500, 13300, 1500, 8700)
 
 
 def is_yellow(pixel):
-    """Seven tenths of it, above black."""
+    """Returns whether a pixel is yellow with 70 % opacity on black."""
     return all(abs(part - wanted) < 6 for part, wanted in zip(pixel, (178, 178, 0)))
 
 
@@ -35,7 +35,7 @@ class WaylandCalibration(wayland.Wayland):
         self.start([session.BIN / "qvtblt"])
 
     def crosses(self):
-        """The crosses that the second display shows, by their numbers."""
+        """Returns the numbers of the crosses on the second display."""
         pixel = self.pixels("Virtual-1")
         return [number for number, (x, y) in enumerate(CROSSES)
                 if any(is_red(pixel(x + 15, y + i)) for i in (-1, 0))

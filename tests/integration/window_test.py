@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The panel in its own window, as a person uses it: mouse, real X server, real driver, real file."""
+"""The panel in its own window, in use: mouse, real X server, real driver, real file."""
 
 import plistlib
 import re
@@ -53,7 +53,7 @@ class Window(desktop.Desktop):
         self.assertEqual(self.driver_strips(), (1, 0))
         self.press("qvtblt", "Cancel", "push button")
         session.wait_for(lambda: self.driver_strips() == (0, 0), "the driver")
-        # The panel is shown anew, so that its pages follow.
+        # The panel is shown again, so that its pages match.
         session.wait_for(lambda: self.find("qvtblt", "Left scroll strip")["checked"], "the box")
 
     def test_all_pages_follow_the_file_after_cancel(self):
@@ -127,7 +127,7 @@ class Window(desktop.Desktop):
 
 
     def notice(self):
-        """The line that says what has gone wrong; nothing while there is none."""
+        """Returns the lines about a problem; empty if there is none."""
         return [thing["name"] for thing in self.things("qvtblt") if thing["showing"]
                 and any(words in thing["name"]
                         for words in ("not taken", "not saved", "cannot be loaded"))]
@@ -237,7 +237,7 @@ class Window(desktop.Desktop):
 
 
 class SmallScreen(desktop.Desktop):
-    """The window with its frame on a small screen, in large text."""
+    """The window with its frame on a small screen, with large text."""
 
     SCREEN = "1024x600x24"
 
@@ -247,7 +247,7 @@ class SmallScreen(desktop.Desktop):
             for language in ("en", "de", "es", "fr", "ja", "zh_CN"):
                 with self.subTest(points=points, language=language):
                     self.env["LANGUAGE"] = language
-                    self.env["QT_FONT_DPI"] = str(96 * points // 10)  # of the usual 10 points
+                    self.env["QT_FONT_DPI"] = str(96 * points // 10)  # 10 is usual
                     panel = self.start([session.BIN / "qvtblt"])
                     window = session.wait_for(
                         lambda: self.run_program("xdotool", "search", "--onlyvisible", "--class",
@@ -261,7 +261,7 @@ class SmallScreen(desktop.Desktop):
                     panel.wait(timeout=session.PATIENCE)
 
     def frame(self, window):
-        """The window's place with its frame; None before it has one."""
+        """Returns the window's rectangle with its frame; None before it has one."""
         text = self.run_program("xwininfo", "-id", window, "-frame").stdout
         extents = self.run_program("xprop", "-id", window, "_NET_FRAME_EXTENTS").stdout
         if "=" not in extents:

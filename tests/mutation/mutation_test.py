@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""tests/mutation/run on a small program, of which it is known what its tests notice."""
+"""Runs tests/mutation/run on a small program, for which it is known what its tests notice."""
 
 import json
 import pathlib
@@ -139,7 +139,7 @@ class Areas(unittest.TestCase):
         source = RUN.parent.parent.parent
         listed = {file for area in tomllib.loads((RUN.parent / "areas.toml").read_text()).values()
                   for file in area}
-        # The plug-in's entry alone goes into no program of tests.
+        # Only the plug-in's entry is not part of a test program.
         expected = {f"QVTblt/{path.name}" for path in (source / "QVTblt").glob("*.cpp")
                     if path.name != "QVTbltModule.cpp"}
         self.assertEqual(expected - listed, set())
@@ -181,7 +181,7 @@ class MutationTest(unittest.TestCase):
         for new in ("if (!(isOdd(3)) && first) {", "if (isOdd(3) && !(first)) {",
                     "return !(second) ? 6 : 7;"):
             self.assertEqual(self.result(new), ("noticed", "Small.picks"))
-        # One with an operator of its own is changed there, and nowhere else.
+        # A condition with an operator is changed there, and nowhere else.
         self.assertNotIn("return !(value < 0) ? 0 : value;", self.results)
 
     def test_takes_a_hang_for_noticed(self):

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The Debian packages: what is in them, and their life in a clean Debian.
+"""The Debian packages: their contents, and installing, using and removing them in a clean Debian.
 
 Usage: packages_test.py PACKAGES [unittest's arguments], PACKAGES being make-packages' folder
 """
@@ -21,7 +21,7 @@ PROGRAMS = {"qvtblt": "qvtblt", "qvtbltctl": "qvtblt", "tdsg-driver": "tdsg-driv
 
 
 def run(*command, **options):
-    """Runs a program to its end; fails with what it has said."""
+    """Runs a program to its end; on failure, shows its output."""
     options.setdefault("timeout", 300)
     result = subprocess.run([str(word) for word in command], text=True, stdout=subprocess.PIPE,
                             stderr=subprocess.STDOUT, **options)
@@ -115,7 +115,7 @@ class Contents(unittest.TestCase):
         for key, other in (("Exec", "ExecStart"), ("Name", "BusName")):
             value = re.search(rf"^{key}=(.*)$", service, re.MULTILINE)[1]
             self.assertIn(f"\n{other}={value}\n", text)
-        # The program is not installed here, so the unit is looked at with the one that was unpacked.
+        # The program is not installed here, so check the unit with the unpacked one.
         copy = self.unpacked / unit
         copy.write_text(text.replace("ExecStart=", f"ExecStart={self.unpacked}"))
         said = run("systemd-analyze", "--user", "--man=no", "verify", copy,
@@ -139,7 +139,7 @@ class Contents(unittest.TestCase):
                 self.assertEqual(told, self.options(program))
 
     def complete(self, line):
-        """What a shell offers for a line."""
+        """Returns a shell's completions for a line."""
         words = line.split(" ")
         script = """
             . /usr/share/bash-completion/bash_completion
@@ -170,7 +170,7 @@ class Contents(unittest.TestCase):
 
 
 def debian_sources():
-    """Debian's own archives, as this machine's apt knows them."""
+    """Returns Debian's own archives, from this machine's apt."""
     lines = run("apt-get", "indextargets", "--format", "$(SITE) $(RELEASE) $(COMPONENT)",
                 "Created-By: Packages", "Origin: Debian")
     return sorted({f"deb {line}" for line in lines.splitlines()})
@@ -199,8 +199,8 @@ class CleanRoot(unittest.TestCase):
             users.write("person:x:1000:1000::/home/person:/bin/bash\n")
 
     def in_root(self, *command, user=0):
-        """Runs a program in the root, without processes from elsewhere, and ends with it all that it
-        has started."""
+        """Runs a program in the root in its own process namespace, which ends with all its
+        children."""
         script = """
             mount -t proc proc "$0/proc" && mount -t tmpfs tmpfs "$0/tmp" &&
             mkdir -m 700 "$0/tmp/runtime" && chown "$1" "$0/tmp/runtime" &&
@@ -216,7 +216,7 @@ class CleanRoot(unittest.TestCase):
         return self.in_root("dbus-run-session", "--", "bash", "-euc", script, user=1000)
 
     def files(self):
-        """All that is in the root but the user's files and the package manager's own."""
+        """Returns all files in the root, except the user's and the package manager's."""
         own = ("home/person/", "opt/", "tmp/", "var/cache/", "var/lib/apt/", "var/lib/dpkg/",
                "var/log/")
         names = {str(file.relative_to(self.root)) for file in self.root.rglob("*")}
