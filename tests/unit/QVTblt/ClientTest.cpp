@@ -16,7 +16,7 @@ using namespace platform;
 
 namespace {
 
-/** A record with telling bytes at the offsets that the diagnostic line prints. */
+/** A record with distinct bytes at the offsets that the diagnostic line prints. */
 std::array<unsigned char, 5077> markedRecord()
 {
     std::array<unsigned char, 5077> record{};

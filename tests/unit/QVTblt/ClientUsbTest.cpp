@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The way to the tablet over USB, where each step can fail.
+// Access to the tablet over USB, with failures at each step.
 
 #include "Client.h"
 #include "FakeUsb.h"
@@ -21,7 +21,7 @@ constexpr const char* kSubsequent =
 
 class ClientUsb : public testing::Test {
 protected:
-    /** Runs it; keeps what it wrote to standard error in mSaid. */
+    /** Runs the function, and keeps its standard error in mSaid. */
     template <class Function>
     auto quietly(const Function& function)
     {

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// A calibration from its window to its end: reports, pauses, alerts, pushes.
+// A calibration from start to end: reports, pauses, alerts, pushes.
 
 #include "QVCalibrateView.h"
 
@@ -56,12 +56,12 @@ QByteArray report(std::uint32_t key, std::uint16_t x, std::uint16_t y)
     return bytes;
 }
 
-/** The parts of a view that are painted. */
+/** Records the regions of a view that are painted. */
 class PaintedRegions final : public QObject {
 public:
     explicit PaintedRegions(QWidget& view) { view.installEventFilter(this); }
 
-    /** Waits for so many parts, and for more that should not come. */
+    /** Waits for that many regions, and for more that must not come. */
     void wait(std::size_t count)
     {
         EXPECT_TRUE(QTest::qWaitFor([&] { return regions.size() >= count; }, kPatience));
@@ -90,7 +90,7 @@ protected:
     }
 
     void start() { outlet<QPushButton>("mDoCalibrate").click(); }
-    /** Starts, after another calibration has ended too. */
+    /** Starts a calibration whose next touches are far from the last one. */
     void startFarFromTheLastPoint()
     {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -111,7 +111,7 @@ protected:
     {
         EXPECT_NE(window(), nullptr);
         QVCalibrateView& found = window()->view();
-        window()->resize(mSize); // which is smaller where a point is larger than a pixel
+        window()->resize(mSize); // smaller if a point is larger than a pixel
         found.resize(mSize);
         return found;
     }
@@ -225,7 +225,7 @@ TEST_F(Calibration, coversTheChosenDisplayBesideTheMainOne)
     outlet<QComboBox>("mComboBox").setCurrentIndex(2);
     start();
     ASSERT_NE(window(), nullptr);
-    // 220 points above the lower edge of the main display, which here is the tests' screen.
+    // 220 points above the lower edge of the main display, which is the test's screen.
     const int height = QGuiApplication::primaryScreen()->geometry().height();
     EXPECT_EQ(window()->geometry(), QRect(800, height - 220 - 480, 640, 480));
     EXPECT_EQ(window()->view().size(), QSize(640, 480));
@@ -416,7 +416,7 @@ TEST_F(Calibration, beforeTheFirstReportOfAllThePenIsNotDown)
 TEST_F(Calibration, aLiftTooNearTheLastPointIsRefusedWithTheRestOfItsEvent)
 {
     start();
-    tap(30000, 30000); // far from where any other test has ended
+    tap(30000, 30000); // far from the last point of any other test
     view().changenPointValue(-points());
     tap(5000, 5000);
     EXPECT_EQ(points(), 1);
@@ -425,7 +425,7 @@ TEST_F(Calibration, aLiftTooNearTheLastPointIsRefusedWithTheRestOfItsEvent)
     deliver({report(1, 5000, 5000), {}, report(0, 5000, 5000), {}, report(1, 9000, 9000), {},
         report(0, 9000, 9000)});
     EXPECT_EQ(points(), 1) << "the rest of the event is not read";
-    // The pen still counts as down, so the next report of an up pen is a lift.
+    // The pen still counts as down, so the next "up" report is a lift.
     deliver({report(0, 9000, 9000)});
     EXPECT_EQ(points(), 2);
 }
@@ -482,7 +482,8 @@ TEST_F(Calibration, aReportWithoutBytesIsNoLift)
 
 TEST_F(Calibration, aShortReportIsReadAsFarAsItGoes)
 {
-    // 1000 is 0x03E8. Of five bytes, the last is x's low one; the rest is the report's before.
+    // 1000 is 0x03E8. The last of five bytes is the low one of x; the rest is from the previous
+    // report.
     for (const QByteArray& bytes :
         {report(0, 0x77E8, 9999).left(5), report(0, 1000, 800).left(11)}) {
         startFarFromTheLastPoint();
@@ -617,7 +618,7 @@ TEST_F(Calibration, escapeEndsItAtEachPoint)
         mEvents.sent.clear();
         start();
         const std::array<QVTabletPoint, 3> touched{{{1000, 800}, {19200, 800}, {19200, 10600}}};
-        // Far from the last point of the time before.
+        // Far from the last point of the previous round.
         tap(static_cast<std::uint16_t>(40000 + 2000 * taken), 20000);
         view().changenPointValue(-1);
         for (int i = 0; i < taken; ++i) {
@@ -690,7 +691,7 @@ TEST_F(Calibration, whatMeansEscapeEndsItWhereverItLies)
 {
     start();
     QKeyEvent event(
-        QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 66, 0, 0); // Caps Lock's place
+        QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 66, 0, 0); // the position of Caps Lock
     QCoreApplication::sendEvent(window(), &event);
     EXPECT_EQ(window(), nullptr);
     EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0}));
@@ -715,7 +716,7 @@ TEST_F(Calibration, leavingThePanelEndsIt)
 
 TEST_F(Calibration, thePanelLeftUnderEitherAlertHasTheAreaFromBefore)
 {
-    // Neither the answer that the alert then has nor that it has none changes anything.
+    // Neither the alert's answer then nor its absence changes anything.
     for (const bool isInOrder : {true, false}) {
         for (const int answer : {0, 1, 2}) {
             mEvents.sent.clear();
@@ -1057,7 +1058,7 @@ TEST_F(Calibration, afterTheLastPointNoCrossIsShownAndThenTheFirst)
 
 TEST_F(Calibration, theErasedCrossesRectangleHasTheHintWhereThatPutsIt)
 {
-    // Each, as far as the view has it, from the upper left corner: a cross's height above the
+    // Each rectangle, clipped to the view, from the upper left corner: a cross's height above the
     // cross.
     const std::array<QRect, 4> rectangles{{
         {25, 0, 50, 25},

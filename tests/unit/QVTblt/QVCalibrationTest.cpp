@@ -43,7 +43,7 @@ TEST(CalibratedArea, lowEdgesAreAtLeastZero)
 
 TEST(CalibratedArea, highEdgesKeepTheirLowBits)
 {
-    // right 65000, margin 5000: 70000, of which 4464 is left
+    // right 65000, margin 5000: 70000, which is 4464 in 16 bits
     const auto area = QVCalibratedArea(
         Points{{{65000 - 40000, 100}, {65000, 100}, {65000, 900}, {65000 - 40000, 900}}}, 500, 500);
     ASSERT_TRUE(area);
@@ -92,10 +92,10 @@ TEST(CalibratedArea, eachEqualPairOfCoordinatesIsNoOrder)
 TEST(CalibratedArea, isOfWhatTheArithmeticGivesForATinyDisplay)
 {
     const Points points{{{1000, 800}, {19200, 800}, {19200, 10600}, {1000, 10600}}};
-    // No margin can be told without room between the crosses, so nothing is left of the edges.
+    // Without a distance between the crosses, there is no margin, and all edges are 0.
     EXPECT_EQ(QVCalibratedArea(points, 100, 100), (QVTabletArea{0, 0, 0, 0}));
     // Both margins are negative, half of the span.
     EXPECT_EQ(QVCalibratedArea(points, 0, 0), (QVTabletArea{10100, 10100, 5700, 5700}));
-    // 18200 * 50 and 9800 * 50 to the inside, of which the low 16 bits are left.
+    // 18200 * 50 and 9800 * 50 inwards, truncated to the low 16 bits.
     EXPECT_EQ(QVCalibratedArea(points, 99, 99), (QVTabletArea{59032, 26704, 32048, 44888}));
 }

@@ -37,7 +37,7 @@ public:
     std::string string() const { return QVFieldText(mEntry, mRecord); }
     char* text() { return reinterpret_cast<char*>(&mRecord) + kOffset; }
 
-    /** How many bytes from the field's first one are no longer the pattern. */
+    /** How many bytes, counted from the field's first one, have changed. */
     std::size_t changed() const
     {
         const auto* const bytes = reinterpret_cast<const unsigned char*>(&mRecord);
@@ -51,7 +51,7 @@ public:
         return last;
     }
 
-    /** What the field becomes in a list that already has the entry "old". */
+    /** Writes the field to a list that already has the entry "old", and returns the result. */
     std::string written(bool& taken) const
     {
         PropertyList list;

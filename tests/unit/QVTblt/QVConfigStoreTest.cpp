@@ -21,7 +21,7 @@
 
 namespace {
 
-/** Two displays, so that the file's mapped area stands. */
+/** Two displays, so that the file's mapped area is kept. */
 const std::vector<platform::Rect> kTwoDisplays{{0, 0, 1920, 1080}, {1920, 0, 1280, 1024}};
 
 class QVConfigStoreFile : public testing::Test {
@@ -32,7 +32,7 @@ protected:
         writeFile(mPath, sampleConfig());
     }
 
-    /** Loads the file. @return what was logged */
+    /** Loads the file. @return the log */
     std::string read()
     {
         testing::internal::CaptureStderr();
@@ -210,7 +210,7 @@ TEST_F(QVConfigStoreFile, savesEveryFieldOfTheThreeSectionsAndNothingOfTheTablet
 {
     const tagQVTabletInfo sample = sampleRecord();
     qvTabletInfo = sample;
-    // Every field that has an entry gets a value that no other has, and that the file has not.
+    // Every field that has an entry gets a unique value that is not in the file.
     int number = -10'000;
     for (const QVEntry& entry : kQVEntries) {
         std::byte* const to = reinterpret_cast<std::byte*>(&qvTabletInfo) + entry.offset;
@@ -365,7 +365,7 @@ TEST_F(QVConfigStoreFile, skipsAndLogsOnceEachEntryOfTheWrongType)
         {"<array/>", "<data>AQI=</data>", "<dict/>", "<date>2026-11-21T00:00:00Z</date>"}) {
         qvTabletInfo = {};
         QByteArray config = sampleConfig();
-        // Every number and every string of the sample becomes something else.
+        // Change every number and every string of the sample.
         for (const char* const tag : {"integer", "string"}) {
             const QByteArray begin = QByteArray("<") + tag + ">";
             const QByteArray end = QByteArray("</") + tag + ">";

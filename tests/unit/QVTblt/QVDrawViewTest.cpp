@@ -31,7 +31,7 @@ namespace {
 
 constexpr QSize kPad(400, 300);
 
-/** A step of a stroke as it must look, in plain painter calls; points are from the upper left. */
+/** Paints the expected step of a stroke, in plain painter calls; points are from the upper left. */
 void paintStep(QPainter& painter, QPointF from, QPointF to, double width, QColor color = Qt::black)
 {
     from.setY(kPad.height() - from.y());
@@ -46,7 +46,7 @@ void paintStep(QPainter& painter, QPointF from, QPointF to, double width, QColor
     painter.drawLine(from, to);
 }
 
-/** A pad on which nothing has been drawn, to draw on in plain painter calls. */
+/** An empty pad, to paint the expected picture in plain painter calls. */
 struct EmptyPad final : Canvas {
     explicit EmptyPad(const QWidget& pad)
         : Canvas(kPad, pad.devicePixelRatioF())
@@ -76,7 +76,7 @@ protected:
     QVDrawView& pad() { return outlet<QVDrawView>("mDrawView"); }
     QString raw() { return outlet<QLabel>("txtRawTabletPressure").text(); }
     QString line() { return outlet<QVPenStats>("mPenStats").text(); }
-    /** What the pad shows. */
+    /** The pad's picture. */
     QImage shown() { return pad().grab().toImage(); }
     void expectShown(Canvas& canvas)
     {
@@ -183,7 +183,7 @@ TEST_F(DrawingPad, withBothTheOpacityFollowsTheSmoothedPressureToo)
 
 TEST_F(DrawingPad, drawsAThousandMovesEachOnce)
 {
-    outlet<QCheckBox>("mAdjustOpacity").click(); // what is drawn twice is darker
+    outlet<QCheckBox>("mAdjustOpacity").click(); // drawing twice is darker
     useFixedWidth();
     pen().press({20, 150}, 0.1);
     EmptyPad expected(pad());
@@ -357,7 +357,7 @@ TEST_F(DrawingPad, withFixedWidthEveryStrokeIs25PointsWideAndThePressureIsRaw)
 
 TEST_F(DrawingPad, aTabletPointWithoutPressureIsSkippedByTheLoopButDrawnFromTheQueue)
 {
-    useFixedWidth(); // a dot of 25 points, were it drawn
+    useFixedWidth(); // a dot of 25 points, if it were drawn
     pen().press({100, 100}, 0);
     pen().move({100, 100}, 0);
     PenInput::deliver();
@@ -366,7 +366,7 @@ TEST_F(DrawingPad, aTabletPointWithoutPressureIsSkippedByTheLoopButDrawnFromTheQ
         EmptyPad nothing(pad());
         expectShown(nothing);
     }
-    pen().move({200, 100}, 0); // a drag is always drawn, and what has come with it too
+    pen().move({200, 100}, 0); // a drag is always drawn, with the events before it
     pen().move({200, 100}, 0);
     PenInput::deliver();
     paintStep(expected.painter, {100, 100}, {200, 100}, 25);
@@ -442,7 +442,7 @@ TEST_F(DrawingPad, aStrokeGoesOnWhereItWasWhenThePadIsResizedInBetween)
     expectShown(expected);
 }
 
-// What may happen in the middle of a stroke ------------------------------------------------------
+// Interrupted strokes ------------------------------------------------------
 
 TEST_F(DrawingPad, proximityInsideAStrokeChangesNothing)
 {
@@ -762,7 +762,7 @@ TEST_F(DrawingPad, aDragWithoutAPressWhoseReleaseNeverComesEndsWithThePage)
     paintStep(expected.painter, {50, 50}, {200, 50}, 25);
     expectShown(expected);
 
-    // The same where the page stays, and the mouse moves without its button.
+    // The same if the page stays, and the mouse moves without its button.
     move({50, 50}, Qt::LeftButton);
     move({100, 200}, Qt::LeftButton);
     move({9, 9}, Qt::NoButton);

@@ -125,7 +125,7 @@ TEST_F(KeyBox, shortensAPathAtItsBeginningAndKeysInTheirMiddle)
         return QString::fromLatin1(start) + QString(240, u'm') + QString::fromLatin1(middle)
             + QString(240, u'm') + QString::fromLatin1(end);
     };
-    // Texts that differ where they are shortened look alike, in the box and in its list.
+    // Texts that differ only in the elided part look alike, in the box and in its list.
     for (const auto item : {QVKeyComboBox::Application, QVKeyComboBox::KeyCombination}) {
         const bool isPath = item == QVKeyComboBox::Application;
         const auto drawn = [this, item](const QString& what) {
@@ -187,7 +187,7 @@ TEST_F(KeyBox, aTextThatFitsIsDrawnAsInAnyBox)
 
 TEST_F(KeyBox, keepsItsTextOffTheFrameWhereTheStyleHasNoMargin)
 {
-    /** As some styles are in low boxes. */
+    /** Behaves like some styles in low boxes. */
     class TightStyle final : public QProxyStyle {
     public:
         QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
@@ -234,7 +234,7 @@ TEST_F(KeyBox, otherKeysOpenNothing)
         QCoreApplication::sendEvent(&mBox, &event);
         EXPECT_FALSE(mBox.view()->isVisible()) << key;
     }
-    // A character that cannot be printed, as Control gives it.
+    // A control character, as typed with Ctrl.
     QKeyEvent event(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QString(QChar(1)));
     QCoreApplication::sendEvent(&mBox, &event);
     EXPECT_FALSE(mBox.view()->isVisible());

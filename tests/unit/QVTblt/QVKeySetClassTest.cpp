@@ -342,7 +342,7 @@ TEST_F(KeySet, noKeysNameIsCutOffAtAnyTextSize)
 
 TEST_F(KeySet, fitsIntoSmallScreensInEveryLanguageAndTextSize)
 {
-    // As much as most desktops put around a window.
+    // The frame of most desktops' windows.
     constexpr QSize kFrame(12, 40);
     for (const char* const language : {"en", "fr", "de", "ja", "zh-Hans", "es"}) {
         QTranslator translator;
@@ -426,7 +426,7 @@ TEST_F(KeySet, showsWhichKeyHasTheFocus)
 
 TEST_F(KeySet, showsTheFocusFromItsActivationOn)
 {
-    // The fixture's own has been active before.
+    // The fixture's dialog has been active before.
     QVKeySetClass dialog;
     QEvent deactivated(QEvent::WindowDeactivate);
     QCoreApplication::sendEvent(&dialog, &deactivated);

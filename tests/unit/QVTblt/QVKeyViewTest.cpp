@@ -42,7 +42,7 @@ protected:
         ASSERT_TRUE(QFile::remove(mFolder.filePath(QString::fromLatin1(name))));
     }
 
-    /** The colour in the view's middle after a draw; transparent where nothing was drawn. */
+    /** Draws, and returns the colour in the view's middle; transparent if nothing was drawn. */
     QColor draw(std::uint16_t productID)
     {
         qvTabletInfo.Basic.ProductID = static_cast<std::int16_t>(productID);
@@ -159,13 +159,13 @@ TEST_F(KeyView, isDrawnAgainWhenTheThemeChanges)
 
 TEST_F(KeyView, showsTheLowerLeftPartOfAPictureLargerThanItself)
 {
-    // Two pixels to the point, as all these: 60 x 50 points for a view of 40 x 30.
+    // Two pixels per point, like all of them: 60 x 50 points for a view of 40 x 30.
     QImage image(120, 100, QImage::Format_RGB32);
     image.setDotsPerMeterX(5669);
     image.setDotsPerMeterY(5669);
     image.fill(Qt::red);
     QPainter painter(&image);
-    painter.fillRect(0, 40, 80, 60, Qt::blue); // what the view has room for
+    painter.fillRect(0, 40, 80, 60, Qt::blue); // the part that fits the view
     painter.end();
     ASSERT_TRUE(image.save(mFolder.filePath(QStringLiteral("tabletpic6.PNG")), "PNG"));
     draw(kDraft);
@@ -177,7 +177,7 @@ TEST_F(KeyView, showsTheLowerLeftPartOfAPictureLargerThanItself)
                 << x << ' ' << y;
         }
     }
-    // One point more to the right or above, and red comes in.
+    // One point more to the right or above shows red.
     mView.resize(44, 34);
     draw(kDraft);
     const QImage larger = mView.grab().toImage();
@@ -223,7 +223,7 @@ TEST_F(KeyView, everyPictureOfTheTableIsInTheBundleAndFillsTheView)
             EXPECT_EQ(draw(model.productID), kNothing) << model.name;
             continue;
         }
-        // Of all pictures it is most like its own, along a line through the keys.
+        // It resembles its own picture most, along a line through the keys.
         draw(model.productID);
         const QImage view = mView.grab().toImage();
         const auto difference = [&view](const QString& file) {
@@ -248,7 +248,7 @@ TEST_F(KeyView, everyPictureHasItsTrueColoursAndSizeInAllItsForms)
     struct Form {
         const char* suffix;
         int density;
-        QRgb ground; ///< of the drawings, in light and in dark
+        QRgb ground; ///< of the light and dark drawings
     };
     constexpr std::array<Form, 4> kForms{{{".", 1, 0xFFEEF0F3}, {"@2x.", 2, 0xFFEEF0F3},
         {"-dark.", 1, 0xFF24282E}, {"-dark@2x.", 2, 0xFF24282E}}};
@@ -265,7 +265,7 @@ TEST_F(KeyView, everyPictureHasItsTrueColoursAndSizeInAllItsForms)
             EXPECT_NEAR(bounds.height, 270, 0.1);
             EXPECT_EQ(picture.width(), 384 * form.density);
             const QColor ground = picture.pixelColor(4, 4);
-            // JPEG rounds on its way from one kind of colours to the other.
+            // JPEG rounds when it converts colours.
             const int rounding = file.endsWith(QStringLiteral("jpg")) ? 2 : 0;
             EXPECT_NEAR(ground.red(), qRed(form.ground), rounding);
             EXPECT_NEAR(ground.green(), qGreen(form.ground), rounding);

@@ -29,7 +29,7 @@ TEST(BoundingRect, takesEachAxisByItself)
 
 TEST(BoundingRect, isFoundInSinglePrecision)
 {
-    // 16777217 is the first whole number that single precision lacks.
+    // 16777217 is the first integer that single precision cannot represent.
     EXPECT_EQ(
         QVBoundingRect(std::array{Rect{0, 0, 16777217, 1}, Rect{0, 0, 1, 1}}).width, 16777216);
 }

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The display page: its lists, its actions, what it draws.
+// The display page: its lists, actions and drawing.
 
 #include "QVMonitorView.h"
 
@@ -55,7 +55,7 @@ protected:
         }
         return texts;
     }
-    /** Whether the view is painted after that, before a neighbour that is updated later. */
+    /** Whether the view is painted after the action, no later than a neighbour updated after it. */
     template <class Action>
     bool isDrawnAfter(const Action& action)
     {
@@ -75,7 +75,7 @@ protected:
             neighbour.update();
             return QTest::qWaitFor([&] { return paints.seen; }, kPatience);
         };
-        EXPECT_TRUE(isPainted()); // and with it all that was due already
+        EXPECT_TRUE(isPainted()); // and with it whatever was pending
         Paints paints;
         view().installEventFilter(&paints);
         action();
@@ -87,7 +87,7 @@ protected:
         view().setNeedsDisplay();
         return view().grab().toImage();
     }
-    /** Chooses as a person does, in the open list. */
+    /** Chooses an item in the open list, like a user. */
     static void choose(QComboBox& box, int item)
     {
         box.showPopup();
@@ -462,7 +462,7 @@ TEST_F(DisplayPage, tellsOnceThatDisplaysHaveChanged)
 TEST_F(DisplayPage, theMappedAreaFollowsTheDisplaysAlsoWhereNothingIsDrawn)
 {
     choose(list(), 2);
-    leave(); // else the pane would ask first
+    leave(); // otherwise the pane would ask first
     mEvents.answer(0);
     mPane.willSelect();
     mEvents.sent.clear();
@@ -542,7 +542,7 @@ TEST_F(DisplayPage, drawingFramesTheOneDisplay)
     const auto colorAt = [&](double x, double y) {
         return drawn.pixelColor(static_cast<int>(x * density), static_cast<int>(y * density));
     };
-    // Its miniature has 128 by 72 points; the name stands in its left half.
+    // Its miniature has 128 by 72 points; the name is in its left half.
     EXPECT_EQ(colorAt(340.5, 150.5), QColor(Qt::magenta));
     for (const QPointF& edge : {QPointF(230.5, 170.5), QPointF(357.5, 170.5), QPointF(300.5, 130.5),
              QPointF(300.5, 201.5)}) {
@@ -592,7 +592,7 @@ TEST_F(DisplayPage, aDisplaysNameEndsWhereItsMiniatureDoes)
         const auto at = [&](double x, double y) {
             return drawn.pixelColor(static_cast<int>(x * density), static_cast<int>(y * density));
         };
-        // Beside the second miniature there is nothing but the ground.
+        // Beside the second miniature is only the background.
         const double right = 230 + 128 + width / 15;
         const QColor ground = at(580, 10);
         for (double y = 131; y < 169; y += 1 / density) {
@@ -610,7 +610,7 @@ TEST_F(DisplayPage, aDisplaysNameEndsWhereItsMiniatureDoes)
 
 TEST_F(DisplayPage, aDisplaysWholeNameStandsInAMiniatureOfUsualSize)
 {
-    // From 1280 points on, the last sign of the name is in it: what is drawn differs by it.
+    // From 1280 points on, the last character of the name fits, so the picture differs.
     mDisplays.change({kFullHD, {1920, 0, 1280, 720}});
     qvTabletInfo.Monitor.num = 1;
     const QImage second = draw();
@@ -677,7 +677,7 @@ TEST_F(DisplayPage, theListsShowTheRecord)
     };
     expect(0, 220, 1, 1);
     expect(180, 180, 0, 0);
-    expect(90, 200, 0, 0); // others leave them as they are
+    expect(90, 200, 0, 0); // others leave them unchanged
     expect(0, 220, 1, 1);
     EXPECT_TRUE(pushes().empty());
 }
@@ -830,7 +830,7 @@ TEST_F(DisplayPage, itsPictureIsReadWhenItIsMade)
     made.setOutlets(&list, &speed, &mode);
     made.resize(600, 360);
     made.awakeFromNib();
-    ASSERT_TRUE(QFile::remove(copy)); // as an update of the package does
+    ASSERT_TRUE(QFile::remove(copy)); // like a package update
     const QPoint onPicture(500, 300);
     const QColor color = made.grab().toImage().pixelColor(onPicture);
     EXPECT_EQ(color, view().grab().toImage().pixelColor(onPicture));

@@ -22,7 +22,7 @@
 
 #include <functional>
 
-/** What of a view nothing in the panel reaches. */
+/** Access to members of a view that the panel does not use. */
 struct PressViewAccess {
     static auto& curve(const QVPressView& view) { return view.m_pt; }
     static auto& redraw(QVPressView& view) { return view.mRedraw; }
@@ -107,7 +107,7 @@ TEST_F(PressurePage, endsTheCurveBeforeTheUpperRightCorner)
     };
     EXPECT_NE(at(190.2, 190.2), QColor(Qt::lightGray));
     EXPECT_EQ(at(198.5, 196.0), QColor(Qt::lightGray));
-    // On the line on, where its last segment would be.
+    // On the extension of the line, where its last segment would be.
     EXPECT_NE(at(197.4, 197.4), QColor(Qt::lightGray));
     EXPECT_EQ(at(198.4, 198.4), QColor(Qt::lightGray));
 }
@@ -135,7 +135,7 @@ TEST_F(PressurePage, everyStepOfADragIsPushed)
     for (int step = 1; step <= 20; ++step) {
         dragMouse(slider(), middle + QPoint(2 * step, 0));
         thresholds.insert(qvTabletInfo.Pen.PressureThreshold);
-        view().grab(); // as on a screen, where the slider follows the record in between
+        view().grab(); // as on screen, where the slider follows the record meanwhile
     }
     QTest::mouseRelease(&slider(), Qt::LeftButton, {}, middle + QPoint(40, 0));
     EXPECT_GE(thresholds.size(), 18);
@@ -243,7 +243,7 @@ TEST_F(PressurePage, drawsALineAcrossForAsLongAsItIsSaidNotToBeRedrawn)
     EXPECT_EQ(PressViewAccess::first(view()), QPointF(0, 0));
     EXPECT_EQ(PressViewAccess::last(view()), QPointF(200, 200));
 
-    // The slider's action redraws again, and says where the line would go.
+    // The slider's action redraws again, and shows where the line would go.
     slider().setValue(505);
     EXPECT_EQ(+PressViewAccess::redraw(view()), 1);
     EXPECT_EQ(PressViewAccess::first(view()), QPointF(50.5, 0));

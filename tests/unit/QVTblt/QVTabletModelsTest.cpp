@@ -15,7 +15,7 @@ TEST(QVTabletModels, haveEachTheirOwnProductIDAndName)
     for (const QVTabletModel& model : kQVTabletModels) {
         EXPECT_TRUE(products.insert(model.productID).second) << model.name;
         EXPECT_TRUE(names.insert(model.name).second) << model.name;
-        // 0 is the driver's word for "no tablet".
+        // 0 means "no tablet" to the driver.
         EXPECT_NE(model.productID, 0);
         EXPECT_EQ(QVFindModel(model.productID), &model);
     }

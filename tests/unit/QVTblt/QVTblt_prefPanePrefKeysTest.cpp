@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The key page: every layout, every choice, every slot that a file may hold.
+// The key page: every layout, every choice, every slot that a file may contain.
 
 #include "OpenPanel.h"
 #include "PaneTest.h"
@@ -25,7 +25,7 @@ using platform::Rect;
 
 namespace {
 
-/** Gives paths without asking anybody. */
+/** Returns paths without a dialog. */
 class FakeOpenPanel final : public platform::OpenPanel {
 public:
     std::optional<QString> chooseApplication(QWidget* parent) override
@@ -42,7 +42,7 @@ private:
     platform::ServiceScope<platform::OpenPanel> mScope{*this};
 };
 
-// One product of each layout; of F, the one whose pen has one button and one of the others.
+// One product of each layout; for F, the one with a one-button pen and one of the others.
 constexpr std::uint16_t kProductA = 0x5118;
 constexpr std::uint16_t kProductB = 0x511E;
 constexpr std::uint16_t kProductC = 0x5107;
@@ -78,7 +78,7 @@ protected:
         ASSERT_TRUE(QVConfigStore().loadRecord(mHome.configFile(7).toStdString(), error));
         change(qvTabletInfo);
         ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString(), error));
-        // The panel never writes what the file says of the model.
+        // The panel never writes the model's own entries.
         QString config = QString::fromUtf8(readFile(mHome.configFile(7)));
         static const QRegularExpression kProduct(
             QStringLiteral("(<key>ProductID</key>\\s*<integer>)[^<]*"));
@@ -109,7 +109,9 @@ protected:
         }
         return outlet<QVKeyComboBox>(name(slot).c_str());
     }
-    /** Every label, check box and item has room for its text, at twice the text size too. */
+    /**
+     * Expects room for the text of every label, check box and item, even at twice the text size.
+     */
     void expectTextsFit()
     {
         auto& canvas = outlet<QWidget>("keyCanvas");
@@ -142,7 +144,7 @@ protected:
         return "mKey" + std::to_string(slot / 8 + 1) + '_' + std::to_string(slot % 8 + 1);
     }
 
-    /** The first n boxes stand at these distances below the first, with its x and size. */
+    /** Expects the first n boxes at these distances below the first, with its x and size. */
     void expectColumn(std::initializer_list<double> distances)
     {
         const Rect first = frame("mKey1_1");
@@ -154,7 +156,7 @@ protected:
             ++slot;
         }
     }
-    /** So many keys of the first bank are shown. */
+    /** Expects that many keys of the first bank. */
     void expectShown(int keys)
     {
         for (int slot = 0; slot < 16; ++slot) {
@@ -166,7 +168,7 @@ protected:
         EXPECT_TRUE(hidden("mKeyRScroll"));
     }
 
-    /** Chooses as a person does: opens the list, goes to the item, takes it. */
+    /** Chooses like a user: opens the list, goes to the item, selects it. */
     static void choose(QVKeyComboBox& box, int item)
     {
         box.setFocus();
@@ -385,7 +387,7 @@ TEST_F(KeyPage, layoutHDisablesAllKeys)
 
 TEST_F(KeyPage, everyKeyThatIsShownCanBeUsedInLayoutsAAndCToG)
 {
-    // Hidden boxes stay enabled too, but for those of layout E.
+    // Hidden boxes stay enabled, too, except those of layout E.
     for (const std::uint16_t product :
         {kProductA, kProductC, kProductD, kProductE, kProductFLite, kProductF, kProductG}) {
         showProduct(product);
@@ -518,7 +520,7 @@ TEST_F(KeyPage, nothingOverlapsOrLeavesThePageInAnyLayout)
 
 TEST_F(KeyPage, noLayoutIsLeftOverForTheNextModel)
 {
-    // What each control is like in every layout when it is the first.
+    // The state of each control in every layout when it is the first one shown.
     const auto state = [this] {
         QStringList lines{QString::number(outlet<QWidget>("mMonitorSpeed").isEnabled())};
         for (const QWidget* const control :
@@ -914,7 +916,7 @@ TEST_F(KeyPage, okWithoutAKeyIsLikeCancel)
 TEST_F(KeyPage, aHostThatClosesThePanelUnderTheDialogDoesNoHarm)
 {
     show();
-    // The window goes; the pane stays, as in a host that shows it in another window later.
+    // The window is destroyed; the pane stays, as in a host that shows it in another window later.
     chooseKeys(box(2), [this](QVKeySetClass& dialog) {
         dialog.close();
         QTimer::singleShot(0, qApp, [this] { mWindow.reset(); });
@@ -1044,7 +1046,7 @@ TEST_F(KeyPage, servesAMainViewThatIsMadeAnew)
     showProduct(kProductC);
     EXPECT_EQ(frame("mKey1_1"), (Rect{mFirst.x + 5, mFirst.y - 65, mFirst.width, mFirst.height}));
     leave();
-    showProduct(kProductA); // which brings everything back to the interface file's state
+    showProduct(kProductA); // restores the interface file's state
     EXPECT_EQ(frame("mKey1_1"), mFirst);
     mEvents.sent.clear();
     chooseKeys(box(2), [](QVKeySetClass& dialog) { click(dialog, {"keyB", "okBtn"}); });

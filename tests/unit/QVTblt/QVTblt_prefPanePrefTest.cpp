@@ -128,7 +128,7 @@ TEST_F(Pane, movesTheLabelFurtherAtEachShowingWithoutATablet)
 
 TEST_F(Pane, widensTheLabelFivefoldBeforeItIsMadeToFit)
 {
-    /** Takes down the widths that a widget is given. */
+    /** Records the widths of a widget. */
     class Widths final : public QObject {
     public:
         bool eventFilter(QObject* watched, QEvent* event) override
@@ -147,7 +147,7 @@ TEST_F(Pane, widensTheLabelFivefoldBeforeItIsMadeToFit)
     const int fitted = label.width();
     Widths widths;
     label.installEventFilter(&widths);
-    mWindow->show(); // what is out of sight is told its last size alone
+    mWindow->show(); // a hidden widget gets only its last size
     mPane.willSelect();
     EXPECT_EQ(widths.widths, (std::vector{5 * fitted, fitted}));
 }

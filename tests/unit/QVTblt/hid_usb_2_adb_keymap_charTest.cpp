@@ -121,7 +121,7 @@ TEST(KeyText, theFourthByteIsNeverACode)
 
 TEST(KeyText, aCountBelowTheCodesStillShowsThem)
 {
-    // Only a zero byte is asked about the count.
+    // The count matters only for a zero byte.
     EXPECT_EQ(QVKeyCombinationText(0x01060606), u"Z  Z  Z");
 }
 

@@ -14,7 +14,7 @@ namespace {
 
 class Query : public testing::Test {
 protected:
-    /** Sets the name that a former answer would have left. */
+    /** Sets the name as a previous answer would have. */
     void SetUp() override { std::strcpy(GetPListName(), "former.plist"); }
     void TearDown() override { pListname = {}; }
 

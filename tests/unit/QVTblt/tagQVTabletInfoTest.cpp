@@ -9,8 +9,8 @@
 #include <set>
 #include <string>
 
-// The compiler holds the offsets by assertions in the header. These tests hold what it cannot: that
-// the table of fields covers the record, and how the bytes lie in memory.
+// Assertions in the header check the offsets. These tests check the rest: that the table of fields
+// covers the record, and the byte order in memory.
 
 namespace {
 

@@ -26,7 +26,7 @@ protected:
         return mHome.path() + QStringLiteral("/.local/state/tdsg-driver/state.json");
     }
 
-    /** What is read of a file with these three values. */
+    /** Loads a file with these three values. */
     std::optional<DriverState> load(
         const QByteArray& attached, const QByteArray& record, const QByteArray& pushes) const
     {
@@ -79,7 +79,7 @@ TEST_F(DriverStateFile, isNoneWithARecordThatIsNotWhole)
     EXPECT_FALSE(load("0", quotedRecord(1), "0"));
     EXPECT_FALSE(load("0", "5", "0"));
     EXPECT_FALSE(load("0", "null", "0"));
-    // One digit of the 6772 is none.
+    // One of the 6772 digits is invalid.
     QByteArray spoiled = quotedRecord(kQVRecordSize);
     spoiled[100] = '!';
     EXPECT_FALSE(load("0", spoiled, "0"));

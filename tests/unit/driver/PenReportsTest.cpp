@@ -10,7 +10,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/** Takes what there is to report, at most so many. */
+/** Takes all reports, up to a maximum. */
 std::vector<QVPenReport> take(PenReports& reports, std::size_t most = 100)
 {
     std::vector<QVPenReport> taken;
@@ -30,7 +30,7 @@ constexpr QVPenReport up(std::uint16_t x, std::uint16_t y)
     return {0, x, y, 0};
 }
 
-/** How many reports are sent within a time by a timer that fires when it is asked to, or later. */
+/** How many reports are sent within a time by a timer that fires on time or late. */
 int countSent(std::uint32_t rate, ReportClock::Time time, ReportClock::Time late)
 {
     ReportClock clock;
@@ -141,7 +141,7 @@ TEST(ReportClock, keepsEveryRate)
 TEST(ReportClock, keepsTheRateWhereTheTimerIsLate)
 {
     for (const std::uint32_t rate : {1U, 60U, 133U, 999U, 1000U}) {
-        // The last firing may have come so late that its reports are missing.
+        // The last timer event may have been so late that its reports are missing.
         EXPECT_NEAR(countSent(rate, 100s, 7ms), rate * 100.0, 1.0 + rate * 0.009) << rate;
     }
 }
@@ -168,7 +168,7 @@ TEST(ReportClock, doesNotMakeUpForTheTimeWithoutReports)
     EXPECT_EQ(clock.wait(500ms), 0ns);
     clock.sent(500ms);
     EXPECT_EQ(clock.wait(500ms), 10ms);
-    // Nor may a rest that is too short for a report bring one forward.
+    // Nor may a short pause bring a report forward.
     clock.begin(504ms);
     EXPECT_EQ(clock.wait(504ms), 6ms);
 }

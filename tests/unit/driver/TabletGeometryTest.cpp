@@ -99,6 +99,6 @@ TEST(TabletGeometry, anAreaIsShownAsFarAsItLiesOnTheSurface)
     EXPECT_EQ(areaRect({6000, 11000, 3000, 5500}, kSurface, kRange), QRectF(60, 45, 50, 25));
     EXPECT_EQ(areaRect({0, 65535, 0, 65535}, kSurface, kRange), kSurface);
     EXPECT_TRUE(areaRect({30000, 40000, 3000, 5500}, kSurface, kRange).isEmpty());
-    // High edges that have lost their upper bits may lie before the low ones.
+    // Truncated high edges may be less than the low ones.
     EXPECT_TRUE(areaRect({11000, 6000, 5500, 3000}, kSurface, kRange).isEmpty());
 }

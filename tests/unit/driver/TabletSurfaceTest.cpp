@@ -38,7 +38,7 @@ protected:
         mTold.push_back(std::string(what) + ' ' + std::to_string(x) + ' ' + std::to_string(y));
     }
 
-    /** The mouse moves with its button pressed; QTest moves it within the widget alone. */
+    /** Moves the mouse with its button pressed; QTest only moves it within the widget. */
     void drag(const QPoint& to)
     {
         QMouseEvent event(QEvent::MouseMove, QPointF(to), QPointF(mSurface.mapToGlobal(to)),
@@ -46,7 +46,7 @@ protected:
         QCoreApplication::sendEvent(&mSurface, &event);
     }
 
-    /** What was told since the last time. */
+    /** The signals since the last call. */
     std::vector<std::string> told() { return std::exchange(mTold, {}); }
 
     void expectPen(int x, int y)

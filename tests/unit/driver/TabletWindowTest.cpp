@@ -24,7 +24,7 @@
 
 namespace {
 
-/** What a window manager puts around a window, with its title in letters of 18 points. */
+/** The frame of a window, with a title of 18 points. */
 constexpr QSize kFrame{16, 46};
 
 /** A tablet's window with a driver of its own. */
@@ -80,7 +80,7 @@ tagQVTabletInfo longSettings(std::uint16_t productID)
     return settings;
 }
 
-/** What of the window does not have the room that it needs; empty when everything has. */
+/** Names a widget of the window without enough room; empty if there is none. */
 QString lacksRoom(const QWidget& window)
 {
     for (const QWidget* const child : window.findChildren<QWidget*>()) {
@@ -184,7 +184,7 @@ TEST_F(TabletWindowTest, aPathThatIsTooLongKeepsItsBeginningAndItsEnd)
     EXPECT_TRUE((*told)->text().startsWith(QLatin1String("Key 1: Open /opt/")));
     EXPECT_TRUE((*told)->text().endsWith(QLatin1String("/krita.AppImage")));
     EXPECT_LE((*told)->fontMetrics().horizontalAdvance((*told)->text()), (*told)->width());
-    // With room for it, it is whole again.
+    // With enough room, all of it is shown again.
     window.resize(4000, 500);
     QCoreApplication::sendPostedEvents();
     EXPECT_EQ((*told)->text(), whole);

@@ -32,7 +32,7 @@ protected:
 
     QStringList calls() { return mLife.take(); }
 
-    /** Lets the host's event loop come to rest. */
+    /** Runs the host's event loop until it is idle. */
     static void settle() { QCoreApplication::processEvents(); }
 
     void show()
@@ -119,7 +119,7 @@ TEST_F(Area, staysWhenTheWindowIsMinimised)
     QHideEvent hide;
     QSpontaneKeyEvent::setSpontaneous(&hide);
     ASSERT_TRUE(hide.spontaneous());
-    mArea->setAttribute(Qt::WA_WState_Visible, false); // as it is while it is minimised
+    mArea->setAttribute(Qt::WA_WState_Visible, false); // as when it is minimised
     qApp->notify(mArea, &hide);
     settle();
     EXPECT_EQ(calls(), QStringList());
@@ -142,7 +142,7 @@ TEST_F(Area, saysAgainThatThereAreChangesAfterASaveThatFailed)
     mLife.canSave = false;
     mPane->edit();
     mArea->apply();
-    mTold.reset(); // by now, the host believes that there are none
+    mTold.reset(); // by now, the host assumes that there are none
     settle();
     EXPECT_EQ(mTold, true);
 }
@@ -195,7 +195,7 @@ TEST_F(Area, asksWhetherToTryAgainWhenChangesCannotBeSavedOnceItIsOutOfSight)
     mWindow->hide();
     const AlertAnswer first("Retry");
     QTimer::singleShot(0, &first, [&] {
-        // Now that the user has made room:
+        // The user frees space:
         mLife.canSave = true;
     });
     settle();

@@ -49,13 +49,13 @@ protected:
         mLife.take();
     }
 
-    /** What the line says; empty while there is none. */
+    /** The text of the line; empty if there is none. */
     QString notice()
     {
         const auto* const label = mShell->findChild<platform::NoticeLabel*>();
         return label == nullptr || !label->isVisible() ? QString() : label->text();
     }
-    /** The button that is shown with that text; null where there is none. */
+    /** The visible button with that text; null if there is none. */
     QPushButton* button(const char* text)
     {
         const auto buttons = mShell->findChildren<QPushButton*>();
@@ -201,7 +201,7 @@ TEST_P(Shell, loadsWhatCouldNotBeLoadedBeforeItSavesOnLeaving)
 {
     mLife.canLoad = false;
     show();
-    mLife.canLoad = true; // the file has been mended meanwhile
+    mLife.canLoad = true; // the file was repaired meanwhile
     EXPECT_EQ(mShell->willUnselect(), QString());
     EXPECT_EQ(mLife.take(), calls({"did unselect"}) + kComing + calls({"will unselect"}));
 }

@@ -54,7 +54,7 @@ TEST(BusName, hasLettersDigitsAndTwoMarks)
         EXPECT_EQ(wire::busName(code),
             QStringLiteral("org.quorvia.AppleEvents.") + QString::fromLatin1(plain));
     }
-    // The neighbours of those that are plain, and a letter that no ASCII is.
+    // The neighbours of the plain characters, and one outside ASCII.
     for (const int other : {int{'`'}, int{'{'}, int{'@'}, int{'['}, int{'/'}, int{':'}, 0xE9}) {
         EXPECT_EQ(wire::busName(0x61626300U | static_cast<unsigned>(other)),
             QStringLiteral("org.quorvia.AppleEvents._x616263%1").arg(other, 2, 16));

@@ -68,7 +68,7 @@ TEST_F(BundleFolder, takesTheStringInTheUsersBestLanguage)
 
 TEST_F(BundleFolder, followsTheOrderOfTheUsersPreferences)
 {
-    // Qt reads the preferences once in a process, so this needs a new one.
+    // Qt reads the preferences once per process, so this needs a new one.
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     qputenv("LC_ALL", "");
     qputenv("LANG", "en_US.UTF-8");

@@ -17,7 +17,7 @@
 
 namespace {
 
-/** Somebody who wants to know of changes, and what was told. */
+/** Records the notifications of changes. */
 struct Listener {
     Listener() { EXPECT_TRUE(platform::displays().registerReconfigurationCallback(&note, this)); }
     ~Listener() { stop(); }
@@ -42,7 +42,7 @@ struct Listener {
 constexpr std::uint32_t kBegin = platform::kDisplayBeginConfiguration;
 constexpr std::uint32_t kEnd = platform::kDisplaySetMode;
 
-/** Has Qt tell of a change, as it does for the window system. */
+/** Makes Qt report a change, as it does for the window system. */
 void changeScreen()
 {
     QScreen* const screen = QGuiApplication::primaryScreen();

@@ -21,7 +21,7 @@
 
 namespace {
 
-/** The open panel's answer when a person picks the file, or none, in its window. */
+/** Picks the file, or none, in the open panel's window, and returns the answer. */
 std::optional<QString> choose(const QString& file)
 {
     QTimer::singleShot(0, qApp, [file] {
@@ -80,7 +80,7 @@ TEST_F(OpenPanel, asksAgainForWhatIsNoApplication)
     const QString file = mHome.path() + QStringLiteral("/draw.AppImage");
     writeFile(tool, "#!/bin/sh\n");
     writeFile(file, "");
-    // The message comes in its own time. Whatever is shown then is answered, so that nothing waits.
+    // The message comes later. Answer whatever is shown then, so that nothing waits.
     int told = 0;
     QTimer answer;
     QObject::connect(&answer, &QTimer::timeout, qApp, [&] {
@@ -123,14 +123,14 @@ TEST_F(OpenPanel, asksForNothingMoreWhenItsMessageIsClosedFromOutside)
 
 namespace {
 
-/** A bundle in a folder; gives its path. */
+/** Creates a bundle in a folder, and returns its path. */
 QString makeBundle(const QString& folder, const QString& name)
 {
     EXPECT_TRUE(QDir(folder).mkpath(name + QStringLiteral("/Contents")));
     return QFileInfo(folder + QLatin1Char('/') + name).canonicalFilePath();
 }
 
-/** The place of a file in the list of the dialog, once the dialog has read its folder. */
+/** Waits until the dialog has read its folder, and returns the index of a file in its list. */
 QModelIndex placeOf(QFileDialog& dialog, const QString& name)
 {
     auto* const list = dialog.findChild<QListView*>(QStringLiteral("listView"));
@@ -151,7 +151,7 @@ QModelIndex placeOf(QFileDialog& dialog, const QString& name)
     return place;
 }
 
-/** What the open panel gives when a person does something in its window. */
+/** Acts in the open panel's window, and returns the answer. */
 template <class Act>
 std::optional<QString> chooseBy(const Act& act)
 {
@@ -163,7 +163,7 @@ std::optional<QString> chooseBy(const Act& act)
     return platform::openPanel().chooseApplication(nullptr);
 }
 
-/** Types a name and presses Return, as a person does. */
+/** Types a name and presses Return. */
 void typeName(QFileDialog& dialog, const QString& name)
 {
     auto* const line = dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
@@ -222,7 +222,7 @@ TEST_F(OpenPanel, opensAnyOtherFolderAndChoosesNone)
 
 TEST_F(OpenPanel, asksAgainForAFolderThatIsNoBundle)
 {
-    // As a desktop's own dialog may give one.
+    // As a desktop's own dialog may return it.
     const QString folder = makeBundle(mHome.path(), QStringLiteral("tools.desktop"));
     int told = 0;
     QTimer answer;

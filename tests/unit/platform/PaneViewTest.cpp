@@ -33,7 +33,7 @@ protected:
     }
 };
 
-/** Two points wide and high, at two pixels to the point; each point in a colour of its own. */
+/** Two by two points, at two pixels per point; each point has a different colour. */
 QImage fourColours()
 {
     QImage image(4, 4, QImage::Format_RGB32);
@@ -47,7 +47,7 @@ QImage fourColours()
     return image;
 }
 
-/** What the image gives when drawn on a white canvas of ten points, y growing upwards. */
+/** Draws the image on a white canvas of ten points, with y growing upwards. */
 QImage drawn(const Rect& target, const Rect& source)
 {
     QImage canvas(10, 10, QImage::Format_RGB32);

@@ -24,7 +24,7 @@ constexpr std::uint32_t kStrokeMask = eventMask(EventType::LeftMouseUp)
     | eventMask(EventType::LeftMouseDragged) | eventMask(EventType::TabletPoint)
     | eventMask(EventType::TabletProximity);
 
-/** Writes down what it is told. With tracksStrokes, takes the events of a stroke itself. */
+/** Records its events. With tracksStrokes, takes the events of a stroke itself. */
 class Witness final : public PenView {
 public:
     Witness() { setAcceptsMouseMovedEvents(true); }
@@ -32,7 +32,7 @@ public:
     std::vector<std::string> log;
     std::vector<Event> events;
     bool tracksStrokes = false;
-    int wakes = 0; ///< how often it was told that there is something to take
+    int wakes = 0; ///< number of notifications of waiting events
 
     void mouseDown(const Event& event) override
     {
@@ -69,7 +69,7 @@ private:
     }
 };
 
-/** Writes down what comes and goes. */
+/** Records proximity events. */
 class Reach final : public QWidget, public ProximityResponder {
 public:
     Reach()

@@ -17,7 +17,7 @@ class Canvas : public testing::Test {
 protected:
     Canvas()
     {
-        // A text that is smaller than usual, whatever this machine's fonts are.
+        // Smaller text than usual, whatever this machine's fonts are.
         setTextHeight(10);
         mCanvas.setMinimumSize(400, 300);
         mChild.setGeometry(10, 20, 100, 30);

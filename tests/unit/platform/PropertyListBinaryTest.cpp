@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The binary form: what is taken, what is refused and why.
+// The binary form: what is accepted, what is rejected and why.
 
 #include "PropertyList.h"
 
@@ -18,7 +18,7 @@ using namespace platform;
 
 namespace {
 
-/** Why the bytes are no list of any root; empty when they are. */
+/** The error for the bytes, with any root; empty if they are a list. */
 std::string errorOfBinary(const std::string& bytes)
 {
     PropertyListError error;
@@ -73,14 +73,14 @@ private:
 
 const std::string kTrue = "\x09";
 
-/** A binary list of one object, which stands behind the table: its end is that of all objects. */
+/** A binary list of one object after the offset table: its end is that of all objects. */
 std::string lastObject(const std::string& bytes)
 {
     return "bplist00\x09" + bytes + std::string(6, '\0') + "\x01\x01" + Binary::number(1, 8)
         + Binary::number(0, 8) + Binary::number(8, 8);
 }
 
-/** A list with an empty dictionary, whose offset and reference have these many bytes. */
+/** A list with an empty dictionary, with an offset and a reference of these sizes. */
 std::string withWidths(int offset, int reference)
 {
     const auto leading = static_cast<std::size_t>(std::max(offset - 8, 0));
@@ -116,7 +116,7 @@ TEST(PropertyListBinary, refusesABinaryListThatHoldsItself)
 
 TEST(PropertyListBinary, countsTheDepthOfABinaryListAlsoThroughSharedParts)
 {
-    // A chain as deep as allowed, then one more container around it that is met after the chain.
+    // A chain of the maximum depth, then one more container around it, read after the chain.
     Binary list;
     std::size_t chain = list.add(kTrue);
     for (int i = 0; i < kPropertyListMaxDepth - 1; ++i) {
@@ -292,7 +292,7 @@ TEST(PropertyListBinary, longContainersCountWithAnIntegerObject)
 
 TEST(PropertyListBinary, aContainersReferencesOfTwoBytesHaveToFit)
 {
-    // Two parts of an array, a key and a value of a dictionary; both end at the trailer.
+    // Two items of an array, or a key and a value; both end at the trailer.
     const auto error = [](char marker, std::size_t bytes) {
         return errorOfBinary("bplist00\x09" + (marker + std::string(bytes, '\0'))
             + std::string(6, '\0') + "\x01\x02" + Binary::number(1, 8) + Binary::number(0, 8)
@@ -345,7 +345,7 @@ TEST(PropertyListBinary, aTextThatIsSharedCountsForEachThatSharesIt)
 
 namespace {
 
-/** The XML of a list's only entry, k; what is wrong with the list instead. */
+/** The XML of a list's only entry, k; or the error. */
 std::string xmlOf(const std::string& object)
 {
     Binary list;

@@ -40,7 +40,7 @@ PropertyList parsed(const QByteArray& entries)
     return list ? std::move(*list) : PropertyList();
 }
 
-/** Why a file with these bytes cannot be loaded. */
+/** The error for a file with these bytes. */
 std::string loadError(const QByteArray& bytes)
 {
     const TemporaryHome home;
@@ -74,7 +74,7 @@ std::string toBinary(const QByteArray& xml)
     return binary;
 }
 
-/** Why a program's name, which ends with a NUL, is no list: it is a regular file of no size. */
+/** The error for a process's cmdline: a regular file of size 0 whose text ends with a NUL. */
 std::string errorOfName(const QString& name)
 {
     QProcess process;
@@ -207,7 +207,7 @@ TEST(PropertyList, realsSurviveALocaleWithADecimalComma)
         std::string before = std::setlocale(LC_ALL, nullptr);
         ~Locale() { std::setlocale(LC_ALL, before.c_str()); }
     } const locale;
-    // The test would pass with a wrong program where no such locale is there.
+    // Without this locale, the test would pass even if the program were wrong.
     ASSERT_NE(std::setlocale(LC_ALL, "de_DE.UTF-8"), nullptr)
         << "the locale de_DE.UTF-8 is missing on this machine";
     const PropertyList list = parsed("<key>r</key><real>2.75</real>");
@@ -371,7 +371,7 @@ TEST(PropertyList, savingThroughALinkChangesWhatItLeadsTo)
 
 namespace {
 
-/** A file that is loaded, given an entry more, and saved. */
+/** Loads a file, adds an entry, and saves it. */
 class Saved {
 public:
     explicit Saved(const QByteArray& bytes)
@@ -392,7 +392,7 @@ public:
     bool isAsBefore() const { return mIsAsBefore; }
     const std::string& why() const { return mWhy; }
 
-    /** What another program prints of the file; what it complains of instead. */
+    /** Another program's output for the file, or its error. */
     std::string printedBy(const QString& program, const QStringList& arguments) const
     {
         QProcess process;
@@ -402,7 +402,7 @@ public:
         return process.readAll().trimmed().toStdString();
     }
 
-    /** An expression of the list p, as Python's plistlib reads it. */
+    /** Evaluates an expression on the list p, as read by Python's plistlib. */
     std::string inPython(const char* expression) const
     {
         const QString program = QStringLiteral("import plistlib, sys\n"
@@ -495,7 +495,7 @@ TEST(PropertyList, aFractionOfASecondInTheBinaryFormIsReadButNotSaved)
 {
     const std::string bytes =
         toBinary(plist("<dict><key>k</key><date>2026-11-22T02:46:00Z</date></dict>"));
-    const std::string whole("\x33\x41\xC8\x59\x47\x74\0\0\0", 9); // its seconds, a double
+    const std::string whole("\x33\x41\xC8\x59\x47\x74\0\0\0", 9); // a date in seconds, as a double
     ASSERT_NE(bytes.find(whole), std::string::npos);
     QByteArray fraction = QByteArray::fromStdString(bytes);
     fraction[static_cast<int>(bytes.find(whole)) + 6] = '\1';
@@ -550,7 +550,7 @@ TEST(PropertyList, aPipeIsReadWhereThatIsAskedFor)
 {
     std::array<int, 2> pipe{};
     ASSERT_EQ(::pipe(pipe.data()), 0);
-    const QByteArray config = sampleConfig(); // less than a pipe holds
+    const QByteArray config = sampleConfig(); // fits into a pipe's buffer
     ASSERT_EQ(::write(pipe[1], config.constData(), static_cast<std::size_t>(config.size())),
         config.size());
     ::close(pipe[1]);
@@ -629,7 +629,7 @@ TEST(PropertyList, aListOfTheGreatestSizeIsTakenAndNoLargerOne)
 
 TEST(PropertyList, aFileThatIsLongerThanItSaysIsReadWhole)
 {
-    // Only somebody who has read it whole knows of the NUL behind the last line.
+    // Only reading to the end finds the NUL after the last line.
     const std::string error = errorOfName(QString::fromUtf8(sampleConfig()));
     EXPECT_NE(error.find("(line 3)"), std::string::npos) << error;
 }
@@ -667,7 +667,7 @@ TEST(PropertyList, readsAndClosesAFileThatIsItsFirstDescriptor)
 
 TEST(PropertyList, saysWhyAFileThatOpensCannotBeRead)
 {
-    // A regular file, by what the system says of it; at its beginning no memory lies.
+    // A regular file according to stat(), but its beginning cannot be read.
     const std::string path = "/proc/self/mem";
     PropertyListError error;
     EXPECT_FALSE(PropertyList::load(path, error));
@@ -687,7 +687,7 @@ TEST(PropertyList, keepsNoMemoryOfAListThatHasGone)
     };
     constexpr std::size_t kTimes = 100;
     for (std::size_t i = 0; i < kTimes; ++i) {
-        EXPECT_GT(readOne(), 0U); // what the first ones have made may stay, as the heap's caches
+        EXPECT_GT(readOne(), 0U); // the first ones may leave caches in the heap
     }
     const std::size_t before = mallinfo2().uordblks;
     for (std::size_t i = 0; i < kTimes; ++i) {
@@ -703,7 +703,7 @@ TEST(PropertyList, anInterruptionOfSomethingBeforeIsNone)
     writeFile(path, sampleConfig());
     const std::string name = path.toStdString();
     PropertyListError error;
-    errno = EINTR; // what succeeds leaves it so
+    errno = EINTR; // must stay after a success
     EXPECT_TRUE(PropertyList::load(name, error)) << error.message;
 }
 

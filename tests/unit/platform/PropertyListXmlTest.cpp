@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The XML form: what is taken, what is refused and why.
+// The XML form: what is accepted, what is rejected and why.
 
 #include "PropertyList.h"
 #include "SampleConfig.h"
@@ -17,7 +17,7 @@ using namespace platform;
 
 namespace {
 
-/** Why the bytes are no list of any root; empty when they are. */
+/** The error for the bytes, with any root; empty if they are a list. */
 std::string errorOfBytes(const std::string& bytes)
 {
     PropertyListError error;
@@ -53,7 +53,7 @@ std::string nested(int depth)
     return text;
 }
 
-/** The string k of a list; what is wrong with the list, where it has none. */
+/** The string k of a list; or the error. */
 std::string stringIn(const std::string& bytes)
 {
     PropertyListError error;
@@ -61,7 +61,7 @@ std::string stringIn(const std::string& bytes)
     return list ? std::string(list->root().string("k").value_or("no string")) : error.message;
 }
 
-/** Text in UTF-16, its mark first where there is one. */
+/** Text in UTF-16, optionally with a byte-order mark. */
 std::string utf16(const QString& text, bool isBigEndian, bool hasMark)
 {
     std::string bytes;
@@ -79,7 +79,7 @@ std::string utf16(const QString& text, bool isBigEndian, bool hasMark)
 
 TEST(PropertyListXml, quotesWhatItRefusesInOneLineOfPlainText)
 {
-    // As it stands in a log and on the panel, whatever the file may hold.
+    // As shown in a log and on the panel, whatever the file contains.
     EXPECT_EQ(errorOf("<a\xc3\xa9>"), "unknown tag 'a?\?'");
     EXPECT_EQ(errorOfEntry("<integer>~\x7F</integer>"), "'~?' is no integer of 64 bits");
     EXPECT_EQ(errorOf("<abcdefghijklmnopqrstuvwxyz0123456789>"),

@@ -12,7 +12,7 @@ using platform::TabPage;
 
 namespace {
 
-/** Counts how often it was asked for its size. */
+/** Counts the requests for its size. */
 class Content final : public QLabel {
 public:
     explicit Content(QWidget* parent)

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The panel in each of its languages: every text has its room, its glyphs and a letter of its own
-// on the keyboard. And in a language that is written from right to left.
+// The panel in each of its languages: every text has enough room, its glyphs and a unique mnemonic.
+// Also in a right-to-left language.
 
 #include "Accessible.h"
 #include "Geometry.h"
@@ -38,14 +38,14 @@ constexpr int kUsualText = 13; ///< pixels: ten points at 96 dots to the inch
 constexpr int kLargeText = 16; ///< a quarter more
 constexpr double kHintRoom = 1000; ///< the calibration's hint begins 500 before the middle
 
-/** The text without its marks for the keyboard, as it is drawn. */
+/** The text as drawn, without mnemonic marks. */
 QString drawn(const QString& text)
 {
     static const QRegularExpression kMark(QStringLiteral("&(.)"));
     return QString(text).replace(kMark, QStringLiteral("\\1"));
 }
 
-/** The user's language and text size, in pixels, of the widgets that are made from here on. */
+/** Sets the user's language and text size, in pixels, for widgets created from here on. */
 class UserSettings {
 public:
     UserSettings(const QString& language, int textSize)
@@ -64,14 +64,14 @@ public:
     UserSettings& operator=(const UserSettings&) = delete;
 };
 
-/** The panel in a language, shown as by its own window: in an area that scrolls. */
+/** The panel in a language, in a scroll area as in its own window. */
 class LanguagePane : private UserSettings, public PaneTest {
 protected:
     explicit LanguagePane(const QString& language, int textSize = kUsualText)
         : UserSettings(language, textSize)
     {
     }
-    ~LanguagePane() override { static_cast<void>(mWindow.release()); } // it is the area's
+    ~LanguagePane() override { static_cast<void>(mWindow.release()); } // the area owns it
 
     void SetUp() override
     {
@@ -112,7 +112,7 @@ protected:
     }
     static void post(QLatin1String name) { platform::notifications().post({name, nullptr, {}}); }
 
-    /** Calls the function at every page, in the view's usual size and in smaller ones. */
+    /** Calls the function on every page, at the view's usual size and at smaller ones. */
     void atEveryPage(const std::function<void()>& look)
     {
         for (const QSize size : {mArea.size(), mInterfaceFile, QSize(200, 200)}) {
@@ -132,7 +132,7 @@ protected:
 
     QVKeySetClass& keyDialog() { return *mWindow->window()->findChild<QVKeySetClass*>(); }
 
-    QSize mInterfaceFile; ///< the main view's size there
+    QSize mInterfaceFile; ///< the main view's size in the interface file
     QScrollArea mArea;
 };
 
@@ -151,7 +151,7 @@ std::vector<Widget*> visible(const QWidget& window)
     return widgets;
 }
 
-/** All texts on screen, with their marks for the keyboard; of lists, every item. */
+/** All texts on screen, with mnemonic marks, including every item of lists. */
 QStringList textsOf(const QWidget& window)
 {
     QStringList texts;
@@ -183,7 +183,7 @@ QStringList textsOf(const QWidget& window)
 
 // Whether it fits ---------------------------------------------------------------------------------
 
-/** Says of a text that needs more room than it has, which one it is. */
+/** Fails with the text if it needs more room than it has. */
 void expectRoom(const QWidget& widget, const QString& text, QSize needed, QSize room)
 {
     EXPECT_LE(needed.width(), room.width())
@@ -192,7 +192,7 @@ void expectRoom(const QWidget& widget, const QString& text, QSize needed, QSize 
         << qPrintable(widget.objectName()) << ": " << qPrintable(text);
 }
 
-/** Of one line; the height is that of all fonts that it takes. */
+/** Size of one line; the height covers all fonts that it uses. */
 QSize sizeOf(const QWidget& widget, const QString& text)
 {
     return widget.fontMetrics().size(Qt::TextShowMnemonic, text);
@@ -219,7 +219,8 @@ void expectFits(const QComboBox& list)
         QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list);
     constexpr int kMargins = 4;
     for (int item = 0; item < list.count(); ++item) {
-        // The field is as high as the usual font; of others the ink counts, not their distance.
+        // The field is as high as the usual font; for other fonts, the ink counts, not the line
+        // height.
         const QString text = list.itemText(item);
         expectRoom(list, text,
             {sizeOf(list, text).width() + kMargins,
@@ -282,7 +283,7 @@ void expectAllFits(const QWidget& window)
     EXPECT_GT(count, 1);
 }
 
-/** No text needs a character that no font has. */
+/** Expects a glyph for every character. */
 void expectGlyphs(const QString& text)
 {
     QTextLayout layout(drawn(text), QApplication::font());
@@ -306,7 +307,7 @@ void expectGlyphs(const QStringList& texts)
 
 // The keyboard's letters --------------------------------------------------------------------------
 
-/** The letter that a text is reached with; nothing without one. */
+/** The mnemonic of a text; empty without one. */
 QString mnemonicOf(const QString& text)
 {
     static const QRegularExpression kMark(QStringLiteral("(?<!&)&([^&])"));
@@ -390,7 +391,7 @@ TEST_P(Language, showsTheWholeDisplayPageInTheRoomThatSystemSettingsLeaves)
     EXPECT_EQ(hiddenBy(mArea), std::pair(0, 0));
     EXPECT_EQ(hiddenBy(picture), std::pair(0, 0));
     EXPECT_GE(picture.viewport()->height(), outlet<QWidget>("mMonitorView").height());
-    // Where there is less room, the picture alone scrolls.
+    // With less room, only the picture scrolls.
     mArea.resize(659, 440);
     settle();
     EXPECT_EQ(hiddenBy(mArea), std::pair(0, 0));
@@ -444,7 +445,7 @@ TEST_P(Language, hasRoomForWhatGoesWrong)
             expectAllFits(shell);
             expectGlyphs(textsOf(shell));
             texts.append(shell.findChild<platform::NoticeLabel*>()->text());
-            // Together with the letters of each page around it.
+            // Together with the mnemonics around each page.
             for (int page = 0; page < tabs.count(); ++page) {
                 tabs.setCurrentIndex(page);
                 expectMnemonicsDiffer(textsOf(*mWindow) + textsOf(shell), 4);
@@ -515,7 +516,7 @@ TEST_P(Language, reachesNoTwoControlsOfAPageWithTheSameLetter)
 
 namespace {
 
-/** In which what is not translated stands out. */
+/** A language in which untranslated texts stand out. */
 class LanguageWithLettersOfItsOwn : public LanguagePane,
                                     public testing::WithParamInterface<std::string> {
 protected:
@@ -563,7 +564,7 @@ protected:
     {
     }
 
-    /** Where the named controls of what is shown are in it. */
+    /** The rectangles of the named visible controls. */
     static QHash<QString, QRect> places(const QWidget& window)
     {
         QHash<QString, QRect> found;
@@ -600,7 +601,7 @@ TEST_F(RightToLeft, mirrorsThePlacesOfAllControls)
         EXPECT_GT(before.size(), 12);
         EXPECT_EQ(before.size(), after.size());
         for (auto place = before.cbegin(); place != before.cend(); ++place) {
-            // What has an odd number of pixels to share may give one of them to the other side.
+            // An odd number of pixels may be split differently.
             const QRect wanted = mirrored(place.value(), mWindow->width());
             const QRect is = after.value(place.key());
             EXPECT_LE(std::abs(wanted.x() - is.x()), 1) << qPrintable(place.key());
@@ -624,7 +625,7 @@ TEST_F(RightToLeft, isMirroredFromTheBeginningToo)
 
 TEST_F(RightToLeft, drawsWhatIsAPictureOfSomethingAsItIs)
 {
-    setProduct(0x5101); // of which there is a picture
+    setProduct(0x5101); // has a picture
     show();
     const auto pictures = [this] {
         QHash<QString, QImage> taken;
@@ -640,7 +641,7 @@ TEST_F(RightToLeft, drawsWhatIsAPictureOfSomethingAsItIs)
     };
     const QHash<QString, QImage> before = pictures();
     EXPECT_EQ(before.size(), 4);
-    // Each of them can be told from its mirror image, all but the empty drawing pad.
+    // Each differs from its mirror image, except the empty drawing pad.
     for (const char* const name : {"mKeyView", "mPressView", "mMonitorView"}) {
         const QImage& picture = before[QString::fromLatin1(name)];
         EXPECT_NE(picture, picture.mirrored(true, false)) << name;
@@ -702,7 +703,7 @@ TEST_F(RightToLeft, mirrorsTheTextsWithoutATablet)
     EXPECT_EQ(label.geometry(), mirrored(title, view->width()));
     EXPECT_EQ(view->findChild<QLabel*>(QStringLiteral("NoDevHelp"))->geometry(),
         mirrored(help, view->width()));
-    // And at the next showing, each time further from its side.
+    // Each showing moves it further from its side.
     pane->willUnselect();
     pane->willSelect();
     EXPECT_EQ(label.geometry().right(), mirrored(title, view->width()).right() - 20);
