@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "QVCalibration.h"
 
+#include "QVTruncate.h"
+
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
@@ -13,13 +14,6 @@ constexpr std::int32_t kNear = 999;
 std::int32_t middle(std::uint16_t a, std::uint16_t b)
 {
     return (std::int32_t{a} + std::int32_t{b}) / 2;
-}
-
-/** Cut off toward zero. What is beyond 32 bits, or no number, is 0. */
-std::int32_t whole(double value)
-{
-    const double cut = std::trunc(value);
-    return cut >= -0x1p31 && cut < 0x1p31 ? static_cast<std::int32_t>(cut) : 0;
 }
 
 } // namespace
@@ -46,9 +40,9 @@ std::optional<QVTabletArea> QVCalibratedArea(
     const double marginX = (right - left) * kInset / (width - 2 * kQVCrossInset);
     const double marginY = (bottom - top) * kInset / (height - 2 * kQVCrossInset);
     return QVTabletArea{
-        static_cast<std::uint16_t>(std::max(whole(left - marginX), 0)),
-        static_cast<std::uint16_t>(whole(right + marginX)),
-        static_cast<std::uint16_t>(std::max(whole(top - marginY), 0)),
-        static_cast<std::uint16_t>(whole(bottom + marginY)),
+        static_cast<std::uint16_t>(std::max(QVTruncate(left - marginX), 0)),
+        static_cast<std::uint16_t>(QVTruncate(right + marginX)),
+        static_cast<std::uint16_t>(std::max(QVTruncate(top - marginY), 0)),
+        static_cast<std::uint16_t>(QVTruncate(bottom + marginY)),
     };
 }

@@ -6,7 +6,7 @@
 #include "HomeFolder.h"
 #include "Notifications.h"
 #include "QVConfigEntry.h"
-#include "QVTruncate.h"
+#include "QVMonitorGeometry.h"
 #include "rzkApplication.h"
 
 #include <QLoggingCategory>
@@ -92,12 +92,7 @@ void mapSingleDisplay()
     if (!active || active->empty()) {
         return;
     }
-    const platform::Rect area = displays.bounds(active->front());
-    tagQVTabletInfoMonitior& monitor = qvTabletInfo.Monitor;
-    monitor.XOrg = QVTruncate(area.x);
-    monitor.Width = QVTruncate(area.width);
-    monitor.YOrg = QVTruncate(area.y);
-    monitor.Height = QVTruncate(area.height);
+    QVSetMappedArea(qvTabletInfo, displays.bounds(active->front()));
 }
 
 /** Whether the driver has named a file. Without a name the path is the folder's: no file at all. */

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "QVMonitorGeometry.h"
 
+#include "QVTruncate.h"
+
 #include <algorithm>
 
 using platform::Rect;
@@ -37,6 +39,15 @@ Rect QVMiniature(const Rect& display, const Rect& bounds)
     const double height = display.height / kMiniature;
     return {display.x / kMiniature + (bounds.width / 3.0 + 30.0),
         480.0 - (height + (display.y / kMiniature + (bounds.height - 110.0))), width, height};
+}
+
+void QVSetMappedArea(tagQVTabletInfo& info, const Rect& area)
+{
+    const auto field = [](double value) { return static_cast<std::int16_t>(QVTruncate(value)); };
+    info.Monitor.XOrg = field(area.x);
+    info.Monitor.Width = field(area.width);
+    info.Monitor.YOrg = field(area.y);
+    info.Monitor.Height = field(area.height);
 }
 
 void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)

@@ -46,6 +46,9 @@ struct QVTabletArea {
     bool operator==(const QVTabletArea&) const = default;
 };
 
+/** Stores the screen area that the tablet is mapped to: of each whole number, the low 16 bits. */
+void QVSetMappedArea(tagQVTabletInfo& info, const platform::Rect& area);
+
 /** Stores the part of the tablet that is used. */
 void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area);
 

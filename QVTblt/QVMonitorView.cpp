@@ -6,7 +6,6 @@
 #include "QVCalibrateWin.h"
 #include "QVPictureFile.h"
 #include "QVTblt_prefPanePref.h"
-#include "QVTruncate.h"
 #include "WheelGuard.h"
 #include "rzkApplication.h"
 
@@ -224,14 +223,6 @@ void QVMonitorView::GetAllMonitorRect(const Rect* rects, Rect* outRect) const
     *outRect = QVBoundingRect({rects, std::max(mDspCount, 1U)});
 }
 
-void QVMonitorView::setMappedArea(const Rect& area)
-{
-    pQVInfo->Monitor.XOrg = QVTruncate(area.x);
-    pQVInfo->Monitor.Width = QVTruncate(area.width);
-    pQVInfo->Monitor.YOrg = QVTruncate(area.y);
-    pQVInfo->Monitor.Height = QVTruncate(area.height);
-}
-
 bool QVMonitorView::updateMappedArea()
 {
     if (mDspCount == 0) {
@@ -251,9 +242,9 @@ bool QVMonitorView::updateMappedArea()
     if (num == 0) {
         Rect all;
         GetAllMonitorRect(mSubMonitorRect.data(), &all);
-        setMappedArea(all);
+        QVSetMappedArea(*pQVInfo, all);
     } else if (chosen <= mSubMonitorRect.size()) {
-        setMappedArea(mSubMonitorRect[chosen - 1]);
+        QVSetMappedArea(*pQVInfo, mSubMonitorRect[chosen - 1]);
     } else if (num != mUnknownDisplay) { // once, not each time that it is drawn
         mUnknownDisplay = num;
         qCWarning(lcMonitor, "there is no display %d: the mapped area stays as it is", num);
@@ -367,11 +358,11 @@ void QVMonitorView::SelectMonitor()
     if (chosen == 0 && mDspCount > 1) {
         Rect all;
         GetAllMonitorRect(mSubMonitorRect.data(), &all);
-        setMappedArea(all);
+        QVSetMappedArea(*pQVInfo, all);
     } else {
         const auto display = static_cast<std::size_t>(mDspCount >= 2 ? chosen - 1 : chosen);
         if (display < mSubMonitorRect.size()) {
-            setMappedArea(mSubMonitorRect[display]);
+            QVSetMappedArea(*pQVInfo, mSubMonitorRect[display]);
         }
     }
     setNeedsDisplay();

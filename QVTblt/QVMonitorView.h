@@ -108,7 +108,6 @@ private:
     void readPicture();
     int chosenItem() const;
     void updateCalibrate();
-    void setMappedArea(const platform::Rect& area);
     void updatePicturePoints();
     void updateLists();
     platform::Rect drawMiniatures(QPainter& painter) const;

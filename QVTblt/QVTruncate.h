@@ -5,13 +5,9 @@
 #include <cmath>
 #include <cstdint>
 
-/**
- * A coordinate or a control's value for a 16-bit field of the record: truncated toward zero, then
- * its low 16 bits. What is beyond 32 bits, or no number, is 0.
- */
-inline std::int16_t QVTruncate(double value)
+/** A number cut off toward zero. What is beyond 32 bits, or no number, is 0. */
+inline std::int32_t QVTruncate(double value)
 {
     const double whole = std::trunc(value);
-    const bool fits = whole >= -0x1p31 && whole < 0x1p31;
-    return static_cast<std::int16_t>(fits ? static_cast<std::int32_t>(whole) : 0);
+    return whole >= -0x1p31 && whole < 0x1p31 ? static_cast<std::int32_t>(whole) : 0;
 }

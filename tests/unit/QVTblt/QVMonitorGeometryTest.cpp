@@ -150,3 +150,13 @@ TEST(AspectFit, beginsWhereTheTabletDoes)
     EXPECT_EQ(
         QVAspectFit({100, 10100, 50, 6300}, 1920, 1080), (QVTabletArea{100, 10100, 50, 5675}));
 }
+
+TEST(MappedArea, isStoredInWholePointsByTheirLow16Bits)
+{
+    tagQVTabletInfo record{};
+    QVSetMappedArea(record, {-1280.9, 37.9, 32768, 65537.5});
+    EXPECT_EQ(+record.Monitor.XOrg, -1280);
+    EXPECT_EQ(+record.Monitor.YOrg, 37);
+    EXPECT_EQ(+record.Monitor.Width, -32768);
+    EXPECT_EQ(+record.Monitor.Height, 1);
+}
