@@ -99,7 +99,7 @@ class KeyPage(desktop.Desktop):
     def focus(self, name):
         """Focuses a control with Tab."""
         for _ in range(90):
-            if name in self.accessible("qvtblt", "--focused").splitlines():
+            if name in self.things("qvtblt", "--focused"):
                 return
             self.xdotool("key", "Tab")
         self.fail(f"Tab does not reach '{name}'")

@@ -2,12 +2,15 @@
 # SPDX-License-Identifier: MIT
 """Prints what an application exposes to screen readers, as JSON: one object per accessible.
 
-It runs as a separate process, since the library can connect to only one session in its lifetime.
-Each request goes to the application and takes time, so it reads only what it was asked for.
+Without arguments, it reads them from standard input, one JSON array per line, and answers each line
+with one line. Each answer comes from a process of its own, forked after the library is loaded, which
+takes long: the library caches what it has been told. Each request goes to the application and takes
+time, so it reads only what it was asked for.
 """
 
 import argparse
 import json
+import os
 import sys
 
 import gi
@@ -24,23 +27,52 @@ def children(thing):
             yield i, child
 
 
-def describe(thing, path, options, found):
-    """Adds an accessible and its descendants."""
+def windows(name):
+    """Yields the windows of the application with that name, each with its path."""
+    for i, application in children(Atspi.get_desktop(0)):
+        try:
+            if application.get_name() == name:
+                yield from ((window, [i, j]) for j, window in children(application))
+        except GLib.Error:
+            pass  # the application has ended
+
+
+def walk(thing, path, options):
+    """Yields an accessible and its descendants, each with its path and states."""
     try:
         states = thing.get_state_set()
-        isShowing = states.contains(Atspi.StateType.SHOWING)
+        yield thing, path, states
+        if not states.contains(Atspi.StateType.SHOWING) and not options.all:
+            return  # nor are its descendants
+        if thing.get_role() == Atspi.Role.COMBO_BOX:
+            if options.items_of and has_name(thing, options.items_of):
+                options = argparse.Namespace(**{**vars(options), "all": True})
+            elif not options.items:
+                return
+        for i, child in children(thing):
+            yield from walk(child, path + [i], options)
+    except GLib.Error:
+        pass  # the thing went away while it was looked at
+
+
+def has_name(thing, name):
+    """Returns whether this is the accessible's name or description."""
+    return name in (thing.get_name(), thing.get_description())
+
+
+def describe(thing, path, states):
+    """Returns the properties of an accessible, or None if it has disappeared."""
+    try:
         component = thing.get_component_iface()
         extents = component.get_extents(Atspi.CoordType.SCREEN) if component else None
         value = thing.get_value_iface()
-        name = thing.get_name()
-        description = thing.get_description()
-        found.append((thing, {
-            "name": name,
+        return {
+            "name": thing.get_name(),
             "role": thing.get_role_name(),
-            "description": description,
+            "description": thing.get_description(),
             "labels": labels(thing),
             "path": path,
-            "showing": isShowing,
+            "showing": states.contains(Atspi.StateType.SHOWING),
             "enabled": states.contains(Atspi.StateType.ENABLED),
             "focusable": states.contains(Atspi.StateType.FOCUSABLE),
             "focused": states.contains(Atspi.StateType.FOCUSED),
@@ -50,18 +82,21 @@ def describe(thing, path, options, found):
             "y": extents.y if extents else 0,
             "width": extents.width if extents else 0,
             "height": extents.height if extents else 0,
-        }))
-        if not isShowing and not options.all:
-            return  # nor are its descendants
-        if thing.get_role() == Atspi.Role.COMBO_BOX:
-            if options.items_of in (name, description):
-                options = argparse.Namespace(**{**vars(options), "all": True})
-            elif not options.items:
-                return
-        for i, child in children(thing):
-            describe(child, path + [i], options, found)
+        }
     except GLib.Error:
-        pass  # the thing went away while it was looked at
+        return None
+
+
+def find(things, name, role, showing, inside):
+    """Returns the first accessible with that name or description, or None."""
+    for thing, path, states in things:
+        if path[:len(inside)] == inside and states.contains(Atspi.StateType.SHOWING) == showing:
+            try:
+                if has_name(thing, name) and role in ("", thing.get_role_name()):
+                    return thing, path, states
+            except GLib.Error:
+                pass  # the thing went away while it was looked at
+    return None
 
 
 def labels(thing):
@@ -72,33 +107,28 @@ def labels(thing):
     return [target.get_name() for target in targets if target is not None]
 
 
-def print_focused(thing):
-    """Prints name and description of the descendant that has the focus. Returns whether there is
-    one."""
+def focused(thing):
+    """Returns name and description of the descendant that has the focus, or an empty list."""
     try:
         states = thing.get_state_set()
         if states.contains(Atspi.StateType.FOCUSED):
-            print(thing.get_name(), thing.get_description(), sep="\n")
-            return True
+            return [thing.get_name(), thing.get_description()]
         if not states.contains(Atspi.StateType.SHOWING) or thing.get_role() == Atspi.Role.COMBO_BOX:
-            return False
-        return any(print_focused(child) for _, child in children(thing))
+            return []
+        return next(filter(None, (focused(child) for _, child in children(thing))), [])
     except GLib.Error:
-        return False  # the thing went away while it was looked at
+        return []  # the thing went away while it was looked at
 
 
-def press(name, role, found):
-    """Does what a click on the accessible with that name or description would do. Returns whether
-    there is one."""
-    for thing, about in found:
-        if name in (about["name"], about["description"]) and role == about["role"] \
-                and about["showing"]:
-            action = thing.get_action_iface()
-            names = [action.get_action_name(i) for i in range(action.get_n_actions())]
-            # A click toggles a check box and presses a button; a check box may have no press
-            # action.
-            return action.do_action(names.index("Toggle" if "Toggle" in names else "Press"))
-    return False
+def press(thing):
+    """Does what a click on the accessible would do. Returns whether it was still there."""
+    try:
+        action = thing.get_action_iface()
+        names = [action.get_action_name(i) for i in range(action.get_n_actions())]
+    except GLib.Error:
+        return False  # it disappeared
+    # A click toggles a check box and presses a button; a check box may have no press action.
+    return action.do_action(names.index("Toggle" if "Toggle" in names else "Press"))
 
 
 EVENTS = ("object:state-changed:showing", "object:property-change:accessible-description",
@@ -129,7 +159,7 @@ def listen(name):
     Atspi.event_main()
 
 
-def main():
+def answer(arguments):
     parser = argparse.ArgumentParser(description=__doc__)
     parser.add_argument("application")
     parser.add_argument("--all", action="store_true",
@@ -138,36 +168,55 @@ def main():
     parser.add_argument("--items-of", metavar="NAME",
                         help="also those of the combo box with that name or description")
     parser.add_argument("--focused", action="store_true",
-                        help="print only name and description of what has the focus, in two lines")
-    parser.add_argument("--press", nargs=2, metavar=("NAME", "ROLE"),
-                        help="instead, press the thing with that name or description, if it is "
-                        "there, and print whether it was")
+                        help="print only name and description of what has the focus")
+    parser.add_argument("--find", nargs=2, metavar=("NAME", "ROLE"),
+                        help="print only the first thing with that name or description, and with "
+                        "that role unless it is empty; null if there is none")
+    parser.add_argument("--hidden", action="store_true",
+                        help="find one that is not on the screen")
+    parser.add_argument("--inside", metavar="PATH", type=json.loads, default=[],
+                        help="find it below the thing with this path")
+    parser.add_argument("--press", action="store_true",
+                        help="also press what is found, and print whether it was")
     parser.add_argument("--listen", action="store_true",
                         help="instead, print a line for each thing that appears or says of itself "
                         "something new, until this is ended")
-    options = parser.parse_args()
+    options = parser.parse_args(arguments)
     Atspi.init()
+    Atspi.set_timeout(20000, 20000)  # milliseconds; by default a busy application gets 800
     if options.listen:
         listen(options.application)
         return
-    found = []
-    desktop = Atspi.get_desktop(0)
-    for i, application in children(desktop):
-        try:
-            if application.get_name() != options.application:
-                continue
-            for j, window in children(application):
-                if options.focused:
-                    print_focused(window)
-                else:
-                    describe(window, [i, j], options, found)
-        except GLib.Error:
-            pass  # the application has ended
-    if options.press:
-        json.dump(press(*options.press, found), sys.stdout)
-    elif not options.focused:
-        json.dump([about for _, about in found], sys.stdout)
+    if options.focused:
+        words = [word for window, _ in windows(options.application) for word in focused(window)]
+        print(json.dumps(words), flush=True)
+        return
+    things = (thing for window, path in windows(options.application)
+              for thing in walk(window, path, options))
+    if options.find:
+        found = find(things, *options.find, not options.hidden, options.inside)
+        if found:
+            found = press(found[0]) if options.press else describe(*found)
+        print(json.dumps(found), flush=True)
+    else:
+        told = (describe(*thing) for thing in things)
+        print(json.dumps([about for about in told if about]), flush=True)
+
+
+def serve():
+    """Answers each line of standard input."""
+    for line in sys.stdin:
+        process = os.fork()
+        if process == 0:
+            answer(json.loads(line))
+            os._exit(0)
+        _, status = os.waitpid(process, 0)
+        if status != 0:
+            sys.exit("accessible.py failed: " + line)
 
 
 if __name__ == "__main__":
-    main()
+    if len(sys.argv) > 1:
+        answer(None)
+    else:
+        serve()

@@ -21,6 +21,7 @@ class Desktop(session.Session):
 
     def setUp(self):
         super().setUp()
+        self.accessible = None
         self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         self.start_display()
         self.start(["/usr/libexec/at-spi-bus-launcher", "--launch-immediately"],
@@ -51,19 +52,19 @@ class Desktop(session.Session):
     def things(self, application, *options):
         """Returns what the application exposes to screen readers; options are those of
         accessible.py."""
-        return json.loads(self.accessible(application, *options))
-
-    def accessible(self, *arguments):
-        script = pathlib.Path(__file__).with_name("accessible.py")
-        result = self.run_program("/usr/bin/python3", "-B", script, *arguments)
-        self.assertEqual(result.returncode, 0, result.stderr)
-        return result.stdout
+        if not self.accessible:
+            script = pathlib.Path(__file__).with_name("accessible.py")
+            self.accessible = self.start(["/usr/bin/python3", "-B", script], stdin=subprocess.PIPE,
+                                         stdout=subprocess.PIPE)
+        self.accessible.stdin.write(json.dumps([application, *options]) + "\n")
+        self.accessible.stdin.flush()
+        return json.loads(session.read_line(self.accessible.stdout, f"what {application} shows"))
 
     def press(self, application, name, role):
         """Presses a control through the accessibility bus, as a screen reader does."""
         options = ["--items"] if role == "list item" else []
         session.wait_for(
-            lambda: json.loads(self.accessible(application, *options, "--press", name, role)),
+            lambda: self.things(application, *options, "--find", name, role, "--press"),
             f"{role} '{name}' of {application}")
 
     def find(self, application, name, role=None, showing=True, inside=()):
@@ -71,16 +72,11 @@ class Desktop(session.Session):
         properties."""
         options = ["--items"] if role == "list item" else []
         if not showing:
-            options.append("--all")
-
-        def look():
-            for thing in self.things(application, *options):
-                if name in (thing["name"], thing["description"]) and role in (None, thing["role"]) \
-                        and thing["showing"] == showing \
-                        and thing["path"][:len(inside)] == list(inside):
-                    return thing
-            return None
-        return session.wait_for(look, f"{role or 'thing'} '{name}' of {application}")
+            options += ["--all", "--hidden"]
+        return session.wait_for(
+            lambda: self.things(application, *options, "--find", name, role or "", "--inside",
+                                json.dumps(inside)),
+            f"{role or 'thing'} '{name}' of {application}")
 
     def xdotool(self, *words):
         result = self.run_program("xdotool", *words)
