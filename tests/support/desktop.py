@@ -112,6 +112,9 @@ class Desktop(session.Session):
         """Returns the colour of a pixel of the screen."""
         return self.pixels(x, y, 1, 1)[0]
 
+    def take_picture(self, folder):
+        self.screenshot(folder / "screen.png")
+
     def screenshot(self, path):
         """Writes a screenshot."""
         result = self.run_program("import", "-window", "root", path)

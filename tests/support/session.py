@@ -6,6 +6,7 @@ build."""
 import os
 import pathlib
 import re
+import shlex
 import shutil
 import signal
 import subprocess
@@ -69,13 +70,50 @@ class Session(unittest.TestCase):
     ACTIVATION = False
 
     def run(self, result=None):
-        """Runs the test, and adds the programs' standard error to a failure."""
+        """Runs the test. After a failure, keeps a screenshot and the programs' standard error, and
+        prints the command that repeats this test alone."""
         self.errors = []
-        failures = len(result.failures) + len(result.errors)
+        self.result = result
+        self.failures_before = len(result.failures) + len(result.errors)
         super().run(result)
-        if len(result.failures) + len(result.errors) > failures:
-            print(*self.errors, sep="\n", file=sys.stderr)
+        if self.has_failed():
+            logs = self.failure_folder() / "programs.log"
+            logs.parent.mkdir(parents=True, exist_ok=True)
+            logs.write_text("\n".join(self.errors))
+            print(*self.errors, f"What was there instead is in {logs.parent}",
+                  f"To repeat it: {self.command()}", sep="\n", file=sys.stderr)
         return result
+
+    def has_failed(self):
+        return len(self.result.failures) + len(self.result.errors) > self.failures_before
+
+    def failure_folder(self):
+        """Returns the folder of the build that keeps what this test leaves when it fails."""
+        return STAGE.parent / "failures" / self.id().removeprefix("__main__.")
+
+    def command(self):
+        """Returns the command that runs this test alone."""
+        settings = [f"{name}={shlex.quote(os.environ[name])}" for name in (
+            "PYTHONPATH", "QVTBLT_STAGE", "QVTBLT_STAGE_BIN", "QVTBLT_STAGE_SERVICES",
+            "ASAN_OPTIONS") if name in os.environ]
+        name = self.id().removeprefix("__main__.")
+        arguments = [word for word in sys.orig_argv if word != name]
+        return " ".join([*settings, shlex.join([*arguments, name])])
+
+    def doCleanups(self):
+        """After a failure, takes a screenshot while everything is still there."""
+        if self.has_failed():
+            folder = self.failure_folder()
+            shutil.rmtree(folder, ignore_errors=True)
+            folder.mkdir(parents=True)
+            try:
+                self.take_picture(folder)
+            except Exception as error:  # the failure may be that there is nothing to see
+                self.errors.append(f"There is no picture: {error}")
+        return super().doCleanups()
+
+    def take_picture(self, folder):
+        """Saves screenshots in the folder; without a screen there are none."""
 
     def setUp(self):
         self.folder = pathlib.Path(tempfile.mkdtemp(prefix="qvtblt-test-"))
