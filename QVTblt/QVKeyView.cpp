@@ -9,20 +9,7 @@
 
 #include <QEvent>
 
-#include <array>
-
 namespace {
-
-/** A picture's resource. Types are matched as they are written, capitals included. */
-struct Resource {
-    const char* name;
-    const char* type;
-};
-
-/** In the order of QVPicture, without None. */
-constexpr std::array<Resource, 7> kPictures{
-    {{"tabletpic1", "jpg"}, {"tabletpic2", "jpg"}, {"tabletpic3", "jpg"}, {"tabletpic4", "jpg"},
-        {"tabletpic5", "png"}, {"tabletpic6", "PNG"}, {"tabletpic7", "png"}}};
 
 /** The width of the plain pictures, in pixels. The others have twice as many, in as many points. */
 constexpr double kPlainWidth = 384;
@@ -30,12 +17,12 @@ constexpr double kPlainWidth = 384;
 QImage pictureOf(std::uint16_t productID, bool isDense, bool isDark)
 {
     const QVTabletModel* const model = QVFindModel(productID);
-    if (model == nullptr || model->picture == QVPicture::None) {
+    if (model == nullptr || model->picture == nullptr) {
         return {};
     }
-    const Resource& picture = kPictures[static_cast<std::size_t>(model->picture) - 1];
-    const auto path = QVPicturePath(rzkBundle, QString::fromLatin1(picture.name),
-        QString::fromLatin1(picture.type), isDense, isDark);
+    const QString file = QString::fromLatin1(model->picture);
+    const auto path =
+        QVPicturePath(rzkBundle, file.section(u'.', 0, 0), file.section(u'.', 1), isDense, isDark);
     // In the form in which it is drawn fastest.
     return path ? QImage(*path).convertToFormat(QImage::Format_ARGB32_Premultiplied) : QImage();
 }
@@ -46,7 +33,7 @@ QString QVKeyView::spokenContents() const
 {
     const QVTabletModel* const model =
         QVFindModel(static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID));
-    return model == nullptr || model->picture == QVPicture::None
+    return model == nullptr || model->picture == nullptr
         ? tr("There is no picture of this model.")
         : tr("%1. Each key has the number of its list.").arg(QString::fromUtf8(model->name));
 }

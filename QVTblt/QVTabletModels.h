@@ -27,15 +27,12 @@ enum class QVKeyLayout : std::uint8_t {
     H, ///< no keys at all
 };
 
-/** The picture of the key page: tabletpic1 to tabletpic7, or none. */
-enum class QVPicture : std::uint8_t { None, Pic1, Pic2, Pic3, Pic4, Pic5, Pic6, Pic7 };
-
 /** One model. */
 struct QVTabletModel {
     std::uint16_t productID;
     const char* name; ///< UTF-8; a proper name, never translated
     QVKeyLayout layout;
-    QVPicture picture;
+    const char* picture; ///< resource with its type, capitals as they are; null for none
     std::uint16_t keyNum; ///< express keys
     std::uint16_t scrollNum; ///< scroll strips
     std::uint16_t penButtons; ///< buttons of the pen that comes with it: 1 or 2
@@ -45,50 +42,50 @@ struct QVTabletModel {
 };
 
 // clang-format off
-inline constexpr std::array<QVTabletModel, 34> kQVTabletModels {{
+inline constexpr auto kQVTabletModels = std::to_array<QVTabletModel>({
     // Two groups of four keys around a strip
-    {0x5101, "Quorvia Draft S", QVKeyLayout::G, QVPicture::Pic6, 8, 1, 2, 20320, 12700, 1023},
-    {0x5102, "Quorvia Draft M", QVKeyLayout::G, QVPicture::Pic6, 8, 1, 2, 25400, 15875, 2047},
-    {0x5103, "Quorvia Draft L", QVKeyLayout::G, QVPicture::Pic6, 8, 1, 2, 40640, 25400, 2047},
-    {0x5104, "Quorvia Draft XL", QVKeyLayout::G, QVPicture::Pic6, 8, 1, 2, 50800, 31750, 2047},
-    {0x5105, "Quorvia Draft M Touch", QVKeyLayout::G, QVPicture::None, 8, 1, 2, 25400, 15875, 2047},
-    {0x5106, "Quorvia Draft L Touch", QVKeyLayout::G, QVPicture::None, 8, 1, 2, 40640, 25400, 2047},
+    {0x5101, "Quorvia Draft S", QVKeyLayout::G, "tabletpic6.PNG", 8, 1, 2, 20320, 12700, 1023},
+    {0x5102, "Quorvia Draft M", QVKeyLayout::G, "tabletpic6.PNG", 8, 1, 2, 25400, 15875, 2047},
+    {0x5103, "Quorvia Draft L", QVKeyLayout::G, "tabletpic6.PNG", 8, 1, 2, 40640, 25400, 2047},
+    {0x5104, "Quorvia Draft XL", QVKeyLayout::G, "tabletpic6.PNG", 8, 1, 2, 50800, 31750, 2047},
+    {0x5105, "Quorvia Draft M Touch", QVKeyLayout::G, nullptr, 8, 1, 2, 25400, 15875, 2047},
+    {0x5106, "Quorvia Draft L Touch", QVKeyLayout::G, nullptr, 8, 1, 2, 40640, 25400, 2047},
     // Four keys, one report speed
-    {0x5107, "Quorvia Sketch 5", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 12700, 7620, 1023},
-    {0x5108, "Quorvia Sketch 6", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 15240, 9525, 1023},
-    {0x5109, "Quorvia Sketch 7", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 17780, 11112, 1023},
-    {0x510A, "Quorvia Sketch 8", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 20320, 12700, 1023},
-    {0x510B, "Quorvia Sketch 9", QVKeyLayout::C, QVPicture::Pic3, 4, 0, 1, 22860, 14287, 1023},
-    {0x510C, "Quorvia Folio 6", QVKeyLayout::C, QVPicture::Pic4, 4, 0, 1, 15240, 9525, 1023},
-    {0x510D, "Quorvia Folio 8", QVKeyLayout::C, QVPicture::Pic4, 4, 0, 1, 20320, 12700, 1023},
-    {0x510E, "Quorvia Folio 10", QVKeyLayout::C, QVPicture::Pic4, 4, 0, 1, 25400, 15875, 1023},
-    {0x510F, "Quorvia Folio 12", QVKeyLayout::C, QVPicture::Pic4, 4, 0, 1, 30480, 19050, 1023},
+    {0x5107, "Quorvia Sketch 5", QVKeyLayout::C, "tabletpic3.jpg", 4, 0, 1, 12700, 7620, 1023},
+    {0x5108, "Quorvia Sketch 6", QVKeyLayout::C, "tabletpic3.jpg", 4, 0, 1, 15240, 9525, 1023},
+    {0x5109, "Quorvia Sketch 7", QVKeyLayout::C, "tabletpic3.jpg", 4, 0, 1, 17780, 11112, 1023},
+    {0x510A, "Quorvia Sketch 8", QVKeyLayout::C, "tabletpic3.jpg", 4, 0, 1, 20320, 12700, 1023},
+    {0x510B, "Quorvia Sketch 9", QVKeyLayout::C, "tabletpic3.jpg", 4, 0, 1, 22860, 14287, 1023},
+    {0x510C, "Quorvia Folio 6", QVKeyLayout::C, "tabletpic4.jpg", 4, 0, 1, 15240, 9525, 1023},
+    {0x510D, "Quorvia Folio 8", QVKeyLayout::C, "tabletpic4.jpg", 4, 0, 1, 20320, 12700, 1023},
+    {0x510E, "Quorvia Folio 10", QVKeyLayout::C, "tabletpic4.jpg", 4, 0, 1, 25400, 15875, 1023},
+    {0x510F, "Quorvia Folio 12", QVKeyLayout::C, "tabletpic4.jpg", 4, 0, 1, 30480, 19050, 1023},
     // Four keys
-    {0x5110, "Quorvia Pocket", QVKeyLayout::D, QVPicture::None, 4, 0, 1, 10160, 6350, 1023},
-    {0x5111, "Quorvia Pocket Air", QVKeyLayout::D, QVPicture::None, 4, 0, 1, 10160, 6350, 1023},
-    {0x5112, "Quorvia Pocket Max", QVKeyLayout::D, QVPicture::None, 4, 0, 1, 15240, 9525, 1023},
+    {0x5110, "Quorvia Pocket", QVKeyLayout::D, nullptr, 4, 0, 1, 10160, 6350, 1023},
+    {0x5111, "Quorvia Pocket Air", QVKeyLayout::D, nullptr, 4, 0, 1, 10160, 6350, 1023},
+    {0x5112, "Quorvia Pocket Max", QVKeyLayout::D, nullptr, 4, 0, 1, 15240, 9525, 1023},
     // Five keys
-    {0x5113, "Quorvia Etch M", QVKeyLayout::E, QVPicture::Pic1, 5, 0, 1, 25400, 15875, 2047},
-    {0x5114, "Quorvia Etch L", QVKeyLayout::E, QVPicture::Pic1, 5, 0, 1, 40640, 25400, 2047},
+    {0x5113, "Quorvia Etch M", QVKeyLayout::E, "tabletpic1.jpg", 5, 0, 1, 25400, 15875, 2047},
+    {0x5114, "Quorvia Etch L", QVKeyLayout::E, "tabletpic1.jpg", 5, 0, 1, 40640, 25400, 2047},
     // Seven keys; the first comes with a pen of one button
-    {0x5115, "Quorvia Contour Lite", QVKeyLayout::F, QVPicture::Pic2, 7, 0, 1, 25400, 15875, 1023},
-    {0x5116, "Quorvia Contour", QVKeyLayout::F, QVPicture::Pic2, 7, 0, 2, 30480, 19050, 2047},
-    {0x5117, "Quorvia Contour Pro", QVKeyLayout::F, QVPicture::Pic2, 7, 0, 2, 40640, 25400, 8191},
+    {0x5115, "Quorvia Contour Lite", QVKeyLayout::F, "tabletpic2.jpg", 7, 0, 1, 25400, 15875, 1023},
+    {0x5116, "Quorvia Contour", QVKeyLayout::F, "tabletpic2.jpg", 7, 0, 2, 30480, 19050, 2047},
+    {0x5117, "Quorvia Contour Pro", QVKeyLayout::F, "tabletpic2.jpg", 7, 0, 2, 40640, 25400, 8191},
     // Eight keys and a strip
-    {0x5118, "Quorvia Fresco 13", QVKeyLayout::A, QVPicture::Pic5, 8, 1, 2, 29376, 16524, 8191},
-    {0x5119, "Quorvia Fresco 16", QVKeyLayout::A, QVPicture::Pic5, 8, 1, 2, 34419, 19358, 8191},
-    {0x511A, "Quorvia Fresco 19", QVKeyLayout::A, QVPicture::None, 8, 1, 2, 41000, 25600, 8191},
-    {0x511B, "Quorvia Fresco 22", QVKeyLayout::A, QVPicture::None, 8, 1, 2, 47664, 26811, 8191},
-    {0x511C, "Quorvia Fresco 24", QVKeyLayout::A, QVPicture::None, 8, 1, 2, 52704, 29646, 8191},
-    {0x511D, "Quorvia Fresco 27", QVKeyLayout::A, QVPicture::None, 8, 1, 2, 59674, 33566, 8191},
+    {0x5118, "Quorvia Fresco 13", QVKeyLayout::A, "tabletpic5.png", 8, 1, 2, 29376, 16524, 8191},
+    {0x5119, "Quorvia Fresco 16", QVKeyLayout::A, "tabletpic5.png", 8, 1, 2, 34419, 19358, 8191},
+    {0x511A, "Quorvia Fresco 19", QVKeyLayout::A, nullptr, 8, 1, 2, 41000, 25600, 8191},
+    {0x511B, "Quorvia Fresco 22", QVKeyLayout::A, nullptr, 8, 1, 2, 47664, 26811, 8191},
+    {0x511C, "Quorvia Fresco 24", QVKeyLayout::A, nullptr, 8, 1, 2, 52704, 29646, 8191},
+    {0x511D, "Quorvia Fresco 27", QVKeyLayout::A, nullptr, 8, 1, 2, 59674, 33566, 8191},
     // Nothing but the pen
-    {0x511E, "Quorvia Note A6", QVKeyLayout::B, QVPicture::None, 0, 0, 1, 14800, 10500, 1023},
-    {0x511F, "Quorvia Note A5", QVKeyLayout::B, QVPicture::None, 0, 0, 1, 21000, 14800, 1023},
-    {0x5120, "Quorvia Note A4", QVKeyLayout::B, QVPicture::None, 0, 0, 1, 29700, 21000, 1023},
-    {0x5121, "Quorvia Sign", QVKeyLayout::B, QVPicture::None, 0, 0, 1, 9600, 6000, 511},
+    {0x511E, "Quorvia Note A6", QVKeyLayout::B, nullptr, 0, 0, 1, 14800, 10500, 1023},
+    {0x511F, "Quorvia Note A5", QVKeyLayout::B, nullptr, 0, 0, 1, 21000, 14800, 1023},
+    {0x5120, "Quorvia Note A4", QVKeyLayout::B, nullptr, 0, 0, 1, 29700, 21000, 1023},
+    {0x5121, "Quorvia Sign", QVKeyLayout::B, nullptr, 0, 0, 1, 9600, 6000, 511},
     // No keys at all
-    {0x5122, "Quorvia Slate", QVKeyLayout::H, QVPicture::Pic7, 0, 0, 1, 25400, 15875, 2047},
-}};
+    {0x5122, "Quorvia Slate", QVKeyLayout::H, "tabletpic7.png", 0, 0, 1, 25400, 15875, 2047},
+});
 // clang-format on
 
 /** The model with that product ID; null for one that is not ours. */

@@ -14,8 +14,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <cstdlib>
+#include <set>
+#include <string_view>
 
 namespace {
 
@@ -57,9 +60,29 @@ protected:
     QVKeyView mView;
 };
 
-constexpr std::uint16_t kDraft = 0x5101; // tabletpic6
-constexpr std::uint16_t kSlate = 0x5122; // tabletpic7
-constexpr std::uint16_t kPocket = 0x5110; // none
+/** The product ID of the first model with a picture; with none for an empty name. */
+std::uint16_t productWith(std::string_view picture)
+{
+    return std::ranges::find(kQVTabletModels, picture, [](const QVTabletModel& model) {
+        return std::string_view(model.picture == nullptr ? "" : model.picture);
+    })->productID;
+}
+
+/** The pictures of all models. */
+std::set<QString> pictures()
+{
+    std::set<QString> names;
+    for (const QVTabletModel& model : kQVTabletModels) {
+        if (model.picture != nullptr) {
+            names.insert(QString::fromLatin1(model.picture));
+        }
+    }
+    return names;
+}
+
+const std::uint16_t kDraft = productWith("tabletpic6.PNG");
+const std::uint16_t kSlate = productWith("tabletpic7.png");
+const std::uint16_t kPocket = productWith("");
 const QColor kNothing(0, 0, 0, 0);
 
 } // namespace
@@ -213,16 +236,13 @@ TEST_F(KeyView, everyPictureOfTheTableIsInTheBundleAndFillsTheView)
 {
     rzkBundle = platform::Bundle(QStringLiteral(QVTBLT_STAGE_RESOURCES));
     mView.resize(384, 270);
-    const QStringList names{QString(), QStringLiteral("tabletpic1.jpg"),
-        QStringLiteral("tabletpic2.jpg"), QStringLiteral("tabletpic3.jpg"),
-        QStringLiteral("tabletpic4.jpg"), QStringLiteral("tabletpic5.png"),
-        QStringLiteral("tabletpic6.PNG"), QStringLiteral("tabletpic7.png")};
+    const std::set<QString> names = pictures();
     for (const QVTabletModel& model : kQVTabletModels) {
-        const QString& name = names[static_cast<int>(model.picture)];
-        if (name.isEmpty()) {
+        if (model.picture == nullptr) {
             EXPECT_EQ(draw(model.productID), kNothing) << model.name;
             continue;
         }
+        const QString name = QString::fromLatin1(model.picture);
         // It resembles its own picture most, along a line through the keys.
         draw(model.productID);
         const QImage view = mView.grab().toImage();
@@ -235,7 +255,7 @@ TEST_F(KeyView, everyPictureOfTheTableIsInTheBundleAndFillsTheView)
             return sum;
         };
         for (const QString& other : names) {
-            if (!other.isEmpty() && other != name) {
+            if (other != name) {
                 EXPECT_LT(2 * difference(name), difference(other))
                     << model.name << ' ' << qPrintable(other);
             }
@@ -252,10 +272,9 @@ TEST_F(KeyView, everyPictureHasItsTrueColoursAndSizeInAllItsForms)
     };
     constexpr std::array<Form, 4> kForms{{{".", 1, 0xFFEEF0F3}, {"@2x.", 2, 0xFFEEF0F3},
         {"-dark.", 1, 0xFF24282E}, {"-dark@2x.", 2, 0xFF24282E}}};
-    for (const char* const name : {"tabletpic1.jpg", "tabletpic2.jpg", "tabletpic3.jpg",
-             "tabletpic4.jpg", "tabletpic5.png", "tabletpic6.PNG", "tabletpic7.png"}) {
+    for (const QString& name : pictures()) {
         for (const Form& form : kForms) {
-            QString file = QString::fromLatin1(name);
+            QString file = name;
             file.replace(QStringLiteral("."), QString::fromLatin1(form.suffix));
             SCOPED_TRACE(qPrintable(file));
             const QImage picture(QStringLiteral(QVTBLT_STAGE_RESOURCES "/") + file);
