@@ -4,6 +4,7 @@
 #include "EmulatedUsb.h"
 #include "NoDiagnostics.h"
 #include "Paired.h"
+#include "QVTabletModels.h"
 
 #include <libusb.h>
 
@@ -21,7 +22,7 @@ void controlUSBDevWithoutTablet(benchmark::State& state)
     }
     const NoDiagnostics quiet;
     timePaired(
-        state, [] { controlUSBDev(kQVReportFast, 0x5101); },
+        state, [] { controlUSBDev(kQVReportFast, kQVTabletModels.front().productID); },
         [] {
             libusb_context* context = nullptr;
             libusb_init(&context);

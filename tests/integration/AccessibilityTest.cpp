@@ -5,6 +5,7 @@
 // contrast.
 
 #include "Contrast.h"
+#include "LayoutModels.h"
 #include "NotedPane.h"
 #include "PaneShell.h"
 #include "PaneTest.h"
@@ -255,9 +256,6 @@ void expectTabVisitsAllInOrder(QWidget& window)
 
 // The panel --------------------------------------------------------------------------------------
 
-constexpr std::array<std::uint16_t, 9> kProducts{
-    0x5118, 0x511E, 0x5107, 0x5110, 0x5113, 0x5115, 0x5116, 0x5101, 0x5122}; // of all layouts
-
 class Accessibility : public PaneTest {
 protected:
     void showProduct(std::uint16_t productID)
@@ -292,7 +290,7 @@ protected:
     QVCalibrateWin& calibrate()
     {
         mDisplays.change({{0, 0, 800, 600}});
-        showProduct(kProducts[0]);
+        showProduct(productOf(QVKeyLayout::A));
         showPage("displayPage");
         outlet<QPushButton>("mDoCalibrate").click();
         return *mWindow->findChild<QVCalibrateWin*>();
@@ -310,7 +308,7 @@ protected:
     /** Calls the function on the pages of each layout, and on each of the other pages. */
     void forEachPage(const std::function<void()>& what)
     {
-        for (const std::uint16_t productID : kProducts) {
+        for (const std::uint16_t productID : productsOfEachLayout()) {
             SCOPED_TRACE(productID);
             showProduct(productID);
             showPage("keyPage");
@@ -319,7 +317,7 @@ protected:
         }
         for (const char* const page : {"penPage", "displayPage"}) {
             SCOPED_TRACE(page);
-            showProduct(kProducts[0]);
+            showProduct(productOf(QVKeyLayout::A));
             showPage(page);
             what();
             leave();
@@ -408,7 +406,7 @@ TEST_F(Accessibility, readsOutWhatHasGoneWrong)
 
 TEST_F(Accessibility, saysTheCurveInWords)
 {
-    showProduct(kProducts[0]);
+    showProduct(productOf(QVKeyLayout::A));
     showPage("penPage");
     QVPressView& curve = outlet<QVPressView>("mPressView");
     outlet<QSlider>("mSlider").setValue(1000);
@@ -432,7 +430,7 @@ TEST_F(Accessibility, saysTheCurveInWords)
 TEST_F(Accessibility, saysWhichDisplayTheTabletReaches)
 {
     mDisplays.change({{0, 0, 1920, 1080}, {1920, 56, 1280, 1024}});
-    showProduct(kProducts[0]);
+    showProduct(productOf(QVKeyLayout::A));
     showPage("displayPage");
     auto& view = outlet<QVMonitorView>("mMonitorView");
     auto& list = outlet<QComboBox>("mComboBox");
@@ -459,7 +457,7 @@ TEST_F(Accessibility, saysWhichDisplayTheTabletReaches)
 
 TEST_F(Accessibility, saysThePressureAndDoesNotFlood)
 {
-    showProduct(kProducts[0]);
+    showProduct(productOf(QVKeyLayout::A));
     showPage("penPage");
     auto& pad = outlet<QVDrawView>("mDrawView");
     auto& number = outlet<QLabel>("txtRawTabletPressure");
@@ -565,7 +563,7 @@ TEST_F(Accessibility, tabVisitsEveryControlOfTheKeyDialog)
 
 TEST_F(Accessibility, beginsAtTheTabletsName)
 {
-    showProduct(kProducts[0]);
+    showProduct(productOf(QVKeyLayout::A));
     EXPECT_EQ(QApplication::focusWidget(), &outlet<QLabel>("mSoft"));
     QTest::keyClick(&outlet<QLabel>("mSoft"), Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), outlet<QTabWidget>("tabView").tabBar());
@@ -573,7 +571,7 @@ TEST_F(Accessibility, beginsAtTheTabletsName)
 
 TEST_F(Accessibility, theArrowsBendTheCurve)
 {
-    showProduct(kProducts[0]);
+    showProduct(productOf(QVKeyLayout::A));
     showPage("penPage");
     auto& slider = outlet<QSlider>("mSlider");
     slider.setValue(1000);
@@ -592,7 +590,7 @@ TEST_F(Accessibility, showsWhichViewHasTheFocus)
         const ThemeScope scope(theme);
         for (const auto& [page, name] :
             {std::pair{"penPage", "mDrawView"}, std::pair{"displayPage", "mMonitorView"}}) {
-            showProduct(kProducts[0]);
+            showProduct(productOf(QVKeyLayout::A));
             showPage(page);
             auto& view = outlet<QWidget>(name);
             mWindow->setFocus();
@@ -661,7 +659,7 @@ TEST_F(Accessibility, picturesStandApartInEveryTheme)
     for (const Theme& theme : kThemes) {
         SCOPED_TRACE(theme.name);
         const ThemeScope scope(theme);
-        showProduct(kProducts[0]);
+        showProduct(productOf(QVKeyLayout::A));
         showPage("penPage");
         EXPECT_GE(
             contrastIn(outlet<QVPressView>("mPressView").grab(QRect(5, 5, 190, 190)).toImage()),

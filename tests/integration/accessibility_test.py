@@ -11,6 +11,7 @@ import threading
 import unittest
 
 import desktop
+import models
 import session
 
 DRIVER = "tdsg-driver"
@@ -101,9 +102,9 @@ class Tree(desktop.Desktop):
 
     def test_every_layout_of_keys(self):
         self.start_panel()
-        for product in (20760, 20766, 20743, 20752, 20755, 20757, 20758, 20737, 20770):
-            with self.subTest(product):
-                self.simulator("Attach", "q", str(product))
+        for model in models.of_each_layout():
+            with self.subTest(model.name):
+                self.simulator("Attach", "q", str(model.product))
                 panel = self.start([session.BIN / "qvtblt"])
                 self.find("qvtblt", "Keys", "page tab")
                 self.expect_no_faults("qvtblt", 12, "combo box", "image")
@@ -147,8 +148,8 @@ class Tree(desktop.Desktop):
         surface = self.find(DRIVER, "Surface", "canvas")
         self.assertRegex(surface["description"], r"The pen is up at \d+, \d+\.$")
         self.expect_no_faults(DRIVER, 20, "combo box", "push button", "canvas")
-        for product in (20766, 20760, 20755):
-            self.simulator("Attach", "q", str(product))
+        for layout in "BAE":
+            self.simulator("Attach", "q", str(models.product_of(layout)))
             session.wait_for(lambda: self.find(DRIVER, "Surface"), "the surface")
             self.expect_no_faults(DRIVER, 10, "combo box", "canvas")
         self.simulator("Detach")

@@ -11,6 +11,7 @@ import unittest
 
 import desktop
 import displays
+import models
 import session
 
 PANEL = pathlib.Path(session.__file__).with_name("peer_panel.py")
@@ -203,13 +204,11 @@ class VirtualTablet(Tablet, desktop.Desktop):
     def test_has_the_keys_of_each_layout(self):
         self.open_tablet("--attach", "none")
         pen = ["Upper pen button", "Lower pen button"]
-        for product, keys, strips, pens in ((0x5101, 8, 1, 2), (0x5107, 4, 0, 1), (0x5110, 4, 0, 1),
-                                            (0x5113, 5, 0, 1), (0x5115, 7, 0, 1), (0x5117, 7, 0, 2),
-                                            (0x5118, 8, 1, 2), (0x511E, 0, 0, 1), (0x5122, 0, 0, 1)):
-            with self.subTest(product):
-                self.simulator("Attach", "q", str(product))
-                expected = [f"Key {key + 1}" for key in range(keys)] + pen[:pens]
-                expected += ["Left scroll strip"] * strips
+        for model in models.of_each_layout():
+            with self.subTest(model.name):
+                self.simulator("Attach", "q", str(model.product))
+                expected = [f"Key {key + 1}" for key in range(model.keys)] + pen[:model.pen_buttons]
+                expected += ["Left scroll strip"] * model.strips
                 session.wait_for(lambda: sorted(self.buttons()) == sorted(expected), expected)
 
     def test_tells_what_a_key_does(self):

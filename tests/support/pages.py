@@ -6,6 +6,7 @@ takes the guide's pictures records their contents, and a test compares them with
 import json
 import re
 
+import models
 import session
 
 # A control on each tab's page that shows that the page is open.
@@ -14,22 +15,12 @@ CONTROLS = {"Keys": "Picture of the tablet", "Pen": "Drawing pad",
 STRUCTURE = session.SOURCE / "docs/images/pages.json"
 
 
-def layouts():
-    """Returns the first model of each layout of the key page: the layout's letter and the product
-    ID."""
-    table = (session.SOURCE / "QVTblt/QVTabletModels.h").read_text()
-    found = {}
-    for number, letter in re.findall(r"\{0x(\w{4}), .*?QVKeyLayout::(\w),", table):
-        found.setdefault(letter, int(number, 16))
-    return found
-
-
 def pages():
-    """Yields each page: its picture's name, the product whose settings it shows, and its tab."""
-    for letter, product in sorted(layouts().items()):
-        yield f"keyPage-{letter}", product, "Keys"
-    yield "penPage", layouts()["G"], "Pen"
-    yield "displayPage", layouts()["G"], "Display"
+    """Each page: its picture's name, the product whose settings it shows, and its tab."""
+    for layout in sorted({model.layout for model in models.all_models()}):
+        yield f"keyPage-{layout}", models.product_of(layout), "Keys"
+    yield "penPage", models.product_of("G"), "Pen"
+    yield "displayPage", models.product_of("G"), "Display"
 
 
 def structure(things):

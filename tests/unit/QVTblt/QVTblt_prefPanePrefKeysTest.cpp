@@ -3,6 +3,7 @@
 
 // The key page: every layout, every choice, every slot that a file may contain.
 
+#include "LayoutModels.h"
 #include "OpenPanel.h"
 #include "PaneTest.h"
 #include "PointCanvas.h"
@@ -43,15 +44,15 @@ private:
 };
 
 // One product of each layout; for F, the one with a one-button pen and one of the others.
-constexpr std::uint16_t kProductA = 0x5118;
-constexpr std::uint16_t kProductB = 0x511E;
-constexpr std::uint16_t kProductC = 0x5107;
-constexpr std::uint16_t kProductD = 0x5110;
-constexpr std::uint16_t kProductE = 0x5113;
-constexpr std::uint16_t kProductFLite = 0x5115;
-constexpr std::uint16_t kProductF = 0x5116;
-constexpr std::uint16_t kProductG = 0x5101;
-constexpr std::uint16_t kProductH = 0x5122;
+constexpr std::uint16_t kProductA = productOf(QVKeyLayout::A);
+constexpr std::uint16_t kProductB = productOf(QVKeyLayout::B);
+constexpr std::uint16_t kProductC = productOf(QVKeyLayout::C);
+constexpr std::uint16_t kProductD = productOf(QVKeyLayout::D);
+constexpr std::uint16_t kProductE = productOf(QVKeyLayout::E);
+constexpr std::uint16_t kProductFLite = productOf(QVKeyLayout::F, 1);
+constexpr std::uint16_t kProductF = productOf(QVKeyLayout::F, 2);
+constexpr std::uint16_t kProductG = productOf(QVKeyLayout::G);
+constexpr std::uint16_t kProductH = productOf(QVKeyLayout::H);
 
 class KeyPage : public PaneTest {
 protected:

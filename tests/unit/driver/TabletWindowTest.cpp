@@ -4,6 +4,7 @@
 
 #include "Driver.h"
 #include "FakeEvents.h"
+#include "LayoutModels.h"
 #include "QVWire.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
@@ -124,8 +125,7 @@ TEST_F(TabletWindowTest, fitsSmallScreensWithLargeLettersInEveryLanguage)
             QFont font = mFont;
             font.setPointSize(points);
             QApplication::setFont(font);
-            for (const ushort product :
-                std::initializer_list<ushort>{0x5104, 0x5107, 0x5117, 0x5118, 0x511E}) {
+            for (const ushort product : productsOfEachLayout()) {
                 attach(product);
                 TabletWindow window(mDriver);
                 window.show();
@@ -160,10 +160,11 @@ TEST_F(TabletWindowTest, fitsSmallScreensWithLargeLettersInEveryLanguage)
 
 TEST_F(TabletWindowTest, aPathThatIsTooLongKeepsItsBeginningAndItsEnd)
 {
-    attach(0x5101);
+    constexpr std::uint16_t kProduct = productOf(QVKeyLayout::G);
+    attach(kProduct);
     TabletWindow window(mDriver);
     window.show();
-    tagQVTabletInfo settings = longSettings(0x5101);
+    tagQVTabletInfo settings = longSettings(kProduct);
     const std::string path = "/opt/" + std::string(200, 'w') + "/krita.AppImage";
     std::strcpy(settings.Key.SubKey[0].App.data(), path.c_str());
     push(settings);
