@@ -122,6 +122,17 @@ QVEntryResult QVReadEntry(
                                                                      : QVEntryResult::WrongType;
 }
 
+std::string QVEntryFault(const platform::Dictionary& dictionary, const QVEntry& entry)
+{
+    const platform::EntryKind kind = dictionary.kind(entry.key);
+    const bool isString = entry.type == QVFieldType::String;
+    if (isString && kind == platform::EntryKind::String) {
+        return "longer than " + std::to_string(kQVStringSize - 1) + " characters, or not ASCII";
+    }
+    return std::string(QVKindName(kind)) + " where " + (isString ? "a string" : "a number")
+        + " belongs";
+}
+
 bool QVWriteEntry(
     platform::Dictionary dictionary, const QVEntry& entry, const tagQVTabletInfo& record)
 {

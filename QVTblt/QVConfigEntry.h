@@ -42,6 +42,9 @@ platform::Dictionary QVEntryDictionary(const platform::Dictionary& root, const Q
 QVEntryResult QVReadEntry(
     const platform::Dictionary& dictionary, const QVEntry& entry, tagQVTabletInfo& record);
 
+/** Why an entry is WrongType or Unfit, for messages: "an array where a number belongs". */
+std::string QVEntryFault(const platform::Dictionary& dictionary, const QVEntry& entry);
+
 /**
  * Sets an entry from its field, whether or not it was there. A string that is not ASCII, or holds a
  * control character that a property list cannot, leaves the entry as it is.

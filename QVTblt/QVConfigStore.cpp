@@ -38,20 +38,10 @@ void readEntries(
     const platform::Dictionary& dictionary, const char* name, std::span<const QVEntry> entries)
 {
     for (const QVEntry& entry : entries) {
-        switch (QVReadEntry(dictionary, entry, qvTabletInfo)) {
-        case QVEntryResult::Copied:
-        case QVEntryResult::Truncated:
-        case QVEntryResult::Absent:
-            break;
-        case QVEntryResult::WrongType:
-            qCWarning(lcStore, "skipped %s of %s: %s where %s belongs", entry.key, name,
-                QVKindName(dictionary.kind(entry.key)),
-                entry.type == QVFieldType::String ? "a string" : "a number");
-            break;
-        case QVEntryResult::Unfit:
-            qCWarning(lcStore, "skipped %s of %s: longer than %zu characters, or not ASCII",
-                entry.key, name, kQVStringSize - 1);
-            break;
+        const QVEntryResult result = QVReadEntry(dictionary, entry, qvTabletInfo);
+        if (result == QVEntryResult::WrongType || result == QVEntryResult::Unfit) {
+            qCWarning(lcStore, "skipped %s of %s: %s", entry.key, name,
+                QVEntryFault(dictionary, entry).c_str());
         }
     }
 }
@@ -115,7 +105,7 @@ void tellFailure(QLatin1String name, const platform::PropertyListError& error)
     platform::notifications().post({name, nullptr, {}, QString::fromStdString(error.message)});
 }
 
-/** What the user does not choose: it is of the moment, or follows from num. */
+/** Fields that the user does not choose: they are transient, or follow from num. */
 constexpr std::array kNotChosen{offsetof(tagQVTabletInfo, Monitor.disableFlag),
     offsetof(tagQVTabletInfo, Monitor.XOrg), offsetof(tagQVTabletInfo, Monitor.Width),
     offsetof(tagQVTabletInfo, Monitor.YOrg), offsetof(tagQVTabletInfo, Monitor.Height)};

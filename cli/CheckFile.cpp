@@ -44,15 +44,8 @@ void checkEntry(const platform::Dictionary& root, const QVEntry& entry, Tally& t
         printLine("missing", path);
         break;
     case QVEntryResult::WrongType:
-        printLine("wrong", path,
-            QStringLiteral("%1 where %2 belongs")
-                .arg(QLatin1String(QVKindName(dictionary.kind(entry.key))),
-                    entry.type == QVFieldType::String ? QStringLiteral("a string")
-                                                      : QStringLiteral("a number")));
-        break;
     case QVEntryResult::Unfit:
-        printLine("wrong", path,
-            QStringLiteral("longer than %1 characters, or not ASCII").arg(kQVStringSize - 1));
+        printLine("wrong", path, QString::fromStdString(QVEntryFault(dictionary, entry)));
         break;
     }
 }
