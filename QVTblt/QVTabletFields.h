@@ -115,6 +115,6 @@ constexpr std::span<const QVEntry> QVEntriesOf(const QVSection& section, const c
     const auto isOfIt = [&](const QVEntry& entry) {
         return entry.section == &section && entry.slot == slot;
     };
-    const auto first = std::ranges::find_if(kQVEntries, isOfIt);
+    const auto* const first = std::ranges::find_if(kQVEntries, isOfIt);
     return {first, std::ranges::find_if_not(first, kQVEntries.end(), isOfIt)};
 }

@@ -59,8 +59,8 @@ QByteArray recordJson(const tagQVTabletInfo& record)
 
 const QVEntry* findEntry(const QString& path)
 {
-    const auto found = std::ranges::find(kQVEntries, path.toStdString(), QVEntryPath);
-    return found == kQVEntries.end() ? nullptr : &*found;
+    const auto* const found = std::ranges::find(kQVEntries, path.toStdString(), QVEntryPath);
+    return found == kQVEntries.end() ? nullptr : found;
 }
 
 std::optional<qint64> numberIn(const QString& words)
