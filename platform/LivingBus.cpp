@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "LivingBus.h"
 
+#include "Descriptor.h"
+
 #include <QByteArray>
 #include <QByteArrayList>
 #include <QDeadlineTimer>
@@ -19,28 +21,6 @@
 namespace platform {
 
 namespace {
-
-/** A socket that is closed with its scope. */
-class Socket {
-public:
-    Socket()
-        : mNumber(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0))
-    {
-    }
-    ~Socket()
-    {
-        if (mNumber >= 0) {
-            ::close(mNumber);
-        }
-    }
-    Socket(const Socket&) = delete;
-    Socket& operator=(const Socket&) = delete;
-
-    int number() const { return mNumber; }
-
-private:
-    int mNumber;
-};
 
 /** The addresses at which the bus is looked for, in their order. */
 QByteArrayList addresses()
@@ -72,9 +52,9 @@ std::optional<QByteArray> socketName(const QByteArray& address)
     return std::nullopt;
 }
 
-bool waitFor(const Socket& socket, short events, const QDeadlineTimer& deadline)
+bool waitFor(const Descriptor& socket, short events, const QDeadlineTimer& deadline)
 {
-    pollfd wanted{socket.number(), events, 0};
+    pollfd wanted{socket.get(), events, 0};
     int ready = 0;
     do {
         ready = ::poll(&wanted, 1, static_cast<int>(std::max<qint64>(deadline.remainingTime(), 0)));
@@ -83,13 +63,13 @@ bool waitFor(const Socket& socket, short events, const QDeadlineTimer& deadline)
 }
 
 /** Introduces itself, and waits for whatever the bus says to that. */
-bool isAnswered(const Socket& socket, const QDeadlineTimer& deadline)
+bool isAnswered(const Descriptor& socket, const QDeadlineTimer& deadline)
 {
     // The bus knows the user from the socket; the name is in hexadecimal digits.
     const QByteArray words = '\0' + QByteArrayLiteral("AUTH EXTERNAL ")
         + QByteArray::number(::getuid()).toHex() + "\r\n";
     const auto size = static_cast<std::size_t>(words.size());
-    return ::send(socket.number(), words.constData(), size, MSG_NOSIGNAL)
+    return ::send(socket.get(), words.constData(), size, MSG_NOSIGNAL)
         == static_cast<ssize_t>(size)
         && waitFor(socket, POLLIN, deadline);
 }
@@ -108,8 +88,8 @@ bool sessionBusAnswers(std::chrono::milliseconds limit)
         const auto length = static_cast<std::size_t>(name->size());
         place.sun_family = AF_UNIX;
         std::memcpy(place.sun_path, name->constData(), length);
-        const Socket socket;
-        if (::connect(socket.number(), reinterpret_cast<const sockaddr*>(&place),
+        const Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
+        if (::connect(socket.get(), reinterpret_cast<const sockaddr*>(&place),
                 static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + length))
             == 0) {
             return isAnswered(socket, deadline);

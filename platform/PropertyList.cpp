@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "PropertyList.h"
 
+#include "Descriptor.h"
 #include "PropertyListNode.h"
 
 #include <QByteArray>
@@ -32,28 +33,6 @@ std::string doing(const char* what, const std::string& path, const std::string& 
 {
     return std::string(what) + " " + path + ": " + why;
 }
-
-/** Closes a descriptor at the end of the scope. */
-class Descriptor {
-public:
-    explicit Descriptor(int fd)
-        : mFd(fd)
-    {
-    }
-    ~Descriptor()
-    {
-        if (mFd >= 0) {
-            ::close(mFd);
-        }
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int get() const { return mFd; }
-
-private:
-    int mFd;
-};
 
 std::string tooLarge()
 {
