@@ -86,23 +86,22 @@ void mapSingleDisplay()
 }
 
 /** Whether the driver has named a file. Without a name the path is the folder's: no file at all. */
-bool hasName(platform::PropertyListError& error)
+platform::Result<> checkName()
 {
     if (*GetPListName() != '\0') {
-        return true;
+        return {};
     }
-    error.missing = true;
-    error.message = "no configuration file is known, since no driver has named one";
-    return false;
+    return platform::Error{
+        QStringLiteral("no configuration file is known, since no driver has named one"), true};
 }
 
 /** Logs and posts why a file could not be used; only posts it where the file is missing. */
-void tellFailure(QLatin1String name, const platform::PropertyListError& error)
+void tellFailure(QLatin1String name, const platform::Error& error)
 {
-    if (!error.missing) {
-        qCWarning(lcStore, "%s", error.message.c_str());
+    if (!error.isMissingFile) {
+        qCWarning(lcStore, "%s", qUtf8Printable(error.text));
     }
-    platform::notifications().post({name, nullptr, {}, QString::fromStdString(error.message)});
+    platform::notifications().post({name, nullptr, {}, error.text});
 }
 
 /** Fields that the user does not choose: they are transient, or follow from num. */
@@ -124,19 +123,19 @@ std::string QVConfigStore::configPath()
 
 void QVConfigStore::ReadQVConfigPlist()
 {
-    platform::PropertyListError error;
-    if (!loadTabletsRecord(error)) {
-        tellFailure(kConfigNotLoadedNotification, error);
+    if (const auto list = loadTabletsRecord(); !list) {
+        tellFailure(kConfigNotLoadedNotification, list.error());
         return;
     }
     platform::notifications().post({kConfigLoadedNotification, nullptr, {}});
 }
 
-std::optional<platform::PropertyList> QVConfigStore::loadTabletsRecord(
-    platform::PropertyListError& error)
+platform::Result<platform::PropertyList> QVConfigStore::loadTabletsRecord()
 {
-    std::optional<platform::PropertyList> list =
-        hasName(error) ? loadRecord(configPath(), error) : std::nullopt;
+    if (const platform::Result<> named = checkName(); !named) {
+        return named.error();
+    }
+    platform::Result<platform::PropertyList> list = loadRecord(configPath());
     if (list) {
         if (list->root().dictionary(kQVMonitorSection.key).exists()) {
             mapSingleDisplay();
@@ -148,9 +147,9 @@ std::optional<platform::PropertyList> QVConfigStore::loadTabletsRecord(
 
 void QVConfigStore::WriteQVConfigPlist()
 {
-    platform::PropertyListError error;
-    if (!hasName(error) || !saveRecord(configPath(), error)) {
-        tellFailure(kConfigNotSavedNotification, error);
+    const platform::Result<> named = checkName();
+    if (const platform::Result<> saved = named ? saveRecord(configPath()) : named; !saved) {
+        tellFailure(kConfigNotSavedNotification, saved.error());
         return;
     }
     mInFile = qvTabletInfo;
@@ -166,10 +165,10 @@ bool QVConfigStore::hasUnsavedFields() const
     });
 }
 
-std::optional<platform::PropertyList> QVConfigStore::loadRecord(const std::string& path,
-    platform::PropertyListError& error, platform::PropertyListSource source)
+platform::Result<platform::PropertyList> QVConfigStore::loadRecord(
+    const std::string& path, platform::PropertyListSource source)
 {
-    std::optional<platform::PropertyList> list = platform::PropertyList::load(path, error, source);
+    platform::Result<platform::PropertyList> list = platform::PropertyList::load(path, source);
     if (list) {
         for (const QVSection* const section : kQVSections) {
             readSection(dictionaryIn(list->root(), section->key), *section);
@@ -178,11 +177,11 @@ std::optional<platform::PropertyList> QVConfigStore::loadRecord(const std::strin
     return list;
 }
 
-bool QVConfigStore::saveRecord(const std::string& path, platform::PropertyListError& error)
+platform::Result<> QVConfigStore::saveRecord(const std::string& path)
 {
-    const std::optional<platform::PropertyList> list = platform::PropertyList::load(path, error);
+    const platform::Result<platform::PropertyList> list = platform::PropertyList::load(path);
     if (!list) {
-        return false;
+        return list.error();
     }
     for (const QVSection* const section : kQVSections) {
         const platform::Dictionary dictionary = list->root().dictionary(section->key);
@@ -190,7 +189,7 @@ bool QVConfigStore::saveRecord(const std::string& path, platform::PropertyListEr
             writeSection(dictionary, *section);
         }
     }
-    return list->save(path, error);
+    return list->save(path);
 }
 
 void QVConfigStore::readSection(const platform::Dictionary& dictionary, const QVSection& section)

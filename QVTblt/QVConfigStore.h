@@ -9,7 +9,6 @@
 #include <QLatin1String>
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 /**
@@ -65,21 +64,16 @@ public:
     /**
      * ReadQVConfigPlist() for callers that do not observe notifications.
      *
-     * @return the file's contents; nothing when it cannot be used, and error then says why
+     * @return the file's contents
      */
-    std::optional<platform::PropertyList> loadTabletsRecord(platform::PropertyListError& error);
+    platform::Result<platform::PropertyList> loadTabletsRecord();
 
     /** The same of any configuration file, without regard to displays. */
-    std::optional<platform::PropertyList> loadRecord(const std::string& path,
-        platform::PropertyListError& error,
+    platform::Result<platform::PropertyList> loadRecord(const std::string& path,
         platform::PropertyListSource source = platform::PropertyListSource::RegularFile);
 
-    /**
-     * Saves the record's sections into any configuration file that is there.
-     *
-     * @return false when the file cannot be used or written, and error then says why
-     */
-    bool saveRecord(const std::string& path, platform::PropertyListError& error);
+    /** Saves the record's sections into any configuration file that is there. */
+    platform::Result<> saveRecord(const std::string& path);
 
 private:
     void readSection(const platform::Dictionary& dictionary, const QVSection& section);

@@ -99,11 +99,10 @@ void listAllUnknown(const platform::Dictionary& root, Tally& tally)
 
 bool checkFile(const QString& path)
 {
-    platform::PropertyListError error;
     const auto list = platform::PropertyList::load(
-        QFile::encodeName(path).toStdString(), error, platform::PropertyListSource::AnyFile);
+        QFile::encodeName(path).toStdString(), platform::PropertyListSource::AnyFile);
     if (!list) {
-        std::printf("unusable  %s\n", error.message.c_str());
+        std::printf("unusable  %s\n", qUtf8Printable(list.error().text));
         return false;
     }
     Tally tally;

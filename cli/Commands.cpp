@@ -23,6 +23,9 @@
 #include <cstring>
 #include <optional>
 
+using platform::Error;
+using platform::Result;
+
 namespace {
 
 int fail(const QString& why)
@@ -40,30 +43,27 @@ QString modelName(const tagQVTabletInfo& record)
             QString::number(productID));
 }
 
-/** Finds the tablet and loads its file. @return the file's contents; nothing when why says so */
-std::optional<platform::PropertyList> loadTablet(QVConfigStore& store, QString& why)
+/** Finds the tablet and loads its file. @return the file's contents */
+Result<platform::PropertyList> loadTablet(QVConfigStore& store)
 {
     if (!rzkgetQVDevice()) {
-        why = *GetPListName() == '\0' ? QStringLiteral("the driver does not answer")
-                                      : QStringLiteral("no tablet is attached");
-        return std::nullopt;
+        return Error{*GetPListName() == '\0' ? QStringLiteral("the driver does not answer")
+                                             : QStringLiteral("no tablet is attached")};
     }
-    platform::PropertyListError error;
-    auto list = store.loadTabletsRecord(error);
-    why = QString::fromStdString(error.message);
-    return list;
+    return store.loadTabletsRecord();
 }
 
-/** Pushes the record and waits for the driver. @return why it was not taken; empty on success */
-QString pushRecord()
+/** Pushes the record and waits for the driver to take it. */
+Result<> pushRecord()
 {
     if (!PushQVTabletInfo()) {
-        return QStringLiteral("the record could not be sent");
+        return Error{QStringLiteral("the record could not be sent")};
     }
     const platform::OSErr error = platform::events().finishSends();
-    return error == platform::noErr
-        ? QString()
-        : QStringLiteral("the driver did not take the record (error %1)").arg(error);
+    if (error != platform::noErr) {
+        return Error{QStringLiteral("the driver did not take the record (error %1)").arg(error)};
+    }
+    return {};
 }
 
 /** A call to the simulated tablet, which only a driver that is there may answer. */
@@ -76,19 +76,17 @@ QDBusMessage simulatorCall(const char* method)
     return call;
 }
 
-/** What the driver got last; an error in words when it cannot be had. */
-std::optional<tagQVTabletInfo> lastRecord(QString& why)
+/** What the driver got last. */
+Result<tagQVTabletInfo> lastRecord()
 {
     const QDBusReply<QByteArray> reply =
         QDBusConnection::sessionBus().call(simulatorCall("LastRecord"));
     if (!reply.isValid()) {
-        why =
-            QStringLiteral("the driver does not tell what it got: %1").arg(reply.error().message());
-        return std::nullopt;
+        return Error{QStringLiteral("the driver does not tell what it got: %1")
+                         .arg(reply.error().message())};
     }
     if (reply.value().size() != kQVRecordSize) {
-        why = QStringLiteral("the driver has not got a record yet");
-        return std::nullopt;
+        return Error{QStringLiteral("the driver has not got a record yet")};
     }
     tagQVTabletInfo record{};
     std::memcpy(&record, reply.value().constData(), sizeof record);
@@ -107,31 +105,26 @@ int runStatus()
         return kExitBad;
     }
     const std::string path = QVConfigStore::configPath();
-    QVConfigStore store;
-    platform::PropertyListError error;
-    const bool isUsable = store.loadRecord(path, error).has_value();
+    const auto list = QVConfigStore().loadRecord(path);
+    const bool isUsable = list.has_value();
     std::printf(
         "tablet  %s\n", isUsable ? qUtf8Printable(modelName(*GetqvTabletInfo())) : "attached");
-    std::printf("file    %s\n", isUsable ? path.c_str() : error.message.c_str());
+    std::printf("file    %s\n", isUsable ? path.c_str() : qUtf8Printable(list.error().text));
     return isUsable ? kExitGood : kExitBad;
 }
 
 int runShow(const std::optional<QString>& file, bool asJson)
 {
     if (!file) {
-        QString why;
-        const std::optional<tagQVTabletInfo> record = lastRecord(why);
+        const Result<tagQVTabletInfo> record = lastRecord();
         if (!record) {
-            return fail(why);
+            return fail(record.error().text);
         }
         *GetqvTabletInfo() = *record;
-    } else {
-        QVConfigStore store;
-        platform::PropertyListError error;
-        if (!store.loadRecord(QFile::encodeName(*file).toStdString(), error,
-                platform::PropertyListSource::AnyFile)) {
-            return fail(QString::fromStdString(error.message));
-        }
+    } else if (const auto list = QVConfigStore().loadRecord(
+                   QFile::encodeName(*file).toStdString(), platform::PropertyListSource::AnyFile);
+               !list) {
+        return fail(list.error().text);
     }
     const tagQVTabletInfo& record = *GetqvTabletInfo();
     const QByteArray text = asJson ? recordJson(record) : recordTable(record).toUtf8();
@@ -147,12 +140,10 @@ int runCheck(const QString& file)
 int runPush()
 {
     QVConfigStore store;
-    QString why;
-    if (loadTablet(store, why)) {
-        why = pushRecord();
-    }
-    if (!why.isEmpty()) {
-        return fail(why);
+    const auto list = loadTablet(store);
+    const Result<> pushed = list ? pushRecord() : list.error();
+    if (!pushed) {
+        return fail(pushed.error().text);
     }
     std::printf("pushed the settings of %s\n", qUtf8Printable(modelName(*GetqvTabletInfo())));
     return kExitGood;
@@ -168,27 +159,22 @@ int runSet(const QString& entry, const QString& value)
         return kExitUsage;
     }
     QVConfigStore store;
-    QString why;
-    const auto list = loadTablet(store, why);
+    const auto list = loadTablet(store);
     if (!list) {
-        return fail(why);
+        return fail(list.error().text);
     }
     // The panel adds no dictionaries.
     if (!QVEntryDictionary(list->root(), *found).exists()) {
         return fail(QStringLiteral("the tablet's file has no place for %1").arg(entry));
     }
-    why = setEntry(*GetqvTabletInfo(), *found, value);
-    if (!why.isEmpty()) {
-        fail(why);
+    if (const Result<> set = setEntry(*GetqvTabletInfo(), *found, value); !set) {
+        fail(set.error().text);
         return kExitUsage;
     }
-    why = pushRecord();
-    if (!why.isEmpty()) {
-        return fail(why);
-    }
-    platform::PropertyListError error;
-    if (!store.saveRecord(QVConfigStore::configPath(), error)) {
-        return fail(QString::fromStdString(error.message));
+    const Result<> pushed = pushRecord();
+    const Result<> saved = pushed ? store.saveRecord(QVConfigStore::configPath()) : pushed;
+    if (!saved) {
+        return fail(saved.error().text);
     }
     std::printf("set %s to %s\n", qUtf8Printable(entry), qUtf8Printable(value));
     return kExitGood;
@@ -197,16 +183,16 @@ int runSet(const QString& entry, const QString& value)
 int runUsbMode(bool isFast)
 {
     QVConfigStore store;
-    QString why;
-    if (!loadTablet(store, why)) {
-        return fail(why + QStringLiteral(", so it is not known which tablet to tell"));
+    if (const auto list = loadTablet(store); !list) {
+        return fail(
+            list.error().text + QStringLiteral(", so it is not known which tablet to tell"));
     }
     const auto productID = static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID);
-    const UsbModeResult result = setUsbMode(isFast, productID, modelName(*GetqvTabletInfo()));
-    if (!result.isDone) {
-        return fail(result.sentence);
+    const Result<QString> told = setUsbMode(isFast, productID, modelName(*GetqvTabletInfo()));
+    if (!told) {
+        return fail(told.error().text);
     }
-    std::puts(qUtf8Printable(result.sentence));
+    std::puts(qUtf8Printable(*told));
     return kExitGood;
 }
 

@@ -9,6 +9,8 @@
 
 #include <algorithm>
 
+using platform::Error;
+
 namespace {
 
 QJsonValue jsonValue(const QVEntry& entry, const tagQVTabletInfo& record)
@@ -71,7 +73,7 @@ std::optional<qint64> numberIn(const QString& words)
     return isNumber ? std::optional(number) : std::nullopt;
 }
 
-QString setEntry(tagQVTabletInfo& record, const QVEntry& entry, const QString& value)
+platform::Result<> setEntry(tagQVTabletInfo& record, const QVEntry& entry, const QString& value)
 {
     // The way of an entry out of a file is also the way of a value from the command line.
     const platform::PropertyList list;
@@ -80,19 +82,21 @@ QString setEntry(tagQVTabletInfo& record, const QVEntry& entry, const QString& v
     } else {
         const std::optional<qint64> number = numberIn(value);
         if (!number) {
-            return QStringLiteral("'%1' is no number").arg(value);
+            return Error{QStringLiteral("'%1' is no number").arg(value)};
         }
         list.root().setInteger(entry.key, *number);
     }
     switch (QVReadEntry(list.root(), entry, record)) {
     case QVEntryResult::Copied:
-        return QVWriteEntry(list.root(), entry, record)
-            ? QString()
-            : QStringLiteral("the text must not have control characters: no file could hold them");
+        if (!QVWriteEntry(list.root(), entry, record)) {
+            return Error{QStringLiteral(
+                "the text must not have control characters: no file could hold them")};
+        }
+        return {};
     case QVEntryResult::Truncated:
-        return QStringLiteral("%1 does not fit").arg(value);
+        return Error{QStringLiteral("%1 does not fit").arg(value)};
     default:
-        return QStringLiteral("the text must be ASCII and at most %1 characters long")
-            .arg(kQVStringSize - 1);
+        return Error{QStringLiteral("the text must be ASCII and at most %1 characters long")
+                         .arg(kQVStringSize - 1)};
     }
 }

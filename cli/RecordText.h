@@ -3,6 +3,7 @@
 #pragma once
 
 #include "QVTabletFields.h"
+#include "Result.h"
 
 #include <QByteArray>
 #include <QString>
@@ -21,5 +22,5 @@ const QVEntry* findEntry(const QString& path);
 /** A number in words: decimal, also with leading zeros, or hexadecimal with 0x before it. */
 std::optional<qint64> numberIn(const QString& words);
 
-/** Puts a value in words into the entry. @return why it does not fit; empty on success */
-QString setEntry(tagQVTabletInfo& record, const QVEntry& entry, const QString& value);
+/** Puts a value in words into the entry. */
+platform::Result<> setEntry(tagQVTabletInfo& record, const QVEntry& entry, const QString& value);

@@ -41,32 +41,30 @@ QString whyNotTaken(IOReturn error, const QString& name)
 
 } // namespace
 
-UsbModeResult setUsbMode(bool isFast, std::uint16_t productID, const QString& name)
+Result<QString> setUsbMode(bool isFast, std::uint16_t productID, const QString& name)
 {
     const ReportModeOutcome outcome =
         requestReportMode(isFast ? kQVReportFast : kQVReportNormal, productID);
     if (!outcome.isSearched) {
-        return {false, QStringLiteral("the USB bus cannot be searched")};
+        return Error{QStringLiteral("the USB bus cannot be searched")};
     }
     if (!outcome.isFound) {
-        return {false, QStringLiteral("there is no %1 on the USB bus").arg(name)};
+        return Error{QStringLiteral("there is no %1 on the USB bus").arg(name)};
     }
     if (outcome.requested == kIOReturnSuccess) {
-        return {true,
-            QStringLiteral("told the %1 to report %2")
-                .arg(name, isFast ? QStringLiteral("fast") : QStringLiteral("normally"))};
+        return QStringLiteral("told the %1 to report %2")
+            .arg(name, isFast ? QStringLiteral("fast") : QStringLiteral("normally"));
     }
     if (outcome.requested) {
-        return {false, whyNotTaken(*outcome.requested, name)};
+        return Error{whyNotTaken(*outcome.requested, name)};
     }
     if (outcome.opened) {
-        return {false, whyNotOpened(*outcome.opened, name)};
+        return Error{whyNotOpened(*outcome.opened, name)};
     }
     if (outcome.configurations && outcome.configurations != 1) {
-        return {false,
+        return Error{
             QStringLiteral("the %1 has %2 configurations instead of one, so it was left alone")
                 .arg(name, QString::number(*outcome.configurations))};
     }
-    return {
-        false, QStringLiteral("the %1 does not say what it is, so it was left alone").arg(name)};
+    return Error{QStringLiteral("the %1 does not say what it is, so it was left alone").arg(name)};
 }

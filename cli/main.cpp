@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Commands.h"
 #include "RecordText.h"
+#include "Result.h"
 
 #include <QCoreApplication>
 #include <QGuiApplication>
@@ -56,26 +57,26 @@ struct Command {
 constexpr std::array<Command, 7> kCommands{{{"status", 0, 0}, {"show", 0, 1}, {"check", 1, 1},
     {"push", 0, 0}, {"set", 2, 2}, {"usb-mode", 1, 1}, {"sim", 3, 3}}};
 
-/** Why the command line is none; empty when it is one. */
-QString misuse(const QStringList& words, bool asJson)
+/** Whether the words are a command line. */
+platform::Result<> checkUsage(const QStringList& words, bool asJson)
 {
     if (words.isEmpty()) {
-        return QStringLiteral("a command is missing");
+        return platform::Error{QStringLiteral("a command is missing")};
     }
     const auto* const command = std::ranges::find_if(
         kCommands, [&](const Command& one) { return words[0] == QLatin1String(one.name); });
     if (command == kCommands.end()) {
-        return QStringLiteral("there is no command '%1'").arg(words[0]);
+        return platform::Error{QStringLiteral("there is no command '%1'").arg(words[0])};
     }
     if (asJson && words[0] != QLatin1String("show")) {
-        return QStringLiteral("--json goes with show alone");
+        return platform::Error{QStringLiteral("--json goes with show alone")};
     }
     const auto count = words.size() - 1;
     if (count < command->least) {
-        return QStringLiteral("missing operand after '%1'").arg(words.constLast());
+        return platform::Error{QStringLiteral("missing operand after '%1'").arg(words.constLast())};
     }
     if (count > command->most) {
-        return QStringLiteral("extra operand '%1'").arg(words[command->most + 1]);
+        return platform::Error{QStringLiteral("extra operand '%1'").arg(words[command->most + 1])};
     }
     return {};
 }
@@ -205,9 +206,8 @@ int main(int argc, char* argv[])
             return usageError(QStringLiteral("there is no option '%1'").arg(argument));
         }
     }
-    const QString why = misuse(words, asJson);
-    if (!why.isEmpty()) {
-        return usageError(why);
+    if (const platform::Result<> usage = checkUsage(words, asJson); !usage) {
+        return usageError(usage.error().text);
     }
     int nameAlone = 1; // an operand is no option of Qt's
     const auto application = makeApplication(nameAlone, argv, words[0]);

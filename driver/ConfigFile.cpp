@@ -44,18 +44,17 @@ tagQVTabletInfo defaults(const QVTabletModel& model)
 
 } // namespace
 
-InstalledConfig installConfigFile(const QVTabletModel& model)
+platform::Result<InstalledConfig> installConfigFile(const QVTabletModel& model)
 {
     std::snprintf(GetPListName(), kQVListNameSize, "%u.plist", unsigned{model.productID});
     const std::string path = QVConfigStore::configPath();
-    InstalledConfig config{QFile::decodeName(path.c_str()), false, {}};
+    InstalledConfig config{QFile::decodeName(path.c_str()), false};
     // Even a broken link or a folder is left alone: it is the user's.
     if (QFileInfo(config.path).exists() || QFileInfo(config.path).isSymLink()) {
         return config;
     }
     if (!QDir().mkpath(QFileInfo(config.path).path())) {
-        config.error = QStringLiteral("cannot make the folder of %1").arg(config.path);
-        return config;
+        return platform::Error{QStringLiteral("cannot make the folder of %1").arg(config.path)};
     }
     const tagQVTabletInfo record = defaults(model);
     platform::PropertyList list;
@@ -68,8 +67,9 @@ InstalledConfig installConfigFile(const QVTabletModel& model)
     for (const QVEntry& entry : kQVEntries) {
         QVWriteEntry(QVEntryDictionary(list.root(), entry), entry, record);
     }
-    platform::PropertyListError error;
-    config.created = list.saveNew(path, error);
-    config.error = QString::fromStdString(error.message);
+    if (const platform::Result<> saved = list.saveNew(path); !saved) {
+        return saved.error();
+    }
+    config.created = true;
     return config;
 }

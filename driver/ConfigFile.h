@@ -3,6 +3,7 @@
 #pragma once
 
 #include "QVTabletModels.h"
+#include "Result.h"
 
 #include <QString>
 
@@ -10,11 +11,10 @@
 struct InstalledConfig {
     QString path;
     bool created = false; ///< false: it existed, and was not touched
-    QString error; ///< why it could not be created; empty on success
 };
 
 /**
  * Creates the model's configuration file, "<product ID>.plist", with every entry that a panel
  * knows. An existing file is never touched, whatever it contains.
  */
-InstalledConfig installConfigFile(const QVTabletModel& model);
+platform::Result<InstalledConfig> installConfigFile(const QVTabletModel& model);

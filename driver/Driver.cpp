@@ -110,7 +110,7 @@ Driver::Driver(AppleEvents& events, QDBusConnection bus)
         [this](const AppleEvent& event, AppleEvent& reply) { return takeSettings(event, reply); });
 }
 
-QString Driver::start(std::optional<std::uint16_t> productID)
+Result<> Driver::start(std::optional<std::uint16_t> productID)
 {
     const std::optional<DriverState> state = DriverState::load();
     if (state) {
@@ -119,29 +119,28 @@ QString Driver::start(std::optional<std::uint16_t> productID)
     const std::uint16_t remembered = state ? state->attached : kQVTabletModels.front().productID;
     mState.attached = 0;
     if (productID) {
-        return *productID == 0 ? QString() : attach(*productID);
+        return *productID == 0 ? Result<>() : attach(*productID);
     }
     if (remembered != 0) {
-        const QString error = attach(remembered);
-        if (!error.isEmpty()) {
-            say(error);
+        if (const Result<> attached = attach(remembered); !attached) {
+            say(attached.error().text);
         }
     }
     return {};
 }
 
-QString Driver::attach(std::uint16_t productID)
+Result<> Driver::attach(std::uint16_t productID)
 {
     const QVTabletModel* const model = QVFindModel(productID);
     if (model == nullptr) {
-        return QStringLiteral("there is no model with product %1").arg(productID);
+        return Error{QStringLiteral("there is no model with product %1").arg(productID)};
     }
-    const InstalledConfig config = installConfigFile(*model);
-    if (!config.error.isEmpty()) {
-        return config.error;
+    const Result<InstalledConfig> config = installConfigFile(*model);
+    if (!config) {
+        return config.error();
     }
-    if (config.created) {
-        say(QStringLiteral("installed %1").arg(config.path));
+    if (config->created) {
+        say(QStringLiteral("installed %1").arg(config->path));
     }
     setAttached(productID);
     return {};
@@ -172,13 +171,13 @@ void Driver::stall(std::uint32_t milliseconds)
     say(QStringLiteral("stalling for %1 ms before each event").arg(milliseconds));
 }
 
-QString Driver::tap(std::uint16_t x, std::uint16_t y)
+Result<> Driver::tap(std::uint16_t x, std::uint16_t y)
 {
     if (mState.attached == 0) {
-        return QStringLiteral("no tablet is attached");
+        return Error{QStringLiteral("no tablet is attached")};
     }
     if (!isCalibrating()) {
-        return QStringLiteral("nobody asks for the pen: no calibration is going on");
+        return Error{QStringLiteral("nobody asks for the pen: no calibration is going on")};
     }
     mReports.tap(x, y);
     wakeReports();
@@ -218,15 +217,15 @@ void Driver::penUp()
     wakeReports();
 }
 
-bool Driver::setReportRate(std::uint32_t perSecond)
+Result<> Driver::setReportRate(std::uint32_t perSecond)
 {
     if (perSecond < 1 || perSecond > ReportClock::kMostReports) {
-        return false;
+        return Error{QStringLiteral("a tablet makes 1 to 1000 reports in a second")};
     }
     mClock.setRate(perSecond);
     mSendReports.stop();
     wakeReports();
-    return true;
+    return {};
 }
 
 void Driver::wakeReports()
@@ -327,18 +326,16 @@ void Driver::panelHasGone(const QString& panel)
 void Driver::saveState()
 {
     mSaveSoon.stop();
-    const QString error = mState.save();
-    if (!error.isEmpty()) {
-        say(error);
+    if (const Result<> saved = mState.save(); !saved) {
+        say(saved.error().text);
     }
 }
 
 OSErr Driver::answerQuery(const AppleEvent& event, AppleEvent& reply)
 {
     QThread::msleep(mStall);
-    const QString error = queryFormError(event);
-    if (!error.isEmpty()) {
-        return refuse(event, error, reply);
+    if (const Result<> query = checkQuery(event); !query) {
+        return refuse(event, query.error(), reply);
     }
     const std::int32_t answer = mState.attached;
     say(QStringLiteral("query from %1: %2").arg(senderOf(event), QString::number(answer)));
@@ -348,19 +345,18 @@ OSErr Driver::answerQuery(const AppleEvent& event, AppleEvent& reply)
 OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
 {
     QThread::msleep(mStall);
-    const QString error = settingsFormError(event);
-    if (!error.isEmpty()) {
-        return refuse(event, error, reply);
+    const Result<QByteArray> record = pushedRecord(event);
+    if (!record) {
+        return refuse(event, record.error(), reply);
     }
-    const QByteArray record = *event.parameters.front().desc.bytes();
     ++mState.pushes;
     say(QStringLiteral("push %1 from %2: %3")
             .arg(mState.pushes)
-            .arg(senderOf(event), changes(mState.record, record)));
-    mState.record = record;
+            .arg(senderOf(event), changes(mState.record, *record)));
+    mState.record = *record;
     // Only a push from the panel itself ends its calibration; other programs push, too.
     if (const QByteArray* const sender = event.address.bytes()) {
-        if (recordIn(record).Monitor.disableFlag == 1) {
+        if (recordIn(*record).Monitor.disableFlag == 1) {
             beginCalibration(*sender);
         } else {
             endCalibration(*sender);
@@ -371,11 +367,11 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
     return noErr;
 }
 
-OSErr Driver::refuse(const AppleEvent& event, const QString& why, AppleEvent& reply)
+OSErr Driver::refuse(const AppleEvent& event, const Error& error, AppleEvent& reply)
 {
     say(QStringLiteral("refused %1/%2 from %3: %4")
             .arg(QLatin1String(quoted(event.eventClass)), QLatin1String(quoted(event.eventID)),
-                senderOf(event), why));
-    reply.parameters.push_back({keyErrorString, {typeUTF8Text, why.toUtf8()}});
+                senderOf(event), error.text));
+    reply.parameters.push_back({keyErrorString, {typeUTF8Text, error.text.toUtf8()}});
     return errAECoercionFail;
 }

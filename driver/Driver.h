@@ -5,6 +5,7 @@
 #include "AppleEvents.h"
 #include "DriverState.h"
 #include "PenReports.h"
+#include "Result.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
@@ -36,9 +37,9 @@ public:
      *
      * @param productID the model to attach, 0 for none; by default the last one attached, or the
      *     first of the table on the first run
-     * @return why the given model could not be attached; empty on success
+     * @return whether the given model could be attached
      */
-    QString start(std::optional<std::uint16_t> productID);
+    platform::Result<> start(std::optional<std::uint16_t> productID);
 
     /** Product ID of the attached tablet; 0 for none. */
     std::uint16_t attached() const { return mState.attached; }
@@ -49,8 +50,8 @@ public:
     /** Number of pushes so far. */
     std::uint32_t pushes() const { return mState.pushes; }
 
-    /** Attaches a model in place of any other. @return why it failed; empty on success */
-    QString attach(std::uint16_t productID);
+    /** Attaches a model in place of any other. */
+    platform::Result<> attach(std::uint16_t productID);
 
     /** Detaches the tablet, if any. */
     void detach();
@@ -66,9 +67,8 @@ public:
      * panel, at the report rate; without one, nothing happens.
      *
      * @param x in tablet units
-     * @return why it is not reported; empty on success
      */
-    QString tap(std::uint16_t x, std::uint16_t y);
+    platform::Result<> tap(std::uint16_t x, std::uint16_t y);
 
     /**
      * Presses the tip of the pen down until penUp(). Meanwhile, a calibrating panel gets the pen's
@@ -81,8 +81,8 @@ public:
     /** Lifts the tip; does nothing while it is up. */
     void penUp();
 
-    /** Sets the reports per second, 1 to 1000. @return whether the number is valid */
-    bool setReportRate(std::uint32_t perSecond);
+    /** Sets the reports per second, 1 to 1000.*/
+    platform::Result<> setReportRate(std::uint32_t perSecond);
 
     /** Writes the state to disk now. */
     void saveState();
@@ -98,8 +98,8 @@ Q_SIGNALS:
 private:
     platform::OSErr answerQuery(const platform::AppleEvent& event, platform::AppleEvent& reply);
     platform::OSErr takeSettings(const platform::AppleEvent& event, platform::AppleEvent& reply);
-    platform::OSErr refuse(
-        const platform::AppleEvent& event, const QString& why, platform::AppleEvent& reply);
+    platform::OSErr refuse(const platform::AppleEvent& event, const platform::Error& error,
+        platform::AppleEvent& reply);
     void setAttached(std::uint16_t productID);
     /** A panel calibrates; it becomes the newest, even if it was in the list already. */
     void beginCalibration(const QByteArray& panel);

@@ -77,7 +77,7 @@ std::optional<DriverState> DriverState::load()
     return DriverState{*attached, *record, *pushes};
 }
 
-QString DriverState::save() const
+platform::Result<> DriverState::save() const
 {
     const QString path = statePath();
     QDir().mkpath(QFileInfo(path).path());
@@ -92,5 +92,5 @@ QString DriverState::save() const
             return {};
         }
     }
-    return QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+    return platform::Error{QStringLiteral("cannot write %1: %2").arg(path, file.errorString())};
 }

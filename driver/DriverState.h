@@ -2,8 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Result.h"
+
 #include <QByteArray>
-#include <QString>
 
 #include <cstdint>
 #include <optional>
@@ -25,6 +26,6 @@ struct DriverState {
      */
     static std::optional<DriverState> load();
 
-    /** Replaces the file. @return why it failed; empty on success */
-    QString save() const;
+    /** Replaces the file. */
+    platform::Result<> save() const;
 };

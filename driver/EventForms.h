@@ -3,8 +3,9 @@
 #pragma once
 
 #include "AppleEvents.h"
+#include "Result.h"
 
-#include <QString>
+#include <QByteArray>
 
 /**
  * @file
@@ -12,8 +13,8 @@
  * change on one side of the wire shows at once on the other.
  */
 
-/** Why the event is not a query for the configuration file; empty if it is. */
-QString queryFormError(const platform::AppleEvent& event);
+/** Checks that the event is a query for the configuration file. */
+platform::Result<> checkQuery(const platform::AppleEvent& event);
 
-/** Why the event is not a push of a complete record; empty if it is. */
-QString settingsFormError(const platform::AppleEvent& event);
+/** The complete record that the event pushes. */
+platform::Result<QByteArray> pushedRecord(const platform::AppleEvent& event);

@@ -57,16 +57,15 @@ void TabletSimulator::Tap(ushort x, ushort y)
 
 void TabletSimulator::SetReportRate(uint perSecond)
 {
-    answer(mDriver.setReportRate(perSecond)
-            ? QString()
-            : QStringLiteral("a tablet makes 1 to 1000 reports in a second"));
+    answer(mDriver.setReportRate(perSecond));
 }
 
-void TabletSimulator::answer(const QString& error)
+void TabletSimulator::answer(const platform::Result<>& result)
 {
-    if (!error.isEmpty()) {
-        say(error);
-        sendErrorReply(QStringLiteral("org.quorvia.TabletSimulator.Error.Failed"), error);
+    if (!result) {
+        const QString& text = result.error().text;
+        say(text);
+        sendErrorReply(QStringLiteral("org.quorvia.TabletSimulator.Error.Failed"), text);
     }
 }
 

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Result.h"
+
 #include <QDBusContext>
 #include <QObject>
 #include <QVariantMap>
@@ -51,8 +53,8 @@ Q_SIGNALS:
     void Pushed(uint count);
 
 private:
-    /** Replies with the error, unless it is empty. */
-    void answer(const QString& error);
+    /** Replies with the error, if there is one. */
+    void answer(const platform::Result<>& result);
 
     Driver& mDriver;
 };

@@ -224,8 +224,8 @@ void TabletWindow::choose()
         mDriver.detach();
         return;
     }
-    const QString error = mDriver.attach(productID);
-    if (!error.isEmpty()) {
+    if (const platform::Result<> attached = mDriver.attach(productID); !attached) {
+        const QString& error = attached.error().text;
         say(error);
         showModel();
         const QString text = tr("The tablet is not attached: %1").arg(error);

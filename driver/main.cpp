@@ -144,12 +144,9 @@ int main(int argc, char* argv[])
         QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
     // Without the name, the user's files are left alone. Events that arrive from here on wait for
     // the event loop.
-    QString error = events.registerApplication(kQVDriverSignature);
-    if (error.isEmpty()) {
-        error = driver.start(productID);
-    }
-    if (!error.isEmpty()) {
-        return fail(error);
+    const platform::Result<> named = events.registerApplication(kQVDriverSignature);
+    if (const platform::Result<> started = named ? driver.start(productID) : named; !started) {
+        return fail(started.error().text);
     }
     // The bus itself announces that the driver has appeared.
     QObject::connect(&driver, &Driver::attachedChanged, application.get(),

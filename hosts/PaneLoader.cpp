@@ -14,11 +14,11 @@ LoadedPane loadPane(const QString& modulePath, const QString& resourcesPath)
     QPluginLoader loader(file);
     const auto* const plugin = qobject_cast<platform::PreferencePanePlugin*>(loader.instance());
     if (plugin == nullptr) {
-        return {nullptr, loader.errorString(), bundle};
+        return {platform::Error{loader.errorString()}, bundle};
     }
     std::unique_ptr<platform::PreferencePane> pane = plugin->makePane();
     if (pane->initWithBundle(bundle) == nullptr) {
-        return {nullptr, QStringLiteral("%1 refused its bundle").arg(file), bundle};
+        return {platform::Error{QStringLiteral("%1 refused its bundle").arg(file)}, bundle};
     }
-    return {std::move(pane), {}, bundle};
+    return {std::move(pane), bundle};
 }

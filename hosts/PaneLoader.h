@@ -3,6 +3,7 @@
 #pragma once
 
 #include "PreferencePane.h"
+#include "Result.h"
 
 #include <QString>
 
@@ -10,8 +11,7 @@
 
 /** The result of loadPane(). */
 struct LoadedPane {
-    std::unique_ptr<platform::PreferencePane> pane;
-    QString error; ///< for the user; empty on success
+    platform::Result<std::unique_ptr<platform::PreferencePane>> pane;
     platform::Bundle bundle; ///< the module's, even if there is no pane
 };
 

@@ -46,10 +46,9 @@ QHash<QString, QString> readTable(const std::optional<QString>& path)
     if (!path) {
         return strings;
     }
-    PropertyListError error;
-    const auto list = PropertyList::load(QFile::encodeName(*path).toStdString(), error);
+    const auto list = PropertyList::load(QFile::encodeName(*path).toStdString());
     if (!list) {
-        qCWarning(lcBundle, "%s", error.message.c_str());
+        qCWarning(lcBundle, "%s", qUtf8Printable(list.error().text));
         return strings;
     }
     for (const std::string& key : list->root().keys()) {

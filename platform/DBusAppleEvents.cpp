@@ -434,11 +434,11 @@ void DBusAppleEvents::acceptEventsFrom(FourCharCode signature)
     }
 }
 
-QString DBusAppleEvents::registerApplication(FourCharCode signature)
+Result<> DBusAppleEvents::registerApplication(FourCharCode signature)
 {
     QDBusConnection& bus = d->connection();
     if (!bus.isConnected()) {
-        return bus.lastError().message();
+        return Error{bus.lastError().message()};
     }
     const QString name = wire::busName(signature);
     d->mIsApplication = true;
@@ -448,7 +448,7 @@ QString DBusAppleEvents::registerApplication(FourCharCode signature)
         return {};
     }
     d->mIsApplication = false;
-    return QStringLiteral("another program has the name %1").arg(name);
+    return Error{QStringLiteral("another program has the name %1").arg(name)};
 }
 
 void DBusAppleEvents::announceChange()

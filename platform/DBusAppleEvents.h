@@ -3,6 +3,7 @@
 #pragma once
 
 #include "AppleEvents.h"
+#include "Result.h"
 
 #include <QDBusConnection>
 #include <QString>
@@ -33,11 +34,9 @@ public:
 
     /**
      * Becomes the application with that signature, to which everybody on the bus may send events.
-     *
-     * @return why it failed, for people: there is no bus, or another program has the name; empty on
-     *     success
+     * Fails without a bus, or if another program has the name.
      */
-    QString registerApplication(FourCharCode signature);
+    Result<> registerApplication(FourCharCode signature);
 
     /** Tells who accepts this application's events that it would now answer otherwise than before.
      */

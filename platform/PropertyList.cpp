@@ -24,43 +24,41 @@ namespace platform {
 
 namespace {
 
-std::string systemText(int error)
+QString systemText(int error)
 {
-    return std::system_category().message(error);
+    return QString::fromStdString(std::system_category().message(error));
 }
 
-std::string doing(const char* what, const std::string& path, const std::string& why)
+Error failure(const char* what, const std::string& path, const QString& why)
 {
-    return std::string(what) + " " + path + ": " + why;
+    return {
+        QStringLiteral("%1 %2: %3").arg(QLatin1String(what), QString::fromStdString(path), why)};
 }
 
-std::string tooLarge()
+Error tooLarge()
 {
-    return "it is larger than " + std::to_string(kPropertyListMaxSize) + " bytes";
+    return {QStringLiteral("it is larger than %1 bytes").arg(kPropertyListMaxSize)};
 }
 
 /** Reads a file whole; a regular one without ever waiting for another process. */
-std::optional<std::string> readFile(
-    const std::string& path, PropertyListError& error, PropertyListSource source)
+Result<std::string> readFile(const std::string& path, PropertyListSource source)
 {
     const bool isRegular = source == PropertyListSource::RegularFile;
-    const auto fail = [&](const std::string& why) {
-        error.message = doing("cannot read", path, why);
-        return std::nullopt;
-    };
+    const auto fail = [&](const QString& why) { return failure("cannot read", path, why); };
     // O_NONBLOCK: opening a FIFO would otherwise wait for a writer.
     const Descriptor file(
         ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | (isRegular ? O_NONBLOCK : 0)));
     if (file.get() < 0) {
-        error.missing = errno == ENOENT;
-        return fail(systemText(errno));
+        Error error = fail(systemText(errno));
+        error.isMissingFile = errno == ENOENT;
+        return error;
     }
     struct stat status { };
     if (::fstat(file.get(), &status) != 0) {
         return fail(systemText(errno));
     }
     if (isRegular && !S_ISREG(status.st_mode)) {
-        return fail("it is no regular file");
+        return fail(QStringLiteral("it is no regular file"));
     }
     // One byte more than the file is said to have shows that it has grown meanwhile.
     const auto size = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
@@ -76,7 +74,7 @@ std::optional<std::string> readFile(
         }
         used += static_cast<std::size_t>(got);
         if (used > kPropertyListMaxSize || size > kPropertyListMaxSize) {
-            return fail(tooLarge());
+            return fail(tooLarge().text);
         }
         if (got == 0) {
             bytes.resize(used);
@@ -89,22 +87,25 @@ std::optional<std::string> readFile(
 }
 
 /** Writes all bytes and has them on the disk before it returns. */
-std::string writeThrough(QFileDevice& file, const std::string& bytes)
+Result<> writeThrough(QFileDevice& file, const std::string& bytes)
 {
     // The last bytes that fit are written without an error; the next ones tell why no more do.
     for (std::size_t done = 0; done < bytes.size();) {
         const qint64 written =
             file.write(bytes.data() + done, static_cast<qint64>(bytes.size() - done));
         if (written <= 0) {
-            return file.errorString().toStdString();
+            return Error{file.errorString()};
         }
         done += static_cast<std::size_t>(written);
     }
     if (!file.flush()) {
-        return file.errorString().toStdString();
+        return Error{file.errorString()};
     }
     // Some file systems tell of a full disk only here.
-    return ::fsync(file.handle()) == 0 ? std::string() : systemText(errno);
+    if (::fsync(file.handle()) != 0) {
+        return Error{systemText(errno)};
+    }
+    return {};
 }
 
 } // namespace
@@ -293,35 +294,32 @@ PropertyList::PropertyList(PropertyList&&) noexcept = default;
 PropertyList& PropertyList::operator=(PropertyList&&) noexcept = default;
 PropertyList::~PropertyList() = default;
 
-std::optional<PropertyList> PropertyList::parse(std::string_view bytes, PropertyListError& error)
+Result<PropertyList> PropertyList::parse(std::string_view bytes)
 {
     if (bytes.size() > kPropertyListMaxSize) {
-        error.message = tooLarge();
-        return std::nullopt;
+        return tooLarge();
     }
-    std::optional<PropertyListNode> root = bytes.starts_with(kBinaryPropertyList)
-        ? readBinaryPropertyList(bytes, error.message)
-        : readXmlPropertyList(bytes, error.message);
+    Result<PropertyListNode> root = bytes.starts_with(kBinaryPropertyList)
+        ? readBinaryPropertyList(bytes)
+        : readXmlPropertyList(bytes);
     if (!root) {
-        return std::nullopt;
+        return root.error();
     }
     if (root->kind != Kind::Dictionary) {
-        error.message = "its root is no dictionary";
-        return std::nullopt;
+        return Error{QStringLiteral("its root is no dictionary")};
     }
     return PropertyList(std::move(*root));
 }
 
-std::optional<PropertyList> PropertyList::load(
-    const std::string& path, PropertyListError& error, PropertyListSource source)
+Result<PropertyList> PropertyList::load(const std::string& path, PropertyListSource source)
 {
-    const std::optional<std::string> bytes = readFile(path, error, source);
+    const Result<std::string> bytes = readFile(path, source);
     if (!bytes) {
-        return std::nullopt;
+        return bytes.error();
     }
-    std::optional<PropertyList> list = parse(*bytes, error);
+    Result<PropertyList> list = parse(*bytes);
     if (!list) {
-        error.message = doing("cannot use", path, error.message);
+        return failure("cannot use", path, list.error().text);
     }
     return list;
 }
@@ -333,71 +331,69 @@ std::string PropertyList::toXml() const
 
 namespace {
 
-/** Why the XML is not the list, so that it must not take the place of a file; empty when it is. */
-std::string whyNotTheSame(const std::string& xml, const PropertyListNode& root)
+/** The list in XML, if that is the list, so that it may take the place of a file. */
+Result<std::string> xmlToSave(const PropertyListNode& root)
 {
+    std::string xml = writeXmlPropertyList(root);
     if (xml.size() > kPropertyListMaxSize) {
-        return "in XML, " + tooLarge();
+        return Error{QStringLiteral("in XML, ") + tooLarge().text};
     }
-    std::string why;
-    const std::optional<PropertyListNode> again = readXmlPropertyList(xml, why);
-    if (again && *again == root) {
-        return {};
+    const Result<PropertyListNode> again = readXmlPropertyList(xml);
+    if (!again || *again != root) {
+        return Error{QStringLiteral("it holds text that XML cannot hold")
+            + (again ? QString() : QStringLiteral(": ") + again.error().text)};
     }
-    return "it holds text that XML cannot hold" + (again ? std::string() : ": " + why);
+    return xml;
+}
+
+Result<> replaceFile(const QString& path, const std::string& bytes)
+{
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
+        return Error{file.errorString()};
+    }
+    if (Result<> written = writeThrough(file, bytes); !written) {
+        return written;
+    }
+    if (!file.commit()) {
+        return Error{file.errorString()};
+    }
+    return {};
+}
+
+Result<> makeFile(const QString& path, const std::string& bytes)
+{
+    QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
+    if (!file.open()) {
+        return Error{file.errorString()};
+    }
+    if (Result<> written = writeThrough(file, bytes); !written) {
+        return written;
+    }
+    // A link, unlike a rename, never replaces a file that came into being meanwhile.
+    if (::fchmod(file.handle(), S_IRUSR | S_IWUSR) != 0
+        || ::link(
+               QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData())
+            != 0) {
+        return Error{systemText(errno)};
+    }
+    return {};
 }
 
 } // namespace
 
-bool PropertyList::save(const std::string& path, PropertyListError& error) const
+Result<> PropertyList::save(const std::string& path) const
 {
-    QSaveFile file(QFile::decodeName(QByteArray::fromStdString(path)));
-    const std::string xml = toXml();
-    std::string why = whyNotTheSame(xml, *mRoot);
-    if (!why.empty()) {
-        // The old file stays: it holds what the new one could not.
-    } else if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        why = file.errorString().toStdString();
-    } else {
-        why = writeThrough(file, xml);
-        if (!why.empty()) {
-            file.cancelWriting();
-        }
-        if (!file.commit() && why.empty()) {
-            why = file.errorString().toStdString();
-        }
-    }
-    if (!why.empty()) {
-        error.message = doing("cannot write", path, why);
-        return false;
-    }
-    return true;
+    const Result<std::string> xml = xmlToSave(*mRoot);
+    const Result<> saved = xml ? replaceFile(QFile::decodeName(path.c_str()), *xml) : xml.error();
+    return saved ? saved : failure("cannot write", path, saved.error().text);
 }
 
-bool PropertyList::saveNew(const std::string& path, PropertyListError& error) const
+Result<> PropertyList::saveNew(const std::string& path) const
 {
-    QTemporaryFile file(
-        QFile::decodeName(QByteArray::fromStdString(path)) + QStringLiteral(".XXXXXX"));
-    const std::string xml = toXml();
-    std::string why = whyNotTheSame(xml, *mRoot);
-    if (!why.empty()) {
-        // No program could read it.
-    } else if (!file.open()) {
-        why = file.errorString().toStdString();
-    } else {
-        why = writeThrough(file, xml);
-        // A link, unlike a rename, never replaces a file that came into being meanwhile.
-        if (why.empty()
-            && (::fchmod(file.handle(), S_IRUSR | S_IWUSR) != 0
-                || ::link(QFile::encodeName(file.fileName()).constData(), path.c_str()) != 0)) {
-            why = systemText(errno);
-        }
-    }
-    if (!why.empty()) {
-        error.message = doing("cannot create", path, why);
-        return false;
-    }
-    return true;
+    const Result<std::string> xml = xmlToSave(*mRoot);
+    const Result<> saved = xml ? makeFile(QFile::decodeName(path.c_str()), *xml) : xml.error();
+    return saved ? saved : failure("cannot create", path, saved.error().text);
 }
 
 } // namespace platform

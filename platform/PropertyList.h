@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Result.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -117,12 +119,6 @@ enum class PropertyListSource : std::uint8_t {
     AnyFile, ///< also a pipe or a terminal, up to its end
 };
 
-/** Why a file could not be loaded or saved. */
-struct PropertyListError {
-    bool missing = false; ///< there is no such file
-    std::string message; ///< what was being done, then the system's text
-};
-
 /** A property list whose root is a dictionary. */
 class PropertyList {
 public:
@@ -130,11 +126,11 @@ public:
     PropertyList();
 
     /** Loads a file of at most kPropertyListMaxSize bytes. */
-    static std::optional<PropertyList> load(const std::string& path, PropertyListError& error,
-        PropertyListSource source = PropertyListSource::RegularFile);
+    static Result<PropertyList> load(
+        const std::string& path, PropertyListSource source = PropertyListSource::RegularFile);
 
     /** The same from bytes in memory. */
-    static std::optional<PropertyList> parse(std::string_view bytes, PropertyListError& error);
+    static Result<PropertyList> parse(std::string_view bytes);
 
     PropertyList(PropertyList&&) noexcept;
     PropertyList& operator=(PropertyList&&) noexcept;
@@ -152,10 +148,10 @@ public:
      * over the file. The file's mode stays. What is written has been parsed again and found to be
      * this list. On failure the old file stands and the temporary one is gone.
      */
-    bool save(const std::string& path, PropertyListError& error) const;
+    Result<> save(const std::string& path) const;
 
     /** Like save, but fails where a file already stands at the path. */
-    bool saveNew(const std::string& path, PropertyListError& error) const;
+    Result<> saveNew(const std::string& path) const;
 
 private:
     explicit PropertyList(PropertyListNode root);

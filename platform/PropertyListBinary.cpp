@@ -93,12 +93,11 @@ public:
     {
     }
 
-    std::optional<Node> read(std::string& why)
+    Result<Node> read()
     {
         Node root;
         if (!readTrailer() || !readNode(mTop, root, 0)) {
-            why = std::move(mWhy);
-            return std::nullopt;
+            return Error{QString::fromStdString(mWhy)};
         }
         return root;
     }
@@ -360,9 +359,9 @@ private:
 
 } // namespace
 
-std::optional<PropertyListNode> readBinaryPropertyList(std::string_view bytes, std::string& why)
+Result<PropertyListNode> readBinaryPropertyList(std::string_view bytes)
 {
-    return BinaryReader(bytes).read(why);
+    return BinaryReader(bytes).read();
 }
 
 } // namespace platform

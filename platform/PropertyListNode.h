@@ -53,9 +53,8 @@ inline constexpr std::size_t kPropertyListMaxNodes = 1'000'000;
 /** How every binary list begins, whatever its version. */
 inline constexpr std::string_view kBinaryPropertyList = "bplist";
 
-/** Both read a list; without one, why says what is wrong. */
-std::optional<PropertyListNode> readXmlPropertyList(std::string_view bytes, std::string& why);
-std::optional<PropertyListNode> readBinaryPropertyList(std::string_view bytes, std::string& why);
+Result<PropertyListNode> readXmlPropertyList(std::string_view bytes);
+Result<PropertyListNode> readBinaryPropertyList(std::string_view bytes);
 
 /** The list in XML. */
 std::string writeXmlPropertyList(const PropertyListNode& root);

@@ -112,7 +112,7 @@ public:
         mXml.addData(text);
     }
 
-    std::optional<Node> read(std::string& why)
+    Result<Node> read()
     {
         while (mWhy.empty() && !mXml.atEnd()) {
             step();
@@ -129,8 +129,7 @@ public:
             mWhy = "it holds no value";
         }
         if (!mWhy.empty()) {
-            why = std::move(mWhy);
-            return std::nullopt;
+            return Error{QString::fromStdString(mWhy)};
         }
         return std::move(mRoot);
     }
@@ -404,9 +403,9 @@ void writeNode(std::string& xml, const Node& node, std::size_t depth)
 
 } // namespace
 
-std::optional<PropertyListNode> readXmlPropertyList(std::string_view bytes, std::string& why)
+Result<PropertyListNode> readXmlPropertyList(std::string_view bytes)
 {
-    return XmlReader(bytes).read(why);
+    return XmlReader(bytes).read();
 }
 
 std::string writeXmlPropertyList(const PropertyListNode& root)

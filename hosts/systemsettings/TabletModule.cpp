@@ -43,13 +43,13 @@ TabletModule::TabletModule(ModuleParent* parent, const ModuleArguments& argument
         auto* const label = new QLabel(loaded.bundle.localizedString(QStringLiteral("CannotShow"),
                                            QStringLiteral("The tablet's settings cannot be shown."),
                                            QStringLiteral("InfoPlist"))
-            + u'\n' + loaded.error);
+            + u'\n' + loaded.pane.error().text);
         label->setWordWrap(true);
         layout->addWidget(label);
         return;
     }
     setButtons(Apply); // includes Reset
-    mArea = new PaneArea(std::move(loaded.pane), &widget);
+    mArea = new PaneArea(std::move(*loaded.pane), &widget);
     mArea->setChangeHandler([this](bool isChanged) { unmanagedWidgetChangeState(isChanged); });
     layout->addWidget(mArea);
 }

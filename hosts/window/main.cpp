@@ -122,14 +122,15 @@ int main(int argc, char* argv[])
         QDir(QCoreApplication::applicationDirPath()).filePath(QStringLiteral(QVTBLT_MODULE_PATH));
     LoadedPane loaded = loadPane(modulePath, QStringLiteral(QVTBLT_RESOURCES_PATH));
     if (!loaded.pane) {
-        say(stderr, QStringLiteral("qvtblt: cannot load the panel: %1").arg(loaded.error));
+        say(stderr,
+            QStringLiteral("qvtblt: cannot load the panel: %1").arg(loaded.pane.error().text));
         return kFailure;
     }
     QTranslator qtTexts;
     if (loadQtTexts(qtTexts, loaded.bundle)) {
         QCoreApplication::installTranslator(&qtTexts);
     }
-    PaneWindow window(std::move(loaded.pane));
+    PaneWindow window(std::move(*loaded.pane));
     if (parser.isSet(renderOption)) {
         return render(window, parser.value(renderOption));
     }

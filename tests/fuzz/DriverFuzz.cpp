@@ -35,7 +35,10 @@ namespace {
 constexpr int kMostSteps = 16;
 
 struct Bus {
-    Bus() { require(events.registerApplication(kQVDriverSignature).isEmpty(), "the name is free"); }
+    Bus()
+    {
+        require(events.registerApplication(kQVDriverSignature).has_value(), "the name is free");
+    }
 
     TemporaryHome home;
     FakeBus bus;
@@ -70,7 +73,7 @@ struct Program {
     {
         bus.events.connection().registerObject(QLatin1String(kQVSimulatorPath), &simulator,
             QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
-        require(driver.start(kQVTabletModels.front().productID).isEmpty(), "there is a tablet");
+        require(driver.start(kQVTabletModels.front().productID).has_value(), "there is a tablet");
     }
 
     Bus& bus;
@@ -138,7 +141,7 @@ extern "C" int LLVMFuzzerInitialize(int* argc, char*** argv)
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
 {
     static auto& bus = *new Bus;
-    DriverState().save();
+    require(DriverState().save().has_value(), "the state can be saved");
     Program program(bus);
     Driver& driver = program.driver;
 

@@ -115,11 +115,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     fillRecord('A');
     const tagQVTabletInfo before = qvTabletInfo;
     QVConfigStore store;
-    PropertyListError error;
-    const auto list = PropertyList::load(path.toStdString(), error);
+    const auto list = PropertyList::load(path.toStdString());
     store.ReadQVConfigPlist();
     if (!list) {
-        require(!error.message.empty(), "a file is refused with a reason");
+        require(!list.error().text.isEmpty(), "a file is refused with a reason");
         require(sameRecord(qvTabletInfo, before), "a broken file leaves the record");
         require(!save(store).empty(), "a broken file cannot be saved into");
         require(contents(path) == std::string(reinterpret_cast<const char*>(data), size),
@@ -139,11 +138,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     // Unknown entries are written back unchanged.
     const std::string xml = list->toXml();
-    const auto again = PropertyList::parse(xml, error);
+    const auto again = PropertyList::parse(xml);
     require(again.has_value(), "what is written can be read");
     require(again->toXml() == xml, "what is written is read as it was");
     require(sameRecord(qvTabletInfo, loaded), "a save leaves the record");
-    const auto saved = PropertyList::load(path.toStdString(), error);
+    const auto saved = PropertyList::load(path.toStdString());
     require(saved.has_value(), "a saved file can be loaded");
     requireStored(saved->root(), loaded);
 

@@ -31,7 +31,7 @@ QString tableOf(const TemporaryHome& home, const char* language)
     return folder + QStringLiteral("/InfoPlist.strings");
 }
 
-QString textOf(const std::optional<PropertyList>& list, const std::string& key)
+QString textOf(const Result<PropertyList>& list, const std::string& key)
 {
     const auto text = list ? list->root().string(key.c_str()) : std::nullopt;
     if (text) {
@@ -61,8 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     static_cast<void>(hasEnglish);
     putFile(table, {data, size});
 
-    PropertyListError error;
-    const auto list = PropertyList::load(table.toStdString(), error);
+    const auto list = PropertyList::load(table.toStdString());
     std::vector<std::string> keys{"Ok", "NoDevice"};
     if (list) {
         for (const std::string& key : list->root().keys()) {

@@ -7,6 +7,7 @@
 #include "Client.h"
 #include "DBusAppleEvents.h"
 #include "DriverProcess.h"
+#include "ErrorText.h"
 #include "Notifications.h"
 #include "Peer.h"
 #include "PlainWire.h"
@@ -1197,7 +1198,7 @@ TEST_F(DriverLink, anApplicationTakesEverybodysEvents)
 {
     DBusAppleEvents application;
     application.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
-    EXPECT_EQ(application.registerApplication(kQVDriverSignature), QString());
+    EXPECT_EQ(errorText(application.registerApplication(kQVDriverSignature)), "");
     Peer anybody(mBus);
     EXPECT_EQ(sendTo(application, anybody, event(1, 2, {})).type(), QDBusMessage::ReplyMessage);
 }
@@ -1207,8 +1208,8 @@ TEST_F(DriverLink, anApplicationWithoutItsNameTakesNobodysEvents)
     DBusAppleEvents application;
     application.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });
     Peer other(mBus, kDriverName);
-    EXPECT_EQ(application.registerApplication(kQVDriverSignature),
-        QStringLiteral("another program has the name org.quorvia.AppleEvents.TdSg"));
+    EXPECT_EQ(errorText(application.registerApplication(kQVDriverSignature)),
+        "another program has the name org.quorvia.AppleEvents.TdSg");
     EXPECT_EQ(sendTo(application, other, event(1, 2, {})).errorName(),
         QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
 }
@@ -1218,7 +1219,7 @@ TEST_F(DriverLink, anApplicationsAnnouncementIsAChangeOfTheSource)
     mEvents.acceptEventsFrom(kQVDriverSignature);
     const int& changes = countOf(kSourceChangedNotification);
     DBusAppleEvents application;
-    EXPECT_EQ(application.registerApplication(kQVDriverSignature), QString());
+    EXPECT_EQ(errorText(application.registerApplication(kQVDriverSignature)), "");
     EXPECT_EQ(waitForCount(changes, 1), 1);
     application.announceChange();
     EXPECT_EQ(waitForCount(changes, 2), 2);

@@ -4,6 +4,7 @@
 // Saving while the process is killed, the disk is full, or the folder is not writable: with real
 // file systems and signals.
 
+#include "ErrorText.h"
 #include "FakeDisplays.h"
 #include "QVConfigStore.h"
 #include "SampleConfig.h"
@@ -126,8 +127,7 @@ TEST_F(SaveFaults, aKillAtAnyMomentLeavesTheOldOrTheNewFileWhole)
         ::waitpid(child, nullptr, 0);
 
         setGeneration(-2);
-        platform::PropertyListError error;
-        ASSERT_TRUE(mStore.loadRecord(mPath.toStdString(), error)) << error.message;
+        ASSERT_EQ(errorText(mStore.loadRecord(mPath.toStdString())), "");
         const std::int16_t found = generation();
         ASSERT_GE(found, last) << "a mix of two saves, or one that was lost";
         advanced += found > last ? 1 : 0;

@@ -69,8 +69,7 @@ protected:
     tagQVTabletInfo recordInFile()
     {
         const tagQVTabletInfo before = qvTabletInfo;
-        platform::PropertyListError error;
-        QVConfigStore().loadRecord(mHome.configFile(7).toStdString(), error);
+        EXPECT_TRUE(QVConfigStore().loadRecord(mHome.configFile(7).toStdString()));
         return std::exchange(qvTabletInfo, before);
     }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "QVConfigEntry.h"
 
+#include "ErrorText.h"
 #include "SampleConfig.h"
 
 #include <gtest/gtest.h>
@@ -26,10 +27,9 @@ public:
 
     QVEntryResult read(const QByteArray& value)
     {
-        platform::PropertyListError error;
-        const auto list = PropertyList::parse(
-            plist("<dict><key>k</key>" + value + "</dict>").toStdString(), error);
-        EXPECT_TRUE(list) << error.message;
+        const auto list =
+            PropertyList::parse(plist("<dict><key>k</key>" + value + "</dict>").toStdString());
+        EXPECT_TRUE(list) << errorText(list);
         return list ? QVReadEntry(list->root(), mEntry, mRecord) : QVEntryResult::Absent;
     }
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "QVConfigStore.h"
 
+#include "ErrorText.h"
 #include "FakeDisplays.h"
 #include "Notifications.h"
 #include "QVConfigEntry.h"
@@ -49,9 +50,8 @@ protected:
 
     std::int64_t numberInFile(const char* section, const char* key)
     {
-        platform::PropertyListError error;
-        const auto list = platform::PropertyList::load(mPath.toStdString(), error);
-        EXPECT_TRUE(list) << error.message;
+        const auto list = platform::PropertyList::load(mPath.toStdString());
+        EXPECT_TRUE(list) << errorText(list);
         const auto number = list->root().dictionary(section).number(key);
         EXPECT_TRUE(number) << section << '/' << key;
         return number ? number->longValue() : 0;
@@ -228,9 +228,8 @@ TEST_F(QVConfigStoreFile, savesEveryFieldOfTheThreeSectionsAndNothingOfTheTablet
     }
     EXPECT_EQ(write(), "");
 
-    platform::PropertyListError error;
-    const auto list = platform::PropertyList::load(mPath.toStdString(), error);
-    ASSERT_TRUE(list) << error.message;
+    const auto list = platform::PropertyList::load(mPath.toStdString());
+    ASSERT_TRUE(list) << errorText(list);
     int saved = 0;
     for (const QVEntry& entry : kQVEntries) {
         const std::string path = QVEntryPath(entry);
@@ -294,8 +293,7 @@ TEST_F(QVConfigStoreFile, whatThePanelDoesNotKnowSurvivesASave)
     writeFile(mPath, config);
     read();
     write();
-    platform::PropertyListError error;
-    const auto list = platform::PropertyList::load(mPath.toStdString(), error);
+    const auto list = platform::PropertyList::load(mPath.toStdString());
     ASSERT_TRUE(list);
     const platform::Dictionary root = list->root();
     EXPECT_TRUE(root.dictionary("Future").number("a"));

@@ -75,10 +75,9 @@ protected:
     void edit(const std::function<void(tagQVTabletInfo&)>& change)
     {
         const tagQVTabletInfo before = qvTabletInfo;
-        platform::PropertyListError error;
-        ASSERT_TRUE(QVConfigStore().loadRecord(mHome.configFile(7).toStdString(), error));
+        ASSERT_TRUE(QVConfigStore().loadRecord(mHome.configFile(7).toStdString()));
         change(qvTabletInfo);
-        ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString(), error));
+        ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString()));
         // The panel never writes the model's own entries.
         QString config = QString::fromUtf8(readFile(mHome.configFile(7)));
         static const QRegularExpression kProduct(

@@ -16,10 +16,10 @@ protected:
     std::string sentence(bool isFast = true)
     {
         testing::internal::CaptureStderr();
-        const UsbModeResult result = setUsbMode(isFast, 7, QStringLiteral("Slate"));
+        const Result<QString> told = setUsbMode(isFast, 7, QStringLiteral("Slate"));
         testing::internal::GetCapturedStderr();
-        mIsDone = result.isDone;
-        return result.sentence.toStdString();
+        mIsDone = told.has_value();
+        return (told ? *told : told.error().text).toStdString();
     }
 
     FakeUsb mUsb;

@@ -3,6 +3,7 @@
 #include "TabletWindow.h"
 
 #include "Driver.h"
+#include "ErrorText.h"
 #include "FakeEvents.h"
 #include "LayoutModels.h"
 #include "QVWire.h"
@@ -51,7 +52,7 @@ protected:
     void attach(std::uint16_t productID)
     {
         testing::internal::CaptureStdout();
-        EXPECT_EQ(mDriver.attach(productID), QString());
+        EXPECT_EQ(errorText(mDriver.attach(productID)), "");
         testing::internal::GetCapturedStdout();
     }
 

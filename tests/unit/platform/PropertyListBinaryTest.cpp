@@ -3,6 +3,7 @@
 
 // The binary form: what is accepted, what is rejected and why.
 
+#include "ErrorText.h"
 #include "PropertyList.h"
 
 #include <gtest/gtest.h>
@@ -21,10 +22,10 @@ namespace {
 /** The error for the bytes, with any root; empty if they are a list. */
 std::string errorOfBinary(const std::string& bytes)
 {
-    PropertyListError error;
-    const auto list = PropertyList::parse(bytes, error);
-    EXPECT_EQ(list.has_value(), error.message.empty());
-    return error.message == "its root is no dictionary" ? std::string() : error.message;
+    const auto list = PropertyList::parse(bytes);
+    const std::string error = errorText(list);
+    EXPECT_EQ(list.has_value(), error.empty());
+    return error == "its root is no dictionary" ? std::string() : error;
 }
 
 /** Builds the binary form object by object; offsets and references have two bytes. */
@@ -352,10 +353,9 @@ std::string xmlOf(const std::string& object)
     const std::size_t key = list.add("\x51k");
     const std::size_t value = list.add(object);
     const std::size_t root = list.add("\xD1" + Binary::number(key, 2) + Binary::number(value, 2));
-    PropertyListError error;
-    const auto parsed = PropertyList::parse(list.finish(root), error);
+    const auto parsed = PropertyList::parse(list.finish(root));
     if (!parsed) {
-        return error.message;
+        return errorText(parsed);
     }
     const std::string xml = parsed->toXml();
     const std::size_t begin = xml.find("</key>\n\t") + 8;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "PropertyList.h"
 
+#include "ErrorText.h"
 #include "SampleConfig.h"
 #include "TemporaryHome.h"
 
@@ -34,9 +35,8 @@ namespace {
 
 PropertyList parsed(const QByteArray& entries)
 {
-    PropertyListError error;
-    auto list = PropertyList::parse(plist("<dict>" + entries + "</dict>").toStdString(), error);
-    EXPECT_TRUE(list) << error.message;
+    auto list = PropertyList::parse(plist("<dict>" + entries + "</dict>").toStdString());
+    EXPECT_TRUE(list) << errorText(list);
     return list ? std::move(*list) : PropertyList();
 }
 
@@ -46,11 +46,10 @@ std::string loadError(const QByteArray& bytes)
     const TemporaryHome home;
     const QString path = home.path() + QStringLiteral("/list.plist");
     writeFile(path, bytes);
-    PropertyListError error;
-    EXPECT_FALSE(PropertyList::load(path.toStdString(), error));
-    EXPECT_FALSE(error.missing);
+    const auto list = PropertyList::load(path.toStdString());
+    EXPECT_FALSE(list || list.error().isMissingFile);
     EXPECT_EQ(readFile(path), bytes);
-    return error.message;
+    return errorText(list);
 }
 
 std::int16_t shortOf(const QByteArray& value)
@@ -82,12 +81,11 @@ std::string errorOfName(const QString& name)
         {QStringLiteral("-c"), QStringLiteral("exec -a \"$0\" cat"), name});
     process.write("it has its name\n");
     EXPECT_TRUE(process.waitForReadyRead());
-    PropertyListError error;
-    EXPECT_FALSE(
-        PropertyList::load("/proc/" + std::to_string(process.processId()) + "/cmdline", error));
+    const auto list =
+        PropertyList::load("/proc/" + std::to_string(process.processId()) + "/cmdline");
     process.closeWriteChannel();
     EXPECT_TRUE(process.waitForFinished());
-    return error.message;
+    return errorText(list);
 }
 
 } // namespace
@@ -189,9 +187,8 @@ TEST(PropertyList, whatWasNotChangedComesBackAsItWas)
         "<key>nested</key><dict><key>list</key><array><integer>1</integer><string>two</string>"
         "<array/><dict/></array></dict>";
     const PropertyList list = parsed(entries);
-    PropertyListError error;
-    const auto again = PropertyList::parse(list.toXml(), error);
-    ASSERT_TRUE(again) << error.message;
+    const auto again = PropertyList::parse(list.toXml());
+    ASSERT_TRUE(again) << errorText(again);
     EXPECT_EQ(again->toXml(), list.toXml());
     EXPECT_EQ(again->root().string("text"), "a & b < \xC3\xA9 \xE2\x8C\x98\n\t \"'");
     EXPECT_EQ(again->root().keys(), list.root().keys());
@@ -223,23 +220,22 @@ TEST(PropertyList, theBinaryFormIsLoadedAndWrittenAsXml)
     const TemporaryHome home;
     const QString path = home.path() + QStringLiteral("/list.plist");
     writeFile(path, QByteArray::fromStdString(toBinary(sampleConfig())));
-    PropertyListError error;
-    const auto list = PropertyList::load(path.toStdString(), error);
-    ASSERT_TRUE(list) << error.message;
-    ASSERT_TRUE(list->save(path.toStdString(), error)) << error.message;
+    const auto list = PropertyList::load(path.toStdString());
+    ASSERT_TRUE(list) << errorText(list);
+    ASSERT_EQ(errorText(list->save(path.toStdString())), "");
     EXPECT_TRUE(readFile(path).startsWith("<?xml"));
-    const auto again = PropertyList::load(path.toStdString(), error);
-    ASSERT_TRUE(again) << error.message;
+    const auto again = PropertyList::load(path.toStdString());
+    ASSERT_TRUE(again) << errorText(again);
     EXPECT_EQ(again->toXml(), list->toXml());
 }
 
 TEST(PropertyList, aMissingFileIsToldFromABrokenOne)
 {
     const TemporaryHome home;
-    PropertyListError error;
-    EXPECT_FALSE(PropertyList::load((home.path() + QStringLiteral("/none")).toStdString(), error));
-    EXPECT_TRUE(error.missing);
-    EXPECT_FALSE(error.message.empty());
+    const auto list = PropertyList::load((home.path() + QStringLiteral("/none")).toStdString());
+    ASSERT_FALSE(list);
+    EXPECT_TRUE(list.error().isMissingFile);
+    EXPECT_FALSE(errorText(list).empty());
 }
 
 TEST(PropertyList, anEmptyFileIsNone)
@@ -266,8 +262,7 @@ TEST(PropertyList, aFileCutOffAnywhereIsRefused)
     const QByteArray whole = sampleConfig();
     const auto end = whole.lastIndexOf("</plist>") + 8;
     for (int length = 0; length < whole.size(); ++length) {
-        PropertyListError error;
-        const auto list = PropertyList::parse(whole.left(length).toStdString(), error);
+        const auto list = PropertyList::parse(whole.left(length).toStdString());
         EXPECT_EQ(list.has_value(), length >= end) << "cut after " << length;
     }
 }
@@ -276,8 +271,7 @@ TEST(PropertyList, aBinaryFileCutOffAnywhereIsRefused)
 {
     const std::string whole = toBinary(sampleConfig());
     for (std::size_t length = 0; length < whole.size(); ++length) {
-        PropertyListError error;
-        EXPECT_FALSE(PropertyList::parse(whole.substr(0, length), error)) << length;
+        EXPECT_FALSE(PropertyList::parse(whole.substr(0, length))) << length;
     }
 }
 
@@ -288,8 +282,7 @@ TEST(PropertyList, aBinaryFileWithAnyByteChangedDoesNoHarm)
         for (const int change : {0x01, 0x10, 0x80, 0xFF}) {
             std::string bytes = whole;
             bytes[at] = static_cast<char>(bytes[at] ^ change);
-            PropertyListError error;
-            const auto list = PropertyList::parse(bytes, error);
+            const auto list = PropertyList::parse(bytes);
             if (list) {
                 list->toXml();
             }
@@ -302,13 +295,12 @@ TEST(PropertyList, aBinaryFileWithAKeyTwiceIsReadAsItIsWritten)
     std::string bytes = toBinary(plist("<dict><key>one</key><integer>1</integer>"
                                        "<key>two</key><integer>2</integer></dict>"));
     bytes.replace(bytes.find("two"), 3, "one");
-    PropertyListError error;
-    const auto list = PropertyList::parse(bytes, error);
-    ASSERT_TRUE(list) << error.message;
+    const auto list = PropertyList::parse(bytes);
+    ASSERT_TRUE(list) << errorText(list);
     EXPECT_EQ(list->root().keys(), std::vector<std::string>{"one"});
     EXPECT_EQ(list->root().number("one")->longValue(), 2);
-    const auto written = PropertyList::parse(list->toXml(), error);
-    ASSERT_TRUE(written) << error.message;
+    const auto written = PropertyList::parse(list->toXml());
+    ASSERT_TRUE(written) << errorText(written);
     EXPECT_EQ(written->root().number("one")->longValue(), 2);
 }
 
@@ -318,9 +310,8 @@ TEST(PropertyList, aFileThatIsTooBigIsRefusedUnread)
     const QString path = home.path() + QStringLiteral("/big.plist");
     writeFile(path, sampleConfig());
     ASSERT_EQ(::truncate(path.toStdString().c_str(), 100'000'000), 0);
-    PropertyListError error;
-    EXPECT_FALSE(PropertyList::load(path.toStdString(), error));
-    EXPECT_NE(error.message.find("larger than 16777216 bytes"), std::string::npos);
+    const auto list = PropertyList::load(path.toStdString());
+    EXPECT_NE(errorText(list).find("larger than 16777216 bytes"), std::string::npos);
 }
 
 TEST(PropertyList, aFolderAFifoOrADeviceInItsPlaceIsRefusedWithoutWaiting)
@@ -330,10 +321,10 @@ TEST(PropertyList, aFolderAFifoOrADeviceInItsPlaceIsRefusedWithoutWaiting)
     const std::string fifo = folder + "/fifo";
     ASSERT_EQ(::mkfifo(fifo.c_str(), S_IRUSR | S_IWUSR), 0);
     for (const std::string& path : {folder, fifo, std::string("/dev/zero")}) {
-        PropertyListError error;
-        EXPECT_FALSE(PropertyList::load(path, error)) << path;
-        EXPECT_NE(error.message.find("no regular file"), std::string::npos) << error.message;
-        EXPECT_FALSE(error.missing);
+        const auto list = PropertyList::load(path);
+        ASSERT_FALSE(list) << path;
+        EXPECT_NE(errorText(list).find("no regular file"), std::string::npos) << errorText(list);
+        EXPECT_FALSE(list.error().isMissingFile);
     }
 }
 
@@ -344,9 +335,9 @@ TEST(PropertyList, savingKeepsTheFilesMode)
     writeFile(QString::fromStdString(path), sampleConfig());
     for (const mode_t mode : {0600U, 0644U, 0664U}) {
         ASSERT_EQ(::chmod(path.c_str(), mode), 0);
-        PropertyListError error;
-        const auto list = PropertyList::load(path, error);
-        ASSERT_TRUE(list && list->save(path, error)) << error.message;
+        const auto list = PropertyList::load(path);
+        ASSERT_TRUE(list) << errorText(list);
+        ASSERT_EQ(errorText(list->save(path)), "");
         struct stat status { };
         ASSERT_EQ(::stat(path.c_str(), &status), 0);
         EXPECT_EQ(status.st_mode & 07777U, mode);
@@ -360,11 +351,10 @@ TEST(PropertyList, savingThroughALinkChangesWhatItLeadsTo)
     const std::string link = home.path().toStdString() + "/link.plist";
     writeFile(QString::fromStdString(real), sampleConfig());
     ASSERT_EQ(::symlink(real.c_str(), link.c_str()), 0);
-    PropertyListError error;
-    const auto list = PropertyList::load(link, error);
+    const auto list = PropertyList::load(link);
     ASSERT_TRUE(list);
     list->root().setString("new", "entry");
-    ASSERT_TRUE(list->save(link, error)) << error.message;
+    ASSERT_EQ(errorText(list->save(link)), "");
     EXPECT_TRUE(QFileInfo(QString::fromStdString(link)).isSymLink());
     EXPECT_TRUE(readFile(QString::fromStdString(real)).contains("<key>new</key>"));
 }
@@ -377,13 +367,13 @@ public:
     explicit Saved(const QByteArray& bytes)
     {
         writeFile(mPath, bytes);
-        PropertyListError error;
-        const auto list = PropertyList::load(mPath.toStdString(), error);
-        EXPECT_TRUE(list) << error.message;
+        const auto list = PropertyList::load(mPath.toStdString());
+        EXPECT_TRUE(list) << errorText(list);
         if (list) {
             list->root().setInteger("ours", 1);
-            mIsSaved = list->save(mPath.toStdString(), error);
-            mWhy = error.message;
+            const Result<> saved = list->save(mPath.toStdString());
+            mIsSaved = saved.has_value();
+            mWhy = errorText(saved);
         }
         mIsAsBefore = readFile(mPath) == bytes;
     }
@@ -481,9 +471,8 @@ TEST(PropertyList, aStringOfTheBinaryFormThatXmlCannotHoldIsReadButNotSaved)
         EXPECT_TRUE(saved.isAsBefore());
         EXPECT_NE(saved.why().find("it holds text that XML cannot hold: "), std::string::npos)
             << saved.why();
-        PropertyListError error;
-        const auto list = PropertyList::parse(bytes.toStdString(), error);
-        ASSERT_TRUE(list) << error.message;
+        const auto list = PropertyList::parse(bytes.toStdString());
+        ASSERT_TRUE(list) << errorText(list);
         EXPECT_EQ(list->root().string("k"), text.toStdString()) << "it is not cut off";
     }
     const Saved saved(binaryWithString("a\rb\tc"));
@@ -535,12 +524,11 @@ TEST(PropertyList, whatIsNoTextIsNotSaved)
     const QString path = home.path() + QStringLiteral("/list.plist");
     writeFile(path, sampleConfig());
     for (const char* const text : {"\x01", "caf\xE9", "\xED\xA0\x80"}) {
-        PropertyListError error;
-        const auto list = PropertyList::load(path.toStdString(), error);
+        const auto list = PropertyList::load(path.toStdString());
         ASSERT_TRUE(list);
         list->root().setString("k", text);
-        EXPECT_FALSE(list->save(path.toStdString(), error));
-        EXPECT_FALSE(list->saveNew(path.toStdString() + ".new", error));
+        EXPECT_FALSE(list->save(path.toStdString()));
+        EXPECT_FALSE(list->saveNew(path.toStdString() + ".new"));
         EXPECT_EQ(readFile(path), sampleConfig());
     }
     EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
@@ -555,16 +543,16 @@ TEST(PropertyList, aPipeIsReadWhereThatIsAskedFor)
         config.size());
     ::close(pipe[1]);
     const std::string path = "/dev/fd/" + std::to_string(pipe[0]);
-    PropertyListError error;
-    EXPECT_FALSE(PropertyList::load(path, error));
-    const auto list = PropertyList::load(path, error, PropertyListSource::AnyFile);
+    EXPECT_FALSE(PropertyList::load(path));
+    const auto list = PropertyList::load(path, PropertyListSource::AnyFile);
     ::close(pipe[0]);
-    ASSERT_TRUE(list) << error.message;
+    ASSERT_TRUE(list) << errorText(list);
     EXPECT_EQ(list->root().dictionary("Tablet").number("VendorID")->longValue(), 1);
-    EXPECT_FALSE(PropertyList::load("/dev/zero", error, PropertyListSource::AnyFile));
-    EXPECT_NE(error.message.find("larger than 16777216 bytes"), std::string::npos) << error.message;
-    EXPECT_FALSE(PropertyList::load("/", error, PropertyListSource::AnyFile));
-    EXPECT_NE(error.message.find(std::system_category().message(EISDIR)), std::string::npos);
+    const std::string endless =
+        errorText(PropertyList::load("/dev/zero", PropertyListSource::AnyFile));
+    EXPECT_NE(endless.find("larger than 16777216 bytes"), std::string::npos) << endless;
+    const std::string folder = errorText(PropertyList::load("/", PropertyListSource::AnyFile));
+    EXPECT_NE(folder.find(std::system_category().message(EISDIR)), std::string::npos) << folder;
 }
 
 TEST(PropertyList, aNewFileIsWrittenOnlyWhereThereIsNone)
@@ -573,12 +561,11 @@ TEST(PropertyList, aNewFileIsWrittenOnlyWhereThereIsNone)
     const QString path = home.path() + QStringLiteral("/new.plist");
     PropertyList list;
     list.root().addDictionary("Pen").setInteger("Speed", -7);
-    PropertyListError error;
-    ASSERT_TRUE(list.saveNew(path.toStdString(), error)) << error.message;
+    ASSERT_EQ(errorText(list.saveNew(path.toStdString())), "");
     const QByteArray bytes = readFile(path);
     EXPECT_TRUE(bytes.contains("<integer>-7</integer>"));
     list.root().setString("other", "text");
-    EXPECT_FALSE(list.saveNew(path.toStdString(), error));
+    EXPECT_FALSE(list.saveNew(path.toStdString()));
     EXPECT_EQ(readFile(path), bytes);
     EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
@@ -619,12 +606,11 @@ TEST(PropertyList, aListOfTheGreatestSizeIsTakenAndNoLargerOne)
     QByteArray bytes = sampleConfig();
     bytes.append(static_cast<int>(kPropertyListMaxSize) - bytes.size(), ' ');
     writeFile(path, bytes);
-    PropertyListError error;
-    EXPECT_TRUE(PropertyList::load(path.toStdString(), error)) << error.message;
+    EXPECT_EQ(errorText(PropertyList::load(path.toStdString())), "");
     bytes.append(' ');
     EXPECT_NE(loadError(bytes).find("larger than 16777216 bytes"), std::string::npos);
-    EXPECT_FALSE(PropertyList::parse(bytes.toStdString(), error));
-    EXPECT_EQ(error.message, "it is larger than 16777216 bytes");
+    EXPECT_EQ(
+        errorText(PropertyList::parse(bytes.toStdString())), "it is larger than 16777216 bytes");
 }
 
 TEST(PropertyList, aFileThatIsLongerThanItSaysIsReadWhole)
@@ -643,9 +629,8 @@ TEST(PropertyList, leavesNoFileOpen)
         return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries).size();
     };
     const auto before = open();
-    PropertyListError error;
-    EXPECT_TRUE(PropertyList::load(path.toStdString(), error));
-    EXPECT_FALSE(PropertyList::load(home.path().toStdString(), error));
+    EXPECT_TRUE(PropertyList::load(path.toStdString()));
+    EXPECT_FALSE(PropertyList::load(home.path().toStdString()));
     EXPECT_EQ(open(), before);
 }
 
@@ -656,8 +641,7 @@ TEST(PropertyList, readsAndClosesAFileThatIsItsFirstDescriptor)
     writeFile(path, sampleConfig());
     const int input = ::dup(STDIN_FILENO);
     ::close(STDIN_FILENO); // the next file takes its number, 0
-    PropertyListError error;
-    EXPECT_TRUE(PropertyList::load(path.toStdString(), error)) << error.message;
+    EXPECT_EQ(errorText(PropertyList::load(path.toStdString())), "");
     EXPECT_EQ(::fcntl(STDIN_FILENO, F_GETFD), -1) << "it is closed";
     if (input >= 0) {
         ::dup2(input, STDIN_FILENO);
@@ -669,10 +653,10 @@ TEST(PropertyList, saysWhyAFileThatOpensCannotBeRead)
 {
     // A regular file according to stat(), but its beginning cannot be read.
     const std::string path = "/proc/self/mem";
-    PropertyListError error;
-    EXPECT_FALSE(PropertyList::load(path, error));
-    EXPECT_EQ(error.message, "cannot read " + path + ": " + std::system_category().message(EIO));
-    EXPECT_FALSE(error.missing);
+    const auto list = PropertyList::load(path);
+    ASSERT_FALSE(list);
+    EXPECT_EQ(errorText(list), "cannot read " + path + ": " + std::system_category().message(EIO));
+    EXPECT_FALSE(list.error().isMissingFile);
 }
 
 TEST(PropertyList, keepsNoMemoryOfAListThatHasGone)
@@ -681,8 +665,7 @@ TEST(PropertyList, keepsNoMemoryOfAListThatHasGone)
     const QString path = home.path() + QStringLiteral("/list.plist");
     writeFile(path, sampleConfig());
     const auto readOne = [name = path.toStdString()] {
-        PropertyListError error;
-        const auto list = PropertyList::load(name, error);
+        const auto list = PropertyList::load(name);
         return list ? list->root().keys().size() + list->toXml().size() : 0;
     };
     constexpr std::size_t kTimes = 100;
@@ -702,9 +685,8 @@ TEST(PropertyList, anInterruptionOfSomethingBeforeIsNone)
     const QString path = home.path() + QStringLiteral("/list.plist");
     writeFile(path, sampleConfig());
     const std::string name = path.toStdString();
-    PropertyListError error;
     errno = EINTR; // must stay after a success
-    EXPECT_TRUE(PropertyList::load(name, error)) << error.message;
+    EXPECT_EQ(errorText(PropertyList::load(name)), "");
 }
 
 TEST(PropertyList, saysWhyNoMoreThanAByteCanBeWritten)
@@ -716,21 +698,19 @@ TEST(PropertyList, saysWhyNoMoreThanAByteCanBeWritten)
     ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
     struct rlimit one = before;
     one.rlim_cur = 1;
-    PropertyListError error;
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &one), 0);
-    const bool isSaved = PropertyList().save(path, error);
+    const Result<> saved = PropertyList().save(path);
     ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
     std::signal(SIGXFSZ, handlerBefore);
-    EXPECT_FALSE(isSaved);
-    EXPECT_EQ(error.message, "cannot write " + path + ": " + std::system_category().message(EFBIG));
+    EXPECT_EQ(
+        errorText(saved), "cannot write " + path + ": " + std::system_category().message(EFBIG));
 }
 
 TEST(PropertyList, aNewFileIsItsOwnersAlone)
 {
     const TemporaryHome home;
     const std::string path = home.path().toStdString() + "/new.plist";
-    PropertyListError error;
-    ASSERT_TRUE(PropertyList().saveNew(path, error)) << error.message;
+    ASSERT_EQ(errorText(PropertyList().saveNew(path)), "");
     struct stat status { };
     ASSERT_EQ(::stat(path.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777U, 0600U);
@@ -740,14 +720,12 @@ TEST(PropertyList, saysWhyANewFileCannotBeMade)
 {
     const TemporaryHome home;
     const std::string folder = home.path().toStdString();
-    PropertyListError error;
-    EXPECT_FALSE(PropertyList().saveNew(folder + "/none/new.plist", error));
+    const std::string error = errorText(PropertyList().saveNew(folder + "/none/new.plist"));
     const std::string before = "cannot create " + folder + "/none/new.plist: ";
-    EXPECT_TRUE(error.message.starts_with(before)) << error.message;
-    EXPECT_GT(error.message.size(), before.size());
-    ASSERT_TRUE(PropertyList().saveNew(folder + "/new.plist", error));
-    EXPECT_FALSE(PropertyList().saveNew(folder + "/new.plist", error));
-    EXPECT_EQ(error.message,
+    EXPECT_TRUE(error.starts_with(before)) << error;
+    EXPECT_GT(error.size(), before.size());
+    ASSERT_TRUE(PropertyList().saveNew(folder + "/new.plist"));
+    EXPECT_EQ(errorText(PropertyList().saveNew(folder + "/new.plist")),
         "cannot create " + folder + "/new.plist: " + std::system_category().message(EEXIST));
 }
 

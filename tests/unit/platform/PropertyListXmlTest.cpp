@@ -3,6 +3,7 @@
 
 // The XML form: what is accepted, what is rejected and why.
 
+#include "ErrorText.h"
 #include "PropertyList.h"
 #include "SampleConfig.h"
 
@@ -20,10 +21,10 @@ namespace {
 /** The error for the bytes, with any root; empty if they are a list. */
 std::string errorOfBytes(const std::string& bytes)
 {
-    PropertyListError error;
-    const auto list = PropertyList::parse(bytes, error);
-    EXPECT_EQ(list.has_value(), error.message.empty());
-    return error.message == "its root is no dictionary" ? std::string() : error.message;
+    const auto list = PropertyList::parse(bytes);
+    const std::string error = errorText(list);
+    EXPECT_EQ(list.has_value(), error.empty());
+    return error == "its root is no dictionary" ? std::string() : error;
 }
 
 std::string errorOf(const std::string& root)
@@ -56,9 +57,8 @@ std::string nested(int depth)
 /** The string k of a list; or the error. */
 std::string stringIn(const std::string& bytes)
 {
-    PropertyListError error;
-    const auto list = PropertyList::parse(bytes, error);
-    return list ? std::string(list->root().string("k").value_or("no string")) : error.message;
+    const auto list = PropertyList::parse(bytes);
+    return list ? std::string(list->root().string("k").value_or("no string")) : errorText(list);
 }
 
 /** Text in UTF-16, optionally with a byte-order mark. */
@@ -124,10 +124,9 @@ TEST(PropertyListXml, takesIntegersOf64BitsAndKeepsThemToTheLetter)
 {
     for (const char* const good : {"0", "-0", "7", "+7", " 7 ", "007", "-08",
              "-9223372036854775808", "18446744073709551615", "0x10", "0XfF", "-0x10", "\n7\t"}) {
-        PropertyListError error;
         const auto list =
-            PropertyList::parse(entry(std::string("<integer>") + good + "</integer>"), error);
-        ASSERT_TRUE(list) << good << ": " << error.message;
+            PropertyList::parse(entry(std::string("<integer>") + good + "</integer>"));
+        ASSERT_TRUE(list) << good << ": " << errorText(list);
         EXPECT_NE(list->toXml().find(std::string(">") + good + "<"), std::string::npos) << good;
     }
     for (const char* const bad : {"", " ", "-", "0x", "abc", "1 2", "1.5", "--1", "+-1",
@@ -140,9 +139,8 @@ TEST(PropertyListXml, takesIntegersOf64BitsAndKeepsThemToTheLetter)
 
 TEST(PropertyListXml, aLeadingZeroIsNoOtherBase)
 {
-    PropertyListError error;
-    const auto list = PropertyList::parse(entry("<integer>-010</integer>"), error);
-    ASSERT_TRUE(list) << error.message;
+    const auto list = PropertyList::parse(entry("<integer>-010</integer>"));
+    ASSERT_TRUE(list) << errorText(list);
     EXPECT_EQ(list->root().number("k")->longValue(), -10);
 }
 
@@ -228,13 +226,11 @@ TEST(PropertyListXml, refusesWhatStandsInTheWrongPlace)
 
 TEST(PropertyListXml, ofAKeyThatStandsTwiceTheLastValueCounts)
 {
-    PropertyListError error;
     const auto list = PropertyList::parse(
         "<dict><key>a</key><integer>1</integer><key>b</key><integer>2</integer>"
         "<key>a</key><dict><key>x</key><true/></dict><key>c</key><integer>3</integer>"
-        "<key>b</key><integer>4</integer><key>a</key><integer>5</integer></dict>",
-        error);
-    ASSERT_TRUE(list) << error.message;
+        "<key>b</key><integer>4</integer><key>a</key><integer>5</integer></dict>");
+    ASSERT_TRUE(list) << errorText(list);
     EXPECT_EQ(list->root().keys(), (std::vector<std::string>{"a", "b", "c"}));
     EXPECT_EQ(list->root().number("a")->longValue(), 5);
     EXPECT_EQ(list->root().number("b")->longValue(), 4);
