@@ -129,7 +129,7 @@ void PaneShell::didSelect()
     mPane->didSelect();
 }
 
-QString PaneShell::willUnselect()
+platform::Result<> PaneShell::willUnselect()
 {
     const bool hasChanges = mPane->hasDevice() && mPane->hasChanges();
     if (!mNotLoaded.isEmpty() && !hasChanges) {
@@ -137,7 +137,10 @@ QString PaneShell::willUnselect()
     }
     mNotSaved.clear();
     mPane->willUnselect();
-    return hasChanges ? mNotSaved : QString();
+    if (hasChanges && !mNotSaved.isEmpty()) {
+        return platform::Error{mNotSaved};
+    }
+    return {};
 }
 
 void PaneShell::didUnselect()
@@ -158,9 +161,9 @@ void PaneShell::end()
 void PaneShell::showAnew()
 {
     closeDialogs();
-    const QString lost = willUnselect();
+    const platform::Result<> kept = willUnselect();
     comeAgain();
-    mNotKept = lost;
+    mNotKept = kept ? QString() : kept.error().text;
     showNotice();
 }
 
@@ -200,11 +203,11 @@ void PaneShell::closeDialogs() const
     }
 }
 
-PaneShell::Unsaved PaneShell::askAboutUnsaved(const QString& why, bool canStay)
+PaneShell::Unsaved PaneShell::askAboutUnsaved(const platform::Error& error, bool canStay)
 {
     // Its parent may be destroyed, and the message box with it, before the user answers.
     const QPointer<QMessageBox> question = new QMessageBox(QMessageBox::Warning, windowTitle(),
-        tr("The tablet's settings could not be saved: %1").arg(why),
+        tr("The tablet's settings could not be saved: %1").arg(error.text),
         QMessageBox::Retry | QMessageBox::Discard, window());
     question->setTextFormat(Qt::PlainText);
     if (canStay) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "PreferencePane.h"
+#include "Result.h"
 
 #include <QWidget>
 
@@ -58,12 +59,8 @@ public:
 
     void willSelect();
     void didSelect();
-    /**
-     * Has the pane save its settings.
-     *
-     * @return why the user's changes could not be saved; empty if none are lost
-     */
-    QString willUnselect();
+    /** Has the pane save its settings; fails if changes of the user's could not be saved. */
+    platform::Result<> willUnselect();
     void didUnselect();
     /** Leaves the pane if it is still selected, before the shell is destroyed. */
     void end();
@@ -73,11 +70,11 @@ public:
     /**
      * Asks the user. The shell may be destroyed before the answer.
      *
-     * @param why from willUnselect()
+     * @param error from willUnselect()
      * @param canStay whether the host can still go back; without an answer, the result is then
      *     Stay, otherwise Discard
      */
-    Unsaved askAboutUnsaved(const QString& why, bool canStay);
+    Unsaved askAboutUnsaved(const platform::Error& error, bool canStay);
 
     /** Saves the settings. */
     void save();

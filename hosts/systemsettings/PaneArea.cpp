@@ -50,12 +50,12 @@ void PaneArea::unselect()
     }
     const QPointer<PaneArea> area(this);
     for (;;) {
-        const QString why = mShell->willUnselect();
+        const platform::Result<> saved = mShell->willUnselect();
         // Do not delay a logout.
-        if (why.isEmpty() || qGuiApp->isSavingSession()) {
+        if (saved || qGuiApp->isSavingSession()) {
             break;
         }
-        const PaneShell::Unsaved answer = mShell->askAboutUnsaved(why, false);
+        const PaneShell::Unsaved answer = mShell->askAboutUnsaved(saved.error(), false);
         if (area.isNull() || !mShell->isSelected()) {
             return; // the host has moved on while the user was asked
         }

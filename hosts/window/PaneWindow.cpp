@@ -50,7 +50,7 @@ void PaneWindow::select()
 void PaneWindow::unselect()
 {
     if (mShell->isSelected()) {
-        mShell->willUnselect();
+        static_cast<void>(mShell->willUnselect()); // nobody is there to be asked
         hide();
         mShell->didUnselect();
     }
@@ -62,12 +62,12 @@ void PaneWindow::closeEvent(QCloseEvent* event)
         return;
     }
     for (;;) {
-        const QString why = mShell->willUnselect();
+        const platform::Result<> saved = mShell->willUnselect();
         // Do not delay a logout.
-        if (why.isEmpty() || qGuiApp->isSavingSession()) {
+        if (saved || qGuiApp->isSavingSession()) {
             break;
         }
-        const PaneShell::Unsaved answer = mShell->askAboutUnsaved(why, true);
+        const PaneShell::Unsaved answer = mShell->askAboutUnsaved(saved.error(), true);
         if (answer == PaneShell::Unsaved::Stay) {
             event->ignore();
             return;
