@@ -182,8 +182,7 @@ std::string QVFieldText(const QVEntry& entry, const tagQVTabletInfo& record)
     if (entry.type != QVFieldType::String) {
         return std::to_string(QVFieldNumber(entry, record));
     }
-    const auto text = load<QVString>(entry, record);
-    return {text.begin(), std::ranges::find(text, '\0')};
+    return std::string(QVText(load<QVString>(entry, record)));
 }
 
 const char* QVKindName(platform::EntryKind kind)

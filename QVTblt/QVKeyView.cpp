@@ -31,8 +31,7 @@ QImage pictureOf(std::uint16_t productID, bool isDense, bool isDark)
 
 QString QVKeyView::spokenContents() const
 {
-    const QVTabletModel* const model =
-        QVFindModel(static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID));
+    const QVTabletModel* const model = QVFindModel(QVProductID(*GetqvTabletInfo()));
     return model == nullptr || model->picture == nullptr
         ? tr("There is no picture of this model.")
         : tr("%1. Each key has the number of its list.").arg(QString::fromUtf8(model->name));
@@ -48,7 +47,7 @@ void QVKeyView::changeEvent(QEvent* event)
 
 void QVKeyView::drawRect(QPainter& painter, const platform::Rect& dirty)
 {
-    const auto productID = static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID);
+    const auto productID = QVProductID(*GetqvTabletInfo());
     const bool isDense = width() * devicePixelRatioF() > kPlainWidth;
     const bool isDark = QVIsDark(palette());
     if (productID != productID_cached || isDense != mIsDense || isDark != mIsDark) {

@@ -371,7 +371,7 @@ void QVMonitorView::SelectMonitor()
 
 void QVMonitorView::SelectSpeed()
 {
-    const auto productID = static_cast<std::uint16_t>(pQVInfo->Basic.ProductID);
+    const auto productID = QVProductID(*pQVInfo);
     switch (mComboBoxSpeed.isNull() ? -1 : mComboBoxSpeed->currentIndex()) {
     case 0:
         pQVInfo->Monitor.Speed = kFast;

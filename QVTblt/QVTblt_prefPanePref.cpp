@@ -159,8 +159,7 @@ void QVTblt_prefPanePref::willSelect()
     ReadQVConfigPlist();
     showModel();
     // No layout takes back what that of another product has done.
-    if (mLaidOutProduct
-        && *mLaidOutProduct != static_cast<std::uint16_t>(qvTabletInfo.Basic.ProductID)) {
+    if (mLaidOutProduct && *mLaidOutProduct != QVProductID(qvTabletInfo)) {
         restoreKeyPage();
     }
     InitComboBoxWithKey();
@@ -168,7 +167,7 @@ void QVTblt_prefPanePref::willSelect()
 
 void QVTblt_prefPanePref::showModel()
 {
-    const auto productID = static_cast<std::uint16_t>(qvTabletInfo.Basic.ProductID);
+    const auto productID = QVProductID(qvTabletInfo);
     const QVTabletModel* const model = QVFindModel(productID);
     mSoft->setText(model == nullptr
             ? tr("Unknown tablet, product %1").arg(productID, 4, 16, QLatin1Char('0'))

@@ -59,9 +59,8 @@ QVKeyComboBox::Item itemOf(const tagQVTabletInfoSubKey& slot)
 /** A field's text up to its NUL; bytes that are not ASCII show as replacement characters. */
 QString textOf(const QVString& field)
 {
-    const auto* const end = std::ranges::find(field, '\0');
     QString text;
-    for (const char byte : std::span(field.data(), end)) {
+    for (const char byte : QVText(field)) {
         const auto code = static_cast<unsigned char>(byte);
         text += code < 0x80 ? QChar(char16_t{code}) : QChar(QChar::ReplacementCharacter);
     }
@@ -197,7 +196,7 @@ void QVTblt_prefPanePref::restoreKeyPage()
 
 void QVTblt_prefPanePref::InitComboBoxWithKey()
 {
-    const auto productID = static_cast<std::uint16_t>(qvTabletInfo.Basic.ProductID);
+    const auto productID = QVProductID(qvTabletInfo);
     hide(std::span(mSlotBoxes).subspan<kBankSize, kBankSize>());
     mKeyRScroll->hide();
     keyFrame_org = platform::frame(*mKey1_1);

@@ -6,6 +6,7 @@
 #include <bit>
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 /**
  * @file
@@ -57,7 +58,7 @@ using QVString = std::array<char, kQVStringSize>;
 /** What the configuration file says of the model. The panel only carries it. */
 struct tagQVTabletInfoBasic {
     std::int16_t VendorID; ///< USB vendor ID
-    std::int16_t ProductID; ///< USB product ID; read it as unsigned
+    std::int16_t ProductID; ///< USB product ID; read it with QVProductID()
     std::int16_t VersionNumber;
     std::int16_t InputLength; ///< bytes of one input report
     std::int16_t KeyNum; ///< number of express keys
@@ -124,6 +125,19 @@ struct tagQVTabletInfo {
 };
 
 #pragma pack(pop)
+
+/** The model's USB product ID. */
+constexpr std::uint16_t QVProductID(const tagQVTabletInfo& record)
+{
+    return static_cast<std::uint16_t>(record.Basic.ProductID);
+}
+
+/** A string before its NUL; all of it when it has none. */
+constexpr std::string_view QVText(const QVString& field)
+{
+    const std::string_view whole(field.data(), field.size());
+    return whole.substr(0, whole.find('\0'));
+}
 
 /** Bytes of the record, and of every push. */
 inline constexpr std::int32_t kQVRecordSize = 5077;

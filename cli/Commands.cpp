@@ -36,7 +36,7 @@ int fail(const QString& why)
 
 QString modelName(const tagQVTabletInfo& record)
 {
-    const auto productID = static_cast<std::uint16_t>(record.Basic.ProductID);
+    const auto productID = QVProductID(record);
     const QVTabletModel* const model = QVFindModel(productID);
     return QStringLiteral("%1 (product %2)")
         .arg(model == nullptr ? QStringLiteral("unknown model") : QString::fromUtf8(model->name),
@@ -187,7 +187,7 @@ int runUsbMode(bool isFast)
         return fail(
             list.error().text + QStringLiteral(", so it is not known which tablet to tell"));
     }
-    const auto productID = static_cast<std::uint16_t>(GetqvTabletInfo()->Basic.ProductID);
+    const auto productID = QVProductID(*GetqvTabletInfo());
     const Result<QString> told = setUsbMode(isFast, productID, modelName(*GetqvTabletInfo()));
     if (!told) {
         return fail(told.error().text);

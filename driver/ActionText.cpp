@@ -31,8 +31,8 @@ QString mouseText(std::int16_t button)
 
 QString pathText(const QVString& path)
 {
-    const auto length = qstrnlen(path.data(), kQVStringSize);
-    return QString::fromLatin1(path.data(), static_cast<int>(length));
+    const std::string_view text = QVText(path);
+    return QString::fromLatin1(text.data(), static_cast<int>(text.size()));
 }
 
 } // namespace

@@ -211,7 +211,7 @@ std::optional<tagQVTabletInfo> TabletWindow::settings() const
     }
     tagQVTabletInfo settings{};
     std::memcpy(&settings, record.constData(), sizeof settings);
-    if (static_cast<std::uint16_t>(settings.Basic.ProductID) != mDriver.attached()) {
+    if (QVProductID(settings) != mDriver.attached()) {
         return std::nullopt;
     }
     return settings;
