@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstddef>
 #include <set>
 #include <string>
@@ -71,6 +72,32 @@ TEST(tagQVTabletInfo, liesInMemoryAsItTravels)
     EXPECT_EQ(bytes[5076], 0xFF);
 }
 
+TEST(tagQVTabletInfo, namesTheNumbersThatFilesAndDriversHave)
+{
+    EXPECT_EQ((std::array<int, 7>{kQVNoAction, kQVMouseButton, kQVApplication, kQVKeyCombination,
+                  kQVNextDisplay, kQVFinePositioning, kQVPauseTablet}),
+        (std::array<int, 7>{0, 1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ((std::array<int, 4>{kQVLeftButton, kQVRightButton, kQVBackButton, kQVMiddleButton}),
+        (std::array<int, 4>{0, 1, 2, 3}));
+    EXPECT_STREQ(kQVSlotKeys[kQVUpperPenSlot], "penKeyU");
+    EXPECT_STREQ(kQVSlotKeys[kQVLowerPenSlot], "penKeyL");
+}
+
+TEST(tagQVTabletInfo, hasItsProductIDUnsigned)
+{
+    tagQVTabletInfo record{};
+    record.Basic.ProductID = -2;
+    EXPECT_EQ(QVProductID(record), 65534);
+}
+
+TEST(tagQVTabletInfo, endsAStringAtItsNulOrAtItsLastByte)
+{
+    QVString field{'a', 'b'};
+    EXPECT_EQ(QVText(field), "ab");
+    field.fill('c');
+    EXPECT_EQ(QVText(field), std::string(kQVStringSize, 'c'));
+}
+
 TEST(QVTabletFields, coverEveryByteButTheReservedOnesOnce)
 {
     std::set<std::size_t> covered;
@@ -98,8 +125,6 @@ TEST(QVTabletFields, nameTheSlotsInTheOrderOfTheRecord)
     for (std::size_t slot = 0; slot < 16; ++slot) {
         EXPECT_EQ(kQVSlotKeys[slot], "Key" + std::to_string(slot));
     }
-    EXPECT_STREQ(kQVSlotKeys[16], "penKeyU");
-    EXPECT_STREQ(kQVSlotKeys[17], "penKeyL");
     for (std::size_t slot = 0; slot < kQVSlotCount; ++slot) {
         const auto entries = QVEntriesOf(kQVKeySection, kQVSlotKeys[slot]);
         ASSERT_EQ(entries.size(), 4U);
