@@ -21,6 +21,12 @@ TEST(QVTabletModels, haveEachTheirOwnProductIDAndName)
     }
 }
 
+TEST(QVTabletModels, areFoundByTheirProductID)
+{
+    EXPECT_STREQ(QVFindModel(0x5101)->name, "Quorvia Draft S");
+    EXPECT_STREQ(QVFindModel(0x5122)->name, "Quorvia Slate");
+}
+
 TEST(QVTabletModels, doNotHoldWhatIsNotOurs)
 {
     EXPECT_EQ(QVFindModel(0), nullptr);
