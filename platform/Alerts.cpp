@@ -71,9 +71,7 @@ public:
 
 Alerts& alerts()
 {
-    static DesktopAlerts desktop;
-    Alerts* const replaced = ServiceScope<Alerts>::current();
-    return replaced == nullptr ? desktop : *replaced;
+    return currentService<Alerts, DesktopAlerts>();
 }
 
 } // namespace platform

@@ -257,9 +257,7 @@ QRect windowGeometry(const Rect& part)
 
 Displays& displays()
 {
-    static ScreenDisplays screens;
-    Displays* const replaced = ServiceScope<Displays>::current();
-    return replaced == nullptr ? screens : *replaced;
+    return currentService<Displays, ScreenDisplays>();
 }
 
 } // namespace platform

@@ -142,9 +142,7 @@ private:
 
 OpenPanel& openPanel()
 {
-    static DesktopOpenPanel panel;
-    OpenPanel* const replaced = ServiceScope<OpenPanel>::current();
-    return replaced == nullptr ? panel : *replaced;
+    return currentService<OpenPanel, DesktopOpenPanel>();
 }
 
 } // namespace platform

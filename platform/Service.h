@@ -32,4 +32,15 @@ private:
     Service* mBefore;
 };
 
+/** What an accessor answers with: the service that a scope has put in place, else the desktop's. */
+template <class Service, class Desktop>
+Service& currentService()
+{
+    if (Service* const replaced = ServiceScope<Service>::current()) {
+        return *replaced;
+    }
+    static Desktop desktop;
+    return desktop;
+}
+
 } // namespace platform

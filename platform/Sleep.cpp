@@ -19,9 +19,7 @@ public:
 
 Sleep& sleeper()
 {
-    static ThreadSleep thread;
-    Sleep* const replaced = ServiceScope<Sleep>::current();
-    return replaced == nullptr ? thread : *replaced;
+    return currentService<Sleep, ThreadSleep>();
 }
 
 } // namespace platform

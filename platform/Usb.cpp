@@ -366,9 +366,7 @@ public:
 
 Usb& usb()
 {
-    static LibusbUsb machine;
-    Usb* const replaced = ServiceScope<Usb>::current();
-    return replaced == nullptr ? machine : *replaced;
+    return currentService<Usb, LibusbUsb>();
 }
 
 } // namespace platform
