@@ -93,19 +93,14 @@ void drawLabel(QPainter& painter, const QString& name, const Rect& miniature)
 
 QVMonitorView::QVMonitorView(QWidget* parent)
     : PaneView(parent)
-    , DisplayRegistrationCallBackSuccessful(platform::displays().registerReconfigurationCallback(
-          DisplayRegisterReconfigurationCallback, this))
+    , DisplayRegistrationCallBackSuccessful(
+          connect(&platform::displays(), &platform::Displays::reconfigured, this,
+              [this](platform::DisplayID display, std::uint32_t flags) {
+                  DisplayRegisterReconfigurationCallback(display, flags, this);
+              }))
     , pQVInfo(GetqvTabletInfo())
 {
     readPicture();
-}
-
-QVMonitorView::~QVMonitorView()
-{
-    if (DisplayRegistrationCallBackSuccessful) {
-        platform::displays().removeReconfigurationCallback(
-            DisplayRegisterReconfigurationCallback, this);
-    }
 }
 
 void QVMonitorView::readPicture()

@@ -30,7 +30,6 @@ class QVMonitorView final : public platform::PaneView {
 
 public:
     explicit QVMonitorView(QWidget* parent = nullptr);
-    ~QVMonitorView() override;
 
     /**
      * Connects the page's lists, and the button that starts a calibration, which is off while there
@@ -121,7 +120,7 @@ private:
                                 ///< decoded, it takes 4 MiB, which most showings of the panel spare
     QImage mBackgroundImage;
     bool mIsDark = false; ///< the picture
-    bool DisplayRegistrationCallBackSuccessful;
+    QMetaObject::Connection DisplayRegistrationCallBackSuccessful; ///< ends with the view
     tagQVTabletInfo* pQVInfo;
     std::vector<platform::DisplayID> mDisplays;
     std::uint32_t mDspCount = 0;

@@ -32,11 +32,6 @@ public:
     }
     Rect bounds(platform::DisplayID display) const override { return kDisplays.at(display); }
     bool isMain(platform::DisplayID display) const override { return display == 0; }
-    bool registerReconfigurationCallback(platform::DisplayReconfigurationCallback, void*) override
-    {
-        return false;
-    }
-    void removeReconfigurationCallback(platform::DisplayReconfigurationCallback, void*) override { }
 };
 
 /** Draws the page's picture on request. */

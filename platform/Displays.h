@@ -4,6 +4,7 @@
 
 #include "Geometry.h"
 
+#include <QObject>
 #include <QRect>
 
 #include <cstdint>
@@ -31,15 +32,11 @@ inline constexpr std::uint32_t kDisplayBeginConfiguration = 1;
 /** The flag of the notice that they have changed. */
 inline constexpr std::uint32_t kDisplaySetMode = 8;
 
-/** Is told of a display that begins to change or has changed, and what it was registered with. */
-using DisplayReconfigurationCallback = void (*)(
-    DisplayID display, std::uint32_t flags, void* userInfo);
-
 /** Main thread only. */
-class Displays {
-public:
-    virtual ~Displays() = default;
+class Displays : public QObject {
+    Q_OBJECT
 
+public:
     /** How many displays are active; nothing when the window system does not tell. */
     virtual std::optional<std::uint32_t> activeDisplayCount() const = 0;
 
@@ -52,20 +49,12 @@ public:
     /** Whether it is the main display, at whose upper left corner the coordinates begin. */
     virtual bool isMain(DisplayID display) const = 0;
 
+Q_SIGNALS:
     /**
-     * Has the callback told when displays come, go, move or turn: of each display once when they
-     * begin to change, and once when all have come to rest.
-     *
-     * @return whether it will be
+     * Displays come, go, move or turn: for each display once when they begin to change, and once
+     * when all have come to rest.
      */
-    virtual bool registerReconfigurationCallback(
-        DisplayReconfigurationCallback callback, void* userInfo) = 0;
-    /**
-     * Ends what was registered with the same arguments: it is not told of anything more, also when
-     * it ends while callbacks are being told.
-     */
-    virtual void removeReconfigurationCallback(
-        DisplayReconfigurationCallback callback, void* userInfo) = 0;
+    void reconfigured(DisplayID display, std::uint32_t flags);
 };
 
 /** A screen's place and size in global display coordinates. */

@@ -26,7 +26,7 @@ void print(const char* what)
     std::fflush(stdout);
 }
 
-void note(platform::DisplayID display, std::uint32_t flags, void*)
+void note(platform::DisplayID display, std::uint32_t flags)
 {
     if (display == 0) { // one line for all
         print(flags == platform::kDisplayBeginConfiguration ? "begin" : "end");
@@ -38,7 +38,7 @@ void note(platform::DisplayID display, std::uint32_t flags, void*)
 int main(int argc, char* argv[])
 {
     const QGuiApplication application(argc, argv);
-    platform::displays().registerReconfigurationCallback(note, nullptr);
+    QObject::connect(&platform::displays(), &platform::Displays::reconfigured, &note);
     print("now");
     return QGuiApplication::exec();
 }

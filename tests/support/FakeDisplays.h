@@ -41,18 +41,6 @@ public:
 
     bool isMain(platform::DisplayID display) const override { return display == kFirstID + main; }
 
-    bool registerReconfigurationCallback(
-        platform::DisplayReconfigurationCallback callback, void* userInfo) override
-    {
-        mCallbacks.emplace_back(callback, userInfo);
-        return true;
-    }
-    void removeReconfigurationCallback(
-        platform::DisplayReconfigurationCallback callback, void* userInfo) override
-    {
-        std::erase(mCallbacks, std::pair(callback, userInfo));
-    }
-
     /** Changes the displays as the desktop does, with notifications for each before and after. */
     void change(std::vector<platform::Rect> bounds)
     {
@@ -63,13 +51,10 @@ public:
     /** Sends a notification for each display. */
     void tell(std::uint32_t flags)
     {
-        for (const auto& [callback, userInfo] : mCallbacks) {
-            for (std::size_t i = 0; i < mBounds.size(); ++i) {
-                callback(kFirstID + static_cast<platform::DisplayID>(i), flags, userInfo);
-            }
+        for (std::size_t i = 0; i < mBounds.size(); ++i) {
+            Q_EMIT reconfigured(kFirstID + static_cast<platform::DisplayID>(i), flags);
         }
     }
-    std::size_t callbackCount() const { return mCallbacks.size(); }
 
     std::uint32_t main = 0; ///< index of the main display
     bool failCount = false; ///< the window system does not return the number of displays
@@ -79,6 +64,5 @@ private:
     static constexpr platform::DisplayID kFirstID = 100;
 
     std::vector<platform::Rect> mBounds;
-    std::vector<std::pair<platform::DisplayReconfigurationCallback, void*>> mCallbacks;
     platform::ServiceScope<platform::Displays> mScope;
 };
