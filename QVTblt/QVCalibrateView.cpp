@@ -6,10 +6,10 @@
 #include "Client.h"
 #include "QVCalibrateWin.h"
 #include "QVCalibration.h"
-#include "QVTblt_prefPanePref.h"
 #include "QVWire.h"
 #include "Sleep.h"
 #include "rzkApplication.h"
+#include "rzkBundle.h"
 
 #include <QFontDatabase>
 #include <QLoggingCategory>

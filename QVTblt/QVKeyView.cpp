@@ -4,8 +4,8 @@
 
 #include "QVPictureFile.h"
 #include "QVTabletModels.h"
-#include "QVTblt_prefPanePref.h"
 #include "rzkApplication.h"
+#include "rzkBundle.h"
 
 #include <QEvent>
 

@@ -5,9 +5,9 @@
 #include "Client.h"
 #include "QVCalibrateWin.h"
 #include "QVPictureFile.h"
-#include "QVTblt_prefPanePref.h"
 #include "WheelGuard.h"
 #include "rzkApplication.h"
+#include "rzkBundle.h"
 
 #include <QComboBox>
 #include <QEvent>

@@ -9,6 +9,7 @@
 #include "QVTabletModels.h"
 #include "QVWire.h"
 #include "rzkApplication.h"
+#include "rzkBundle.h"
 
 #include <QCoreApplication>
 #include <QFontDatabase>

@@ -25,9 +25,6 @@ struct Event;
 struct Notification;
 } // namespace platform
 
-/** The module's own bundle: strings and pictures are looked up here, never in the host's. */
-extern platform::Bundle rzkBundle;
-
 /**
  * The panel. Decides at each showing whether a tablet is there, has the record loaded and its pages
  * filled, and saves on leaving. Its outlets are the widgets of the interface file, under their

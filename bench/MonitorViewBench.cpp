@@ -3,9 +3,9 @@
 #include "Displays.h"
 #include "Paired.h"
 #include "QVMonitorView.h"
-#include "QVTblt_prefPanePref.h"
 #include "Service.h"
 #include "rzkApplication.h"
+#include "rzkBundle.h"
 
 #include <QComboBox>
 #include <QPainter>

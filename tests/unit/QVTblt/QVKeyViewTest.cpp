@@ -3,9 +3,9 @@
 #include "QVKeyView.h"
 
 #include "QVTabletModels.h"
-#include "QVTblt_prefPanePref.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
+#include "rzkBundle.h"
 
 #include <QImage>
 #include <QPainter>

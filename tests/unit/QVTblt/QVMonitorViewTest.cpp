@@ -9,6 +9,7 @@
 #include "PaneTest.h"
 #include "QVTabletModels.h"
 #include "Wait.h"
+#include "rzkBundle.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

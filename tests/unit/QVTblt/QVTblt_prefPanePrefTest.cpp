@@ -5,6 +5,7 @@
 #include "Notifications.h"
 #include "PaneTest.h"
 #include "Wait.h"
+#include "rzkBundle.h"
 
 #include <QAccessible>
 #include <QCheckBox>

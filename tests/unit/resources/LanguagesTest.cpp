@@ -13,6 +13,7 @@
 #include "QVKeySetClass.h"
 #include "QVTabletModels.h"
 #include "TabPage.h"
+#include "rzkBundle.h"
 
 #include <QAbstractButton>
 #include <QApplication>
