@@ -3,7 +3,7 @@
 #pragma once
 
 #include "Accessible.h"
-#include "EventQueue.h"
+#include "ProximityRelay.h"
 #include "QVCalibrateView.h"
 
 #include <QPointer>

@@ -94,7 +94,7 @@ void QVDrawView::drawRect(QPainter& painter, const platform::Rect& dirty)
 void QVDrawView::mouseDown(const Event& event)
 {
     handleMouseEvent(event);
-    queue().beginTracking(*this);
+    queue().beginTracking();
 }
 
 void QVDrawView::trackEvents()
@@ -147,7 +147,7 @@ void QVDrawView::mouseDragged(const Event& event)
         handleMouseEvent(event);
     } else {
         mIsDragging = true;
-        queue().beginTracking(*this);
+        queue().beginTracking();
     }
 }
 

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "EventQueue.h"
 #include "Notifications.h"
+#include "ProximityRelay.h"
 
 #include <QWidget>
 

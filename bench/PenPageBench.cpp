@@ -38,7 +38,7 @@ public:
     void draw(const std::vector<QPointF>& places)
     {
         for (const QPointF& place : places) {
-            mQueue->post(mView, eventAt(place));
+            mView.queue().post(eventAt(place));
         }
         mView.trackEvents();
         mView.render(&mTarget);
@@ -54,7 +54,6 @@ private:
         return event;
     }
 
-    std::shared_ptr<platform::EventQueue> mQueue = platform::EventQueue::shared();
     QLabel mPressure;
     QVDrawView mView;
     QPixmap mTarget{1, 1};

@@ -113,6 +113,11 @@ void takePlaces(Event& taken, const QtEvent& event, const QWidget& view)
     taken.absoluteY = static_cast<std::int32_t>(std::lround(mended(global.y())));
 }
 
+bool isOfPen(const Event& event)
+{
+    return event.subtype == kTabletPointSubtype || event.type == EventType::TabletProximity;
+}
+
 void takeDevice(Event& taken, const QTabletEvent& event)
 {
     const qint64 uniqueID = uniqueIDOf(event);
@@ -165,12 +170,29 @@ Event mouseEvent(const QMouseEvent& event, const QWidget& view, EventType type)
     return taken;
 }
 
+bool isSameDevice(const Event& one, const Event& other)
+{
+    return isOfPen(one) == isOfPen(other) && one.uniqueID == other.uniqueID
+        && one.pointingDeviceType == other.pointingDeviceType;
+}
+
 Event proximityEvent(const QTabletEvent& event, bool isEntering)
 {
     Event taken;
     taken.type = EventType::TabletProximity;
     taken.isEnteringProximity = isEntering;
     takeDevice(taken, event);
+    return taken;
+}
+
+Event proximityEvent(const Event& event)
+{
+    Event taken;
+    taken.type = EventType::TabletProximity;
+    taken.isEnteringProximity = true;
+    taken.deviceID = event.deviceID;
+    taken.pointingDeviceType = event.pointingDeviceType;
+    taken.uniqueID = event.uniqueID;
     return taken;
 }
 

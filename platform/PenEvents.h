@@ -70,7 +70,13 @@ std::optional<Event> penEvent(
 /** What the mouse does in the view; the type is one of the mouse's own. */
 Event mouseEvent(const QMouseEvent& event, const QWidget& view, EventType type);
 
+/** Whether it is the same end of the same pen, or the mouse. */
+bool isSameDevice(const Event& one, const Event& other);
+
 /** That a pen comes into reach or leaves it, from any event of this pen. */
 Event proximityEvent(const QTabletEvent& event, bool isEntering);
+
+/** That the pen that made the event is in range. */
+Event proximityEvent(const Event& event);
 
 } // namespace platform

@@ -12,11 +12,6 @@ PenView::PenView(QWidget* parent)
 {
 }
 
-PenView::~PenView()
-{
-    queue().forget(*this);
-}
-
 void PenView::setAcceptsMouseMovedEvents(bool accepts)
 {
     setMouseTracking(accepts);
@@ -38,35 +33,34 @@ void PenView::tabletEvent(QTabletEvent* event)
         return; // a pen that has been down since before the view was hidden
     }
     if (const std::optional<Event> taken = penEvent(*event, *this, mPenDownAt)) {
-        queue().post(*this, *taken);
+        queue().post(*taken);
     }
 }
 
 void PenView::mousePressEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
-        queue().post(*this, mouseEvent(*event, *this, EventType::LeftMouseDown));
+        queue().post(mouseEvent(*event, *this, EventType::LeftMouseDown));
     }
 }
 
 void PenView::mouseMoveEvent(QMouseEvent* event)
 {
-    queue().post(*this,
-        mouseEvent(*event, *this,
-            event->buttons().testFlag(Qt::LeftButton) ? EventType::LeftMouseDragged
-                                                      : EventType::MouseMoved));
+    queue().post(mouseEvent(*event, *this,
+        event->buttons().testFlag(Qt::LeftButton) ? EventType::LeftMouseDragged
+                                                  : EventType::MouseMoved));
 }
 
 void PenView::mouseReleaseEvent(QMouseEvent* event)
 {
     if (event->button() == Qt::LeftButton) {
-        queue().post(*this, mouseEvent(*event, *this, EventType::LeftMouseUp));
+        queue().post(mouseEvent(*event, *this, EventType::LeftMouseUp));
     }
 }
 
 void PenView::hideEvent(QHideEvent* event)
 {
-    queue().endStroke(*this);
+    queue().endStroke();
     PaneView::hideEvent(event);
 }
 

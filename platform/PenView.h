@@ -8,20 +8,17 @@
 
 #include <QPointF>
 
-#include <cstdint>
-#include <memory>
 #include <optional>
 
 namespace platform {
 
 /**
- * A view that pen and mouse work on. They reach it through the queue of events, so that it can take
+ * A view that pen and mouse work on. They reach it through a queue of events, so that it can take
  * the events of a stroke itself, and many at once.
  */
 class PenView : public PaneView {
 public:
     explicit PenView(QWidget* parent = nullptr);
-    ~PenView() override;
 
     // What the queue calls, for one event each.
     virtual void mouseDown(const Event& event) = 0;
@@ -32,14 +29,14 @@ public:
     /** There are events, and the view tracks: it takes what it wants of them. */
     virtual void trackEvents() = 0;
 
+    EventQueue& queue() { return mQueue; }
+
 protected:
     /** Whether the view is told of moves without a button, and of a pen above the tablet. */
     void setAcceptsMouseMovedEvents(bool accepts);
 
     /** From an event's place to the view's points. */
     QPointF convertPointFromWindow(const QPointF& place) const;
-
-    EventQueue& queue() const { return *mQueue; }
 
     void tabletEvent(QTabletEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
@@ -48,7 +45,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
-    std::shared_ptr<EventQueue> mQueue = EventQueue::shared();
+    EventQueue mQueue{*this};
     std::optional<QPointF> mPenDownAt; ///< for penEvent()
 };
 

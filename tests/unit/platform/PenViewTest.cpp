@@ -7,6 +7,7 @@
 
 #include "DragMouse.h"
 #include "PenInput.h"
+#include "ProximityRelay.h"
 
 #include <QTest>
 
@@ -38,7 +39,7 @@ public:
     {
         note("down", event);
         if (tracksStrokes) {
-            queue().beginTracking(*this);
+            queue().beginTracking();
         }
     }
     void mouseUp(const Event& event) override { note("up", event); }
@@ -280,6 +281,23 @@ TEST_F(PenViewTest, aViewThatGoesInMidStrokeTakesItsEventsAlong)
     EXPECT_EQ(mView.log, (Log{"down", "up"}));
 }
 
+TEST_F(PenViewTest, aTrackingViewLeavesOtherViewsTheirEvents)
+{
+    Witness other;
+    other.setParent(&mWindow);
+    other.setGeometry(0, 120, 300, 80);
+    other.show();
+    mView.tracksStrokes = true;
+    mPen.press({1, 1}, 1);
+    QTest::mousePress(&other, Qt::LeftButton, {}, {5, 5});
+    QTest::mouseRelease(&other, Qt::LeftButton, {}, {5, 5});
+    PenInput::deliver();
+    EXPECT_EQ(other.log, (Log{"down", "up"}));
+    mPen.release({1, 1});
+    PenInput::deliver();
+    EXPECT_EQ(mView.log, (Log{"down", "tracked"}));
+}
+
 TEST_F(PenViewTest, whatNoPenCanDoIsMended)
 {
     constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
@@ -383,13 +401,13 @@ TEST_F(PenViewTest, proximityInsideAStrokeIsForWhoTracksIt)
     EXPECT_FALSE(reach.events[1].isEnteringProximity);
 }
 
-TEST(EventQueue, endsWithItsLastUser)
+TEST(ProximityRelay, endsWithItsLastUser)
 {
     auto reach = std::make_unique<Reach>();
     auto view = std::make_unique<Witness>();
-    const std::weak_ptr<EventQueue> queue = EventQueue::shared();
+    const std::weak_ptr<ProximityRelay> relay = ProximityRelay::shared();
     reach.reset();
-    EXPECT_FALSE(queue.expired());
+    EXPECT_FALSE(relay.expired());
     view.reset();
-    EXPECT_TRUE(queue.expired());
+    EXPECT_TRUE(relay.expired());
 }

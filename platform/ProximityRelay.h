@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "PenEvents.h"
+
+#include <QObject>
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+class QWidget;
+
+namespace platform {
+
+class EventQueue;
+class ProximityRelay;
+
+/**
+ * Is told when a pen enters or leaves the tablet's range. Of all responders, only the newest
+ * visible one is told.
+ */
+class ProximityResponder {
+public:
+    /** @param widget whose visibility counts; it is the responder, or lives as long */
+    explicit ProximityResponder(const QWidget& widget);
+    virtual ~ProximityResponder();
+    ProximityResponder(const ProximityResponder&) = delete;
+    ProximityResponder& operator=(const ProximityResponder&) = delete;
+
+    virtual void tabletProximity(const std::shared_ptr<const Event>& event) = 0;
+
+private:
+    friend class ProximityRelay;
+
+    const QWidget& mWidget;
+    std::shared_ptr<ProximityRelay> mRelay;
+};
+
+/**
+ * Passes the proximity events that the application receives to the responder: after the views have
+ * handled all events before them, and never during a stroke.
+ *
+ * Main thread only. Exists while there is a responder or a queue.
+ */
+class ProximityRelay final : public QObject {
+    Q_OBJECT
+
+public:
+    static std::shared_ptr<ProximityRelay> shared();
+
+    /** Tells the responder now. */
+    void tell(const Event& event);
+    /** Whether a responder was told that the event's pen is in range. */
+    bool isKnown(const Event& event) const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    friend class ProximityResponder;
+    friend class EventQueue;
+
+    ProximityRelay();
+
+    EventQueue* busyQueue(const Event& event) const;
+    void note(const Event& event);
+
+    std::optional<Event> mInRange; ///< the pen that a responder was last told of
+    std::vector<ProximityResponder*> mResponders;
+    std::vector<EventQueue*> mQueues; ///< of all views
+};
+
+} // namespace platform
