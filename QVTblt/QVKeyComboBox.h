@@ -30,10 +30,17 @@ public:
         PauseTablet,
     };
 
+    static constexpr int kCommitted = 100; ///< committed() of the first item
+    static constexpr int kStored = 256; ///< committed() when the dialog has stored a combination
+
     explicit QVKeyComboBox(QWidget* parent = nullptr);
 
     /** The slot, from 0 to 17. */
     int tag() const { return property("tag").toInt(); }
+
+    /** The item to go back to when the user cancels: kCommitted plus its index. */
+    int committed() const { return mCommitted; }
+    void setCommitted(int committed) { mCommitted = committed; }
 
     /** Puts a text in an item's place and selects it. */
     void replaceItem(Item item, const QString& text);
@@ -46,4 +53,7 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
+
+private:
+    int mCommitted = kCommitted;
 };

@@ -155,7 +155,7 @@ void QVKeySetClass::SaveKeyData()
     slot.Valid = kQVKeyCombination;
     // The number is added to what DeleteOneSet() left there; so the stored files have it.
     slot.Key = static_cast<std::uint32_t>(mNum) << 24U | static_cast<std::uint32_t>(mKeyValue);
-    mComboBox->setMaxVisibleItems(kStored);
+    mComboBox->setCommitted(QVKeyComboBox::kStored);
     done(Accepted);
     mComboBox->replaceItem(QVKeyComboBox::KeyCombination, text);
 }

@@ -26,9 +26,6 @@ class QVKeySetClass final : public QDialog {
     Q_OBJECT
 
 public:
-    /** What a box's maxVisibleItems becomes when a combination was stored for it. */
-    static constexpr int kStored = 256;
-
     explicit QVKeySetClass(QWidget* parent = nullptr);
     ~QVKeySetClass() override;
 
@@ -38,8 +35,8 @@ public:
     void QVShowWindow(QVKeyComboBox* comboBox);
 
     /**
-     * Stores the combination in the record, tells the box by kStored, and ends the dialog; the
-     * box's item then shows the dialog's own text. Without a key, stores nothing.
+     * Stores the combination in the record, tells the box by QVKeyComboBox::kStored, and ends the
+     * dialog; the box's item then shows the dialog's own text. Without a key, stores nothing.
      */
     void SaveKeyData();
     /** Ends the dialog; record and box stay as they are. */

@@ -67,8 +67,7 @@ public:
      */
     void InitComboBoxWithKey();
     /**
-     * Shows a slot of the record in its combo box and commits the item: maxVisibleItems becomes
-     * 100 plus its index.
+     * Shows a slot of the record in its combo box and commits the item.
      *
      * @param keyNo 0 to 15 for the express keys, 16 and 17 for the pen's upper and lower button
      */

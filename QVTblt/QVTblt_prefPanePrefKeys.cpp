@@ -27,9 +27,6 @@ namespace {
 
 constexpr std::size_t kBankSize = 8;
 
-/** What a box's maxVisibleItems has on top of the committed item's index. */
-constexpr int kCommitted = 100;
-
 /** From a box to its number, in points. */
 constexpr double kLabelDistance = 32.0;
 
@@ -311,7 +308,7 @@ void QVTblt_prefPanePref::InitSingleComboBoxWithKey(
     } else {
         comboBox->setCurrentIndex(item);
     }
-    comboBox->setMaxVisibleItems(comboBox->currentIndex() + kCommitted);
+    comboBox->setCommitted(QVKeyComboBox::kCommitted + comboBox->currentIndex());
 }
 
 void QVTblt_prefPanePref::SelectKey(QVKeyComboBox* comboBox)
@@ -360,12 +357,12 @@ void QVTblt_prefPanePref::askForKeys(QVKeyComboBox& comboBox)
     if (box.isNull()) { // the host has closed the panel meanwhile
         return;
     }
-    if (comboBox.maxVisibleItems() == QVKeySetClass::kStored) {
+    if (comboBox.committed() == QVKeyComboBox::kStored) {
         PushQVTabletInfo();
-        comboBox.setMaxVisibleItems(kCommitted + QVKeyComboBox::KeyCombination);
+        comboBox.setCommitted(QVKeyComboBox::kCommitted + QVKeyComboBox::KeyCombination);
     } else if (qvTabletInfo.Key.SubKey[static_cast<std::size_t>(comboBox.tag())].Valid
         != kQVKeyCombination) {
-        comboBox.setCurrentIndex(comboBox.maxVisibleItems() - kCommitted);
+        comboBox.setCurrentIndex(comboBox.committed() - QVKeyComboBox::kCommitted);
     }
 }
 

@@ -31,7 +31,7 @@ protected:
     {
         qvTabletInfo = {};
         mBox.setProperty("tag", kSlot);
-        mBox.setMaxVisibleItems(100);
+        mBox.setCommitted(100);
         mDialog.QVShowWindow(&mBox);
         mDialog.showWindow();
     }
@@ -124,7 +124,7 @@ TEST_F(KeySet, threeKeysAreStoredAndShown)
     press("okBtn");
     EXPECT_EQ(+slot().Valid, 3);
     EXPECT_EQ(+slot().Key, 0x03063836U);
-    EXPECT_EQ(mBox.maxVisibleItems(), 256);
+    EXPECT_EQ(mBox.committed(), 256);
     EXPECT_EQ(mBox.currentIndex(), 6);
     EXPECT_EQ(mBox.currentText(), QStringLiteral("Ctrl  Shift  Z"));
     EXPECT_EQ(mBox.count(), 10);
@@ -249,10 +249,10 @@ TEST_F(KeySet, deletingTwiceOfThreeKeepsTheFirst)
 
 TEST_F(KeySet, okWithoutAKeyStoresNothing)
 {
-    mBox.setMaxVisibleItems(104);
+    mBox.setCommitted(104);
     mDialog.SaveKeyData();
     EXPECT_FALSE(mDialog.isVisible());
-    EXPECT_EQ(mBox.maxVisibleItems(), 104);
+    EXPECT_EQ(mBox.committed(), 104);
     EXPECT_EQ(+slot().Valid, 0);
     EXPECT_EQ(+slot().Key, 0U);
 }
@@ -262,7 +262,7 @@ TEST_F(KeySet, cancelStoresNothing)
     click({"B"});
     press("cancelBtn");
     EXPECT_FALSE(mDialog.isVisible());
-    EXPECT_EQ(mBox.maxVisibleItems(), 100);
+    EXPECT_EQ(mBox.committed(), 100);
     EXPECT_EQ(+slot().Valid, 0);
 }
 

@@ -592,7 +592,7 @@ TEST_F(KeyPage, everyValidAndMouseShowsItsItemAndCommitsIt)
     const auto expect = [&](int item) {
         mPane.InitSingleComboBoxWithKey(&box(2), 2);
         ASSERT_EQ(box(2).currentIndex(), item) << key.Valid << ' ' << key.Mouse;
-        ASSERT_EQ(box(2).maxVisibleItems(), 100 + item) << key.Valid << ' ' << key.Mouse;
+        ASSERT_EQ(box(2).committed(), 100 + item) << key.Valid << ' ' << key.Mouse;
     };
     for (int valid = -32768; valid <= 32767; ++valid) {
         key.Valid = static_cast<std::int16_t>(valid);
@@ -614,7 +614,7 @@ TEST_F(KeyPage, anUnknownMouseButtonIsNoAction)
     });
     show();
     EXPECT_EQ(box(0).currentIndex(), 0);
-    EXPECT_EQ(box(0).maxVisibleItems(), 100);
+    EXPECT_EQ(box(0).committed(), 100);
 }
 
 TEST_F(KeyPage, anUnknownKindIsNoActionAndTheLastKnownIsTheLastItem)
@@ -727,7 +727,7 @@ TEST_F(KeyPage, everyPlainChoiceIsPushedAndNotCommitted)
         ASSERT_EQ(pushes().size(), before + 1) << choice.item;
         EXPECT_EQ(+pushes().back().Key.SubKey[2].Valid, choice.valid) << choice.item;
         EXPECT_EQ(+pushes().back().Key.SubKey[2].Mouse, choice.mouse) << choice.item;
-        EXPECT_EQ(box(2).maxVisibleItems(), 100) << choice.item;
+        EXPECT_EQ(box(2).committed(), 100) << choice.item;
     }
 }
 
@@ -750,7 +750,7 @@ TEST_F(KeyPage, theFourthItemIsMouseTwoAndIsShownAgain)
     leave();
     show();
     EXPECT_EQ(box(0).currentIndex(), 4);
-    EXPECT_EQ(box(0).maxVisibleItems(), 104);
+    EXPECT_EQ(box(0).committed(), 104);
 }
 
 TEST_F(KeyPage, codeThatChangesABoxChoosesNothing)
@@ -792,10 +792,10 @@ TEST_F(KeyPage, anApplicationIsCommittedByTheNextShowingNotByTheChoice)
     show();
     mPanel.path = QStringLiteral("/a.app");
     choose(box(3), 5);
-    EXPECT_EQ(box(3).maxVisibleItems(), 107);
+    EXPECT_EQ(box(3).committed(), 107);
     leave();
     show();
-    EXPECT_EQ(box(3).maxVisibleItems(), 105);
+    EXPECT_EQ(box(3).committed(), 105);
 }
 
 TEST_F(KeyPage, aCancelledChooserCommitsWhatTheRecordHas)
@@ -803,10 +803,10 @@ TEST_F(KeyPage, aCancelledChooserCommitsWhatTheRecordHas)
     edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = 4; });
     show();
     choose(box(3), 9); // not committed, but in the record
-    EXPECT_EQ(box(3).maxVisibleItems(), 107);
+    EXPECT_EQ(box(3).committed(), 107);
     choose(box(3), 5);
     EXPECT_EQ(box(3).currentIndex(), 9);
-    EXPECT_EQ(box(3).maxVisibleItems(), 109);
+    EXPECT_EQ(box(3).committed(), 109);
 }
 
 TEST_F(KeyPage, aDialogCancelledAfterAnApplicationGoesBackToTheCommittedItem)
@@ -886,7 +886,7 @@ TEST_F(KeyPage, aCombinationIsStoredShownCommittedAndPushedOnce)
     EXPECT_EQ(+pushes().back().Key.SubKey[2].Key, 0x03063836U);
     EXPECT_EQ(box(2).currentIndex(), 6);
     EXPECT_EQ(box(2).currentText(), QStringLiteral("Ctrl  Shift  Z"));
-    EXPECT_EQ(box(2).maxVisibleItems(), 106);
+    EXPECT_EQ(box(2).committed(), 106);
 }
 
 TEST_F(KeyPage, aCancelledDialogChangesNothingAndPushesNothing)
@@ -955,7 +955,7 @@ TEST_F(KeyPage, aDriverThatDiesWhileTheDialogIsOpenLosesNothing)
         click(dialog, {"keyB", "okBtn"});
     });
     EXPECT_EQ(+slot(2).Key, 0x0100000BU);
-    EXPECT_EQ(box(2).maxVisibleItems(), 106);
+    EXPECT_EQ(box(2).committed(), 106);
     leave();
     EXPECT_EQ(+recordInFile().Key.SubKey[2].Key, 0x0100000BU);
 }
