@@ -313,12 +313,15 @@ QString QVMonitorView::spokenContents() const
     return sentences.join(u' ');
 }
 
-void QVMonitorView::drawRect(QPainter& painter, const Rect& dirty)
+void QVMonitorView::sync()
 {
     updateMappedArea();
     updatePicturePoints();
     updateLists();
+}
 
+void QVMonitorView::drawRect(QPainter& painter, const Rect& dirty)
+{
     painter.setRenderHint(QPainter::Antialiasing);
     if (!mBackgroundFile.isEmpty()) {
         mBackgroundImage = QImage::fromData(std::exchange(mBackgroundFile, {}));

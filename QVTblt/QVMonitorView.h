@@ -23,7 +23,8 @@ class QVCalibrateWin;
  * mapped area framed and joined to the tablet. Also what the page's controls do: they change the
  * record and push it at once.
  *
- * Drawing brings the mapped area of the record and the page's lists up to date, without pushing.
+ * Before it is drawn, the mapped area of the record and the page's lists are brought up to date,
+ * without pushing.
  */
 class QVMonitorView final : public platform::PaneView {
     Q_OBJECT
@@ -96,6 +97,7 @@ Q_SIGNALS:
 protected:
     /** Light windows have a light picture, dark ones a dark one. */
     void changeEvent(QEvent* event) override;
+    void sync() override;
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
 
 private:

@@ -106,6 +106,7 @@ void PaneView::updateStore()
     const double density = devicePixelRatioF();
     const QSize pixels = (QSizeF(size()) * density).toSize().expandedTo({1, 1});
     if (mNeedsDisplay || mStore.size() != pixels || mStore.devicePixelRatio() != density) {
+        sync();
         mNeedsDisplay = false;
         mAskedAgain.clear();
         mFocus.reset();

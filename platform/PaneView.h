@@ -52,6 +52,8 @@ protected:
     /** A point's size. */
     double pixelsPerPoint() const;
 
+    /** Comes before the whole view is drawn anew: brings up to date what it shows. */
+    virtual void sync() { }
     /**
      * Draws at least what the rectangle covers; on what lies beside it the painter does not draw.
      * The painter is in points, y growing upwards.
