@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "TabletSurface.h"
 
+#include "QtVersions.h"
+
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QPainter>
 
 #include <algorithm>
 #include <cmath>
+
+using platform::placeOf;
 
 namespace {
 
@@ -19,15 +22,6 @@ QVTabletPoint middle(const QVTabletArea& range)
 {
     return {static_cast<std::uint16_t>((range.xmin + range.xmax) / 2),
         static_cast<std::uint16_t>((range.ymin + range.ymax) / 2)};
-}
-
-QPointF placeOf(const QMouseEvent& event)
-{
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    return event.position();
-#else
-    return event.localPos();
-#endif
 }
 
 /** Moves a coordinate to the middle of a pixel, so that a thin line covers just one. */

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "PenEvents.h"
 
-#include <QMouseEvent>
-#include <QTabletEvent>
+#include "QtVersions.h"
+
 #include <QWidget>
 
 #include <algorithm>
@@ -14,82 +14,6 @@ namespace platform {
 namespace {
 
 constexpr double kFarthest = 1e6;
-
-// Where the two Qts differ -----------------------------------------------------------------------
-
-#if QT_VERSION_MAJOR >= 6
-QPointF placeOf(const QSinglePointEvent& event)
-{
-    return event.position();
-}
-
-QPointF globalPlaceOf(const QSinglePointEvent& event)
-{
-    return event.globalPosition();
-}
-
-bool isEraser(const QTabletEvent& event)
-{
-    return event.pointerType() == QPointingDevice::PointerType::Eraser;
-}
-
-bool isPen(const QTabletEvent& event)
-{
-    return event.pointerType() == QPointingDevice::PointerType::Pen;
-}
-
-bool isCursor(const QTabletEvent& event)
-{
-    return event.pointerType() == QPointingDevice::PointerType::Cursor;
-}
-
-qint64 uniqueIDOf(const QTabletEvent& event)
-{
-    return event.pointingDevice()->uniqueId().numericId();
-}
-#else
-QPointF placeOf(const QTabletEvent& event)
-{
-    return event.posF();
-}
-
-QPointF placeOf(const QMouseEvent& event)
-{
-    return event.localPos();
-}
-
-QPointF globalPlaceOf(const QTabletEvent& event)
-{
-    return event.globalPosF();
-}
-
-QPointF globalPlaceOf(const QMouseEvent& event)
-{
-    return event.screenPos();
-}
-
-bool isEraser(const QTabletEvent& event)
-{
-    return event.pointerType() == QTabletEvent::Eraser;
-}
-
-bool isPen(const QTabletEvent& event)
-{
-    return event.pointerType() == QTabletEvent::Pen;
-}
-
-bool isCursor(const QTabletEvent& event)
-{
-    return event.pointerType() == QTabletEvent::Cursor;
-}
-
-qint64 uniqueIDOf(const QTabletEvent& event)
-{
-    return event.uniqueId();
-}
-#endif
-
-// Either Qt --------------------------------------------------------------------------------------
 
 double mended(double coordinate)
 {
@@ -123,10 +47,11 @@ void takeDevice(Event& taken, const QTabletEvent& event)
     const qint64 uniqueID = uniqueIDOf(event);
     taken.uniqueID = uniqueID <= 0 ? 0 : static_cast<std::uint64_t>(uniqueID);
     taken.deviceID = static_cast<std::uint16_t>(taken.uniqueID);
-    taken.pointingDeviceType = isEraser(event) ? PointingDeviceType::Eraser
-        : isPen(event)                         ? PointingDeviceType::Pen
-        : isCursor(event)                      ? PointingDeviceType::Cursor
-                                               : PointingDeviceType::Unknown;
+    const PointerType type = event.pointerType();
+    taken.pointingDeviceType = type == PointerType::Eraser ? PointingDeviceType::Eraser
+        : type == PointerType::Pen                         ? PointingDeviceType::Pen
+        : type == PointerType::Cursor                      ? PointingDeviceType::Cursor
+                                                           : PointingDeviceType::Unknown;
 }
 
 } // namespace

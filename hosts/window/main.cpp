@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "PaneLoader.h"
 #include "PaneWindow.h"
+#include "QtVersions.h"
 #include "UnixSignals.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QProcess>
 #include <QProcessEnvironment>
@@ -69,14 +69,10 @@ int render(PaneWindow& window, const QString& folder)
 /** Loads Qt's own texts, such as those of standard buttons, in the panel's language. */
 bool loadQtTexts(QTranslator& translator, const platform::Bundle& panel)
 {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 0, 0)
-    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-#else
-    const QString folder = QLibraryInfo::location(QLibraryInfo::TranslationsPath);
-#endif
     // Qt names its files after locales: zh_CN for zh-Hans. Some exist only for the language.
     const QLocale locale(panel.preferredLocalization());
-    return translator.load(QStringLiteral("qtbase_") + locale.name(), folder);
+    return translator.load(
+        QStringLiteral("qtbase_") + locale.name(), platform::translationsFolder());
 }
 
 } // namespace

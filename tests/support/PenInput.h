@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "QtVersions.h"
+
 #include <QCoreApplication>
 #include <QWidget>
 #include <QWindow>
@@ -55,20 +57,11 @@ public:
     }
 
 private:
-#if QT_VERSION_MAJOR >= 6
-    static constexpr int kStylus = static_cast<int>(QInputDevice::DeviceType::Stylus);
-    static constexpr int kTip = static_cast<int>(QPointingDevice::PointerType::Pen);
-    static constexpr int kEraser = static_cast<int>(QPointingDevice::PointerType::Eraser);
-#else
-    static constexpr int kStylus = QTabletEvent::Stylus;
-    static constexpr int kTip = QTabletEvent::Pen;
-    static constexpr int kEraser = QTabletEvent::Eraser;
-#endif
+    static constexpr int kStylus = static_cast<int>(platform::TabletDeviceType::Stylus);
+    static constexpr int kTip = static_cast<int>(platform::PointerType::Pen);
+    static constexpr int kEraser = static_cast<int>(platform::PointerType::Eraser);
 
-    int pointer() const
-    {
-        return mEnd == End::Tip ? kTip : kEraser;
-    }
+    int pointer() const { return mEnd == End::Tip ? kTip : kEraser; }
 
     void put(const QPointF& at, Qt::MouseButtons buttons, qreal pressure)
     {
