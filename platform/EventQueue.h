@@ -46,7 +46,7 @@ public:
      * The next event of the types in the mask; what is of no such type stays, and is not passed by
      * when it is a press or a release.
      */
-    std::optional<Event> nextEventMatchingMask(std::uint32_t mask);
+    [[nodiscard]] std::optional<Event> nextEventMatchingMask(std::uint32_t mask);
 
     /** From now on the view is only told that there are events; it takes them itself. */
     void beginTracking() { mIsTracking = true; }

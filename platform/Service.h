@@ -13,7 +13,7 @@ namespace platform {
 template <class Service>
 class ServiceScope {
 public:
-    explicit ServiceScope(Service& service)
+    [[nodiscard]] explicit ServiceScope(Service& service)
         : mBefore(std::exchange(current(), &service))
     {
     }
