@@ -5,6 +5,7 @@
 
 #include "QVMonitorView.h"
 
+#include "Contrast.h"
 #include "FakeUsb.h"
 #include "PaneTest.h"
 #include "QVTabletModels.h"
@@ -765,17 +766,6 @@ TEST_F(DisplayPage, withoutItsPictureTheRestIsDrawn)
 
 TEST_F(DisplayPage, darkWindowsHaveAGroundOnWhichBlackAndMagentaCanBeSeen)
 {
-    const auto luminance = [](const QColor& color) {
-        const auto linear = [](double part) {
-            return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-        };
-        return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF())
-            + 0.0722 * linear(color.blueF());
-    };
-    const auto contrast = [&](const QColor& a, const QColor& b) {
-        const auto [less, more] = std::minmax({luminance(a), luminance(b)});
-        return (more + 0.05) / (less + 0.05);
-    };
     const QPoint onGround(560, 20);
     const QPalette before = QApplication::palette();
     const QColor light = draw().pixelColor(onGround * view().devicePixelRatioF());
@@ -783,10 +773,10 @@ TEST_F(DisplayPage, darkWindowsHaveAGroundOnWhichBlackAndMagentaCanBeSeen)
     dark.setColor(QPalette::Window, QColor(0x20, 0x23, 0x26));
     view().setPalette(dark);
     const QColor ground = view().grab().toImage().pixelColor(onGround * view().devicePixelRatioF());
-    EXPECT_LT(luminance(ground), luminance(light) / 2);
+    EXPECT_GT(contrastRatio(ground, Qt::white), 2 * contrastRatio(light, Qt::white));
     for (const QColor& paper : {light, ground}) {
-        EXPECT_GT(contrast(paper, Qt::black), 3);
-        EXPECT_GT(contrast(paper, Qt::magenta), 2);
+        EXPECT_GT(contrastRatio(paper, Qt::black), kGraphicsContrast);
+        EXPECT_GT(contrastRatio(paper, Qt::magenta), 2);
     }
     view().setPalette(before);
     EXPECT_EQ(draw().pixelColor(onGround * view().devicePixelRatioF()), light);
