@@ -14,6 +14,7 @@
 
 #include <QCheckBox>
 #include <QLabel>
+#include <QLineF>
 #include <QLocale>
 #include <QMouseEvent>
 #include <QPainterPath>
@@ -83,6 +84,21 @@ protected:
         canvas.painter.end();
         expectSameImage(shown(), canvas.image);
     }
+    /** The pad shows black lines of the fixed width, each from its first point to its last. */
+    void expectLines(const std::vector<QLineF>& lines)
+    {
+        EmptyPad expected(pad());
+        for (const QLineF& line : lines) {
+            paintStep(expected.painter, line.p1(), line.p2(), 25);
+        }
+        expectShown(expected);
+    }
+    void drawLine(const QPointF& from, const QPointF& to)
+    {
+        pen().press(from, 1);
+        pen().move(to, 1);
+        pen().release(to);
+    }
     void useFixedWidth() { outlet<QCheckBox>("mAdjustSize").click(); }
     void comeIntoReach(platform::PointingDeviceType type)
     {
@@ -114,8 +130,7 @@ private:
 
 TEST_F(DrawingPad, drawsItsGroundAndFrame)
 {
-    EmptyPad expected(pad());
-    expectShown(expected);
+    expectLines({});
 }
 
 TEST_F(DrawingPad, drawsADotForAFirstEventAtThePress)
@@ -208,22 +223,16 @@ TEST_F(DrawingPad, drawsAThousandMovesEachOnce)
 TEST_F(DrawingPad, drawsGreyWithTheEraserAndBlackWithTheTip)
 {
     useFixedWidth();
-    pen().press({50, 50}, 1);
-    pen().move({200, 50}, 1);
-    pen().release({200, 50});
+    drawLine({50, 50}, {200, 50});
     pen().turn();
-    pen().press({100, 20}, 1);
-    pen().move({100, 80}, 1);
-    pen().release({100, 80});
+    drawLine({100, 20}, {100, 80});
     PenInput::deliver();
     EXPECT_TRUE(pad().isErasing());
     EmptyPad expected(pad());
     paintStep(expected.painter, {50, 50}, {200, 50}, 25);
     paintStep(expected.painter, {100, 20}, {100, 80}, 25, Qt::lightGray);
     pen().turn();
-    pen().press({300, 20}, 1);
-    pen().move({300, 80}, 1);
-    pen().release({300, 80});
+    drawLine({300, 20}, {300, 80});
     PenInput::deliver();
     EXPECT_FALSE(pad().isErasing());
     paintStep(expected.painter, {300, 20}, {300, 80}, 25);
@@ -242,15 +251,10 @@ TEST_F(DrawingPad, anEraserThatHoversWhileThePenIsDownDoesNotStick)
     pen().release({150, 50});
     PenInput::deliver();
     EXPECT_TRUE(pad().isErasing()) << "the eraser was the last that came";
-    pen().press({50, 150}, 1);
-    pen().move({150, 150}, 1);
-    pen().release({150, 150});
+    drawLine({50, 150}, {150, 150});
     PenInput::deliver();
     EXPECT_FALSE(pad().isErasing());
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 50}, {150, 50}, 25);
-    paintStep(expected.painter, {50, 150}, {150, 150}, 25);
-    expectShown(expected);
+    expectLines({{50, 50, 150, 50}, {50, 150, 150, 150}});
 }
 
 TEST_F(DrawingPad, anEraserThatHoversDoesNotStickEvenWhenAllArrivesTogether)
@@ -262,15 +266,10 @@ TEST_F(DrawingPad, anEraserThatHoversDoesNotStickEvenWhenAllArrivesTogether)
     eraser.hover({301, 250});
     pen().move({150, 50}, 1);
     pen().release({150, 50});
-    pen().press({50, 150}, 1);
-    pen().move({150, 150}, 1);
-    pen().release({150, 150});
+    drawLine({50, 150}, {150, 150});
     PenInput::deliver();
     EXPECT_FALSE(pad().isErasing());
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 50}, {150, 50}, 25);
-    paintStep(expected.painter, {50, 150}, {150, 150}, 25);
-    expectShown(expected);
+    expectLines({{50, 50, 150, 50}, {50, 150, 150, 150}});
 }
 
 TEST_F(DrawingPad, anEraserThatCameWhileThePaneWasHiddenErasesFromItsFirstEventOn)
@@ -350,9 +349,7 @@ TEST_F(DrawingPad, withFixedWidthEveryStrokeIs25PointsWideAndThePressureIsRaw)
     pen().move({300, 200}, 0.5);
     PenInput::deliver();
     EXPECT_EQ(raw(), QStringLiteral("32767.5"));
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 50}, {300, 200}, 25);
-    expectShown(expected);
+    expectLines({{50, 50, 300, 200}});
 }
 
 TEST_F(DrawingPad, aTabletPointWithoutPressureIsSkippedByTheLoopButDrawnFromTheQueue)
@@ -361,17 +358,11 @@ TEST_F(DrawingPad, aTabletPointWithoutPressureIsSkippedByTheLoopButDrawnFromTheQ
     pen().press({100, 100}, 0);
     pen().move({100, 100}, 0);
     PenInput::deliver();
-    EmptyPad expected(pad());
-    {
-        EmptyPad nothing(pad());
-        expectShown(nothing);
-    }
+    expectLines({});
     pen().move({200, 100}, 0); // a drag is always drawn, with the events before it
     pen().move({200, 100}, 0);
     PenInput::deliver();
-    paintStep(expected.painter, {100, 100}, {200, 100}, 25);
-    paintStep(expected.painter, {200, 100}, {200, 100}, 25);
-    expectShown(expected);
+    expectLines({{100, 100, 200, 100}, {200, 100, 200, 100}});
 }
 
 TEST_F(DrawingPad, whatArrivesTogetherIsShownAtOnce)
@@ -398,16 +389,13 @@ TEST_F(DrawingPad, whatArrivesTogetherIsShownAtOnce)
 
 TEST_F(DrawingPad, clearWipesThePad)
 {
-    pen().press({10, 10}, 1);
-    pen().move({200, 100}, 1);
-    pen().release({200, 100});
+    drawLine({10, 10}, {200, 100});
     PenInput::deliver();
     EmptyPad before(pad());
     before.painter.end();
     EXPECT_NE(shown(), before.image);
     QTest::mouseClick(&outlet<QPushButton>("mClean"), Qt::LeftButton);
-    EmptyPad expected(pad());
-    expectShown(expected);
+    expectLines({});
 }
 
 TEST_F(DrawingPad, keepsItsFrameWhenItIsResized)
@@ -437,9 +425,7 @@ TEST_F(DrawingPad, aStrokeGoesOnWhereItWasWhenThePadIsResizedInBetween)
     // The stroke's last point keeps its distance from the lower left corner.
     pen().move({200, 100}, 1);
     PenInput::deliver();
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 150}, {200, 100}, 25);
-    expectShown(expected);
+    expectLines({{50, 150, 200, 100}});
 }
 
 // Interrupted strokes ------------------------------------------------------
@@ -453,9 +439,7 @@ TEST_F(DrawingPad, proximityInsideAStrokeChangesNothing)
     pen().move({200, 50}, 1);
     PenInput::deliver();
     EXPECT_EQ(mUpdates, 1) << "the pen that came, before the stroke";
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 50}, {200, 50}, 25);
-    expectShown(expected);
+    expectLines({{50, 50, 200, 50}});
 }
 
 TEST_F(DrawingPad, aPenThatLeavesInMidStrokeEndsItsStroke)
@@ -469,10 +453,7 @@ TEST_F(DrawingPad, aPenThatLeavesInMidStrokeEndsItsStroke)
     pen().press({50, 200}, 1);
     pen().move({100, 200}, 1);
     PenInput::deliver();
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 50}, {100, 50}, 25);
-    paintStep(expected.painter, {50, 200}, {100, 200}, 25);
-    expectShown(expected);
+    expectLines({{50, 50, 100, 50}, {50, 200, 100, 200}});
 }
 
 TEST_F(DrawingPad, twoPensDrawTwoStrokes)
@@ -486,10 +467,7 @@ TEST_F(DrawingPad, twoPensDrawTwoStrokes)
     pen().release({150, 50});
     other.release({150, 200});
     PenInput::deliver();
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 50}, {150, 50}, 25);
-    paintStep(expected.painter, {50, 200}, {150, 200}, 25);
-    expectShown(expected);
+    expectLines({{50, 50, 150, 50}, {50, 200, 150, 200}});
 }
 
 TEST_F(DrawingPad, penAndMouseDrawTwoStrokes)
@@ -504,10 +482,7 @@ TEST_F(DrawingPad, penAndMouseDrawTwoStrokes)
     QTest::mouseRelease(&pad(), Qt::LeftButton, {}, {150, 200});
     pen().release({150, 50});
     PenInput::deliver();
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 50}, {150, 50}, 25);
-    paintStep(expected.painter, {50, 200}, {150, 200}, 25);
-    expectShown(expected);
+    expectLines({{50, 50, 150, 50}, {50, 200, 150, 200}});
 }
 
 TEST_F(DrawingPad, aPageThatIsLeftInMidStrokeEndsTheStroke)
@@ -526,8 +501,7 @@ TEST_F(DrawingPad, aPageThatIsLeftInMidStrokeEndsTheStroke)
     pen().hover({301, 200});
     PenInput::deliver();
     EXPECT_EQ(pad().stats().mEventType, EventType::MouseMoved);
-    EmptyPad expected(pad());
-    expectShown(expected);
+    expectLines({});
 }
 
 TEST_F(DrawingPad, aWindowThatIsClosedInMidStrokeTakesThePadAlong)
@@ -547,8 +521,7 @@ TEST_F(DrawingPad, aReleaseWithoutAPressOnlyUpdatesTheStatistics)
     QTest::mouseRelease(&pad(), Qt::LeftButton, {}, {50, 50});
     PenInput::deliver();
     EXPECT_EQ(pad().stats().mEventType, EventType::LeftMouseUp);
-    EmptyPad expected(pad());
-    expectShown(expected);
+    expectLines({});
 }
 
 TEST_F(DrawingPad, tenThousandEventsAtOnceAreAllDrawn)
@@ -590,9 +563,7 @@ TEST_F(DrawingPad, whatNoPenCanDoLeavesThePadUsable)
     pen().press({50, 50}, 1);
     pen().move({200, 50}, 1);
     PenInput::deliver();
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 50}, {200, 50}, 25);
-    expectShown(expected);
+    expectLines({{50, 50, 200, 50}});
 }
 
 // Statistics -------------------------------------------------------------------------------------
@@ -655,9 +626,7 @@ TEST_F(DrawingPad, aTabletPointKeepsThePlaceAndDrawsADotThere)
     EXPECT_EQ(pad().stats().mMouseX, 7);
     EXPECT_EQ(pad().stats().mRotDeg, 12);
     EXPECT_EQ(pad().stats().mDeviceID, 3);
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {0, 300}, {0, 300}, 25); // nothing was drawn before
-    expectShown(expected);
+    expectLines({{0, 300, 0, 300}}); // nothing was drawn before
 }
 
 TEST_F(DrawingPad, theMouseKeepsRotationAndPen)
@@ -698,9 +667,7 @@ TEST_F(DrawingPad, aDragWithoutAPressIsDrawnAndAnnounced)
     drag.locationInWindow.setY(mWindow->height() - drag.locationInWindow.y());
     pad().mouseDragged(drag);
     EXPECT_EQ(mUpdates, 1);
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {0, 300}, {100, 200}, 25);
-    expectShown(expected);
+    expectLines({{0, 300, 100, 200}});
 }
 
 TEST_F(DrawingPad, withoutStatisticsADragWithoutAPressIsFollowedToItsEnd)
@@ -739,9 +706,7 @@ TEST_F(DrawingPad, aDragWithoutAPressWhoseReleaseNeverComesEndsWithThePage)
         PenInput::deliver();
     };
     const auto doStroke = [this] {
-        pen().press({50, 50}, 1);
-        pen().move({200, 50}, 1);
-        pen().release({200, 50});
+        drawLine({50, 50}, {200, 50});
         PenInput::deliver();
     };
     pen().hover({5, 5}); // so that the texts below the pad have their final length
@@ -758,9 +723,7 @@ TEST_F(DrawingPad, aDragWithoutAPressWhoseReleaseNeverComesEndsWithThePage)
     pad().doClean();
     PenInput::deliver();
     doStroke(); // the first one began its curve where the drag was
-    EmptyPad expected(pad());
-    paintStep(expected.painter, {50, 50}, {200, 50}, 25);
-    expectShown(expected);
+    expectLines({{50, 50, 200, 50}});
 
     // The same if the page stays, and the mouse moves without its button.
     move({50, 50}, Qt::LeftButton);
