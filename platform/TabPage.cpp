@@ -16,14 +16,4 @@ QSize TabPage::minimumSizeHint() const
     return isHidden() ? kLeast * pixelsPerPoint(font()) : QWidget::minimumSizeHint();
 }
 
-bool TabPage::hasHeightForWidth() const
-{
-    return !isHidden() && QWidget::hasHeightForWidth();
-}
-
-int TabPage::heightForWidth(int width) const
-{
-    return isHidden() ? -1 : QWidget::heightForWidth(width);
-}
-
 } // namespace platform

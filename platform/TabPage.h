@@ -27,8 +27,6 @@ public:
     QSize sizeHint() const override;
     /** A hidden page needs kLeast: it adds nothing to what the page needs that is shown. */
     QSize minimumSizeHint() const override;
-    bool hasHeightForWidth() const override;
-    int heightForWidth(int width) const override;
 };
 
 } // namespace platform
