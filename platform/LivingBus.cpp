@@ -69,8 +69,7 @@ bool isAnswered(const Descriptor& socket, const QDeadlineTimer& deadline)
     const QByteArray words = '\0' + QByteArrayLiteral("AUTH EXTERNAL ")
         + QByteArray::number(::getuid()).toHex() + "\r\n";
     const auto size = static_cast<std::size_t>(words.size());
-    return ::send(socket.get(), words.constData(), size, MSG_NOSIGNAL)
-        == static_cast<ssize_t>(size)
+    return ::send(socket.get(), words.constData(), size, MSG_NOSIGNAL) == static_cast<ssize_t>(size)
         && waitFor(socket, POLLIN, deadline);
 }
 
