@@ -40,6 +40,8 @@ Error tooLarge()
     return {QStringLiteral("it is larger than %1 bytes").arg(kPropertyListMaxSize)};
 }
 
+constexpr std::size_t kPart = std::size_t{16} << 10U; ///< read at once: a configuration is less
+
 /** Reads a file whole; a regular one without ever waiting for another process. */
 Result<std::string> readFile(const std::string& path, PropertyListSource source)
 {
@@ -60,30 +62,21 @@ Result<std::string> readFile(const std::string& path, PropertyListSource source)
     if (isRegular && !S_ISREG(status.st_mode)) {
         return fail(QStringLiteral("it is no regular file"));
     }
-    // One byte more than the file is said to have shows that it has grown meanwhile.
-    const auto size = static_cast<std::size_t>(std::max<off_t>(status.st_size, 0));
-    std::string bytes(std::min(size, kPropertyListMaxSize) + 1, '\0');
-    std::size_t used = 0;
-    for (;;) {
-        const ssize_t got = ::read(file.get(), bytes.data() + used, bytes.size() - used);
-        if (got < 0 && errno == EINTR) {
-            continue;
-        }
-        if (got < 0) {
+    std::string bytes;
+    while (std::max<std::size_t>(bytes.size(), static_cast<std::size_t>(status.st_size))
+        <= kPropertyListMaxSize) {
+        const std::size_t used = bytes.size();
+        bytes.resize(used + kPart);
+        const ssize_t got = ::read(file.get(), bytes.data() + used, kPart);
+        if (got < 0 && errno != EINTR) {
             return fail(systemText(errno));
         }
-        used += static_cast<std::size_t>(got);
-        if (used > kPropertyListMaxSize || size > kPropertyListMaxSize) {
-            return fail(tooLarge().text);
-        }
+        bytes.resize(used + static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
         if (got == 0) {
-            bytes.resize(used);
             return bytes;
         }
-        if (used == bytes.size()) {
-            bytes.resize(std::min(2 * used, kPropertyListMaxSize + 1));
-        }
     }
+    return fail(tooLarge().text);
 }
 
 /** Writes all bytes and has them on the disk before it returns. */

@@ -3,14 +3,15 @@
 #include "PropertyListNode.h"
 
 #include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
 #include <bit>
 #include <charconv>
-#include <chrono>
 #include <cmath>
-#include <cstdio>
 #include <utility>
 
 namespace platform {
@@ -22,6 +23,9 @@ using Kind = Node::Kind;
 
 constexpr std::size_t kMagicSize = 8; // "bplist00"
 constexpr std::size_t kTrailerSize = 32;
+
+/** What makes a text one that XML cannot hold. */
+constexpr char kNoUtf8 = '\xFF';
 
 /** The shortest text that is read as the same real. */
 std::string realText(double value)
@@ -51,25 +55,19 @@ std::string fractionText(double fraction)
  */
 std::optional<std::string> dateText(double seconds)
 {
-    using namespace std::chrono;
-    constexpr sys_seconds kBegin = sys_days(2001y / January / 1);
-    constexpr sys_seconds kFirst = sys_days(1y / January / 1);
-    constexpr sys_seconds kEnd = sys_days(10000y / January / 1);
+    constexpr double kBegin = 978'307'200; // in Unix time
     const double whole = std::floor(seconds);
-    if (!(whole >= static_cast<double>((kFirst - kBegin).count())
-            && whole < static_cast<double>((kEnd - kBegin).count()))) {
+    // What is no number fails the comparison, too.
+    if (!(std::abs(whole) < 1e12)) {
         return std::nullopt;
     }
-    const sys_seconds time = kBegin + std::chrono::seconds(static_cast<std::int64_t>(whole));
-    const sys_days day = floor<days>(time);
-    const year_month_day date(day);
-    const hh_mm_ss clock(time - day);
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d",
-        static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-        static_cast<unsigned>(date.day()), static_cast<int>(clock.hours().count()),
-        static_cast<int>(clock.minutes().count()), static_cast<int>(clock.seconds().count()));
-    return text.data() + fractionText(seconds - whole) + 'Z';
+    const QDateTime date =
+        QDateTime::fromSecsSinceEpoch(static_cast<qint64>(whole + kBegin), Qt::UTC);
+    if (date.date().year() < 1 || date.date().year() > 9999) {
+        return std::nullopt;
+    }
+    return date.toString(Qt::ISODate).chopped(1).toStdString() + fractionText(seconds - whole)
+        + 'Z';
 }
 
 /**
@@ -289,11 +287,12 @@ private:
             text = mBytes.substr(object.at, object.count);
             return isUtf8(text) || refuse("a string is no text");
         }
-        std::u16string wide;
-        for (std::size_t i = 0; i < object.count; ++i) {
-            wide += static_cast<char16_t>(number(object.at + 2 * i, 2));
+        QString wide(static_cast<int>(object.count), Qt::Uninitialized);
+        qFromBigEndian<quint16>(mBytes.data() + object.at, wide.size(), wide.data());
+        text = wide.toStdString();
+        if (!wide.isValidUtf16()) {
+            text += kNoUtf8; // for half a surrogate pair
         }
-        appendUtf8(text, wide);
         return true;
     }
 

@@ -6,7 +6,6 @@
 #include <QString>
 
 #include <algorithm>
-#include <iterator>
 #include <vector>
 
 namespace platform {
@@ -20,7 +19,7 @@ PropertyListNode* PropertyListNode::find(std::string_view name)
 void PropertyListNode::dropOlderValues()
 {
     using Part = std::list<PropertyListNode>::iterator;
-    if (kind != Kind::Dictionary || parts.size() < 2) {
+    if (kind != Kind::Dictionary) {
         return;
     }
     std::vector<Part> sorted;
@@ -30,52 +29,16 @@ void PropertyListNode::dropOlderValues()
     }
     // Those of one key stay in the file's order.
     std::ranges::stable_sort(sorted, {}, [](Part part) -> const std::string& { return part->key; });
-    for (auto first = sorted.begin(); first != sorted.end();) {
-        const auto last = std::find_if(
-            first, sorted.end(), [&](Part part) { return part->key != (*first)->key; });
-        if (const Part newest = *std::prev(last); newest != *first) {
-            parts.splice(*first, parts, newest);
-            std::for_each(first, std::prev(last), [this](Part part) { parts.erase(part); });
+    for (std::size_t i = 1; i < sorted.size(); ++i) {
+        if (sorted[i]->key == sorted[i - 1]->key) {
+            parts.splice(sorted[i - 1], parts, sorted[i]);
+            parts.erase(sorted[i - 1]);
         }
-        first = last;
-    }
-}
-
-void appendUtf8(std::string& to, std::u16string_view from)
-{
-    const auto add = [&to](unsigned bits) { to += static_cast<char>(bits); };
-    const auto isHalf = [](unsigned c, unsigned first) { return c - first < 0x400U; };
-    for (std::size_t at = 0; at < from.size(); ++at) {
-        unsigned c = from[at];
-        if (isHalf(c, 0xD800U) && at + 1 < from.size() && isHalf(from[at + 1], 0xDC00U)) {
-            c = 0x10000U + ((c - 0xD800U) << 10U) + (from[++at] - 0xDC00U);
-        }
-        if (c < 0x80U) {
-            add(c);
-            continue;
-        }
-        if (c < 0x800U) {
-            add(0xC0U | c >> 6U);
-        } else {
-            if (c < 0x10000U) {
-                add(0xE0U | c >> 12U);
-            } else {
-                add(0xF0U | c >> 18U);
-                add(0x80U | (c >> 12U & 0x3FU));
-            }
-            add(0x80U | (c >> 6U & 0x3FU));
-        }
-        add(0x80U | (c & 0x3FU));
     }
 }
 
 bool isUtf8(std::string_view bytes)
 {
-    const bool isAscii =
-        std::ranges::all_of(bytes, [](char c) { return static_cast<unsigned char>(c) < 0x80; });
-    if (isAscii) {
-        return true;
-    }
     constexpr std::string_view kMark = "\xEF\xBB\xBF"; // is lost on the way
     if (bytes.starts_with(kMark)) {
         bytes.remove_prefix(kMark.size());

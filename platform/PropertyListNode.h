@@ -65,9 +65,6 @@ std::optional<std::uint64_t> propertyListInteger(std::string_view text);
 /** The number in the text of a Real. */
 std::optional<double> propertyListReal(std::string_view text);
 
-/** Adds UTF-16 in UTF-8. Half a surrogate pair becomes three bytes that are not valid UTF-8. */
-void appendUtf8(std::string& to, std::u16string_view from);
-
 /** Whether the bytes are UTF-8. */
 bool isUtf8(std::string_view bytes);
 

@@ -3,6 +3,7 @@
 #include "PropertyListNode.h"
 
 #include <QXmlStreamReader>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
@@ -12,7 +13,6 @@
 #include <locale>
 #include <sstream>
 #include <utility>
-#include <vector>
 
 namespace platform {
 
@@ -36,19 +36,11 @@ const char* tagName(Kind kind)
     return std::ranges::find(kTags, kind, &Tag::kind)->name;
 }
 
-bool isBlank(char c)
-{
-    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
-}
-
 std::string_view trimmed(std::string_view text)
 {
-    while (!text.empty() && isBlank(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && isBlank(text.back())) {
-        text.remove_suffix(1);
-    }
+    constexpr std::string_view kBlanks = " \t\r\n";
+    text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
+    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
     return text;
 }
 
@@ -98,12 +90,11 @@ public:
         }
         const bool isBigEndian = raw[0] == 0xFE || raw[0] == 0;
         const std::size_t mark = raw[0] >= 0xFE ? 2 : 0;
-        QString text;
-        text.reserve(static_cast<int>(bytes.size() / 2));
-        for (std::size_t at = mark; at + 1 < bytes.size(); at += 2) {
-            const unsigned high = raw[isBigEndian ? at : at + 1];
-            const unsigned low = raw[isBigEndian ? at + 1 : at];
-            text.append(QChar(static_cast<char16_t>(high << 8U | low)));
+        QString text(static_cast<int>((bytes.size() - mark) / 2), Qt::Uninitialized);
+        if (isBigEndian) {
+            qFromBigEndian<quint16>(raw + mark, text.size(), text.data());
+        } else {
+            qFromLittleEndian<quint16>(raw + mark, text.size(), text.data());
         }
         mIsDecoded = true;
         if (bytes.size() % 2 != 0 || !text.isValidUtf16()) {
@@ -114,24 +105,31 @@ public:
 
     Result<Node> read()
     {
-        while (mWhy.empty() && !mXml.atEnd()) {
-            step();
+        Node root;
+        const bool hasRoot = next() && (mXml.name() != QLatin1String("plist") || next());
+        if (hasRoot) {
+            readValue(root, 0);
         }
-        if (mWhy.empty() && mXml.hasError()) {
+        while (mWhy.empty() && !mXml.atEnd()) {
+            if (next() && kind()) {
+                refuse("a second list follows the first");
+            }
+        }
+        if (mXml.hasError()) {
             // Qt quotes what it has found, control characters too.
             QString text = mXml.errorString();
             for (QChar& c : text) {
                 c = c.isPrint() ? c : QChar(u'?');
             }
-            mWhy = text.toStdString() + " (line " + std::to_string(mXml.lineNumber()) + ")";
+            refuse(text.toStdString() + " (line " + std::to_string(mXml.lineNumber()) + ")");
         }
-        if (mWhy.empty() && !mHasRoot) {
-            mWhy = "it holds no value";
+        if (!hasRoot) {
+            refuse("it holds no value");
         }
         if (!mWhy.empty()) {
             return Error{QString::fromStdString(mWhy)};
         }
-        return std::move(mRoot);
+        return root;
     }
 
 private:
@@ -142,36 +140,40 @@ private:
         }
     }
 
-    void step()
+    /** Goes on to the next element. @return false at the end of the one around it, or for errors */
+    bool next()
     {
-        switch (mXml.readNext()) {
-        case QXmlStreamReader::StartDocument:
-            checkEncoding();
-            break;
-        case QXmlStreamReader::DTD:
-            // No list needs entities of its own, and no reader need expand them.
-            if (mXml.text().contains(QLatin1Char('['))) {
-                refuse("a document type with definitions");
+        while (mWhy.empty()) {
+            switch (mXml.readNext()) {
+            case QXmlStreamReader::StartDocument:
+                checkEncoding();
+                break;
+            case QXmlStreamReader::DTD:
+                // No list needs entities of its own, and no reader need expand them.
+                if (mXml.text().contains(QLatin1Char('['))) {
+                    refuse("a document type with definitions");
+                }
+                break;
+            case QXmlStreamReader::StartElement:
+                return true;
+            case QXmlStreamReader::EndElement:
+            case QXmlStreamReader::EndDocument:
+            case QXmlStreamReader::Invalid:
+                return false;
+            case QXmlStreamReader::Characters:
+                if (!mXml.isWhitespace()) {
+                    refuse("text where a value belongs (line " + std::to_string(mXml.lineNumber())
+                        + ")");
+                }
+                break;
+            case QXmlStreamReader::EntityReference:
+                refuse("an entity that is not defined");
+                break;
+            default:
+                break;
             }
-            break;
-        case QXmlStreamReader::StartElement:
-            begin();
-            break;
-        case QXmlStreamReader::EndElement:
-            end();
-            break;
-        case QXmlStreamReader::Characters:
-            if (!mXml.isWhitespace()) {
-                refuse(
-                    "text where a value belongs (line " + std::to_string(mXml.lineNumber()) + ")");
-            }
-            break;
-        case QXmlStreamReader::EntityReference:
-            refuse("an entity that is not defined");
-            break;
-        default:
-            break;
         }
+        return false;
     }
 
     /** UTF-8 that is broken is refused; what another encoding cannot decode shows in the texts. */
@@ -188,81 +190,68 @@ private:
         }
     }
 
-    void begin()
+    /** Which value the element is; nothing, and refused, where it is none. */
+    std::optional<Kind> kind()
     {
         const auto name = mXml.name();
-        if (name == QLatin1String("key")) {
-            if (mOpen.empty() || mOpen.back()->kind != Kind::Dictionary || mHasKey) {
-                refuse("a key where a value belongs");
-                return;
-            }
-            mKey.clear();
-            readText(mKey);
-            mHasKey = true;
-            return;
-        }
-        if (name == QLatin1String("plist") && mOpen.empty() && !mInPlist && !mHasRoot) {
-            mInPlist = true;
-            return;
-        }
         const auto* const tag = std::ranges::find_if(
             kTags, [&](const Tag& known) { return name == QLatin1String(known.name); });
-        if (tag == kTags.end()) {
-            refuse("unknown tag " + shown(name.toString().toStdString()));
-            return;
+        if (tag != kTags.end()) {
+            return tag->kind;
         }
-        Node* const node = place(tag->kind);
-        if (node == nullptr) {
-            return;
-        }
-        if (!node->isContainer()) {
-            readText(node->text);
-            check(*node);
-        } else if (mOpen.size() == static_cast<std::size_t>(kPropertyListMaxDepth)) {
-            refuse(propertyListTooDeep());
-        } else {
-            mOpen.push_back(node);
-        }
+        refuse(name == QLatin1String("key")
+                ? "a key where a value belongs"
+                : "unknown tag " + shown(name.toString().toStdString()));
+        return std::nullopt;
     }
 
-    /** Makes the value that begins here; null when it may not stand here. */
-    Node* place(Kind kind)
+    /** Reads the element's value, up to its end. @param depth containers around it */
+    void readValue(Node& node, int depth)
     {
+        const std::optional<Kind> itsKind = kind();
+        if (!itsKind) {
+            return;
+        }
         if (++mNodes > kPropertyListMaxNodes) {
             refuse(propertyListTooManyNodes());
-            return nullptr;
+            return;
         }
-        if (mOpen.empty()) {
-            if (std::exchange(mHasRoot, true)) {
-                refuse("a second list follows the first");
-                return nullptr;
+        node.kind = *itsKind;
+        if (!node.isContainer()) {
+            readText(node.text);
+            check(node);
+            return;
+        }
+        if (depth == kPropertyListMaxDepth) {
+            refuse(propertyListTooDeep());
+            return;
+        }
+        while (next()) {
+            Node& part = node.parts.emplace_back();
+            if (node.kind != Kind::Dictionary || readKey(part.key)) {
+                readValue(part, depth + 1);
             }
-            mRoot.kind = kind;
-            return &mRoot;
         }
-        Node& container = *mOpen.back();
-        if (container.kind == Kind::Dictionary && !mHasKey) {
-            refuse("a value without a key");
-            return nullptr;
-        }
-        Node& node = container.parts.emplace_back();
-        node.kind = kind;
-        if (std::exchange(mHasKey, false)) {
-            node.key = std::move(mKey);
-        }
-        return &node;
+        node.dropOlderValues();
     }
 
-    void end()
+    /** Reads a key and goes on to its value. @return whether there are both */
+    bool readKey(std::string& key)
     {
-        if (mOpen.empty()) {
-            return; // </plist>
+        if (mXml.name() != QLatin1String("key")) {
+            if (kind()) {
+                refuse("a value without a key");
+            }
+            return false;
         }
-        if (mHasKey) {
+        readText(key);
+        if (next()) {
+            return true;
+        }
+        if (!mXml.hasError()) {
             refuse("a key without a value");
         }
-        mOpen.back()->dropOlderValues();
-        mOpen.pop_back();
+        return false;
     }
 
     /** Reads up to the element's end. Comments in between are no part of its text. */
@@ -275,9 +264,14 @@ private:
                 if (!mIsDecoded && part.contains(QChar(QChar::ReplacementCharacter))) {
                     refuse("it is not in the encoding that it declares");
                 }
-                appendUtf8(text,
-                    {reinterpret_cast<const char16_t*>(part.data()),
-                        static_cast<std::size_t>(part.size())});
+                const bool isAscii =
+                    std::ranges::all_of(part, [](QChar c) { return c.unicode() < 0x80; });
+                if (isAscii) { // as nearly always: it need not be encoded
+                    std::ranges::transform(
+                        part, std::back_inserter(text), [](QChar c) { return c.toLatin1(); });
+                } else {
+                    text += part.toUtf8().toStdString();
+                }
                 break;
             }
             case QXmlStreamReader::Comment:
@@ -328,12 +322,6 @@ private:
     std::string_view mBytes;
     QXmlStreamReader mXml;
     bool mIsDecoded = false; ///< what is not valid in its encoding has been found out
-    std::vector<Node*> mOpen; ///< containers, from the root inwards
-    bool mInPlist = false;
-    bool mHasRoot = false;
-    Node mRoot;
-    bool mHasKey = false; ///< the next value's
-    std::string mKey;
     std::size_t mNodes = 0;
     std::string mWhy;
 };
@@ -364,30 +352,24 @@ void writeText(std::string& xml, std::string_view text)
 
 void writeElement(std::string& xml, std::string_view name, std::string_view text)
 {
-    xml += '<';
-    xml += name;
-    xml += '>';
+    xml.append("<").append(name).append(">");
     writeText(xml, text);
-    xml += "</";
-    xml += name;
-    xml += ">\n";
+    xml.append("</").append(name).append(">\n");
 }
 
 void writeNode(std::string& xml, const Node& node, std::size_t depth)
 {
-    const char* const name = tagName(node.kind);
+    const std::string_view name = tagName(node.kind);
     xml.append(depth, '\t');
     if (!node.isContainer() && node.kind != Kind::True && node.kind != Kind::False) {
         writeElement(xml, name, node.text);
         return;
     }
-    xml += '<';
-    xml += name;
     if (node.parts.empty()) {
-        xml += "/>\n";
+        xml.append("<").append(name).append("/>\n");
         return;
     }
-    xml += ">\n";
+    xml.append("<").append(name).append(">\n");
     for (const Node& part : node.parts) {
         if (node.kind == Kind::Dictionary) {
             xml.append(depth + 1, '\t');
@@ -396,9 +378,7 @@ void writeNode(std::string& xml, const Node& node, std::size_t depth)
         writeNode(xml, part, depth + 1);
     }
     xml.append(depth, '\t');
-    xml += "</";
-    xml += name;
-    xml += ">\n";
+    xml.append("</").append(name).append(">\n");
 }
 
 } // namespace
