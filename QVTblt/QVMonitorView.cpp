@@ -161,7 +161,7 @@ void QVMonitorView::updateCalibrate()
     const bool hasOneDisplay = mDspCount == 1 || chosenItem() > 0;
     const QString help = hasOneDisplay
         ? mCalibrateHelp
-        : tr("Choose one display first: all displays together have no corners to touch.");
+        : tr("Choose one display first: all displays cannot be calibrated together.");
     // Each redraw comes here, and screen readers hear of each help that is set.
     if (mDoCalibrate->isEnabledTo(mDoCalibrate->parentWidget()) == hasOneDisplay
         && mDoCalibrate->toolTip() == help && mDoCalibrate->accessibleDescription() == help) {
@@ -308,7 +308,7 @@ QString QVMonitorView::spokenContents() const
                                  number(display.x), number(display.y)));
     }
     if (chosenItem() >= 0) {
-        sentences.append(tr("The tablet reaches %1.").arg(mComboBox->currentText()));
+        sentences.append(tr("The tablet is mapped to %1.").arg(mComboBox->currentText()));
     }
     return sentences.join(u' ');
 }

@@ -23,7 +23,7 @@ QString textOf(const QVDrawView::Stats& stats)
         QVPenStats::tr("Tilt %1° right, %2° down")
             .arg(rounded(stats.mTiltX), rounded(stats.mTiltY)),
         QVPenStats::tr("Rotation %1°").arg(rounded(stats.mRotDeg)),
-        QVPenStats::tr("At %1, %2 of the desktop")
+        QVPenStats::tr("At %1, %2 on the desktop")
             .arg(QString::number(stats.mAbsX), QString::number(stats.mAbsY)),
     };
     if (stats.mDeviceID != 0) {

@@ -62,7 +62,7 @@ void QVPressView::handleProximity(const platform::Notification& notification)
 {
     const auto event = notification.userInfo.value(kProximityEventKey);
     if (event) {
-        mPenID->setText(event->isEnteringProximity ? nameOf(*event) : tr("No pen in reach"));
+        mPenID->setText(event->isEnteringProximity ? nameOf(*event) : tr("No pen in range"));
     }
 }
 
@@ -72,8 +72,8 @@ QString QVPressView::spokenContents() const
     // Points of the curve's width and height, of which 200 are all.
     const auto percentAt = [threshold](
                                int j) { return QString::number(QVPressHeight(threshold, j) / 2); };
-    return tr("Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % "
-              "at a quarter of it, %3 % at half and %4 % at three quarters.")
+    return tr("Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, "
+              "%3 % at half and %4 % at three quarters.")
         .arg(QString::number(threshold), percentAt(50), percentAt(100), percentAt(150));
 }
 

@@ -44,7 +44,7 @@ QString actionText(const tagQVTabletInfoSubKey& slot)
         return mouseText(slot.Mouse);
     case kQVApplication: {
         const QString path = pathText(slot.App);
-        return path.isEmpty() ? ActionText::tr("Open an application, of which no path is known")
+        return path.isEmpty() ? ActionText::tr("Open an application (unknown path)")
                               : ActionText::tr("Open %1").arg(path);
     }
     case kQVKeyCombination: {

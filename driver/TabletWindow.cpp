@@ -228,7 +228,7 @@ void TabletWindow::choose()
         const QString& error = attached.error().text;
         say(error);
         showModel();
-        const QString text = tr("The tablet is not attached: %1").arg(error);
+        const QString text = tr("The tablet could not be attached: %1").arg(error);
         mTold->tell(text);
         mNoTablet->setText(text);
     }
@@ -254,7 +254,7 @@ void TabletWindow::showModel()
     }
     addKeys(*attached);
     addPenButtons(*attached);
-    mTold->tell(tr("no key yet; press one to see what it does"));
+    mTold->tell(tr("no key yet; press one to see its action"));
     const std::optional<tagQVTabletInfo> known = settings();
     mSurface->setTablet(tabletRange(*attached, known ? &*known : nullptr));
     showSettings();
@@ -342,7 +342,7 @@ void TabletWindow::tell(const QString& name, const QString& action)
     mTold->tell(
         tr("%1: %2", "a key and what it does")
             .arg(name,
-                action.isEmpty() ? tr("not known before the panel sends its settings") : action));
+                action.isEmpty() ? tr("unknown until the panel sends its settings") : action));
 }
 
 void TabletWindow::showSettings()
@@ -355,7 +355,7 @@ void TabletWindow::showSettings()
     mSurface->setRange(tabletRange(*attached, known ? &*known : nullptr));
     if (!known) {
         mSurface->setMapped(std::nullopt);
-        mMapped->setText(tr("not known before the panel sends its settings"));
+        mMapped->setText(tr("unknown until the panel sends its settings"));
         return;
     }
     const QVTabletArea mapped{known->Monitor.cTabletXmin, known->Monitor.cTabletXmax,
@@ -368,9 +368,8 @@ void TabletWindow::showSettings()
 
 void TabletWindow::showListening()
 {
-    mListening->setText(mDriver.isCalibrating()
-            ? tr("calibrating: it is told what the pen does")
-            : tr("not calibrating: it is told nothing of the pen"));
+    mListening->setText(mDriver.isCalibrating() ? tr("calibrating: it gets pen reports")
+                                                : tr("not calibrating: it gets no pen reports"));
     liftAboveCalibration();
 }
 

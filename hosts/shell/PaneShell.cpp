@@ -56,10 +56,10 @@ PaneShell::~PaneShell()
 void PaneShell::makeButtons()
 {
     mCancel = new QPushButton(tr("&Cancel"));
-    mCancel->setToolTip(tr("Go back to the settings in the file"));
+    mCancel->setToolTip(tr("Go back to the saved settings"));
     connect(mCancel, &QPushButton::clicked, this, &PaneShell::cancel);
     mSave = new QPushButton(tr("Sa&ve"));
-    mSave->setToolTip(tr("Keep the settings as they are now"));
+    mSave->setToolTip(tr("Save the current settings"));
     connect(mSave, &QPushButton::clicked, this, &PaneShell::save);
     auto* const row = static_cast<QHBoxLayout*>(mBottom->layout()); // NOLINT(*-downcast): made so
     row->addStretch(1);
@@ -211,7 +211,7 @@ PaneShell::Unsaved PaneShell::askAboutUnsaved(const platform::Error& error, bool
         QMessageBox::Retry | QMessageBox::Discard, window());
     question->setTextFormat(Qt::PlainText);
     if (canStay) {
-        question->setInformativeText(tr("Close the window and lose the changes?"));
+        question->setInformativeText(tr("Close the window and discard the changes?"));
         QPushButton* const keep = question->addButton(tr("&Keep Open"), QMessageBox::RejectRole);
         question->setDefaultButton(keep);
         question->setEscapeButton(keep);
@@ -321,11 +321,11 @@ void PaneShell::showNotice()
     QString button;
     switch (notice()) {
     case Notice::NotSaved:
-        text = tr("The settings are not saved: %1").arg(mNotSaved);
+        text = tr("The settings were not saved: %1").arg(mNotSaved);
         button = tr("Tr&y Again");
         break;
     case Notice::NotKept:
-        text = tr("The former tablet's settings are not saved: %1").arg(mNotKept);
+        text = tr("The previous tablet's settings were not saved: %1").arg(mNotKept);
         break;
     case Notice::NotLoaded:
         text = tr("The tablet's settings cannot be loaded, so the pages do not show them: %1")
@@ -333,7 +333,7 @@ void PaneShell::showNotice()
         button = tr("Tr&y Again");
         break;
     case Notice::NotTaken:
-        text = tr("The tablet's driver has not taken the last change. Is it running?");
+        text = tr("The tablet's driver has not accepted the last change. Is it running?");
         button = tr("Send A&gain");
         break;
     case Notice::None:

@@ -23,7 +23,7 @@
         <translation>&amp;Abbrechen</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
+        <source>Go back to the saved settings</source>
         <translation>Zu den gespeicherten Einstellungen zurückkehren</translation>
     </message>
     <message>
@@ -31,19 +31,19 @@
         <translation>&amp;Speichern</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
-        <translation>Die jetzigen Einstellungen behalten</translation>
+        <source>Save the current settings</source>
+        <translation>Die jetzigen Einstellungen speichern</translation>
     </message>
     <message>
-        <source>The settings are not saved: %1</source>
-        <translation>Die Einstellungen sind nicht gespeichert: %1</translation>
+        <source>The settings were not saved: %1</source>
+        <translation>Die Einstellungen wurden nicht gespeichert: %1</translation>
     </message>
     <message>
         <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
         <translation>Die Einstellungen des Tabletts lassen sich nicht laden, deshalb zeigen die Seiten sie nicht: %1</translation>
     </message>
     <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <source>The tablet&apos;s driver has not accepted the last change. Is it running?</source>
         <translation>Der Treiber des Tabletts hat die letzte Änderung nicht angenommen. Läuft er?</translation>
     </message>
     <message>
@@ -59,16 +59,16 @@
         <translation>Die Einstellungen des Tabletts konnten nicht gespeichert werden: %1</translation>
     </message>
     <message>
-        <source>Close the window and lose the changes?</source>
-        <translation>Soll das Fenster geschlossen werden, wobei die Änderungen verloren gehen?</translation>
+        <source>Close the window and discard the changes?</source>
+        <translation>Soll das Fenster geschlossen und sollen die Änderungen verworfen werden?</translation>
     </message>
     <message>
         <source>&amp;Keep Open</source>
         <translation>&amp;Offen lassen</translation>
     </message>
     <message>
-        <source>The former tablet&apos;s settings are not saved: %1</source>
-        <translation>Die Einstellungen des vorigen Tabletts sind nicht gespeichert: %1</translation>
+        <source>The previous tablet&apos;s settings were not saved: %1</source>
+        <translation>Die Einstellungen des vorigen Tabletts wurden nicht gespeichert: %1</translation>
     </message>
 </context>
 <context>
@@ -170,8 +170,8 @@
         <translation>&amp;Löschen</translation>
     </message>
     <message>
-        <source>Take the last key back</source>
-        <translation>Die letzte Taste zurücknehmen</translation>
+        <source>Remove the last key</source>
+        <translation>Die letzte Taste entfernen</translation>
     </message>
     <message>
         <source>Escape</source>
@@ -236,12 +236,12 @@
         <translation>%1: %2 mal %3 Punkte, die linke obere Ecke bei %4, %5.</translation>
     </message>
     <message>
-        <source>The tablet reaches %1.</source>
-        <translation>Das Tablett erreicht: %1.</translation>
+        <source>The tablet is mapped to %1.</source>
+        <translation>Das Tablett ist abgebildet auf: %1.</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays together have no corners to touch.</source>
-        <translation>Zuerst einen Bildschirm wählen: Alle zusammen haben keine Ecken zum Antippen.</translation>
+        <source>Choose one display first: all displays cannot be calibrated together.</source>
+        <translation>Zuerst einen Bildschirm wählen: Alle zusammen lassen sich nicht kalibrieren.</translation>
     </message>
 </context>
 <context>
@@ -259,8 +259,8 @@
         <translation>Drehung %1°</translation>
     </message>
     <message>
-        <source>At %1, %2 of the desktop</source>
-        <translation>Bei %1, %2 des Bildschirms</translation>
+        <source>At %1, %2 on the desktop</source>
+        <translation>Bei %1, %2 auf dem Bildschirm</translation>
     </message>
     <message>
         <source>Pen number %1</source>
@@ -286,12 +286,12 @@
         <translation>Stift, Seriennummer %1</translation>
     </message>
     <message>
-        <source>No pen in reach</source>
+        <source>No pen in range</source>
         <translation>Kein Stift in Reichweite</translation>
     </message>
     <message>
-        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
-        <translation>Schwelle %1 von 200. Von dem, was Programme bei vollem Druck erhalten, erhalten sie bei einem Viertel davon %2 %, bei der Hälfte %3 % und bei drei Vierteln %4 %.</translation>
+        <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <translation>Schwelle %1 von 200. Programme erhalten bei einem Viertel des vollen Drucks %2 % davon, bei der Hälfte %3 % und bei drei Vierteln %4 %.</translation>
     </message>
 </context>
 <context>
@@ -421,7 +421,7 @@
         <translation>&amp;Abbrechen</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
+        <source>Go back to the saved settings</source>
         <translation>Zu den gespeicherten Einstellungen zurückkehren</translation>
     </message>
     <message>
@@ -429,8 +429,8 @@
         <translation>&amp;Speichern</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
-        <translation>Die jetzigen Einstellungen behalten</translation>
+        <source>Save the current settings</source>
+        <translation>Die jetzigen Einstellungen speichern</translation>
     </message>
     <message>
         <source>Unknown tablet, product %1</source>
@@ -453,40 +453,40 @@
         <translation>Der Teil der Arbeitsfläche, den der Stift erreicht.</translation>
     </message>
     <message>
-        <source>The tablet &amp;lies:</source>
-        <translation>Das Tablett &amp;liegt:</translation>
+        <source>&amp;Orientation:</source>
+        <translation>A&amp;usrichtung:</translation>
     </message>
     <message>
-        <source>The tablet lies</source>
-        <translation>Das Tablett liegt</translation>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
     </message>
     <message>
-        <source>Turn the tablet when its keys shall lie under the other hand.</source>
-        <translation>Drehen, wenn die Tasten unter der anderen Hand liegen sollen.</translation>
+        <source>Turn the tablet to have its keys under the other hand.</source>
+        <translation>Das Tablett drehen, damit die Tasten unter der anderen Hand liegen.</translation>
     </message>
     <message>
-        <source>Turned by 180°</source>
+        <source>Rotated by 180°</source>
         <translation>Um 180° gedreht</translation>
     </message>
     <message>
-        <source>As usual</source>
-        <translation>Wie üblich</translation>
+        <source>Not rotated</source>
+        <translation>Nicht gedreht</translation>
     </message>
     <message>
         <source>&amp;Report speed:</source>
         <translation>&amp;Meldegeschwindigkeit:</translation>
     </message>
     <message>
-        <source>Fast follows the hand more closely. The tablet itself is told, over USB.</source>
-        <translation>Schnell folgt der Hand genauer. Das Tablett selbst erfährt es über USB.</translation>
+        <source>Fast follows the hand more closely. The setting is also sent to the tablet itself, over USB.</source>
+        <translation>„Schnell“ folgt der Hand genauer. Die Einstellung wird auch über USB an das Tablett selbst gesendet.</translation>
     </message>
     <message>
         <source>Use the &amp;whole tablet</source>
         <translation>&amp;Ganzes Tablett nutzen</translation>
     </message>
     <message>
-        <source>The whole surface reaches the chosen part of the desktop.</source>
-        <translation>Die ganze Fläche erreicht den gewählten Teil der Arbeitsfläche.</translation>
+        <source>Maps the whole tablet to the chosen part of the desktop.</source>
+        <translation>Bildet das ganze Tablett auf den gewählten Teil der Arbeitsfläche ab.</translation>
     </message>
     <message>
         <source>Keep &amp;proportions</source>
@@ -505,8 +505,8 @@
         <translation>&amp;Kalibrieren …</translation>
     </message>
     <message>
-        <source>Touch four crosses on the chosen display, so that the pen meets its pointer.</source>
-        <translation>Vier Kreuze auf dem gewählten Bildschirm berühren, damit der Stift den Zeiger trifft.</translation>
+        <source>Touch four crosses on the chosen display to align the pointer with the pen.</source>
+        <translation>Vier Kreuze auf dem gewählten Bildschirm berühren, um den Zeiger am Stift auszurichten.</translation>
     </message>
     <message>
         <source>P&amp;en</source>
@@ -517,8 +517,8 @@
         <translation>Druck</translation>
     </message>
     <message>
-        <source>Towards Light, a gentle touch already gives much. Towards Heavy, you press harder for the same.</source>
-        <translation>Bei „Leicht“ bewirkt schon eine sanfte Berührung viel. Bei „Fest“ drücken Sie für dasselbe stärker.</translation>
+        <source>Light: a gentle touch has a strong effect. Heavy: you press harder for the same effect.</source>
+        <translation>Leicht: Schon eine sanfte Berührung wirkt stark. Fest: Für dieselbe Wirkung drücken Sie stärker.</translation>
     </message>
     <message>
         <source>↑ What programs receive</source>
@@ -561,7 +561,7 @@
         <translation>Lee&amp;ren</translation>
     </message>
     <message>
-        <source>Wipe the drawing pad</source>
+        <source>Clear the drawing pad</source>
         <translation>Die Zeichenfläche leeren</translation>
     </message>
     <message>
@@ -577,8 +577,8 @@
         <translation>Druck, von 65535:</translation>
     </message>
     <message>
-        <source>Is the tablet plugged in? Is its driver running? As soon as both are there, the settings appear here by themselves.</source>
-        <translation>Ist das Tablett angeschlossen? Läuft sein Treiber? Sobald beides da ist, erscheinen die Einstellungen hier von selbst.</translation>
+        <source>Is the tablet connected? Is its driver running? The settings appear here as soon as both are available.</source>
+        <translation>Ist das Tablett angeschlossen? Läuft sein Treiber? Die Einstellungen erscheinen hier, sobald beides der Fall ist.</translation>
     </message>
 </context>
 </TS>

@@ -24,8 +24,8 @@
         <translation>Keine Aktion</translation>
     </message>
     <message>
-        <source>Open an application, of which no path is known</source>
-        <translation>Eine Anwendung öffnen, deren Pfad unbekannt ist</translation>
+        <source>Open an application (unknown path)</source>
+        <translation>Eine Anwendung öffnen (Pfad unbekannt)</translation>
     </message>
     <message>
         <source>Open %1</source>
@@ -114,8 +114,8 @@
         <translation>Gedrückt:</translation>
     </message>
     <message>
-        <source>The tablet is not attached: %1</source>
-        <translation>Das Tablett ist nicht angeschlossen: %1</translation>
+        <source>The tablet could not be attached: %1</source>
+        <translation>Das Tablett konnte nicht angeschlossen werden: %1</translation>
     </message>
     <message>
         <source>Virtual tablet</source>
@@ -130,8 +130,8 @@
         <translation>Kein Tablett ist angeschlossen. Oben eines wählen.</translation>
     </message>
     <message>
-        <source>no key yet; press one to see what it does</source>
-        <translation>noch keine Taste; eine drücken, um zu sehen, was sie tut</translation>
+        <source>no key yet; press one to see its action</source>
+        <translation>noch keine Taste; eine drücken, um ihre Aktion zu sehen</translation>
     </message>
     <message>
         <source>Key %1</source>
@@ -159,7 +159,7 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>not known before the panel sends its settings</source>
+        <source>unknown until the panel sends its settings</source>
         <translation>unbekannt, bis die Einstellungen gesendet werden</translation>
     </message>
     <message>
@@ -167,12 +167,12 @@
         <translation>der Teil, der den Bildschirm abdeckt, x %1 bis %2, y %3 bis %4</translation>
     </message>
     <message>
-        <source>calibrating: it is told what the pen does</source>
-        <translation>Kalibrierung läuft: sie erfahren, was der Stift tut</translation>
+        <source>calibrating: it gets pen reports</source>
+        <translation>Kalibrierung läuft: Stiftdaten werden gesendet</translation>
     </message>
     <message>
-        <source>not calibrating: it is told nothing of the pen</source>
-        <translation>keine Kalibrierung: sie erfahren nichts vom Stift</translation>
+        <source>not calibrating: it gets no pen reports</source>
+        <translation>keine Kalibrierung: Stiftdaten werden nicht gesendet</translation>
     </message>
     <message>
         <source>down at %1, %2</source>

@@ -23,19 +23,19 @@
         <translation>&amp;Cancelar</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
-        <translation>Volver a los ajustes del archivo</translation>
+        <source>Go back to the saved settings</source>
+        <translation>Volver a los ajustes guardados</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
         <translation>&amp;Guardar</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
-        <translation>Conservar los ajustes actuales</translation>
+        <source>Save the current settings</source>
+        <translation>Guardar los ajustes actuales</translation>
     </message>
     <message>
-        <source>The settings are not saved: %1</source>
+        <source>The settings were not saved: %1</source>
         <translation>Los ajustes no se han guardado: %1</translation>
     </message>
     <message>
@@ -43,7 +43,7 @@
         <translation>No se pueden cargar los ajustes de la tableta, por lo que las páginas no los muestran: %1</translation>
     </message>
     <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <source>The tablet&apos;s driver has not accepted the last change. Is it running?</source>
         <translation>El controlador de la tableta no ha aceptado el último cambio. ¿Está en marcha?</translation>
     </message>
     <message>
@@ -59,15 +59,15 @@
         <translation>No se pudieron guardar los ajustes de la tableta: %1</translation>
     </message>
     <message>
-        <source>Close the window and lose the changes?</source>
-        <translation>¿Cerrar la ventana y perder los cambios?</translation>
+        <source>Close the window and discard the changes?</source>
+        <translation>¿Cerrar la ventana y descartar los cambios?</translation>
     </message>
     <message>
         <source>&amp;Keep Open</source>
         <translation>&amp;Mantener abierta</translation>
     </message>
     <message>
-        <source>The former tablet&apos;s settings are not saved: %1</source>
+        <source>The previous tablet&apos;s settings were not saved: %1</source>
         <translation>Los ajustes de la tableta anterior no se han guardado: %1</translation>
     </message>
 </context>
@@ -174,7 +174,7 @@
         <translation>&amp;Borrar</translation>
     </message>
     <message>
-        <source>Take the last key back</source>
+        <source>Remove the last key</source>
         <translation>Quitar la última tecla</translation>
     </message>
     <message>
@@ -236,12 +236,12 @@
         <translation>%1: %2 por %3 puntos, con la esquina superior izquierda en %4, %5.</translation>
     </message>
     <message>
-        <source>The tablet reaches %1.</source>
-        <translation>La tableta abarca: %1.</translation>
+        <source>The tablet is mapped to %1.</source>
+        <translation>La tableta está asignada a: %1.</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays together have no corners to touch.</source>
-        <translation>Elija primero una pantalla: todas juntas no tienen esquinas que tocar.</translation>
+        <source>Choose one display first: all displays cannot be calibrated together.</source>
+        <translation>Elija primero una pantalla: no se pueden calibrar todas juntas.</translation>
     </message>
 </context>
 <context>
@@ -259,7 +259,7 @@
         <translation>Rotación %1°</translation>
     </message>
     <message>
-        <source>At %1, %2 of the desktop</source>
+        <source>At %1, %2 on the desktop</source>
         <translation>En %1, %2 del escritorio</translation>
     </message>
     <message>
@@ -286,12 +286,12 @@
         <translation>Lápiz, número de serie %1</translation>
     </message>
     <message>
-        <source>No pen in reach</source>
+        <source>No pen in range</source>
         <translation>Ningún lápiz al alcance</translation>
     </message>
     <message>
-        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
-        <translation>Umbral %1 de 200. De lo que los programas reciben con la presión máxima, reciben %2&#xa0;% a un cuarto de ella, %3&#xa0;% a la mitad y %4&#xa0;% a tres cuartos.</translation>
+        <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <translation>Umbral %1 de 200. Los programas reciben el %2&#xa0;% de la presión máxima a un cuarto de ella, el %3&#xa0;% a la mitad y el %4&#xa0;% a tres cuartos.</translation>
     </message>
 </context>
 <context>
@@ -413,8 +413,8 @@
         <translation>Presión</translation>
     </message>
     <message>
-        <source>Towards Light, a gentle touch already gives much. Towards Heavy, you press harder for the same.</source>
-        <translation>Hacia «Suave», un toque ligero ya produce mucho efecto. Hacia «Fuerte», hay que apretar más para lo mismo.</translation>
+        <source>Light: a gentle touch has a strong effect. Heavy: you press harder for the same effect.</source>
+        <translation>Suave: un toque ligero ya produce mucho efecto. Fuerte: hay que apretar más para el mismo efecto.</translation>
     </message>
     <message>
         <source>↑ What programs receive</source>
@@ -457,7 +457,7 @@
         <translation>&amp;Borrar</translation>
     </message>
     <message>
-        <source>Wipe the drawing pad</source>
+        <source>Clear the drawing pad</source>
         <translation>Borrar la zona de dibujo</translation>
     </message>
     <message>
@@ -489,24 +489,24 @@
         <translation>La parte del escritorio que alcanza el lápiz.</translation>
     </message>
     <message>
-        <source>The tablet &amp;lies:</source>
-        <translation>P&amp;osición de la tableta:</translation>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Orientación:</translation>
     </message>
     <message>
-        <source>The tablet lies</source>
-        <translation>Posición de la tableta</translation>
+        <source>Orientation</source>
+        <translation>Orientación</translation>
     </message>
     <message>
-        <source>Turn the tablet when its keys shall lie under the other hand.</source>
+        <source>Turn the tablet to have its keys under the other hand.</source>
         <translation>Gire la tableta para que sus teclas queden bajo la otra mano.</translation>
     </message>
     <message>
-        <source>Turned by 180°</source>
+        <source>Rotated by 180°</source>
         <translation>Girada 180°</translation>
     </message>
     <message>
-        <source>As usual</source>
-        <translation>Habitual</translation>
+        <source>Not rotated</source>
+        <translation>Sin girar</translation>
     </message>
     <message>
         <source>&amp;Report speed:</source>
@@ -517,8 +517,8 @@
         <translation>Velocidad de envío</translation>
     </message>
     <message>
-        <source>Fast follows the hand more closely. The tablet itself is told, over USB.</source>
-        <translation>«Rápida» sigue la mano más de cerca. El ajuste se envía a la propia tableta por USB.</translation>
+        <source>Fast follows the hand more closely. The setting is also sent to the tablet itself, over USB.</source>
+        <translation>«Rápida» sigue la mano más de cerca. El ajuste se envía también a la propia tableta por USB.</translation>
     </message>
     <message>
         <source>Fast</source>
@@ -533,8 +533,8 @@
         <translation>&amp;Usar toda la tableta</translation>
     </message>
     <message>
-        <source>The whole surface reaches the chosen part of the desktop.</source>
-        <translation>Toda la superficie alcanza la parte elegida del escritorio.</translation>
+        <source>Maps the whole tablet to the chosen part of the desktop.</source>
+        <translation>Toda la tableta abarca la parte elegida del escritorio.</translation>
     </message>
     <message>
         <source>Keep &amp;proportions</source>
@@ -549,8 +549,8 @@
         <translation>Cali&amp;brar…</translation>
     </message>
     <message>
-        <source>Touch four crosses on the chosen display, so that the pen meets its pointer.</source>
-        <translation>Toque cuatro cruces en la pantalla elegida, para que el lápiz coincida con el puntero.</translation>
+        <source>Touch four crosses on the chosen display to align the pointer with the pen.</source>
+        <translation>Toque cuatro cruces en la pantalla elegida para que el puntero coincida con el lápiz.</translation>
     </message>
     <message>
         <source>Picture of the displays and the tablet</source>
@@ -561,20 +561,20 @@
         <translation>&amp;Cancelar</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
-        <translation>Volver a los ajustes del archivo</translation>
+        <source>Go back to the saved settings</source>
+        <translation>Volver a los ajustes guardados</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
         <translation>&amp;Guardar</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
-        <translation>Conservar los ajustes actuales</translation>
+        <source>Save the current settings</source>
+        <translation>Guardar los ajustes actuales</translation>
     </message>
     <message>
-        <source>Is the tablet plugged in? Is its driver running? As soon as both are there, the settings appear here by themselves.</source>
-        <translation>¿Está conectada la tableta? ¿Está en marcha su controlador? En cuanto ambos estén disponibles, los ajustes aparecerán aquí por sí solos.</translation>
+        <source>Is the tablet connected? Is its driver running? The settings appear here as soon as both are available.</source>
+        <translation>¿Está conectada la tableta? ¿Está en marcha su controlador? Los ajustes aparecerán aquí en cuanto ambos estén disponibles.</translation>
     </message>
     <message>
         <source>Unknown tablet, product %1</source>

@@ -24,8 +24,8 @@
         <translation>Ninguna acción</translation>
     </message>
     <message>
-        <source>Open an application, of which no path is known</source>
-        <translation>Abrir una aplicación cuya ruta se desconoce</translation>
+        <source>Open an application (unknown path)</source>
+        <translation>Abrir una aplicación (ruta desconocida)</translation>
     </message>
     <message>
         <source>Open %1</source>
@@ -114,8 +114,8 @@
         <translation>Pulsado:</translation>
     </message>
     <message>
-        <source>The tablet is not attached: %1</source>
-        <translation>La tableta no está conectada: %1</translation>
+        <source>The tablet could not be attached: %1</source>
+        <translation>No se ha podido conectar la tableta: %1</translation>
     </message>
     <message>
         <source>Virtual tablet</source>
@@ -130,7 +130,7 @@
         <translation>No hay ninguna tableta conectada. Elija una arriba.</translation>
     </message>
     <message>
-        <source>no key yet; press one to see what it does</source>
+        <source>no key yet; press one to see its action</source>
         <translation>ninguna tecla todavía; pulse una para ver qué hace</translation>
     </message>
     <message>
@@ -159,7 +159,7 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>not known before the panel sends its settings</source>
+        <source>unknown until the panel sends its settings</source>
         <translation>se desconoce hasta que se envíen los ajustes</translation>
     </message>
     <message>
@@ -167,12 +167,12 @@
         <translation>la parte que cubre la pantalla, x de %1 a %2, y de %3 a %4</translation>
     </message>
     <message>
-        <source>calibrating: it is told what the pen does</source>
-        <translation>calibrando: reciben lo que hace el lápiz</translation>
+        <source>calibrating: it gets pen reports</source>
+        <translation>calibrando: reciben los datos del lápiz</translation>
     </message>
     <message>
-        <source>not calibrating: it is told nothing of the pen</source>
-        <translation>sin calibrar: no reciben nada del lápiz</translation>
+        <source>not calibrating: it gets no pen reports</source>
+        <translation>sin calibrar: no reciben datos del lápiz</translation>
     </message>
     <message>
         <source>down at %1, %2</source>

@@ -23,27 +23,27 @@
         <translation>&amp;Annuler</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
-        <translation>Revenir aux réglages du fichier</translation>
+        <source>Go back to the saved settings</source>
+        <translation>Revenir aux réglages enregistrés</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
-        <translation>Garder les réglages actuels</translation>
+        <source>Save the current settings</source>
+        <translation>Enregistrer les réglages actuels</translation>
     </message>
     <message>
-        <source>The settings are not saved: %1</source>
-        <translation>Les réglages ne sont pas enregistrés&#xa0;: %1</translation>
+        <source>The settings were not saved: %1</source>
+        <translation>Les réglages n’ont pas été enregistrés&#xa0;: %1</translation>
     </message>
     <message>
         <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
-        <translation>Les réglages de la tablette ne peuvent pas être chargés, les pages ne les montrent donc pas : %1</translation>
+        <translation>Les réglages de la tablette ne peuvent pas être chargés, les pages ne les montrent donc pas&#xa0;: %1</translation>
     </message>
     <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <source>The tablet&apos;s driver has not accepted the last change. Is it running?</source>
         <translation>Le pilote de la tablette n’a pas pris en compte le dernier changement. Est-il en cours d’exécution&#xa0;?</translation>
     </message>
     <message>
@@ -56,19 +56,19 @@
     </message>
     <message>
         <source>The tablet&apos;s settings could not be saved: %1</source>
-        <translation>Les réglages de la tablette n’ont pas pu être enregistrés : %1</translation>
+        <translation>Les réglages de la tablette n’ont pas pu être enregistrés&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Close the window and lose the changes?</source>
-        <translation>Fermer la fenêtre et perdre les modifications ?</translation>
+        <source>Close the window and discard the changes?</source>
+        <translation>Fermer la fenêtre et abandonner les modifications&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Keep Open</source>
         <translation>&amp;Garder ouverte</translation>
     </message>
     <message>
-        <source>The former tablet&apos;s settings are not saved: %1</source>
-        <translation>Les réglages de la tablette précédente ne sont pas enregistrés : %1</translation>
+        <source>The previous tablet&apos;s settings were not saved: %1</source>
+        <translation>Les réglages de la tablette précédente n’ont pas été enregistrés&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -174,7 +174,7 @@
         <translation>&amp;Supprimer</translation>
     </message>
     <message>
-        <source>Take the last key back</source>
+        <source>Remove the last key</source>
         <translation>Retirer la dernière touche</translation>
     </message>
     <message>
@@ -236,12 +236,12 @@
         <translation>%1&#xa0;: %2 sur %3 points, coin supérieur gauche à %4, %5.</translation>
     </message>
     <message>
-        <source>The tablet reaches %1.</source>
+        <source>The tablet is mapped to %1.</source>
         <translation>La tablette couvre&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays together have no corners to touch.</source>
-        <translation>Choisissez d’abord un écran&#xa0;: tous les écrans ensemble n’ont pas de coins à toucher.</translation>
+        <source>Choose one display first: all displays cannot be calibrated together.</source>
+        <translation>Choisissez d’abord un écran&#xa0;: tous les écrans ne peuvent pas être calibrés ensemble.</translation>
     </message>
 </context>
 <context>
@@ -259,7 +259,7 @@
         <translation>Rotation %1°</translation>
     </message>
     <message>
-        <source>At %1, %2 of the desktop</source>
+        <source>At %1, %2 on the desktop</source>
         <translation>À %1, %2 du bureau</translation>
     </message>
     <message>
@@ -286,12 +286,12 @@
         <translation>Stylet, numéro de série %1</translation>
     </message>
     <message>
-        <source>No pen in reach</source>
+        <source>No pen in range</source>
         <translation>Aucun stylet à portée</translation>
     </message>
     <message>
-        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
-        <translation>Seuil %1 sur 200. De ce que les programmes reçoivent à la pression maximale, ils reçoivent %2&#xa0;% à un quart de celle-ci, %3&#xa0;% à la moitié et %4&#xa0;% aux trois quarts.</translation>
+        <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <translation>Seuil %1 sur 200. Les programmes reçoivent %2&#xa0;% de la pression maximale à un quart de celle-ci, %3&#xa0;% à la moitié et %4&#xa0;% aux trois quarts.</translation>
     </message>
 </context>
 <context>
@@ -413,8 +413,8 @@
         <translation>Pression</translation>
     </message>
     <message>
-        <source>Towards Light, a gentle touch already gives much. Towards Heavy, you press harder for the same.</source>
-        <translation>Vers «&#xa0;Léger&#xa0;», un toucher délicat produit déjà beaucoup d’effet. Vers «&#xa0;Fort&#xa0;», il faut appuyer davantage pour le même effet.</translation>
+        <source>Light: a gentle touch has a strong effect. Heavy: you press harder for the same effect.</source>
+        <translation>Léger&#xa0;: un toucher délicat produit déjà beaucoup d’effet. Fort&#xa0;: il faut appuyer davantage pour le même effet.</translation>
     </message>
     <message>
         <source>↑ What programs receive</source>
@@ -457,7 +457,7 @@
         <translation>E&amp;ffacer</translation>
     </message>
     <message>
-        <source>Wipe the drawing pad</source>
+        <source>Clear the drawing pad</source>
         <translation>Effacer la zone de dessin</translation>
     </message>
     <message>
@@ -489,24 +489,24 @@
         <translation>La partie du bureau que le stylet atteint.</translation>
     </message>
     <message>
-        <source>The tablet &amp;lies:</source>
-        <translation>&amp;Position de la tablette&#xa0;:</translation>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Orientation&#xa0;:</translation>
     </message>
     <message>
-        <source>The tablet lies</source>
-        <translation>Position de la tablette</translation>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
     </message>
     <message>
-        <source>Turn the tablet when its keys shall lie under the other hand.</source>
+        <source>Turn the tablet to have its keys under the other hand.</source>
         <translation>Tournez la tablette pour que ses touches soient sous l’autre main.</translation>
     </message>
     <message>
-        <source>Turned by 180°</source>
-        <translation>Tournée de 180°</translation>
+        <source>Rotated by 180°</source>
+        <translation>Pivotée de 180°</translation>
     </message>
     <message>
-        <source>As usual</source>
-        <translation>Habituelle</translation>
+        <source>Not rotated</source>
+        <translation>Non pivotée</translation>
     </message>
     <message>
         <source>&amp;Report speed:</source>
@@ -517,8 +517,8 @@
         <translation>Vitesse d’envoi</translation>
     </message>
     <message>
-        <source>Fast follows the hand more closely. The tablet itself is told, over USB.</source>
-        <translation>«&#xa0;Rapide&#xa0;» suit la main de plus près. Le réglage est transmis à la tablette elle-même, par USB.</translation>
+        <source>Fast follows the hand more closely. The setting is also sent to the tablet itself, over USB.</source>
+        <translation>«&#xa0;Rapide&#xa0;» suit la main de plus près. Le réglage est aussi transmis à la tablette elle-même, par USB.</translation>
     </message>
     <message>
         <source>Fast</source>
@@ -533,8 +533,8 @@
         <translation>&amp;Utiliser toute la tablette</translation>
     </message>
     <message>
-        <source>The whole surface reaches the chosen part of the desktop.</source>
-        <translation>Toute la surface atteint la partie choisie du bureau.</translation>
+        <source>Maps the whole tablet to the chosen part of the desktop.</source>
+        <translation>Toute la tablette couvre la partie choisie du bureau.</translation>
     </message>
     <message>
         <source>Keep &amp;proportions</source>
@@ -549,8 +549,8 @@
         <translation>Cali&amp;brer…</translation>
     </message>
     <message>
-        <source>Touch four crosses on the chosen display, so that the pen meets its pointer.</source>
-        <translation>Touchez quatre croix sur l’écran choisi, pour que le stylet rejoigne son pointeur.</translation>
+        <source>Touch four crosses on the chosen display to align the pointer with the pen.</source>
+        <translation>Touchez quatre croix sur l’écran choisi pour aligner le pointeur sur le stylet.</translation>
     </message>
     <message>
         <source>Picture of the displays and the tablet</source>
@@ -561,20 +561,20 @@
         <translation>&amp;Annuler</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
-        <translation>Revenir aux réglages du fichier</translation>
+        <source>Go back to the saved settings</source>
+        <translation>Revenir aux réglages enregistrés</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
         <translation>&amp;Enregistrer</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
-        <translation>Garder les réglages actuels</translation>
+        <source>Save the current settings</source>
+        <translation>Enregistrer les réglages actuels</translation>
     </message>
     <message>
-        <source>Is the tablet plugged in? Is its driver running? As soon as both are there, the settings appear here by themselves.</source>
-        <translation>La tablette est-elle branchée&#xa0;? Son pilote est-il en cours d’exécution&#xa0;? Dès que les deux sont là, les réglages apparaissent ici d’eux-mêmes.</translation>
+        <source>Is the tablet connected? Is its driver running? The settings appear here as soon as both are available.</source>
+        <translation>La tablette est-elle connectée&#xa0;? Son pilote est-il en cours d’exécution&#xa0;? Les réglages apparaissent ici dès que les deux sont disponibles.</translation>
     </message>
     <message>
         <source>Unknown tablet, product %1</source>

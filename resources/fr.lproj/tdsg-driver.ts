@@ -24,8 +24,8 @@
         <translation>Aucune action</translation>
     </message>
     <message>
-        <source>Open an application, of which no path is known</source>
-        <translation>Ouvrir une application dont le chemin est inconnu</translation>
+        <source>Open an application (unknown path)</source>
+        <translation>Ouvrir une application (chemin inconnu)</translation>
     </message>
     <message>
         <source>Open %1</source>
@@ -114,8 +114,8 @@
         <translation>Appui&#xa0;:</translation>
     </message>
     <message>
-        <source>The tablet is not attached: %1</source>
-        <translation>La tablette n’est pas branchée&#xa0;: %1</translation>
+        <source>The tablet could not be attached: %1</source>
+        <translation>La tablette n’a pas pu être connectée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Virtual tablet</source>
@@ -130,7 +130,7 @@
         <translation>Aucune tablette n’est branchée. Choisissez-en une ci-dessus.</translation>
     </message>
     <message>
-        <source>no key yet; press one to see what it does</source>
+        <source>no key yet; press one to see its action</source>
         <translation>aucune touche pour l’instant&#xa0;; appuyez sur l’une d’elles pour voir ce qu’elle fait</translation>
     </message>
     <message>
@@ -159,7 +159,7 @@
         <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>not known before the panel sends its settings</source>
+        <source>unknown until the panel sends its settings</source>
         <translation>inconnu tant que les réglages n’ont pas été envoyés</translation>
     </message>
     <message>
@@ -167,12 +167,12 @@
         <translation>la partie qui couvre l’écran, x de %1 à %2, y de %3 à %4</translation>
     </message>
     <message>
-        <source>calibrating: it is told what the pen does</source>
-        <translation>calibrage en cours&#xa0;: ils reçoivent ce que fait le stylet</translation>
+        <source>calibrating: it gets pen reports</source>
+        <translation>calibrage en cours&#xa0;: ils reçoivent les données du stylet</translation>
     </message>
     <message>
-        <source>not calibrating: it is told nothing of the pen</source>
-        <translation>pas de calibrage&#xa0;: ils ne reçoivent rien du stylet</translation>
+        <source>not calibrating: it gets no pen reports</source>
+        <translation>pas de calibrage&#xa0;: ils ne reçoivent aucune donnée du stylet</translation>
     </message>
     <message>
         <source>down at %1, %2</source>

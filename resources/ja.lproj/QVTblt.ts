@@ -23,7 +23,7 @@
         <translation>キャンセル(&amp;C)</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
+        <source>Go back to the saved settings</source>
         <translation>保存されている設定に戻します</translation>
     </message>
     <message>
@@ -31,19 +31,19 @@
         <translation>保存(&amp;V)</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
+        <source>Save the current settings</source>
         <translation>現在の設定を保存します</translation>
     </message>
     <message>
-        <source>The settings are not saved: %1</source>
-        <translation>設定は保存されていません: %1</translation>
+        <source>The settings were not saved: %1</source>
+        <translation>設定は保存されませんでした: %1</translation>
     </message>
     <message>
         <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
         <translation>タブレットの設定を読み込めないため、ページには表示されていません: %1</translation>
     </message>
     <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <source>The tablet&apos;s driver has not accepted the last change. Is it running?</source>
         <translation>タブレットのドライバーが最後の変更を受け取っていません。動作していますか？</translation>
     </message>
     <message>
@@ -59,7 +59,7 @@
         <translation>タブレットの設定を保存できませんでした: %1</translation>
     </message>
     <message>
-        <source>Close the window and lose the changes?</source>
+        <source>Close the window and discard the changes?</source>
         <translation>ウィンドウを閉じて変更を破棄しますか？</translation>
     </message>
     <message>
@@ -67,8 +67,8 @@
         <translation>開いたままにする(&amp;K)</translation>
     </message>
     <message>
-        <source>The former tablet&apos;s settings are not saved: %1</source>
-        <translation>前のタブレットの設定は保存されていません: %1</translation>
+        <source>The previous tablet&apos;s settings were not saved: %1</source>
+        <translation>前のタブレットの設定は保存されませんでした: %1</translation>
     </message>
 </context>
 <context>
@@ -174,8 +174,8 @@
         <translation>削除(&amp;D)</translation>
     </message>
     <message>
-        <source>Take the last key back</source>
-        <translation>最後のキーを取り消します</translation>
+        <source>Remove the last key</source>
+        <translation>最後のキーを削除します</translation>
     </message>
     <message>
         <source>Escape</source>
@@ -236,12 +236,12 @@
         <translation>%1: %2 × %3 ポイント、左上の位置は %4, %5 です。</translation>
     </message>
     <message>
-        <source>The tablet reaches %1.</source>
+        <source>The tablet is mapped to %1.</source>
         <translation>タブレットの対応範囲は %1 です。</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays together have no corners to touch.</source>
-        <translation>先にディスプレイを1つ選んでください。すべてのディスプレイでは、触れる角がありません。</translation>
+        <source>Choose one display first: all displays cannot be calibrated together.</source>
+        <translation>先にディスプレイを1つ選んでください。すべてのディスプレイをまとめてキャリブレーションすることはできません。</translation>
     </message>
 </context>
 <context>
@@ -259,7 +259,7 @@
         <translation>回転 %1°</translation>
     </message>
     <message>
-        <source>At %1, %2 of the desktop</source>
+        <source>At %1, %2 on the desktop</source>
         <translation>デスクトップ上の位置 %1, %2</translation>
     </message>
     <message>
@@ -286,11 +286,11 @@
         <translation>ペン、シリアル番号 %1</translation>
     </message>
     <message>
-        <source>No pen in reach</source>
+        <source>No pen in range</source>
         <translation>ペンが検出範囲にありません</translation>
     </message>
     <message>
-        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <translation>しきい値は 200 のうち %1 です。最大筆圧でプログラムが受け取る値に対して、4 分の 1 の筆圧では %2%、半分では %3%、4 分の 3 では %4% を受け取ります。</translation>
     </message>
 </context>
@@ -413,8 +413,8 @@
         <translation>筆圧</translation>
     </message>
     <message>
-        <source>Towards Light, a gentle touch already gives much. Towards Heavy, you press harder for the same.</source>
-        <translation>「軽い」に近づけると、軽く触れるだけで強く反応します。「重い」に近づけると、同じ効果を得るのにより強く押す必要があります。</translation>
+        <source>Light: a gentle touch has a strong effect. Heavy: you press harder for the same effect.</source>
+        <translation>軽い: 軽く触れるだけで強く反応します。重い: 同じ効果を得るのにより強く押す必要があります。</translation>
     </message>
     <message>
         <source>↑ What programs receive</source>
@@ -457,7 +457,7 @@
         <translation>クリア(&amp;R)</translation>
     </message>
     <message>
-        <source>Wipe the drawing pad</source>
+        <source>Clear the drawing pad</source>
         <translation>描画エリアを消去します</translation>
     </message>
     <message>
@@ -489,24 +489,24 @@
         <translation>ペンで操作できるデスクトップの範囲です。</translation>
     </message>
     <message>
-        <source>The tablet &amp;lies:</source>
-        <translation>タブレットの向き(&amp;L):</translation>
+        <source>&amp;Orientation:</source>
+        <translation>向き(&amp;O):</translation>
     </message>
     <message>
-        <source>The tablet lies</source>
-        <translation>タブレットの向き</translation>
+        <source>Orientation</source>
+        <translation>向き</translation>
     </message>
     <message>
-        <source>Turn the tablet when its keys shall lie under the other hand.</source>
+        <source>Turn the tablet to have its keys under the other hand.</source>
         <translation>キーを反対側の手で使うときは、タブレットを回転させます。</translation>
     </message>
     <message>
-        <source>Turned by 180°</source>
+        <source>Rotated by 180°</source>
         <translation>180°回転</translation>
     </message>
     <message>
-        <source>As usual</source>
-        <translation>通常</translation>
+        <source>Not rotated</source>
+        <translation>回転なし</translation>
     </message>
     <message>
         <source>&amp;Report speed:</source>
@@ -517,7 +517,7 @@
         <translation>送信速度</translation>
     </message>
     <message>
-        <source>Fast follows the hand more closely. The tablet itself is told, over USB.</source>
+        <source>Fast follows the hand more closely. The setting is also sent to the tablet itself, over USB.</source>
         <translation>「高速」では手の動きにより忠実に追従します。設定は USB 経由でタブレット本体に送られます。</translation>
     </message>
     <message>
@@ -533,7 +533,7 @@
         <translation>タブレット全体を使う(&amp;W)</translation>
     </message>
     <message>
-        <source>The whole surface reaches the chosen part of the desktop.</source>
+        <source>Maps the whole tablet to the chosen part of the desktop.</source>
         <translation>操作面全体で、選択したデスクトップの範囲を操作します。</translation>
     </message>
     <message>
@@ -549,7 +549,7 @@
         <translation>キャリブレーション(&amp;B)…</translation>
     </message>
     <message>
-        <source>Touch four crosses on the chosen display, so that the pen meets its pointer.</source>
+        <source>Touch four crosses on the chosen display to align the pointer with the pen.</source>
         <translation>選択したディスプレイに表示される 4 つの十字に触れて、ペン先とポインターの位置を合わせます。</translation>
     </message>
     <message>
@@ -561,7 +561,7 @@
         <translation>キャンセル(&amp;C)</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
+        <source>Go back to the saved settings</source>
         <translation>保存されている設定に戻します</translation>
     </message>
     <message>
@@ -569,11 +569,11 @@
         <translation>保存(&amp;V)</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
+        <source>Save the current settings</source>
         <translation>現在の設定を保存します</translation>
     </message>
     <message>
-        <source>Is the tablet plugged in? Is its driver running? As soon as both are there, the settings appear here by themselves.</source>
+        <source>Is the tablet connected? Is its driver running? The settings appear here as soon as both are available.</source>
         <translation>タブレットは接続されていますか？ ドライバーは動作していますか？ 両方がそろうと、設定がここに自動的に表示されます。</translation>
     </message>
     <message>

@@ -24,7 +24,7 @@
         <translation>何もしない</translation>
     </message>
     <message>
-        <source>Open an application, of which no path is known</source>
+        <source>Open an application (unknown path)</source>
         <translation>アプリケーションを開く (パスは不明)</translation>
     </message>
     <message>
@@ -114,7 +114,7 @@
         <translation>押したもの:</translation>
     </message>
     <message>
-        <source>The tablet is not attached: %1</source>
+        <source>The tablet could not be attached: %1</source>
         <translation>タブレットを接続できません: %1</translation>
     </message>
     <message>
@@ -130,7 +130,7 @@
         <translation>タブレットは接続されていません。上で選択してください。</translation>
     </message>
     <message>
-        <source>no key yet; press one to see what it does</source>
+        <source>no key yet; press one to see its action</source>
         <translation>まだありません。キーを押すと動作が表示されます</translation>
     </message>
     <message>
@@ -159,7 +159,7 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>not known before the panel sends its settings</source>
+        <source>unknown until the panel sends its settings</source>
         <translation>設定パネルが設定を送るまで不明です</translation>
     </message>
     <message>
@@ -167,12 +167,12 @@
         <translation>画面に対応する範囲、x %1～%2、y %3～%4</translation>
     </message>
     <message>
-        <source>calibrating: it is told what the pen does</source>
-        <translation>キャリブレーション中: ペンの動きが伝えられます</translation>
+        <source>calibrating: it gets pen reports</source>
+        <translation>キャリブレーション中: ペンのデータが送られます</translation>
     </message>
     <message>
-        <source>not calibrating: it is told nothing of the pen</source>
-        <translation>キャリブレーション中ではありません: ペンの動きは伝えられません</translation>
+        <source>not calibrating: it gets no pen reports</source>
+        <translation>キャリブレーション中ではありません: ペンのデータは送られません</translation>
     </message>
     <message>
         <source>down at %1, %2</source>

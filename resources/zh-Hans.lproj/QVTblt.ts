@@ -23,19 +23,19 @@
         <translation>取消(&amp;C)</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
-        <translation>恢复为文件中保存的设置</translation>
+        <source>Go back to the saved settings</source>
+        <translation>恢复为已保存的设置</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
         <translation>保存(&amp;V)</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
+        <source>Save the current settings</source>
         <translation>保存当前的设置</translation>
     </message>
     <message>
-        <source>The settings are not saved: %1</source>
+        <source>The settings were not saved: %1</source>
         <translation>设置未保存：%1</translation>
     </message>
     <message>
@@ -43,7 +43,7 @@
         <translation>无法加载数位板的设置，因此各页没有显示它们：%1</translation>
     </message>
     <message>
-        <source>The tablet&apos;s driver has not taken the last change. Is it running?</source>
+        <source>The tablet&apos;s driver has not accepted the last change. Is it running?</source>
         <translation>数位板驱动程序没有接受最后一次更改。它是否正在运行？</translation>
     </message>
     <message>
@@ -59,7 +59,7 @@
         <translation>无法保存数位板的设置：%1</translation>
     </message>
     <message>
-        <source>Close the window and lose the changes?</source>
+        <source>Close the window and discard the changes?</source>
         <translation>关闭窗口并放弃更改？</translation>
     </message>
     <message>
@@ -67,7 +67,7 @@
         <translation>保持打开(&amp;K)</translation>
     </message>
     <message>
-        <source>The former tablet&apos;s settings are not saved: %1</source>
+        <source>The previous tablet&apos;s settings were not saved: %1</source>
         <translation>上一个数位板的设置未保存：%1</translation>
     </message>
 </context>
@@ -174,8 +174,8 @@
         <translation>删除(&amp;D)</translation>
     </message>
     <message>
-        <source>Take the last key back</source>
-        <translation>撤销最后一个按键</translation>
+        <source>Remove the last key</source>
+        <translation>删除最后一个按键</translation>
     </message>
     <message>
         <source>Escape</source>
@@ -236,12 +236,12 @@
         <translation>%1：%2 × %3 点，左上角位于 %4, %5。</translation>
     </message>
     <message>
-        <source>The tablet reaches %1.</source>
+        <source>The tablet is mapped to %1.</source>
         <translation>数位板的映射区域：%1。</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays together have no corners to touch.</source>
-        <translation>请先选择一个显示器：所有显示器合在一起没有可触碰的角。</translation>
+        <source>Choose one display first: all displays cannot be calibrated together.</source>
+        <translation>请先选择一个显示器：无法同时校准所有显示器。</translation>
     </message>
 </context>
 <context>
@@ -259,7 +259,7 @@
         <translation>旋转 %1°</translation>
     </message>
     <message>
-        <source>At %1, %2 of the desktop</source>
+        <source>At %1, %2 on the desktop</source>
         <translation>桌面位置 %1, %2</translation>
     </message>
     <message>
@@ -286,11 +286,11 @@
         <translation>笔，序列号 %1</translation>
     </message>
     <message>
-        <source>No pen in reach</source>
+        <source>No pen in range</source>
         <translation>感应范围内没有笔</translation>
     </message>
     <message>
-        <source>Threshold %1 of 200. Of what programs receive at full pressure, they receive %2 % at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <translation>阈值 %1，共 200。与压力最大时程序收到的值相比，压力为四分之一时收到 %2%，一半时收到 %3%，四分之三时收到 %4%。</translation>
     </message>
 </context>
@@ -413,8 +413,8 @@
         <translation>压感</translation>
     </message>
     <message>
-        <source>Towards Light, a gentle touch already gives much. Towards Heavy, you press harder for the same.</source>
-        <translation>越靠近“轻”，轻触即可产生较大效果；越靠近“重”，需要更用力才能达到同样效果。</translation>
+        <source>Light: a gentle touch has a strong effect. Heavy: you press harder for the same effect.</source>
+        <translation>轻：轻触即可产生较大效果；重：需要更用力才能达到同样效果。</translation>
     </message>
     <message>
         <source>↑ What programs receive</source>
@@ -457,7 +457,7 @@
         <translation>清除(&amp;R)</translation>
     </message>
     <message>
-        <source>Wipe the drawing pad</source>
+        <source>Clear the drawing pad</source>
         <translation>清空绘图区</translation>
     </message>
     <message>
@@ -489,24 +489,24 @@
         <translation>笔可以到达的桌面区域。</translation>
     </message>
     <message>
-        <source>The tablet &amp;lies:</source>
-        <translation>数位板方向(&amp;L)：</translation>
+        <source>&amp;Orientation:</source>
+        <translation>方向(&amp;O)：</translation>
     </message>
     <message>
-        <source>The tablet lies</source>
-        <translation>数位板方向</translation>
+        <source>Orientation</source>
+        <translation>方向</translation>
     </message>
     <message>
-        <source>Turn the tablet when its keys shall lie under the other hand.</source>
+        <source>Turn the tablet to have its keys under the other hand.</source>
         <translation>如需用另一只手操作按键，请旋转数位板。</translation>
     </message>
     <message>
-        <source>Turned by 180°</source>
+        <source>Rotated by 180°</source>
         <translation>旋转 180°</translation>
     </message>
     <message>
-        <source>As usual</source>
-        <translation>正常</translation>
+        <source>Not rotated</source>
+        <translation>不旋转</translation>
     </message>
     <message>
         <source>&amp;Report speed:</source>
@@ -517,7 +517,7 @@
         <translation>报告速度</translation>
     </message>
     <message>
-        <source>Fast follows the hand more closely. The tablet itself is told, over USB.</source>
+        <source>Fast follows the hand more closely. The setting is also sent to the tablet itself, over USB.</source>
         <translation>“快速”能更紧密地跟随手的动作。此设置通过 USB 发送到数位板本身。</translation>
     </message>
     <message>
@@ -533,7 +533,7 @@
         <translation>使用整个数位板(&amp;W)</translation>
     </message>
     <message>
-        <source>The whole surface reaches the chosen part of the desktop.</source>
+        <source>Maps the whole tablet to the chosen part of the desktop.</source>
         <translation>整个板面对应所选的桌面区域。</translation>
     </message>
     <message>
@@ -549,7 +549,7 @@
         <translation>校准(&amp;B)…</translation>
     </message>
     <message>
-        <source>Touch four crosses on the chosen display, so that the pen meets its pointer.</source>
+        <source>Touch four crosses on the chosen display to align the pointer with the pen.</source>
         <translation>在所选显示器上点触四个十字，使笔尖与指针重合。</translation>
     </message>
     <message>
@@ -561,19 +561,19 @@
         <translation>取消(&amp;C)</translation>
     </message>
     <message>
-        <source>Go back to the settings in the file</source>
-        <translation>恢复为文件中保存的设置</translation>
+        <source>Go back to the saved settings</source>
+        <translation>恢复为已保存的设置</translation>
     </message>
     <message>
         <source>Sa&amp;ve</source>
         <translation>保存(&amp;V)</translation>
     </message>
     <message>
-        <source>Keep the settings as they are now</source>
+        <source>Save the current settings</source>
         <translation>保存当前的设置</translation>
     </message>
     <message>
-        <source>Is the tablet plugged in? Is its driver running? As soon as both are there, the settings appear here by themselves.</source>
+        <source>Is the tablet connected? Is its driver running? The settings appear here as soon as both are available.</source>
         <translation>数位板是否已连接？驱动程序是否正在运行？两者就绪后，设置会自动显示在这里。</translation>
     </message>
     <message>

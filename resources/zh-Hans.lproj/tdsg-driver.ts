@@ -24,7 +24,7 @@
         <translation>无操作</translation>
     </message>
     <message>
-        <source>Open an application, of which no path is known</source>
+        <source>Open an application (unknown path)</source>
         <translation>打开应用程序（路径未知）</translation>
     </message>
     <message>
@@ -114,8 +114,8 @@
         <translation>按下：</translation>
     </message>
     <message>
-        <source>The tablet is not attached: %1</source>
-        <translation>数位板未连接：%1</translation>
+        <source>The tablet could not be attached: %1</source>
+        <translation>无法连接数位板：%1</translation>
     </message>
     <message>
         <source>Virtual tablet</source>
@@ -130,7 +130,7 @@
         <translation>未连接数位板。请在上方选择一个。</translation>
     </message>
     <message>
-        <source>no key yet; press one to see what it does</source>
+        <source>no key yet; press one to see its action</source>
         <translation>尚未按键；按下任意按键以查看其功能</translation>
     </message>
     <message>
@@ -159,7 +159,7 @@
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>not known before the panel sends its settings</source>
+        <source>unknown until the panel sends its settings</source>
         <translation>在设置面板发送设置之前未知</translation>
     </message>
     <message>
@@ -167,12 +167,12 @@
         <translation>对应屏幕的部分，x %1 到 %2，y %3 到 %4</translation>
     </message>
     <message>
-        <source>calibrating: it is told what the pen does</source>
-        <translation>正在校准：会收到笔的动作</translation>
+        <source>calibrating: it gets pen reports</source>
+        <translation>正在校准：会收到笔的数据</translation>
     </message>
     <message>
-        <source>not calibrating: it is told nothing of the pen</source>
-        <translation>未在校准：不会收到笔的动作</translation>
+        <source>not calibrating: it gets no pen reports</source>
+        <translation>未在校准：不会收到笔的数据</translation>
     </message>
     <message>
         <source>down at %1, %2</source>

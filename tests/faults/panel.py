@@ -207,7 +207,7 @@ class Panel:
         for path, role in self.walk_whole():
             if role == "notification":
                 text = self.texts(path)[0]
-                if re.search("not taken|not saved|cannot be loaded", text) \
+                if re.search("not accepted|not saved|cannot be loaded", text) \
                         and self.state(path, "showing"):
                     return text
         return None
@@ -230,7 +230,7 @@ class Panel:
         if not self.has_pages():
             return None
         notice = self.notice() or ""
-        return self.model(), "" if "not taken" in notice else notice
+        return self.model(), "" if "not accepted" in notice else notice
 
     def displays(self):
         """Returns widths, heights and positions of the displays, from the picture's description."""

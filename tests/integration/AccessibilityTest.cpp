@@ -359,7 +359,7 @@ TEST_F(Accessibility, saysWhichCrossToTouch)
     QVCalibrateView& view = window.view();
     EXPECT_EQ(QApplication::focusWidget(), &view);
     EXPECT_EQ(
-        textOf(accessible(view), QAccessible::Name), "Touch the cross with the pen. Esc ends.");
+        textOf(accessible(view), QAccessible::Name), "Touch the cross with the pen. Esc cancels.");
     const std::array<std::string, 4> places{
         "upper left", "upper right", "lower right", "lower left"};
     for (std::size_t i = 0; i < places.size(); ++i) {
@@ -394,7 +394,7 @@ TEST_F(Accessibility, readsOutWhatHasGoneWrong)
     EXPECT_EQ(Told::count(notice, QAccessible::ObjectShow), 1);
     EXPECT_EQ(accessible(notice).role(), QAccessible::Notification);
     EXPECT_EQ(textOf(accessible(notice), QAccessible::Name),
-        "The tablet's driver has not taken the last change. Is it running?");
+        "The tablet's driver has not accepted the last change. Is it running?");
     pane.tell(News::ChangeNotTaken);
     EXPECT_EQ(Told::count(notice, QAccessible::ObjectShow), 0) << "it stands there already";
     expectNoFaults(shell, 4);
@@ -411,16 +411,16 @@ TEST_F(Accessibility, saysTheCurveInWords)
     QVPressView& curve = outlet<QVPressView>("mPressView");
     outlet<QSlider>("mSlider").setValue(1000);
     EXPECT_EQ(contents(curve),
-        "Threshold 100 of 200. Of what programs receive at full pressure, they receive 25 % at a "
-        "quarter of it, 50 % at half and 75 % at three quarters.");
+        "Threshold 100 of 200. Programs receive 25 % of the full pressure at a quarter of it, 50 % "
+        "at half and 75 % at three quarters.");
     outlet<QSlider>("mSlider").setValue(0);
     EXPECT_EQ(contents(curve),
-        "Threshold 0 of 200. Of what programs receive at full pressure, they receive 50 % at a "
-        "quarter of it, 71 % at half and 87 % at three quarters.");
+        "Threshold 0 of 200. Programs receive 50 % of the full pressure at a quarter of it, 71 % "
+        "at half and 87 % at three quarters.");
     outlet<QSlider>("mSlider").setValue(1800);
     EXPECT_EQ(contents(curve),
-        "Threshold 180 of 200. Of what programs receive at full pressure, they receive 8 % at a "
-        "quarter of it, 29 % at half and 59 % at three quarters.");
+        "Threshold 180 of 200. Programs receive 8 % of the full pressure at a quarter of it, 29 % "
+        "at half and 59 % at three quarters.");
     const Told told;
     outlet<QSlider>("mSlider").setValue(1500);
     EXPECT_TRUE(QTest::qWaitFor(
@@ -439,7 +439,7 @@ TEST_F(Accessibility, saysWhichDisplayTheTabletReaches)
         "Display #2: 1280 by 1024 points, its upper left corner at 1920, 56. ";
     list.setCurrentIndex(2);
     view.SelectMonitor();
-    EXPECT_EQ(contents(view), displays + "The tablet reaches Display #2.");
+    EXPECT_EQ(contents(view), displays + "The tablet is mapped to Display #2.");
     const Told told;
     list.setCurrentIndex(0);
     view.SelectMonitor();
@@ -451,7 +451,8 @@ TEST_F(Accessibility, saysWhichDisplayTheTabletReaches)
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return Told::count(view, QAccessible::DescriptionChanged) == 1; }, kPatience));
     EXPECT_EQ(contents(view),
-        "Display #1: 800 by 600 points, its upper left corner at 0, 0. The tablet reaches Display "
+        "Display #1: 800 by 600 points, its upper left corner at 0, 0. The tablet is mapped to "
+        "Display "
         "#1.");
 }
 

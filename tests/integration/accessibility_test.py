@@ -112,8 +112,8 @@ class Tree(desktop.Desktop):
 
     def test_without_a_tablet(self):
         self.start_panel("--attach", "none")
-        hint = self.find("qvtblt", "Is the tablet plugged in? Is its driver running? As soon as "
-                         "both are there, the settings appear here by themselves.")
+        hint = self.find("qvtblt", "Is the tablet connected? Is its driver running? The settings "
+                         "appear here as soon as both are available.")
         self.expect_no_faults("qvtblt", 4, "frame", "label")
         self.assertTrue(hint["focusable"])
 
@@ -134,13 +134,13 @@ class Tree(desktop.Desktop):
         self.press("qvtblt", "Calibrate…", "push button")
         window = self.find("qvtblt", "Calibration")
         self.assertIn(window["role"], ("frame", "window"))
-        session.wait_for(lambda: self.find("qvtblt", "Touch the cross with the pen. Esc ends.",
+        session.wait_for(lambda: self.find("qvtblt", "Touch the cross with the pen. Esc cancels.",
                                            "image")["focused"], "the focus")
         self.expect_no_faults("qvtblt", 20, "image")
         session.wait_for(lambda: self.record(), "the panel's settings")
         self.ctl("sim", "tap", 1000, 2000)
         session.wait_for(lambda: self.find(
-            "qvtblt", "Touch the cross with the pen. Esc ends.")["description"]
+            "qvtblt", "Touch the cross with the pen. Esc cancels.")["description"]
             == "Cross 2 of 4, at the upper right.", "the second cross")
 
     def test_the_virtual_tablet(self):
@@ -188,7 +188,7 @@ class Told(desktop.Desktop):
         self.stop_driver(self.driver, signal.SIGKILL)
         self.click(self.find("qvtblt", "Left scroll strip", "check box"), 8)
         session.wait_for(lambda: self.told("object:state-changed:showing", "notification",
-                                           "has not taken the last change"), "the notice")
+                                           "has not accepted the last change"), "the notice")
 
     def test_the_curve_and_the_pressure_without_a_flood(self):
         self.press("qvtblt", "Pen", "page tab")

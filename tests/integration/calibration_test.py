@@ -70,7 +70,7 @@ class Calibration(displays.Displays):
 
     def accept(self):
         """Checks after four touches that the driver has the area before the user has agreed."""
-        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.find("qvtblt", "The tablet now fits the display. Keep this calibration?")
         self.assertEqual((self.flag(), self.area()), (0, AREA))
         self.xdotool("key", "Return")
         session.wait_for(lambda: not self.is_open(), "the window's end")
@@ -102,7 +102,7 @@ class Calibration(displays.Displays):
     def test_cancelled_and_accepted_at_the_second_pass(self):
         before = self.area()
         self.tap(TAPS)
-        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.find("qvtblt", "The tablet now fits the display. Keep this calibration?")
         self.xdotool("key", "Escape")
         self.wait_for_flag(1)
         self.assertEqual(self.area(), before)
@@ -112,8 +112,8 @@ class Calibration(displays.Displays):
     def test_another_order_begins_again(self):
         before = self.area()
         self.tap((TAPS[1], TAPS[0], TAPS[3], TAPS[2]))
-        self.find("qvtblt", "The crosses were not touched in their order. "
-                            "Please begin again at the first one.")
+        self.find("qvtblt", "The crosses were not touched in order. "
+                            "Please start again with the first one.")
         self.xdotool("key", "Return")
         self.wait_for_flag(1)
         self.assertEqual(self.area(), before)
@@ -177,15 +177,15 @@ class Calibration(displays.Displays):
         before = self.area()
         self.assertNotEqual(before, AREA)
         self.tap(TAPS)
-        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.find("qvtblt", "The tablet now fits the display. Keep this calibration?")
         self.assertEqual(self.area(), AREA)
         self.expect_ended_as_before(before)
 
     def test_a_panel_told_to_end_while_it_says_what_was_wrong_frees_the_driver(self):
         before = self.area()
         self.tap((TAPS[1], TAPS[0], TAPS[3], TAPS[2]))
-        self.find("qvtblt", "The crosses were not touched in their order. "
-                            "Please begin again at the first one.")
+        self.find("qvtblt", "The crosses were not touched in order. "
+                            "Please start again with the first one.")
         self.expect_ended_as_before(before)
 
     def test_a_caps_lock_that_is_escape_ends_it(self):

@@ -267,10 +267,10 @@ class MinimalDriver(desktop.Desktop):
                                  "settings, 5077 bytes")
 
         wait_for_pushes(3)  # the beginning, the end, the area
-        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.find("qvtblt", "The tablet now fits the display. Keep this calibration?")
         self.xdotool("key", "Escape")
         wait_for_pushes(4)  # the former area, and once more
-        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.find("qvtblt", "The tablet now fits the display. Keep this calibration?")
         self.xdotool("key", "Return")
         session.wait_for(lambda: not any(thing["name"] == "Calibration"
                                          for thing in self.things("qvtblt")), "the end")

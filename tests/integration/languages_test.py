@@ -217,8 +217,8 @@ class Choice(desktop.Desktop):
         return next(translation.text for key, translation in messages(
             RESOURCES / f"{language}.lproj/QVTblt.ts").items() if key[1] == source)
 
-    HELP = ("Is the tablet plugged in? Is its driver running? As soon as both are there, the "
-            "settings appear here by themselves.")
+    HELP = ("Is the tablet connected? Is its driver running? The settings appear here as soon "
+            "as both are available.")
 
     def test_follows_the_list_of_preferences_with_all_its_texts(self):
         self.start_driver("--attach", "none")

@@ -18,7 +18,7 @@ PANEL = pathlib.Path(session.__file__).with_name("peer_panel.py")
 PROGRAM = "tdsg-driver"
 MARGIN = 3  # around the surface, in its widget
 WIDTH, HEIGHT = 20320, 12700  # of the first model's surface, in tablet units
-UNKNOWN = "not known before the panel sends its settings"
+UNKNOWN = "unknown until the panel sends its settings"
 
 
 def surface_rect(widget):
@@ -101,7 +101,7 @@ class CalibrationByHand(Tablet, displays.Displays):
         self.xdotool("windowactivate", "--sync", panel)
         self.click(button)
         self.find("qvtblt", "Calibration")
-        self.wait_for_label("calibrating: it is told what the pen does")
+        self.wait_for_label("calibrating: it gets pen reports")
 
     def is_open(self):
         return any(thing["name"] == "Calibration" and thing["showing"]
@@ -121,7 +121,7 @@ class CalibrationByHand(Tablet, displays.Displays):
             self.release()
             points.append(self.said_pen("up"))
             self.assertTrue(self.is_open())
-        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.find("qvtblt", "The tablet now fits the display. Keep this calibration?")
         # The crosses stand 50 points in: 700 and 500 points of 800 by 600 apart.
         (x0, y0), (x1, y1), (x2, y2), (x3, y3) = points
         left, right, top, bottom = (x0 + x3) // 2, (x1 + x2) // 2, (y0 + y1) // 2, (y2 + y3) // 2
@@ -134,7 +134,7 @@ class CalibrationByHand(Tablet, displays.Displays):
         self.click(self.find("qvtblt", "OK", "push button"))
         session.wait_for(lambda: not self.is_open(), "the window's end")
         self.assertEqual(self.value("<4H", 303), area)
-        self.wait_for_label("not calibrating: it is told nothing of the pen")
+        self.wait_for_label("not calibrating: it gets no pen reports")
         self.wait_for_label("the part that covers the screen, x {} to {}, y {} to {}".format(*area))
 
     def test_the_tablet_can_be_reached_above_a_calibration_of_the_only_display(self):
@@ -176,7 +176,7 @@ class VirtualTablet(Tablet, desktop.Desktop):
     def test_shows_the_tablet_and_what_the_panel_does(self):
         self.open_tablet()
         self.find(PROGRAM, "Virtual tablet: Quorvia Draft S")
-        self.wait_for_label("not calibrating: it is told nothing of the pen")
+        self.wait_for_label("not calibrating: it gets no pen reports")
         self.wait_for_label(UNKNOWN)
         self.ctl("set", "Monitor/cTabletXmin", "1234")
         self.wait_for_label(f"the part that covers the screen, x 1234 to {WIDTH}, y 0 to {HEIGHT}")
@@ -187,7 +187,7 @@ class VirtualTablet(Tablet, desktop.Desktop):
             lambda: any(f"up at {a}, {b}" in self.labels()
                         for a in range(x - 2, x + 3) for b in range(y - 2, y + 3)), "the pen")
         self.start_panel()
-        self.wait_for_label("calibrating: it is told what the pen does")
+        self.wait_for_label("calibrating: it gets pen reports")
 
     def test_everything_that_takes_the_focus_has_a_name(self):
         self.open_tablet()
@@ -290,7 +290,7 @@ class VirtualTablet(Tablet, desktop.Desktop):
         self.release()
         self.simulator("Attach", "q", str(0x5101))
         self.find(PROGRAM, "Surface")
-        self.wait_for_label("not calibrating: it is told nothing of the pen")
+        self.wait_for_label("not calibrating: it gets no pen reports")
         panel.stdin.write("push 1\n")  # only the panel knows that it is still calibrating
         panel.stdin.flush()
         before = []

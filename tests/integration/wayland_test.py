@@ -57,7 +57,7 @@ class WaylandCalibration(wayland.Wayland):
             session.wait_for(lambda number=number: self.crosses() == [number], f"cross {number}")
             result = self.ctl("sim", "tap", x, y)
             self.assertEqual((result.returncode, result.stderr), (0, ""))
-        self.find("qvtblt", "The tablet fits the display now. Keep it so?")
+        self.find("qvtblt", "The tablet now fits the display. Keep this calibration?")
         self.press("qvtblt", "OK", "push button")
         session.wait_for(lambda: self.pixels("Virtual-1")(640, 600) == BLACK, "the window's end")
         self.assertEqual(struct.unpack_from("<4h", self.record(), 295), (1280, 1280, 0, 720))

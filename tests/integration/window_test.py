@@ -10,8 +10,8 @@ import unittest
 import desktop
 import session
 
-HELP = ("Is the tablet plugged in? Is its driver running? "
-        "As soon as both are there, the settings appear here by themselves.")
+HELP = ("Is the tablet connected? Is its driver running? "
+        "The settings appear here as soon as both are available.")
 TITLE = "Quorvia Tablet"
 
 
@@ -130,7 +130,7 @@ class Window(desktop.Desktop):
         """Returns the lines about a problem; empty if there is none."""
         return [thing["name"] for thing in self.things("qvtblt") if thing["showing"]
                 and any(words in thing["name"]
-                        for words in ("not taken", "not saved", "cannot be loaded"))]
+                        for words in ("not accepted", "not saved", "cannot be loaded"))]
 
     def test_the_pages_appear_when_a_tablet_is_attached(self):
         self.start_driver("--attach", "none")

@@ -273,7 +273,7 @@ TEST_F(Calibration, acceptedSetsTheAreaAndCloses)
     EXPECT_EQ(mAlerts.shown[0].type, AlertType::Stop);
     EXPECT_TRUE(mAlerts.shown[0].hasCancelButton);
     EXPECT_EQ(
-        mAlerts.shown[0].message, QStringLiteral("The tablet fits the display now. Keep it so?"));
+        mAlerts.shown[0].message, QStringLiteral("The tablet now fits the display. Keep this calibration?"));
     EXPECT_EQ(area(), mCalibrated);
     EXPECT_EQ(window(), nullptr);
     EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0, 0}));
@@ -1007,7 +1007,7 @@ TEST_F(Calibration, drawsEachCrossAndTheHintAsPlainPainterCallsDo)
         painter.setFont(font);
         painter.setPen(QColor::fromRgbF(1.0F, 0.2F, 0.2F, 0.6F));
         painter.drawText(QPointF(460, 540 - painter.fontMetrics().descent()),
-            QStringLiteral("Touch the cross with the pen. Esc ends."));
+            QStringLiteral("Touch the cross with the pen. Esc cancels."));
         painter.translate(0, 1080);
         painter.scale(1, -1);
         if (flag >= 16 && flag <= 19) {
@@ -1083,7 +1083,7 @@ TEST_F(Calibration, theErasedCrossesRectangleHasTheHintWhereThatPutsIt)
         painter.setPen(QColor::fromRgbF(1.0F, 0.2F, 0.2F, 0.6F));
         painter.drawText(QPointF(part.x() + part.width() * 0.5 - 500,
                              part.y() + part.height() * 0.5 - painter.fontMetrics().descent()),
-            QStringLiteral("Touch the cross with the pen. Esc ends."));
+            QStringLiteral("Touch the cross with the pen. Esc cancels."));
         painter.end();
         EXPECT_NE(expected.convertToFormat(QImage::Format_RGB32),
             none.convertToFormat(QImage::Format_RGB32));

@@ -761,7 +761,7 @@ TEST_F(DrawingPad, aLineSaysTheStatisticsForPeople)
     const QPoint place = pad().mapToGlobal(QPoint(5, 5));
     EXPECT_EQ(line(),
         QStringLiteral("Pressure 0 % · Tilt 12° right, -7° down · Rotation 30° · "
-                       "At %1, %2 of the desktop · Pen number 77")
+                       "At %1, %2 on the desktop · Pen number 77")
             .arg(place.x())
             .arg(place.y()));
 }

@@ -292,5 +292,5 @@ TEST_F(PressurePage, namesThePenThatIsInReach)
     postProximity(PointingDeviceType::Pen, 0, true);
     EXPECT_EQ(penID(), QStringLiteral("Pen"));
     postProximity(PointingDeviceType::Pen, 0, false);
-    EXPECT_EQ(penID(), QStringLiteral("No pen in reach"));
+    EXPECT_EQ(penID(), QStringLiteral("No pen in range"));
 }

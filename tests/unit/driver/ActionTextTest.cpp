@@ -38,7 +38,7 @@ TEST(ActionText, isReadableForWhatASettingMayHoldBesides)
     EXPECT_EQ(text(-1), "No action");
     EXPECT_EQ(text(7), "No action");
     EXPECT_EQ(text(1, 4), "No action");
-    EXPECT_EQ(text(2), "Open an application, of which no path is known");
+    EXPECT_EQ(text(2), "Open an application (unknown path)");
     EXPECT_EQ(text(3), "Press no keys");
     EXPECT_EQ(text(2, 0, 0, std::string(kQVStringSize, 'x')), "Open " + std::string(256, 'x'));
 }

@@ -23,7 +23,7 @@ using News = platform::PreferencePane::News;
 using Device = platform::PreferencePane::Device;
 
 const QString kNotTaken =
-    QStringLiteral("The tablet's driver has not taken the last change. Is it running?");
+    QStringLiteral("The tablet's driver has not accepted the last change. Is it running?");
 
 class Shell : public testing::TestWithParam<PaneShell::Host> {
 protected:
@@ -191,7 +191,7 @@ TEST_P(Shell, saysThatTheFormerTabletsChangesAreLost)
     mPane->tell(News::DeviceMayHaveChanged);
     QCoreApplication::processEvents();
     EXPECT_EQ(
-        notice(), QStringLiteral("The former tablet's settings are not saved: the disk is full"));
+        notice(), QStringLiteral("The previous tablet's settings were not saved: the disk is full"));
     EXPECT_EQ(button("Try Again"), nullptr) << "there is nothing left to save";
     leave();
     show();
