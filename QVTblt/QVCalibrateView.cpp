@@ -110,6 +110,7 @@ void confirm(QVCalibrateView& view, const QVTabletArea& before)
     view.askAboutArea(before);
     const std::int16_t hit =
         alerts().runStandardAlert({.type = AlertType::Stop,
+                                      //: Heading of the question whether to keep the calibration.
                                       .title = QVCalibrateView::tr("Calibration finished"),
                                       .message = localized("Ok"),
                                       .hasCancelButton = true},
@@ -147,9 +148,11 @@ void finishPass(QVCalibrateView& view)
         return;
     }
     const QPointer<QVCalibrateView> guard(&view);
-    alerts().runStandardAlert({.type = AlertType::Caution,
-                                  .title = QVCalibrateView::tr("Calibration failed"),
-                                  .message = localized("Error")},
+    alerts().runStandardAlert(
+        {.type = AlertType::Caution,
+            //: Heading of the message that the crosses were touched in a wrong order.
+            .title = QVCalibrateView::tr("Calibration failed"),
+            .message = localized("Error")},
         view.window());
     if (!guard.isNull() && !view.hasStopped()) {
         startAgain(view);
@@ -250,6 +253,7 @@ QString QVCalibrateView::spokenContents() const
 {
     switch (drawflag) {
     case kDrawCross:
+        //: Read by screen readers: the cross to touch next, of four in the corners of the display.
         return tr("Cross 1 of 4, at the upper left.");
     case kDrawCross + 1:
         return tr("Cross 2 of 4, at the upper right.");

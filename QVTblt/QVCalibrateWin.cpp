@@ -82,6 +82,7 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     } else {
         setWindowOpacity(kOpacity);
     }
+    //: Title of the window with the crosses.
     setWindowTitle(tr("Calibration"));
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);

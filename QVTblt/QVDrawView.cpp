@@ -236,6 +236,7 @@ void QVDrawView::showPressure(float pressure)
 
 QString QVDrawView::spokenContents() const
 {
+    //: Read by screen readers for the drawing pad; %1 is 0 to 100.
     return tr("Pressure %1 %").arg(std::lround(mShownPressure * 100));
 }
 

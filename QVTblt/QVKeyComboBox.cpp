@@ -18,24 +18,35 @@ QString textAtFirst(int item)
 {
     switch (item) {
     case QVKeyComboBox::NoAction:
+        //: Action of a tablet key; must fit into the narrow lists of the key page.
         return QVKeyComboBox::tr("No action");
     case QVKeyComboBox::LeftButton:
+        //: Action of a tablet key; must fit into the narrow lists of the key page.
         return QVKeyComboBox::tr("Left mouse button");
     case QVKeyComboBox::RightButton:
+        //: Action of a tablet key; must fit into the narrow lists of the key page.
         return QVKeyComboBox::tr("Right mouse button");
     case QVKeyComboBox::MiddleButton:
+        //: Action of a tablet key; must fit into the narrow lists of the key page.
         return QVKeyComboBox::tr("Middle mouse button");
     case QVKeyComboBox::BackButton:
+        //: The mouse button that goes back, as in a browser; must fit into a narrow list.
         return QVKeyComboBox::tr("Back mouse button");
     case QVKeyComboBox::Application:
+        //: Action of a tablet key, which asks for the application; must fit into a narrow list.
         return QVKeyComboBox::tr("Open an application…");
     case QVKeyComboBox::KeyCombination:
+        //: Action of a tablet key, which asks for keys of the keyboard; must fit into a narrow
+        //: list.
         return QVKeyComboBox::tr("Press keys…");
     case QVKeyComboBox::NextDisplay:
+        //: Action of a tablet key; must fit into the narrow lists of the key page.
         return QVKeyComboBox::tr("Go to the next display");
     case QVKeyComboBox::FinePositioning:
+        //: Slows the pointer down while the key is held; must fit into a narrow list.
         return QVKeyComboBox::tr("Move finely while held");
     case QVKeyComboBox::PauseTablet:
+        //: Action of a tablet key; must fit into the narrow lists of the key page.
         return QVKeyComboBox::tr("Pause the tablet");
     default:
         return {};

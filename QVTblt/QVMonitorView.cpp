@@ -303,11 +303,13 @@ QString QVMonitorView::spokenContents() const
     for (std::uint32_t i = 0; i < mDspCount; ++i) {
         const Rect& display = mSubMonitorRect[i];
         const auto number = [](double value) { return QString::number(std::lround(value)); };
+        //: Read by screen readers; %1 is a display's name, %2 by %3 its size, %4, %5 its position.
         sentences.append(tr("%1: %2 by %3 points, its upper left corner at %4, %5.")
                              .arg(displayName(i), number(display.width), number(display.height),
                                  number(display.x), number(display.y)));
     }
     if (chosenItem() >= 0) {
+        //: Read by screen readers; %1 is an item of the display list, such as "Display #1".
         sentences.append(tr("The tablet is mapped to %1.").arg(mComboBox->currentText()));
     }
     return sentences.join(u' ');

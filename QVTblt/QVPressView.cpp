@@ -19,9 +19,15 @@ QString nameOf(const platform::Event& pen)
 {
     const bool isEraser = pen.pointingDeviceType == platform::PointingDeviceType::Eraser;
     if (pen.uniqueID == 0) {
-        return isEraser ? QVPressView::tr("Eraser") : QVPressView::tr("Pen");
+        //: The end of the pen that is near the tablet; a label below the drawing pad.
+        return isEraser
+            ? QVPressView::tr("Eraser")
+            //: The end of the pen that is near the tablet; a label below the drawing pad.
+            : QVPressView::tr("Pen");
     }
+    //: A label below the drawing pad.
     return (isEraser ? QVPressView::tr("Eraser, serial number %1")
+                     //: A label below the drawing pad.
                      : QVPressView::tr("Pen, serial number %1"))
         .arg(pen.uniqueID);
 }
@@ -62,6 +68,7 @@ void QVPressView::handleProximity(const platform::Notification& notification)
 {
     const auto event = notification.userInfo.value(kProximityEventKey);
     if (event) {
+        //: A label below the drawing pad: no pen is near enough for the tablet to detect it.
         mPenID->setText(event->isEnteringProximity ? nameOf(*event) : tr("No pen in range"));
     }
 }
@@ -72,6 +79,7 @@ QString QVPressView::spokenContents() const
     // Points of the curve's width and height, of which 200 are all.
     const auto percentAt = [threshold](
                                int j) { return QString::number(QVPressHeight(threshold, j) / 2); };
+    //: Read by screen readers for the pressure curve; %2 to %4 are percentages.
     return tr("Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, "
               "%3 % at half and %4 % at three quarters.")
         .arg(QString::number(threshold), percentAt(50), percentAt(100), percentAt(150));

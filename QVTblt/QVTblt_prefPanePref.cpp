@@ -171,6 +171,7 @@ void QVTblt_prefPanePref::showModel()
     const auto productID = QVProductID(qvTabletInfo);
     const QVTabletModel* const model = QVFindModel(productID);
     mSoft->setText(model == nullptr
+            //: In place of a model's name; %1 is the USB product ID, four hexadecimal digits.
             ? tr("Unknown tablet, product %1").arg(productID, 4, 16, QLatin1Char('0'))
             : QString::fromUtf8(model->name));
 }

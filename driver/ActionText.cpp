@@ -45,11 +45,13 @@ QString actionText(const tagQVTabletInfoSubKey& slot)
     case kQVApplication: {
         const QString path = pathText(slot.App);
         return path.isEmpty() ? ActionText::tr("Open an application (unknown path)")
+                              //: Action of a tablet key; %1 is the path of an application.
                               : ActionText::tr("Open %1").arg(path);
     }
     case kQVKeyCombination: {
         const QString keys = QString::fromStdU16String(QVKeyCombinationText(slot.Key)).trimmed();
         return keys.isEmpty() ? ActionText::tr("Press no keys")
+                              //: Action of a tablet key; %1 is a key combination, such as "Ctrl Z".
                               : ActionText::tr("Press %1").arg(keys);
     }
     case kQVNextDisplay:
@@ -65,6 +67,7 @@ QString actionText(const tagQVTabletInfoSubKey& slot)
 
 QString stripText(std::int16_t field, std::int16_t speed)
 {
+    //: Action of a scroll strip; %1 is 1 to 10.
     return field == 0 ? ActionText::tr("Scroll at speed %1").arg(speed)
                       : ActionText::tr("No action: the strip is off");
 }

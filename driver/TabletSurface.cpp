@@ -36,6 +36,7 @@ TabletSurface::TabletSurface(QWidget* parent)
     : QWidget(parent)
     , Accessible(static_cast<QWidget&>(*this), QAccessible::Canvas)
 {
+    //: Read by screen readers: the part of the tablet on which the pen draws.
     setAccessibleName(tr("Surface"));
     setAccessibleDescription(tr(
         "The tablet's surface. Press the mouse here to touch it with the pen. The arrow keys move "
@@ -88,7 +89,10 @@ QRectF TabletSurface::surface() const
 
 QString TabletSurface::spokenContents() const
 {
-    return (isPenDown() ? tr("The pen is down at %1, %2.") : tr("The pen is up at %1, %2."))
+    //: Read by screen readers; %1 is x, %2 is y, in tablet units.
+    return (isPenDown() ? tr("The pen is down at %1, %2.")
+                        //: Read by screen readers; %1 is x, %2 is y, in tablet units.
+                        : tr("The pen is up at %1, %2."))
         .arg(QString::number(mPen.x), QString::number(mPen.y));
 }
 

@@ -137,6 +137,7 @@ TabletWindow::TabletWindow(Driver& driver)
     for (const QVTabletModel& known : kQVTabletModels) {
         mModels->addItem(QString::fromUtf8(known.name), known.productID);
     }
+    //: Label of the list of tablet models.
     auto* const label = new QLabel(tr("&Tablet:"));
     label->setBuddy(mModels);
     mTop->addWidget(label);
@@ -152,9 +153,13 @@ TabletWindow::TabletWindow(Driver& driver)
     mBody->addWidget(mSurface, 1);
     auto* const form = new QFormLayout;
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
+    //: Label of a line such as "Pen: down at 100, 200".
     mPen = valueLabel<platform::LiveLabel>(*form, tr("Pen:"));
+    //: Label of a line such as "Panel: calibrating: it gets pen reports"; the settings panel.
     mListening = valueLabel(*form, tr("Panel:"));
+    //: Label of the line that explains the frame drawn on the surface.
     mMapped = valueLabel(*form, tr("Frame:"));
+    //: Label of the line that shows the action of the key pressed last.
     mTold = valueLabel<ToldLabel>(*form, tr("Pressed:"));
     auto* const tablet = new QVBoxLayout(mTablet);
     tablet->setContentsMargins(0, 0, 0, 0);
@@ -228,6 +233,7 @@ void TabletWindow::choose()
         const QString& error = attached.error().text;
         say(error);
         showModel();
+        //: %1 is the reason, in English.
         const QString text = tr("The tablet could not be attached: %1").arg(error);
         mTold->tell(text);
         mNoTablet->setText(text);
@@ -240,6 +246,7 @@ void TabletWindow::showModel()
     mModels->setCurrentIndex(mModels->findData(mDriver.attached()));
     setWindowTitle(attached == nullptr
             ? tr("Virtual tablet")
+            //: Window title; %1 is the model's name.
             : tr("Virtual tablet: %1").arg(QString::fromUtf8(attached->name)));
     mNoTablet->setText(tr("No tablet is attached. Choose one above."));
     mNoTablet->setVisible(attached == nullptr);
@@ -254,6 +261,7 @@ void TabletWindow::showModel()
     }
     addKeys(*attached);
     addPenButtons(*attached);
+    //: Follows the label "Pressed:".
     mTold->tell(tr("no key yet; press one to see its action"));
     const std::optional<tagQVTabletInfo> known = settings();
     mSurface->setTablet(tabletRange(*attached, known ? &*known : nullptr));
@@ -281,6 +289,7 @@ void TabletWindow::addKeys(const QVTabletModel& model)
         }
         for (int i = 0; i < count && key < model.keyNum; ++i, ++key) {
             const QString number = QString::number(key + 1);
+            //: Name of an express key of the tablet; %1 is its number.
             addButton(*column, number, tr("Key %1").arg(number), static_cast<std::size_t>(key));
         }
     }
@@ -361,6 +370,7 @@ void TabletWindow::showSettings()
     const QVTabletArea mapped{known->Monitor.cTabletXmin, known->Monitor.cTabletXmax,
         known->Monitor.cTabletYmin, known->Monitor.cTabletYmax};
     mSurface->setMapped(mapped);
+    //: Follows the label "Frame:"; x and y are ranges in tablet units.
     mMapped->setText(tr("the part that covers the screen, x %1 to %2, y %3 to %4")
                          .arg(QString::number(mapped.xmin), QString::number(mapped.xmax),
                              QString::number(mapped.ymin), QString::number(mapped.ymax)));
@@ -368,16 +378,23 @@ void TabletWindow::showSettings()
 
 void TabletWindow::showListening()
 {
-    mListening->setText(mDriver.isCalibrating() ? tr("calibrating: it gets pen reports")
-                                                : tr("not calibrating: it gets no pen reports"));
+    mListening->setText(mDriver.isCalibrating()
+            //: Follows the label "Panel:".
+            ? tr("calibrating: it gets pen reports")
+            //: Follows the label "Panel:".
+            : tr("not calibrating: it gets no pen reports"));
     liftAboveCalibration();
 }
 
 void TabletWindow::showPen()
 {
     const QVTabletPoint& pen = mSurface->pen();
-    mPen->setText((mSurface->isPenDown() ? tr("down at %1, %2") : tr("up at %1, %2"))
-                      .arg(QString::number(pen.x), QString::number(pen.y)));
+    //: Follows the label "Pen:"; %1 is x, %2 is y, in tablet units.
+    mPen->setText(
+        (mSurface->isPenDown() ? tr("down at %1, %2")
+                               //: Follows the label "Pen:"; %1 is x, %2 is y, in tablet units.
+                               : tr("up at %1, %2"))
+            .arg(QString::number(pen.x), QString::number(pen.y)));
 }
 
 void TabletWindow::liftAboveCalibration()

@@ -34,6 +34,7 @@ public:
         : QFileDialog(parent, title)
     {
         setFileMode(QFileDialog::ExistingFile);
+        //: Kind of files in the dialog for choosing an application.
         setNameFilter(QCoreApplication::translate("OpenPanel", "Applications")
             + QStringLiteral(" (*.desktop *.AppImage *.appimage *.app)"));
         connect(this, &QFileDialog::directoryEntered, this, [this](const QString& folder) {
@@ -79,6 +80,7 @@ public:
     std::optional<QString> chooseApplication(QWidget* parent) override
     {
         // The parent may end before the user is done, and takes the dialog with it.
+        //: Title of the dialog.
         const QPointer<ApplicationDialog> dialog = new ApplicationDialog(
             parent, QCoreApplication::translate("OpenPanel", "Choose an application"));
         dialog->setDirectory(applicationsFolder());

@@ -55,9 +55,11 @@ PaneShell::~PaneShell()
 
 void PaneShell::makeButtons()
 {
+    //: Button: discards the changes since the last save; the window stays open.
     mCancel = new QPushButton(tr("&Cancel"));
     mCancel->setToolTip(tr("Go back to the saved settings"));
     connect(mCancel, &QPushButton::clicked, this, &PaneShell::cancel);
+    //: Button: saves the settings; the window stays open.
     mSave = new QPushButton(tr("Sa&ve"));
     mSave->setToolTip(tr("Save the current settings"));
     connect(mSave, &QPushButton::clicked, this, &PaneShell::save);
@@ -212,6 +214,7 @@ PaneShell::Unsaved PaneShell::askAboutUnsaved(const platform::Error& error, bool
     question->setTextFormat(Qt::PlainText);
     if (canStay) {
         question->setInformativeText(tr("Close the window and discard the changes?"));
+        //: Button: the window stays open, with its unsaved changes.
         QPushButton* const keep = question->addButton(tr("&Keep Open"), QMessageBox::RejectRole);
         question->setDefaultButton(keep);
         question->setEscapeButton(keep);
@@ -321,19 +324,25 @@ void PaneShell::showNotice()
     QString button;
     switch (notice()) {
     case Notice::NotSaved:
+        //: %1 is the reason, in English.
         text = tr("The settings were not saved: %1").arg(mNotSaved);
+        //: Button: saves or loads the settings again.
         button = tr("Tr&y Again");
         break;
     case Notice::NotKept:
+        //: %1 is the reason, in English.
         text = tr("The previous tablet's settings were not saved: %1").arg(mNotKept);
         break;
     case Notice::NotLoaded:
+        //: %1 is the reason, in English.
         text = tr("The tablet's settings cannot be loaded, so the pages do not show them: %1")
                    .arg(mNotLoaded);
+        //: Button: saves or loads the settings again.
         button = tr("Tr&y Again");
         break;
     case Notice::NotTaken:
         text = tr("The tablet's driver has not accepted the last change. Is it running?");
+        //: Button: sends the settings to the driver again.
         button = tr("Send A&gain");
         break;
     case Notice::None:

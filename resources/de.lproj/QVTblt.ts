@@ -5,10 +5,12 @@
     <name>OpenPanel</name>
     <message>
         <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
         <translation>Anwendung auswählen</translation>
     </message>
     <message>
         <source>Applications</source>
+        <extracomment>Kind of files in the dialog for choosing an application.</extracomment>
         <translation>Anwendungen</translation>
     </message>
     <message>
@@ -20,6 +22,7 @@
     <name>PaneShell</name>
     <message>
         <source>&amp;Cancel</source>
+        <extracomment>Button: discards the changes since the last save; the window stays open.</extracomment>
         <translation>&amp;Abbrechen</translation>
     </message>
     <message>
@@ -28,6 +31,7 @@
     </message>
     <message>
         <source>Sa&amp;ve</source>
+        <extracomment>Button: saves the settings; the window stays open.</extracomment>
         <translation>&amp;Speichern</translation>
     </message>
     <message>
@@ -36,10 +40,12 @@
     </message>
     <message>
         <source>The settings were not saved: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Die Einstellungen wurden nicht gespeichert: %1</translation>
     </message>
     <message>
         <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Die Einstellungen des Tabletts lassen sich nicht laden, deshalb zeigen die Seiten sie nicht: %1</translation>
     </message>
     <message>
@@ -48,14 +54,17 @@
     </message>
     <message>
         <source>Tr&amp;y Again</source>
+        <extracomment>Button: saves or loads the settings again.</extracomment>
         <translation>Er&amp;neut versuchen</translation>
     </message>
     <message>
         <source>Send A&amp;gain</source>
+        <extracomment>Button: sends the settings to the driver again.</extracomment>
         <translation>Er&amp;neut senden</translation>
     </message>
     <message>
         <source>The tablet&apos;s settings could not be saved: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Die Einstellungen des Tabletts konnten nicht gespeichert werden: %1</translation>
     </message>
     <message>
@@ -64,10 +73,12 @@
     </message>
     <message>
         <source>&amp;Keep Open</source>
+        <extracomment>Button: the window stays open, with its unsaved changes.</extracomment>
         <translation>&amp;Offen lassen</translation>
     </message>
     <message>
         <source>The previous tablet&apos;s settings were not saved: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Die Einstellungen des vorigen Tabletts wurden nicht gespeichert: %1</translation>
     </message>
 </context>
@@ -75,6 +86,7 @@
     <name>QVCalibrateView</name>
     <message>
         <source>Cross 1 of 4, at the upper left.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Kreuz 1 von 4, oben links.</translation>
     </message>
     <message>
@@ -91,10 +103,12 @@
     </message>
     <message>
         <source>Calibration finished</source>
+        <extracomment>Heading of the question whether to keep the calibration.</extracomment>
         <translation>Kalibrierung abgeschlossen</translation>
     </message>
     <message>
         <source>Calibration failed</source>
+        <extracomment>Heading of the message that the crosses were touched in a wrong order.</extracomment>
         <translation>Kalibrierung fehlgeschlagen</translation>
     </message>
 </context>
@@ -102,6 +116,7 @@
     <name>QVCalibrateWin</name>
     <message>
         <source>Calibration</source>
+        <extracomment>Title of the window with the crosses.</extracomment>
         <translation>Kalibrierung</translation>
     </message>
 </context>
@@ -109,6 +124,7 @@
     <name>QVDrawView</name>
     <message>
         <source>Pressure %1 %</source>
+        <extracomment>Read by screen readers for the drawing pad; %1 is 0 to 100.</extracomment>
         <translation>Druck %1 %</translation>
     </message>
 </context>
@@ -116,42 +132,52 @@
     <name>QVKeyComboBox</name>
     <message>
         <source>No action</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Keine Aktion</translation>
     </message>
     <message>
         <source>Left mouse button</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Linke Maustaste</translation>
     </message>
     <message>
         <source>Right mouse button</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Rechte Maustaste</translation>
     </message>
     <message>
         <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Mittlere Maustaste</translation>
     </message>
     <message>
         <source>Back mouse button</source>
+        <extracomment>The mouse button that goes back, as in a browser; must fit into a narrow list.</extracomment>
         <translation>Maustaste „Zurück“</translation>
     </message>
     <message>
         <source>Open an application…</source>
+        <extracomment>Action of a tablet key, which asks for the application; must fit into a narrow list.</extracomment>
         <translation>Anwendung öffnen …</translation>
     </message>
     <message>
         <source>Press keys…</source>
+        <extracomment>Action of a tablet key, which asks for keys of the keyboard; must fit into a narrow list.</extracomment>
         <translation>Tasten drücken …</translation>
     </message>
     <message>
         <source>Go to the next display</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Zum nächsten Bildschirm</translation>
     </message>
     <message>
         <source>Move finely while held</source>
+        <extracomment>Slows the pointer down while the key is held; must fit into a narrow list.</extracomment>
         <translation>Feinführung (halten)</translation>
     </message>
     <message>
         <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Tablett anhalten</translation>
     </message>
 </context>
@@ -159,6 +185,7 @@
     <name>QVKeySetClass</name>
     <message>
         <source>Choose up to three keys, in the order in which they are held</source>
+        <extracomment>Shown in the empty field of chosen keys; must fit into it</extracomment>
         <translation>Bis zu drei Tasten wählen, in der Reihenfolge des Drückens</translation>
     </message>
     <message>
@@ -167,6 +194,7 @@
     </message>
     <message>
         <source>&amp;Delete</source>
+        <extracomment>Button: removes the key chosen last</extracomment>
         <translation>&amp;Löschen</translation>
     </message>
     <message>
@@ -175,34 +203,42 @@
     </message>
     <message>
         <source>Escape</source>
+        <extracomment>Name of the key Esc</extracomment>
         <translation>Escape</translation>
     </message>
     <message>
         <source>Minus</source>
+        <extracomment>Name of the key -</extracomment>
         <translation>Minus</translation>
     </message>
     <message>
         <source>Plus</source>
+        <extracomment>Name of the key +</extracomment>
         <translation>Plus</translation>
     </message>
     <message>
         <source>Backspace</source>
+        <extracomment>Name of the key Bksp</extracomment>
         <translation>Rücktaste</translation>
     </message>
     <message>
         <source>Control</source>
+        <extracomment>Name of the key Ctrl</extracomment>
         <translation>Steuerung</translation>
     </message>
     <message>
         <source>Command</source>
+        <extracomment>Name of the key Cmd, the Windows or Super key</extracomment>
         <translation>Befehlstaste</translation>
     </message>
     <message>
         <source>Page up</source>
+        <extracomment>Name of the key PgUp</extracomment>
         <translation>Bild auf</translation>
     </message>
     <message>
         <source>Page down</source>
+        <extracomment>Name of the key PgDn</extracomment>
         <translation>Bild ab</translation>
     </message>
     <message>
@@ -233,10 +269,12 @@
     <name>QVMonitorView</name>
     <message>
         <source>%1: %2 by %3 points, its upper left corner at %4, %5.</source>
+        <extracomment>Read by screen readers; %1 is a display&apos;s name, %2 by %3 its size, %4, %5 its position.</extracomment>
         <translation>%1: %2 mal %3 Punkte, die linke obere Ecke bei %4, %5.</translation>
     </message>
     <message>
         <source>The tablet is mapped to %1.</source>
+        <extracomment>Read by screen readers; %1 is an item of the display list, such as &quot;Display #1&quot;.</extracomment>
         <translation>Das Tablett ist abgebildet auf: %1.</translation>
     </message>
     <message>
@@ -248,22 +286,27 @@
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
+        <extracomment>Part of the line below the drawing pad; %1 is 0 to 100.</extracomment>
         <translation>Druck %1 %</translation>
     </message>
     <message>
         <source>Tilt %1° right, %2° down</source>
+        <extracomment>%1 and %2 are degrees, negative for left and up.</extracomment>
         <translation>Neigung %1° nach rechts, %2° nach unten</translation>
     </message>
     <message>
         <source>Rotation %1°</source>
+        <extracomment>Rotation of the pen about its own axis; %1 is in degrees.</extracomment>
         <translation>Drehung %1°</translation>
     </message>
     <message>
         <source>At %1, %2 on the desktop</source>
+        <extracomment>Position of the pen; %1 is x, %2 is y.</extracomment>
         <translation>Bei %1, %2 auf dem Bildschirm</translation>
     </message>
     <message>
         <source>Pen number %1</source>
+        <extracomment>%1 is the number of the input device.</extracomment>
         <translation>Stift Nummer %1</translation>
     </message>
 </context>
@@ -271,6 +314,7 @@
     <name>QVPressView</name>
     <message>
         <source>Eraser</source>
+        <extracomment>The end of the pen that is near the tablet; a label below the drawing pad.</extracomment>
         <translation>Radierer</translation>
     </message>
     <message>
@@ -279,6 +323,7 @@
     </message>
     <message>
         <source>Eraser, serial number %1</source>
+        <extracomment>A label below the drawing pad.</extracomment>
         <translation>Radierer, Seriennummer %1</translation>
     </message>
     <message>
@@ -287,10 +332,12 @@
     </message>
     <message>
         <source>No pen in range</source>
+        <extracomment>A label below the drawing pad: no pen is near enough for the tablet to detect it.</extracomment>
         <translation>Kein Stift in Reichweite</translation>
     </message>
     <message>
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>Schwelle %1 von 200. Programme erhalten bei einem Viertel des vollen Drucks %2 % davon, bei der Hälfte %3 % und bei drei Vierteln %4 %.</translation>
     </message>
 </context>
@@ -302,6 +349,7 @@
     </message>
     <message>
         <source>&amp;Keys</source>
+        <extracomment>Page with the actions of the keys; tab title</extracomment>
         <translation>&amp;Tasten</translation>
     </message>
     <message>
@@ -322,6 +370,7 @@
     </message>
     <message>
         <source>&amp;Left scroll strip</source>
+        <extracomment>Check box; must fit into the narrow column of the key page</extracomment>
         <translation>&amp;Linker Rollstreifen</translation>
     </message>
     <message>
@@ -358,6 +407,7 @@
     </message>
     <message>
         <source>&amp;Right scroll strip</source>
+        <extracomment>Check box; must fit into the narrow column of the key page</extracomment>
         <translation>&amp;Rechter Rollstreifen</translation>
     </message>
     <message>
@@ -378,6 +428,7 @@
     </message>
     <message>
         <source>Scroll &amp;speed:</source>
+        <extracomment>Label of a slider</extracomment>
         <translation>Rolltem&amp;po:</translation>
     </message>
     <message>
@@ -386,6 +437,7 @@
     </message>
     <message>
         <source>&amp;Upper pen button:</source>
+        <extracomment>Label of a list: the upper button on the barrel of the pen</extracomment>
         <translation>&amp;Obere Stifttaste:</translation>
     </message>
     <message>
@@ -394,6 +446,7 @@
     </message>
     <message>
         <source>L&amp;ower pen button:</source>
+        <extracomment>Label of a list: the lower button on the barrel of the pen</extracomment>
         <translation>&amp;Untere Stifttaste:</translation>
     </message>
     <message>
@@ -402,6 +455,7 @@
     </message>
     <message>
         <source>&amp;Display</source>
+        <extracomment>Page that maps the tablet to a display; tab title</extracomment>
         <translation>&amp;Bildschirm</translation>
     </message>
     <message>
@@ -410,14 +464,17 @@
     </message>
     <message>
         <source>Fast</source>
+        <extracomment>Report speed of the tablet</extracomment>
         <translation>Schnell</translation>
     </message>
     <message>
         <source>Normal</source>
+        <extracomment>Report speed of the tablet</extracomment>
         <translation>Normal</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
+        <extracomment>Button: discards the changes since the last save; the window stays open</extracomment>
         <translation>&amp;Abbrechen</translation>
     </message>
     <message>
@@ -426,6 +483,7 @@
     </message>
     <message>
         <source>Sa&amp;ve</source>
+        <extracomment>Button: saves the settings; the window stays open</extracomment>
         <translation>&amp;Speichern</translation>
     </message>
     <message>
@@ -434,6 +492,7 @@
     </message>
     <message>
         <source>Unknown tablet, product %1</source>
+        <extracomment>In place of a model&apos;s name; %1 is the USB product ID, four hexadecimal digits.</extracomment>
         <translation>Unbekanntes Tablett, Produkt %1</translation>
     </message>
     <message>
@@ -442,6 +501,7 @@
     </message>
     <message>
         <source>&amp;Map the tablet to:</source>
+        <extracomment>Label of the list of displays</extracomment>
         <translation>Tablett abbil&amp;den auf:</translation>
     </message>
     <message>
@@ -454,6 +514,7 @@
     </message>
     <message>
         <source>&amp;Orientation:</source>
+        <extracomment>Label of a list: how the tablet lies on the desk</extracomment>
         <translation>A&amp;usrichtung:</translation>
     </message>
     <message>
@@ -466,10 +527,12 @@
     </message>
     <message>
         <source>Rotated by 180°</source>
+        <extracomment>How the tablet lies on the desk</extracomment>
         <translation>Um 180° gedreht</translation>
     </message>
     <message>
         <source>Not rotated</source>
+        <extracomment>How the tablet lies on the desk</extracomment>
         <translation>Nicht gedreht</translation>
     </message>
     <message>
@@ -482,6 +545,7 @@
     </message>
     <message>
         <source>Use the &amp;whole tablet</source>
+        <extracomment>Button; its corners become those of the display</extracomment>
         <translation>&amp;Ganzes Tablett nutzen</translation>
     </message>
     <message>
@@ -490,6 +554,7 @@
     </message>
     <message>
         <source>Keep &amp;proportions</source>
+        <extracomment>Button: the tablet gets the proportions of the display, so that circles stay round</extracomment>
         <translation>&amp;Proportionen wahren</translation>
     </message>
     <message>
@@ -502,6 +567,7 @@
     </message>
     <message>
         <source>Cali&amp;brate…</source>
+        <extracomment>Button: opens the calibration</extracomment>
         <translation>&amp;Kalibrieren …</translation>
     </message>
     <message>
@@ -510,18 +576,22 @@
     </message>
     <message>
         <source>P&amp;en</source>
+        <extracomment>Page with pressure curve and drawing pad; tab title</extracomment>
         <translation>St&amp;ift</translation>
     </message>
     <message>
         <source>Pressure</source>
+        <extracomment>Heading of the pressure curve and its slider</extracomment>
         <translation>Druck</translation>
     </message>
     <message>
         <source>Light: a gentle touch has a strong effect. Heavy: you press harder for the same effect.</source>
+        <extracomment>Use the same words as at the ends of the slider</extracomment>
         <translation>Leicht: Schon eine sanfte Berührung wirkt stark. Fest: Für dieselbe Wirkung drücken Sie stärker.</translation>
     </message>
     <message>
         <source>↑ What programs receive</source>
+        <extracomment>Vertical axis of the pressure curve; must fit into its height</extracomment>
         <translation>↑ Was Programme erhalten</translation>
     </message>
     <message>
@@ -530,10 +600,12 @@
     </message>
     <message>
         <source>How hard you press →</source>
+        <extracomment>Horizontal axis of the pressure curve</extracomment>
         <translation>Wie stark Sie drücken →</translation>
     </message>
     <message>
         <source>&amp;Light</source>
+        <extracomment>Left end of the pressure slider: a light touch is enough</extracomment>
         <translation>&amp;Leicht</translation>
     </message>
     <message>
@@ -542,10 +614,12 @@
     </message>
     <message>
         <source>Heavy</source>
+        <extracomment>Right end of the pressure slider: you have to press hard</extracomment>
         <translation>Fest</translation>
     </message>
     <message>
         <source>Try the pen</source>
+        <extracomment>Heading of the drawing pad</extracomment>
         <translation>Den Stift ausprobieren</translation>
     </message>
     <message>
@@ -558,6 +632,7 @@
     </message>
     <message>
         <source>Clea&amp;r</source>
+        <extracomment>Button: clears the drawing pad</extracomment>
         <translation>Lee&amp;ren</translation>
     </message>
     <message>
@@ -574,6 +649,7 @@
     </message>
     <message>
         <source>Pressure, of 65535:</source>
+        <extracomment>Label of the current pressure, a number from 0 to 65535</extracomment>
         <translation>Druck, von 65535:</translation>
     </message>
     <message>

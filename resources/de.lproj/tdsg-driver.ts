@@ -17,6 +17,7 @@
     </message>
     <message>
         <source>Back mouse button</source>
+        <extracomment>The mouse button that goes back, as in a browser.</extracomment>
         <translation>Maustaste „Zurück“</translation>
     </message>
     <message>
@@ -45,6 +46,7 @@
     </message>
     <message>
         <source>Move finely while held</source>
+        <extracomment>Action of a tablet key: slows the pointer down while the key is held.</extracomment>
         <translation>Feinführung (halten)</translation>
     </message>
     <message>
@@ -53,6 +55,7 @@
     </message>
     <message>
         <source>Scroll at speed %1</source>
+        <extracomment>Action of a scroll strip; %1 is 1 to 10.</extracomment>
         <translation>Mit Tempo %1 rollen</translation>
     </message>
     <message>
@@ -64,6 +67,7 @@
     <name>TabletSurface</name>
     <message>
         <source>Surface</source>
+        <extracomment>Read by screen readers: the part of the tablet on which the pen draws.</extracomment>
         <translation>Fläche</translation>
     </message>
     <message>
@@ -72,6 +76,7 @@
     </message>
     <message>
         <source>The pen is down at %1, %2.</source>
+        <extracomment>Read by screen readers; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>Der Stift ist unten bei %1, %2.</translation>
     </message>
     <message>
@@ -95,26 +100,32 @@
     </message>
     <message>
         <source>&amp;Tablet:</source>
+        <extracomment>Label of the list of tablet models.</extracomment>
         <translation>&amp;Tablett:</translation>
     </message>
     <message>
         <source>Pen:</source>
+        <extracomment>Label of a line such as &quot;Pen: down at 100, 200&quot;.</extracomment>
         <translation>Stift:</translation>
     </message>
     <message>
         <source>Panel:</source>
+        <extracomment>Label of a line such as &quot;Panel: calibrating: it gets pen reports&quot;; the settings panel.</extracomment>
         <translation>Einstellungen:</translation>
     </message>
     <message>
         <source>Frame:</source>
+        <extracomment>Label of the line that explains the frame drawn on the surface.</extracomment>
         <translation>Rahmen:</translation>
     </message>
     <message>
         <source>Pressed:</source>
+        <extracomment>Label of the line that shows the action of the key pressed last.</extracomment>
         <translation>Gedrückt:</translation>
     </message>
     <message>
         <source>The tablet could not be attached: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Das Tablett konnte nicht angeschlossen werden: %1</translation>
     </message>
     <message>
@@ -131,10 +142,12 @@
     </message>
     <message>
         <source>no key yet; press one to see its action</source>
+        <extracomment>Follows the label &quot;Pressed:&quot;.</extracomment>
         <translation>noch keine Taste; eine drücken, um ihre Aktion zu sehen</translation>
     </message>
     <message>
         <source>Key %1</source>
+        <extracomment>Name of an express key of the tablet; %1 is its number.</extracomment>
         <translation>Taste %1</translation>
     </message>
     <message>
@@ -164,6 +177,7 @@
     </message>
     <message>
         <source>the part that covers the screen, x %1 to %2, y %3 to %4</source>
+        <extracomment>Follows the label &quot;Frame:&quot;; x and y are ranges in tablet units.</extracomment>
         <translation>der Teil, der den Bildschirm abdeckt, x %1 bis %2, y %3 bis %4</translation>
     </message>
     <message>
@@ -176,6 +190,7 @@
     </message>
     <message>
         <source>down at %1, %2</source>
+        <extracomment>Follows the label &quot;Pen:&quot;; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>unten bei %1, %2</translation>
     </message>
     <message>

@@ -5,10 +5,12 @@
     <name>OpenPanel</name>
     <message>
         <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
         <translation>Elegir una aplicación</translation>
     </message>
     <message>
         <source>Applications</source>
+        <extracomment>Kind of files in the dialog for choosing an application.</extracomment>
         <translation>Aplicaciones</translation>
     </message>
     <message>
@@ -20,6 +22,7 @@
     <name>PaneShell</name>
     <message>
         <source>&amp;Cancel</source>
+        <extracomment>Button: discards the changes since the last save; the window stays open.</extracomment>
         <translation>&amp;Cancelar</translation>
     </message>
     <message>
@@ -28,6 +31,7 @@
     </message>
     <message>
         <source>Sa&amp;ve</source>
+        <extracomment>Button: saves the settings; the window stays open.</extracomment>
         <translation>&amp;Guardar</translation>
     </message>
     <message>
@@ -36,10 +40,12 @@
     </message>
     <message>
         <source>The settings were not saved: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Los ajustes no se han guardado: %1</translation>
     </message>
     <message>
         <source>The tablet&apos;s settings cannot be loaded, so the pages do not show them: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>No se pueden cargar los ajustes de la tableta, por lo que las páginas no los muestran: %1</translation>
     </message>
     <message>
@@ -48,14 +54,17 @@
     </message>
     <message>
         <source>Tr&amp;y Again</source>
+        <extracomment>Button: saves or loads the settings again.</extracomment>
         <translation>&amp;Reintentar</translation>
     </message>
     <message>
         <source>Send A&amp;gain</source>
+        <extracomment>Button: sends the settings to the driver again.</extracomment>
         <translation>&amp;Enviar de nuevo</translation>
     </message>
     <message>
         <source>The tablet&apos;s settings could not be saved: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>No se pudieron guardar los ajustes de la tableta: %1</translation>
     </message>
     <message>
@@ -64,10 +73,12 @@
     </message>
     <message>
         <source>&amp;Keep Open</source>
+        <extracomment>Button: the window stays open, with its unsaved changes.</extracomment>
         <translation>&amp;Mantener abierta</translation>
     </message>
     <message>
         <source>The previous tablet&apos;s settings were not saved: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Los ajustes de la tableta anterior no se han guardado: %1</translation>
     </message>
 </context>
@@ -75,6 +86,7 @@
     <name>QVCalibrateView</name>
     <message>
         <source>Cross 1 of 4, at the upper left.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Cruz 1 de 4, arriba a la izquierda.</translation>
     </message>
     <message>
@@ -91,10 +103,12 @@
     </message>
     <message>
         <source>Calibration finished</source>
+        <extracomment>Heading of the question whether to keep the calibration.</extracomment>
         <translation>Calibración terminada</translation>
     </message>
     <message>
         <source>Calibration failed</source>
+        <extracomment>Heading of the message that the crosses were touched in a wrong order.</extracomment>
         <translation>Calibración fallida</translation>
     </message>
 </context>
@@ -102,6 +116,7 @@
     <name>QVCalibrateWin</name>
     <message>
         <source>Calibration</source>
+        <extracomment>Title of the window with the crosses.</extracomment>
         <translation>Calibración</translation>
     </message>
 </context>
@@ -109,6 +124,7 @@
     <name>QVDrawView</name>
     <message>
         <source>Pressure %1 %</source>
+        <extracomment>Read by screen readers for the drawing pad; %1 is 0 to 100.</extracomment>
         <translation>Presión %1&#xa0;%</translation>
     </message>
 </context>
@@ -116,42 +132,52 @@
     <name>QVKeyComboBox</name>
     <message>
         <source>No action</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Ninguna acción</translation>
     </message>
     <message>
         <source>Left mouse button</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Botón izquierdo del ratón</translation>
     </message>
     <message>
         <source>Right mouse button</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Botón derecho del ratón</translation>
     </message>
     <message>
         <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Botón central del ratón</translation>
     </message>
     <message>
         <source>Back mouse button</source>
+        <extracomment>The mouse button that goes back, as in a browser; must fit into a narrow list.</extracomment>
         <translation>Botón Atrás del ratón</translation>
     </message>
     <message>
         <source>Open an application…</source>
+        <extracomment>Action of a tablet key, which asks for the application; must fit into a narrow list.</extracomment>
         <translation>Abrir una aplicación…</translation>
     </message>
     <message>
         <source>Press keys…</source>
+        <extracomment>Action of a tablet key, which asks for keys of the keyboard; must fit into a narrow list.</extracomment>
         <translation>Pulsar teclas…</translation>
     </message>
     <message>
         <source>Go to the next display</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Ir a la pantalla siguiente</translation>
     </message>
     <message>
         <source>Move finely while held</source>
+        <extracomment>Slows the pointer down while the key is held; must fit into a narrow list.</extracomment>
         <translation>Precisión (mantener)</translation>
     </message>
     <message>
         <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
         <translation>Pausar la tableta</translation>
     </message>
 </context>
@@ -163,6 +189,7 @@
     </message>
     <message>
         <source>Choose up to three keys, in the order in which they are held</source>
+        <extracomment>Shown in the empty field of chosen keys; must fit into it</extracomment>
         <translation>Elija hasta tres teclas, en el orden en que se pulsan</translation>
     </message>
     <message>
@@ -171,6 +198,7 @@
     </message>
     <message>
         <source>&amp;Delete</source>
+        <extracomment>Button: removes the key chosen last</extracomment>
         <translation>&amp;Borrar</translation>
     </message>
     <message>
@@ -179,34 +207,42 @@
     </message>
     <message>
         <source>Escape</source>
+        <extracomment>Name of the key Esc</extracomment>
         <translation>Escape</translation>
     </message>
     <message>
         <source>Minus</source>
+        <extracomment>Name of the key -</extracomment>
         <translation>Menos</translation>
     </message>
     <message>
         <source>Plus</source>
+        <extracomment>Name of the key +</extracomment>
         <translation>Más</translation>
     </message>
     <message>
         <source>Backspace</source>
+        <extracomment>Name of the key Bksp</extracomment>
         <translation>Retroceso</translation>
     </message>
     <message>
         <source>Control</source>
+        <extracomment>Name of the key Ctrl</extracomment>
         <translation>Control</translation>
     </message>
     <message>
         <source>Command</source>
+        <extracomment>Name of the key Cmd, the Windows or Super key</extracomment>
         <translation>Comando</translation>
     </message>
     <message>
         <source>Page up</source>
+        <extracomment>Name of the key PgUp</extracomment>
         <translation>Retroceder página</translation>
     </message>
     <message>
         <source>Page down</source>
+        <extracomment>Name of the key PgDn</extracomment>
         <translation>Avanzar página</translation>
     </message>
     <message>
@@ -233,10 +269,12 @@
     <name>QVMonitorView</name>
     <message>
         <source>%1: %2 by %3 points, its upper left corner at %4, %5.</source>
+        <extracomment>Read by screen readers; %1 is a display&apos;s name, %2 by %3 its size, %4, %5 its position.</extracomment>
         <translation>%1: %2 por %3 puntos, con la esquina superior izquierda en %4, %5.</translation>
     </message>
     <message>
         <source>The tablet is mapped to %1.</source>
+        <extracomment>Read by screen readers; %1 is an item of the display list, such as &quot;Display #1&quot;.</extracomment>
         <translation>La tableta está asignada a: %1.</translation>
     </message>
     <message>
@@ -248,22 +286,27 @@
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
+        <extracomment>Part of the line below the drawing pad; %1 is 0 to 100.</extracomment>
         <translation>Presión %1&#xa0;%</translation>
     </message>
     <message>
         <source>Tilt %1° right, %2° down</source>
+        <extracomment>%1 and %2 are degrees, negative for left and up.</extracomment>
         <translation>Inclinación %1° a la derecha, %2° hacia abajo</translation>
     </message>
     <message>
         <source>Rotation %1°</source>
+        <extracomment>Rotation of the pen about its own axis; %1 is in degrees.</extracomment>
         <translation>Rotación %1°</translation>
     </message>
     <message>
         <source>At %1, %2 on the desktop</source>
+        <extracomment>Position of the pen; %1 is x, %2 is y.</extracomment>
         <translation>En %1, %2 del escritorio</translation>
     </message>
     <message>
         <source>Pen number %1</source>
+        <extracomment>%1 is the number of the input device.</extracomment>
         <translation>Lápiz número %1</translation>
     </message>
 </context>
@@ -271,6 +314,7 @@
     <name>QVPressView</name>
     <message>
         <source>Eraser</source>
+        <extracomment>The end of the pen that is near the tablet; a label below the drawing pad.</extracomment>
         <translation>Goma</translation>
     </message>
     <message>
@@ -279,6 +323,7 @@
     </message>
     <message>
         <source>Eraser, serial number %1</source>
+        <extracomment>A label below the drawing pad.</extracomment>
         <translation>Goma, número de serie %1</translation>
     </message>
     <message>
@@ -287,10 +332,12 @@
     </message>
     <message>
         <source>No pen in range</source>
+        <extracomment>A label below the drawing pad: no pen is near enough for the tablet to detect it.</extracomment>
         <translation>Ningún lápiz al alcance</translation>
     </message>
     <message>
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
+        <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>Umbral %1 de 200. Los programas reciben el %2&#xa0;% de la presión máxima a un cuarto de ella, el %3&#xa0;% a la mitad y el %4&#xa0;% a tres cuartos.</translation>
     </message>
 </context>
@@ -302,6 +349,7 @@
     </message>
     <message>
         <source>&amp;Keys</source>
+        <extracomment>Page with the actions of the keys; tab title</extracomment>
         <translation>&amp;Teclas</translation>
     </message>
     <message>
@@ -326,6 +374,7 @@
     </message>
     <message>
         <source>&amp;Left scroll strip</source>
+        <extracomment>Check box; must fit into the narrow column of the key page</extracomment>
         <translation>Banda táctil &amp;izquierda</translation>
     </message>
     <message>
@@ -362,6 +411,7 @@
     </message>
     <message>
         <source>&amp;Right scroll strip</source>
+        <extracomment>Check box; must fit into the narrow column of the key page</extracomment>
         <translation>Banda táctil &amp;derecha</translation>
     </message>
     <message>
@@ -382,6 +432,7 @@
     </message>
     <message>
         <source>Scroll &amp;speed:</source>
+        <extracomment>Label of a slider</extracomment>
         <translation>Despla&amp;zamiento:</translation>
     </message>
     <message>
@@ -390,6 +441,7 @@
     </message>
     <message>
         <source>&amp;Upper pen button:</source>
+        <extracomment>Label of a list: the upper button on the barrel of the pen</extracomment>
         <translation>Lápiz, botón &amp;superior:</translation>
     </message>
     <message>
@@ -398,6 +450,7 @@
     </message>
     <message>
         <source>L&amp;ower pen button:</source>
+        <extracomment>Label of a list: the lower button on the barrel of the pen</extracomment>
         <translation>Lápiz, botón i&amp;nferior:</translation>
     </message>
     <message>
@@ -406,18 +459,22 @@
     </message>
     <message>
         <source>P&amp;en</source>
+        <extracomment>Page with pressure curve and drawing pad; tab title</extracomment>
         <translation>&amp;Lápiz</translation>
     </message>
     <message>
         <source>Pressure</source>
+        <extracomment>Heading of the pressure curve and its slider</extracomment>
         <translation>Presión</translation>
     </message>
     <message>
         <source>Light: a gentle touch has a strong effect. Heavy: you press harder for the same effect.</source>
+        <extracomment>Use the same words as at the ends of the slider</extracomment>
         <translation>Suave: un toque ligero ya produce mucho efecto. Fuerte: hay que apretar más para el mismo efecto.</translation>
     </message>
     <message>
         <source>↑ What programs receive</source>
+        <extracomment>Vertical axis of the pressure curve; must fit into its height</extracomment>
         <translation>↑ Lo que reciben los programas</translation>
     </message>
     <message>
@@ -426,10 +483,12 @@
     </message>
     <message>
         <source>How hard you press →</source>
+        <extracomment>Horizontal axis of the pressure curve</extracomment>
         <translation>Fuerza con que aprieta →</translation>
     </message>
     <message>
         <source>&amp;Light</source>
+        <extracomment>Left end of the pressure slider: a light touch is enough</extracomment>
         <translation>&amp;Suave</translation>
     </message>
     <message>
@@ -438,10 +497,12 @@
     </message>
     <message>
         <source>Heavy</source>
+        <extracomment>Right end of the pressure slider: you have to press hard</extracomment>
         <translation>Fuerte</translation>
     </message>
     <message>
         <source>Try the pen</source>
+        <extracomment>Heading of the drawing pad</extracomment>
         <translation>Probar el lápiz</translation>
     </message>
     <message>
@@ -454,6 +515,7 @@
     </message>
     <message>
         <source>Clea&amp;r</source>
+        <extracomment>Button: clears the drawing pad</extracomment>
         <translation>&amp;Borrar</translation>
     </message>
     <message>
@@ -470,14 +532,17 @@
     </message>
     <message>
         <source>Pressure, of 65535:</source>
+        <extracomment>Label of the current pressure, a number from 0 to 65535</extracomment>
         <translation>Presión, de 65535:</translation>
     </message>
     <message>
         <source>&amp;Display</source>
+        <extracomment>Page that maps the tablet to a display; tab title</extracomment>
         <translation>&amp;Pantalla</translation>
     </message>
     <message>
         <source>&amp;Map the tablet to:</source>
+        <extracomment>Label of the list of displays</extracomment>
         <translation>&amp;Asignar la tableta a:</translation>
     </message>
     <message>
@@ -490,6 +555,7 @@
     </message>
     <message>
         <source>&amp;Orientation:</source>
+        <extracomment>Label of a list: how the tablet lies on the desk</extracomment>
         <translation>&amp;Orientación:</translation>
     </message>
     <message>
@@ -502,10 +568,12 @@
     </message>
     <message>
         <source>Rotated by 180°</source>
+        <extracomment>How the tablet lies on the desk</extracomment>
         <translation>Girada 180°</translation>
     </message>
     <message>
         <source>Not rotated</source>
+        <extracomment>How the tablet lies on the desk</extracomment>
         <translation>Sin girar</translation>
     </message>
     <message>
@@ -522,14 +590,17 @@
     </message>
     <message>
         <source>Fast</source>
+        <extracomment>Report speed of the tablet</extracomment>
         <translation>Rápida</translation>
     </message>
     <message>
         <source>Normal</source>
+        <extracomment>Report speed of the tablet</extracomment>
         <translation>Normal</translation>
     </message>
     <message>
         <source>Use the &amp;whole tablet</source>
+        <extracomment>Button; its corners become those of the display</extracomment>
         <translation>&amp;Usar toda la tableta</translation>
     </message>
     <message>
@@ -538,6 +609,7 @@
     </message>
     <message>
         <source>Keep &amp;proportions</source>
+        <extracomment>Button: the tablet gets the proportions of the display, so that circles stay round</extracomment>
         <translation>&amp;Mantener las proporciones</translation>
     </message>
     <message>
@@ -546,6 +618,7 @@
     </message>
     <message>
         <source>Cali&amp;brate…</source>
+        <extracomment>Button: opens the calibration</extracomment>
         <translation>Cali&amp;brar…</translation>
     </message>
     <message>
@@ -558,6 +631,7 @@
     </message>
     <message>
         <source>&amp;Cancel</source>
+        <extracomment>Button: discards the changes since the last save; the window stays open</extracomment>
         <translation>&amp;Cancelar</translation>
     </message>
     <message>
@@ -566,6 +640,7 @@
     </message>
     <message>
         <source>Sa&amp;ve</source>
+        <extracomment>Button: saves the settings; the window stays open</extracomment>
         <translation>&amp;Guardar</translation>
     </message>
     <message>
@@ -578,6 +653,7 @@
     </message>
     <message>
         <source>Unknown tablet, product %1</source>
+        <extracomment>In place of a model&apos;s name; %1 is the USB product ID, four hexadecimal digits.</extracomment>
         <translation>Tableta desconocida, producto %1</translation>
     </message>
 </context>

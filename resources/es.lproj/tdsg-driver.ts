@@ -17,6 +17,7 @@
     </message>
     <message>
         <source>Back mouse button</source>
+        <extracomment>The mouse button that goes back, as in a browser.</extracomment>
         <translation>Botón Atrás del ratón</translation>
     </message>
     <message>
@@ -45,6 +46,7 @@
     </message>
     <message>
         <source>Move finely while held</source>
+        <extracomment>Action of a tablet key: slows the pointer down while the key is held.</extracomment>
         <translation>Precisión (mantener)</translation>
     </message>
     <message>
@@ -53,6 +55,7 @@
     </message>
     <message>
         <source>Scroll at speed %1</source>
+        <extracomment>Action of a scroll strip; %1 is 1 to 10.</extracomment>
         <translation>Desplazar a velocidad %1</translation>
     </message>
     <message>
@@ -64,6 +67,7 @@
     <name>TabletSurface</name>
     <message>
         <source>Surface</source>
+        <extracomment>Read by screen readers: the part of the tablet on which the pen draws.</extracomment>
         <translation>Superficie</translation>
     </message>
     <message>
@@ -72,6 +76,7 @@
     </message>
     <message>
         <source>The pen is down at %1, %2.</source>
+        <extracomment>Read by screen readers; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>El lápiz está apoyado en %1, %2.</translation>
     </message>
     <message>
@@ -95,26 +100,32 @@
     </message>
     <message>
         <source>&amp;Tablet:</source>
+        <extracomment>Label of the list of tablet models.</extracomment>
         <translation>&amp;Tableta:</translation>
     </message>
     <message>
         <source>Pen:</source>
+        <extracomment>Label of a line such as &quot;Pen: down at 100, 200&quot;.</extracomment>
         <translation>Lápiz:</translation>
     </message>
     <message>
         <source>Panel:</source>
+        <extracomment>Label of a line such as &quot;Panel: calibrating: it gets pen reports&quot;; the settings panel.</extracomment>
         <translation>Ajustes:</translation>
     </message>
     <message>
         <source>Frame:</source>
+        <extracomment>Label of the line that explains the frame drawn on the surface.</extracomment>
         <translation>Marco:</translation>
     </message>
     <message>
         <source>Pressed:</source>
+        <extracomment>Label of the line that shows the action of the key pressed last.</extracomment>
         <translation>Pulsado:</translation>
     </message>
     <message>
         <source>The tablet could not be attached: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
         <translation>No se ha podido conectar la tableta: %1</translation>
     </message>
     <message>
@@ -131,10 +142,12 @@
     </message>
     <message>
         <source>no key yet; press one to see its action</source>
+        <extracomment>Follows the label &quot;Pressed:&quot;.</extracomment>
         <translation>ninguna tecla todavía; pulse una para ver qué hace</translation>
     </message>
     <message>
         <source>Key %1</source>
+        <extracomment>Name of an express key of the tablet; %1 is its number.</extracomment>
         <translation>Tecla %1</translation>
     </message>
     <message>
@@ -164,6 +177,7 @@
     </message>
     <message>
         <source>the part that covers the screen, x %1 to %2, y %3 to %4</source>
+        <extracomment>Follows the label &quot;Frame:&quot;; x and y are ranges in tablet units.</extracomment>
         <translation>la parte que cubre la pantalla, x de %1 a %2, y de %3 a %4</translation>
     </message>
     <message>
@@ -176,6 +190,7 @@
     </message>
     <message>
         <source>down at %1, %2</source>
+        <extracomment>Follows the label &quot;Pen:&quot;; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>apretado en %1, %2</translation>
     </message>
     <message>
