@@ -16,7 +16,7 @@ STRUCTURE = session.SOURCE / "docs/images/pages.json"
 
 
 def pages():
-    """Each page: its picture's name, the product whose settings it shows, and its tab."""
+    """Yields each page: its picture's name, the product whose settings it shows, and its tab."""
     for layout in sorted({model.layout for model in models.all_models()}):
         yield f"keyPage-{layout}", models.product_of(layout), "Keys"
     yield "penPage", models.product_of("G"), "Pen"
