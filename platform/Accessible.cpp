@@ -11,9 +11,9 @@ namespace platform {
 
 namespace {
 
-constexpr int kPause = 500; ///< milliseconds between two messages
+constexpr int kPause = 500; ///< milliseconds between two announcements
 
-/** Of a widget that is just being destroyed, Accessible has gone already. */
+/** Null for a widget that is being destroyed, whose Accessible is already gone. */
 Accessible* accessibleOf(QWidget* widget)
 {
     return dynamic_cast<Accessible*>(widget);
@@ -57,8 +57,8 @@ QAccessibleInterface* makeInterface(const QString& className, QObject* object)
 } // namespace
 
 /**
- * Qt asks makeInterface() for as long as there are widgets to be asked for. A module must not leave
- * it behind in its host.
+ * Keeps makeInterface() installed in Qt while there are such widgets. A module must not leave it
+ * behind in its host.
  */
 class AccessibleFactory {
 public:
@@ -79,7 +79,7 @@ public:
     }
 };
 
-/** Tells listeners of new words when the pause since the last message is over. */
+/** Notifies listeners of a new description when the pause since the last notification is over. */
 class Accessible::Notice final : public QObject {
 public:
     explicit Notice(const Accessible& accessible)
@@ -159,14 +159,14 @@ LiveLabel::LiveLabel(QWidget* parent)
     : QLabel(parent)
     , Accessible(static_cast<QWidget&>(*this), QAccessible::StaticText)
 {
-    // A label that has a name of its own doesn't tell of each new text.
+    // A label with a name of its own doesn't announce each new text.
     setAccessibleName(QStringLiteral(" "));
 }
 
 void LiveLabel::paintEvent(QPaintEvent* event)
 {
     QLabel::paintEvent(event);
-    contentsChanged(); // a new text is always painted
+    contentsChanged(); // a new text is always repainted
 }
 
 NoticeLabel::NoticeLabel(QWidget* parent)

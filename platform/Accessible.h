@@ -15,31 +15,32 @@ class QWidget;
 namespace platform {
 
 /**
- * What a widget is to screen readers, where Qt cannot know it: a second base of the widget, which
- * has a role and may say in words what it shows.
+ * Makes a widget that draws itself accessible to screen readers: a second base class with a role
+ * and, optionally, a description of what the widget shows.
  *
- * Words are made when somebody asks for them, never ahead. Names are the widget's, as everywhere.
+ * Descriptions are made on request, never ahead. Names are the widget's, as usual.
  */
 class Accessible {
 public:
-    /** @param widget of which this is a base */
+    /** @param widget the object that this is a base of */
     Accessible(QWidget& widget, QAccessible::Role role);
     virtual ~Accessible();
 
     QAccessible::Role role() const { return mRole; }
 
-    /** The name; as long as nothing else is said, the widget's. */
+    /** The name; by default, the widget's. */
     virtual QString spokenName() const;
-    /** What is to be seen, in a few sentences; as long as nothing else is said, nothing. */
+    /** Describes what is visible, in a few sentences; by default, nothing. */
     virtual QString spokenContents() const;
 
     /**
-     * Something else is to be seen. Listeners are told soon, at most twice a second, and only when
-     * the words have changed; without listeners this costs next to nothing.
+     * Must be called when the visible contents change. Listeners are notified soon, at most twice a
+     * second, and only if the description has changed; without listeners, this costs next to
+     * nothing.
      */
     void contentsChanged();
 
-    /** What Qt shows to screen readers of the widget, which owns it from then on. */
+    /** Creates Qt's accessible interface for the widget; Qt takes ownership. */
     virtual QAccessibleInterface* newInterface();
 
 private:
@@ -48,12 +49,12 @@ private:
     QWidget& mWidget;
     QAccessible::Role mRole;
     std::shared_ptr<class AccessibleFactory> mFactory;
-    std::unique_ptr<Notice> mNotice; ///< since the first change that had listeners
+    std::unique_ptr<Notice> mNotice; ///< created by the first change with listeners
 };
 
 /**
- * A label whose text may change with each event of a pen. Qt's own label sends a message to screen
- * readers each time.
+ * A label whose text may change with each pen event. Qt's own label would notify screen readers
+ * each time.
  */
 class LiveLabel : public QLabel, public Accessible {
     Q_OBJECT
@@ -67,7 +68,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 };
 
-/** A label that screen readers read out whenever it appears. */
+/** A label that screen readers announce whenever it appears. */
 class NoticeLabel final : public QLabel, public Accessible {
     Q_OBJECT
 

@@ -29,7 +29,7 @@ class DesktopAlerts final : public Alerts {
 public:
     std::int16_t runStandardAlert(const StandardAlert& alert, QWidget* parent) override
     {
-        // The parent may end before the alert is answered, and takes it along.
+        // The parent may be destroyed, and the alert with it, before the answer.
         const QPointer<QMessageBox> box = new QMessageBox(parent);
         box->setIcon(iconOf(alert.type));
         box->setWindowTitle(alert.title);
@@ -41,7 +41,7 @@ public:
             box->addButton(QMessageBox::Cancel);
         }
         box->setDefaultButton(QMessageBox::Ok);
-        // Above what the parent stays above of.
+        // Stay on top, like the parent.
         box->setWindowFlag(Qt::WindowStaysOnTopHint);
         QWindow* const below = parent == nullptr ? nullptr : parent->window()->windowHandle();
         if (below != nullptr) {

@@ -10,21 +10,21 @@ class QWidget;
 
 namespace platform {
 
-/** What kind of alert it is; its picture says so. */
+/** The kind of an alert, which determines its icon. */
 enum class AlertType : std::uint8_t {
-    Stop, ///< the user has to decide
+    Stop, ///< the user has to make a decision
     Note,
     Caution, ///< something went wrong
 };
 
-/** A button of an alert; what was hit. */
+/** An alert's button, as the result. */
 inline constexpr std::int16_t kAlertStdAlertOKButton = 1;
 inline constexpr std::int16_t kAlertStdAlertCancelButton = 2;
 
-/** An alert in the desktop's look, with the desktop's words on its buttons. */
+/** An alert with the desktop's look and button texts. */
 struct StandardAlert {
     AlertType type = AlertType::Note;
-    QString title{}; ///< of its window
+    QString title{}; ///< title of the window
     QString message{};
     QString explanation{}; ///< below the message; may be empty
     bool hasCancelButton = false; ///< beside OK, which is the default
@@ -38,14 +38,14 @@ public:
     /**
      * Shows the alert and runs until it is answered.
      *
-     * @param parent the window that it belongs to
-     * @return the button that was hit; Escape is Cancel, or OK where that is alone; 0 when the
-     * alert went away without an answer, as it does with its parent's window
+     * @param parent the window that the alert belongs to
+     * @return the button that was pressed; Escape is Cancel, or OK without a Cancel button; 0 if
+     *     the alert was destroyed without an answer, such as with its parent window
      */
     virtual std::int16_t runStandardAlert(const StandardAlert& alert, QWidget* parent) = 0;
 };
 
-/** The desktop's, or what a ServiceScope<Alerts> has put in their place. */
+/** Returns the desktop's alerts, or their replacement by a ServiceScope<Alerts>. */
 Alerts& alerts();
 
 } // namespace platform

@@ -116,9 +116,9 @@ Desc toWire(const AEDesc& desc)
         QDBusVariant(std::visit([](const auto& data) { return toVariant(data); }, desc.data))};
 }
 
-// Reading. QtDBus warns and gives zeroes where an argument has another signature than it is read
-// with, so every signature is compared first. It leaks what was begun and not ended, so that an
-// argument is read to its end also when it has proved malformed.
+// Reading. QtDBus warns and returns zeros if an argument is read with a wrong signature, so every
+// signature is checked first. It leaks containers that are begun but not ended, so a malformed
+// argument is still read to its end.
 
 bool readDesc(const QDBusArgument& argument, int depth, AEDesc& desc);
 
@@ -193,7 +193,8 @@ QString busName(FourCharCode signature)
         return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z') || (c >= u'0' && c <= u'9')
             || c == u'_' || c == u'-';
     };
-    // A name's element cannot begin with a digit; one that begins with "_x" would be ambiguous.
+    // An element of a bus name cannot begin with a digit; one that begins with "_x" would be
+    // ambiguous.
     const bool fits = std::all_of(text.cbegin(), text.cend(), isPlain) && !text.at(0).isDigit()
         && !text.startsWith(QLatin1String("_x"));
     return QLatin1String(kPrefix)

@@ -11,7 +11,7 @@
 
 /**
  * @file
- * How events travel over D-Bus; docs/driver-protocol.md describes it for people.
+ * The wire format of events on D-Bus, as described in docs/driver-protocol.md.
  *
  * A parameter list has the signature a(u(uv)): keyword, then the descriptor's type and data. The
  * data is ay (bytes), a(uv) (a list) or a(u(uv)) (a record).
@@ -28,22 +28,22 @@ inline constexpr auto kCoercionFail = "org.quorvia.AppleEvents.Error.CoercionFai
 /** Signature of the method's arguments. */
 inline constexpr auto kSendSignature = "uua(u(uv))";
 
-/** Deepest nesting of lists and records; a parameter's own descriptor is at depth 1. */
+/** Maximum nesting of lists and records; a parameter's own descriptor is at depth 1. */
 inline constexpr int kMaxDepth = 8;
 
-/** Most entries of one parameter list, list or record. */
+/** Maximum number of entries of a parameter list, list or record. */
 inline constexpr std::size_t kMaxItems = 4096;
 
 /**
- * The bus name of the application with that signature. Characters that a bus name cannot hold are
- * the reason to write the whole code as "_x" and eight hex digits.
+ * The bus name of the application with that signature. If a bus name cannot contain its characters,
+ * the code is written as "_x" and eight hex digits.
  */
 QString busName(FourCharCode signature);
 
-/** The parameter list as an argument of a D-Bus message. */
+/** Encodes a parameter list as an argument of a D-Bus message. */
 QVariant encode(const AERecord& parameters);
 
-/** The parameter list of a D-Bus message's argument; nothing when it is malformed. */
+/** Decodes a parameter list from an argument of a D-Bus message; nothing if it is malformed. */
 std::optional<AERecord> decode(const QVariant& argument);
 
 } // namespace platform::wire

@@ -104,7 +104,7 @@ AppleEvents& events()
     if (AppleEvents* const replaced = ServiceScope<AppleEvents>::current()) {
         return *replaced;
     }
-    // The connection has to go before the application object, on whose thread it lives.
+    // The connection must be destroyed before the application object, since it lives on its thread.
     static std::unique_ptr<DBusAppleEvents> service;
     if (!service) {
         service = std::make_unique<DBusAppleEvents>();

@@ -16,9 +16,8 @@
  * @file
  * Events between applications: descriptors, events, sending and handling.
  *
- * Descriptors, lists, records and events are values: what they hold goes with them. Every step
- * answers an OSErr, and a service that a test puts in place can make each step fail. Everything
- * runs on the main thread.
+ * Descriptors, lists, records and events are values and own their data. Every step returns an
+ * OSErr, and a test's replacement service can make each step fail. Main thread only.
  */
 namespace platform {
 
@@ -27,10 +26,10 @@ using OSErr = std::int16_t;
 
 inline constexpr OSErr noErr = 0;
 inline constexpr OSErr procNotFound = -600; ///< the addressed application is not running
-inline constexpr OSErr connectionInvalid = -609; ///< there is no way to the application
-inline constexpr OSErr errAECoercionFail = -1700; ///< data of another type or form
+inline constexpr OSErr connectionInvalid = -609; ///< the application cannot be reached
+inline constexpr OSErr errAECoercionFail = -1700; ///< data of a wrong type or form
 inline constexpr OSErr errAEDescNotFound = -1701; ///< no such parameter
-inline constexpr OSErr errAEEventNotHandled = -1708; ///< nobody handles the event
+inline constexpr OSErr errAEEventNotHandled = -1708; ///< there is no handler for the event
 inline constexpr OSErr errAETimeout = -1712; ///< no answer in time
 inline constexpr OSErr errAEHandlerNotFound = -1717; ///< no such handler is installed
 
@@ -51,7 +50,7 @@ consteval FourCharCode fourCharCode(const char (&text)[5]) // NOLINT(*-avoid-c-a
     return code;
 }
 
-/** The code as people write it: its characters in single quotes, others than ASCII as "?". */
+/** The code in readable form: its characters in single quotes, with "?" for non-ASCII ones. */
 QByteArray quoted(FourCharCode code);
 
 inline constexpr DescType typeNull = fourCharCode("null"); ///< no data
@@ -59,14 +58,14 @@ inline constexpr DescType typeType = fourCharCode("type"); ///< a four-character
 inline constexpr DescType typeEnumerated = fourCharCode("enum"); ///< a four-character code
 inline constexpr DescType typeLongInteger = fourCharCode("long"); ///< 32-bit signed integer
 inline constexpr DescType typeUTF8Text = fourCharCode("utf8");
-inline constexpr DescType typeAEList = fourCharCode("list"); ///< descriptors in their order
+inline constexpr DescType typeAEList = fourCharCode("list"); ///< descriptors in order
 inline constexpr DescType typeObjectSpecifier = fourCharCode("obj "); ///< a record, see below
 inline constexpr DescType typeApplSignature = fourCharCode("sign"); ///< address: a signature
 inline constexpr DescType typeBusName = fourCharCode("busn"); ///< address: a D-Bus name
 
 inline constexpr AEKeyword keyDirectObject = fourCharCode("----");
 inline constexpr AEKeyword keyAERequestedType = fourCharCode("rtyp");
-inline constexpr AEKeyword keyErrorString = fourCharCode("errs"); ///< why an event was refused
+inline constexpr AEKeyword keyErrorString = fourCharCode("errs"); ///< why an event was rejected
 
 /** The entries of an object specifier, in this order. */
 inline constexpr AEKeyword keyAEDesiredClass = fourCharCode("want");
@@ -90,8 +89,8 @@ inline constexpr AESendPriority kAEHighPriority = 1;
 inline constexpr std::int32_t kTicksPerSecond = 60;
 
 /**
- * Notifications, without an object: the application whose events are accepted has come, or says
- * that it would now answer otherwise; an event that was sent without a reply was taken, or was not.
+ * Notifications, without an object: the application whose events are accepted has appeared, or its
+ * answers have changed; an event that was sent without a reply was accepted, or was not.
  */
 inline constexpr QLatin1String kSourceChangedNotification("kSourceChangedNotification");
 inline constexpr QLatin1String kEventTakenNotification("kEventTakenNotification");
@@ -107,7 +106,7 @@ struct AEDesc {
     DescType type = typeNull;
     std::variant<QByteArray, AEList, AERecord> data;
 
-    /** The bytes; null for a list or a record. */
+    /** Returns the bytes; null for a list or a record. */
     const QByteArray* bytes() const { return std::get_if<QByteArray>(&data); }
 };
 
@@ -117,47 +116,46 @@ struct AEKeyDesc {
     AEDesc desc;
 };
 
-/** The first descriptor under the keyword; null where there is none. */
+/** Returns the first descriptor with the keyword; null if there is none. */
 const AEDesc* find(const AERecord& record, AEKeyword keyword);
 
 /** An event or a reply. */
 struct AppleEvent {
     AEEventClass eventClass = 0;
     AEEventID eventID = 0;
-    AEDesc address; ///< of an event to send: the receiver; of one that arrived: the sender
+    AEDesc address; ///< the receiver of an event to send, the sender of one that arrived
     AERecord parameters;
 };
 
-/** Bytes of a plain value, as they lie in memory. */
+/** The bytes of a plain value, as in memory. */
 template <class Value>
 std::span<const std::byte> bytesOf(const Value& value)
 {
     return std::as_bytes(std::span(&value, 1));
 }
 
-/** The service. Steps that only make or read values work without a connection. */
+/** The service. Steps that only create or read values work without a connection. */
 class AppleEvents {
 public:
     /**
-     * Handles one event. An error goes back to the sender; a text under keyErrorString of the reply
-     * then says why.
+     * Handles one event. An error is sent back to the sender, with the text of keyErrorString in
+     * the reply as the reason.
      *
-     * The sender has its answer when the handler returns. Where a handler runs the event loop, as
-     * for an alert, the sender has it from then on: the reply as it is at that moment, and no
-     * error.
+     * The answer is sent when the handler returns. If a handler runs the event loop, such as for an
+     * alert, it is sent then: the reply as it is at that moment, and no error.
      */
     using Handler = std::function<OSErr(const AppleEvent& event, AppleEvent& reply)>;
 
     virtual ~AppleEvents() = default;
 
-    /** Makes a descriptor of plain data, an address among them. */
+    /** Creates a descriptor of plain data, such as an address. */
     virtual OSErr createDesc(DescType type, std::span<const std::byte> data, AEDesc& result);
 
-    /** Makes an event without parameters. */
+    /** Creates an event without parameters. */
     virtual OSErr createAppleEvent(
         AEEventClass eventClass, AEEventID eventID, const AEDesc& target, AppleEvent& result);
 
-    /** Makes an object specifier; takes its inputs. */
+    /** Creates an object specifier; consumes its inputs. */
     virtual OSErr createObjSpecifier(
         DescType desiredClass, AEDesc container, DescType keyForm, AEDesc keyData, AEDesc& result);
 
@@ -166,8 +164,8 @@ public:
         AppleEvent& event, AEKeyword keyword, DescType type, std::span<const std::byte> data);
 
     /**
-     * Copies a parameter's bytes, at most as many as the buffer holds. A parameter of another type
-     * than the wanted one is errAECoercionFail; the buffer is then left alone.
+     * Copies a parameter's bytes, up to the buffer's size. A parameter of a different type gives
+     * errAECoercionFail, and the buffer is not changed.
      */
     virtual OSErr getParamPtr(const AppleEvent& event, AEKeyword keyword, DescType wanted,
         std::span<std::byte> buffer) const;
@@ -175,10 +173,10 @@ public:
     /**
      * Sends the event.
      *
-     * With a reply to fill, waits for it without running the user interface, for at most the
-     * time-out. Without one, the event is queued behind those sent before, the caller goes on at
-     * once, and the time-out only bounds the call on the bus; what became of it shows in
-     * finishSends(), and is posted as a notification.
+     * With a reply to fill, waits for it up to the time-out, without running the event loop.
+     * Without one, queues the event behind those sent before and returns at once; the time-out then
+     * only limits the call on the bus, and the outcome is reported by finishSends() and a
+     * notification.
      *
      * @param timeOut in ticks
      */
@@ -188,23 +186,23 @@ public:
     /**
      * Waits until every event sent without a reply has been answered or has timed out.
      *
-     * @return the error of the latest one that failed since the last call
+     * @return the latest error since the last call
      */
     virtual OSErr finishSends() = 0;
 
-    /** Installing again replaces the previous handler. */
+    /** Installs a handler, replacing the previous one. */
     virtual OSErr installEventHandler(
         AEEventClass eventClass, AEEventID eventID, Handler handler) = 0;
     virtual OSErr removeEventHandler(AEEventClass eventClass, AEEventID eventID) = 0;
 
     /**
-     * Lets the application with that signature, and nobody else, send events to this process. Until
-     * then everybody is refused.
+     * Accepts events only from the application with that signature. Before this call, all events
+     * are rejected.
      */
     virtual void acceptEventsFrom(FourCharCode signature) = 0;
 };
 
-/** The session's events, or what a ServiceScope<AppleEvents> has put in their place. */
+/** Returns the session's events, or their replacement by a ServiceScope<AppleEvents>. */
 AppleEvents& events();
 
 } // namespace platform

@@ -16,13 +16,13 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcBundle, "org.quorvia.tablet.bundle", QtInfoMsg)
 
-/** What the texts in the sources are in. */
+/** The language of the texts in the sources. */
 QString sourceLanguage()
 {
     return QStringLiteral("en");
 }
 
-/** The user's languages, best first, each followed by what it is a variant of: de-AT, de. */
+/** The user's languages, best first, each followed by its base language: de-AT, de. */
 QStringList preferredLanguages()
 {
     QStringList languages;
@@ -39,7 +39,7 @@ QStringList preferredLanguages()
     return languages;
 }
 
-/** The strings of a table; none, with a line in the log, where it cannot be used. */
+/** The strings of a table; if it cannot be used, none, with a message in the log. */
 QHash<QString, QString> readTable(const std::optional<QString>& path)
 {
     QHash<QString, QString> strings;
@@ -63,7 +63,7 @@ QHash<QString, QString> readTable(const std::optional<QString>& path)
 } // namespace
 
 struct Bundle::Tables {
-    /** By their languages and names; empty where there is none, or none that can be used. */
+    /** The tables by language and name; empty if there is none, or it cannot be used. */
     QHash<QString, QHash<QString, QString>> strings;
 };
 

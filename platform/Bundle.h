@@ -14,11 +14,11 @@ namespace platform {
  * A folder of resources: files by name and type, and localized string tables.
  *
  * A string table is the file <language>.lproj/<table>.strings, a property list with one dictionary
- * of strings. The user's preferred languages are those of the desktop's settings, best first. A
- * folder's language is written as in these: de, pt-BR, or zh-Hans, which serves Chinese in all
- * places that write it in simplified characters, and no other.
+ * of strings. The user's preferred languages come from the desktop's settings, best first. A folder
+ * is named after its language, as in these: de, pt-BR, or zh-Hans, which serves all places that
+ * write Chinese in simplified characters, and no others.
  *
- * A string table is read once, when its first string is asked for; the copies of a bundle share it.
+ * A string table is read once, when its first string is requested; copies of a bundle share it.
  */
 class Bundle {
 public:
@@ -29,25 +29,25 @@ public:
 
     const QString& folder() const { return mFolder; }
 
-    /** Path of the file name.type, capitals as given; nothing where there is none. */
+    /** The path of the file name.type, case-sensitive; nothing if there is none. */
     std::optional<QString> pathForResource(const QString& name, const QString& type) const;
 
     /**
-     * The user's best language for which the bundle has a folder, for instance "de". It is "en"
-     * where there is none, and where English comes first, which is the language of the texts in
-     * the sources and needs no folder.
+     * The best of the user's languages for which the bundle has a folder, such as "de". It is "en"
+     * if there is none, and if English comes first, which is the language of the sources and needs
+     * no folder.
      */
     QString preferredLocalization() const;
 
     /**
-     * Path of the file name.type of the preferred localization; nothing where its folder has no
+     * The path of the file name.type of the preferred localization; nothing if its folder has no
      * such file.
      */
     std::optional<QString> pathForLocalizedResource(const QString& name, const QString& type) const;
 
     /**
-     * The string under the key, in the best language whose table has it, English last. Where none
-     * has it: the value, or, when that is empty, the key itself.
+     * The string for the key, in the best language whose table has it, English last. If none has
+     * it, the value or, if that is empty, the key itself.
      */
     QString localizedString(const QString& key, const QString& value, const QString& table) const;
 
@@ -55,7 +55,7 @@ private:
     struct Tables;
 
     QString mFolder;
-    std::shared_ptr<Tables> mTables; ///< those that have been read
+    std::shared_ptr<Tables> mTables; ///< the tables read so far
 };
 
 } // namespace platform

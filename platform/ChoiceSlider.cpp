@@ -12,7 +12,7 @@ namespace platform {
 
 namespace {
 
-/** What Qt's own slider is to screen readers, but that what they set is a choice. */
+/** Like the interface of Qt's own slider, except that setting a value is a choice. */
 class SliderInterface final : public QAccessibleWidget, public QAccessibleValueInterface {
 public:
     explicit SliderInterface(QWidget* slider)
@@ -48,7 +48,7 @@ ChoiceSlider::ChoiceSlider(QWidget* parent)
     , Accessible(static_cast<QWidget&>(*this), QAccessible::Slider)
 {
     ignoreWheelWithoutFocus(*this);
-    // Both come before the value changes, where it does.
+    // Both are emitted before the value changes, if it does.
     connect(this, &QSlider::actionTriggered, this, &ChoiceSlider::tellUnlessStored);
     connect(this, &QSlider::sliderReleased, this, &ChoiceSlider::tellUnlessStored);
 }

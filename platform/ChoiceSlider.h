@@ -11,10 +11,10 @@
 namespace platform {
 
 /**
- * A slider for a setting that may be what no slider shows: it stands at its end then, and just that
- * end could not be chosen, since the slider's value would not change. Here a click, a key or a
- * screen reader chooses the value at which the slider stands already, too: where the setting is
- * another, valueChanged() tells it.
+ * A slider for a setting that may be out of its range. It then shows the nearest end, which a
+ * normal slider could not choose, since its value would not change. Here, a click, a key or a
+ * screen reader can choose the current value, too: if the setting differs, valueChanged() is
+ * emitted.
  *
  * The wheel does nothing without the focus.
  */
@@ -24,9 +24,9 @@ class ChoiceSlider final : public QSlider, public Accessible {
 public:
     explicit ChoiceSlider(QWidget* parent = nullptr);
 
-    /** Connects what says whether a value of the slider's is what the setting is. */
+    /** Sets the function that says whether a value of the slider is that of the setting. */
     void setStored(std::function<bool(int value)> isStored);
-    /** As setValue(), but the user's choice. */
+    /** Like setValue(), but as the user's choice. */
     void choose(int value);
 
     QAccessibleInterface* newInterface() override;

@@ -40,7 +40,7 @@ QDBusMessage methodCall(const AppleEvent& event, const QString& destination)
     return call;
 }
 
-/** Where an address leads to on the bus; empty for an address of no known kind. */
+/** The bus name of an address; empty for an unknown kind of address. */
 QString destination(const AEDesc& address)
 {
     const QByteArray* const bytes = address.bytes();
@@ -65,7 +65,7 @@ OSErr errorCode(const QDBusMessage& error)
         return errAECoercionFail;
     }
     if (name.startsWith(QLatin1String("org.freedesktop.DBus.Error.Spawn."))) {
-        return procNotFound; // the bus tried to start it
+        return procNotFound; // the bus has tried to start it
     }
     switch (QDBusError(error).type()) {
     case QDBusError::NoReply:
@@ -93,12 +93,12 @@ std::chrono::milliseconds milliseconds(std::int32_t ticks)
     return std::chrono::milliseconds(std::int64_t{ticks} * 1000 / kTicksPerSecond);
 }
 
-/** How long a listener waits for a bus that hangs. */
+/** How long installing a handler waits for a bus that hangs. */
 constexpr std::chrono::milliseconds kListenLimit{250};
 
 } // namespace
 
-/** The object on the bus, and everything that lives as long as one connection. */
+/** The object on the bus, and everything with the lifetime of a connection. */
 class DBusAppleEvents::Private final : public QDBusVirtualObject {
     Q_OBJECT
 
@@ -111,7 +111,7 @@ public:
 
     bool isConnected() const { return mConnection && mConnection->isConnected(); }
 
-    /** The connection; made anew where there is none, as long as that takes. */
+    /** The connection; opens a new one if there is none, without a time limit. */
     QDBusConnection& connection()
     {
         if (!isConnected()) {
@@ -120,7 +120,7 @@ public:
         return *mConnection;
     }
 
-    /** The connection; null where there is none, or none answers within the limit. */
+    /** The connection; null if there is none, or the bus does not answer within the limit. */
     QDBusConnection* connectionWithin(std::chrono::milliseconds limit)
     {
         if (!isConnected() && !sessionBusAnswers(limit)) {
@@ -151,7 +151,7 @@ public:
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override
     {
-        // A caller need not name the interface.
+        // The interface is optional in a call.
         if (!call.interface().isEmpty() && call.interface() != QLatin1String(wire::kInterface)) {
             return false;
         }
@@ -168,8 +168,8 @@ public:
     std::map<std::pair<AEEventClass, AEEventID>, Handler> mHandlers;
     std::deque<QDBusPendingCallWatcher*> mPending;
     OSErr mLastError = noErr;
-    std::optional<FourCharCode> mSource; ///< whose events are taken
-    bool mIsApplication = false; ///< everybody's events are taken
+    std::optional<FourCharCode> mSource; ///< the only sender that is accepted
+    bool mIsApplication = false; ///< all senders are accepted
 
     void watchSource()
     {
@@ -203,8 +203,8 @@ public:
                 {}});
         if (watcher->isError()) {
             mLastError = errorCode(watcher->reply());
-            // The sender has gone on long ago. Whether nobody listened is not its concern, so this
-            // is for those who look for it.
+            // The sender has long continued and does not care, so this is only logged for
+            // debugging.
             qCDebug(
                 lcEvents, "an event was not taken: %s", qUtf8Printable(watcher->error().message()));
         }
@@ -281,8 +281,8 @@ private:
             return;
         }
         AppleEvent reply;
-        // A handler that asks the user something runs the event loop, perhaps for minutes. Then the
-        // event is answered from there.
+        // A handler that asks the user something may run the event loop for minutes. Then the event
+        // is answered from there.
         bool isAnswered = false;
         QObject whileItAsks;
         QMetaObject::invokeMethod(
@@ -309,7 +309,7 @@ private:
         answer(call, bus, call.createReply(wire::encode(reply.parameters)));
     }
 
-    /** Logs the first refusal of each sender, so that nobody can flood the log. */
+    /** Logs only the first rejection of each sender, so that nobody can flood the log. */
     void logRefusal(const QString& sender, const char* what)
     {
         if (!mRefused.contains(sender) && mRefused.size() < kMaxRefused) {
@@ -327,7 +327,7 @@ private:
             return false;
         }
         if (!mOwner) {
-            // A call may have come in before the connection went.
+            // A call may have arrived before the connection was lost.
             QDBusConnectionInterface* const bus = mConnection ? mConnection->interface() : nullptr;
             if (bus == nullptr) {
                 return false;
@@ -337,12 +337,12 @@ private:
         return !sender.isEmpty() && sender == *mOwner;
     }
 
-    static constexpr int kMaxRefused = 64; ///< log lines that strangers can cause
+    static constexpr int kMaxRefused = 64; ///< maximum of log lines about strangers
 
     QString mName;
     std::optional<QDBusConnection> mConnection;
     std::unique_ptr<QDBusServiceWatcher> mWatcher;
-    std::optional<QString> mOwner; ///< who owns the source's name; nothing until somebody asks
+    std::optional<QString> mOwner; ///< the owner of the source's name; nothing until it is needed
     QSet<QString> mRefused;
 };
 
@@ -356,7 +356,7 @@ DBusAppleEvents::~DBusAppleEvents() = default;
 OSErr DBusAppleEvents::send(const AppleEvent& event, AppleEvent* reply, AESendMode mode,
     AESendPriority priority, std::int32_t timeOut)
 {
-    // The bus knows no priorities, and every event here waits for a reply.
+    // The bus has no priorities, and every event expects a reply.
     static_cast<void>(mode);
     static_cast<void>(priority);
 
@@ -427,7 +427,7 @@ void DBusAppleEvents::acceptEventsFrom(FourCharCode signature)
     const bool wasConnected = d->isConnected();
     if (d->connectionWithin(kListenLimit) != nullptr) {
         if (wasConnected) {
-            d->watchSource(); // a new connection does so by itself
+            d->watchSource(); // a new connection does so itself
         }
     } else {
         qCWarning(lcEvents, "no session bus: %s", qUtf8Printable(d->lastError()));

@@ -13,12 +13,12 @@
 namespace platform {
 
 /**
- * Events over the D-Bus session bus, on a connection of its own, made when it is first needed and
- * made again after it was lost.
+ * Events over the D-Bus session bus, on a connection of its own that is opened when it is first
+ * needed and reopened when it is lost.
  *
- * A send's time-out bounds the connecting, too: a bus that hangs is found out before. Only one that
- * stops just between its first answer and the connection's last step holds the caller for longer,
- * for the 25 seconds of the bus library.
+ * A send's time-out includes the time to connect: a bus that hangs is detected first. Only a bus
+ * that stops between its first answer and the last step of the connection blocks the caller for
+ * longer: for the 25 seconds of the bus library.
  */
 class DBusAppleEvents final : public AppleEvents {
 public:
@@ -33,16 +33,17 @@ public:
     void acceptEventsFrom(FourCharCode signature) override;
 
     /**
-     * Becomes the application with that signature, to which everybody on the bus may send events.
-     * Fails without a bus, or if another program has the name.
+     * Registers this process as the application with that signature, to which all programs on the
+     * bus may send events. Fails without a bus, or if another program has the name.
      */
     Result<> registerApplication(FourCharCode signature);
 
-    /** Tells who accepts this application's events that it would now answer otherwise than before.
+    /**
+     * Announces to programs that accept this application's events that its answers have changed.
      */
     void announceChange();
 
-    /** The connection to the session bus; not connected when there is none. */
+    /** The connection to the session bus; disconnected if there is no bus. */
     QDBusConnection connection();
 
 private:

@@ -34,16 +34,16 @@ std::optional<double> listedFactor(const QString& list, const QString& name, qsi
 }
 
 /**
- * The window system's units in one of Qt's, on that screen. Wherever Qt is told to scale, it
- * divides a screen's size, and leaves the origin in the window system's units.
+ * The window system's units per unit of Qt on a screen. If Qt is configured to scale, it divides
+ * the screen's size, but leaves the origin in the window system's units.
  */
 double unitsPerPoint(const QScreen& screen)
 {
     if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
         return screen.devicePixelRatio();
     }
-    // There that counts the compositor's scaling too, which its units know already. What Qt does
-    // besides comes from the environment alone.
+    // On Wayland, this includes the compositor's scaling, which its units already contain. Any
+    // other scaling by Qt comes from the environment.
     bool isNumber = false;
     const double all = qEnvironmentVariable("QT_SCALE_FACTOR").toDouble(&isNumber);
     const double one = listedFactor(qEnvironmentVariable("QT_SCREEN_SCALE_FACTORS"), screen.name(),
@@ -53,8 +53,8 @@ double unitsPerPoint(const QScreen& screen)
 }
 
 /**
- * The length in the window system's units that Qt has divided by the factor and rounded. Of those
- * that it may have been, the one that is divisible by two most often: lengths of displays are.
+ * The length in the window system's units that Qt has divided by the factor and rounded. Of the
+ * possible ones, the one most often divisible by two, as the sizes of displays are.
  */
 double unitsIn(int points, double factor)
 {
@@ -134,7 +134,7 @@ public:
     }
 
 private:
-    /** A command without windows has no application object that knows screens. */
+    /** A command without windows has no application object with screens. */
     static bool hasWindowSystem()
     {
         return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
@@ -191,7 +191,7 @@ QRect windowGeometry(const Rect& part)
             screen = other;
         }
     }
-    // From the screen's corner, which is the same in both.
+    // Relative to the screen's corner, which is the same in both.
     const Rect bounds = screenBounds(*screen);
     const double factor = unitsPerPoint(*screen);
     const auto scaled = [factor](double length) {

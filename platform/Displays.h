@@ -16,20 +16,20 @@
  * The displays of the desktop, in the order in which the desktop lists them.
  *
  * Global display coordinates have their origin at the upper left corner of the main display, with y
- * growing downwards. A point is the window system's own unit, in which it places displays: on X11 a
- * pixel of the X screen, on Wayland a logical pixel of the compositor. So displays that lie beside
- * each other touch, however each of them is scaled.
+ * growing downwards. A point is the unit in which the window system arranges displays: on X11 a
+ * pixel of the X screen, on Wayland a logical pixel of the compositor. So adjacent displays touch,
+ * however each of them is scaled.
  */
 class QScreen;
 
 namespace platform {
 
-/** Names an active display until the displays change. */
+/** Identifies an active display until the displays change. */
 using DisplayID = std::uint32_t;
 
-/** The flag of the notice that displays begin to change; every other notice says that they have. */
+/** The flag of a notification that displays are about to change; all others mean that they have. */
 inline constexpr std::uint32_t kDisplayBeginConfiguration = 1;
-/** The flag of the notice that they have changed. */
+/** The flag of a notification that displays have changed. */
 inline constexpr std::uint32_t kDisplaySetMode = 8;
 
 /** Main thread only. */
@@ -40,13 +40,13 @@ public:
     /** How many displays are active; nothing when the window system does not tell. */
     virtual std::optional<std::uint32_t> activeDisplayCount() const = 0;
 
-    /** The active displays; nothing when the window system does not tell. */
+    /** The active displays; nothing if the window system does not know. */
     virtual std::optional<std::vector<DisplayID>> activeDisplays() const = 0;
 
-    /** A display's place and size in global display coordinates; empty for an unknown display. */
+    /** A display's rectangle in global display coordinates; empty for an unknown display. */
     virtual Rect bounds(DisplayID display) const = 0;
 
-    /** Whether it is the main display, at whose upper left corner the coordinates begin. */
+    /** Whether it is the main display, whose upper left corner is the origin. */
     virtual bool isMain(DisplayID display) const = 0;
 
 Q_SIGNALS:
@@ -57,18 +57,18 @@ Q_SIGNALS:
     void reconfigured(DisplayID display, std::uint32_t flags);
 };
 
-/** A screen's place and size in global display coordinates. */
+/** A screen's rectangle in global display coordinates. */
 Rect screenBounds(const QScreen& screen);
 
 /**
- * The geometry with which a window covers a part of the desktop, which is scaled where the screen
- * is on which its middle lies.
+ * The geometry with which a window covers a part of the desktop, scaled for the screen that
+ * contains its middle.
  *
  * @param part in global display coordinates
  */
 QRect windowGeometry(const Rect& part);
 
-/** The desktop's displays, or what a ServiceScope<Displays> has put in their place. */
+/** Returns the desktop's displays, or their replacement by a ServiceScope<Displays>. */
 Displays& displays();
 
 } // namespace platform

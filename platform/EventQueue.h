@@ -43,8 +43,8 @@ public:
     void handOver();
 
     /**
-     * The next event of the types in the mask; what is of no such type stays, and is not passed by
-     * when it is a press or a release.
+     * Takes the next event whose type is in the mask. Others stay in the queue; a press or a
+     * release is never skipped.
      */
     [[nodiscard]] std::optional<Event> nextEventMatchingMask(std::uint32_t mask);
 

@@ -14,7 +14,7 @@ namespace platform {
 
 namespace {
 
-/** The text's size for which an interface file is drawn: ten points at 96 dots to the inch. */
+/** The text size of the interface files: ten points at 96 dots per inch. */
 constexpr double kUsualPixels = 13.0;
 
 } // namespace

@@ -7,7 +7,7 @@ class QWidget;
 
 namespace platform {
 
-/** A rectangle; each use says in which coordinates. */
+/** A rectangle; the coordinate system depends on its use. */
 struct Rect {
     double x = 0;
     double y = 0;
@@ -18,23 +18,23 @@ struct Rect {
 };
 
 /**
- * Pixels in a point that grows with the user's text size: one at the usual size and below, two with
+ * Pixels per point, which grows with the user's text size: 1 at the usual size and below, 2 with
  * text twice as large.
  */
 double pixelsPerPoint(const QFont& font);
 
 /**
- * Where a control stands in its parent, in points. The origin is the parent's lower left corner,
- * and y grows upwards to the control's lower edge: y = parent height - (top + height). A point is a
- * pixel of the parent's, in a PointCanvas what that says, which also mirrors where the language
- * asks for it.
+ * A control's rectangle in its parent, in points. The origin is the parent's lower left corner, and
+ * y grows upwards to the control's lower edge: y = parent height - (top + height). A point is a
+ * pixel of the parent; in a PointCanvas, it is the canvas's own point, mirrored in right-to-left
+ * languages.
  */
 Rect frame(const QWidget& control);
 
-/** Puts the control there. A control without a parent is left alone. */
+/** Moves the control to the rectangle. A control without a parent is not changed. */
 void setFrame(QWidget& control, const Rect& frame);
 
-/** Gives the control the size that its contents ask for; its lower left corner stays. */
+/** Resizes the control to fit its contents; its lower left corner stays. */
 void sizeToFit(QWidget& control);
 
 } // namespace platform

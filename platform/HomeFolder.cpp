@@ -16,7 +16,7 @@ std::string homeFolder()
     if (const char* const home = std::getenv("HOME"); home != nullptr && *home != '\0') {
         return home;
     }
-    // NOLINTNEXTLINE(concurrency-mt-unsafe): called on the main thread alone
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): called only on the main thread
     const passwd* const user = ::getpwuid(::getuid());
     return user == nullptr || user->pw_dir == nullptr ? std::string() : user->pw_dir;
 }

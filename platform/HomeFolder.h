@@ -8,9 +8,9 @@
 namespace platform {
 
 /**
- * The path with a leading "~" replaced by the user's home folder: HOME where it is set and not
- * empty, else the folder of the password database. Another path, and one for whose "~" no folder is
- * known, comes back as it is.
+ * Replaces a leading "~" of the path by the user's home folder: HOME if it is set and not empty, or
+ * else the folder in the password database. Any other path, or one whose home folder is not known,
+ * is returned unchanged.
  */
 std::string expandTilde(std::string_view path);
 

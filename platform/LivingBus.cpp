@@ -22,7 +22,7 @@ namespace platform {
 
 namespace {
 
-/** The addresses at which the bus is looked for, in their order. */
+/** The addresses of the bus to try, in order. */
 QByteArrayList addresses()
 {
     const QByteArray given = qgetenv("DBUS_SESSION_BUS_ADDRESS");
@@ -33,7 +33,9 @@ QByteArrayList addresses()
     return folder.isEmpty() ? QByteArrayList() : QByteArrayList{"unix:path=" + folder + "/bus"};
 }
 
-/** The socket's name, a NUL before one that is no file; nothing for an address of another kind. */
+/**
+ * The socket's name, with a leading NUL for an abstract one; nothing for other kinds of addresses.
+ */
 std::optional<QByteArray> socketName(const QByteArray& address)
 {
     static constexpr char kUnix[] = "unix:"; // NOLINT(*-avoid-c-arrays): a literal
@@ -62,10 +64,10 @@ bool waitFor(const Descriptor& socket, short events, const QDeadlineTimer& deadl
     return ready > 0;
 }
 
-/** Introduces itself, and waits for whatever the bus says to that. */
+/** Starts the authentication, and waits for any answer. */
 bool isAnswered(const Descriptor& socket, const QDeadlineTimer& deadline)
 {
-    // The bus knows the user from the socket; the name is in hexadecimal digits.
+    // The bus gets the user from the socket; the ID is sent in hexadecimal.
     const QByteArray words = '\0' + QByteArrayLiteral("AUTH EXTERNAL ")
         + QByteArray::number(::getuid()).toHex() + "\r\n";
     const auto size = static_cast<std::size_t>(words.size());
@@ -94,7 +96,7 @@ bool sessionBusAnswers(std::chrono::milliseconds limit)
             return isAnswered(socket, deadline);
         }
         if (errno == EAGAIN) {
-            return false; // it has not taken those who came before
+            return false; // its backlog is full
         }
     }
     return true;

@@ -7,15 +7,15 @@
 namespace platform {
 
 /**
- * Whether a connection to the session bus can be made without waiting long: asks it over a socket
- * of its own for the first step of a connection.
+ * Whether the session bus responds, so that connecting will not block for long: tries the first
+ * step of a connection on a separate socket.
  *
- * Connecting itself has no time-out that can be set; to a bus that hangs it takes 25 seconds, in
- * which all of the process's connections stand still.
+ * The time-out of the connection itself cannot be set; if the bus hangs, it takes 25 seconds and
+ * blocks all connections of the process.
  *
- * @param limit waits at most so long for the answer
- * @return false for a bus that takes connections and does not answer. True where there is no bus,
- *     which connecting tells at once, and where the bus is not reached over a Unix socket.
+ * @param limit the maximum time to wait for the answer
+ * @return false if the bus accepts connections but does not answer; true if there is no bus, since
+ *     connecting then fails at once, or if its address is not a Unix socket
  */
 bool sessionBusAnswers(std::chrono::milliseconds limit);
 

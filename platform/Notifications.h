@@ -13,16 +13,16 @@
 
 /**
  * @file
- * Notices within the process: whoever has something to tell posts it under a name, and whoever
- * wants to know is told. Main thread only.
+ * Notifications within the process: they are posted under a name, to all observers of that name.
+ * Main thread only.
  */
 namespace platform {
 
 struct Notification {
     QString name;
-    const QObject* object = nullptr; ///< who posts it
+    const QObject* object = nullptr; ///< the sender
     QHash<QString, std::shared_ptr<const Event>> userInfo;
-    QString text = {}; ///< why something failed, for people; empty when nothing did
+    QString text = {}; ///< why something failed, for the user; empty on success
 };
 
 /** Main thread only. */
@@ -32,17 +32,17 @@ class NotificationCenter final : public QObject {
 public:
     using Observer = std::function<void(const Notification&)>;
 
-    /** Tells the observer of everything under that name, for as long as its owner lives. */
+    /** Calls the observer for each notification with that name, for the lifetime of its owner. */
     void addObserver(const QObject& owner, const QString& name, Observer observer) const;
 
-    /** Tells all observers of the name, in the order in which they came, before it returns. */
+    /** Calls all observers of the name, in the order of registration, before it returns. */
     void post(const Notification& notification);
 
 Q_SIGNALS:
     void posted(const platform::Notification& notification);
 };
 
-/** The process's one. */
+/** Returns the process's only instance. */
 NotificationCenter& notifications();
 
 } // namespace platform

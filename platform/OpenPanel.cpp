@@ -25,8 +25,8 @@ bool isBundle(const QFileInfo& file)
 }
 
 /**
- * A dialog for a file, in which a bundle is one: whoever enters it, by a double click or by its
- * name, has chosen it. Any other folder is opened.
+ * A file dialog in which a bundle counts as a file: entering it, by a double click or by its name,
+ * chooses it. Any other folder is opened.
  */
 class ApplicationDialog final : public QFileDialog {
 public:
@@ -44,10 +44,10 @@ public:
         });
     }
 
-    /** The file that was chosen, or the bundle. */
+    /** The chosen file or bundle. */
     QString chosen() const { return mBundle.isEmpty() ? selectedFiles().value(0) : mBundle; }
 
-    /** Shows it until something was chosen, or nothing shall be. */
+    /** Shows the dialog until the user has chosen something or cancelled. */
     int exec() override
     {
         mBundle.clear();
@@ -79,7 +79,7 @@ class DesktopOpenPanel final : public OpenPanel {
 public:
     std::optional<QString> chooseApplication(QWidget* parent) override
     {
-        // The parent may end before the user is done, and takes the dialog with it.
+        // The parent may be destroyed, and the dialog with it, before the user is done.
         //: Title of the dialog.
         const QPointer<ApplicationDialog> dialog = new ApplicationDialog(
             parent, QCoreApplication::translate("OpenPanel", "Choose an application"));
@@ -88,8 +88,8 @@ public:
         bool goesOn = true;
         while (goesOn && dialog->exec() == QDialog::Accepted && !dialog.isNull()) {
             path = applicationOf(dialog->chosen());
-            // A name that was typed in passes the filter. Whoever closes the message from outside,
-            // because what the file was for has gone, wants no other file.
+            // A typed name bypasses the filter. If the message is closed by the program, because
+            // the file is no longer needed, do not ask again.
             goesOn = !path && tellOfNoApplication(dialog) && !dialog.isNull();
         }
         delete dialog;
@@ -97,7 +97,7 @@ public:
     }
 
 private:
-    /** Gives whether the user has closed the message. */
+    /** Returns whether the user has closed the message. */
     static bool tellOfNoApplication(QWidget* dialog)
     {
         const QPointer<QMessageBox> message = new QMessageBox(QMessageBox::Information,
@@ -106,12 +106,12 @@ private:
                 "This is not an application: choose a desktop entry, an AppImage or an application "
                 "bundle."),
             QMessageBox::Ok, dialog);
-        const bool isRead = message->exec() != QDialog::Rejected; // which no button here stands for
+        const bool isRead = message->exec() != QDialog::Rejected; // no button has this result
         delete message;
         return isRead;
     }
 
-    /** The file's full path, links followed; nothing when it is no application. */
+    /** The file's full path, with links resolved; nothing if it is not an application. */
     static std::optional<QString> applicationOf(const QString& file)
     {
         static const QStringList kTypes{
@@ -121,11 +121,11 @@ private:
             return std::nullopt;
         }
         const QString resolved = info.canonicalFilePath();
-        // A file that has vanished meanwhile has no canonical path.
+        // A file that has been deleted meanwhile has no canonical path.
         return resolved.isEmpty() ? file : resolved;
     }
 
-    /** Where this desktop keeps its applications: the system's before the user's own. */
+    /** The folder of applications: the system's, or else the user's own. */
     static QString applicationsFolder()
     {
         QStringList folders =

@@ -19,15 +19,15 @@ public:
      * Lets the user choose one application: a desktop entry, an AppImage or an application bundle.
      * Starts in the folder of installed applications and runs until the user is done.
      *
-     * A bundle is a folder named *.app. It counts as one file: to enter it is to choose it, also in
-     * the desktop's own dialog. No other folder can be chosen.
+     * A bundle is a folder named *.app. It counts as a file: entering it chooses it, even in the
+     * desktop's own dialog. No other folder can be chosen.
      *
-     * @return the chosen file's full path, links followed; nothing when the user chose none
+     * @return the chosen file's full path, with links resolved; nothing if the user cancelled
      */
     virtual std::optional<QString> chooseApplication(QWidget* parent) = 0;
 };
 
-/** The desktop's panel, or what a ServiceScope<OpenPanel> has put in its place. */
+/** Returns the desktop's panel, or its replacement by a ServiceScope<OpenPanel>. */
 OpenPanel& openPanel();
 
 } // namespace platform

@@ -16,7 +16,7 @@ namespace platform {
 
 namespace {
 
-/** Dots in a metre where a point has one pixel: 72 to the inch. */
+/** Dots per metre at one pixel per point: 72 per inch. */
 constexpr double kDotsPerMetre = 72.0 / 0.0254;
 
 QRectF toQRect(const Rect& rect)
@@ -54,7 +54,7 @@ void PaneView::setNeedsDisplay()
 void PaneView::setNeedsDisplayInRect(const Rect& rect)
 {
     if (mIsDrawingAgain) {
-        return; // drawing that asks for itself would never end
+        return; // drawing that requests itself would never end
     }
     if (mIsDrawing) {
         mAskedAgain.push_back(rect);
@@ -140,7 +140,7 @@ void PaneView::paintEvent(QPaintEvent* event)
 QPainter& PaneView::lockFocus()
 {
     updateStore();
-    if (!mFocus) { // it stays until what it has drawn is painted
+    if (!mFocus) { // it is kept until its drawing is painted
         mFocus.emplace(&mStore);
         beginPoints(*mFocus);
     }
@@ -160,7 +160,7 @@ void PaneView::flushWindow()
 
 void drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette)
 {
-    // Two lines of colours that stand apart in every theme: one of them does from what is below.
+    // Two lines of contrasting colours: in every theme, one of them contrasts with what is below.
     const auto line = [&painter, &rect](int inset, const QColor& color) {
         painter.setPen(color);
         painter.setBrush(Qt::NoBrush);
@@ -178,7 +178,7 @@ void frameRect(QPainter& painter, const Rect& rect)
     frame.addRect(toQRect(rect));
     frame.addRect(toQRect(
         {rect.x + 1, rect.y + 1, std::max(0.0, rect.width - 2), std::max(0.0, rect.height - 2)}));
-    painter.fillPath(frame, Qt::black); // what is between the two, by the odd-even rule
+    painter.fillPath(frame, Qt::black); // the area between the two, by the odd-even rule
 }
 
 void drawText(QPainter& painter, const QString& text, double x, double y)
@@ -200,7 +200,7 @@ void drawImage(QPainter& painter, const QImage& image, const Rect& target, const
 {
     const double acrossPoint = image.dotsPerMeterX() / kDotsPerMetre;
     const double alongPoint = image.dotsPerMeterY() / kDotsPerMetre;
-    // Of the image, the first row is the upper one.
+    // The first row of the image is the upper one.
     const QRectF pixels(source.x * acrossPoint,
         image.height() - (source.y + source.height) * alongPoint, source.width * acrossPoint,
         source.height * alongPoint);

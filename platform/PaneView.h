@@ -15,48 +15,48 @@
 namespace platform {
 
 /**
- * A view that draws in points from its lower left corner, y growing upwards.
+ * A view that draws in points from its lower left corner, with y growing upwards.
  *
- * What was drawn stays in a backing store until it is drawn again: when the view is shown, when its
- * size, the size of a point, or the screen's pixel density changes, and when setNeedsDisplay() asks
- * for it. What the window system uncovers is copied from the store and not drawn again.
+ * Drawings stay in a backing store until they are redrawn: when the view is shown, when its size,
+ * the size of a point, or the screen's pixel density changes, and when setNeedsDisplay() requests
+ * it. An expose only copies from the store.
  *
- * A frame that is in no store shows that the keyboard has brought one here.
+ * The focus frame, shown after keyboard navigation, is not part of the store.
  */
 class PaneView : public QWidget, public Accessible {
 public:
     explicit PaneView(QWidget* parent = nullptr, QAccessible::Role role = QAccessible::Graphic);
 
-    /** The view's own rectangle, in points; its origin is (0, 0). */
+    /** The view's rectangle, in points; its origin is (0, 0). */
     Rect bounds() const;
 
-    /** Has the whole view drawn again, before it is next painted, and tells its new words. */
+    /** Redraws the whole view before the next paint, and announces its new description. */
     void setNeedsDisplay();
     /**
-     * Has at least that part, in points, drawn again. From within drawing, has exactly that part,
-     * as far as it is in the view, drawn once more: what that drawing asks for in turn is not done.
+     * Redraws at least that part, in points. If called while drawing, redraws exactly that part,
+     * clipped to the view, once more; requests during that redraw are ignored.
      */
     void setNeedsDisplayInRect(const Rect& rect);
 
 protected:
     /**
-     * Draws into what is shown already, until unlockFocus(): what is pending is drawn first. The
-     * painter is in points, y growing upwards.
+     * Starts drawing on top of the current contents, until unlockFocus(). Pending redraws are done
+     * first. The painter is in points, with y growing upwards.
      */
     QPainter& lockFocus();
-    /** @param drawn what may have been drawn on, in points; it is painted soon */
+    /** @param drawn the part that may have changed, in points; it is painted soon */
     void unlockFocus(const Rect& drawn);
-    /** Has what was drawn painted now. */
+    /** Paints immediately what was drawn. */
     void flushWindow();
 
-    /** A point's size. */
+    /** The size of a point in pixels. */
     double pixelsPerPoint() const;
 
     /** Comes before the whole view is drawn anew: brings up to date what it shows. */
     virtual void sync() { }
     /**
-     * Draws at least what the rectangle covers; on what lies beside it the painter does not draw.
-     * The painter is in points, y growing upwards.
+     * Draws at least the dirty rectangle; the painter is clipped to it, and in points, with y
+     * growing upwards.
      */
     virtual void drawRect(QPainter& painter, const Rect& dirty) = 0;
 
@@ -74,26 +74,26 @@ private:
     bool mNeedsDisplay = true;
     bool mIsDrawing = false;
     bool mIsDrawingAgain = false;
-    std::vector<Rect> mAskedAgain; ///< what drawing has asked to be drawn once more
+    std::vector<Rect> mAskedAgain; ///< parts that drawing has requested to redraw once more
 };
 
 /**
- * Draws an image with its lower left corner at the rectangle's; both rectangles are in points, the
- * source in the image's own, whose size follows from its resolution: at 144 pixels to the inch, a
- * point has two. The painter's y grows upwards.
+ * Draws an image with its lower left corner at the rectangle's. Both rectangles are in points; a
+ * point of the image depends on its resolution: at 144 pixels per inch, it has two pixels. The
+ * painter's y grows upwards.
  */
 void drawImage(QPainter& painter, const QImage& image, const Rect& target, const Rect& source);
 
 /**
- * Draws text in one line with its lower left corner at a point, in the painter's pen. The painter's
+ * Draws a line of text with its lower left corner at a point, with the painter's pen. The painter's
  * y grows upwards.
  */
 void drawText(QPainter& painter, const QString& text, double x, double y);
 
-/** Draws the frame that shows the keyboard's focus, four pixels wide, inside of a rectangle. */
+/** Draws the keyboard focus frame, four pixels wide, inside a rectangle. */
 void drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palette);
 
-/** Draws the rectangle's frame in black, a point wide, inside of it. */
+/** Draws a black frame, one point wide, inside the rectangle. */
 void frameRect(QPainter& painter, const Rect& rect);
 
 /** An image's size in points. */

@@ -13,61 +13,61 @@ class QWidget;
 
 /**
  * @file
- * What pen and mouse do, as one kind of value. The numbers are those of the events that the panel's
- * views were made for.
+ * Pen and mouse events as one type of value. The numbers are those that the panel's views were
+ * written for.
  */
 namespace platform {
 
 enum class EventType : std::int32_t {
     LeftMouseDown = 1,
     LeftMouseUp = 2,
-    MouseMoved = 5, ///< no button is down, or the pen is above the tablet
+    MouseMoved = 5, ///< no button is down, or the pen hovers
     LeftMouseDragged = 6,
-    TabletPoint = 23, ///< the pen presses otherwise than before, at the same place
-    TabletProximity = 24, ///< pen or eraser comes into the tablet's reach, or leaves it
+    TabletPoint = 23, ///< the pen's pressure has changed at the same position
+    TabletProximity = 24, ///< pen or eraser enters or leaves the range of the tablet
 };
 
-/** What a mask of event types has for this one. */
+/** The bit of an event type in a mask. */
 constexpr std::uint32_t eventMask(EventType type)
 {
     return 1U << static_cast<std::uint32_t>(type);
 }
 
-/** Of an event of the mouse's types that the pen has made. */
+/** The subtype of a mouse event that comes from the pen. */
 inline constexpr std::int16_t kTabletPointSubtype = 1;
 
 enum class PointingDeviceType : std::uint8_t { Unknown = 0, Pen = 1, Cursor = 2, Eraser = 3 };
 
-/** Of a mouse, only type, places and pressure are set; of TabletProximity, only what the device is.
- */
+/** For a mouse, only type, positions and pressure are set; for TabletProximity, only the device. */
 struct Event {
     EventType type = EventType::MouseMoved;
     std::int16_t subtype = 0;
     QPointF locationInWindow; ///< in pixels from the window's lower left corner, y growing upwards
-    float pressure = 0; ///< 0 to 1; of a mouse, 1 while its button is down
+    float pressure = 0; ///< 0 to 1; for a mouse, 1 while its button is down
     QPointF tilt; ///< degrees from upright, to the right and towards the user
     float rotation = 0; ///< degrees
-    std::int32_t absoluteX = 0; ///< on the desktop; the window system tells no tablet units
+    std::int32_t absoluteX = 0; ///< on the desktop; there are no tablet units here
     std::int32_t absoluteY = 0;
 
-    std::uint16_t deviceID = 0; ///< tells pens apart while they are in reach; 0 for a mouse
+    std::uint16_t deviceID = 0; ///< distinguishes pens while they are in range; 0 for a mouse
     bool isEnteringProximity = false;
     PointingDeviceType pointingDeviceType = PointingDeviceType::Unknown;
-    std::uint64_t uniqueID = 0; ///< the pen's serial number; 0 where it has none
+    std::uint64_t uniqueID = 0; ///< the pen's serial number; 0 if it has none
 };
 
 /**
- * What Qt tells of the pen; nothing when it is a button at the pen's side. What no pen can do is
- * mended: a pressure is brought into 0 to 1, a place that is none becomes the origin, and one a
- * million pixels away is far enough.
+ * Converts Qt's pen event; nothing for a button on the pen. Impossible values are corrected: the
+ * pressure is clamped to 0 to 1, an invalid position becomes the origin, and a position is clamped
+ * to a million pixels.
  *
- * @param view what the event was sent to
- * @param downAt where the pen was when it was down in the view; kept for the next event
+ * @param view the receiver of the event
+ * @param downAt the last position of the pen while it was down in the view; updated for the next
+ *     event
  */
 std::optional<Event> penEvent(
     const QTabletEvent& event, const QWidget& view, std::optional<QPointF>& downAt);
 
-/** What the mouse does in the view; the type is one of the mouse's own. */
+/** Converts a mouse event in the view, of one of the mouse's types. */
 Event mouseEvent(const QMouseEvent& event, const QWidget& view, EventType type);
 
 /** Whether it is the same end of the same pen, or the mouse. */

@@ -20,7 +20,7 @@ void PenView::setAcceptsMouseMovedEvents(bool accepts)
 
 QPointF PenView::convertPointFromWindow(const QPointF& place) const
 {
-    const QPoint corner = mapTo(window(), QPoint(0, height())); // the lower left one
+    const QPoint corner = mapTo(window(), QPoint(0, height())); // the lower left corner
     const double scale = pixelsPerPoint();
     return {
         (place.x() - corner.x()) / scale, (place.y() - (window()->height() - corner.y())) / scale};
@@ -28,9 +28,9 @@ QPointF PenView::convertPointFromWindow(const QPointF& place) const
 
 void PenView::tabletEvent(QTabletEvent* event)
 {
-    event->accept(); // else Qt makes a mouse event of it
+    event->accept(); // otherwise Qt makes a mouse event of it
     if (!isVisible()) {
-        return; // a pen that has been down since before the view was hidden
+        return; // the pen was already down before the view was hidden
     }
     if (const std::optional<Event> taken = penEvent(*event, *this, mPenDownAt)) {
         queue().post(*taken);

@@ -20,22 +20,22 @@ class PenView : public PaneView {
 public:
     explicit PenView(QWidget* parent = nullptr);
 
-    // What the queue calls, for one event each.
+    // Called by the queue, for one event each.
     virtual void mouseDown(const Event& event) = 0;
     virtual void mouseUp(const Event& event) = 0;
     virtual void mouseMoved(const Event& event) = 0;
     virtual void mouseDragged(const Event& event) = 0;
     virtual void tabletPoint(const Event& event) = 0;
-    /** There are events, and the view tracks: it takes what it wants of them. */
+    /** Called when there are events and the view tracks a stroke: it takes the events it wants. */
     virtual void trackEvents() = 0;
 
     EventQueue& queue() { return mQueue; }
 
 protected:
-    /** Whether the view is told of moves without a button, and of a pen above the tablet. */
+    /** Whether the view gets moves without a button, and of a hovering pen. */
     void setAcceptsMouseMovedEvents(bool accepts);
 
-    /** From an event's place to the view's points. */
+    /** Converts an event's position to the view's points. */
     QPointF convertPointFromWindow(const QPointF& place) const;
 
     void tabletEvent(QTabletEvent* event) override;

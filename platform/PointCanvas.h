@@ -10,14 +10,14 @@
 namespace platform {
 
 /**
- * A widget whose children stand at fixed places, in points. A point grows with the user's text
- * size, so that texts keep their room: at the usual size it is a pixel of the widget's, with text
- * twice as large it is two.
+ * A widget whose children have fixed positions, in points. A point grows with the user's text size,
+ * so that texts have room: at the usual size it is a pixel of the widget, with text twice as large
+ * it is two.
  *
- * Where the language is written from right to left, the children stand mirrored, as they do in Qt's
- * layouts. Their frames are the same.
+ * In right-to-left languages, the children are mirrored, as in Qt's layouts. Their frames stay the
+ * same.
  *
- * The places come from the interface file, which has them in points at the usual size. After that,
+ * The initial positions come from the interface file, in points at the usual size. After that,
  * setFrame() moves a child.
  */
 class PointCanvas final : public QWidget {
@@ -26,16 +26,16 @@ class PointCanvas final : public QWidget {
 public:
     explicit PointCanvas(QWidget* parent = nullptr);
 
-    /** Pixels in one point; at least 1. */
+    /** Pixels per point; at least 1. */
     double scale() const { return mScale; }
 
-    /** Where a child stands, in points, measured as by platform::frame(). */
+    /** A child's rectangle in points, as returned by platform::frame(). */
     Rect frameOf(const QWidget& child) const;
     void setFrameOf(QWidget& child, const Rect& frame);
 
-    /** Takes the interface file's places; to be called when the interface file has been loaded. */
+    /** Records the positions in the interface file; must be called when it has been loaded. */
     void takePlaces();
-    /** Puts all children back to the interface file's places. */
+    /** Moves all children back to their positions in the interface file. */
     void restorePlaces();
 
 protected:
@@ -47,7 +47,7 @@ private:
 
     QSize mSize; ///< in points
     QHash<const QWidget*, Rect> mFrames;
-    QHash<const QWidget*, Rect> mFramesAtFirst; ///< the interface file's
+    QHash<const QWidget*, Rect> mFramesAtFirst; ///< as in the interface file
     double mScale = 1.0;
 };
 

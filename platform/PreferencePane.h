@@ -18,23 +18,23 @@
 namespace platform {
 
 /**
- * A pane of settings that a host shows in a window of its own. The host calls, on the main thread:
- * initWithBundle once; loadMainView once, whose widget it puts into its window; then, for every
+ * A settings pane that a host shows in its window. The host calls, on the main thread:
+ * initWithBundle once; loadMainView once, and puts its widget into the window; then, for every
  * showing, willSelect before and didSelect after the pane appears, willUnselect before and
- * didUnselect after it goes.
+ * didUnselect after it disappears.
  *
- * The header is all that a host needs: host and pane may be built apart and share no other code.
+ * A host needs only this header: host and pane can be built separately and share no other code.
  */
 class PreferencePane : public QObject {
 public:
-    /** Takes the module's bundle. @return the pane, or null when it cannot work */
+    /** Sets the module's bundle. @return the pane, or null if it cannot work */
     virtual PreferencePane* initWithBundle(const Bundle& bundle)
     {
         mBundle = bundle;
         return this;
     }
 
-    /** Makes the main view. It belongs to whoever gives it a parent. */
+    /** Creates the main view. The caller owns it by giving it a parent. */
     virtual QWidget* loadMainView()
     {
         if (mMainView == nullptr) {
@@ -44,7 +44,7 @@ public:
         return mMainView;
     }
 
-    /** The main view; null before it is loaded and after it is gone. */
+    /** The main view; null before it is loaded and after it is destroyed. */
     virtual QWidget* mainView() const { return mMainView; }
 
     virtual void mainViewDidLoad() { }
@@ -53,33 +53,33 @@ public:
     virtual void willUnselect() { }
     virtual void didUnselect() { }
 
-    // For what a host puts around the pane:
+    // For the host's controls around the pane:
 
-    /** What a pane can tell its host. */
+    /** What a pane reports to its host. */
     enum class News : std::uint8_t {
-        ChangeTaken, ///< the device's driver has taken the last change
+        ChangeTaken, ///< the device's driver has accepted the last change
         ChangeNotTaken, ///< it has not
         Loaded, ///< the settings have been read
         NotLoaded, ///< they could not be; the text says why
-        Saved, ///< the settings have been made permanent
+        Saved, ///< the settings have been saved
         NotSaved, ///< they could not be; the text says why
-        DeviceMayHaveChanged, ///< a driver has come, or has another device than before
+        DeviceMayHaveChanged, ///< a driver has appeared, or has another device than before
         ChangedByItself, ///< the settings follow the displays and have not been sent since
     };
     using NewsHandler = std::function<void(News news, const QString& text)>;
 
-    /** Takes what is told, on the main thread, when there is news. */
+    /** Sets the function to call, on the main thread, when there is news. */
     void setNewsHandler(NewsHandler handler) { mNewsHandler = std::move(handler); }
 
-    /** What the driver says when it is asked for its device. */
+    /** The driver's answer to the query for its device. */
     enum class Device : std::uint8_t {
         Unknown, ///< it does not answer
-        Same, ///< what the pane shows, be it that there is none
-        Other, ///< the pane has to be left and shown anew
+        Same, ///< as shown by the pane, even if there is none
+        Other, ///< the pane has to be left and shown again
     };
     /**
-     * Asks the driver for its device. After Other, the pane takes the answer for its next showing
-     * instead of asking again, and sends the driver nothing before that.
+     * Asks the driver for its device. After Other, the pane uses the answer for its next showing
+     * instead of asking again, and sends nothing to the driver until then.
      */
     virtual Device checkDevice() { return Device::Same; }
 
@@ -89,27 +89,30 @@ public:
     /** Sends all settings to the driver, changed or not. */
     virtual void send() { }
 
-    /** Makes the settings permanent. */
+    /** Saves the settings. */
     virtual void save() { }
     /**
-     * Goes back to the settings that were saved last. The controls may keep showing what the user
-     * has given up, until the pane is shown anew.
+     * Goes back to the saved settings. The controls may still show the discarded choices until the
+     * pane is shown again.
      */
     virtual void cancel() { }
-    /** Whether there is something that save() would make permanent and cancel() give up. */
+    /** Whether there is anything to save() or cancel(). */
     virtual bool hasChanges() const { return false; }
-    /** Takes what is called, on the main thread, each time hasChanges() may have another answer. */
+    /**
+     * Sets the function to call, on the main thread, when the result of hasChanges() may have
+     * changed.
+     */
     void setChangeHandler(std::function<void()> handler) { mChangeHandler = std::move(handler); }
     /**
-     * Whether the pane shows buttons of its own for save() and cancel(), from the next showing on.
-     * It does not unless told.
+     * Sets whether the pane shows its own buttons for save() and cancel(), from the next showing
+     * on. By default, it does not.
      */
     virtual void setButtonsShown(bool shown) { static_cast<void>(shown); }
 
 protected:
     const Bundle& bundle() const { return mBundle; }
 
-    /** Tells the host that hasChanges() may have another answer. */
+    /** Notifies the host that the result of hasChanges() may have changed. */
     void mayHaveChanged() const
     {
         if (mChangeHandler) {
@@ -125,7 +128,7 @@ protected:
     }
 
 private:
-    /** Builds the main view from the interface file. */
+    /** Creates the main view from the interface file. */
     virtual QWidget* makeMainView() = 0;
 
     Bundle mBundle;
@@ -134,7 +137,7 @@ private:
     NewsHandler mNewsHandler;
 };
 
-/** What a module's plug-in is: a maker of panes. */
+/** The interface of a module's plug-in, which creates panes. */
 class PreferencePanePlugin {
 public:
     virtual ~PreferencePanePlugin() = default;

@@ -47,7 +47,7 @@ Result<std::string> readFile(const std::string& path, PropertyListSource source)
 {
     const bool isRegular = source == PropertyListSource::RegularFile;
     const auto fail = [&](const QString& why) { return failure("cannot read", path, why); };
-    // O_NONBLOCK: opening a FIFO would otherwise wait for a writer.
+    // O_NONBLOCK: otherwise, opening a FIFO would wait for a writer.
     const Descriptor file(
         ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | (isRegular ? O_NONBLOCK : 0)));
     if (file.get() < 0) {
@@ -79,10 +79,10 @@ Result<std::string> readFile(const std::string& path, PropertyListSource source)
     return fail(tooLarge().text);
 }
 
-/** Writes all bytes and has them on the disk before it returns. */
+/** Writes all bytes and flushes them to disk. A full disk is reported here. */
 Result<> writeThrough(QFileDevice& file, const std::string& bytes)
 {
-    // The last bytes that fit are written without an error; the next ones tell why no more do.
+    // A short write gives no error; the next write reports why, such as a full disk.
     for (std::size_t done = 0; done < bytes.size();) {
         const qint64 written =
             file.write(bytes.data() + done, static_cast<qint64>(bytes.size() - done));
@@ -94,7 +94,7 @@ Result<> writeThrough(QFileDevice& file, const std::string& bytes)
     if (!file.flush()) {
         return Error{file.errorString()};
     }
-    // Some file systems tell of a full disk only here.
+    // Some file systems report a full disk only here.
     if (::fsync(file.handle()) != 0) {
         return Error{systemText(errno)};
     }
@@ -223,7 +223,7 @@ std::vector<std::string> Dictionary::keys() const
     return keys;
 }
 
-/** The entry under the key, emptied, or a new one; null in no dictionary. */
+/** Returns the entry for the key, emptied, or a new one; null without a dictionary. */
 PropertyListNode* Dictionary::put(const char* key) const
 {
     if (mNode == nullptr) {
@@ -363,7 +363,7 @@ Result<> makeFile(const QString& path, const std::string& bytes)
     if (Result<> written = writeThrough(file, bytes); !written) {
         return written;
     }
-    // A link, unlike a rename, never replaces a file that came into being meanwhile.
+    // A link, unlike a rename, never replaces a file that was created meanwhile.
     if (::fchmod(file.handle(), S_IRUSR | S_IWUSR) != 0
         || ::link(
                QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData())

@@ -16,17 +16,17 @@
  * @file
  * Property lists: trees of dictionaries, numbers and strings in files.
  *
- * A list is loaded from its XML or its binary form and written as XML. What was not changed comes
- * back to the letter, and a list that XML cannot hold is not written. Errors are results, never
- * exceptions; nothing here writes to the log. A list and its handles belong to one thread at a
- * time.
+ * A list is loaded from its XML or binary form and written as XML. Unchanged values are written
+ * exactly as they were read, and a list that XML cannot represent is not written. Errors are
+ * results, never exceptions; nothing here writes to the log. A list and its handles belong to one
+ * thread at a time.
  */
 namespace platform {
 
-/** Longest file that is taken for a property list, in bytes. A configuration has about 12,000. */
+/** Maximum size of a property list file, in bytes. A configuration has about 12,000. */
 inline constexpr std::size_t kPropertyListMaxSize = std::size_t{16} << 20U;
 
-/** Deepest nesting of containers that is loaded. A configuration nests three deep. */
+/** Maximum nesting of containers. A configuration has three levels. */
 inline constexpr int kPropertyListMaxDepth = 64;
 
 /** A number of a property list: an integer, a real or a boolean. */
@@ -35,19 +35,19 @@ public:
     static constexpr Number integer(std::uint64_t bits) { return Number(bits, 0.0, false); }
     static constexpr Number real(double value) { return Number(0, value, true); }
 
-    /** The low 16 bits of the whole part. */
+    /** The low 16 bits of the integer part. */
     std::int16_t shortValue() const;
 
     /**
-     * The whole part: a real is truncated toward zero and saturates at the ends of 64 bits, no
-     * number (NaN) is 0. An unsigned integer above INT64_MAX keeps its bits.
+     * The integer part: a real is truncated toward zero and saturates at 64 bits, and NaN is 0. An
+     * unsigned integer above INT64_MAX keeps its bits.
      */
     std::int64_t longValue() const;
 
     /** Whether the number is not zero. */
     bool boolValue() const;
 
-    /** Whether it is a whole number, so that longValue() is all of it. */
+    /** Whether it is an integer, so that longValue() is exact. */
     bool isWhole() const;
 
 private:
@@ -63,14 +63,14 @@ private:
     bool mIsReal;
 };
 
-/** What stands under a key. */
+/** The kind of value for a key. */
 enum class EntryKind : std::uint8_t { Absent, Number, String, Dictionary, Array, Data, Date };
 
 struct PropertyListNode;
 
 /**
- * A handle on a dictionary inside a PropertyList; valid as long as the list and that dictionary.
- * A handle on no dictionary answers every look-up with nothing and ignores every change.
+ * A handle to a dictionary in a PropertyList; valid as long as the list and that dictionary exist.
+ * A null handle returns nothing for every lookup and ignores every change.
  */
 class Dictionary {
 public:
@@ -81,16 +81,16 @@ public:
 
     EntryKind kind(const char* key) const;
 
-    /** The number under the key; nothing where there is none or it is no number. */
+    /** The number for the key; nothing if there is none or it is not a number. */
     std::optional<Number> number(const char* key) const;
 
     /** The string's bytes (UTF-8); valid until the entry changes. */
     std::optional<std::string_view> string(const char* key) const;
 
-    /** The dictionary under the key; a handle on none where there is none. */
+    /** The dictionary for the key; a null handle if there is none. */
     Dictionary dictionary(const char* key) const;
 
-    /** The keys in the file's order. */
+    /** The keys in file order. */
     std::vector<std::string> keys() const;
 
     /** Sets or replaces an entry. */
@@ -98,7 +98,7 @@ public:
     void setBoolean(const char* key, bool value);
     void setString(const char* key, const std::string& value);
 
-    /** Puts an empty dictionary under the key and gives a handle on it. */
+    /** Sets the key to an empty dictionary and returns a handle to it. */
     Dictionary addDictionary(const char* key);
 
 private:
@@ -113,23 +113,23 @@ private:
     PropertyListNode* mNode = nullptr;
 };
 
-/** What a list may be loaded from. */
+/** The kinds of files that a list may be loaded from. */
 enum class PropertyListSource : std::uint8_t {
-    RegularFile, ///< never waits: a directory, a FIFO or a device is an error
-    AnyFile, ///< also a pipe or a terminal, up to its end
+    RegularFile, ///< never blocks: a directory, a FIFO or a device is an error
+    AnyFile, ///< also a pipe or a terminal, read to its end
 };
 
 /** A property list whose root is a dictionary. */
 class PropertyList {
 public:
-    /** A new list with an empty root. */
+    /** Creates a list with an empty root. */
     PropertyList();
 
     /** Loads a file of at most kPropertyListMaxSize bytes. */
     static Result<PropertyList> load(
         const std::string& path, PropertyListSource source = PropertyListSource::RegularFile);
 
-    /** The same from bytes in memory. */
+    /** Loads from bytes in memory. */
     static Result<PropertyList> parse(std::string_view bytes);
 
     PropertyList(PropertyList&&) noexcept;
@@ -144,13 +144,14 @@ public:
     std::string toXml() const;
 
     /**
-     * Writes the list as XML: to a temporary file in the same folder, flushed to disk, then renamed
-     * over the file. The file's mode stays. What is written has been parsed again and found to be
-     * this list. On failure the old file stands and the temporary one is gone.
+     * Saves the list as XML: writes a temporary file in the same folder, flushes it to disk, and
+     * renames it over the file, whose mode is kept. Before that, the XML is parsed again and
+     * compared with the list. On failure, such as a full disk, the old file is unchanged and the
+     * temporary one is removed.
      */
     Result<> save(const std::string& path) const;
 
-    /** Like save, but fails where a file already stands at the path. */
+    /** Like save, but fails if the file already exists. */
     Result<> saveNew(const std::string& path) const;
 
 private:

@@ -35,13 +35,14 @@ std::string realText(double value)
     return {text.data(), end};
 }
 
-/** What stands behind the whole seconds of a date: nothing, or a point and digits. */
+/** The fraction of a second of a date: nothing, or a point and digits. */
 std::string fractionText(double fraction)
 {
     if (fraction == 0) {
         return {};
     }
-    // The smallest double has 324 places. What rounds up to a second is not a whole one yet.
+    // The smallest double has 324 places. A fraction that would round up to a second is not one
+    // yet.
     std::array<char, 400> text{};
     const auto [end, status] = std::to_chars(text.data(), text.data() + text.size(),
         std::min(fraction, std::nextafter(1.0, 0.0)), std::chars_format::fixed);
@@ -49,9 +50,9 @@ std::string fractionText(double fraction)
 }
 
 /**
- * A date by its seconds since the beginning of 2001; nothing outside of the years 1 to 9999. A date
- * in XML has whole seconds. A fraction stays in the text all the same, so that the date is never
- * written as another.
+ * A date from its seconds since the beginning of 2001; nothing outside the years 1 to 9999. A date
+ * in XML has whole seconds, but a fraction is kept in the text, so that the date is never written
+ * as a different one.
  */
 std::optional<std::string> dateText(double seconds)
 {
@@ -74,15 +75,15 @@ std::optional<std::string> dateText(double seconds)
  * Reads the binary form.
  *
  * Layout: "bplist00", the objects, a table of their offsets, and a trailer of 32 bytes. The trailer
- * holds, at these places: 6 the bytes per offset, 7 the bytes per reference, 8 the number of
- * objects, 16 the top object, 24 where the table begins; the last three have 8 bytes. All integers
- * are big-endian. An object begins with a byte whose high half is its type and whose low half is
- * its size or count, or 15 when an integer object with the count follows. A container (0xA: an
- * array, 0xD: a dictionary, its keys before its values) holds references to objects.
+ * contains, at these offsets: 6 the bytes per offset, 7 the bytes per reference, 8 the number of
+ * objects, 16 the top object, 24 the offset of the table; the last three have 8 bytes. All integers
+ * are big-endian. An object begins with a byte: its high half is the type, its low half the size or
+ * count, or 15 if an integer object with the count follows. A container (0xA: an array, 0xD: a
+ * dictionary, its keys before its values) contains references to objects.
  *
- * Containers may share objects, and each sharing makes a value of its own; so a small file can
- * stand for a list of any size, or hold itself. The limits of depth, of values and of bytes hold
- * for what has been made, so that none of this goes far.
+ * Containers may share objects, and each reference creates a separate value; so a small file can
+ * represent a list of any size, or contain itself. The limits on depth, values and bytes apply to
+ * what has been created, which stops this early.
  */
 class BinaryReader {
 public:
@@ -103,9 +104,9 @@ public:
 private:
     /** An object without its first byte. */
     struct Object {
-        std::size_t at = 0; ///< of what follows
+        std::size_t at = 0; ///< offset of what follows
         unsigned type = 0;
-        unsigned low = 0; ///< half of the first byte
+        unsigned low = 0; ///< low half of the first byte
         std::uint64_t count = 0; ///< for the types that have one
     };
 
@@ -170,7 +171,10 @@ private:
         return true;
     }
 
-    /** Reads the object into the node, with what is in it. @param depth containers around it */
+    /**
+     * Reads the object into the node, with its contents. @param depth number of containers around
+     * it
+     */
     bool readNode(std::uint64_t index, Node& node, int depth)
     {
         if (++mNodes > kPropertyListMaxNodes) {
@@ -219,7 +223,7 @@ private:
         }
         const std::uint64_t low =
             number(object.at + (width == 16 ? 8 : 0), std::min<std::size_t>(width, 8));
-        // From eight bytes on they have a sign.
+        // Integers of eight bytes or more are signed.
         const bool isNegative = width >= 8 && byteAt(object.at) >= 0x80;
         if (width == 16) {
             const std::uint64_t high = number(object.at, 8);
@@ -254,7 +258,7 @@ private:
         return date || refuse("a date lies outside of the years 1 to 9999");
     }
 
-    /** Counts what a text takes, before it is made. */
+    /** Counts the size of a text before it is created. */
     bool readText(const Object& object, std::size_t perUnit)
     {
         if (object.count > (mEnd - object.at) / perUnit) {
@@ -296,7 +300,7 @@ private:
         return true;
     }
 
-    /** XML has no references between objects of an archive; this is how such a list spells them. */
+    /** XML has no references between objects of an archive; this is their usual form there. */
     bool readReference(const Object& object, Node& node)
     {
         const std::size_t width = object.low + 1;
@@ -345,14 +349,14 @@ private:
     }
 
     std::string_view mBytes;
-    std::size_t mEnd = 0; ///< of what objects may lie in: where the trailer begins
+    std::size_t mEnd = 0; ///< end of the objects: where the trailer begins
     std::size_t mOffsetSize = 0;
     std::size_t mReferenceSize = 0;
     std::uint64_t mCount = 0;
     std::uint64_t mTop = 0;
     std::uint64_t mTable = 0;
-    std::size_t mNodes = 0; ///< made so far
-    std::size_t mTextBytes = 0; ///< of the strings and data made so far
+    std::size_t mNodes = 0; ///< created so far
+    std::size_t mTextBytes = 0; ///< of the strings and data created so far
     std::string mWhy;
 };
 

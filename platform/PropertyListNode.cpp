@@ -27,7 +27,7 @@ void PropertyListNode::dropOlderValues()
     for (auto part = parts.begin(); part != parts.end(); ++part) {
         sorted.push_back(part);
     }
-    // Those of one key stay in the file's order.
+    // Values with the same key stay in file order.
     std::ranges::stable_sort(sorted, {}, [](Part part) -> const std::string& { return part->key; });
     for (std::size_t i = 1; i < sorted.size(); ++i) {
         if (sorted[i]->key == sorted[i - 1]->key) {

@@ -26,7 +26,7 @@ struct Tag {
     Kind kind;
 };
 
-/** The most frequent first. */
+/** Most frequent first. */
 constexpr std::array<Tag, 9> kTags{{{"integer", Kind::Integer}, {"string", Kind::String},
     {"dict", Kind::Dictionary}, {"true", Kind::True}, {"false", Kind::False}, {"real", Kind::Real},
     {"array", Kind::Array}, {"data", Kind::Data}, {"date", Kind::Date}}};
@@ -44,7 +44,7 @@ std::string_view trimmed(std::string_view text)
     return text;
 }
 
-/** The beginning of a text in single quotes; each byte that is not plain is a question mark. */
+/** The beginning of a text in single quotes, with question marks for special bytes. */
 std::string shown(std::string_view text)
 {
     std::string quoted(1, '\'');
@@ -55,7 +55,10 @@ std::string shown(std::string_view text)
     return quoted;
 }
 
-/** The form of ISO 8601 that property lists use: 2026-11-21T02:46:00Z, or only down to the day. */
+/**
+ * Whether it has the ISO 8601 form of property lists: 2026-11-21T02:46:00Z, or truncated down to
+ * the day.
+ */
 bool isDate(std::string_view text)
 {
     constexpr std::string_view kForm = "0000-00-00T00:00:00";
@@ -76,11 +79,11 @@ public:
     explicit XmlReader(std::string_view bytes)
         : mBytes(bytes)
     {
-        // The dictionaries of a list are known by their tags' whole names.
+        // Tags are identified by their qualified names.
         mXml.setNamespaceProcessing(false);
         const auto* const raw = reinterpret_cast<const unsigned char*>(bytes.data());
-        // UTF-16 shows by its mark, or by the NUL beside the first '<'. The reader takes it
-        // decoded, whatever order the declaration claims.
+        // UTF-16 is detected by its byte-order mark, or the NUL beside the first '<'. The reader
+        // gets it decoded, whatever byte order is declared.
         const bool isWide = bytes.size() >= 2
             && ((raw[0] == 0xFF && raw[1] == 0xFE) || (raw[0] == 0xFE && raw[1] == 0xFF)
                 || (raw[0] == '<' && raw[1] == 0) || (raw[0] == 0 && raw[1] == '<'));
@@ -176,7 +179,7 @@ private:
         return false;
     }
 
-    /** UTF-8 that is broken is refused; what another encoding cannot decode shows in the texts. */
+    /** Rejects invalid UTF-8; in other encodings, decoding errors show in the texts. */
     void checkEncoding()
     {
         const QString encoding = mXml.documentEncoding().toString().toUpper();
@@ -254,7 +257,7 @@ private:
         return false;
     }
 
-    /** Reads up to the element's end. Comments in between are no part of its text. */
+    /** Reads to the end of the element. Comments in between are not part of its text. */
     void readText(std::string& text)
     {
         for (;;) {
@@ -287,7 +290,7 @@ private:
         }
     }
 
-    /** Refuses a scalar that no reader could take for one. */
+    /** Rejects an invalid scalar. */
     void check(const Node& node)
     {
         const std::string_view text = trimmed(node.text);
@@ -342,7 +345,7 @@ void writeText(std::string& xml, std::string_view text)
             xml += "&gt;";
             break;
         case '\r':
-            xml += "&#13;"; // else readers take it for the end of a line
+            xml += "&#13;"; // otherwise readers treat it as the end of a line
             break;
         default:
             xml += c;
@@ -432,7 +435,8 @@ std::optional<double> propertyListReal(std::string_view text)
         return std::nullopt;
     }
     if (status == std::errc::result_out_of_range) {
-        // It does not say whether it is too large or too small; a stream gives the nearest number.
+        // from_chars does not say whether it is too large or too small; a stream returns the
+        // nearest number.
         std::istringstream stream{std::string(text)};
         stream.imbue(std::locale::classic());
         stream >> value;

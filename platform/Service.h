@@ -7,8 +7,8 @@
 namespace platform {
 
 /**
- * Puts another implementation in a service's place for as long as the scope lives; scopes nest.
- * Main thread only. The implementation must outlive the scope.
+ * Replaces a service by another implementation for the lifetime of the scope; scopes nest. Main
+ * thread only. The implementation must outlive the scope.
  */
 template <class Service>
 class ServiceScope {
@@ -21,7 +21,7 @@ public:
     ServiceScope(const ServiceScope&) = delete;
     ServiceScope& operator=(const ServiceScope&) = delete;
 
-    /** The implementation in place; null for the desktop's own. */
+    /** The current replacement; null for the desktop's own. */
     static Service*& current()
     {
         static Service* service = nullptr;

@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/** Waiting that blocks the caller, where the work itself asks for it. */
+/** Sleeps that block the caller, for pauses that are intended. */
 class Sleep {
 public:
     virtual ~Sleep() = default;
@@ -14,7 +14,7 @@ public:
     virtual void sleepFor(std::chrono::milliseconds time) = 0;
 };
 
-/** The thread's own sleep, or what a ServiceScope<Sleep> has put in its place. */
+/** Returns the thread's own sleep, or its replacement by a ServiceScope<Sleep>. */
 Sleep& sleeper();
 
 } // namespace platform

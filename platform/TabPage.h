@@ -7,25 +7,23 @@
 namespace platform {
 
 /**
- * A page of a tab widget that has a say in the window's size only while it is the one that is
- * shown.
+ * A page of a tab widget that affects the window's size only while it is shown.
  *
- * A tab widget asks all its pages for their room, and those have to lay out every text on them
- * before they can tell, also where nobody has come to them yet. A hidden page gives an answer of
- * its own instead, in points that grow with the text as a PointCanvas's do, so that the window is
- * large enough for it from the beginning.
+ * A tab widget asks all its pages for their size, which makes even pages that were never opened lay
+ * out all their texts. Instead, a hidden page returns a fixed size, in points that grow with the
+ * text as in a PointCanvas, so that the window is large enough for it from the start.
  */
 class TabPage final : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr QSize kRoom{800, 450}; ///< what a hidden page would like, in points
-    static constexpr QSize kLeast{600, 300}; ///< what it needs, in points
+    static constexpr QSize kRoom{800, 450}; ///< preferred size of a hidden page, in points
+    static constexpr QSize kLeast{600, 300}; ///< its minimum size, in points
 
     using QWidget::QWidget;
 
     QSize sizeHint() const override;
-    /** A hidden page needs kLeast: it adds nothing to what the page needs that is shown. */
+    /** A hidden page needs kLeast, which is no more than the visible page needs. */
     QSize minimumSizeHint() const override;
 };
 

@@ -14,14 +14,14 @@ namespace platform {
 
 namespace {
 
-/** The handler may only write; what it writes is read in the event loop. */
+/** The handler may only write; the event loop reads from the other end. */
 std::array<int, 2> sockets{-1, -1};
 
 void handle(int number)
 {
     const int before = errno;
     const auto byte = static_cast<unsigned char>(number);
-    // A full socket holds enough signals to end the program already.
+    // If the socket is full, enough signals are pending already.
     static_cast<void>(::send(sockets[0], &byte, sizeof byte, MSG_DONTWAIT | MSG_NOSIGNAL));
     errno = before;
 }

@@ -9,14 +9,14 @@
 namespace platform {
 
 /**
- * Turns Unix signals into a Qt signal in the event loop, so that a program that is told to end can
- * still save. One object per process; it stays in charge of its signals until the process ends.
+ * Turns Unix signals into a Qt signal in the event loop, so that a program can save before it ends.
+ * One object per process; it handles its signals until the process ends.
  */
 class UnixSignals final : public QObject {
     Q_OBJECT
 
 public:
-    /** @param numbers for instance SIGTERM and SIGINT */
+    /** @param numbers such as SIGTERM and SIGINT */
     explicit UnixSignals(std::initializer_list<int> numbers);
 
 Q_SIGNALS:

@@ -47,8 +47,8 @@ IOReturn resultOf(int error)
 }
 
 /**
- * A connection to the library, which has a thread as long as there is one. So it lives only as long
- * as something that was found through it.
+ * A libusb context, which has a thread as long as it exists. So it lives only as long as the
+ * objects that were found through it.
  */
 using Context = std::shared_ptr<libusb_context>;
 using Device = std::shared_ptr<libusb_device>;
@@ -65,7 +65,7 @@ IOReturn makeContext(Context& context)
     return kIOReturnSuccess;
 }
 
-/** An open device, of which one interface may be held. */
+/** An open device, with at most one claimed interface. */
 class Handle {
 public:
     explicit Handle(Device device)
@@ -79,7 +79,7 @@ public:
     libusb_device* device() const { return mDevice.get(); }
     libusb_device_handle* get() const { return mHandle; }
 
-    /** Opens the device and takes an interface, both or nothing. */
+    /** Opens the device and claims an interface, both or neither. */
     int open(int interface)
     {
         close();
@@ -88,8 +88,8 @@ public:
             mHandle = nullptr;
             return error;
         }
-        // The kernel's driver goes when the interface is claimed and comes back when it is
-        // released.
+        // libusb detaches the kernel's driver when the interface is claimed, and reattaches it on
+        // release.
         libusb_set_auto_detach_kernel_driver(mHandle, 1);
         error = libusb_claim_interface(mHandle, interface);
         if (error == LIBUSB_SUCCESS) {

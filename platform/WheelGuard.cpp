@@ -9,7 +9,7 @@ namespace platform {
 
 namespace {
 
-/** Belongs to its control. */
+/** Owned by its control. */
 class WheelGuard final : public QObject {
 public:
     explicit WheelGuard(QWidget& control)
@@ -24,7 +24,7 @@ public:
         if (event->type() != QEvent::Wheel || mControl.hasFocus()) {
             return QObject::eventFilter(watched, event);
         }
-        event->ignore(); // so that it is the parent's
+        event->ignore(); // so that the parent gets it
         return true;
     }
 

@@ -7,9 +7,9 @@ class QWidget;
 namespace platform {
 
 /**
- * Has the wheel turn a control, a slider or a list, only while the control has the keyboard's
- * focus. Otherwise the page scrolls: whoever scrolls through it must not change settings that the
- * pointer happens to pass. The wheel does not bring the focus either.
+ * Makes a control, a slider or a list, respond to the wheel only while it has the keyboard focus.
+ * Otherwise the page scrolls, so that scrolling does not change settings under the pointer. The
+ * wheel does not set the focus either.
  */
 void ignoreWheelWithoutFocus(QWidget& control);
 
