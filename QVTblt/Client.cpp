@@ -18,20 +18,20 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcClient, "org.quorvia.tablet.client", QtInfoMsg)
 
-/** Passes over the devices while others hold them. */
+/** Number of tries while other programs hold the devices. */
 constexpr int kPasses = 4;
 
 /** The tablet's feature report for its report mode. */
 constexpr std::uint8_t kReportMode = 4;
 
-/** openUSBDevice()'s answers where the device is not open. */
+/** Results of openUSBDevice() if the device is not open. */
 constexpr std::int32_t kNotOpened = -1;
 constexpr std::int32_t kHeldByAnother = -2;
 
-/** Whether iterateinterfaces() has had its interface. */
+/** Whether iterateinterfaces() has opened its interface. */
 bool foundOnce = false;
 
-/** HID's Set_Report to the first interface (HID 1.11, section 7.2.2). */
+/** Sends HID's Set_Report to the first interface (HID 1.11, section 7.2.2). */
 platform::IOReturn setReportMode(platform::UsbDeviceInterface& device, std::uint8_t flag)
 {
     std::array<std::uint8_t, 2> report{kReportMode, flag};
@@ -75,7 +75,7 @@ std::int32_t askDevices(
     platform::UsbIterator& devices, std::uint8_t flag, ReportModeOutcome& outcome)
 {
     std::int32_t result = -1;
-    // Of all passes together: without any device's answer, it counts as open.
+    // Of all tries together: without a result from any device, it counts as open.
     std::int32_t opened = 0;
     for (int pass = 1;;) {
         std::unique_ptr<platform::UsbService> service = devices.next();
@@ -110,7 +110,7 @@ std::int32_t askDevices(
     }
 }
 
-/** ConnectToDriver() without the notice. */
+/** ConnectToDriver() without the notification. */
 bool sendRecord(const void* record, std::int32_t length)
 {
     using namespace platform;
@@ -121,7 +121,7 @@ bool sendRecord(const void* record, std::int32_t length)
     std::fprintf(
         stderr, "ConnectToDriver %x %d %d %d\n", bytes[318], bytes[319], bytes[320], bytes[321]);
     if (record == nullptr || length < 0 || length > kQVRecordSize) {
-        std::fputs("ConnectToDriver fail...\n", stderr); // the event cannot hold it
+        std::fputs("ConnectToDriver fail...\n", stderr); // does not fit the event
         return false;
     }
 
@@ -135,13 +135,13 @@ bool sendRecord(const void* record, std::int32_t length)
         std::fputs("ConnectToDriver fail..\n", stderr);
         return false;
     }
-    // The record is binary. The driver expects it under the type of a text.
+    // The record is binary, but the driver expects it with the type of a text.
     const auto data = std::as_bytes(std::span(bytes, static_cast<std::size_t>(length)));
     if (service.putParamPtr(settings, kQVSettingsData, typeUTF8Text, data) != noErr) {
         std::fputs("ConnectToDriver fail...\n", stderr);
         return false;
     }
-    // The push reads no answer: a driver that is gone shows at the next query.
+    // The push reads no answer: a missing driver is noticed at the next query.
     service.send(settings, nullptr, kAEWaitReply, kAEHighPriority, kQVDriverTimeOut);
     std::fputs("ConnectToDriver ok\n", stderr);
     return true;

@@ -31,16 +31,16 @@ Q_LOGGING_CATEGORY(lcCalibrate, "org.quorvia.tablet.calibrate", QtInfoMsg)
 
 constexpr std::int32_t kCrosses = 4;
 constexpr double kHalfCross = 25.0;
-constexpr double kHintLeft = 500.0; ///< of the middle
+constexpr double kHintLeft = 500.0; ///< left of the middle
 
 constexpr std::uint32_t kNeitherDownNorUp = 2;
 
-// Of the whole process: a calibration goes on from where the last one ended.
-std::array<QVTabletPoint, kCrosses> mXY{}; ///< of the crosses, in their order
+// Global for the process: a calibration continues where the last one ended.
+std::array<QVTabletPoint, kCrosses> mXY{}; ///< of the crosses, in order
 std::int32_t cachedKey = 0; ///< key state of the last report
-std::int32_t cachedTmpX = 0; ///< the last point that was taken
+std::int32_t cachedTmpX = 0; ///< the last accepted point
 std::int32_t cachedTmpY = 0;
-bool isFinishing = false; ///< a pass is being finished, perhaps below an alert
+bool isFinishing = false; ///< a round is being finished, possibly in an alert's event loop
 
 QString localized(const char* key)
 {
@@ -53,7 +53,7 @@ void pauseForASecond()
     sleeper().sleepFor(std::chrono::seconds(1));
 }
 
-/** Where a cross's centre is, counted from the edges of the view. */
+/** The centre of a cross, from its distance to the edges of the view. */
 QPointF centreOf(std::int32_t cross, const Rect& bounds)
 {
     const bool isLeft = cross == 0 || cross == 3;
@@ -62,7 +62,7 @@ QPointF centreOf(std::int32_t cross, const Rect& bounds)
         isUpper ? bounds.y + bounds.height - kQVCrossInset : bounds.y + kQVCrossInset};
 }
 
-/** The items of the direct object; none, with a line in the log, when it is no list. */
+/** The items of the direct object; none, with a message in the log, if it is not a list. */
 AEList itemsOf(const AppleEvent& event)
 {
     const AEDesc* const direct = find(event.parameters, keyDirectObject);
@@ -84,7 +84,7 @@ void startAgain(QVCalibrateView& view)
     view.setDrawEraseFlag(QVCalibrateView::kDrawCross);
 }
 
-/** Takes a point for the cross that is shown; shows the next one. */
+/** Accepts a point for the current cross, and shows the next one. */
 void takePoint(QVCalibrateView& view, std::int32_t cross, const QVPenReport& report)
 {
     if (cross < kCrosses) {
@@ -103,7 +103,7 @@ void takePoint(QVCalibrateView& view, std::int32_t cross, const QVPenReport& rep
     view.setNeedsDisplay();
 }
 
-/** Asks whether the new area shall stay; the driver has it already. */
+/** Asks whether to keep the new area, which the driver already has. */
 void confirm(QVCalibrateView& view, const QVTabletArea& before)
 {
     const QPointer<QVCalibrateView> guard(&view);
@@ -131,7 +131,7 @@ void confirm(QVCalibrateView& view, const QVTabletArea& before)
     }
 }
 
-/** The fourth point was taken. */
+/** Handles the fourth point. */
 void finishPass(QVCalibrateView& view)
 {
     const QScopedValueRollback finishing(isFinishing, true);
@@ -165,8 +165,8 @@ QVCalibrateView::QVCalibrateView(QWidget* parent)
     : PaneView(parent)
 {
     setAccessibleName(localized("Esc"));
-    setFocusPolicy(Qt::ClickFocus); // so that a screen reader says what to do
-    // The handler stays after the view has gone, until another view installs its own.
+    setFocusPolicy(Qt::ClickFocus); // so that a screen reader reads what to do
+    // The handler stays after the view is destroyed, until another view installs its own.
     events().installEventHandler(kAECoreSuite, kAEGetData,
         [view = QPointer<QVCalibrateView>(this)](const AppleEvent& event, AppleEvent& reply) {
             return view.isNull() ? noErr : QVTabletGetDatahandler(event, reply, view);
@@ -231,7 +231,7 @@ std::uint16_t QVCalibrateView::getQVTabletRectInfoYmax() const
 
 void QVCalibrateView::askAboutArea(const QVTabletArea& before)
 {
-    if (!mAreaBefore) { // else the last question has had no answer
+    if (!mAreaBefore) { // otherwise the last question was not answered
         mAreaBefore = before;
     }
 }
@@ -308,15 +308,15 @@ OSErr QVTabletGetDatahandler(const AppleEvent& event, AppleEvent& reply, QVCalib
 {
     static_cast<void>(reply);
     if (isFinishing || view->hasStopped()) {
-        return noErr; // an alert is open, and what the pen does belongs to it; or all is over
+        return noErr; // an alert is open, and the pen belongs to it; or the calibration has ended
     }
     const QPointer<QVCalibrateView> guard(view);
     const AEList items = itemsOf(event);
-    // A report that is too short leaves the rest as it was; at first the pen is neither down nor
+    // A report that is too short leaves the rest unchanged; initially, the pen is neither down nor
     // up.
     QVPenReport report{};
     report.key = kNeitherDownNorUp;
-    // Only every other item is a report.
+    // Every other item is a report.
     for (std::size_t i = 0; i < items.size(); i += 2) {
         if (const QByteArray* const bytes = items[i].bytes()) {
             std::memcpy(&report, bytes->constData(),

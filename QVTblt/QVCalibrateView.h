@@ -12,35 +12,37 @@
 #include <optional>
 
 /**
- * What the calibration window shows: a hint, and one cross at a time near each corner, to be
- * touched with the pen. From the moment it is made, the driver's pen reports come to it, until
- * another one is made.
+ * The contents of the calibration window: a hint, and one cross at a time near each corner, to be
+ * touched with the pen. From its creation, it receives the driver's pen reports, until another one
+ * is created.
  */
 class QVCalibrateView final : public platform::PaneView {
     Q_OBJECT
 
 public:
-    /** What setDrawEraseFlag() takes, plus the number of a cross: 0 is at the upper left, then
-     * clockwise. */
+    /**
+     * Arguments of setDrawEraseFlag(), plus the number of a cross: 0 is at the upper left, then
+     * clockwise.
+     */
     static constexpr std::int32_t kDrawCross = 16;
     static constexpr std::int32_t kEraseCross = 32;
 
     explicit QVCalibrateView(QWidget* parent = nullptr);
 
-    /** Stops taking the driver's reports. */
+    /** Stops handling the driver's reports. */
     void uninstallTabletMsgHandle();
 
     /** Shows or erases a cross; other values show none. */
     void setDrawEraseFlag(std::int32_t flag);
-    /** The colour behind everything. */
+    /** Sets the background colour. */
     void setColor(const QColor& color);
 
-    /** Adds to the number of points taken. @return the number before */
+    /** Adds to the number of accepted points. @return the previous number */
     std::int32_t changenPointValue(std::int32_t delta);
 
-    /** Tells the driver whether a calibration collects points. */
+    /** Tells the driver whether a calibration is collecting points. */
     void disableTablet(std::int16_t flag);
-    /** Sets the part of the tablet that is used, and pushes it. */
+    /** Sets the used part of the tablet, and pushes it. */
     void setQVTabletRectInfo(
         std::uint16_t xmin, std::uint16_t xmax, std::uint16_t ymin, std::uint16_t ymax);
     std::uint16_t getQVTabletRectInfoXmin() const;
@@ -49,20 +51,20 @@ public:
     std::uint16_t getQVTabletRectInfoYmax() const;
 
     /**
-     * The driver has a new area, and the user is asked whether it shall stay. Until keepArea(), the
-     * one from before the first such question is what stop() goes back to.
+     * Notes that the driver has a new area, and the user is asked whether to keep it. Until
+     * keepArea(), stop() restores the area from before the first such question.
      */
     void askAboutArea(const QVTabletArea& before);
-    /** The user has decided. */
+    /** Notes that the user has decided. */
     void keepArea();
     /**
-     * Takes no more reports: the calibration has ended. An area that the user has not agreed to is
-     * taken back, in the record alone.
+     * Ends the calibration: ignores further reports, and restores an area that the user has not
+     * confirmed, only in the record.
      */
     void stop();
     bool hasStopped() const { return mHasStopped; }
 
-    /** Where the cross is; the name says what to do with it. */
+    /** The position of the cross; the name says what to do with it. */
     QString spokenContents() const override;
 
 protected:
@@ -74,13 +76,13 @@ private:
 
     QColor fillColor = Qt::transparent;
     std::int32_t drawflag = kDrawCross;
-    std::int32_t nPoint = 0; ///< points taken in this pass: 0 to 4
-    std::optional<QVTabletArea> mAreaBefore; ///< the one in the record is not confirmed
+    std::int32_t nPoint = 0; ///< points accepted in this round: 0 to 4
+    std::optional<QVTabletArea> mAreaBefore; ///< set while the area in the record is not confirmed
     bool mHasStopped = false;
 };
 
 /**
- * Takes the driver's pen reports for a view: each lift of the pen is a point. After the fourth,
+ * Handles the driver's pen reports for a view: each lift of the pen is a point. After the fourth,
  * sets the tablet's area and asks the user. Pauses block the caller.
  *
  * @return always noErr

@@ -19,12 +19,12 @@ namespace {
 
 constexpr double kOpacity = 0.7;
 
-/** Keys by their place on the keyboard, whatever is written on them. */
+/** Keys by their position on the keyboard, independent of the layout. */
 enum class PlacedKey { S, E, Escape, Other };
 
 /**
- * The window system counts keys as the kernel does, plus eight. Escape is also what means it: some
- * keyboards have it elsewhere, and the window covers all else.
+ * The window system's key codes are the kernel's plus eight. Escape also counts by its meaning:
+ * some keyboards have it elsewhere, and the window covers everything.
  */
 PlacedKey placedKey(const QKeyEvent& event)
 {
@@ -32,7 +32,7 @@ PlacedKey placedKey(const QKeyEvent& event)
         return PlacedKey::Escape;
     }
     switch (event.nativeScanCode()) {
-    case 0: // no real keyboard
+    case 0: // not from a real keyboard
         break;
     case 9:
         return PlacedKey::Escape;
@@ -53,7 +53,7 @@ PlacedKey placedKey(const QKeyEvent& event)
     }
 }
 
-/** The window's geometry, from points above the main display's lower left corner. */
+/** The window's geometry, from points relative to the main display's lower left corner. */
 QRect placeOf(const Rect& rect)
 {
     const QScreen* const main = QGuiApplication::primaryScreen();
@@ -74,7 +74,7 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
-        // Windows have no opacity there; what is drawn in them has.
+        // On Wayland, windows have no opacity, but their contents have.
         auto* const effect = new QGraphicsOpacityEffect(mView);
         effect->setOpacity(kOpacity);
         mView->setGraphicsEffect(effect);
@@ -94,8 +94,8 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     setGeometry(place);
     const QScreen* const screen = QGuiApplication::screenAt(place.center());
     if (screen != nullptr && screen->geometry() == place) {
-        // What covers a whole display, panels included, is a full-screen window there. On Wayland
-        // that is also the only way to a display of one's choice.
+        // Only a full-screen window covers a whole display, including the desktop's panels. On
+        // Wayland, it is also the only way to choose the display.
         winId();
         windowHandle()->setScreen(const_cast<QScreen*>(screen)); // NOLINT(*-const-cast): Qt's
         setGeometry(place);
@@ -150,7 +150,7 @@ void QVCalibrateWin::tabletProximity(const std::shared_ptr<const platform::Event
 
 void QVCalibrateWin::closeEvent(QCloseEvent* event)
 {
-    if (!mMainWindow.isNull()) { // nobody has ended the calibration
+    if (!mMainWindow.isNull()) { // the calibration has not been ended
         mMainWindow.clear();
         mView->stop();
         mView->disableTablet(0);

@@ -10,8 +10,8 @@
 #include <QWidget>
 
 /**
- * The calibration's window: covers one display, lets it show through, and lies above the panel's
- * window, with which it closes. Escape ends the calibration.
+ * The calibration window: covers one display, is translucent, and stays above the panel's window,
+ * with which it closes. Escape ends the calibration.
  */
 class QVCalibrateWin final : public QWidget,
                              public platform::ProximityResponder,
@@ -27,27 +27,27 @@ public:
      */
     QVCalibrateWin(const platform::Rect& contentRect, QWidget* mainWindow);
 
-    /** Sets the window that Escape closes, which is this one. */
+    /** Sets the window that Escape closes: this one. */
     void sethCalibrateWin(QWidget* window);
 
     /**
-     * Ends the calibration as Escape does: an area that the user has not agreed to is taken back,
-     * the record says that nothing is calibrated, and an alert goes with the window.
+     * Ends the calibration, like Escape: restores an area that the user has not confirmed, clears
+     * disableFlag in the record, and closes an alert with the window.
      *
-     * @param pushes whether the driver is told
-     * @return false when the window is nobody's any more
+     * @param pushes whether to push the record
+     * @return false if the window no longer has an owner
      */
     bool endCalibration(bool pushes = true);
-    /** Takes the window from the panel's and closes it; its reports count no more. */
+    /** Removes the window from the panel's and closes it; its reports are ignored from then on. */
     void removeAndClose();
 
-    /** Spreads the pen's coming and going, which while the window is open reaches nobody else. */
+    /** Relays proximity events, which only this window gets while it is open. */
     void tabletProximity(const std::shared_ptr<const platform::Event>& event) override;
 
     QVCalibrateView& view() { return *mView; }
 
 protected:
-    /** However the window is closed, the driver must not be left waiting for points. */
+    /** However the window is closed, the driver must not continue to send points. */
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::int32_t kNear = 999;
 
-/** The middle between two coordinates, cut off. */
+/** The middle between two coordinates, truncated. */
 std::int32_t middle(std::uint16_t a, std::uint16_t b)
 {
     return (std::int32_t{a} + std::int32_t{b}) / 2;

@@ -10,7 +10,7 @@
 
 namespace {
 
-/** The record is packed: a field's bytes may lie at any address. */
+/** The record is packed: a field may be at any address. */
 template <class Value>
 Value load(const QVEntry& entry, const tagQVTabletInfo& record)
 {
@@ -27,11 +27,11 @@ void store(Value value, const QVEntry& entry, tagQVTabletInfo& record)
 
 bool isAscii(std::string_view text)
 {
-    // Unsigned, since on some machines char is and on others it is not.
+    // Unsigned, since char is signed only on some machines.
     return std::ranges::all_of(text, [](unsigned char c) { return c != 0 && c < 0x80; });
 }
 
-/** XML can hold no control characters but these. */
+/** XML allows only these control characters. */
 bool isWritable(std::string_view text)
 {
     return isAscii(text) && std::ranges::all_of(text, [](unsigned char c) {
@@ -39,7 +39,7 @@ bool isWritable(std::string_view text)
     });
 }
 
-/** Least and greatest whole number that keeps all its bits in a field of the type. */
+/** The smallest and largest integer that fits a field of the type. */
 std::pair<std::int64_t, std::int64_t> range(QVFieldType type)
 {
     switch (type) {
@@ -146,7 +146,7 @@ bool QVWriteEntry(
         return true;
     }
     case QVFieldType::UInt16:
-        // The file has always held signed numbers here: 40000 stands as -25536.
+        // The file has always had signed numbers here: 40000 is stored as -25536.
         dictionary.setInteger(entry.key, load<std::int16_t>(entry, record));
         return true;
     case QVFieldType::Boolean:

@@ -12,15 +12,16 @@
 
 /**
  * @file
- * One entry of the configuration file, one field of the record, and the way between them.
+ * Copies one entry of the configuration file to its field in the record, and back. A string that is
+ * too long for its field, such as the path of an application, is left out here.
  */
 
-/** What became of an entry on its way into the record. */
+/** The result of reading an entry into the record. */
 enum class QVEntryResult : std::uint8_t {
     Copied,
-    Truncated, ///< the number does not fit: only its whole part's low bits were copied
+    Truncated, ///< the number does not fit: only the low bits of its integer part were copied
     Absent, ///< the file does not have it; the field keeps its value
-    WrongType, ///< no number, or no string, where one belongs; the field keeps its value
+    WrongType, ///< not a number, or not a string, as required; the field keeps its value
     Unfit, ///< a string that is too long or not ASCII; the field keeps its value
 };
 
@@ -33,11 +34,11 @@ platform::Dictionary QVEntryDictionary(const platform::Dictionary& root, const Q
 /**
  * Copies an entry into its field.
  *
- * Integers keep their low 16 or 32 bits, reals are truncated toward zero first, booleans are 0 and
+ * Integers are truncated to their low 16 or 32 bits, reals first toward zero; booleans become 0 and
  * 1. A string must be ASCII without NUL and leave room for its terminating NUL; the rest of its
  * field becomes zero.
  *
- * @param dictionary where the entry stands; one that does not exist has no entries
+ * @param dictionary contains the entry; a null handle has no entries
  */
 QVEntryResult QVReadEntry(
     const platform::Dictionary& dictionary, const QVEntry& entry, tagQVTabletInfo& record);
@@ -46,10 +47,10 @@ QVEntryResult QVReadEntry(
 std::string QVEntryFault(const platform::Dictionary& dictionary, const QVEntry& entry);
 
 /**
- * Sets an entry from its field, whether or not it was there. A string that is not ASCII, or holds a
- * control character that a property list cannot, leaves the entry as it is.
+ * Sets an entry from its field, whether or not it existed. A string that is not ASCII, or contains
+ * a control character that a property list cannot, leaves the entry unchanged.
  *
- * @return false when the entry was left
+ * @return false if the entry was left unchanged
  */
 bool QVWriteEntry(
     platform::Dictionary dictionary, const QVEntry& entry, const tagQVTabletInfo& record);
@@ -60,5 +61,5 @@ std::int64_t QVFieldNumber(const QVEntry& entry, const tagQVTabletInfo& record);
 /** The value in an entry's field: a string's bytes before its NUL, or a number in decimal. */
 std::string QVFieldText(const QVEntry& entry, const tagQVTabletInfo& record);
 
-/** What an entry's kind is called in messages: "a string", "an array". */
+/** The name of an entry's kind for messages: "a string", "an array". */
 const char* QVKindName(platform::EntryKind kind);

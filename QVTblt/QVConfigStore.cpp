@@ -23,7 +23,7 @@ Q_LOGGING_CATEGORY(lcStore, "org.quorvia.tablet.store", QtInfoMsg)
 
 constexpr const char* kConfigFolder = "~/Library/Preferences/QuorviaTablet/config/";
 
-/** Whether there is such a slot; logs one that there is not. */
+/** Whether there is such a slot; logs an invalid one. */
 bool isSlot(std::int32_t i)
 {
     if (i >= 0 && i < static_cast<std::int32_t>(kQVSlotCount)) {
@@ -33,7 +33,7 @@ bool isSlot(std::int32_t i)
     return false;
 }
 
-/** Copies the entries of one dictionary; logs those that are there but do not fit. */
+/** Copies the entries of one dictionary; logs those that exist but do not fit. */
 void readEntries(
     const platform::Dictionary& dictionary, const char* name, std::span<const QVEntry> entries)
 {
@@ -57,7 +57,7 @@ void writeEntries(
     }
 }
 
-/** The dictionary under a key; logs anything else that stands there. */
+/** The dictionary for a key; logs a value of any other type. */
 platform::Dictionary dictionaryIn(const platform::Dictionary& parent, const char* key)
 {
     const platform::Dictionary dictionary = parent.dictionary(key);
@@ -69,8 +69,8 @@ platform::Dictionary dictionaryIn(const platform::Dictionary& parent, const char
 }
 
 /**
- * With a single display there is nothing to choose: the mapped area is the whole of it, whatever
- * the file says. With several, the file's choice stands.
+ * With a single display, there is no choice: it is the mapped area, whatever the file says. With
+ * several, the file's choice is kept.
  */
 void mapSingleDisplay()
 {
@@ -85,7 +85,7 @@ void mapSingleDisplay()
     QVSetMappedArea(qvTabletInfo, displays.bounds(active->front()));
 }
 
-/** Whether the driver has named a file. Without a name the path is the folder's: no file at all. */
+/** Whether the driver has given a file name. Without one, the path is just the folder. */
 platform::Result<> checkName()
 {
     if (*GetPListName() != '\0') {
@@ -95,7 +95,7 @@ platform::Result<> checkName()
         QStringLiteral("no configuration file is known, since no driver has named one"), true};
 }
 
-/** Logs and posts why a file could not be used; only posts it where the file is missing. */
+/** Logs and posts why a file could not be used; a missing file is only posted. */
 void tellFailure(QLatin1String name, const platform::Error& error)
 {
     if (!error.isMissingFile) {

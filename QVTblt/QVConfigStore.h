@@ -12,8 +12,8 @@
 #include <string>
 
 /**
- * Posted at each load and each save of the attached tablet's file, also where there is none. With
- * the failures, the notification's text says why, for people.
+ * Posted at each load and each save of the attached tablet's file, even if there is none. For
+ * failures, the notification's text gives the reason, for the user.
  */
 inline constexpr QLatin1String kConfigLoadedNotification("kConfigLoadedNotification");
 inline constexpr QLatin1String kConfigNotLoadedNotification("kConfigNotLoadedNotification");
@@ -23,42 +23,41 @@ inline constexpr QLatin1String kConfigNotSavedNotification("kConfigNotSavedNotif
 /**
  * The configuration file of the attached tablet, loaded into and saved from the record.
  *
- * The file belongs to the driver: it is never created here, and dictionaries and slots that it
- * lacks stay missing. No failure is an error to the caller: an unusable file leaves the record, and
- * an unwritable one the file, as they are, with a line in the log. A missing file is normal and not
- * logged; so is a file without a name, before the driver has given one. Whoever wants to know hears
- * of each outcome by a notification. Main thread only.
+ * The file belongs to the driver: it is never created here, and missing dictionaries and slots are
+ * not added. Failures are not reported to the caller: a file that cannot be read leaves the record
+ * unchanged, and one that cannot be written, such as on a full disk, is left unchanged, with a
+ * message in the log. A missing file, or no file name yet from the driver, is normal and not
+ * logged. Each outcome is posted as a notification. Main thread only.
  */
 class QVConfigStore {
 public:
     QVConfigStore();
 
     /**
-     * Loads the file into the record. What it lacks, and what is of the wrong type, keeps its
-     * value. With a single display, the mapped area is that display's, whatever the file says.
+     * Loads the file into the record. Fields whose entry is missing or has a wrong type keep their
+     * value. With a single display, the mapped area is that display, whatever the file says.
      */
     void ReadQVConfigPlist();
 
-    /** Saves the record's Pen, Monitor and Key sections into the file. */
+    /** Saves the record's Pen, Monitor and Key sections to the file. */
     void WriteQVConfigPlist();
 
     /**
-     * Whether the record holds choices of the user's that the file does not: whether a field that
-     * is saved has another value than when the file was last loaded or saved. Before that, the
-     * record is taken to be as it was when the store was made.
+     * Whether the user has made changes that are not in the file: whether a saved field differs
+     * from its value at the last load or save, or, before the first, at the creation of the store.
      *
-     * Not among them are the calibration's flag, and the mapped area, which follows from num and
-     * the displays that there are, whenever they are drawn.
+     * The calibration flag does not count, nor does the mapped area, which is derived from num and
+     * the current displays whenever they are drawn.
      */
     bool hasUnsavedFields() const;
 
-    /** Copies a slot's dictionary into slot i of the record, i from 0 to 17; else does nothing. */
+    /** Copies a slot's dictionary to slot i of the record; does nothing unless i is 0 to 17. */
     void GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
 
-    /** Copies slot i of the record into a slot's dictionary, i from 0 to 17; else does nothing. */
+    /** Copies slot i of the record to a slot's dictionary; does nothing unless i is 0 to 17. */
     void SetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
 
-    /** The file's path: its folder below the user's home, and pListname. */
+    /** The file's path: its folder in the user's home folder, and pListname. */
     static std::string configPath();
 
     /**
@@ -68,16 +67,16 @@ public:
      */
     platform::Result<platform::PropertyList> loadTabletsRecord();
 
-    /** The same of any configuration file, without regard to displays. */
+    /** The same for any configuration file, ignoring the displays. */
     platform::Result<platform::PropertyList> loadRecord(const std::string& path,
         platform::PropertyListSource source = platform::PropertyListSource::RegularFile);
 
-    /** Saves the record's sections into any configuration file that is there. */
+    /** Saves the record's sections to any existing configuration file. */
     platform::Result<> saveRecord(const std::string& path);
 
 private:
     void readSection(const platform::Dictionary& dictionary, const QVSection& section);
     void writeSection(const platform::Dictionary& dictionary, const QVSection& section);
 
-    tagQVTabletInfo mInFile; ///< the record when it and the file were last the same
+    tagQVTabletInfo mInFile; ///< the record when it last matched the file
 };

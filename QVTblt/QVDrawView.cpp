@@ -21,7 +21,7 @@ namespace {
 
 constexpr float kWidest = 50; ///< points, at full pressure
 constexpr float kUsualWidth = 25;
-constexpr double kRawPressure = 65535; ///< the full pressure as shown
+constexpr double kRawPressure = 65535; ///< full pressure, as displayed
 
 constexpr std::uint32_t kDrawn =
     eventMask(EventType::TabletPoint) | eventMask(EventType::LeftMouseDragged);
@@ -31,16 +31,16 @@ constexpr std::uint32_t kDragged =
     eventMask(EventType::LeftMouseUp) | eventMask(EventType::LeftMouseDragged);
 static_assert(kTracked == 0x1800044 && kDrawn == 0x800040 && kDragged == 68);
 
-/** The pad's ground, which is also what the eraser draws. */
+/** The pad's background, which is also the colour of the eraser. */
 constexpr Qt::GlobalColor kGround = Qt::lightGray;
 
-/** Exactly, unlike Qt's own comparison. */
+/** Compares exactly, unlike Qt's own operator. */
 bool isSame(const QPointF& one, const QPointF& other)
 {
     return one.x() == other.x() && one.y() == other.y();
 }
 
-/** A number with as many of two decimals as it has, in the locale's form, in one piece. */
+/** A number with up to two decimals, in the locale's format, without group separators. */
 QString decimals(double number)
 {
     constexpr double kHundred = 100;
@@ -55,7 +55,7 @@ QString decimals(double number)
 QVDrawView::QVDrawView(QWidget* parent)
     : PenView(parent)
 {
-    setAttribute(Qt::WA_OpaquePaintEvent); // nothing shows through its ground
+    setAttribute(Qt::WA_OpaquePaintEvent); // its background is opaque
 }
 
 void QVDrawView::setOutlets(QLabel* rawTabletPressure)
@@ -119,7 +119,7 @@ void QVDrawView::trackEvents()
     }
 }
 
-/** Draws the event and all that have come since, and shows them at once. */
+/** Draws the event and all that have arrived since, and shows them at once. */
 void QVDrawView::drawWaiting(const Event& event)
 {
     drawCurrentDataFromEvent(event);
@@ -159,7 +159,7 @@ void QVDrawView::tabletPoint(const Event& event)
     flushWindow();
 }
 
-/** Of this pressure and of the last smoothed ones the mean: the filter feeds back on itself. */
+/** The mean of this pressure and the last smoothed ones: a recursive filter. */
 float QVDrawView::smoothed(float pressure)
 {
     const float sum = std::accumulate(cachedPressure.begin(), cachedPressure.end(), pressure);
@@ -172,7 +172,7 @@ float QVDrawView::smoothed(float pressure)
 void QVDrawView::drawCurrentDataFromEvent(const Event& event)
 {
     const QPointF to = event.type == EventType::TabletPoint
-        ? mLastLoc // it has no place of its own
+        ? mLastLoc // it has no position of its own
         : convertPointFromWindow(event.locationInWindow);
     const float pressure = mAdjustSize ? smoothed(event.pressure) : event.pressure;
     const float width = mAdjustSize ? kWidest * pressure : kUsualWidth;

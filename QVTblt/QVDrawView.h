@@ -14,8 +14,8 @@ class QLabel;
 inline constexpr QLatin1String kStatsUpdatedNotification("WTViewStatsUpdatedNotification");
 
 /**
- * The drawing pad: shows strokes of pen and mouse, whose width and opacity may follow the pressure.
- * It keeps no strokes; whatever draws it anew wipes them.
+ * The drawing pad: shows strokes of pen and mouse, with width and opacity that may follow the
+ * pressure. It does not store strokes; any redraw clears them.
  */
 class QVDrawView final : public platform::PenView {
     Q_OBJECT
@@ -23,18 +23,20 @@ class QVDrawView final : public platform::PenView {
 public:
     explicit QVDrawView(QWidget* parent = nullptr);
 
-    /** Connects what shows the pressure, 0 to 65535 with two decimals; before awakeFromNib(). */
+    /**
+     * Sets the label that shows the pressure, 0 to 65535 with two decimals; before awakeFromNib().
+     */
     void setOutlets(QLabel* rawTabletPressure);
-    /** The interface file has been loaded. */
+    /** Called when the interface file has been loaded. */
     void awakeFromNib();
 
-    /** The statistics of the last event; strokes update them at their two ends alone. */
+    /** The statistics of the last event; strokes update them only at both ends. */
     struct Stats {
         platform::EventType mEventType = platform::EventType::MouseMoved;
         std::uint16_t mDeviceID = 0; ///< of the last pen
         float mMouseX = 0; ///< in pixels from the window's lower left corner, y growing upwards
         float mMouseY = 0;
-        float mPressure = 0; ///< 0 to 1; 0 while nothing is pressed
+        float mPressure = 0; ///< 0 to 1; 0 while the tip is up
         std::int32_t mAbsX = 0; ///< on the desktop
         std::int32_t mAbsY = 0;
         float mTiltX = 0; ///< degrees
@@ -44,25 +46,26 @@ public:
     const Stats& stats() const { return mStats; }
     bool isErasing() const { return mIsErasing; }
 
-    /** Whether strokes are as opaque as the pen presses. At first they are not. */
+    /** Whether the opacity of strokes follows the pressure. Off by default. */
     void setAdjustOpacity(bool adjusts) { mAdjustOpacity = adjusts; }
-    /** Whether strokes are as wide as the pen presses, up to 50 points, else 25. At first they are.
+    /**
+     * Whether the width of strokes follows the pressure, up to 50 points, or is 25. On by default.
      */
     void setAdjustSize(bool adjusts) { mAdjustSize = adjusts; }
-    /** Whether moves without a button update the statistics. At first they do. */
+    /** Whether moves without a button update the statistics. On by default. */
     void setCaptureMouseMoves(bool captures);
     bool mCaptureMouseMoves() const { return mCapturesMouseMoves; }
-    /** Whether drags that come without a press update the statistics. At first they do. */
+    /** Whether drags without a press update the statistics. On by default. */
     void setUpdateStatsDuringDrag(bool updates) { mUpdatesStatsDuringDrag = updates; }
     bool mUpdateStatsDuringDrag() const { return mUpdatesStatsDuringDrag; }
 
-    /** Wipes the pad. */
+    /** Clears the pad. */
     void doClean();
 
-    /** The pressure that is shown. */
+    /** Describes the shown pressure. */
     QString spokenContents() const override;
 
-    /** Draws with the pen or erases, as the device that has come into reach does. */
+    /** Switches between drawing and erasing, according to the device that has come into range. */
     void handleProximity(const platform::Notification& notification);
 
     void mouseDown(const platform::Event& event) override;
@@ -90,9 +93,9 @@ private:
     bool mCapturesMouseMoves = true;
     bool mUpdatesStatsDuringDrag = true;
     bool mIsErasing = false;
-    bool mIsDragging = false; ///< tracks a drag that had no press here
+    bool mIsDragging = false; ///< tracking a drag without a press here
     float mShownPressure = 0;
-    float mDrawnPressure = 0; ///< of the last step; shown once for all that are drawn together
+    float mDrawnPressure = 0; ///< of the last step; shown once per batch
     QPointF mLastLoc; ///< in the view's points
     QPointF cachedLastLoc; ///< the point before, for the curve; (0, 0) is none
     std::array<float, 8> cachedPressure{}; ///< the last smoothed pressures, the latest at the end

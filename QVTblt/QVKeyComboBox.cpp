@@ -13,7 +13,7 @@
 
 namespace {
 
-/** What an item says before the user has chosen anything through it. */
+/** The initial text of an item. */
 QString textAtFirst(int item)
 {
     switch (item) {
@@ -53,7 +53,7 @@ QString textAtFirst(int item)
     }
 }
 
-/** An item's text as it is drawn: in one line, and never empty. */
+/** An item's text as drawn: on one line, and never empty. */
 QString drawnText(const QString& text, int item)
 {
     QString drawn = text.isEmpty() ? textAtFirst(item) : text;
@@ -65,13 +65,13 @@ QString drawnText(const QString& text, int item)
     return drawn;
 }
 
-/** Where a text is shortened that does not fit: a path's end is what names the program. */
+/** Where a text is elided that does not fit: the end of a path names the program. */
 Qt::TextElideMode elideModeOf(int item)
 {
     return item == QVKeyComboBox::Application ? Qt::ElideLeft : Qt::ElideMiddle;
 }
 
-/** A tooltip that shows the text as it is, whatever a path may look like. */
+/** A tooltip that shows the text literally, whatever a path may contain. */
 QString toolTipOf(const QString& text)
 {
     return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
@@ -105,8 +105,8 @@ QRect fieldOf(const QStyleOptionComboBox& option, const QWidget* box)
 }
 
 /**
- * By how much the text has to begin later, in pixels. Some styles give up their margins in a box
- * that is as low as these, and the text would touch the frame.
+ * The extra margin of the text, in pixels. Some styles drop their margins in boxes as low as these,
+ * and the text would touch the frame.
  */
 int missingMargin(const QStyleOptionComboBox& option, const QWidget* box)
 {
@@ -129,7 +129,7 @@ bool isPrintable(const QKeyEvent& event)
     return !event.text().isEmpty() && event.text().at(0).isPrint();
 }
 
-/** The key's usual effect on a closed box would be to choose another item at once. */
+/** Whether the key would normally choose another item of a closed box at once. */
 bool wouldChoose(const QKeyEvent& event)
 {
     switch (event.key()) {
@@ -180,12 +180,12 @@ void QVKeyComboBox::keyPressEvent(QKeyEvent* event)
     }
     constexpr auto kShortcut = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
     if (isPrintable(*event) && (event->modifiers() & kShortcut) != 0) {
-        event->ignore(); // a shortcut of nobody's
+        event->ignore(); // it is not a shortcut
         return;
     }
     showPopup();
     if (event->key() != Qt::Key_Space) {
-        // In the open list the key moves the mark, which Return then chooses.
+        // In the open list, the key moves the selection, which Return then chooses.
         QCoreApplication::sendEvent(view(), event);
     }
 }

@@ -7,10 +7,10 @@
 /**
  * The list of one button's actions. The number of its slot is its property "tag".
  *
- * The list is chosen from as from a menu: nothing is chosen by the wheel, or by a key while the
- * list is closed, since every choice works at once and some open a window. Two items stand for what
- * the user has chosen through them; a text of theirs that does not fit is whole in the tooltip. A
- * path is shortened at its beginning, since its end names the program, keys are in their middle.
+ * The list works like a menu: neither the wheel nor a key on the closed list chooses anything,
+ * since every choice takes effect at once and some open a window. Two items show what the user has
+ * chosen through them; if their text does not fit, the tooltip shows all of it. A path is elided at
+ * its beginning, since its end names the program, keys in their middle.
  */
 class QVKeyComboBox final : public QComboBox {
     Q_OBJECT
@@ -45,7 +45,7 @@ public:
     /** Puts a text in an item's place and selects it. */
     void replaceItem(Item item, const QString& text);
 
-    /** Gives all items the texts that they have before any choice; selects the first. */
+    /** Resets all items to their initial texts, and selects the first. */
     void resetItems();
 
 protected:

@@ -24,13 +24,13 @@ QString separator()
     return QString::fromUtf16(kQVKeySeparator.data(), static_cast<int>(kQVKeySeparator.size()));
 }
 
-/** The button's name without the mark that a desktop may have put in for the keyboard. */
+/** The button's title without the mnemonic mark that a desktop may have added. */
 QString titleOf(const QAbstractButton& key)
 {
     return key.text().remove(u'&');
 }
 
-/** What a desktop puts around a window: as much as around another, and not less than is usual. */
+/** The size of a window's frame: that of another window, but at least the usual size. */
 QSize frameOf(const QWidget* other)
 {
     constexpr QSize kUsual(12, 40);
@@ -70,7 +70,7 @@ void QVKeySetClass::QVShowWindow(QVKeyComboBox* comboBox)
     mNum = 0;
     mKeyValue = 0;
     setHasKeys(false);
-    ui->keyCtrl->setFocus(); // where most combinations begin
+    ui->keyCtrl->setFocus(); // most combinations begin there
 }
 
 void QVKeySetClass::setVisible(bool visible)
@@ -85,14 +85,14 @@ void QVKeySetClass::setVisible(bool visible)
 void QVKeySetClass::fitInto(const QSize& room)
 {
     ensurePolished();
-    // A scroll area asks for a few lines of text, not for all that is in it.
+    // The size hint of a scroll area is a few lines of text, not all its contents.
     const QSize keyboard = ui->keyboard->sizeHint();
     const QMargins margins = layout()->contentsMargins();
     const QWidget* const owner = parentWidget() == nullptr ? nullptr : parentWidget()->window();
     const QSize most = room - frameOf(owner);
 
-    // The field has to say what to do, as far as there is room. It asks for 17 letters,
-    // of which one is kept as a margin.
+    // The field has to show its placeholder, if there is room. Its own hint is 17 letters, of which
+    // one is kept as a margin.
     QLineEdit& field = *ui->mKeyText;
     const QFontMetrics metrics = field.fontMetrics();
     const int text = metrics.horizontalAdvance(field.placeholderText()) + field.sizeHint().width()
@@ -103,7 +103,7 @@ void QVKeySetClass::fitInto(const QSize& room)
     const QSize hint = layout()->sizeHint();
     QSize whole(std::max(hint.width(), keyboard.width() + margins.left() + margins.right()),
         hint.height() - ui->keyScroll->sizeHint().height() + keyboard.height());
-    if (whole.width() > most.width()) { // the bar to scroll with needs some of the height
+    if (whole.width() > most.width()) { // the scroll bar needs some of the height
         whole.rheight() += style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
     }
     resize(whole.boundedTo(most));
@@ -116,7 +116,7 @@ void QVKeySetClass::ClickButton(const QAbstractButton* key)
     }
     const QString text = ui->mKeyText->text();
     ui->mKeyText->setText(text.isEmpty() ? titleOf(*key) : text + separator() + titleOf(*key));
-    if (mNum >= 0) { // a key that makes up for a deletion of nothing has no byte
+    if (mNum >= 0) { // a key that compensates for deleting nothing has no byte
         mKeyValue |= key->property("tag").toLongLong() << (8 * mNum);
     }
     setHasKeys(true);
@@ -153,7 +153,7 @@ void QVKeySetClass::SaveKeyData()
     tagQVTabletInfoSubKey& slot =
         qvTabletInfo.Key.SubKey[static_cast<std::size_t>(mComboBox->tag())];
     slot.Valid = kQVKeyCombination;
-    // The number is added to what DeleteOneSet() left there; so the stored files have it.
+    // The number is added by OR to what DeleteOneSet() left there, as in existing files.
     slot.Key = static_cast<std::uint32_t>(mNum) << 24U | static_cast<std::uint32_t>(mKeyValue);
     mComboBox->setCommitted(QVKeyComboBox::kStored);
     done(Accepted);
@@ -174,7 +174,7 @@ bool QVKeySetClass::event(QEvent* event)
 {
     const bool isHandled = QDialog::event(event);
     if (event->type() == QEvent::WindowActivate) {
-        // Styles show the focus only to those who have used Tab, and so not where the arrows start.
+        // Styles show the focus only after Tab was used, so not when the arrow keys come first.
         setAttribute(Qt::WA_KeyboardFocusChange);
     }
     return isHandled;
@@ -182,8 +182,7 @@ bool QVKeySetClass::event(QEvent* event)
 
 bool QVKeySetClass::eventFilter(QObject* watched, QEvent* event)
 {
-    if (event->type()
-        == QEvent::FocusIn) { // by the arrows or the mouse; Tab would scroll by itself
+    if (event->type() == QEvent::FocusIn) { // by the arrow keys or the mouse; Tab scrolls by itself
         ui->keyScroll->ensureWidgetVisible(qobject_cast<QWidget*>(watched));
     }
     return QDialog::eventFilter(watched, event);
@@ -191,7 +190,7 @@ bool QVKeySetClass::eventFilter(QObject* watched, QEvent* event)
 
 void QVKeySetClass::setHasKeys(bool hasKeys)
 {
-    // A disabled button would pass the focus on to whatever comes next.
+    // A disabled button would pass the focus on to the next control.
     if (!hasKeys && (ui->delBtn->hasFocus() || ui->okBtn->hasFocus())) {
         ui->keyCtrl->setFocus();
     }

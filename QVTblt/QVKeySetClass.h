@@ -16,11 +16,11 @@ class QVKeySetClass;
 }
 
 /**
- * The dialog for key combinations. The user clicks up to three keys of a drawn keyboard; the
- * keyboard of the computer only moves between them. OK stores the combination in the record's slot
- * of the combo box that opened the dialog; pushing the record is left to whoever ran the dialog.
+ * The dialog for key combinations. The user clicks up to three keys of an on-screen keyboard; the
+ * real keyboard only navigates. OK stores the combination in the record, in the slot of the combo
+ * box that opened the dialog; the caller pushes the record.
  *
- * One dialog serves all boxes: QVShowWindow() for a box, then exec().
+ * One dialog is used for all boxes: call QVShowWindow() for a box, then exec().
  */
 class QVKeySetClass final : public QDialog {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
 
     /** Shows the window without waiting for the user. */
     void showWindow();
-    /** Empties the dialog for the box. Shows nothing yet. */
+    /** Clears the dialog for the box, without showing it. */
     void QVShowWindow(QVKeyComboBox* comboBox);
 
     /**
@@ -39,21 +39,23 @@ public:
      * dialog; the box's item then shows the dialog's own text. Without a key, stores nothing.
      */
     void SaveKeyData();
-    /** Ends the dialog; record and box stay as they are. */
+    /** Ends the dialog; record and box do not change. */
     void CancelSet();
     /**
-     * Takes the last key back. Of the value, the keys that remain are kept and their number is
-     * written into its highest byte, where SaveKeyData() adds the number at that time by OR. The
-     * number of keys goes down where there is none as well, which no button does: as many keys
-     * after that show their names and are not stored.
+     * Removes the last key. The value keeps the remaining keys, with their number in its highest
+     * byte, to which SaveKeyData() adds its own number by OR. The number of keys is decremented
+     * even if there are none, which no button does: that many keys added later show their names,
+     * but are not stored.
      */
     void DeleteOneSet();
-    /** Adds the button's key, its property "tag", under the button's title. A fourth is ignored. */
+    /**
+     * Adds the button's key, its property "tag", with the button's title. A fourth key is ignored.
+     */
     void ClickButton(const QAbstractButton* key);
 
     /**
-     * Gives the window the size at which no key has to be scrolled to, as far as there is room.
-     * That happens whenever it is shown, for the screen's room.
+     * Resizes the window so that all keys are visible without scrolling, if there is room. Called
+     * with the screen's room whenever it is shown.
      *
      * @param room for the window with its frame, in pixels
      */
@@ -70,8 +72,8 @@ protected:
 private:
     void setHasKeys(bool hasKeys);
 
-    std::int32_t mNum = 0; ///< keys so far: up to 3
-    [[maybe_unused]] QPointer<QVKeyComboBox> mComboboxkey; ///< nothing looks at it
+    std::int32_t mNum = 0; ///< number of keys so far: up to 3
+    [[maybe_unused]] QPointer<QVKeyComboBox> mComboboxkey; ///< not used
     QPointer<QVKeyComboBox> mComboBox; ///< the box that opened the dialog
     std::int64_t mKeyValue = 0; ///< byte n is the code of key n + 1; byte 3 may hold a number
     std::unique_ptr<Ui::QVKeySetClass> ui;

@@ -11,7 +11,10 @@
 
 namespace {
 
-/** The width of the plain pictures, in pixels. The others have twice as many, in as many points. */
+/**
+ * The width of the standard pictures, in pixels. The others have twice as many pixels for the same
+ * points.
+ */
 constexpr double kPlainWidth = 384;
 
 QImage pictureOf(std::uint16_t productID, bool isDense, bool isDark)
@@ -23,7 +26,7 @@ QImage pictureOf(std::uint16_t productID, bool isDense, bool isDark)
     const QString file = QString::fromLatin1(model->picture);
     const auto path =
         QVPicturePath(rzkBundle, file.section(u'.', 0, 0), file.section(u'.', 1), isDense, isDark);
-    // In the form in which it is drawn fastest.
+    // Convert to the format that is drawn fastest.
     return path ? QImage(*path).convertToFormat(QImage::Format_ARGB32_Premultiplied) : QImage();
 }
 
@@ -42,7 +45,7 @@ void QVKeyView::changeEvent(QEvent* event)
 {
     PaneView::changeEvent(event);
     if (event->type() == QEvent::PaletteChange) {
-        setNeedsDisplay(); // the theme may be a dark one now
+        setNeedsDisplay(); // the theme may have changed between light and dark
     }
 }
 

@@ -9,10 +9,9 @@
 #include <cstdint>
 
 /**
- * Shows the picture of the attached model, so that a person finds the keys. Looks at the record
- * whenever it draws; the picture's file is read only when the product has changed, when the view
- * has come to have more pixels than it, or no more, or when the theme has become dark or light. A
- * model without a picture, or one whose file is missing, leaves the view empty.
+ * Shows the picture of the attached model, to identify its keys. Uses the record whenever it draws;
+ * the picture's file is read only when the product, the required resolution, or the light or dark
+ * theme has changed. Without a picture or its file, the view is empty.
  */
 class QVKeyView final : public platform::PaneView {
     Q_OBJECT
@@ -20,7 +19,7 @@ class QVKeyView final : public platform::PaneView {
 public:
     using PaneView::PaneView;
 
-    /** Whose picture it is. */
+    /** Describes the picture. */
     QString spokenContents() const override;
 
 protected:
@@ -29,7 +28,7 @@ protected:
 
 private:
     QImage mBackgroundImage;
-    std::int64_t productID_cached = 0; ///< the product that the picture was chosen for
-    bool mIsDense = false; ///< the picture was chosen for a view of more pixels than points
+    std::int64_t productID_cached = 0; ///< the product of the current picture
+    bool mIsDense = false; ///< the current picture is for high density
     bool mIsDark = false; ///< and for a dark theme
 };

@@ -10,7 +10,7 @@ using platform::Rect;
 
 namespace {
 
-constexpr double kMiniature = 15.0; ///< display points in a point of the view
+constexpr double kMiniature = 15.0; ///< display points per point of the view
 
 } // namespace
 
@@ -60,7 +60,7 @@ void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)
 
 QVPoint QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole)
 {
-    // Of a tablet without extent, all of it.
+    // All of it if the tablet has no extent.
     const auto part = [](std::int32_t length, std::int32_t of, std::int32_t picture) {
         return of == 0 ? picture : length * picture / of;
     };
@@ -74,7 +74,7 @@ QVPoint QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole)
 std::optional<QVTabletArea> QVAspectFit(
     const QVTabletArea& whole, std::int16_t width, std::int16_t height)
 {
-    // No product of a span of the tablet and a side of the display is beyond 32 bits.
+    // The product of a span of the tablet and a side of the display fits 32 bits.
     const std::int32_t tabletWidth = whole.xmax - whole.xmin;
     const std::int32_t tabletHeight = whole.ymax - whole.ymin;
     const bool isTabletWider = tabletHeight * width <= tabletWidth * height;
@@ -82,7 +82,7 @@ std::optional<QVTabletArea> QVAspectFit(
         return std::nullopt;
     }
     QVTabletArea fitted = whole;
-    // The sum's low 16 bits are those of the sum of low 16 bits.
+    // The low 16 bits of a sum are those of the sum of the low 16 bits.
     const auto edge = [](std::uint16_t start, std::int32_t length) {
         return static_cast<std::uint16_t>(start + static_cast<std::uint16_t>(length));
     };

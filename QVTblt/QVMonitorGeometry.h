@@ -12,19 +12,19 @@
 
 /**
  * @file
- * The arithmetic of the display page. Display rectangles are in global display points, y growing
- * downwards; the view's are in its own points, y growing upwards.
+ * The arithmetic of the display page, as pure functions. Display rectangles are in global display
+ * points, with y growing downwards; the view's are in its own points, with y growing upwards.
  */
 
-/** Most displays that the panel knows. */
+/** Maximum number of displays that the panel supports. */
 inline constexpr std::uint32_t kQVMaxDisplays = 4;
 
 /** The tablet's whole active area in the page's picture, in the view's points. */
 inline constexpr platform::Rect kQVPictureArea{275, 33, 86, 47};
 
 /**
- * The smallest rectangle around all of them; of fewer than two, the first itself. Its edges are
- * found in single precision.
+ * The bounding rectangle; of a single rectangle, that itself. Its edges are computed in single
+ * precision.
  *
  * @param rects at least one
  */
@@ -32,7 +32,7 @@ platform::Rect QVBoundingRect(std::span<const platform::Rect> rects);
 
 /**
  * A display's miniature in the view, at a fifteenth of its size. The main display's upper left
- * corner lies at a third of the view's width plus 30, and at 590 minus the view's height.
+ * corner is at a third of the view's width plus 30, and at 590 minus the view's height.
  */
 platform::Rect QVMiniature(const platform::Rect& display, const platform::Rect& bounds);
 
@@ -49,24 +49,24 @@ struct QVTabletArea {
 /** Stores the screen area that the tablet is mapped to: of each whole number, the low 16 bits. */
 void QVSetMappedArea(tagQVTabletInfo& info, const platform::Rect& area);
 
-/** Stores the part of the tablet that is used. */
+/** Stores the used part of the tablet. */
 void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area);
 
 /**
- * The lower right corner in the picture of an area in use, whose upper left corner is drawn at that
- * of the whole area. Whole points: quotients are cut off. Where the whole area has no width or no
+ * The lower right corner in the picture of a used area, whose upper left corner is drawn at that of
+ * the whole area. In whole points: quotients are truncated. If the whole area has no width or no
  * height, the picture's own edge.
  */
 QVPoint QVPictureCorner(const QVTabletArea& used, const QVTabletArea& whole);
 
 /**
- * The largest part of the tablet, from its upper left corner, that has the shape of a display, so
+ * The largest part of the tablet, from its upper left corner, with the proportions of a display, so
  * that circles stay round.
  *
  * @param width of the mapped area, in display points
  * @param height of the mapped area, in display points
- * @return nothing when that would be divided by a side that is zero: by the height where the tablet
- * is as wide as the display or wider, compared with its height; else by the width
+ * @return nothing if the divisor would be zero: the height if the tablet is at least as wide as the
+ *     display, relative to the height; otherwise the width
  */
 std::optional<QVTabletArea> QVAspectFit(
     const QVTabletArea& whole, std::int16_t width, std::int16_t height);

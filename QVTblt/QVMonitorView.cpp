@@ -36,7 +36,7 @@ constexpr std::int16_t kFast = 180;
 constexpr std::int16_t kNormal = 220;
 constexpr std::int16_t kTurned = 180;
 
-/** Whether displays have begun to change; of all views together. */
+/** Whether displays have begun to change; shared by all views. */
 bool DisplayConfigurationChanged = false;
 
 QString displayName(std::uint32_t index)
@@ -64,7 +64,10 @@ QPen linePen(const QColor& color)
     return {color, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin};
 }
 
-/** The largest font up to the painter's in which the text is so wide, but one that can be read. */
+/**
+ * The largest font, up to the painter's, in which the text fits the width; at least a readable
+ * size.
+ */
 QFont fittingFont(const QPainter& painter, const QString& text, double width)
 {
     constexpr int kSmallest = 7; // points of the view
@@ -76,7 +79,7 @@ QFont fittingFont(const QPainter& painter, const QString& text, double width)
     return font;
 }
 
-/** Draws a display's name in its miniature, small enough to end where that does. */
+/** Draws a display's name in its miniature, small enough to fit. */
 void drawLabel(QPainter& painter, const QString& name, const Rect& miniature)
 {
     constexpr double kLeft = 20;
@@ -162,7 +165,7 @@ void QVMonitorView::updateCalibrate()
     const QString help = hasOneDisplay
         ? mCalibrateHelp
         : tr("Choose one display first: all displays cannot be calibrated together.");
-    // Each redraw comes here, and screen readers hear of each help that is set.
+    // This is called for each redraw, and screen readers announce each change of a description.
     if (mDoCalibrate->isEnabledTo(mDoCalibrate->parentWidget()) == hasOneDisplay
         && mDoCalibrate->toolTip() == help && mDoCalibrate->accessibleDescription() == help) {
         return;
@@ -240,7 +243,7 @@ bool QVMonitorView::updateMappedArea()
         QVSetMappedArea(*pQVInfo, all);
     } else if (chosen <= mSubMonitorRect.size()) {
         QVSetMappedArea(*pQVInfo, mSubMonitorRect[chosen - 1]);
-    } else if (num != mUnknownDisplay) { // once, not each time that it is drawn
+    } else if (num != mUnknownDisplay) { // once, not with each redraw
         mUnknownDisplay = num;
         qCWarning(lcMonitor, "there is no display %d: the mapped area stays as it is", num);
     }
@@ -254,7 +257,7 @@ void QVMonitorView::updatePicturePoints()
     mTabletPicLeftUp = {kPictureLeft, kPictureTop};
     mTabletPicRightDn = QVPictureCorner(usedArea(*pQVInfo), whole);
     const bool hasArea = whole.xmin != whole.xmax && whole.ymin != whole.ymax;
-    if (!hasArea && mHasTabletArea) { // once, not each time that it is drawn
+    if (!hasArea && mHasTabletArea) { // once, not with each redraw
         qCWarning(lcMonitor, "the tablet's active area has no width or no height");
     }
     mHasTabletArea = hasArea;
@@ -281,7 +284,7 @@ Rect QVMonitorView::drawMiniatures(QPainter& painter) const
         painter.setPen(linePen(Qt::magenta));
         painter.setBrush(Qt::magenta);
         painter.drawRect(QRectF(miniature.x, miniature.y, miniature.width, miniature.height));
-        // On a miniature, which has the same colour in every theme.
+        // On the miniature, which has the same colour in every theme.
         painter.setPen(Qt::black);
         drawLabel(painter, displayName(i), miniature);
     }
@@ -427,9 +430,9 @@ void QVMonitorView::AutoCalibrate()
 void QVMonitorView::CreateCalibrateWin(const Rect& rect)
 {
     if (!mCalibration.isNull()) {
-        mCalibration->removeAndClose(); // one at a time: the driver's points go to the newest
+        mCalibration->removeAndClose(); // one at a time: the driver's reports go to the newest
     }
-    mCalibration = new QVCalibrateWin(rect, window()); // it is the window's, and closes with it
+    mCalibration = new QVCalibrateWin(rect, window()); // the window owns it and closes it
 }
 
 void QVMonitorView::DoCalibrate()
@@ -442,7 +445,7 @@ void QVMonitorView::DoCalibrate()
     }
     const int chosen = chosenItem();
     if (chosen <= 0 || static_cast<std::size_t>(chosen) > mDisplays.size()) {
-        return; // all displays together have no corners to touch
+        return; // all displays cannot be calibrated together
     }
     const auto index = static_cast<std::size_t>(chosen) - 1;
     const platform::Displays& service = platform::displays();
@@ -478,7 +481,7 @@ void DisplayRegisterReconfigurationCallback(
     auto& view = *static_cast<QVMonitorView*>(userInfo);
     const bool isBeginning = flags == platform::kDisplayBeginConfiguration;
     if (isBeginning == DisplayConfigurationChanged) {
-        return; // one of a burst
+        return; // not the last of several
     }
     DisplayConfigurationChanged = isBeginning;
     if (isBeginning) {

@@ -19,9 +19,9 @@ class QPushButton;
 class QVCalibrateWin;
 
 /**
- * The display page's picture: the displays in miniature over a drawing of the tablet, with the
- * mapped area framed and joined to the tablet. Also what the page's controls do: they change the
- * record and push it at once.
+ * The display page's picture: the displays in miniature above a drawing of the tablet, with a frame
+ * around the mapped area that is connected to the tablet. Also handles the page's controls, which
+ * change the record and push it at once.
  *
  * Before it is drawn, the mapped area of the record and the page's lists are brought up to date,
  * without pushing.
@@ -33,69 +33,68 @@ public:
     explicit QVMonitorView(QWidget* parent = nullptr);
 
     /**
-     * Connects the page's lists, and the button that starts a calibration, which is off while there
-     * is none to start; before awakeFromNib(). Without them, what they would do is left out.
+     * Sets the page's lists, and the button that starts a calibration, which is disabled while that
+     * is not possible; before awakeFromNib(). Each may be null.
      */
     void setOutlets(QComboBox* displays, QComboBox* speed, QComboBox* useMode,
         QPushButton* calibrate = nullptr);
-    /** The interface file has been loaded. */
+    /** Called when the interface file has been loaded. */
     void awakeFromNib();
 
-    /** Reads the displays and fills their list: with two or more, all of them first. */
+    /** Reads the displays and fills their list: with two or more, "all displays" comes first. */
     void interrogateHardware();
-    /** Empties the list of displays, which are about to change. */
+    /** Clears the list of displays, which are about to change. */
     void disableUI();
 
     /** Maps the tablet to the chosen display or to all. */
     void SelectMonitor();
-    /** Sets the report mode; the tablet is told over USB too. */
+    /** Sets the report mode, also in the tablet over USB. */
     void SelectSpeed();
-    /** Turns the tablet. */
+    /** Sets the tablet's orientation. */
     void SelectUseMode();
     /** Uses the whole tablet. */
     void setTabletDefaultArea();
     /**
-     * Starts a calibration on the chosen display: four crosses to be touched with the pen. With
-     * more displays than one and all of them chosen, nothing is shown.
+     * Starts a calibration on the chosen display: four crosses to be touched with the pen. If all
+     * of several displays are chosen, nothing is shown.
      */
     void DoCalibrate();
     /**
-     * Ends a calibration that is going on, as Escape does. An area that the user has not agreed to
-     * is taken back, and an alert that asks for it goes.
+     * Ends a running calibration, like Escape. Restores an area that the user has not confirmed,
+     * and closes the alert that asks for it.
      *
-     * @param pushes whether the driver is told; false where it has another tablet by now
+     * @param pushes whether to push the record; false if the driver has another tablet by now
      */
     void endCalibration(bool pushes = true);
-    /** Uses the part of the tablet that has the mapped area's shape. */
+    /** Uses the part of the tablet with the proportions of the mapped area. */
     void AutoCalibrate();
 
     /**
-     * Brings the list of displays and the mapped area of the record up to date with the displays,
-     * as drawing does. Pushes nothing.
+     * Updates the list of displays and the record's mapped area, as drawing does. Pushes nothing.
      *
-     * @return whether the record's area is another now
+     * @return whether the record's area has changed
      */
     bool updateMappedArea();
 
-    /** The lower right corner of the tablet's area in use, in the picture, as last drawn. */
+    /** The lower right corner of the used area of the tablet in the picture, as last drawn. */
     QVPoint tabletPictureCorner() const { return mTabletPicRightDn; }
 
     /**
-     * The smallest rectangle around the first mDspCount rectangles.
+     * The bounding rectangle of the first mDspCount rectangles.
      *
-     * @param rects as many as there are displays, at least one
+     * @param rects one for each display, at least one
      */
     void GetAllMonitorRect(const platform::Rect* rects, platform::Rect* outRect) const;
 
-    /** Which displays there are, where, and which of them the tablet reaches. */
+    /** Describes the displays, their positions, and which of them the tablet is mapped to. */
     QString spokenContents() const override;
 
 Q_SIGNALS:
-    /** Displays have come, gone, moved or turned, and the list shows them as they are now. */
+    /** The displays have changed, and the list is up to date. */
     void displaysChanged();
 
 protected:
-    /** Light windows have a light picture, dark ones a dark one. */
+    /** Selects the light or the dark picture. */
     void changeEvent(QEvent* event) override;
     void sync() override;
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
@@ -117,7 +116,7 @@ private:
     QPointer<QComboBox> mComboBoxSpeed;
     QPointer<QComboBox> mComboBoxUseMode;
     QPointer<QPushButton> mDoCalibrate;
-    QString mCalibrateHelp; ///< the button's own words
+    QString mCalibrateHelp; ///< the button's own text
     QByteArray mBackgroundFile; ///< the picture's file until the view is drawn for the first time:
                                 ///< decoded, it takes 4 MiB, which most showings of the panel spare
     QImage mBackgroundImage;
@@ -127,13 +126,13 @@ private:
     std::vector<platform::DisplayID> mDisplays;
     std::uint32_t mDspCount = 0;
     std::array<platform::Rect, kQVMaxDisplays> mSubMonitorRect{}; ///< global display points
-    QPointer<QVCalibrateWin> mCalibration; ///< while one is going on
-    QVPoint mTabletPicLeftUp{}; ///< of the area in use, in the picture
+    QPointer<QVCalibrateWin> mCalibration; ///< while one is running
+    QVPoint mTabletPicLeftUp{}; ///< of the used area, in the picture
     QVPoint mTabletPicRightDn{};
     bool mHasTabletArea = true; ///< as it was last drawn
-    std::int16_t mUnknownDisplay = 0; ///< the number of the last one that there was not
+    std::int16_t mUnknownDisplay = 0; ///< the last invalid number
 };
 
-/** Empties the view's list when displays begin to change, and fills it when they have changed. */
+/** Clears the view's list when displays begin to change, and fills it when they have changed. */
 void DisplayRegisterReconfigurationCallback(
     platform::DisplayID display, std::uint32_t flags, void* userInfo);

@@ -46,7 +46,7 @@ void QVNSView::resizeEvent(QResizeEvent* event)
 
 void QVNSView::tabletEvent(QTabletEvent* event)
 {
-    event->ignore(); // so that Qt makes a mouse event of it
+    event->ignore(); // so that Qt turns it into a mouse event
     const auto taken = platform::penEvent(*event, *this, mPenDownAt);
     if (taken && taken->type == platform::EventType::TabletPoint) {
         tabletPoint(*taken);

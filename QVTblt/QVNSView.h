@@ -7,19 +7,19 @@
 
 #include <QWidget>
 
-/** The notification that a pen has come into reach or has left it. */
+/** The notification that a pen has entered or left the range of the tablet. */
 inline constexpr QLatin1String kProximityNotification("kProximityNotification");
-/** Of its user info: the proximity event. */
+/** The key of the proximity event in its user info. */
 inline constexpr QLatin1String kProximityEventKey("kProximityEventKey");
-/** The same from an older path of events, which nothing here uses. */
+/** The same for an older kind of events, not used here. */
 inline constexpr QLatin1String kProximityEventCarbonKey("kProximityEventCarbonKey");
 
-/** Posts the notification of the event, with the one who relays it as its object. */
+/** Posts the notification of the event, with the relaying object as its sender. */
 void QVPostProximity(const QObject& relay, const std::shared_ptr<const platform::Event>& event);
 
 /**
- * Spreads the pen's coming and going to all views that want to know. It is the pane's main view,
- * and so told for as long as the pane is shown, whichever page is.
+ * The pane's main view, which contains all pages. It relays the pen's proximity events to the views
+ * that observe them, as long as the pane is shown, whatever page is open.
  */
 class QVNSView final : public QWidget, public platform::ProximityResponder {
     Q_OBJECT
@@ -28,19 +28,18 @@ public:
     explicit QVNSView(QWidget* parent = nullptr);
 
     void tabletProximity(const std::shared_ptr<const platform::Event>& event) override;
-    /** Who relays has no use for the notification. */
+    /** Does nothing: the relay does not need its own notification. */
     void handleProximity(const platform::Notification& notification);
-    /** Leaves a line in the log. */
+    /** Writes a line to the log. */
     void tabletPoint(const platform::Event& event);
 
 Q_SIGNALS:
-    /** The host has given the view another size. */
+    /** The host has resized the view. */
     void resized();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
-    /** What the pen does on other controls is theirs; that it presses otherwise comes through here.
-     */
+    /** Pen events belong to the controls; only changes of pressure are handled here. */
     void tabletEvent(QTabletEvent* event) override;
 
 private:

@@ -6,13 +6,13 @@
 
 class QVDrawView;
 
-/** Says in a line what the drawing pad last saw of pen and mouse. */
+/** A line with the last pen or mouse data of the drawing pad. */
 class QVPenStats final : public platform::LiveLabel {
     Q_OBJECT
 
 public:
     explicit QVPenStats(QWidget* parent = nullptr);
 
-    /** Follows the statistics of a pad, which lives as long. */
+    /** Shows the statistics of a pad with the same lifetime. */
     void observe(const QVDrawView& pad);
 };

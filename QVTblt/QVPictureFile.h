@@ -12,13 +12,13 @@ namespace platform {
 class Bundle;
 }
 
-/** Whether windows of the palette are dark, where a picture on white would glare. */
+/** Whether the palette is dark, where a white picture would glare. */
 bool QVIsDark(const QPalette& palette);
 
 /**
- * Path of a picture in the bundle, in the form that suits the view best: NAME-dark@2x, NAME-dark,
- * NAME@2x, or NAME itself, each with the type as it is given. A form that is asked for and is not
- * there is done without, density first; nothing where not even NAME is there.
+ * The path of a picture in the bundle, in the best variant for the view: NAME-dark@2x, NAME-dark,
+ * NAME@2x, or NAME itself, each with the given type. If a variant does not exist, first the density
+ * is dropped, then the theme; nothing if not even NAME exists.
  */
 std::optional<QString> QVPicturePath(const platform::Bundle& bundle, const QString& name,
     const QString& type, bool isDense, bool isDark);

@@ -7,14 +7,14 @@
 
 namespace {
 
-/** The linear part vanishes at 100 of the threshold's steps from the middle. */
+/** The linear part vanishes 100 steps of the threshold from the middle. */
 constexpr double kPressureRange = 1023;
 constexpr double kScale = kPressureRange * 100;
 constexpr int kMiddle = 100; ///< the threshold of the straight line
-constexpr int kStep = 5; ///< of the tablet's pressure, for a point of the view
+constexpr int kStep = 5; ///< steps of the tablet's pressure per point of the view
 constexpr int kHeight = 200;
 
-/** The height above the straight line's foot, of an output pressure. */
+/** The height of an output pressure in the view. */
 int points(double pressure)
 {
     return static_cast<int>(pressure) / kStep;

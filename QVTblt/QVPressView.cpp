@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kSliderSteps = 10; ///< in one of the threshold
+constexpr int kSliderSteps = 10; ///< per unit of the threshold
 
 QString nameOf(const platform::Event& pen)
 {
@@ -32,10 +32,10 @@ QString nameOf(const platform::Event& pen)
         .arg(pen.uniqueID);
 }
 
-/** A line a point wide that ends where its path does. */
+/** Draws a line one point wide that ends at the end of its path. */
 void strokeLine(QPainter& painter, const QPainterPath& path)
 {
-    constexpr double kLongestMitre = 10; // in widths; sharper corners are cut off
+    constexpr double kLongestMitre = 10; // in line widths; sharper corners are bevelled
     QPen pen(Qt::black, 1, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
     pen.setMiterLimit(kLongestMitre);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -47,7 +47,7 @@ void strokeLine(QPainter& painter, const QPainterPath& path)
 QVPressView::QVPressView(QWidget* parent)
     : PaneView(parent)
 {
-    setAttribute(Qt::WA_OpaquePaintEvent); // nothing shows through its ground
+    setAttribute(Qt::WA_OpaquePaintEvent); // its background is opaque
 }
 
 void QVPressView::setOutlets(platform::ChoiceSlider* slider, QLabel* penID)
@@ -76,7 +76,7 @@ void QVPressView::handleProximity(const platform::Notification& notification)
 QString QVPressView::spokenContents() const
 {
     const int threshold = GetqvTabletInfo()->Pen.PressureThreshold;
-    // Points of the curve's width and height, of which 200 are all.
+    // The curve is 200 points wide and high.
     const auto percentAt = [threshold](
                                int j) { return QString::number(QVPressHeight(threshold, j) / 2); };
     //: Read by screen readers for the pressure curve; %2 to %4 are percentages.
@@ -101,7 +101,7 @@ void QVPressView::drawRect(QPainter& painter, const platform::Rect& dirty)
     }
     SetPoint(threshold);
     DrawPressLine(painter, path);
-    const QSignalBlocker blocker(mSlider); // the record is as it is
+    const QSignalBlocker blocker(mSlider); // the record must not change
     mSlider->setValue(threshold * kSliderSteps);
 }
 
@@ -132,7 +132,7 @@ void QVPressView::SetPoint(int value)
 
 void QVPressView::AdjustPressLine(const QSlider* sender)
 {
-    const int threshold = sender->value() / kSliderSteps; // cut off toward zero
+    const int threshold = sender->value() / kSliderSteps; // truncated toward zero
     const platform::Rect all = bounds();
     mRedraw = 1;
     mFirstLoc = QPointF(static_cast<double>(sender->value()) / kSliderSteps + all.x, all.y);

@@ -19,8 +19,8 @@ class ChoiceSlider;
 }
 
 /**
- * The pen's pressure curve: how hard one presses to the right, what programs receive upwards. It is
- * computed from the record whenever it is drawn, and the slider follows.
+ * The pen's pressure curve: the pressure on the pen is the horizontal axis, what programs receive
+ * the vertical one. It is computed from the record whenever it is drawn, and the slider follows.
  */
 class QVPressView final : public platform::PaneView {
     Q_OBJECT
@@ -28,34 +28,34 @@ class QVPressView final : public platform::PaneView {
 public:
     explicit QVPressView(QWidget* parent = nullptr);
 
-    /** Connects the slider, which carries tenths, and what names the pen; before awakeFromNib(). */
+    /** Sets the slider, whose unit is a tenth, and the label for the pen; before awakeFromNib(). */
     void setOutlets(platform::ChoiceSlider* slider, QLabel* penID);
-    /** The interface file has been loaded. */
+    /** Called when the interface file has been loaded. */
     void awakeFromNib();
 
-    /** Takes the slider into the record and pushes it. */
+    /** Copies the slider's value to the record and pushes it. */
     void AdjustPressLine(const QSlider* sender);
     /** Computes the curve of a threshold. */
     void SetPoint(int value);
-    /** Computes a falling line as the curve; nothing here asks for it. */
+    /** Computes a falling line as the curve; not used. */
     void InitPoint();
 
-    /** The curve at three places. */
+    /** Describes the curve at three positions. */
     QString spokenContents() const override;
 
-    /** Names the pen that has come into reach. */
+    /** Shows the name of the pen that has come into range. */
     void handleProximity(const platform::Notification& notification);
 
 protected:
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
 
 private:
-    friend struct PressViewAccess; ///< of the tests: what nothing here reaches
+    friend struct PressViewAccess; ///< for the tests, to members that are not used here
 
     /** Adds the curve to a path and strokes it. */
     void DrawPressLine(QPainter& painter, QPainterPath& path) const;
 
-    // A line across what is drawn, in points, for as long as mRedraw is 0, which it never is.
+    // A line across the drawing, in points, while mRedraw is 0, which it never is.
     QPointF mFirstLoc;
     QPointF mLastLoc;
     std::uint8_t mRedraw = 1;

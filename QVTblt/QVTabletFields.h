@@ -17,7 +17,7 @@
  * is never loaded or saved and stays zero.
  */
 
-/** How an entry of the file becomes bytes of the record. */
+/** The type of a field, which determines the conversion of its entry. */
 enum class QVFieldType : std::uint8_t {
     Int16, ///< number; its low 16 bits, read as signed
     UInt16, ///< number; its low 16 bits, read as unsigned, written to the file as signed
@@ -30,7 +30,7 @@ enum class QVFieldType : std::uint8_t {
 struct QVSection {
     const char* key;
     bool saved; ///< whether the panel writes it back
-    bool hasSlots; ///< whether it also holds the slots' dictionaries, under kQVSlotKeys
+    bool hasSlots; ///< whether it also contains the slots' dictionaries, with the keys kQVSlotKeys
 };
 
 inline constexpr QVSection kQVTabletSection{"Tablet", false, false};

@@ -8,22 +8,22 @@
 
 /**
  * @file
- * The maker's tablets. Everything that depends on the model looks here: the panel, the driver that
- * comes with it, and the configuration files that this driver installs.
+ * The table of tablet models. Everything that depends on the model uses it: the panel, the driver
+ * that comes with it, and the configuration files that this driver installs.
  */
 
-/** The maker's USB vendor ID. */
+/** The USB vendor ID of all models. */
 inline constexpr std::uint16_t kQVVendorID = 0x6F3D;
 
-/** How the key page is laid out; QVTblt_prefPanePref::InitComboBoxWithKey says what each does. */
+/** The layout of the key page, see QVTblt_prefPanePref::InitComboBoxWithKey. */
 enum class QVKeyLayout : std::uint8_t {
-    A, ///< all eight keys and the left strip; also for every product that is not in the table
-    B, ///< nothing but the pen
+    A, ///< eight keys and the left strip; also for every product that is not in the table
+    B, ///< only the pen
     C, ///< four keys, one report speed
     D, ///< four keys
     E, ///< five keys
     F, ///< seven keys in groups of three, one and three
-    G, ///< two groups of four keys, a strip between them
+    G, ///< two groups of four keys with a strip in between
     H, ///< no keys at all
 };
 
@@ -36,7 +36,7 @@ struct QVTabletModel {
     std::uint16_t keyNum; ///< express keys
     std::uint16_t scrollNum; ///< scroll strips
     std::uint16_t penButtons; ///< buttons of the pen that comes with it: 1 or 2
-    std::uint16_t tabletXmax; ///< active area from (0, 0), in tablet units
+    std::uint16_t tabletXmax; ///< the active area is from (0, 0), in tablet units
     std::uint16_t tabletYmax;
     std::uint16_t pressureMax; ///< highest pressure value
 };
@@ -88,7 +88,7 @@ inline constexpr auto kQVTabletModels = std::to_array<QVTabletModel>({
 });
 // clang-format on
 
-/** The model with that product ID; null for one that is not ours. */
+/** Returns the model with that product ID; null if it is unknown. */
 constexpr const QVTabletModel* QVFindModel(std::uint16_t productID)
 {
     const auto* const found =

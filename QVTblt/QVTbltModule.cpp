@@ -4,7 +4,7 @@
 
 #include <QObject>
 
-/** The module's plug-in, by which a host makes the panel. */
+/** The module's plug-in, with which a host creates the panel. */
 class QVTbltModule final : public QObject, public platform::PreferencePanePlugin {
     Q_OBJECT
     Q_PLUGIN_METADATA(IID "org.quorvia.PreferencePanePlugin/3")

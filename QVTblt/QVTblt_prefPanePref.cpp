@@ -87,9 +87,10 @@ void QVTblt_prefPanePref::setUpDisplayPage()
 {
     mMonitorView->setOutlets(mComboBox, mComboBoxSpeed, mComboBoxUseMode, mDoCalibrate);
     mMonitorView->awakeFromNib();
-    // Where the page has just the room that it needs, Qt 5 leaves the text a pixel too few.
+    // If the page has its minimum size, Qt 5 makes the text a pixel too narrow.
     mComboBoxUseMode->setMinimumWidth(mComboBoxUseMode->sizeHint().width() + 2);
-    // Where there is no room for the whole picture, the part with the tablet and the main display.
+    // If there is no room for the whole picture, show the part with the tablet and the main
+    // display.
     QScrollBar* const upDown = mMonitorScroll->verticalScrollBar();
     connect(upDown, &QScrollBar::rangeChanged, upDown,
         [upDown] { upDown->setValue(upDown->maximum()); });
@@ -144,12 +145,12 @@ void QVTblt_prefPanePref::willSelect()
 {
     mHasDevice = askForDevice();
     if (mainView() == nullptr) {
-        return; // its window has gone
+        return; // its window is destroyed
     }
     tabView->setVisible(mHasDevice);
     NoDevTitle->setVisible(!mHasDevice);
     NoDevHelp->setVisible(!mHasDevice);
-    // Without a tablet there is nothing to name, to save or to cancel.
+    // Without a tablet, there is no name, and nothing to save or cancel.
     mSoft->setVisible(mHasDevice);
     mSave->setVisible(mHasDevice && mButtonsShown);
     mCancel->setVisible(mHasDevice && mButtonsShown);
@@ -159,7 +160,7 @@ void QVTblt_prefPanePref::willSelect()
     }
     ReadQVConfigPlist();
     showModel();
-    // No layout takes back what that of another product has done.
+    // A layout does not undo that of another product.
     if (mLaidOutProduct && *mLaidOutProduct != QVProductID(qvTabletInfo)) {
         restoreKeyPage();
     }
@@ -178,7 +179,7 @@ void QVTblt_prefPanePref::showModel()
 
 void QVTblt_prefPanePref::showNoDevice()
 {
-    // A point of a frame is a pixel of the widget's, so the font is measured in those too.
+    // A point of a frame is a pixel of the widget, so the font is measured in pixels, too.
     QFont font = QFontDatabase::systemFont(QFontDatabase::GeneralFont);
     font.setBold(true);
     font.setPixelSize(20);
@@ -187,7 +188,8 @@ void QVTblt_prefPanePref::showNoDevice()
     palette.setColor(QPalette::WindowText, QColor::fromRgbF(1.0F, 0.2F, 0.2F, 0.6F));
     NoDevTitle->setPalette(palette);
 
-    // The label moves on from where it stands: each showing without a tablet shifts it further.
+    // The label moves relative to its current position: each showing without a tablet shifts it
+    // further.
     platform::Rect frame = platform::frame(*NoDevTitle);
     frame.x = mNoDevTitleX + 20.0;
     frame.y -= 150.0;
@@ -205,8 +207,8 @@ void QVTblt_prefPanePref::placeNoDevice()
     if (NoDevTitle->isHidden()) {
         return;
     }
-    // The label keeps its distance from the side where lines begin. The help is under it, but never
-    // out of sight, where that may have gone.
+    // The label keeps its distance from the side where lines start. The help is below it, but
+    // always visible, unlike the label.
     constexpr double kMargin = 12;
     constexpr double kGap = 8;
     const QWidget& view = *NoDevHelp->parentWidget();
@@ -227,15 +229,15 @@ void QVTblt_prefPanePref::didSelect()
     }
     mSoft->setFocus();
     if (!NoDevHelp->isHidden()) {
-        NoDevHelp->setFocus(); // what there is to read
+        NoDevHelp->setFocus(); // so that screen readers read it
     }
 }
 
 void QVTblt_prefPanePref::willUnselect()
 {
     if (mainView() != nullptr) {
-        // The driver must not be left waiting for points that nobody asks for. One that has another
-        // tablet by now doesn't wait, and the settings are not that tablet's.
+        // The driver must not continue to send points. A driver with another tablet has stopped,
+        // and these settings are not for that tablet.
         mMonitorView->endCalibration(!mAnswer);
     }
     WriteQVConfigPlist();

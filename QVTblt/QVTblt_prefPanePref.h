@@ -26,9 +26,9 @@ struct Notification;
 } // namespace platform
 
 /**
- * The panel. Decides at each showing whether a tablet is there, has the record loaded and its pages
- * filled, and saves on leaving. Its outlets are the widgets of the interface file, under their
- * names there.
+ * The panel. At each showing, it checks whether a tablet is attached, loads the record and fills
+ * the pages; it saves on leaving. Its outlets are the widgets of the interface file, with the same
+ * names; mSoft is the label with the model's name.
  */
 class QVTblt_prefPanePref final : public platform::PreferencePane,
                                   public QVConfigStore,
@@ -38,32 +38,33 @@ class QVTblt_prefPanePref final : public platform::PreferencePane,
 public:
     platform::PreferencePane* initWithBundle(const platform::Bundle& bundle) override;
 
-    /** Asks the driver for a tablet, for at most a quarter of a second, and sets the pages up. */
+    /** Asks the driver for a tablet, for up to a quarter of a second, and sets up the pages. */
     void willSelect() override;
-    /** Puts the keyboard focus on mSoft. */
+    /** Sets the keyboard focus to mSoft. */
     void didSelect() override;
-    /** Saves the record into its file; pushes nothing. */
+    /** Saves the record to its file, without a push. */
     void willUnselect() override;
-    /** Puts the controls that a model's layout has moved back. */
+    /** Moves back the controls that a model's layout has moved. */
     void didUnselect() override;
 
     void save() override { SaveSet(); }
     void cancel() override { CancelSet(); }
     bool hasChanges() const override { return hasUnsavedFields(); }
     void setButtonsShown(bool shown) override { mButtonsShown = shown; }
-    /** Asks for at most a quarter of a second. */
+    /** Takes up to a quarter of a second. */
     Device checkDevice() override;
     bool hasDevice() const override;
     void send() override;
 
-    /** Saves the record into its file and pushes it. */
+    /** Saves the record to its file and pushes it. */
     void SaveSet();
-    /** Loads the file again and pushes the record. All pages keep showing what was given up. */
+    /** Reloads the file and pushes the record. All pages still show the discarded choices. */
     void CancelSet();
 
     /**
-     * Lays the key page out for the model and shows the record in its controls. The layouts move
-     * mKey1_1 and mKeyLScroll from where they stand, so a second call moves them again.
+     * Arranges the key page for the model and shows the record in its controls. The layouts move
+     * mKey1_1 and mKeyLScroll relative to their current positions, so a second call moves them
+     * again.
      */
     void InitComboBoxWithKey();
     /**
@@ -73,22 +74,23 @@ public:
      */
     void InitSingleComboBoxWithKey(QVKeyComboBox* comboBox, std::int32_t keyNo) const;
     /**
-     * Takes the user's choice into the slot that is the combo box's tag and pushes the record. The
-     * item of an application opens the chooser, that of a key combination its dialog; what the
-     * user cancels there brings the committed item back.
+     * Copies the user's choice to the slot in the combo box's tag and pushes the record. The
+     * application item opens the chooser, the key combination item its dialog; if the user cancels,
+     * the committed item is restored.
      */
     void SelectKey(QVKeyComboBox* comboBox);
-    /** Takes both scroll check boxes into the record and pushes it. */
+    /** Copies both scroll check boxes to the record and pushes it. */
     void SelectScroll();
-    /** Takes the slider into the record and pushes it. */
+    /** Copies the slider's value to the record and pushes it. */
     void ScrollSpeed(const QSlider* slider);
-    /** Lets the user choose an application. @return whether there is one; it is in mFileName */
-    bool SetApplicationPath();
-    /** The text of a slot's key combination, whether or not the slot is one. @param keyNo 0 to 17
+    /**
+     * Lets the user choose an application. @return whether one was chosen; its path is in mFileName
      */
+    bool SetApplicationPath();
+    /** The text of a slot's key combination, even if it is not in use. @param keyNo 0 to 17 */
     QString GetSubKeyString(std::int32_t keyNo) const;
 
-    /** The pen's coming and going is the views' alone. */
+    /** Does nothing: proximity events are handled by the views. */
     void tabletProximity(const std::shared_ptr<const platform::Event>& /*event*/) { }
     void handleProximity(const platform::Notification& /*notification*/) { }
 
@@ -110,17 +112,17 @@ private:
     void takeApplication(QVKeyComboBox& comboBox, tagQVTabletInfoSubKey& slot);
     void askForKeys(QVKeyComboBox& comboBox);
 
-    QTranslator mTranslator; ///< of the panel's own texts
-    double mNoDevTitleX = 0; ///< of the label, from the side on which lines begin
-    /** What the driver says of its tablet. */
+    QTranslator mTranslator; ///< for the panel's own texts
+    double mNoDevTitleX = 0; ///< of the label, from the side on which lines start
+    /** The driver's answer about its tablet. */
     struct Answer {
         std::array<char, kQVListNameSize> name{};
         bool hasDevice = false;
     };
-    std::optional<Answer> mAnswer; ///< for the next showing; other than what is shown
-    bool mHasDevice = false; ///< as it is shown
-    bool mButtonsShown = false; ///< Save and Cancel, where there is a tablet
-    QVKeySetClass* mKeyset = nullptr; ///< belongs to the main view
+    std::optional<Answer> mAnswer; ///< for the next showing; differs from what is shown
+    bool mHasDevice = false; ///< as currently shown
+    bool mButtonsShown = false; ///< Save and Cancel, if there is a tablet
+    QVKeySetClass* mKeyset = nullptr; ///< owned by the main view
     QString mFileName; ///< path of the application last chosen
 
     std::array<QVKeyComboBox*, kQVSlotCount> mSlotBoxes{}; ///< by slot

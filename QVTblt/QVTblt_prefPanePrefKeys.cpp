@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// The key page of the panel: its layouts, and what its controls do.
+// The key page of the panel: its layouts, and the actions of its controls.
 
 #include "Client.h"
 #include "OpenPanel.h"
@@ -42,7 +42,7 @@ constexpr std::array<Choice, 10> kChoices{
         {kQVMouseButton, kQVMiddleButton}, {kQVMouseButton, kQVBackButton}, {kQVApplication, 0},
         {kQVKeyCombination, 0}, {kQVNextDisplay, 0}, {kQVFinePositioning, 0}, {kQVPauseTablet, 0}}};
 
-/** The item for a slot; NoAction where the slot says nothing that is known. */
+/** The item for a slot; NoAction if its values are unknown. */
 QVKeyComboBox::Item itemOf(const tagQVTabletInfoSubKey& slot)
 {
     const auto* const found = std::ranges::find_if(kChoices, [&slot](const Choice& choice) {
@@ -53,7 +53,7 @@ QVKeyComboBox::Item itemOf(const tagQVTabletInfoSubKey& slot)
                                    : static_cast<QVKeyComboBox::Item>(found - kChoices.begin());
 }
 
-/** A field's text up to its NUL; bytes that are not ASCII show as replacement characters. */
+/** A field's text up to its NUL, with replacement characters for non-ASCII bytes. */
 QString textOf(const QVString& field)
 {
     QString text;
@@ -64,7 +64,10 @@ QString textOf(const QVString& field)
     return text;
 }
 
-/** Stores a path. What is not ASCII or does not fit with its NUL leaves the field empty. */
+/**
+ * Stores a path. If it is not ASCII or too long for the field with its NUL, the field becomes
+ * empty.
+ */
 void storePath(const QString& path, QVString& field)
 {
     field.fill('\0');
@@ -75,13 +78,13 @@ void storePath(const QString& path, QVString& field)
     }
 }
 
-/** Light grey, with text that can be read on it in a dark theme too. */
+/** Colours a box light grey, with readable text even in a dark theme. */
 void tint(QVKeyComboBox& box)
 {
     if (box.testAttribute(Qt::WA_SetPalette)) {
-        return; // it is already
+        return; // already done
     }
-    // The list stays as it is everywhere; without a say of its own it would be grey too.
+    // The list keeps its usual colours; by default, it would inherit the grey.
     const QPalette usual = QApplication::palette(box.view());
     QPalette list;
     for (const QPalette::ColorRole role : {QPalette::Base, QPalette::Text, QPalette::Window,
@@ -107,7 +110,7 @@ void hide(std::span<QVKeyComboBox* const> boxes)
     }
 }
 
-/** Shows a strip's field in its box. A strip is on when its field is 0. */
+/** Shows a strip's field in its box. A strip is on if its field is 0. */
 void showStrip(QCheckBox& box, std::int16_t field)
 {
     const QSignalBlocker blocker(box);
@@ -122,8 +125,8 @@ void disable(std::span<QVKeyComboBox* const> boxes)
 }
 
 /**
- * Moves the first box by (x, y) from its frame, and puts the others below it, each at its distance
- * from the first; distances in points, y growing upwards.
+ * Moves the first box by (x, y) from its frame, and the others below it, at the given distances
+ * from the first; in points, with y growing upwards.
  */
 void moveColumn(
     std::span<QVKeyComboBox* const> boxes, double x, double y, std::span<const double> distances)
@@ -142,7 +145,7 @@ void moveColumn(
 
 void QVTblt_prefPanePref::setUpKeyPage()
 {
-    // What was of another main view is gone with it.
+    // Widgets of a previous main view have been destroyed with it.
     mEnabledAtFirst.clear();
     mLaidOutProduct.reset();
     keyCanvas->takePlaces();
@@ -166,7 +169,7 @@ void QVTblt_prefPanePref::setUpKeyPage()
         connect(box, qOverload<int>(&QComboBox::activated), this, [this, box] { SelectKey(box); });
     }
     for (QCheckBox* const box : {mKeyLScroll, mKeyRScroll}) {
-        // Screen readers toggle a box without a click.
+        // Screen readers toggle a check box without a click.
         connect(box, &QCheckBox::toggled, this, &QVTblt_prefPanePref::SelectScroll);
     }
     mScrollSpeed->setStored([](int value) { return value == qvTabletInfo.Key.ScrollSpeed; });
@@ -248,7 +251,7 @@ void QVTblt_prefPanePref::layOutKeyPage(std::uint16_t productID)
             penKeyLower->setEnabled(false);
         }
         mKeyLScroll->hide();
-        // The wider gaps set the middle key apart, as on the tablet.
+        // The wider gaps separate the middle key, as on the tablet.
         moveColumn(bank, 45.0, -40.0, std::array{30.0, 60.0, 100.0, 140.0, 170.0, 200.0});
         hide(bank.subspan(7));
         mScrollSpeed->setEnabled(false);
@@ -274,7 +277,7 @@ void QVTblt_prefPanePref::layOutKeyPage(std::uint16_t productID)
         break;
     }
 
-    // The numbers go with their boxes; the pen's are texts that stay.
+    // The numbers move with their boxes; the pen's labels stay.
     for (std::size_t slot = 0; slot < kQVSlotCount; ++slot) {
         const QVKeyComboBox& box = *mSlotBoxes[slot];
         QLabel& label = *mSlotLabels[slot];

@@ -4,7 +4,7 @@
 
 namespace {
 
-/** The name of the first entry with that code; empty when there is none. */
+/** The name of the first entry with that code; empty if there is none. */
 std::u16string_view nameOf(std::uint8_t code)
 {
     for (const QVKeyName& key : hid_usb_2_adb_keymap_char) {
@@ -40,7 +40,7 @@ std::u16string QVKeyCombinationText(std::uint32_t combination)
         if (++position == kQVMaxKeys) {
             return text;
         }
-        --remaining; // wraps: 0 means that every later byte is a key
+        --remaining; // wraps around: from 0 on, every later byte is a key
         code = codeAt(position);
         if (code == 0 && remaining == 0) {
             return text;

@@ -7,18 +7,18 @@
 #include <string>
 #include <string_view>
 
-/** A key that a button can be given: its code, as the driver knows it, and its name. */
+/** A keyboard key that can be assigned to a button: its code for the driver, and its name. */
 struct QVKeyName {
-    std::uint8_t code; ///< virtual key code as descended from the Apple Desktop Bus
+    std::uint8_t code; ///< virtual key code, derived from the Apple Desktop Bus
     std::u16string_view name;
 
-    /** Whether this is the table's end. The code alone does not tell: that of "A" is 0 too. */
+    /** Whether this is the end of the table. The code is not enough: "A" also has 0. */
     constexpr bool isEnd() const { return code == 0 && name.empty(); }
 };
 
 /**
- * The keys in the order of the table, then its end. Files hold these codes, so none may change;
- * "Ctrl" has 54 here, which elsewhere is the right Command key.
+ * The table of keys, in order, and its end marker. Files contain these codes, so they must not
+ * change; "Ctrl" has 54, which elsewhere is the right Command key.
  */
 inline constexpr std::array<QVKeyName, 69> hid_usb_2_adb_keymap_char{{
     // Letters
@@ -99,18 +99,18 @@ inline constexpr std::array<QVKeyName, 69> hid_usb_2_adb_keymap_char{{
     {0, u""},
 }};
 
-/** What stands between the names of a combination. */
+/** The separator between the names of a combination. */
 inline constexpr std::u16string_view kQVKeySeparator = u"  ";
 
-/** Most keys of a combination. */
+/** Maximum number of keys in a combination. */
 inline constexpr int kQVMaxKeys = 3;
 
 /**
  * The text of a key combination, at most three names.
  *
- * @param combination the record's field: key codes in bytes 0 to 2 (the lowest is byte 0), their
- *     number in byte 3. A zero byte stands for "A" as long as the number says that a key is there;
- *     a number that is too small counts down through zero, so that every later byte is shown. An
- *     unknown code gives no name, but the one after it still has its separator.
+ * @param combination the record's field: key codes in bytes 0 to 2 (byte 0 is the least
+ *     significant), their number in byte 3. A zero byte is "A" if the number says that there is a
+ *     key; a number that is too small wraps around at zero, so that every later byte is shown. An
+ *     unknown code has no name, but the next one still has its separator.
  */
 std::u16string QVKeyCombinationText(std::uint32_t combination);

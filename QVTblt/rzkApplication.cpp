@@ -16,8 +16,8 @@ std::array<char, kQVListNameSize> pListname{};
 namespace {
 
 /**
- * The key data of the query. The driver expects a platform's long integer: the property's code and,
- * where a long has room for both, the driver's signature behind it.
+ * The key data of the query. The driver expects the platform's long: the property's code and, if a
+ * long has room for both, the driver's signature after it.
  */
 std::array<std::byte, sizeof(long)> configKeyData()
 {
@@ -31,7 +31,7 @@ std::array<std::byte, sizeof(long)> configKeyData()
 /**
  * Sends the query.
  *
- * @return the driver's answer, 0 for one that cannot be read; nothing when no answer came
+ * @return the driver's answer, 0 if it cannot be read; nothing without an answer
  */
 std::optional<std::int64_t> askDriver()
 {
@@ -42,8 +42,8 @@ std::optional<std::int64_t> askDriver()
     if (service.createDesc(typeApplSignature, bytesOf(kQVDriverSignature), driver) != noErr) {
         return std::nullopt;
     }
-    // Only the address and the sending decide. What any step between them fails to make, the
-    // driver misses and refuses.
+    // Only the results of the address and the sending matter. If a step in between fails, the
+    // driver rejects the incomplete event.
     AppleEvent query;
     service.createAppleEvent(kAECoreSuite, kAEGetData, driver, query);
 
@@ -83,7 +83,7 @@ bool GetQVConfigFileName(char* name)
     if (!answer) {
         return false;
     }
-    constexpr std::size_t kLongest = sizeof "65535.plist"; // callers need room for no more
+    constexpr std::size_t kLongest = sizeof "65535.plist"; // the room that callers provide
     std::snprintf(name, kLongest, "%ld.plist", static_cast<long>(*answer & 0xFFFF));
     return *answer != 0;
 }

@@ -10,20 +10,21 @@
 
 /**
  * @file
- * The one settings record, the name of its file, and the question to the driver that finds both.
+ * The single settings record, the name of its configuration file, and the query to the driver for
+ * that name, with its time-out of a quarter of a second.
  *
- * Everything runs on the main thread; nothing is copied or locked.
+ * Main thread only; nothing is copied or locked.
  */
 
-/** How long a request waits for the driver, in ticks: a quarter of a second. */
+/** The time-out of requests to the driver, in ticks: a quarter of a second. */
 inline constexpr std::int32_t kQVDriverTimeOut = 15;
 
-/** Bytes of the configuration file's name, its terminating NUL included. */
+/** Size of the configuration file's name, including its terminating NUL. */
 inline constexpr std::size_t kQVListNameSize = 32;
 
 /**
- * All settings of the attached tablet. Zero when the module is loaded, alive as long as it is, and
- * never cleared: what a file lacks keeps its value.
+ * All settings of the attached tablet. Zero when the module is loaded, and never cleared: fields
+ * that are missing in a file keep their value.
  */
 extern tagQVTabletInfo qvTabletInfo;
 
@@ -37,17 +38,16 @@ tagQVTabletInfo* GetqvTabletInfo();
 char* GetPListName();
 
 /**
- * Asks the driver for the attached tablet's configuration file. Blocks for at most
- * kQVDriverTimeOut.
+ * Asks the driver for the attached tablet's configuration file. Blocks for up to kQVDriverTimeOut.
  *
  * @param name takes "<number>.plist", at most 12 bytes with the NUL; the number is the low 16 bits
- *     of the driver's answer. Left alone when the driver does not answer.
- * @return whether a tablet is there: the answer is not 0
+ *     of the driver's answer. Not changed if the driver does not answer.
+ * @return whether a tablet is attached: the answer is not 0
  */
 bool GetQVConfigFileName(char* name);
 
-/** The same into pListname. */
+/** The same, with pListname as the name. */
 bool rzkgetQVDevice();
 
-/** Whether a tablet is there, without noting its file. The spelling is the function's name. */
+/** Whether a tablet is attached, without storing its file name. The spelling is intended. */
 bool GetQVTabeltDevices();

@@ -16,12 +16,12 @@
  * padding, and its integers are little-endian. The assertions below hold size, order and every
  * offset.
  *
- * Tablet units count from the upper left corner of the tablet's surface. Screen areas are in points
- * of the global display coordinates: origin at the upper left corner of the main display, y growing
- * downwards.
+ * Tablet units are relative to the upper left corner of the tablet's surface. Screen areas are in
+ * points of the global display coordinates: origin at the upper left corner of the main display, y
+ * growing downwards.
  */
 
-/** Longest string of the record, its terminating NUL included. */
+/** Size of a string in the record, including its terminating NUL. */
 inline constexpr std::size_t kQVStringSize = 256;
 
 /** Number of buttons: sixteen express keys, then the upper and the lower pen button. */
@@ -55,7 +55,7 @@ using QVString = std::array<char, kQVStringSize>;
 
 #pragma pack(push, 1)
 
-/** What the configuration file says of the model. The panel only carries it. */
+/** The model's data from the configuration file. The panel does not change it. */
 struct tagQVTabletInfoBasic {
     std::int16_t VendorID; ///< USB vendor ID
     std::int16_t ProductID; ///< USB product ID; read it with QVProductID()
@@ -74,13 +74,13 @@ struct tagQVTabletInfoBasic {
     QVString UpdateFilename;
 };
 
-/** How the pen answers to the hand. */
+/** How the pen responds to pressure. */
 struct tagQVTabletInfoPen {
     std::int16_t PressureThreshold; ///< 0 to 200; 100 is the straight line
     std::int16_t Speed;
 };
 
-/** Where the tablet's surface lies on the screen. The spelling is the section's name. */
+/** How the tablet is mapped to the screen. The spelling is intended. */
 struct tagQVTabletInfoMonitior {
     std::int16_t num; ///< chosen entry of the display list, from 0
     std::int16_t Speed; ///< report mode: 180 or 220
