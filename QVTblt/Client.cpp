@@ -65,7 +65,7 @@ std::int32_t openDevice(platform::UsbDeviceInterface& device, ReportModeOutcome&
     }
     if (error == platform::kIOReturnNotPermitted) {
         qCWarning(lcClient,
-            "this user may not open the tablet; the udev rule 60-quorvia-tablet.rules gives leave");
+            "no permission to open the tablet; the udev rule 60-quorvia-tablet.rules grants it");
     }
     return error == platform::kIOReturnSuccess ? configuration.bConfigurationValue : kNotOpened;
 }

@@ -129,8 +129,7 @@ std::string QVEntryFault(const platform::Dictionary& dictionary, const QVEntry& 
     if (isString && kind == platform::EntryKind::String) {
         return "longer than " + std::to_string(kQVStringSize - 1) + " characters, or not ASCII";
     }
-    return std::string(QVKindName(kind)) + " where " + (isString ? "a string" : "a number")
-        + " belongs";
+    return std::string(QVKindName(kind)) + " instead of " + (isString ? "a string" : "a number");
 }
 
 bool QVWriteEntry(

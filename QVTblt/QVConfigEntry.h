@@ -43,7 +43,7 @@ platform::Dictionary QVEntryDictionary(const platform::Dictionary& root, const Q
 QVEntryResult QVReadEntry(
     const platform::Dictionary& dictionary, const QVEntry& entry, tagQVTabletInfo& record);
 
-/** Why an entry is WrongType or Unfit, for messages: "an array where a number belongs". */
+/** Why an entry is WrongType or Unfit, for messages: "an array instead of a number". */
 std::string QVEntryFault(const platform::Dictionary& dictionary, const QVEntry& entry);
 
 /**

@@ -62,8 +62,8 @@ platform::Dictionary dictionaryIn(const platform::Dictionary& parent, const char
 {
     const platform::Dictionary dictionary = parent.dictionary(key);
     if (!dictionary.exists() && parent.kind(key) != platform::EntryKind::Absent) {
-        qCWarning(lcStore, "skipped %s: %s where a dictionary belongs", key,
-            QVKindName(parent.kind(key)));
+        qCWarning(
+            lcStore, "skipped %s: %s instead of a dictionary", key, QVKindName(parent.kind(key)));
     }
     return dictionary;
 }
@@ -92,7 +92,7 @@ platform::Result<> checkName()
         return {};
     }
     return platform::Error{
-        QStringLiteral("no configuration file is known, since no driver has named one"), true};
+        QStringLiteral("the driver has not given the name of a configuration file"), true};
 }
 
 /** Logs and posts why a file could not be used; a missing file is only posted. */

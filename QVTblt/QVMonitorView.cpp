@@ -245,7 +245,7 @@ bool QVMonitorView::updateMappedArea()
         QVSetMappedArea(*pQVInfo, mSubMonitorRect[chosen - 1]);
     } else if (num != mUnknownDisplay) { // once, not with each redraw
         mUnknownDisplay = num;
-        qCWarning(lcMonitor, "there is no display %d: the mapped area stays as it is", num);
+        qCWarning(lcMonitor, "there is no display %d: the mapped area is not changed", num);
     }
     updateCalibrate();
     return area() != before;

@@ -61,7 +61,7 @@ Result<> pushRecord()
     }
     const platform::OSErr error = platform::events().finishSends();
     if (error != platform::noErr) {
-        return Error{QStringLiteral("the driver did not take the record (error %1)").arg(error)};
+        return Error{QStringLiteral("the driver did not accept the record (error %1)").arg(error)};
     }
     return {};
 }
@@ -82,11 +82,11 @@ Result<tagQVTabletInfo> lastRecord()
     const QDBusReply<QByteArray> reply =
         QDBusConnection::sessionBus().call(simulatorCall("LastRecord"));
     if (!reply.isValid()) {
-        return Error{QStringLiteral("the driver does not tell what it got: %1")
+        return Error{QStringLiteral("the driver does not report its settings: %1")
                          .arg(reply.error().message())};
     }
     if (reply.value().size() != kQVRecordSize) {
-        return Error{QStringLiteral("the driver has not got a record yet")};
+        return Error{QStringLiteral("the driver has not received any settings yet")};
     }
     tagQVTabletInfo record{};
     std::memcpy(&record, reply.value().constData(), sizeof record);
@@ -154,7 +154,7 @@ int runSet(const QString& entry, const QString& value)
     const QVEntry* const found = findEntry(entry);
     if (found == nullptr || !found->section->saved) {
         fail(found != nullptr
-                ? QStringLiteral("%1 belongs to the tablet and cannot be set").arg(entry)
+                ? QStringLiteral("%1 describes the tablet and cannot be set").arg(entry)
                 : QStringLiteral("there is no entry %1; 'show' lists them all").arg(entry));
         return kExitUsage;
     }
@@ -165,7 +165,7 @@ int runSet(const QString& entry, const QString& value)
     }
     // The panel adds no dictionaries.
     if (!QVEntryDictionary(list->root(), *found).exists()) {
-        return fail(QStringLiteral("the tablet's file has no place for %1").arg(entry));
+        return fail(QStringLiteral("the tablet's file has no dictionary for %1").arg(entry));
     }
     if (const Result<> set = setEntry(*GetqvTabletInfo(), *found, value); !set) {
         fail(set.error().text);
@@ -184,8 +184,7 @@ int runUsbMode(bool isFast)
 {
     QVConfigStore store;
     if (const auto list = loadTablet(store); !list) {
-        return fail(
-            list.error().text + QStringLiteral(", so it is not known which tablet to tell"));
+        return fail(list.error().text + QStringLiteral(", so the tablet is not known"));
     }
     const auto productID = QVProductID(*GetqvTabletInfo());
     const Result<QString> told = setUsbMode(isFast, productID, modelName(*GetqvTabletInfo()));

@@ -82,15 +82,14 @@ platform::Result<> setEntry(tagQVTabletInfo& record, const QVEntry& entry, const
     } else {
         const std::optional<qint64> number = numberIn(value);
         if (!number) {
-            return Error{QStringLiteral("'%1' is no number").arg(value)};
+            return Error{QStringLiteral("'%1' is not a number").arg(value)};
         }
         list.root().setInteger(entry.key, *number);
     }
     switch (QVReadEntry(list.root(), entry, record)) {
     case QVEntryResult::Copied:
         if (!QVWriteEntry(list.root(), entry, record)) {
-            return Error{QStringLiteral(
-                "the text must not have control characters: no file could hold them")};
+            return Error{QStringLiteral("the text must not contain control characters")};
         }
         return {};
     case QVEntryResult::Truncated:

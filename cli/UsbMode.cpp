@@ -15,11 +15,11 @@ QString whyNotOpened(IOReturn error, const QString& name)
         return QStringLiteral("another program holds the %1").arg(name);
     case kIOReturnNotPermitted:
         return QStringLiteral(
-            "you may not open the %1; the udev rule 60-quorvia-tablet.rules gives "
-            "leave to the one who sits at the machine")
+            "you do not have permission to open the %1; the udev rule 60-quorvia-tablet.rules "
+            "grants it to the user at the machine")
             .arg(name);
     case kIOReturnNoDevice:
-        return QStringLiteral("the %1 was unplugged").arg(name);
+        return QStringLiteral("the %1 was disconnected").arg(name);
     default:
         return QStringLiteral("the %1 could not be opened").arg(name);
     }
@@ -29,13 +29,13 @@ QString whyNotTaken(IOReturn error, const QString& name)
 {
     switch (error) {
     case kIOUSBPipeStalled:
-        return QStringLiteral("the %1 refused the report mode").arg(name);
+        return QStringLiteral("the %1 rejected the report mode").arg(name);
     case kIOReturnNoDevice:
-        return QStringLiteral("the %1 was unplugged").arg(name);
+        return QStringLiteral("the %1 was disconnected").arg(name);
     case kIOReturnTimeout:
         return QStringLiteral("the %1 does not answer").arg(name);
     default:
-        return QStringLiteral("the %1 did not take the report mode").arg(name);
+        return QStringLiteral("the %1 did not accept the report mode").arg(name);
     }
 }
 
@@ -52,8 +52,8 @@ Result<QString> setUsbMode(bool isFast, std::uint16_t productID, const QString& 
         return Error{QStringLiteral("there is no %1 on the USB bus").arg(name)};
     }
     if (outcome.requested == kIOReturnSuccess) {
-        return QStringLiteral("told the %1 to report %2")
-            .arg(name, isFast ? QStringLiteral("fast") : QStringLiteral("normally"));
+        return QStringLiteral("set the report speed of the %1 to %2")
+            .arg(name, isFast ? QStringLiteral("fast") : QStringLiteral("normal"));
     }
     if (outcome.requested) {
         return Error{whyNotTaken(*outcome.requested, name)};
@@ -63,8 +63,9 @@ Result<QString> setUsbMode(bool isFast, std::uint16_t productID, const QString& 
     }
     if (outcome.configurations && outcome.configurations != 1) {
         return Error{
-            QStringLiteral("the %1 has %2 configurations instead of one, so it was left alone")
+            QStringLiteral("the %1 has %2 configurations instead of one, so it was skipped")
                 .arg(name, QString::number(*outcome.configurations))};
     }
-    return Error{QStringLiteral("the %1 does not say what it is, so it was left alone").arg(name)};
+    return Error{
+        QStringLiteral("the %1 does not return its descriptors, so it was skipped").arg(name)};
 }

@@ -21,24 +21,24 @@ constexpr const char* kHelp = R"(Usage: qvtbltctl COMMAND [ARGUMENT ...]
 The settings of the Quorvia pen tablet, without a window.
 
 Commands:
-  status              say whether there is a driver, a tablet, and a usable file
-  show [--json]       print the settings that the driver got last
+  status              print whether there is a driver, a tablet, and a usable file
+  show [--json]       print the last settings that the driver received
   show [--json] FILE  print the settings in a configuration file; - is standard input
-  check FILE          say of every entry of a configuration file whether it is usable
+  check FILE          print for every entry of a configuration file whether it is usable
   push                send the settings in the tablet's file to the driver
-  set ENTRY VALUE     change a setting, for instance 'set Pen/PressureThreshold 120':
+  set ENTRY VALUE     change a setting, for example 'set Pen/PressureThreshold 120':
                       send it to the driver and save the tablet's file
   usb-mode fast|normal
-                      tell the tablet on the USB bus how often to report the pen
-  sim tap X Y         have the simulated pen touch a point, in tablet units,
+                      set the report speed of the tablet over USB
+  sim tap X Y         touch a point with the simulated pen, in tablet units,
                       while the panel calibrates
 
 Options:
-  -h, --help          print this text
+  -h, --help          print this help
   -v, --version       print the version
 
-Exit code: 0 when all is well; 1 when there is no driver, no tablet or no usable file, or the
-output cannot be written; 2 when the command is not understood.
+Exit code: 0 on success; 1 if there is no driver, no tablet or no usable file, or the output
+cannot be written; 2 if the command is not valid.
 )";
 
 int usageError(const QString& why)
@@ -69,7 +69,7 @@ platform::Result<> checkUsage(const QStringList& words, bool asJson)
         return platform::Error{QStringLiteral("there is no command '%1'").arg(words[0])};
     }
     if (asJson && words[0] != QLatin1String("show")) {
-        return platform::Error{QStringLiteral("--json goes with show alone")};
+        return platform::Error{QStringLiteral("--json can only be used with show")};
     }
     const auto count = words.size() - 1;
     if (count < command->least) {

@@ -17,7 +17,7 @@ class Driver(dbus.service.Object):
             answer = dbus.ByteArray(struct.pack('=i', 20737), variant_level=1)
             return [(0x2D2D2D2D, (0x6C6F6E67, answer))]
         if (event_class, event_id) != SETTINGS:
-            raise dbus.DBusException('nobody handles this event', name=NOT_HANDLED)
+            raise dbus.DBusException('there is no handler for this event', name=NOT_HANDLED)
         record = bytes(parameters[0][1][1])
         print('settings,', len(record), 'bytes', flush=True)
         if struct.unpack_from('=h', record, 293) != (1,):

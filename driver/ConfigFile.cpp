@@ -54,7 +54,7 @@ platform::Result<InstalledConfig> installConfigFile(const QVTabletModel& model)
         return config;
     }
     if (!QDir().mkpath(QFileInfo(config.path).path())) {
-        return platform::Error{QStringLiteral("cannot make the folder of %1").arg(config.path)};
+        return platform::Error{QStringLiteral("cannot create the folder of %1").arg(config.path)};
     }
     const tagQVTabletInfo record = defaults(model);
     platform::PropertyList list;

@@ -177,7 +177,7 @@ Result<> Driver::tap(std::uint16_t x, std::uint16_t y)
         return Error{QStringLiteral("no tablet is attached")};
     }
     if (!isCalibrating()) {
-        return Error{QStringLiteral("nobody asks for the pen: no calibration is going on")};
+        return Error{QStringLiteral("no panel is calibrating")};
     }
     mReports.tap(x, y);
     wakeReports();
@@ -220,7 +220,7 @@ void Driver::penUp()
 Result<> Driver::setReportRate(std::uint32_t perSecond)
 {
     if (perSecond < 1 || perSecond > ReportClock::kMostReports) {
-        return Error{QStringLiteral("a tablet makes 1 to 1000 reports in a second")};
+        return Error{QStringLiteral("the report rate must be 1 to 1000 per second")};
     }
     mClock.setRate(perSecond);
     mSendReports.stop();
@@ -319,7 +319,7 @@ void Driver::watch(const QString& panel)
 void Driver::panelHasGone(const QString& panel)
 {
     if (endCalibration(panel.toUtf8())) {
-        say(QStringLiteral("%1 has gone while it calibrated").arg(panel));
+        say(QStringLiteral("%1 left the bus while calibrating").arg(panel));
     }
 }
 
@@ -369,7 +369,7 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
 
 OSErr Driver::refuse(const AppleEvent& event, const Error& error, AppleEvent& reply)
 {
-    say(QStringLiteral("refused %1/%2 from %3: %4")
+    say(QStringLiteral("rejected %1/%2 from %3: %4")
             .arg(QLatin1String(quoted(event.eventClass)), QLatin1String(quoted(event.eventID)),
                 senderOf(event), error.text));
     reply.parameters.push_back({keyErrorString, {typeUTF8Text, error.text.toUtf8()}});

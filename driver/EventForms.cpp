@@ -42,7 +42,7 @@ Result<> checkValue(const AEKeyDesc& entry, DescType type, std::initializer_list
                              QLatin1String(quoted(entry.desc.type)), QLatin1String(quoted(type)))};
     }
     if (bytes == nullptr || std::ranges::find(values, *bytes) == values.end()) {
-        return Error{QStringLiteral("%1 has not the expected value")
+        return Error{QStringLiteral("%1 does not have the expected value")
                          .arg(QLatin1String(quoted(entry.keyword)))};
     }
     return {};
@@ -59,7 +59,7 @@ Result<> checkSpecifier(const AEDesc& desc)
 {
     const auto* const entries = std::get_if<AERecord>(&desc.data);
     if (desc.type != typeObjectSpecifier || entries == nullptr) {
-        return Error{QStringLiteral("'----' is no object specifier")};
+        return Error{QStringLiteral("'----' is not an object specifier")};
     }
     if (Result<> keywords = checkKeywords("the object specifier", *entries,
             {keyAEDesiredClass, keyAEKeyForm, keyAEKeyData, keyAEContainer});

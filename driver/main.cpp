@@ -103,19 +103,18 @@ int main(int argc, char* argv[])
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Driver of the Quorvia pen tablet, with a simulated tablet for those who "
-                       "have none at hand."));
+        QStringLiteral("Driver of the Quorvia pen tablet, with a simulated tablet."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption attachOption(QStringLiteral("attach"),
-        QStringLiteral("Attach the model with the product ID ID, or none. Without this option, the "
-                       "one that was attached last."),
+        QStringLiteral("Attach the model with the product ID ID, or none. The default is the model "
+                       "that was attached last."),
         QStringLiteral("ID"));
     const QCommandLineOption listOption(
-        QStringLiteral("list"), QStringLiteral("List the models and end."));
+        QStringLiteral("list"), QStringLiteral("List the models and exit."));
     const QCommandLineOption windowOption(QStringLiteral("window"),
-        QStringLiteral("Show the simulated tablet in a window, to be touched with the mouse or the "
-                       "keyboard. Closing the window ends the driver."));
+        QStringLiteral("Show the simulated tablet in a window, for use with the mouse or the "
+                       "keyboard. Closing the window stops the driver."));
     parser.addOptions({attachOption, listOption, windowOption});
     parser.process(*application);
 
@@ -132,7 +131,7 @@ int main(int argc, char* argv[])
         bool isNumber = true;
         productID = wanted == QLatin1String("none") ? ushort{0} : wanted.toUShort(&isNumber, 0);
         if (!isNumber) {
-            return fail(QStringLiteral("'%1' is no product ID").arg(wanted));
+            return fail(QStringLiteral("'%1' is not a product ID").arg(wanted));
         }
     }
 

@@ -18,7 +18,7 @@ LoadedPane loadPane(const QString& modulePath, const QString& resourcesPath)
     }
     std::unique_ptr<platform::PreferencePane> pane = plugin->makePane();
     if (pane->initWithBundle(bundle) == nullptr) {
-        return {platform::Error{QStringLiteral("%1 refused its bundle").arg(file)}, bundle};
+        return {platform::Error{QStringLiteral("%1 rejected its bundle").arg(file)}, bundle};
     }
     return {std::move(pane), bundle};
 }

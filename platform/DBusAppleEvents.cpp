@@ -205,8 +205,8 @@ public:
             mLastError = errorCode(watcher->reply());
             // The sender has long continued and does not care, so this is only logged for
             // debugging.
-            qCDebug(
-                lcEvents, "an event was not taken: %s", qUtf8Printable(watcher->error().message()));
+            qCDebug(lcEvents, "an event was not accepted: %s",
+                qUtf8Printable(watcher->error().message()));
         }
         watcher->deleteLater();
     }
@@ -247,7 +247,7 @@ private:
     {
         const QString sender = call.service();
         if (!mayDeliver(sender)) {
-            logRefusal(sender, "an event from elsewhere than the driver");
+            logRefusal(sender, "an event that is not from the driver");
             answer(call, bus,
                 call.createErrorReply(QDBusError::AccessDenied,
                     QStringLiteral("only the tablet's driver may send events here")));
@@ -275,7 +275,7 @@ private:
         if (found == mHandlers.end()) {
             answer(call, bus,
                 errorReply(call, errAEEventNotHandled,
-                    QStringLiteral("nobody handles the event %1/%2")
+                    QStringLiteral("there is no handler for the event %1/%2")
                         .arg(QLatin1String(quoted(event.eventClass)),
                             QLatin1String(quoted(event.eventID)))));
             return;
@@ -314,7 +314,7 @@ private:
     {
         if (!mRefused.contains(sender) && mRefused.size() < kMaxRefused) {
             mRefused.insert(sender);
-            qCWarning(lcEvents, "refused %s, from %s", what, qUtf8Printable(sender));
+            qCWarning(lcEvents, "rejected %s, sent by %s", what, qUtf8Printable(sender));
         }
     }
 

@@ -60,7 +60,7 @@ Result<std::string> readFile(const std::string& path, PropertyListSource source)
         return fail(systemText(errno));
     }
     if (isRegular && !S_ISREG(status.st_mode)) {
-        return fail(QStringLiteral("it is no regular file"));
+        return fail(QStringLiteral("it is not a regular file"));
     }
     std::string bytes;
     while (std::max<std::size_t>(bytes.size(), static_cast<std::size_t>(status.st_size))
@@ -299,7 +299,7 @@ Result<PropertyList> PropertyList::parse(std::string_view bytes)
         return root.error();
     }
     if (root->kind != Kind::Dictionary) {
-        return Error{QStringLiteral("its root is no dictionary")};
+        return Error{QStringLiteral("its root is not a dictionary")};
     }
     return PropertyList(std::move(*root));
 }
@@ -333,7 +333,7 @@ Result<std::string> xmlToSave(const PropertyListNode& root)
     }
     const Result<PropertyListNode> again = readXmlPropertyList(xml);
     if (!again || *again != root) {
-        return Error{QStringLiteral("it holds text that XML cannot hold")
+        return Error{QStringLiteral("it contains text that XML cannot represent")
             + (again ? QString() : QStringLiteral(": ") + again.error().text)};
     }
     return xml;

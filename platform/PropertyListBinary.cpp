@@ -152,7 +152,7 @@ private:
     {
         const std::uint64_t offset = number(mTable + index * mOffsetSize, mOffsetSize);
         if (offset < kMagicSize || offset >= mEnd) {
-            return refuse("an object lies outside of the list");
+            return refuse("an object is outside the list");
         }
         const std::size_t marker = byteAt(offset);
         object = {offset + 1, static_cast<unsigned>(marker >> 4U),
@@ -164,7 +164,7 @@ private:
             has(object.at, 1) ? std::size_t{1} << (byteAt(object.at) & 0xFU) : 0;
         if (!has(object.at, 1) || byteAt(object.at) >> 4U != 1 || width > 8
             || !has(object.at + 1, width)) {
-            return refuse("a count is no integer");
+            return refuse("a count is not an integer");
         }
         object.count = number(object.at + 1, width);
         object.at += 1 + width;
@@ -255,7 +255,7 @@ private:
         }
         const auto date = dateText(std::bit_cast<double>(number(object.at, 8)));
         text = date.value_or(std::string());
-        return date || refuse("a date lies outside of the years 1 to 9999");
+        return date || refuse("a date is outside the years 1 to 9999");
     }
 
     /** Counts the size of a text before it is created. */
@@ -289,7 +289,7 @@ private:
         }
         if (!isWide) {
             text = mBytes.substr(object.at, object.count);
-            return isUtf8(text) || refuse("a string is no text");
+            return isUtf8(text) || refuse("a string is not valid text");
         }
         QString wide(static_cast<int>(object.count), Qt::Uninitialized);
         qFromBigEndian<quint16>(mBytes.data() + object.at, wide.size(), wide.data());
@@ -330,7 +330,7 @@ private:
         for (std::uint64_t i = 0; i < object.count; ++i) {
             const std::uint64_t value = reference(i + (perPart - 1) * object.count);
             if (value >= mCount || reference(i) >= mCount) {
-                return refuse("a container refers to an object that is not there");
+                return refuse("a container refers to an object that does not exist");
             }
             Node& part = node.parts.emplace_back();
             Object key;
@@ -338,7 +338,7 @@ private:
                 return false;
             }
             if (perPart == 2 && key.type != 5 && key.type != 6) {
-                return refuse("a key is no string");
+                return refuse("a key is not a string");
             }
             if ((perPart == 2 && !readString(key, part.key)) || !readNode(value, part, depth)) {
                 return false;

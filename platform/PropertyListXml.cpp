@@ -297,17 +297,17 @@ private:
         switch (node.kind) {
         case Kind::Integer:
             if (!propertyListInteger(text)) {
-                refuse(shown(text) + " is no integer of 64 bits");
+                refuse(shown(text) + " is not a 64-bit integer");
             }
             break;
         case Kind::Real:
             if (!propertyListReal(text)) {
-                refuse(shown(text) + " is no real");
+                refuse(shown(text) + " is not a real");
             }
             break;
         case Kind::Date:
             if (!isDate(text)) {
-                refuse(shown(text) + " is no date"
+                refuse(shown(text) + " is not a date"
                     + (text.find('.') == std::string_view::npos ? "" : " in whole seconds"));
             }
             break;

@@ -58,7 +58,7 @@ IOReturn makeContext(Context& context)
     libusb_context* made = nullptr;
     const int error = libusb_init(&made);
     if (error != LIBUSB_SUCCESS) {
-        qCWarning(lcUsb, "the USB bus cannot be looked at: %s", libusb_strerror(error));
+        qCWarning(lcUsb, "cannot list the USB devices: %s", libusb_strerror(error));
         return resultOf(error);
     }
     context = Context(made, libusb_exit);

@@ -52,7 +52,7 @@ bool renderWithoutTablet(const QString& folder)
 int render(PaneWindow& window, const QString& folder)
 {
     if (!QDir().mkpath(folder)) {
-        say(stderr, QStringLiteral("qvtblt: cannot make the folder %1").arg(folder));
+        say(stderr, QStringLiteral("qvtblt: cannot create the folder %1").arg(folder));
         return kFailure;
     }
     const QStringList files = window.render(folder);
@@ -105,11 +105,12 @@ int main(int argc, char* argv[])
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Settings of the Quorvia pen tablet, in a window of their own."));
+        QStringLiteral("Settings of the Quorvia pen tablet, in a window."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption renderOption(QStringLiteral("render"),
-        QStringLiteral("Draw each page, with and without a tablet, into PNG files in DIR and end."),
+        QStringLiteral(
+            "Render each page, with and without a tablet, to PNG files in DIR and exit."),
         QStringLiteral("DIR"));
     parser.addOption(renderOption);
     parser.process(application);

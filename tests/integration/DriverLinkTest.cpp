@@ -876,7 +876,7 @@ TEST_F(Inbound, aStrangerIsRefusedAndLogged)
     const std::string log = testing::internal::GetCapturedStderr();
     EXPECT_EQ(reply.errorName(), QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
     EXPECT_FALSE(handled);
-    EXPECT_NE(log.find("refused an event from elsewhere than the driver, from "
+    EXPECT_NE(log.find("rejected an event that is not from the driver, sent by "
                   + stranger.uniqueName().toStdString()),
         std::string::npos)
         << log;
@@ -950,7 +950,7 @@ TEST_F(Inbound, aMalformedEventIsLogged)
     testing::internal::CaptureStderr();
     send(driver, {1U, 2U});
     const std::string log = testing::internal::GetCapturedStderr();
-    EXPECT_NE(log.find("refused a malformed event, from " + driver.uniqueName().toStdString()),
+    EXPECT_NE(log.find("rejected a malformed event, sent by " + driver.uniqueName().toStdString()),
         std::string::npos)
         << log;
 }
@@ -1056,7 +1056,7 @@ TEST_F(Inbound, anEventThatNobodyHandlesIsNamed)
 {
     Peer driver(mBus, kDriverName);
     EXPECT_EQ(send(driver, event(fourCharCode("abcd"), fourCharCode("efgh"), {})).errorMessage(),
-        QStringLiteral("nobody handles the event 'abcd'/'efgh'"));
+        QStringLiteral("there is no handler for the event 'abcd'/'efgh'"));
 }
 
 TEST_F(Inbound, aStrangersRefusalsAreLoggedOnceUntilTheDriverChanges)
@@ -1140,7 +1140,7 @@ TEST_F(Inbound, aCallThatOutlivesItsConnectionIsRefused)
     testing::internal::CaptureStderr();
     QCoreApplication::sendPostedEvents();
     const std::string log = testing::internal::GetCapturedStderr();
-    EXPECT_NE(log.find("refused an event"), std::string::npos) << log;
+    EXPECT_NE(log.find("rejected an event"), std::string::npos) << log;
     EXPECT_FALSE(handled);
 }
 

@@ -275,7 +275,7 @@ TEST_F(Reports, fromAnotherProgramThanTheDriverAreRefused)
         const QDBusMessage answer = send(stranger, {item(report(key, 5000, 5000))});
         EXPECT_EQ(answer.errorName(), QStringLiteral("org.freedesktop.DBus.Error.AccessDenied"));
     }
-    EXPECT_NE(testing::internal::GetCapturedStderr().find("refused an event"), std::string::npos);
+    EXPECT_NE(testing::internal::GetCapturedStderr().find("rejected an event"), std::string::npos);
     EXPECT_EQ(points(), 0);
 
     // The stranger's "down" report is not combined with the driver's "up" report.

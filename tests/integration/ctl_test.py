@@ -137,9 +137,9 @@ class Ctl(session.Session):
         self.assertEqual(shown, plistlib.loads(self.config().read_bytes()))
 
     def test_show_prints_what_the_driver_got_last(self):
-        self.assert_result(self.ctl("show"), 1, "", "does not tell what it got")
+        self.assert_result(self.ctl("show"), 1, "", "does not report its settings")
         self.start_driver()
-        self.assert_result(self.ctl("show"), 1, "", "has not got a record yet")
+        self.assert_result(self.ctl("show"), 1, "", "has not received any settings yet")
         self.ctl("set", "Monitor/cTabletXmax", "40000")
         self.assert_result(self.ctl("show"), 0, "Monitor/cTabletXmax       40000\n")
         self.assertEqual(json.loads(self.ctl("show", "--json").stdout)["Monitor"]["cTabletXmax"],
@@ -165,7 +165,7 @@ class Ctl(session.Session):
         before = self.config().read_bytes()
         result = self.ctl("check", self.config())
         self.assertEqual(result.returncode, 1)
-        for line in ("wrong     Pen/Speed: a string where a number belongs",
+        for line in ("wrong     Pen/Speed: a string instead of a number",
                      "truncated Monitor/num: only 4464 of the number fits",
                      "truncated Monitor/XOrg: only 1 of the number fits",
                      "wrong     Key/Key0/App: longer than 255 characters, or not ASCII",
@@ -233,7 +233,7 @@ class Ctl(session.Session):
         before = self.config().read_bytes()
         for entry in ("Key/penKeyL/Mouse", "Pen/Speed"):
             self.assert_result(
-                self.ctl("set", entry, "1"), 1, "", f"the tablet's file has no place for {entry}\n")
+                self.ctl("set", entry, "1"), 1, "", f"the tablet's file has no dictionary for {entry}\n")
         self.assertEqual(self.config().read_bytes(), before)
         self.assertEqual(self.simulator("Pushes"), ["u", "0"])
 
@@ -262,16 +262,16 @@ class Ctl(session.Session):
         before = self.config().read_bytes()
         for entry, value, why in (
                 ("Pen/Speeed", "5", "there is no entry Pen/Speeed"),
-                ("Tablet/KeyNum", "5", "belongs to the tablet"),
-                ("Pen/Speed", "fast", "'fast' is no number"),
+                ("Tablet/KeyNum", "5", "describes the tablet"),
+                ("Pen/Speed", "fast", "'fast' is not a number"),
                 ("Pen/Speed", "70000", "70000 does not fit"),
                 ("Pen/Speed", "-32769", "-32769 does not fit"),
                 ("Key/Key0/Key", "4294967296", "does not fit"),
                 ("Key/Key0/App", "caf\u00e9", "must be ASCII"),
                 ("Key/Key0/App", "x" * 256, "must be ASCII and at most 255"),
                 ("Key/Key0/App", "a\x1bb", "must not have control characters"),
-                ("Pen/Speed", "", "'' is no number"),
-                ("Pen/Speed", "0b1", "'0b1' is no number")):
+                ("Pen/Speed", "", "'' is not a number"),
+                ("Pen/Speed", "0b1", "'0b1' is not a number")):
             with self.subTest(entry=entry, value=value[:20]):
                 self.assert_result(self.ctl("set", entry, value), 2, "", why)
         self.assertEqual(self.config().read_bytes(), before)

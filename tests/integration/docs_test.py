@@ -186,7 +186,7 @@ class DriverProtocol(session.Session):
             result = self.run_program(
                 "busctl", "--user", "call", session.DRIVER_NAME, *session.EVENTS, "Send",
                 "uua(u(uv))", *codes.split(), "0")
-            self.assertEqual(result.stderr, "Call failed: nobody handles this event\n")
+            self.assertEqual(result.stderr, "Call failed: there is no handler for this event\n")
 
     def test_minimal_driver_knows_which_panel_calibrates(self):
         self.stop_driver(self.start_driver())  # leaves a configuration file

@@ -71,7 +71,7 @@ class Driver(session.Session):
                 self.assertNotEqual(words, QUERY)
                 self.assertTrue(self.send(words).startswith("Call failed: "), self.send(words))
         said = self.stop_driver(driver)
-        self.assertGreaterEqual(sum("refused 'core'/'getd'" in line for line in said),
+        self.assertGreaterEqual(sum("rejected 'core'/'getd'" in line for line in said),
                                 len(variants))
 
     def test_refuses_every_other_form_of_the_push(self):
@@ -91,7 +91,7 @@ class Driver(session.Session):
         self.assertEqual(self.send(PUSH), "a(u(uv)) 0")
         self.assertEqual(self.simulator("Pushes"), ["u", "1"])
         said = self.stop_driver(driver)
-        self.assertEqual(sum("refused 'TdSg'/'WSnd'" in line for line in said), len(variants))
+        self.assertEqual(sum("rejected 'TdSg'/'WSnd'" in line for line in said), len(variants))
         self.assertEqual(sum(line.startswith("push 1 from :") for line in said), 1)
 
     def test_says_what_arrived_one_line_each(self):
@@ -144,7 +144,7 @@ class Driver(session.Session):
         (self.home / "Library").write_text("in the way")
         driver = self.run_program(session.BIN / "tdsg-driver", "--attach", "20737")
         self.assertEqual(driver.returncode, 1)
-        self.assertIn("cannot make the folder", driver.stderr)
+        self.assertIn("cannot create the folder", driver.stderr)
 
     def test_forgets_nothing_when_it_is_told_to_end(self):
         for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):

@@ -83,14 +83,14 @@ class PenReports(session.Session):
         panel.send_signal(signal.SIGKILL)
         panel.wait()
         session.wait_for(lambda: not self.try_tap(), "the driver's notice")
-        self.assertIn("nobody asks for the pen", self.ctl("sim", "tap", 5, 5).stderr)
+        self.assertIn("no panel is calibrating", self.ctl("sim", "tap", 5, 5).stderr)
         # What was not sent to the dead panel does not go to the next one.
         panel = self.start_panel()
         self.tap(panel, 1, 7, 8)
         told = [report[:3] for report in self.reports(panel, REPORTS_OF_TAP)]
         self.assertEqual(told, [(1, 7, 8)] * 5 + [(0, 7, 8)])
         said = self.stop_driver(driver)
-        self.assertEqual(sum("has gone while it calibrated" in line for line in said), 1, said)
+        self.assertEqual(sum("left the bus while calibrating" in line for line in said), 1, said)
 
     def test_notices_a_panel_that_died_while_its_push_was_waiting(self):
         driver = self.start_driver()
@@ -100,7 +100,7 @@ class PenReports(session.Session):
         panel.wait()
         session.wait_for(lambda: self.simulator("Pushes") == ["u", "1"], "the push")
         session.wait_for(lambda: not self.try_tap(), "the driver's notice")
-        self.assertIn(f"{panel.name} has gone while it calibrated", self.stop_driver(driver))
+        self.assertIn(f"{panel.name} left the bus while calibrating", self.stop_driver(driver))
 
     def test_a_panel_that_only_ends_is_noticed_too(self):
         driver = self.start_driver()
@@ -110,7 +110,7 @@ class PenReports(session.Session):
         panel.stdin.flush()
         panel.wait(timeout=session.PATIENCE)
         session.wait_for(lambda: not self.try_tap(), "the driver's notice")
-        self.assertIn(f"{panel.name} has gone while it calibrated", self.stop_driver(driver))
+        self.assertIn(f"{panel.name} left the bus while calibrating", self.stop_driver(driver))
 
     def test_pushes_of_others_do_not_end_a_calibration(self):
         self.start_driver()
@@ -134,7 +134,7 @@ class PenReports(session.Session):
         self.assert_listens(first, 10)
         first.send_signal(signal.SIGKILL)
         first.wait()
-        while session.read_line(driver.stdout, "its end") != f"{first.name} has gone while it calibrated":
+        while session.read_line(driver.stdout, "its end") != f"{first.name} left the bus while calibrating":
             pass
         self.assert_listens(second, 11)
         self.push(second, 0)
@@ -155,7 +155,7 @@ class PenReports(session.Session):
             act()
             if self.simulator("Attached") == ["q", "0"]:
                 self.simulator("Attach", "q", "20739")
-            self.assertIn("nobody asks for the pen", self.ctl("sim", "tap", 5, 5).stderr)
+            self.assertIn("no panel is calibrating", self.ctl("sim", "tap", 5, 5).stderr)
             for panel in panels:  # each may calibrate again
                 self.push(panel, 1)
                 self.assert_listens(panel, 6)

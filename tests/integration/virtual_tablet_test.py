@@ -323,7 +323,7 @@ class VirtualTablet(Tablet, desktop.Desktop):
         (self.home / "Library").write_text("in the way")
         self.xdotool("key", "alt+t", "Down")
         session.wait_for(
-            lambda: any("cannot make the folder" in label for label in self.labels()), "the reason")
+            lambda: any("cannot create the folder" in label for label in self.labels()), "the reason")
         self.find(PROGRAM, "No tablet", "combo box")
 
     def test_closing_it_ends_the_driver_and_saves(self):

@@ -243,10 +243,10 @@ TEST(QVEntryFault, saysWhatStandsThereInsteadOrWhyItDoesNotFit)
     const QVEntry number{&kQVPenSection, nullptr, "k", 0, QVFieldType::Int16};
     const QVEntry string{&kQVPenSection, nullptr, "k", 0, QVFieldType::String};
     list.root().setString("k", "5");
-    EXPECT_EQ(QVEntryFault(list.root(), number), "a string where a number belongs");
+    EXPECT_EQ(QVEntryFault(list.root(), number), "a string instead of a number");
     EXPECT_EQ(QVEntryFault(list.root(), string), "longer than 255 characters, or not ASCII");
     list.root().setInteger("k", 5);
-    EXPECT_EQ(QVEntryFault(list.root(), string), "a number where a string belongs");
+    EXPECT_EQ(QVEntryFault(list.root(), string), "a number instead of a string");
 }
 
 TEST(QVWriteEntry, writesUnsignedFieldsAsSignedNumbers)

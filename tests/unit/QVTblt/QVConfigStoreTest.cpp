@@ -392,13 +392,13 @@ TEST_F(QVConfigStoreFile, skipsStringsWhereNumbersBelongAndNumbersWhereStringsBe
     const std::string log = read();
     EXPECT_TRUE(sameBytes(qvTabletInfo, {}));
     EXPECT_NE(
-        log.find("skipped VendorID of Tablet: a string where a number belongs"), std::string::npos)
+        log.find("skipped VendorID of Tablet: a string instead of a number"), std::string::npos)
         << log;
-    EXPECT_NE(log.find("skipped UpdateFilename of Tablet: a number where a string belongs"),
+    EXPECT_NE(log.find("skipped UpdateFilename of Tablet: a number instead of a string"),
         std::string::npos)
         << log;
-    EXPECT_EQ(countOf(log, "skipped Key0: a string where a dictionary belongs"), 1);
-    EXPECT_EQ(countOf(log, "skipped Pen: an array where a dictionary belongs"), 1);
+    EXPECT_EQ(countOf(log, "skipped Key0: a string instead of a dictionary"), 1);
+    EXPECT_EQ(countOf(log, "skipped Pen: an array instead of a dictionary"), 1);
 }
 
 TEST_F(QVConfigStoreFile, takesRealsAndBooleansByTheirValue)
@@ -513,7 +513,7 @@ TEST_F(QVConfigStoreFile, tellsWhoeverListensWhatBecameOfEachLoadAndSave)
     EXPECT_EQ(loadAndSave(), (Told{notLoaded + missing, notSaved + missing}));
 
     *GetPListName() = '\0';
-    const std::string nameless = "no configuration file is known, since no driver has named one";
+    const std::string nameless = "the driver has not given the name of a configuration file";
     EXPECT_EQ(loadAndSave(), (Told{notLoaded + nameless, notSaved + nameless}));
 }
 

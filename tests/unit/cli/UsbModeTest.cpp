@@ -31,10 +31,10 @@ protected:
 TEST_F(UsbMode, saysWhatTheTabletWasTold)
 {
     mUsb.devices.resize(1);
-    EXPECT_EQ(sentence(true), "told the Slate to report fast");
+    EXPECT_EQ(sentence(true), "set the report speed of the Slate to fast");
     EXPECT_TRUE(mIsDone);
     EXPECT_EQ(mUsb.data.back(), (std::vector<std::uint8_t>{4, 1}));
-    EXPECT_EQ(sentence(false), "told the Slate to report normally");
+    EXPECT_EQ(sentence(false), "set the report speed of the Slate to normal");
     EXPECT_EQ(mUsb.data.back(), (std::vector<std::uint8_t>{4, 0}));
 }
 
@@ -51,21 +51,21 @@ TEST_F(UsbMode, saysWhatKeptItFromTheTablet)
     tablet.openErrors = {kIOReturnNotPermitted};
     EXPECT_NE(sentence().find("60-quorvia-tablet.rules"), std::string::npos);
     tablet.openErrors = {kIOReturnNoDevice};
-    EXPECT_EQ(sentence(), "the Slate was unplugged");
+    EXPECT_EQ(sentence(), "the Slate was disconnected");
     tablet.openErrors = {kIOReturnError};
     EXPECT_EQ(sentence(), "the Slate could not be opened");
     tablet.requestError = kIOUSBPipeStalled;
-    EXPECT_EQ(sentence(), "the Slate refused the report mode");
+    EXPECT_EQ(sentence(), "the Slate rejected the report mode");
     tablet.requestError = kIOReturnNoDevice;
-    EXPECT_EQ(sentence(), "the Slate was unplugged");
+    EXPECT_EQ(sentence(), "the Slate was disconnected");
     tablet.requestError = kIOReturnTimeout;
     EXPECT_EQ(sentence(), "the Slate does not answer");
     tablet.requestError = kIOReturnError;
-    EXPECT_EQ(sentence(), "the Slate did not take the report mode");
+    EXPECT_EQ(sentence(), "the Slate did not accept the report mode");
     tablet.configurations = 2;
-    EXPECT_EQ(sentence(), "the Slate has 2 configurations instead of one, so it was left alone");
+    EXPECT_EQ(sentence(), "the Slate has 2 configurations instead of one, so it was skipped");
     tablet.configurations = 1;
     tablet.descriptorError = kIOReturnError;
-    EXPECT_EQ(sentence(), "the Slate does not say what it is, so it was left alone");
+    EXPECT_EQ(sentence(), "the Slate does not return its descriptors, so it was skipped");
     EXPECT_FALSE(mIsDone);
 }

@@ -25,7 +25,7 @@ std::string errorOfBinary(const std::string& bytes)
     const auto list = PropertyList::parse(bytes);
     const std::string error = errorText(list);
     EXPECT_EQ(list.has_value(), error.empty());
-    return error == "its root is no dictionary" ? std::string() : error;
+    return error == "its root is not a dictionary" ? std::string() : error;
 }
 
 /** Builds the binary form object by object; offsets and references have two bytes. */
@@ -155,7 +155,7 @@ TEST(PropertyListBinary, refusesABinaryListThatContradictsItself)
     }
     Binary reference;
     EXPECT_EQ(errorOfBinary(reference.finish(reference.addArray({77}))),
-        "a container refers to an object that is not there");
+        "a container refers to an object that does not exist");
     Binary count;
     EXPECT_EQ(errorOfBinary(count.finish(count.add("\xAF\x13" + std::string(8, '\x7F')))),
         "a container is longer than the list");
@@ -230,7 +230,7 @@ TEST(PropertyListBinary, refusesContainersInEachOtherBeforeTheStackIsFull)
 
 TEST(PropertyListBinary, binaryObjectsLieBetweenMagicAndTrailer)
 {
-    const std::string outside = "an object lies outside of the list";
+    const std::string outside = "an object is outside the list";
     std::string list = lastObject("\xA0");
     EXPECT_EQ(errorOfBinary(list), "");
     list[8] = 8; // the offset itself, as an object
@@ -248,9 +248,9 @@ TEST(PropertyListBinary, followsTheReferencesOfContainers)
     EXPECT_EQ(
         errorOfBinary(lastObject(std::string("\xA1\0", 2))), "containers nest deeper than 64");
     EXPECT_EQ(
-        errorOfBinary(lastObject("\xA1\1")), "a container refers to an object that is not there");
+        errorOfBinary(lastObject("\xA1\1")), "a container refers to an object that does not exist");
     EXPECT_EQ(errorOfBinary(lastObject("\xA1")), "a container is longer than the list");
-    EXPECT_EQ(errorOfBinary(lastObject(std::string("\xD1\0\0", 3))), "a key is no string");
+    EXPECT_EQ(errorOfBinary(lastObject(std::string("\xD1\0\0", 3))), "a key is not a string");
     EXPECT_EQ(
         errorOfBinary(lastObject(std::string("\xD1\0", 2))), "a container is longer than the list");
 }
@@ -267,7 +267,7 @@ TEST(PropertyListBinary, refusesObjectsThatNoXmlCouldHold)
 TEST(PropertyListBinary, longContainersCountWithAnIntegerObject)
 {
     const std::string tooLong = "a container is longer than the list";
-    const std::string noCount = "a count is no integer";
+    const std::string noCount = "a count is not an integer";
     const auto array = [](const std::string& count) {
         return errorOfBinary(lastObject("\xAF" + count));
     };
@@ -288,7 +288,7 @@ TEST(PropertyListBinary, longContainersCountWithAnIntegerObject)
     EXPECT_EQ(array(std::string("\x00\0", 2)), noCount);
     EXPECT_EQ(array('\x20' + std::string(40, '\0')), noCount) << "also where there is room";
     EXPECT_EQ(
-        array(std::string("\x10\1\1", 3)), "a container refers to an object that is not there");
+        array(std::string("\x10\1\1", 3)), "a container refers to an object that does not exist");
 }
 
 TEST(PropertyListBinary, aContainersReferencesOfTwoBytesHaveToFit)
@@ -300,7 +300,7 @@ TEST(PropertyListBinary, aContainersReferencesOfTwoBytesHaveToFit)
             + Binary::number(8, 8));
     };
     EXPECT_EQ(error('\xA2', 4), "containers nest deeper than 64");
-    EXPECT_EQ(error('\xD1', 4), "a key is no string");
+    EXPECT_EQ(error('\xD1', 4), "a key is not a string");
     EXPECT_EQ(error('\xA2', 3), "a container is longer than the list");
     EXPECT_EQ(error('\xD1', 3), "a container is longer than the list");
 }
@@ -396,7 +396,7 @@ TEST(PropertyListBinary, isWrittenInXmlWithAllItsValues)
 TEST(PropertyListBinary, datesAreThoseOfTheYears1To9999)
 {
     const auto date = [](double seconds) { return xmlOf("\x33" + bits(seconds)); };
-    const std::string outside = "a date lies outside of the years 1 to 9999";
+    const std::string outside = "a date is outside the years 1 to 9999";
     EXPECT_EQ(date(0), "<date>2001-01-01T00:00:00Z</date>");
     EXPECT_EQ(date(-1), "<date>2000-12-31T23:59:59Z</date>");
     EXPECT_EQ(date(817'008'360), "<date>2026-11-22T02:46:00Z</date>");
@@ -437,5 +437,5 @@ TEST(PropertyListBinary, refusesValuesThatAreCutOff)
     EXPECT_EQ(errorOfBinary(lastObject("\x5F\x13" + std::string(8, '\xFF'))),
         "a text is longer than the list");
     EXPECT_EQ(errorOfBinary(lastObject("\x81\x01")), "a reference is longer than the list");
-    EXPECT_EQ(errorOfBinary(lastObject("\x51\xE9")), "a string is no text");
+    EXPECT_EQ(errorOfBinary(lastObject("\x51\xE9")), "a string is not valid text");
 }

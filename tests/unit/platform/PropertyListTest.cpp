@@ -323,7 +323,7 @@ TEST(PropertyList, aFolderAFifoOrADeviceInItsPlaceIsRefusedWithoutWaiting)
     for (const std::string& path : {folder, fifo, std::string("/dev/zero")}) {
         const auto list = PropertyList::load(path);
         ASSERT_FALSE(list) << path;
-        EXPECT_NE(errorText(list).find("no regular file"), std::string::npos) << errorText(list);
+        EXPECT_NE(errorText(list).find("not a regular file"), std::string::npos) << errorText(list);
         EXPECT_FALSE(list.error().isMissingFile);
     }
 }
@@ -469,7 +469,8 @@ TEST(PropertyList, aStringOfTheBinaryFormThatXmlCannotHoldIsReadButNotSaved)
         const Saved saved(bytes);
         EXPECT_FALSE(saved.isSaved());
         EXPECT_TRUE(saved.isAsBefore());
-        EXPECT_NE(saved.why().find("it holds text that XML cannot hold: "), std::string::npos)
+        EXPECT_NE(
+            saved.why().find("it contains text that XML cannot represent: "), std::string::npos)
             << saved.why();
         const auto list = PropertyList::parse(bytes.toStdString());
         ASSERT_TRUE(list) << errorText(list);
@@ -491,10 +492,10 @@ TEST(PropertyList, aFractionOfASecondInTheBinaryFormIsReadButNotSaved)
     const Saved saved(fraction);
     EXPECT_FALSE(saved.isSaved());
     EXPECT_TRUE(saved.isAsBefore());
-    EXPECT_NE(saved.why().find("it holds text that XML cannot hold: '2026-11-22T02:46:00."),
+    EXPECT_NE(saved.why().find("it contains text that XML cannot represent: '2026-11-22T02:46:00."),
         std::string::npos)
         << saved.why();
-    EXPECT_TRUE(saved.why().ends_with("' is no date in whole seconds")) << saved.why();
+    EXPECT_TRUE(saved.why().ends_with("' is not a date in whole seconds")) << saved.why();
 }
 
 TEST(PropertyList, aDateDownToTheDayAndARealBeyondAllRangesAreSavedToTheLetter)

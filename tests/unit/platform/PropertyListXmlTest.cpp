@@ -24,7 +24,7 @@ std::string errorOfBytes(const std::string& bytes)
     const auto list = PropertyList::parse(bytes);
     const std::string error = errorText(list);
     EXPECT_EQ(list.has_value(), error.empty());
-    return error == "its root is no dictionary" ? std::string() : error;
+    return error == "its root is not a dictionary" ? std::string() : error;
 }
 
 std::string errorOf(const std::string& root)
@@ -81,7 +81,7 @@ TEST(PropertyListXml, quotesWhatItRefusesInOneLineOfPlainText)
 {
     // As shown in a log and on the panel, whatever the file contains.
     EXPECT_EQ(errorOf("<a\xc3\xa9>"), "unknown tag 'a?\?'");
-    EXPECT_EQ(errorOfEntry("<integer>~\x7F</integer>"), "'~?' is no integer of 64 bits");
+    EXPECT_EQ(errorOfEntry("<integer>~\x7F</integer>"), "'~?' is not a 64-bit integer");
     EXPECT_EQ(errorOf("<abcdefghijklmnopqrstuvwxyz0123456789>"),
         "unknown tag 'abcdefghijklmnopqrstuvwxyz012345'");
 }
@@ -209,14 +209,14 @@ TEST(PropertyListXml, refusesDefinitionsOfEntitiesBeforeTheyGrow)
 
 TEST(PropertyListXml, refusesWhatStandsInTheWrongPlace)
 {
-    EXPECT_EQ(errorOf(""), "it holds no value");
+    EXPECT_EQ(errorOf(""), "it contains no value");
     EXPECT_NE(errorOf("</dict>"), "");
-    EXPECT_EQ(errorOf("<dict></dict><key>k</key>"), "a key where a value belongs");
+    EXPECT_EQ(errorOf("<dict></dict><key>k</key>"), "a key instead of a value");
     EXPECT_EQ(errorOf("<dict><true/></dict>"), "a value without a key");
     EXPECT_EQ(errorOf("<dict><key>k</key></dict>"), "a key without a value");
-    EXPECT_EQ(errorOf("<dict><key>k</key><key>l</key></dict>"), "a key where a value belongs");
-    EXPECT_EQ(errorOf("<array><key>k</key></array>"), "a key where a value belongs");
-    EXPECT_EQ(errorOf("<array>x</array>"), "text where a value belongs (line 1)");
+    EXPECT_EQ(errorOf("<dict><key>k</key><key>l</key></dict>"), "a key instead of a value");
+    EXPECT_EQ(errorOf("<array><key>k</key></array>"), "a key instead of a value");
+    EXPECT_EQ(errorOf("<array>x</array>"), "text instead of a value (line 1)");
     EXPECT_EQ(errorOf("<dict><key>a<b/></key><true/></dict>"), "'a' is interrupted");
     EXPECT_EQ(errorOfEntry("<integer>5<integer/></integer>"), "'5' is interrupted");
     EXPECT_EQ(errorOfEntry("<true>x</true>"), "'x' in a boolean");
