@@ -46,7 +46,9 @@ inline constexpr std::uint8_t kQVReportNormal = 0;
  */
 bool controlUSBDev(std::uint8_t flag, std::uint16_t productID);
 
-/** What became of a request; of several devices, each value is that of the last to come so far. */
+/**
+ * The outcome of a request; with several devices, each value is from the last one that got so far.
+ */
 struct ReportModeOutcome {
     bool isSearched = false; ///< the bus could be searched
     bool isFound = false; ///< the tablet is on it
@@ -55,15 +57,15 @@ struct ReportModeOutcome {
     std::optional<platform::IOReturn> requested;
 };
 
-/** controlUSBDev() for callers who want to know what became of the request. */
+/** Like controlUSBDev(), but returns the outcome of the request. */
 ReportModeOutcome requestReportMode(std::uint8_t flag, std::uint16_t productID);
 
 /**
  * Sends the request to the first device that can be opened. If all are held by other programs,
  * tries four times in all, with a second after each.
  *
- * @return 0 when a device was opened and asked, -1 when there was none, or none to be opened. Also
- *     0, with nothing sent, when the first device gives no interface
+ * @return 0 if a device was opened and sent the request, -1 if there was none, or none could be
+ *     opened. Also 0, with nothing sent, if the first device returns no interface
  */
 std::int32_t iterateDevices(platform::UsbIterator& devices, std::uint8_t flag);
 
@@ -73,7 +75,7 @@ std::unique_ptr<platform::UsbDeviceInterface> getUSBDevice(const platform::UsbSe
 /**
  * Opens a device that has exactly one configuration.
  *
- * @return its bConfigurationValue; -2 when another program holds it, -1 for every other reason
+ * @return its bConfigurationValue; -2 if another program holds it, -1 for any other reason
  */
 std::int32_t openUSBDevice(platform::UsbDeviceInterface& device);
 

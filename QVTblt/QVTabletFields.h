@@ -12,9 +12,9 @@
 
 /**
  * @file
- * The one table of the configuration file's entries: which bytes of the record each belongs to.
- * Loading, saving, checking and printing all walk it. A field of the record that has no entry here
- * is never loaded or saved and stays zero.
+ * The table of the configuration file's entries, which maps each to bytes of the record. Loading,
+ * saving, checking and printing iterate over it. A field without an entry here is never loaded or
+ * saved and stays zero.
  */
 
 /** The type of a field, which determines the conversion of its entry. */
@@ -38,7 +38,7 @@ inline constexpr QVSection kQVPenSection{"Pen", true, false};
 inline constexpr QVSection kQVKeySection{"Key", true, true};
 inline constexpr QVSection kQVMonitorSection{"Monitor", true, false};
 
-/** The sections in the order in which they are loaded. */
+/** The sections, in the order of loading. */
 inline constexpr std::array<const QVSection*, 4> kQVSections{
     &kQVTabletSection, &kQVPenSection, &kQVKeySection, &kQVMonitorSection};
 
@@ -56,7 +56,7 @@ struct QVEntry {
     QVFieldType type;
 };
 
-/** All entries in the order in which they are loaded; those of one dictionary are consecutive. */
+/** All entries, in the order of loading; those of a dictionary are consecutive. */
 inline constexpr std::array<QVEntry, 102> kQVEntries = [] {
     using enum QVFieldType;
     using Record = tagQVTabletInfo;

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstdint>
 
-/** A number cut off toward zero. What is beyond 32 bits, or no number, is 0. */
+/** Truncates a number toward zero. A value beyond 32 bits or NaN becomes 0. */
 inline std::int32_t QVTruncate(double value)
 {
     const double whole = std::trunc(value);

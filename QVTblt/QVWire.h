@@ -8,15 +8,15 @@
 
 /**
  * @file
- * The wire between panel and driver: names, codes and the pen report, for whoever speaks on it.
- * docs/driver-protocol.md describes the events; tagQVTabletInfo.h has the record that a push
- * carries, AppleEventWire.h how events travel on the bus.
+ * The wire between panel and driver: names, codes and the pen report. docs/driver-protocol.md
+ * describes the events; tagQVTabletInfo.h has the record that a push carries, AppleEventWire.h how
+ * events travel on the bus.
  */
 
-/** The driver's signature, which gives it its bus name, and the class of the settings event. */
+/** The driver's signature, from which its bus name is made, and the class of the settings event. */
 inline constexpr platform::FourCharCode kQVDriverSignature = platform::fourCharCode("TdSg");
 
-/** The driver's property that says which configuration file belongs to the tablet. */
+/** The driver's property with the number of the tablet's configuration file. */
 inline constexpr platform::FourCharCode kQVConfigProperty = platform::fourCharCode("QCFG");
 
 /** The settings event, and its parameter: the record as text. */
@@ -26,12 +26,12 @@ inline constexpr platform::AEKeyword kQVSettingsData = platform::fourCharCode("d
 /** The type of a pen report. */
 inline constexpr platform::DescType kQVPenReportType = platform::fourCharCode("rprt");
 
-/** One report of the pen, as the driver sends it to a panel that calibrates. */
+/** One pen report, as sent to a calibrating panel. */
 struct QVPenReport {
     std::uint32_t key; ///< 1 while the tip is down, 0 while it is up
     std::uint16_t x; ///< in tablet units
     std::uint16_t y;
-    std::uint32_t pressure; ///< which the panel does not read
+    std::uint32_t pressure; ///< not read by the panel
 
     bool operator==(const QVPenReport&) const = default;
 };

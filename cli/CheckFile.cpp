@@ -50,7 +50,7 @@ void checkEntry(const platform::Dictionary& root, const QVEntry& entry, Tally& t
     }
 }
 
-/** Names what the panel does not know and will keep. */
+/** Lists entries that the panel does not know, and keeps. */
 template <class IsKnown>
 void listUnknown(
     const platform::Dictionary& dictionary, const QString& prefix, IsKnown isKnown, Tally& tally)

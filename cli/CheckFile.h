@@ -5,9 +5,9 @@
 #include <QString>
 
 /**
- * Looks at a configuration file entry by entry and prints a line for each: its verdict, its path,
- * what is wrong with it.
+ * Checks a configuration file and prints a line for each entry: the verdict, its path, and the
+ * problem.
  *
- * @return whether the panel can use every entry: none is missing, of the wrong type or too big
+ * @return whether the panel can use every entry: none is missing, of a wrong type or too big
  */
 bool checkFile(const QString& path);

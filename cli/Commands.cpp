@@ -53,7 +53,7 @@ Result<platform::PropertyList> loadTablet(QVConfigStore& store)
     return store.loadTabletsRecord();
 }
 
-/** Pushes the record and waits for the driver to take it. */
+/** Pushes the record and waits until the driver has accepted it. */
 Result<> pushRecord()
 {
     if (!PushQVTabletInfo()) {
@@ -66,7 +66,7 @@ Result<> pushRecord()
     return {};
 }
 
-/** A call to the simulated tablet, which only a driver that is there may answer. */
+/** Creates a call to the simulated tablet that does not start a driver. */
 QDBusMessage simulatorCall(const char* method)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(platform::wire::busName(kQVDriverSignature),
@@ -76,7 +76,7 @@ QDBusMessage simulatorCall(const char* method)
     return call;
 }
 
-/** What the driver got last. */
+/** Returns the last record that the driver has received. */
 Result<tagQVTabletInfo> lastRecord()
 {
     const QDBusReply<QByteArray> reply =
@@ -163,7 +163,7 @@ int runSet(const QString& entry, const QString& value)
     if (!list) {
         return fail(list.error().text);
     }
-    // The panel adds no dictionaries.
+    // The panel does not add dictionaries.
     if (!QVEntryDictionary(list->root(), *found).exists()) {
         return fail(QStringLiteral("the tablet's file has no dictionary for %1").arg(entry));
     }

@@ -75,7 +75,7 @@ std::optional<qint64> numberIn(const QString& words)
 
 platform::Result<> setEntry(tagQVTabletInfo& record, const QVEntry& entry, const QString& value)
 {
-    // The way of an entry out of a file is also the way of a value from the command line.
+    // A value from the command line is converted like an entry of a file.
     const platform::PropertyList list;
     if (entry.type == QVFieldType::String) {
         list.root().setString(entry.key, value.toStdString());

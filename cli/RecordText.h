@@ -10,17 +10,19 @@
 
 #include <optional>
 
-/** The record's entries, one line each: "Monitor/XOrg", spaces, the value. */
+/** Formats the record, one line per entry: "Monitor/XOrg", spaces, the value. */
 QString recordTable(const tagQVTabletInfo& record);
 
-/** The record in JSON, shaped as its configuration file: four objects, slots within "Key". */
+/**
+ * Formats the record as JSON, structured like its configuration file: four objects, slots in "Key".
+ */
 QByteArray recordJson(const tagQVTabletInfo& record);
 
-/** The entry with a path as in the table; null where there is none. */
+/** Returns the entry with a path as in the table; null if there is none. */
 const QVEntry* findEntry(const QString& path);
 
-/** A number in words: decimal, also with leading zeros, or hexadecimal with 0x before it. */
+/** Parses a number: decimal, even with leading zeros, or hexadecimal with the prefix 0x. */
 std::optional<qint64> numberIn(const QString& words);
 
-/** Puts a value in words into the entry. */
+/** Sets the entry to a value given as text. */
 platform::Result<> setEntry(tagQVTabletInfo& record, const QVEntry& entry, const QString& value);

@@ -9,8 +9,8 @@
 #include <cstdint>
 
 /**
- * Tells a tablet on the USB bus its report mode; blocks like controlUSBDev().
+ * Sets a tablet's report mode over USB; blocks like controlUSBDev().
  *
- * @param name the tablet's, for the sentence
+ * @param name the tablet's, for the message
  */
 platform::Result<QString> setUsbMode(bool isFast, std::uint16_t productID, const QString& name);

@@ -47,7 +47,7 @@ int usageError(const QString& why)
     return kExitUsage;
 }
 
-/** A command and the operands that it takes. */
+/** A command and its number of operands. */
 struct Command {
     const char* name;
     int least;
@@ -57,7 +57,7 @@ struct Command {
 constexpr std::array<Command, 7> kCommands{{{"status", 0, 0}, {"show", 0, 1}, {"check", 1, 1},
     {"push", 0, 0}, {"set", 2, 2}, {"usb-mode", 1, 1}, {"sim", 3, 3}}};
 
-/** Whether the words are a command line. */
+/** Checks the command line. */
 platform::Result<> checkUsage(const QStringList& words, bool asJson)
 {
     if (words.isEmpty()) {
@@ -81,7 +81,7 @@ platform::Result<> checkUsage(const QStringList& words, bool asJson)
     return {};
 }
 
-/** The path of an operand that names a file, of which - is the standard input. */
+/** The path for a file operand; - is standard input. */
 QString fileOf(const QString& operand)
 {
     return operand == QLatin1String("-") ? QStringLiteral("/dev/stdin") : operand;
@@ -130,16 +130,16 @@ int run(const QStringList& words, bool asJson)
                                                 : runSim(words[1], words[2], words[3]);
 }
 
-/** Whether a command loads the tablet's file to push it, which depends on the displays. */
+/** Whether a command pushes the tablet's file, which depends on the displays. */
 bool needsDisplays(const QString& command)
 {
     return command == QLatin1String("push") || command == QLatin1String("set");
 }
 
 /**
- * The application object, one that knows the displays where a window system is within reach: the
- * one that the user has chosen, or those that the environment names. Where it is not, Qt would end
- * the program; "minimal", which is always there, keeps it from that.
+ * Creates an application object, with displays if a window system is available: the one that the
+ * user has chosen, or those of the environment. Otherwise Qt would end the program; "minimal",
+ * which is always available, prevents that.
  */
 std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, const QString& command)
 {
@@ -152,7 +152,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, const 
         const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
         qputenv("QT_QPA_PLATFORM", (chosen.isEmpty() ? platforms : chosen + ';') + "minimal");
         QGuiApplication::setDesktopSettingsAware(false); // nothing is shown
-        // Nobody need hear of a display that cannot be asked: the file's area stands then.
+        // A display that cannot be queried need not be reported: the file's area is used then.
         const QtMessageHandler handler =
             qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
         auto application = std::make_unique<QGuiApplication>(argc, argv);
@@ -164,7 +164,7 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, const 
     return std::make_unique<QCoreApplication>(argc, argv);
 }
 
-/** The exit code, once all output is where it belongs. */
+/** Returns the exit code, after flushing all output. */
 int finish(int code)
 {
     const bool isWhole = std::ferror(stdout) == 0;
@@ -172,7 +172,7 @@ int finish(int code)
     if (std::fflush(stdout) == 0 && isWhole) {
         return code;
     }
-    // An earlier write may be the one that failed; nobody knows its cause any more.
+    // If an earlier write failed, its cause is no longer known.
     const int cause = errno;
     std::fprintf(stderr, "qvtbltctl: write error%s%s\n", cause == 0 ? "" : ": ",
         cause == 0 ? "" : std::system_category().message(cause).c_str());
@@ -209,7 +209,7 @@ int main(int argc, char* argv[])
     if (const platform::Result<> usage = checkUsage(words, asJson); !usage) {
         return usageError(usage.error().text);
     }
-    int nameAlone = 1; // an operand is no option of Qt's
+    int nameAlone = 1; // operands are not Qt options
     const auto application = makeApplication(nameAlone, argv, words[0]);
     return finish(run(words, asJson));
 }

@@ -6,7 +6,7 @@
 
 namespace platform {
 
-/** A file descriptor, negative for none, which is closed with its scope. */
+/** A file descriptor, or none if negative, that is closed at the end of its scope. */
 class Descriptor {
 public:
     explicit Descriptor(int fd)

@@ -12,11 +12,11 @@ namespace platform {
 
 /** Why something failed. */
 struct Error {
-    QString text; ///< for people: what was being done, then the system's text
+    QString text; ///< for the user: the failed operation, then the system's text
     bool isMissingFile = false; ///< the file to be read does not exist
 };
 
-/** A value, or why there is none; by default only whether something succeeded. */
+/** A value, or the reason why there is none; by default, just success or failure. */
 template <class T = void>
 class [[nodiscard]] Result : public tl::expected<T, Error> {
 public:

@@ -226,7 +226,7 @@ private:
     Services mFound;
 };
 
-/** Gives an iterator over what a search finds, unless the search fails. */
+/** Returns an iterator over the results of a search, unless it fails. */
 IOReturn iterate(Search search, std::unique_ptr<UsbIterator>& services)
 {
     auto found = std::make_unique<FoundServices>(std::move(search));

@@ -39,7 +39,7 @@ void ignoreWheelWithoutFocus(QWidget& control)
     if (control.focusPolicy() == Qt::WheelFocus) {
         control.setFocusPolicy(Qt::StrongFocus);
     }
-    new WheelGuard(control); // NOLINT(*-owning-memory): it belongs to the control
+    new WheelGuard(control); // NOLINT(*-owning-memory): the control owns it
 }
 
 } // namespace platform

@@ -50,7 +50,7 @@ void PaneWindow::select()
 void PaneWindow::unselect()
 {
     if (mShell->isSelected()) {
-        static_cast<void>(mShell->willUnselect()); // nobody is there to be asked
+        static_cast<void>(mShell->willUnselect()); // there is no user to ask
         hide();
         mShell->didUnselect();
     }

@@ -141,7 +141,7 @@ protected:
         return count;
     }
 
-    /** Runs the event loop until the condition holds, or in vain; gives whether it does. */
+    /** Runs the event loop until the condition holds or a time-out; returns whether it holds. */
     template <class Condition>
     static bool waitUntil(const Condition& holds)
     {

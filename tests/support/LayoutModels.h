@@ -8,7 +8,7 @@
 #include <stdexcept>
 #include <vector>
 
-/** The product ID of the first model with a layout and, unless it is 0, so many pen buttons. */
+/** The product ID of the first model with a layout and, unless it is 0, that many pen buttons. */
 constexpr std::uint16_t productOf(QVKeyLayout layout, int penButtons = 0)
 {
     for (const QVTabletModel& model : kQVTabletModels) {

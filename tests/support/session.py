@@ -35,7 +35,7 @@ BUS_CONFIG = """<busconfig><type>session</type><listen>unix:path={folder}/bus</l
 
 
 def wait_for(condition, what, seconds=PATIENCE):
-    """Waits until the condition gives something true, and gives that. For events of other
+    """Waits until the condition returns something true, and returns that. For events of other
     processes that send no word."""
     end = time.monotonic() + seconds
     while True:
@@ -48,7 +48,7 @@ def wait_for(condition, what, seconds=PATIENCE):
 
 
 def read_line(pipe, what, seconds=PATIENCE):
-    """Waits for the next line of a program; gives it without its end."""
+    """Waits for the next line of a program, and returns it without its end."""
     def give_up(*_):
         raise AssertionError(f"waited in vain for {what}")
 
