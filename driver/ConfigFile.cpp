@@ -50,7 +50,7 @@ platform::Result<InstalledConfig> installConfigFile(const QVTabletModel& model)
     const std::string path = QVConfigStore::configPath();
     InstalledConfig config{QFile::decodeName(path.c_str()), false};
     // Even a broken link or a folder is left alone: it is the user's.
-    if (QFileInfo(config.path).exists() || QFileInfo(config.path).isSymLink()) {
+    if (QFileInfo::exists(config.path) || QFileInfo(config.path).isSymLink()) {
         return config;
     }
     if (!QDir().mkpath(QFileInfo(config.path).path())) {

@@ -106,8 +106,8 @@ QString Bundle::localizedString(
     const QStringList languages = mTables ? preferredLanguages() : QStringList();
     for (const QString& language : languages) {
         const QString name = language + QStringLiteral(".lproj/") + table;
-        auto strings = mTables->strings.constFind(name);
-        if (strings == mTables->strings.constEnd()) {
+        auto strings = mTables->strings.find(name);
+        if (strings == mTables->strings.end()) {
             strings = mTables->strings.insert(
                 name, readTable(pathForResource(name, QStringLiteral("strings"))));
         }
