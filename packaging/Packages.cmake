@@ -6,7 +6,7 @@
 if(QT_MAJOR_VERSION EQUAL 5)
     set(CPACK_COMPONENTS_ALL kcm-qvtblt)
 else()
-    set(CPACK_COMPONENTS_ALL qvtblt tdsg-driver)
+    set(CPACK_COMPONENTS_ALL qvtblt qvtblt-dev tdsg-driver)
 endif()
 
 # In a machine-readable copyright file, an empty line is a dot.
@@ -67,6 +67,17 @@ effect at once.
 
 This package contains the panel as a module of System Settings, under Input
 Devices.")
+
+set(CPACK_DEBIAN_QVTBLT-DEV_PACKAGE_NAME qvtblt-dev)
+set(CPACK_DEBIAN_QVTBLT-DEV_PACKAGE_SECTION libdevel)
+set(CPACK_DEBIAN_QVTBLT-DEV_PACKAGE_DEPENDS "qt6-base-dev, qvtblt (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_QVTBLT-DEV_DESCRIPTION "settings panel of the Quorvia pen tablet, for developers
+Sets what each button of the tablet and the pen does, how the pen responds to
+pressure, and which part of the screen the tablet covers. Every change takes
+effect at once.
+
+This package contains what a program needs to show the panel in a window of its
+own, as a package for CMake, and the driver's D-Bus interfaces.")
 
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_NAME tdsg-driver)
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_SECTION utils)
