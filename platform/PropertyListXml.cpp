@@ -127,7 +127,7 @@ public:
             refuse(text.toStdString() + " (line " + std::to_string(mXml.lineNumber()) + ")");
         }
         if (!hasRoot) {
-            refuse("it holds no value");
+            refuse("it contains no value");
         }
         if (!mWhy.empty()) {
             return Error{QString::fromStdString(mWhy)};
@@ -165,8 +165,8 @@ private:
                 return false;
             case QXmlStreamReader::Characters:
                 if (!mXml.isWhitespace()) {
-                    refuse("text where a value belongs (line " + std::to_string(mXml.lineNumber())
-                        + ")");
+                    refuse(
+                        "text instead of a value (line " + std::to_string(mXml.lineNumber()) + ")");
                 }
                 break;
             case QXmlStreamReader::EntityReference:
@@ -203,7 +203,7 @@ private:
             return tag->kind;
         }
         refuse(name == QLatin1String("key")
-                ? "a key where a value belongs"
+                ? "a key instead of a value"
                 : "unknown tag " + shown(name.toString().toStdString()));
         return std::nullopt;
     }

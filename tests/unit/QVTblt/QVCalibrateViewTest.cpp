@@ -272,8 +272,8 @@ TEST_F(Calibration, acceptedSetsTheAreaAndCloses)
     ASSERT_EQ(mAlerts.shown.size(), 1U);
     EXPECT_EQ(mAlerts.shown[0].type, AlertType::Stop);
     EXPECT_TRUE(mAlerts.shown[0].hasCancelButton);
-    EXPECT_EQ(
-        mAlerts.shown[0].message, QStringLiteral("The tablet now fits the display. Keep this calibration?"));
+    EXPECT_EQ(mAlerts.shown[0].message,
+        QStringLiteral("The tablet now fits the display. Keep this calibration?"));
     EXPECT_EQ(area(), mCalibrated);
     EXPECT_EQ(window(), nullptr);
     EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0, 0}));

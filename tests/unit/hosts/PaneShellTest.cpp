@@ -190,8 +190,8 @@ TEST_P(Shell, saysThatTheFormerTabletsChangesAreLost)
     mLife.device = Device::Other;
     mPane->tell(News::DeviceMayHaveChanged);
     QCoreApplication::processEvents();
-    EXPECT_EQ(
-        notice(), QStringLiteral("The previous tablet's settings were not saved: the disk is full"));
+    EXPECT_EQ(notice(),
+        QStringLiteral("The previous tablet's settings were not saved: the disk is full"));
     EXPECT_EQ(button("Try Again"), nullptr) << "there is nothing left to save";
     leave();
     show();
