@@ -3,8 +3,8 @@
 #include "Client.h"
 
 #include "Notifications.h"
+#include "QVDriverProtocol.h"
 #include "QVTabletModels.h"
-#include "QVWire.h"
 #include "Sleep.h"
 #include "rzkApplication.h"
 

@@ -6,7 +6,7 @@
 #include "Client.h"
 #include "QVCalibrateWin.h"
 #include "QVCalibration.h"
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 #include "Sleep.h"
 #include "rzkApplication.h"
 #include "rzkBundle.h"

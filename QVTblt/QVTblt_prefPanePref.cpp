@@ -5,9 +5,9 @@
 #include "AppleEvents.h"
 #include "Client.h"
 #include "Notifications.h"
+#include "QVDriverProtocol.h"
 #include "QVNSView.h"
 #include "QVTabletModels.h"
-#include "QVWire.h"
 #include "rzkApplication.h"
 #include "rzkBundle.h"
 

@@ -7,6 +7,7 @@
 #include "OpenPanel.h"
 #include "QVKeyComboBox.h"
 #include "QVKeySetClass.h"
+#include "QVSlotPath.h"
 #include "QVTabletModels.h"
 #include "QVTblt_prefPanePref.h"
 #include "hid_usb_2_adb_keymap_char.h"
@@ -62,20 +63,6 @@ QString textOf(const QVString& field)
         text += code < 0x80 ? QChar(char16_t{code}) : QChar(QChar::ReplacementCharacter);
     }
     return text;
-}
-
-/**
- * Stores a path. If it is not ASCII or too long for the field with its NUL, the field becomes
- * empty.
- */
-void storePath(const QString& path, QVString& field)
-{
-    field.fill('\0');
-    const bool isAscii =
-        std::ranges::all_of(path, [](QChar character) { return character.unicode() < 0x80; });
-    if (isAscii && path.size() < static_cast<qsizetype>(field.size())) {
-        std::ranges::copy(path.toLatin1(), field.begin());
-    }
 }
 
 /** Colours a box light grey, with readable text even in a dark theme. */
@@ -348,7 +335,7 @@ void QVTblt_prefPanePref::takeApplication(QVKeyComboBox& comboBox, tagQVTabletIn
     }
     comboBox.replaceItem(QVKeyComboBox::Application, mFileName);
     slot.Valid = kQVApplication;
-    storePath(mFileName, slot.App);
+    QVStoreSlotPath(mFileName, slot);
     PushQVTabletInfo(); // and a second time on leaving, as after every choice
 }
 

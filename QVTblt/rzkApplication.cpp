@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "rzkApplication.h"
 
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 
 #include <cstdio>
 #include <cstring>

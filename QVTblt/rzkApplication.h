@@ -11,13 +11,10 @@
 /**
  * @file
  * The single settings record, the name of its configuration file, and the query to the driver for
- * that name, with its time-out of a quarter of a second.
+ * that name.
  *
  * Main thread only; nothing is copied or locked.
  */
-
-/** The time-out of requests to the driver, in ticks: a quarter of a second. */
-inline constexpr std::int32_t kQVDriverTimeOut = 15;
 
 /** Size of the configuration file's name, including its terminating NUL. */
 inline constexpr std::size_t kQVListNameSize = 32;

@@ -5,7 +5,7 @@
 #include "Client.h"
 #include "NoDiagnostics.h"
 #include "Paired.h"
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 #include "rzkApplication.h"
 
 #include <QDBusMessage>

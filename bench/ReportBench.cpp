@@ -6,7 +6,7 @@
 #include "Peer.h"
 #include "PlainWire.h"
 #include "QVCalibrateView.h"
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 
 #include <QDBusPendingCall>
 

@@ -5,8 +5,8 @@
 #include "ConfigFile.h"
 #include "EventForms.h"
 #include "QVConfigEntry.h"
+#include "QVDriverProtocol.h"
 #include "QVTabletModels.h"
-#include "QVWire.h"
 #include "rzkApplication.h"
 
 #include <QDBusMessage>

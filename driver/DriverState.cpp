@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "DriverState.h"
 
+#include "FileSaving.h"
 #include "tagQVTabletInfo.h"
 
 #include <QDir>
@@ -10,9 +11,9 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QJsonValue>
-#include <QSaveFile>
 
 #include <cmath>
+#include <cstddef>
 #include <limits>
 
 namespace {
@@ -85,12 +86,10 @@ platform::Result<> DriverState::save() const
     object.insert(kAttached, attached);
     object.insert(kRecord, QString::fromLatin1(record.toBase64()));
     object.insert(kPushes, static_cast<double>(pushes));
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly)) {
-        file.write(QJsonDocument(object).toJson());
-        if (file.commit()) {
-            return {};
-        }
-    }
-    return platform::Error{QStringLiteral("cannot write %1: %2").arg(path, file.errorString())};
+    const QByteArray bytes = QJsonDocument(object).toJson();
+    const platform::Result<> saved =
+        platform::replaceFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});
+    return saved
+        ? saved
+        : platform::Error{QStringLiteral("cannot write %1: %2").arg(path, saved.error().text)};
 }

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "EventForms.h"
 
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 #include "tagQVTabletInfo.h"
 
 #include <span>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 
 #include <chrono>
 #include <cstdint>

@@ -3,12 +3,11 @@
 #include "PropertyList.h"
 
 #include "Descriptor.h"
+#include "FileSaving.h"
 #include "PropertyListNode.h"
 
 #include <QByteArray>
 #include <QFile>
-#include <QSaveFile>
-#include <QTemporaryFile>
 
 #include <algorithm>
 #include <cerrno>
@@ -77,28 +76,6 @@ Result<std::string> readFile(const std::string& path, PropertyListSource source)
         }
     }
     return fail(tooLarge().text);
-}
-
-/** Writes all bytes and flushes them to disk. A full disk is reported here. */
-Result<> writeThrough(QFileDevice& file, const std::string& bytes)
-{
-    // A short write gives no error; the next write reports why, such as a full disk.
-    for (std::size_t done = 0; done < bytes.size();) {
-        const qint64 written =
-            file.write(bytes.data() + done, static_cast<qint64>(bytes.size() - done));
-        if (written <= 0) {
-            return Error{file.errorString()};
-        }
-        done += static_cast<std::size_t>(written);
-    }
-    if (!file.flush()) {
-        return Error{file.errorString()};
-    }
-    // Some file systems report a full disk only here.
-    if (::fsync(file.handle()) != 0) {
-        return Error{systemText(errno)};
-    }
-    return {};
 }
 
 } // namespace
@@ -339,40 +316,6 @@ Result<std::string> xmlToSave(const PropertyListNode& root)
     return xml;
 }
 
-Result<> replaceFile(const QString& path, const std::string& bytes)
-{
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Unbuffered)) {
-        return Error{file.errorString()};
-    }
-    if (Result<> written = writeThrough(file, bytes); !written) {
-        return written;
-    }
-    if (!file.commit()) {
-        return Error{file.errorString()};
-    }
-    return {};
-}
-
-Result<> makeFile(const QString& path, const std::string& bytes)
-{
-    QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
-    if (!file.open()) {
-        return Error{file.errorString()};
-    }
-    if (Result<> written = writeThrough(file, bytes); !written) {
-        return written;
-    }
-    // A link, unlike a rename, never replaces a file that was created meanwhile.
-    if (::fchmod(file.handle(), S_IRUSR | S_IWUSR) != 0
-        || ::link(
-               QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData())
-            != 0) {
-        return Error{systemText(errno)};
-    }
-    return {};
-}
-
 } // namespace
 
 Result<> PropertyList::save(const std::string& path) const
@@ -385,7 +328,7 @@ Result<> PropertyList::save(const std::string& path) const
 Result<> PropertyList::saveNew(const std::string& path) const
 {
     const Result<std::string> xml = xmlToSave(*mRoot);
-    const Result<> saved = xml ? makeFile(QFile::decodeName(path.c_str()), *xml) : xml.error();
+    const Result<> saved = xml ? createFile(QFile::decodeName(path.c_str()), *xml) : xml.error();
     return saved ? saved : failure("cannot create", path, saved.error().text);
 }
 

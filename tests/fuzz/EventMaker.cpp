@@ -3,7 +3,7 @@
 #include "EventMaker.h"
 
 #include "AppleEventWire.h"
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 #include "rzkApplication.h"
 
 #include <array>

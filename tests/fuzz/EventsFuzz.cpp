@@ -11,7 +11,7 @@
 #include "DBusAppleEvents.h"
 #include "EventMaker.h"
 #include "QVCalibrateView.h"
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 #include "Service.h"
 #include "Sleep.h"
 #include "rzkApplication.h"

@@ -12,7 +12,7 @@
 #include "Peer.h"
 #include "PlainWire.h"
 #include "PrivateBus.h"
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 #include "Service.h"
 #include "TemporaryHome.h"
 #include "Wait.h"

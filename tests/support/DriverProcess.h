@@ -3,7 +3,7 @@
 #pragma once
 
 #include "AppleEventWire.h"
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>

@@ -4,8 +4,8 @@
 
 #include "FakeDisplays.h"
 #include "FakeEvents.h"
+#include "QVDriverProtocol.h"
 #include "QVTblt_prefPanePref.h"
-#include "QVWire.h"
 #include "SampleConfig.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"

@@ -6,7 +6,7 @@
 #include "ErrorText.h"
 #include "FakeEvents.h"
 #include "LayoutModels.h"
-#include "QVWire.h"
+#include "QVDriverProtocol.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
 

@@ -16,6 +16,9 @@
 /** The driver's signature, from which its bus name is made, and the class of the settings event. */
 inline constexpr platform::FourCharCode kQVDriverSignature = platform::fourCharCode("TdSg");
 
+/** The time-out of requests to the driver, in ticks: a quarter of a second. */
+inline constexpr std::int32_t kQVDriverTimeOut = 15;
+
 /** The driver's property with the number of the tablet's configuration file. */
 inline constexpr platform::FourCharCode kQVConfigProperty = platform::fourCharCode("QCFG");
 
