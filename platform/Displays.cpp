@@ -140,7 +140,7 @@ private:
         return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
     }
 
-    void watch(QScreen* screen)
+    void watch(QScreen* screen) const
     {
         connect(screen, &QScreen::geometryChanged, this, &ScreenDisplays::noteChange);
     }

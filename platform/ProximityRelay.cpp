@@ -86,7 +86,7 @@ void ProximityRelay::note(const Event& event)
         busy->post(event);
         return;
     }
-    for (std::size_t i = 0; i < mQueues.size(); ++i) { // a view may be deleted by its events
+    for (std::size_t i = 0; i < mQueues.size(); ++i) { // NOLINT(*-loop-convert): events may delete a view
         mQueues[i]->handOver();
     }
     tell(event);
