@@ -102,12 +102,6 @@ std::string QVEntryPath(const QVEntry& entry)
     return path + entry.key;
 }
 
-platform::Dictionary QVEntryDictionary(const platform::Dictionary& root, const QVEntry& entry)
-{
-    const platform::Dictionary section = root.dictionary(entry.section->key);
-    return entry.slot == nullptr ? section : section.dictionary(entry.slot);
-}
-
 QVEntryResult QVReadEntry(
     const platform::Dictionary& dictionary, const QVEntry& entry, tagQVTabletInfo& record)
 {
@@ -132,8 +126,8 @@ std::string QVEntryFault(const platform::Dictionary& dictionary, const QVEntry& 
     return std::string(QVKindName(kind)) + " instead of " + (isString ? "a string" : "a number");
 }
 
-bool QVWriteEntry(
-    platform::Dictionary dictionary, const QVEntry& entry, const tagQVTabletInfo& record)
+bool QVWriteEntry(const platform::MutableDictionary& dictionary, const QVEntry& entry,
+    const tagQVTabletInfo& record)
 {
     switch (entry.type) {
     case QVFieldType::String: {

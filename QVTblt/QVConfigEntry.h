@@ -29,7 +29,12 @@ enum class QVEntryResult : std::uint8_t {
 std::string QVEntryPath(const QVEntry& entry);
 
 /** The dictionary of the file that an entry belongs to; a handle on none where there is none. */
-platform::Dictionary QVEntryDictionary(const platform::Dictionary& root, const QVEntry& entry);
+template <class AnyDictionary>
+AnyDictionary QVEntryDictionary(const AnyDictionary& root, const QVEntry& entry)
+{
+    const AnyDictionary section = root.dictionary(entry.section->key);
+    return entry.slot == nullptr ? section : section.dictionary(entry.slot);
+}
 
 /**
  * Copies an entry into its field.
@@ -52,8 +57,8 @@ std::string QVEntryFault(const platform::Dictionary& dictionary, const QVEntry& 
  *
  * @return false if the entry was left unchanged
  */
-bool QVWriteEntry(
-    platform::Dictionary dictionary, const QVEntry& entry, const tagQVTabletInfo& record);
+bool QVWriteEntry(const platform::MutableDictionary& dictionary, const QVEntry& entry,
+    const tagQVTabletInfo& record);
 
 /** The number in an entry's field; 0 when it is a string. */
 std::int64_t QVFieldNumber(const QVEntry& entry, const tagQVTabletInfo& record);

@@ -46,8 +46,8 @@ void readEntries(
     }
 }
 
-void writeEntries(
-    const platform::Dictionary& dictionary, const char* name, std::span<const QVEntry> entries)
+void writeEntries(const platform::MutableDictionary& dictionary, const char* name,
+    std::span<const QVEntry> entries)
 {
     for (const QVEntry& entry : entries) {
         if (!QVWriteEntry(dictionary, entry, qvTabletInfo)) {
@@ -179,12 +179,12 @@ platform::Result<platform::PropertyList> QVConfigStore::loadRecord(
 
 platform::Result<> QVConfigStore::saveRecord(const std::string& path)
 {
-    const platform::Result<platform::PropertyList> list = platform::PropertyList::load(path);
+    platform::Result<platform::PropertyList> list = platform::PropertyList::load(path);
     if (!list) {
         return list.error();
     }
     for (const QVSection* const section : kQVSections) {
-        const platform::Dictionary dictionary = list->root().dictionary(section->key);
+        const platform::MutableDictionary dictionary = list->root().dictionary(section->key);
         if (section->saved && dictionary.exists()) {
             writeSection(dictionary, *section);
         }
@@ -203,11 +203,12 @@ void QVConfigStore::readSection(const platform::Dictionary& dictionary, const QV
     }
 }
 
-void QVConfigStore::writeSection(const platform::Dictionary& dictionary, const QVSection& section)
+void QVConfigStore::writeSection(
+    const platform::MutableDictionary& dictionary, const QVSection& section)
 {
     writeEntries(dictionary, section.key, QVEntriesOf(section));
     for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
-        const platform::Dictionary object = dictionary.dictionary(kQVSlotKeys[slot]);
+        const platform::MutableDictionary object = dictionary.dictionary(kQVSlotKeys[slot]);
         if (object.exists()) {
             SetSubKeyInfo(static_cast<std::int32_t>(slot), object);
         }
@@ -223,7 +224,7 @@ void QVConfigStore::GetSubKeyInfo(std::int32_t i, const platform::Dictionary& ob
     readEntries(object, slot, QVEntriesOf(kQVKeySection, slot));
 }
 
-void QVConfigStore::SetSubKeyInfo(std::int32_t i, const platform::Dictionary& object)
+void QVConfigStore::SetSubKeyInfo(std::int32_t i, const platform::MutableDictionary& object)
 {
     if (!isSlot(i)) {
         return;

@@ -55,7 +55,7 @@ public:
     void GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
 
     /** Copies slot i of the record to a slot's dictionary; does nothing unless i is 0 to 17. */
-    void SetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
+    void SetSubKeyInfo(std::int32_t i, const platform::MutableDictionary& object);
 
     /** The file's path: its folder in the user's home folder, and pListname. */
     static std::string configPath();
@@ -76,7 +76,7 @@ public:
 
 private:
     void readSection(const platform::Dictionary& dictionary, const QVSection& section);
-    void writeSection(const platform::Dictionary& dictionary, const QVSection& section);
+    void writeSection(const platform::MutableDictionary& dictionary, const QVSection& section);
 
     tagQVTabletInfo mInFile; ///< the record when it last matched the file
 };

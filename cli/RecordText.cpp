@@ -76,7 +76,7 @@ std::optional<qint64> numberIn(const QString& words)
 platform::Result<> setEntry(tagQVTabletInfo& record, const QVEntry& entry, const QString& value)
 {
     // A value from the command line is converted like an entry of a file.
-    const platform::PropertyList list;
+    platform::PropertyList list;
     if (entry.type == QVFieldType::String) {
         list.root().setString(entry.key, value.toStdString());
     } else {

@@ -59,7 +59,7 @@ platform::Result<InstalledConfig> installConfigFile(const QVTabletModel& model)
     const tagQVTabletInfo record = defaults(model);
     platform::PropertyList list;
     for (const QVSection* const section : kQVSections) {
-        platform::Dictionary dictionary = list.root().addDictionary(section->key);
+        const platform::MutableDictionary dictionary = list.root().addDictionary(section->key);
         for (std::size_t slot = 0; section->hasSlots && slot < kQVSlotCount; ++slot) {
             dictionary.addDictionary(kQVSlotKeys[slot]);
         }

@@ -126,6 +126,12 @@ PropertyListNode* find(PropertyListNode* dictionary, const char* key)
     return dictionary == nullptr ? nullptr : dictionary->find(key);
 }
 
+PropertyListNode* findDictionary(PropertyListNode* dictionary, const char* key)
+{
+    PropertyListNode* const node = find(dictionary, key);
+    return node != nullptr && node->kind == Kind::Dictionary ? node : nullptr;
+}
+
 } // namespace
 
 EntryKind Dictionary::kind(const char* key) const
@@ -185,8 +191,7 @@ std::optional<std::string_view> Dictionary::string(const char* key) const
 
 Dictionary Dictionary::dictionary(const char* key) const
 {
-    PropertyListNode* const node = find(mNode, key);
-    return Dictionary(node != nullptr && node->kind == Kind::Dictionary ? node : nullptr);
+    return Dictionary(findDictionary(mNode, key));
 }
 
 std::vector<std::string> Dictionary::keys() const
@@ -200,8 +205,13 @@ std::vector<std::string> Dictionary::keys() const
     return keys;
 }
 
+MutableDictionary MutableDictionary::dictionary(const char* key) const
+{
+    return MutableDictionary(findDictionary(mNode, key));
+}
+
 /** Returns the entry for the key, emptied, or a new one; null without a dictionary. */
-PropertyListNode* Dictionary::put(const char* key) const
+PropertyListNode* MutableDictionary::put(const char* key) const
 {
     if (mNode == nullptr) {
         return nullptr;
@@ -216,7 +226,7 @@ PropertyListNode* Dictionary::put(const char* key) const
     return node;
 }
 
-void Dictionary::setInteger(const char* key, std::int64_t value)
+void MutableDictionary::setInteger(const char* key, std::int64_t value) const
 {
     if (PropertyListNode* const node = put(key)) {
         node->kind = Kind::Integer;
@@ -224,14 +234,14 @@ void Dictionary::setInteger(const char* key, std::int64_t value)
     }
 }
 
-void Dictionary::setBoolean(const char* key, bool value)
+void MutableDictionary::setBoolean(const char* key, bool value) const
 {
     if (PropertyListNode* const node = put(key)) {
         node->kind = value ? Kind::True : Kind::False;
     }
 }
 
-void Dictionary::setString(const char* key, const std::string& value)
+void MutableDictionary::setString(const char* key, const std::string& value) const
 {
     if (PropertyListNode* const node = put(key)) {
         node->kind = Kind::String;
@@ -239,13 +249,13 @@ void Dictionary::setString(const char* key, const std::string& value)
     }
 }
 
-Dictionary Dictionary::addDictionary(const char* key)
+MutableDictionary MutableDictionary::addDictionary(const char* key) const
 {
     PropertyListNode* const node = put(key);
     if (node != nullptr) {
         node->kind = Kind::Dictionary;
     }
-    return Dictionary(node);
+    return MutableDictionary(node);
 }
 
 // PropertyList ------------------------------------------------------------------------------------

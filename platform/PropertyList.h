@@ -70,7 +70,7 @@ struct PropertyListNode;
 
 /**
  * A handle to a dictionary in a PropertyList; valid as long as the list and that dictionary exist.
- * A null handle returns nothing for every lookup and ignores every change.
+ * A null handle returns nothing for every lookup.
  */
 class Dictionary {
 public:
@@ -93,24 +93,35 @@ public:
     /** The keys in file order. */
     std::vector<std::string> keys() const;
 
-    /** Sets or replaces an entry. */
-    void setInteger(const char* key, std::int64_t value);
-    void setBoolean(const char* key, bool value);
-    void setString(const char* key, const std::string& value);
-
-    /** Sets the key to an empty dictionary and returns a handle to it. */
-    Dictionary addDictionary(const char* key);
-
 private:
+    friend class MutableDictionary;
     friend class PropertyList;
     explicit Dictionary(PropertyListNode* node)
         : mNode(node)
     {
     }
 
-    PropertyListNode* put(const char* key) const;
-
     PropertyListNode* mNode = nullptr;
+};
+
+/** A handle to a dictionary that can be changed. A null handle ignores every change. */
+class MutableDictionary : public Dictionary {
+public:
+    MutableDictionary dictionary(const char* key) const;
+
+    /** Sets or replaces an entry. */
+    void setInteger(const char* key, std::int64_t value) const;
+    void setBoolean(const char* key, bool value) const;
+    void setString(const char* key, const std::string& value) const;
+
+    /** Sets the key to an empty dictionary and returns a handle to it. */
+    MutableDictionary addDictionary(const char* key) const;
+
+private:
+    friend class PropertyList;
+    using Dictionary::Dictionary;
+
+    PropertyListNode* put(const char* key) const;
 };
 
 /** The kinds of files that a list may be loaded from. */
@@ -139,6 +150,7 @@ public:
     ~PropertyList();
 
     Dictionary root() const { return Dictionary(mRoot.get()); }
+    MutableDictionary root() { return MutableDictionary(mRoot.get()); }
 
     /** The list in XML. */
     std::string toXml() const;

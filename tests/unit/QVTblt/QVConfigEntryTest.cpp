@@ -88,7 +88,7 @@ TEST(QVEntryDictionary, isTheSectionsOrTheSlots)
     const QVEntry& ofSection = QVEntriesOf(kQVKeySection).front();
     const QVEntry& ofSlot = QVEntriesOf(kQVKeySection, kQVSlotKeys[3]).front();
     EXPECT_FALSE(QVEntryDictionary(list.root(), ofSection).exists());
-    platform::Dictionary section = list.root().addDictionary("Key");
+    const platform::MutableDictionary section = list.root().addDictionary("Key");
     EXPECT_FALSE(QVEntryDictionary(list.root(), ofSlot).exists());
     section.addDictionary("Key3").setInteger("Valid", 6);
     EXPECT_EQ(QVEntryDictionary(list.root(), ofSection).keys(), std::vector<std::string>{"Key3"});

@@ -438,7 +438,7 @@ TEST_F(QVConfigStoreFile, keepsAnAppThatCannotBeWritten)
 TEST_F(QVConfigStoreFile, copiesASingleSlotEitherWay)
 {
     platform::PropertyList list;
-    platform::Dictionary object = list.root().addDictionary("slot");
+    const platform::MutableDictionary object = list.root().addDictionary("slot");
     object.setInteger("Valid", 2);
     object.setString("App", "/bin/true");
     mStore.GetSubKeyInfo(16, object);
@@ -457,7 +457,7 @@ TEST_F(QVConfigStoreFile, hasNoSlotsBut0To17)
 {
     read();
     platform::PropertyList list;
-    platform::Dictionary object = list.root().addDictionary("slot");
+    const platform::MutableDictionary object = list.root().addDictionary("slot");
     object.setInteger("Valid", 2);
     for (const std::int32_t i : {-1, 18, 1'000'000, std::numeric_limits<std::int32_t>::min()}) {
         testing::internal::CaptureStderr();

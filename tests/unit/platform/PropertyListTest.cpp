@@ -117,8 +117,8 @@ TEST(PropertyList, findsEntriesByKindAndKey)
 
 TEST(PropertyList, anAbsentDictionaryAnswersEverythingWithNothing)
 {
-    const PropertyList list = parsed("");
-    Dictionary none = list.root().dictionary("none");
+    PropertyList list = parsed("");
+    const MutableDictionary none = list.root().dictionary("none");
     EXPECT_FALSE(none.exists());
     EXPECT_EQ(none.kind("x"), EntryKind::Absent);
     EXPECT_FALSE(none.number("x"));
@@ -351,7 +351,7 @@ TEST(PropertyList, savingThroughALinkChangesWhatItLeadsTo)
     const std::string link = home.path().toStdString() + "/link.plist";
     writeFile(QString::fromStdString(real), sampleConfig());
     ASSERT_EQ(::symlink(real.c_str(), link.c_str()), 0);
-    const auto list = PropertyList::load(link);
+    auto list = PropertyList::load(link);
     ASSERT_TRUE(list);
     list->root().setString("new", "entry");
     ASSERT_EQ(errorText(list->save(link)), "");
@@ -367,7 +367,7 @@ public:
     explicit Saved(const QByteArray& bytes)
     {
         writeFile(mPath, bytes);
-        const auto list = PropertyList::load(mPath.toStdString());
+        auto list = PropertyList::load(mPath.toStdString());
         EXPECT_TRUE(list) << errorText(list);
         if (list) {
             list->root().setInteger("ours", 1);
@@ -525,7 +525,7 @@ TEST(PropertyList, whatIsNoTextIsNotSaved)
     const QString path = home.path() + QStringLiteral("/list.plist");
     writeFile(path, sampleConfig());
     for (const char* const text : {"\x01", "caf\xE9", "\xED\xA0\x80"}) {
-        const auto list = PropertyList::load(path.toStdString());
+        auto list = PropertyList::load(path.toStdString());
         ASSERT_TRUE(list);
         list->root().setString("k", text);
         EXPECT_FALSE(list->save(path.toStdString()));
@@ -573,8 +573,8 @@ TEST(PropertyList, aNewFileIsWrittenOnlyWhereThereIsNone)
 
 TEST(PropertyList, setsReplacesAndAddsEntries)
 {
-    const PropertyList list = parsed("<key>a</key><string>x</string><key>b</key><true/>");
-    Dictionary root = list.root();
+    PropertyList list = parsed("<key>a</key><string>x</string><key>b</key><true/>");
+    const MutableDictionary root = list.root();
     root.setInteger("a", -3);
     root.setInteger("c", std::numeric_limits<std::uint32_t>::max());
     root.setString("d", "<&>");
@@ -732,7 +732,7 @@ TEST(PropertyList, saysWhyANewFileCannotBeMade)
 
 TEST(PropertyList, setsBooleansAsBooleans)
 {
-    const PropertyList list;
+    PropertyList list;
     list.root().setBoolean("yes", true);
     list.root().setBoolean("no", false);
     const std::string xml = list.toXml();
