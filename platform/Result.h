@@ -22,7 +22,7 @@ class [[nodiscard]] Result : public tl::expected<T, Error> {
 public:
     using tl::expected<T, Error>::expected;
     Result() = default;
-    // NOLINTNEXTLINE(google-explicit-constructor): an error is returned like a value
+    /** Implicit, so that an error is returned like a value. */
     Result(Error error)
         : tl::expected<T, Error>(tl::unexpect, std::move(error))
     {
