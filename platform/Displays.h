@@ -54,7 +54,7 @@ Q_SIGNALS:
      * Displays come, go, move or turn: for each display once when they begin to change, and once
      * when all have come to rest.
      */
-    void reconfigured(DisplayID display, std::uint32_t flags);
+    void reconfigured(platform::DisplayID display, std::uint32_t flags);
 };
 
 /** A screen's rectangle in global display coordinates. */
