@@ -99,7 +99,7 @@ class Ctl(session.Session):
 
     def test_usb_mode_says_that_there_is_no_such_tablet(self):
         result = self.ctl("usb-mode", "fast")
-        self.assert_result(result, 1, "", "the driver does not answer, so it is not known which")
+        self.assert_result(result, 1, "", "the driver does not answer, so the tablet is not known")
         self.start_driver()
         for mode in ("fast", "normal"):
             result = self.ctl("usb-mode", mode)
@@ -269,7 +269,7 @@ class Ctl(session.Session):
                 ("Key/Key0/Key", "4294967296", "does not fit"),
                 ("Key/Key0/App", "caf\u00e9", "must be ASCII"),
                 ("Key/Key0/App", "x" * 256, "must be ASCII and at most 255"),
-                ("Key/Key0/App", "a\x1bb", "must not have control characters"),
+                ("Key/Key0/App", "a\x1bb", "must not contain control characters"),
                 ("Pen/Speed", "", "'' is not a number"),
                 ("Pen/Speed", "0b1", "'0b1' is not a number")):
             with self.subTest(entry=entry, value=value[:20]):

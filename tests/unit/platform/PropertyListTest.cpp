@@ -253,7 +253,7 @@ TEST(PropertyList, otherTextsAreNone)
 
 TEST(PropertyList, aRootThatIsNoDictionaryIsRefused)
 {
-    EXPECT_NE(loadError(plist("<array/>")).find("no dictionary"), std::string::npos);
+    EXPECT_NE(loadError(plist("<array/>")).find("not a dictionary"), std::string::npos);
     EXPECT_NE(loadError(plist("<integer>5</integer>")), "");
 }
 
