@@ -1,8 +1,8 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
 
-# What is built lies below QVTBLT_STAGE just as it will lie below the installation's prefix, so that
-# every program finds the others by the same relative paths, installed or not.
+# The layout below QVTBLT_STAGE is that of the installation, so that every program finds the others
+# by the same relative paths, installed or not.
 set(QVTBLT_STAGE ${PROJECT_BINARY_DIR}/stage)
 
 # Below the prefix:
@@ -12,8 +12,8 @@ set(QVTBLT_DRIVER_TEXTS_DIR ${CMAKE_INSTALL_DATADIR}/tdsg-driver)
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${QVTBLT_STAGE}/${CMAKE_INSTALL_BINDIR})
 
-# Tells a host, as macros, where the module is, seen from the folder below the prefix in which the
-# host lies, and where the resources are, seen from the module.
+# Defines macros for a host: the path of the module, relative to the host's folder below the prefix,
+# and the path of the resources, relative to the module.
 function(qvtblt_host_paths target host_dir)
     file(RELATIVE_PATH module /${host_dir} /${QVTBLT_MODULE_DIR}/QVTblt.so)
     file(RELATIVE_PATH resources /${QVTBLT_MODULE_DIR} /${QVTBLT_RESOURCES_DIR})
