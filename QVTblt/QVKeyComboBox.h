@@ -42,7 +42,7 @@ public:
     int committed() const { return mCommitted; }
     void setCommitted(int committed) { mCommitted = committed; }
 
-    /** Puts a text in an item's place and selects it. */
+    /** Sets an item's text and selects it. */
     void replaceItem(Item item, const QString& text);
 
     /** Resets all items to their initial texts, and selects the first. */

@@ -28,7 +28,7 @@ namespace {
 
 constexpr std::size_t kBankSize = 8;
 
-/** From a box to its number, in points. */
+/** Distance from a box to its number, in points. */
 constexpr double kLabelDistance = 32.0;
 
 /** What an item of a button's list stores in the button's slot. */

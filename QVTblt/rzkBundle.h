@@ -4,5 +4,5 @@
 
 #include "Bundle.h"
 
-/** The module's own bundle: strings and pictures are looked up here, never in the host's. */
+/** The module's own bundle, for strings and pictures; the host's is never used. */
 extern platform::Bundle rzkBundle;

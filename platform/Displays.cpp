@@ -16,7 +16,7 @@ namespace platform {
 
 namespace {
 
-/** The factor of an entry "name=2" or "2" of a list, for a screen with that name and place. */
+/** The factor of an entry "name=2" or "2" in a list, for a screen with that name and index. */
 std::optional<double> listedFactor(const QString& list, const QString& name, qsizetype place)
 {
     const QStringList entries = list.split(u';');
@@ -72,9 +72,9 @@ double unitsIn(int points, double factor)
 }
 
 /**
- * A display's ID is its place in Qt's list of screens. Qt tells of each change by itself, and of a
- * new screen before its neighbours have moved to their new places; so the end of a change is when
- * nothing more has been told for a while.
+ * A display's ID is its index in Qt's list of screens. Qt reports each change separately, and a new
+ * screen before its neighbours have moved; so a change has ended when there are no more reports for
+ * a while.
  */
 class ScreenDisplays final : public Displays {
 public:

@@ -37,7 +37,7 @@ class Displays : public QObject {
     Q_OBJECT
 
 public:
-    /** How many displays are active; nothing when the window system does not tell. */
+    /** The number of active displays; nothing if the window system does not know. */
     virtual std::optional<std::uint32_t> activeDisplayCount() const = 0;
 
     /** The active displays; nothing if the window system does not know. */
@@ -51,8 +51,8 @@ public:
 
 Q_SIGNALS:
     /**
-     * Displays come, go, move or turn: for each display once when they begin to change, and once
-     * when all have come to rest.
+     * Displays are connected, disconnected, moved or rotated: emitted for each display once when a
+     * change begins, and once when all have settled.
      */
     void reconfigured(platform::DisplayID display, std::uint32_t flags);
 };

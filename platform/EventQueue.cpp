@@ -46,16 +46,16 @@ void EventQueue::post(Event event)
         event.type == EventType::LeftMouseDown || event.type == EventType::MouseMoved;
     if (mStroke && (isLeaving || isWithoutButton)) {
         endStroke();
-        post(event); // what has waited for the stroke's end comes first
+        post(event); // events that waited for the end of the stroke come first
         return;
     }
     const bool isDrawing =
         event.type == EventType::LeftMouseDragged || event.type == EventType::TabletPoint;
     if (!mStroke && isDrawing && event.subtype == kTabletPointSubtype) {
-        event.type = EventType::LeftMouseDown; // it has pressed before it left, or elsewhere
+        event.type = EventType::LeftMouseDown; // it was pressed before it left, or elsewhere
     }
     mQueue.push_back(event);
-    // A drag whose press was elsewhere is one too, of which somebody may await the end.
+    // A drag that was pressed elsewhere also counts, since its end may be awaited.
     if (event.type == EventType::LeftMouseDown || event.type == EventType::LeftMouseDragged
         || (mStroke && event.type != EventType::TabletProximity)) {
         mStroke = event;

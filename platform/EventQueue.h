@@ -18,15 +18,15 @@ class PenView;
 class ProximityRelay;
 
 /**
- * The events of pens and mouse on their way to a view: in order, and in well-formed strokes.
+ * Queues the events of pens and mouse for a view: in order, and in well-formed strokes.
  *
  * A stroke is a press, what the same device does next, and its release; a mouse may have been
  * pressed elsewhere. Events of other devices wait for its end, so that strokes never mix. A missing
- * release is made up when the device leaves, presses again or moves without its button, and when
- * the view is hidden.
+ * release is synthesised when the device leaves, presses again or moves without its button, and
+ * when the view is hidden.
  *
- * Events are handed over when control returns to the event loop, so that all that have arrived are
- * there together. Main thread only.
+ * Events are delivered when control returns to the event loop, so that all that have arrived are
+ * available together. Main thread only.
  */
 class EventQueue {
 public:
@@ -35,11 +35,11 @@ public:
 
     /** Takes an event of the view, or a proximity event during a stroke. */
     void post(Event event);
-    /** Makes up the release of an unfinished stroke. */
+    /** Synthesises the release of an unfinished stroke. */
     void endStroke();
     /** The last event of the unfinished stroke. */
     const std::optional<Event>& stroke() const { return mStroke; }
-    /** Hands over at once what has arrived. */
+    /** Delivers at once what has arrived. */
     void handOver();
 
     /**
@@ -48,7 +48,7 @@ public:
      */
     [[nodiscard]] std::optional<Event> nextEventMatchingMask(std::uint32_t mask);
 
-    /** From now on the view is only told that there are events; it takes them itself. */
+    /** From now on, the view is only notified that there are events, and takes them itself. */
     void beginTracking() { mIsTracking = true; }
     void endTracking() { mIsTracking = false; }
 
@@ -58,7 +58,7 @@ private:
     PenView& mView;
     std::shared_ptr<ProximityRelay> mRelay;
     std::deque<Event> mQueue;
-    std::vector<Event> mParked; ///< of other devices than the stroke's
+    std::vector<Event> mParked; ///< events of devices other than the stroke's
     std::optional<Event> mStroke;
     bool mIsTracking = false;
     QTimer mHandOver;

@@ -73,7 +73,7 @@ Event mouseEvent(const QMouseEvent& event, const QWidget& view, EventType type);
 /** Whether it is the same end of the same pen, or the mouse. */
 bool isSameDevice(const Event& one, const Event& other);
 
-/** That a pen comes into reach or leaves it, from any event of this pen. */
+/** Makes a proximity event from any event of the pen. */
 Event proximityEvent(const QTabletEvent& event, bool isEntering);
 
 /** That the pen that made the event is in range. */

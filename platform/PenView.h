@@ -13,8 +13,8 @@
 namespace platform {
 
 /**
- * A view that pen and mouse work on. They reach it through a queue of events, so that it can take
- * the events of a stroke itself, and many at once.
+ * A view for pen and mouse input. Events come through an event queue, so that it can take the
+ * events of a stroke itself, and many at once.
  */
 class PenView : public PaneView {
 public:

@@ -41,7 +41,7 @@ Error tooLarge()
 
 constexpr std::size_t kPart = std::size_t{16} << 10U; ///< read at once: a configuration is less
 
-/** Reads a file whole; a regular one without ever waiting for another process. */
+/** Reads a whole file; never blocks on a regular one. */
 Result<std::string> readFile(const std::string& path, PropertyListSource source)
 {
     const bool isRegular = source == PropertyListSource::RegularFile;
@@ -311,7 +311,10 @@ std::string PropertyList::toXml() const
 
 namespace {
 
-/** The list in XML, if that is the list, so that it may take the place of a file. */
+/**
+ * Returns the list in XML, or an error if the XML does not represent the list and must not be
+ * saved.
+ */
 Result<std::string> xmlToSave(const PropertyListNode& root)
 {
     std::string xml = writeXmlPropertyList(root);

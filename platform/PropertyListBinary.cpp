@@ -27,7 +27,7 @@ constexpr std::size_t kTrailerSize = 32;
 /** What makes a text one that XML cannot hold. */
 constexpr char kNoUtf8 = '\xFF';
 
-/** The shortest text that is read as the same real. */
+/** The shortest text that gives the same real. */
 std::string realText(double value)
 {
     std::array<char, 32> text{};

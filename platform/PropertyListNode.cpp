@@ -39,7 +39,7 @@ void PropertyListNode::dropOlderValues()
 
 bool isUtf8(std::string_view bytes)
 {
-    constexpr std::string_view kMark = "\xEF\xBB\xBF"; // is lost on the way
+    constexpr std::string_view kMark = "\xEF\xBB\xBF"; // the codec drops it
     if (bytes.starts_with(kMark)) {
         bytes.remove_prefix(kMark.size());
     }

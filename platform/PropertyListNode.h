@@ -64,7 +64,7 @@ std::optional<std::uint64_t> propertyListInteger(std::string_view text);
 /** Parses the text of a Real. */
 std::optional<double> propertyListReal(std::string_view text);
 
-/** Whether the bytes are UTF-8. */
+/** Whether the bytes are valid UTF-8. */
 bool isUtf8(std::string_view bytes);
 
 /** The error for a list that is nested too deeply, or has too many values. */

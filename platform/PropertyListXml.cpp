@@ -119,7 +119,7 @@ public:
             }
         }
         if (mXml.hasError()) {
-            // Qt quotes what it has found, control characters too.
+            // Qt quotes the unexpected text, including control characters.
             QString text = mXml.errorString();
             for (QChar& c : text) {
                 c = c.isPrint() ? c : QChar(u'?');
@@ -152,7 +152,7 @@ private:
                 checkEncoding();
                 break;
             case QXmlStreamReader::DTD:
-                // No list needs entities of its own, and no reader need expand them.
+                // No list needs its own entities, so they are never expanded.
                 if (mXml.text().contains(QLatin1Char('['))) {
                     refuse("a document type with definitions");
                 }
@@ -324,7 +324,7 @@ private:
 
     std::string_view mBytes;
     QXmlStreamReader mXml;
-    bool mIsDecoded = false; ///< what is not valid in its encoding has been found out
+    bool mIsDecoded = false; ///< encoding errors have already been detected
     std::size_t mNodes = 0;
     std::string mWhy;
 };

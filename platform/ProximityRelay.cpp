@@ -68,7 +68,9 @@ bool ProximityRelay::eventFilter(QObject* watched, QEvent* event)
     return QObject::eventFilter(watched, event);
 }
 
-/** The queue with a stroke of the event's device, else with any; null if there is none. */
+/**
+ * Returns the queue with a stroke of the event's device, or else with any; null if there is none.
+ */
 EventQueue* ProximityRelay::busyQueue(const Event& event) const
 {
     EventQueue* busy = nullptr;
@@ -86,7 +88,7 @@ void ProximityRelay::note(const Event& event)
         busy->post(event);
         return;
     }
-    for (std::size_t i = 0; i < mQueues.size(); ++i) { // NOLINT(*-loop-convert): events may delete a view
+    for (std::size_t i = 0; i < mQueues.size(); ++i) { // NOLINT(*-loop-convert): views may go
         mQueues[i]->handOver();
     }
     tell(event);

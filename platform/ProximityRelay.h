@@ -18,8 +18,7 @@ class EventQueue;
 class ProximityRelay;
 
 /**
- * Is told when a pen enters or leaves the tablet's range. Of all responders, only the newest
- * visible one is told.
+ * Is notified when a pen enters or leaves the tablet's range. Only the newest visible responder is.
  */
 class ProximityResponder {
 public:
@@ -39,8 +38,8 @@ private:
 };
 
 /**
- * Passes the proximity events that the application receives to the responder: after the views have
- * handled all events before them, and never during a stroke.
+ * Passes the application's proximity events to the responder: after the views have handled all
+ * earlier events, and never during a stroke.
  *
  * Main thread only. Exists while there is a responder or a queue.
  */
@@ -50,9 +49,9 @@ class ProximityRelay final : public QObject {
 public:
     static std::shared_ptr<ProximityRelay> shared();
 
-    /** Tells the responder now. */
+    /** Notifies the responder at once. */
     void tell(const Event& event);
-    /** Whether a responder was told that the event's pen is in range. */
+    /** Whether a responder knows that the event's pen is in range. */
     bool isKnown(const Event& event) const;
 
 protected:
@@ -67,7 +66,7 @@ private:
     EventQueue* busyQueue(const Event& event) const;
     void note(const Event& event);
 
-    std::optional<Event> mInRange; ///< the pen that a responder was last told of
+    std::optional<Event> mInRange; ///< the pen that was last reported to a responder
     std::vector<ProximityResponder*> mResponders;
     std::vector<EventQueue*> mQueues; ///< of all views
 };

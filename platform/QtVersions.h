@@ -8,7 +8,7 @@
 
 /**
  * @file
- * Where Qt 5 and Qt 6 differ. What stands here works with both.
+ * The differences between Qt 5 and Qt 6. The functions here work with both.
  */
 namespace platform {
 

@@ -32,7 +32,7 @@ private:
     Service* mBefore;
 };
 
-/** What an accessor answers with: the service that a scope has put in place, else the desktop's. */
+/** What an accessor returns: the replacement by a scope, or else the desktop's own service. */
 template <class Service, class Desktop>
 Service& currentService()
 {

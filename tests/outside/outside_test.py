@@ -19,7 +19,7 @@ BUILD = sys.argv.pop(1)
 
 
 def interface(xml, name):
-    """Returns what an interface consists of, without names of arguments and annotations."""
+    """Returns the members of an interface, without names of arguments and annotations."""
     found = ElementTree.fromstring(xml).find(f"interface[@name='{name}']")
     return sorted(
         (member.tag, member.get("name"),

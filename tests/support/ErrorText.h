@@ -6,7 +6,7 @@
 
 #include <string>
 
-/** Why there is no value; empty where there is one. */
+/** The error's text; empty if there is a value. */
 template <class T>
 std::string errorText(const platform::Result<T>& result)
 {
