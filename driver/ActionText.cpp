@@ -23,6 +23,7 @@ QString mouseText(std::int16_t button)
     case kQVMiddleButton:
         return ActionText::tr("Middle mouse button");
     case kQVBackButton:
+        //: The mouse button that goes back, as in a browser.
         return ActionText::tr("Back mouse button");
     default:
         return ActionText::tr("No action");
@@ -57,6 +58,7 @@ QString actionText(const tagQVTabletInfoSubKey& slot)
     case kQVNextDisplay:
         return ActionText::tr("Go to the next display");
     case kQVFinePositioning:
+        //: Action of a tablet key: slows the pointer down while the key is held.
         return ActionText::tr("Move finely while held");
     case kQVPauseTablet:
         return ActionText::tr("Pause the tablet");

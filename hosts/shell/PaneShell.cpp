@@ -209,6 +209,7 @@ PaneShell::Unsaved PaneShell::askAboutUnsaved(const platform::Error& error, bool
 {
     // Its parent may be destroyed, and the message box with it, before the user answers.
     const QPointer<QMessageBox> question = new QMessageBox(QMessageBox::Warning, windowTitle(),
+        //: %1 is the reason, in English.
         tr("The tablet's settings could not be saved: %1").arg(error.text),
         QMessageBox::Retry | QMessageBox::Discard, window());
     question->setTextFormat(Qt::PlainText);
