@@ -58,7 +58,7 @@ std::optional<std::string> dateText(double seconds)
 {
     constexpr double kBegin = 978'307'200; // in Unix time
     const double whole = std::floor(seconds);
-    // What is no number fails the comparison, too.
+    // NaN fails the comparison, too.
     if (!(std::abs(whole) < 1e12)) {
         return std::nullopt;
     }
