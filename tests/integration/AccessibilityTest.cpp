@@ -445,7 +445,7 @@ TEST_F(Accessibility, saysWhichDisplayTheTabletReaches)
     view.SelectMonitor();
     EXPECT_TRUE(QTest::qWaitFor(
         [&] { return Told::count(view, QAccessible::DescriptionChanged) == 1; }, kPatience));
-    EXPECT_EQ(contents(view), displays + "The tablet reaches All displays.");
+    EXPECT_EQ(contents(view), displays + "The tablet is mapped to All displays.");
     mDisplays.change({{0, 0, 800, 600}});
     view.grab();
     EXPECT_TRUE(QTest::qWaitFor(

@@ -279,11 +279,11 @@ TEST_P(Shell, saysWhyASaveFailedAndTriesAgainByHand)
     mPane->edit();
     mLife.canSave = false;
     mShell->save();
-    EXPECT_EQ(notice(), QStringLiteral("The settings are not saved: the disk is full"));
+    EXPECT_EQ(notice(), QStringLiteral("The settings were not saved: the disk is full"));
     mLife.take();
     press("Try Again");
     EXPECT_EQ(mLife.take(), calls({"check", "save"}));
-    EXPECT_EQ(notice(), QStringLiteral("The settings are not saved: the disk is full"));
+    EXPECT_EQ(notice(), QStringLiteral("The settings were not saved: the disk is full"));
     mLife.canSave = true;
     press("Try Again");
     EXPECT_EQ(notice(), QString());
