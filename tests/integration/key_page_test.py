@@ -39,14 +39,7 @@ class KeyPage(desktop.Desktop):
         """Opens a box's list with the mouse and clicks an item."""
         found = self.find("qvtblt", box, "combo box")
         self.click(found)
-        # The list's window is animated.
-        place = [None]
-
-        def has_settled():
-            thing = self.find("qvtblt", item, "list item", inside=found["path"])
-            before, place[0] = place[0], (thing["x"], thing["y"])
-            return thing if place[0] == before and thing["height"] > 0 else None
-        self.click(session.wait_for(has_settled, "the list"))
+        self.click(self.find("qvtblt", item, "list item", inside=found["path"]))
 
     def wait_for_slot(self, number, expected):
         session.wait_for(lambda: len(self.record()) and self.slot(number) == expected,

@@ -67,6 +67,7 @@ def describe(thing, path, states):
         extents = component.get_extents(Atspi.CoordType.SCREEN) if component else None
         value = thing.get_value_iface()
         return {
+            "application": thing.get_application().get_name(),
             "name": thing.get_name(),
             "role": thing.get_role_name(),
             "description": thing.get_description(),
@@ -85,6 +86,17 @@ def describe(thing, path, states):
         }
     except GLib.Error:
         return None
+
+
+def describe_at(path):
+    """Returns the properties of the accessible with that path, or None if there is none."""
+    thing = Atspi.get_desktop(0)
+    try:
+        for i in path:
+            thing = thing and thing.get_child_at_index(i)
+        return describe(thing, path, thing.get_state_set()) if thing else None
+    except GLib.Error:
+        return None  # it disappeared meanwhile
 
 
 def find(things, name, role, showing, inside):
@@ -176,6 +188,8 @@ def answer(arguments):
                         help="find one that is not on the screen")
     parser.add_argument("--inside", metavar="PATH", type=json.loads, default=[],
                         help="find it below the thing with this path")
+    parser.add_argument("--at", metavar="PATH", type=json.loads,
+                        help="print only the thing with this path; null if there is none")
     parser.add_argument("--press", action="store_true",
                         help="also press what is found, and print whether it was")
     parser.add_argument("--listen", action="store_true",
@@ -190,6 +204,9 @@ def answer(arguments):
     if options.focused:
         words = [word for window, _ in windows(options.application) for word in focused(window)]
         print(json.dumps(words), flush=True)
+        return
+    if options.at:
+        print(json.dumps(describe_at(options.at)), flush=True)
         return
     things = (thing for window, path in windows(options.application)
               for thing in walk(window, path, options))

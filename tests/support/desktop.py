@@ -84,10 +84,23 @@ class Desktop(session.Session):
         return result.stdout.strip()
 
     def click(self, thing, x=None):
-        """Clicks a thing, in its middle or x points from its left edge."""
-        across = thing["width"] // 2 if x is None else x
-        self.xdotool("mousemove", thing["x"] + across, thing["y"] + thing["height"] // 2,
-                     "click", 1)
+        """Clicks a thing, in its middle or x points from its left edge, once its window is on the
+        screen and both rest."""
+        root = int(re.search("Window id: (0x[0-9a-f]+)",
+                             self.run_program("xwininfo", "-root").stdout)[1], 16)
+        places = [None]
+
+        def is_under_the_pointer():
+            now = self.things(thing["application"], "--at", json.dumps(thing["path"]))
+            if not now or now["height"] <= 0:
+                return False
+            before = places[0]
+            places[0] = (now["x"] + (now["width"] // 2 if x is None else x),
+                         now["y"] + now["height"] // 2)
+            place = self.xdotool("mousemove", *places[0], "getmouselocation", "--shell")
+            return places[0] == before and f"WINDOW={root}" not in place.splitlines()
+        session.wait_for(is_under_the_pointer, f"a resting {thing['role']} '{thing['name']}'")
+        self.xdotool("click", 1)
 
     def close_window(self, title):
         """Asks a window to close, like its close button."""
