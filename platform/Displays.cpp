@@ -159,7 +159,7 @@ private:
         }
     }
 
-    QTimer mRest;
+    QTimer mRest{this};
 };
 
 } // namespace
