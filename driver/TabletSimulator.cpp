@@ -11,6 +11,7 @@
 TabletSimulator::TabletSimulator(Driver& driver)
     : mDriver(driver)
 {
+    qRegisterMetaType<ModelNames>("ModelNames"); // Qt 5 knows a method's types by name only
     qDBusRegisterMetaType<ModelNames>();
     connect(&driver, &Driver::attachedChanged, this, &TabletSimulator::AttachedChanged);
     connect(&driver, &Driver::pushed, this, &TabletSimulator::Pushed);

@@ -143,6 +143,7 @@ class ChosenSecond(Page):
         return driver
 
     def expect_second(self):
+        self.find("qvtblt", "Display #2", "combo box")  # the page has been drawn
         self.press("qvtblt", "Keep proportions", "push button")
         session.wait_for(lambda: self.mapped() == (1024, 0, 800, 600), "the area")
         self.press("qvtblt", "Calibrate…", "push button")

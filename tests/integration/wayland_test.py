@@ -79,6 +79,7 @@ class ScaledByTheToolkit(wayland.Wayland):
                 panel = self.start([session.BIN / "qvtblt"])
                 self.env = before
                 self.press("qvtblt", "Display", "page tab")
+                self.find("qvtblt", "Display #2", "combo box")  # the page has been drawn
                 self.press("qvtblt", "Keep proportions", "push button")
                 session.wait_for(lambda: self.record() and struct.unpack_from(
                     "<4h", self.record(), 295) == (1280, 1280, 0, 720), "the area")
