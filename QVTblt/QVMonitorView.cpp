@@ -97,10 +97,10 @@ void drawLabel(QPainter& painter, const QString& name, const Rect& miniature)
 QVMonitorView::QVMonitorView(QWidget* parent)
     : PaneView(parent)
     , DisplayRegistrationCallBackSuccessful(
-          connect(&platform::displays(), &platform::Displays::reconfigured, this,
+          static_cast<bool>(connect(&platform::displays(), &platform::Displays::reconfigured, this,
               [this](platform::DisplayID display, std::uint32_t flags) {
                   DisplayRegisterReconfigurationCallback(display, flags, this);
-              }))
+              })))
     , pQVInfo(GetqvTabletInfo())
 {
     readPicture();

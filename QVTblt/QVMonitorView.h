@@ -121,7 +121,7 @@ private:
                                 ///< decoded, it takes 4 MiB, which most showings of the panel spare
     QImage mBackgroundImage;
     bool mIsDark = false; ///< the picture
-    QMetaObject::Connection DisplayRegistrationCallBackSuccessful; ///< ends with the view
+    bool DisplayRegistrationCallBackSuccessful;
     tagQVTabletInfo* pQVInfo;
     std::vector<platform::DisplayID> mDisplays;
     std::uint32_t mDspCount = 0;

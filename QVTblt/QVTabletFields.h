@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <span>
+#include <string_view>
 
 /**
  * @file
@@ -107,13 +108,15 @@ inline constexpr std::array<QVEntry, 102> kQVEntries = [] {
     add(kQVMonitorSection, "cTabletYmax", offsetof(Record, Monitor.cTabletYmax), UInt16);
     return entries;
 }();
-static_assert(kQVEntries.back().key != nullptr, "the count is right");
+static_assert(kQVEntries.back().key != nullptr, "the array is completely filled");
 
 /** The entries of a section's own dictionary or, with a slot's key, of that slot's. */
 constexpr std::span<const QVEntry> QVEntriesOf(const QVSection& section, const char* slot = nullptr)
 {
+    // By their texts: the same literal may have another address in another source.
+    const auto text = [](const char* key) { return std::string_view(key == nullptr ? "" : key); };
     const auto isOfIt = [&](const QVEntry& entry) {
-        return entry.section == &section && entry.slot == slot;
+        return entry.section == &section && text(entry.slot) == text(slot);
     };
     const auto* const first = std::ranges::find_if(kQVEntries, isOfIt);
     return {first, std::ranges::find_if_not(first, kQVEntries.end(), isOfIt)};

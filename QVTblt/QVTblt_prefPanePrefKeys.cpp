@@ -312,7 +312,7 @@ void QVTblt_prefPanePref::SelectKey(QVKeyComboBox* comboBox)
     }
     if (item == QVKeyComboBox::Application) {
         takeApplication(*comboBox, slot);
-    } else if (item >= 0) {
+    } else if (item >= 0 && static_cast<std::size_t>(item) < kChoices.size()) {
         const Choice& choice = kChoices[static_cast<std::size_t>(item)];
         slot.Valid = choice.valid;
         if (choice.valid == kQVMouseButton) {

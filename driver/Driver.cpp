@@ -37,12 +37,6 @@ QString senderOf(const AppleEvent& event)
     return name == nullptr ? QStringLiteral("somebody") : QString::fromUtf8(*name);
 }
 
-/** The bytes of a whole record, as the record. */
-const tagQVTabletInfo& recordIn(const QByteArray& bytes)
-{
-    return *reinterpret_cast<const tagQVTabletInfo*>(bytes.constData());
-}
-
 QString valueText(const QVEntry& entry, const tagQVTabletInfo& record)
 {
     const QString text = QString::fromLatin1(QVFieldText(entry, record).c_str());
@@ -57,9 +51,11 @@ QString changes(const QByteArray& before, const QByteArray& after)
     }
     QStringList told;
     int count = 0;
+    const tagQVTabletInfo old = recordIn(before);
+    const tagQVTabletInfo now = recordIn(after);
     for (const QVEntry& entry : kQVEntries) {
-        const QString was = valueText(entry, recordIn(before));
-        const QString is = valueText(entry, recordIn(after));
+        const QString was = valueText(entry, old);
+        const QString is = valueText(entry, now);
         if (was != is && ++count <= kMaxChangesTold) {
             told.append(QStringLiteral("%1 %2 -> %3")
                             .arg(QString::fromStdString(QVEntryPath(entry)), was, is));

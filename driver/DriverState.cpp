@@ -3,7 +3,6 @@
 #include "DriverState.h"
 
 #include "FileSaving.h"
-#include "tagQVTabletInfo.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,6 +13,7 @@
 
 #include <cmath>
 #include <cstddef>
+#include <cstring>
 #include <limits>
 
 namespace {
@@ -92,4 +92,11 @@ platform::Result<> DriverState::save() const
     return saved
         ? saved
         : platform::Error{QStringLiteral("cannot write %1: %2").arg(path, saved.error().text)};
+}
+
+tagQVTabletInfo recordIn(const QByteArray& bytes)
+{
+    tagQVTabletInfo record{};
+    std::memcpy(&record, bytes.constData(), sizeof record);
+    return record;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Result.h"
+#include "tagQVTabletInfo.h"
 
 #include <QByteArray>
 
@@ -29,3 +30,6 @@ struct DriverState {
     /** Replaces the file. */
     platform::Result<> save() const;
 };
+
+/** Returns the record that the bytes are; as many as it has. */
+tagQVTabletInfo recordIn(const QByteArray& bytes);

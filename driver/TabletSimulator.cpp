@@ -82,7 +82,7 @@ QVariantMap TabletSimulator::LastRecordDecoded() const
     if (bytes.size() != kQVRecordSize) {
         return entries;
     }
-    const auto& record = *reinterpret_cast<const tagQVTabletInfo*>(bytes.constData());
+    const tagQVTabletInfo record = recordIn(bytes);
     for (const QVEntry& entry : kQVEntries) {
         entries.insert(QString::fromStdString(QVEntryPath(entry)),
             entry.type == QVFieldType::String

@@ -5,11 +5,13 @@
 #include "Service.h"
 
 #include <QGuiApplication>
+#include <QMetaMethod>
 #include <QScreen>
 #include <QTimer>
 
 #include <cmath>
 #include <numeric>
+#include <utility>
 #include <vector>
 
 namespace platform {
@@ -80,23 +82,13 @@ class ScreenDisplays final : public Displays {
 public:
     ScreenDisplays()
     {
-        if (!hasWindowSystem()) {
-            return;
-        }
         constexpr int kRest = 200; // milliseconds
         mRest.setSingleShot(true);
         mRest.setInterval(kRest);
-        connect(&mRest, &QTimer::timeout, this, [this] { tell(kDisplaySetMode); });
-        connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
-            watch(screen);
-            noteChange();
+        connect(&mRest, &QTimer::timeout, this, [this] {
+            mIsAnnounced = false;
+            tell(kDisplaySetMode);
         });
-        connect(qGuiApp, &QGuiApplication::screenRemoved, this, &ScreenDisplays::noteChange);
-        connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &ScreenDisplays::noteChange);
-        const QList<QScreen*> screens = QGuiApplication::screens();
-        for (QScreen* const screen : screens) {
-            watch(screen);
-        }
     }
 
     std::optional<std::uint32_t> activeDisplayCount() const override
@@ -133,6 +125,18 @@ public:
             && screens[static_cast<int>(index)] == QGuiApplication::primaryScreen();
     }
 
+protected:
+    /** Who begins to listen during a change needs to be told of it, too. */
+    void connectNotify(const QMetaMethod& signal) override
+    {
+        Displays::connectNotify(signal);
+        mIsAnnounced = false;
+        if (!mIsWatching && hasWindowSystem()) {
+            mIsWatching = true;
+            watchScreens();
+        }
+    }
+
 private:
     /** A command without windows has no application object with screens. */
     static bool hasWindowSystem()
@@ -140,13 +144,26 @@ private:
         return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
     }
 
+    void watchScreens()
+    {
+        connect(qGuiApp, &QGuiApplication::screenAdded, this, [this](QScreen* screen) {
+            watch(screen);
+            noteChange();
+        });
+        connect(qGuiApp, &QGuiApplication::screenRemoved, this, &ScreenDisplays::noteChange);
+        connect(qGuiApp, &QGuiApplication::primaryScreenChanged, this, &ScreenDisplays::noteChange);
+        const QList<QScreen*> screens = QGuiApplication::screens();
+        for (QScreen* const screen : screens) {
+            watch(screen);
+        }
+    }
     void watch(QScreen* screen) const
     {
         connect(screen, &QScreen::geometryChanged, this, &ScreenDisplays::noteChange);
     }
     void noteChange()
     {
-        if (!mRest.isActive()) {
+        if (!std::exchange(mIsAnnounced, true)) {
             tell(kDisplayBeginConfiguration);
         }
         mRest.start();
@@ -160,6 +177,8 @@ private:
     }
 
     QTimer mRest{this};
+    bool mIsAnnounced = false; ///< every listener knows that the displays are changing
+    bool mIsWatching = false;
 };
 
 } // namespace

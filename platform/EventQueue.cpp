@@ -33,6 +33,14 @@ EventQueue::EventQueue(PenView& view)
 EventQueue::~EventQueue()
 {
     std::erase(mRelay->mQueues, this);
+    for (const Event& event : mParked) {
+        mQueue.push_back(event);
+    }
+    for (const Event& event : mQueue) {
+        if (event.type == EventType::TabletProximity) { // not the view's own
+            QTimer::singleShot(0, mRelay.get(), [&relay = *mRelay, event] { relay.tell(event); });
+        }
+    }
 }
 
 void EventQueue::post(Event event)
@@ -117,7 +125,12 @@ void EventQueue::handOver()
 void EventQueue::deliver(const Event& event)
 {
     if (event.subtype == kTabletPointSubtype && !mRelay->isKnown(event)) {
-        mRelay->tell(proximityEvent(event)); // another pen may have been announced since
+        const QPointer<QWidget> guard(&mView);
+        const std::shared_ptr<ProximityRelay> relay = mRelay;
+        relay->tell(proximityEvent(event)); // another pen may have been announced since
+        if (guard.isNull()) {
+            return;
+        }
     }
     switch (event.type) {
     case EventType::LeftMouseDown:

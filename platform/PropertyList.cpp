@@ -50,8 +50,9 @@ Result<std::string> readFile(const std::string& path, PropertyListSource source)
     const Descriptor file(
         ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | (isRegular ? O_NONBLOCK : 0)));
     if (file.get() < 0) {
-        Error error = fail(systemText(errno));
-        error.isMissingFile = errno == ENOENT;
+        const int reason = errno;
+        Error error = fail(systemText(reason));
+        error.isMissingFile = reason == ENOENT;
         return error;
     }
     struct stat status { };

@@ -42,6 +42,7 @@ ProximityRelay::ProximityRelay()
 
 bool ProximityRelay::eventFilter(QObject* watched, QEvent* event)
 {
+    const std::shared_ptr<ProximityRelay> guard = shared(); // the last view may be deleted
     const auto proximity = [event](bool isEntering) {
         // NOLINTNEXTLINE(*-downcast): its type says so
         return proximityEvent(*static_cast<QTabletEvent*>(event), isEntering);
@@ -59,7 +60,7 @@ bool ProximityRelay::eventFilter(QObject* watched, QEvent* event)
         // Not every tablet's driver announces a pen. During a stroke, the queue does that in time.
         if (const Event entering = proximity(true);
             !isKnown(entering) && busyQueue(entering) == nullptr) {
-            note(entering);
+            note(entering, true);
         }
         break;
     default:
@@ -82,16 +83,21 @@ EventQueue* ProximityRelay::busyQueue(const Event& event) const
     return busy;
 }
 
-void ProximityRelay::note(const Event& event)
+void ProximityRelay::note(const Event& event, bool isGuess)
 {
     if (EventQueue* const busy = busyQueue(event)) {
         busy->post(event);
         return;
     }
-    for (std::size_t i = 0; i < mQueues.size(); ++i) { // NOLINT(*-loop-convert): views may go
-        mQueues[i]->handOver();
+    for (EventQueue* const queue : std::vector(mQueues)) {
+        if (std::ranges::find(mQueues, queue)
+            != mQueues.end()) { // a view's events may delete views
+            queue->handOver();
+        }
     }
-    tell(event);
+    if (!isGuess || !isKnown(event)) {
+        tell(event);
+    }
 }
 
 bool ProximityRelay::isKnown(const Event& event) const

@@ -64,7 +64,8 @@ private:
     ProximityRelay();
 
     EventQueue* busyQueue(const Event& event) const;
-    void note(const Event& event);
+    /** @param isGuess whether no driver has announced it, but it follows from the pen's events */
+    void note(const Event& event, bool isGuess = false);
 
     std::optional<Event> mInRange; ///< the pen that was last reported to a responder
     std::vector<ProximityResponder*> mResponders;

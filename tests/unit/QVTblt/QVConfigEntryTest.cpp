@@ -74,7 +74,7 @@ private:
 TEST(QVEntryPath, namesSectionSlotAndKey)
 {
     std::string paths;
-    for (const std::size_t entry : {0, 13, 18, 21, 86, 89, 90, 101}) {
+    for (const std::size_t entry : {0U, 13U, 18U, 21U, 86U, 89U, 90U, 101U}) {
         paths += QVEntryPath(kQVEntries[entry]) + '\n';
     }
     EXPECT_EQ(paths,

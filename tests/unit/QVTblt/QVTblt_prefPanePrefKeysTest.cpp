@@ -769,6 +769,11 @@ TEST_F(KeyPage, noItemOrAnUnknownOnePushesTheRecordAsItIs)
     mPane.SelectKey(&box(0));
     ASSERT_EQ(pushes().size(), 1U);
     EXPECT_TRUE(sameBytes(pushes().back(), before));
+    box(0).addItem(QStringLiteral("an eleventh item"));
+    box(0).setCurrentIndex(10);
+    mPane.SelectKey(&box(0));
+    ASSERT_EQ(pushes().size(), 2U);
+    EXPECT_TRUE(sameBytes(pushes().back(), before));
 }
 
 TEST_F(KeyPage, anApplicationIsStoredShownAndPushedTwice)

@@ -54,6 +54,21 @@ TEST(Displays, canBeReplacedForAWhile)
     EXPECT_EQ(platform::displays().activeDisplayCount(), 1U);
 }
 
+TEST(Displays, tellOfAChangeAgainForWhoBeganToListenDuringIt)
+{
+    std::vector<std::uint32_t> told;
+    const QObject listener;
+    const auto listen = [&] {
+        QObject::connect(&platform::displays(), &platform::Displays::reconfigured, &listener,
+            [&told](platform::DisplayID, std::uint32_t flags) { told.push_back(flags); });
+    };
+    listen();
+    changeScreen();
+    listen();
+    changeScreen();
+    EXPECT_EQ(told, (std::vector{kBegin, kBegin, kBegin}));
+}
+
 TEST(Displays, tellOnceOfTheBeginningAndOnceWhenAllHaveComeToRest)
 {
     std::vector<std::uint32_t> told;

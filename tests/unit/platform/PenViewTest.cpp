@@ -383,6 +383,43 @@ TEST_F(PenViewTest, aPenThatIsNotAnnouncedIsSaidToEnterWithItsFirstEvent)
     EXPECT_EQ(reach.events[1].pointingDeviceType, PointingDeviceType::Eraser);
 }
 
+TEST_F(PenViewTest, aPenThatIsNotAnnouncedInAnothersStrokeIsSaidToEnterOnce)
+{
+    Reach reach;
+    reach.show();
+    PenInput other(mView, 88);
+    mPen.press({1, 1}, 1);
+    PenInput::deliver();
+    other.hover({5, 5});
+    mPen.release({1, 1});
+    other.hover({6, 5});
+    PenInput::deliver();
+    ASSERT_EQ(reach.events.size(), 2U);
+    EXPECT_EQ(reach.events[0].uniqueID, 77U);
+    EXPECT_EQ(reach.events[1].uniqueID, 88U);
+}
+
+TEST_F(PenViewTest, proximityOutlivesTheViewInWhoseStrokeItWaits)
+{
+    Reach reach;
+    reach.show();
+    auto view = std::make_unique<Witness>();
+    view->setParent(&mWindow);
+    view->setGeometry(50, 20, 200, 100);
+    view->show();
+    PenInput pen(*view, 5);
+    pen.enter();
+    pen.press({1, 1}, 1);
+    PenInput::deliver();
+    PenInput other(mView, 88);
+    other.enter();
+    view.reset();
+    PenInput::deliver();
+    ASSERT_EQ(reach.events.size(), 2U);
+    EXPECT_EQ(reach.events[1].uniqueID, 88U);
+    EXPECT_TRUE(reach.events[1].isEnteringProximity);
+}
+
 TEST_F(PenViewTest, proximityInsideAStrokeIsForWhoTracksIt)
 {
     Reach reach;
