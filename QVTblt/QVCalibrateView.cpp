@@ -256,10 +256,13 @@ QString QVCalibrateView::spokenContents() const
         //: Read by screen readers: the cross to touch next, of four in the corners of the display.
         return tr("Cross 1 of 4, at the upper left.");
     case kDrawCross + 1:
+        //: Read by screen readers: the cross to touch next, of four in the corners of the display.
         return tr("Cross 2 of 4, at the upper right.");
     case kDrawCross + 2:
+        //: Read by screen readers: the cross to touch next, of four in the corners of the display.
         return tr("Cross 3 of 4, at the lower right.");
     case kDrawCross + 3:
+        //: Read by screen readers: the cross to touch next, of four in the corners of the display.
         return tr("Cross 4 of 4, at the lower left.");
     default:
         return {};

@@ -35,10 +35,11 @@ QImage pictureOf(std::uint16_t productID, bool isDense, bool isDark)
 QString QVKeyView::spokenContents() const
 {
     const QVTabletModel* const model = QVFindModel(QVProductID(*GetqvTabletInfo()));
-    return model == nullptr || model->picture == nullptr
-        ? tr("There is no picture of this model.")
-        //: Read by screen readers for the picture of the tablet; %1 is the model's name.
-        : tr("%1. Each key has the number of its list.").arg(QString::fromUtf8(model->name));
+    if (model == nullptr || model->picture == nullptr) {
+        return tr("There is no picture of this model.");
+    }
+    //: Read by screen readers for the picture of the tablet; %1 is the model's name.
+    return tr("%1. Each key has the number of its list.").arg(QString::fromUtf8(model->name));
 }
 
 void QVKeyView::changeEvent(QEvent* event)

@@ -20,16 +20,16 @@ QString nameOf(const platform::Event& pen)
     const bool isEraser = pen.pointingDeviceType == platform::PointingDeviceType::Eraser;
     if (pen.uniqueID == 0) {
         //: The end of the pen that is near the tablet; a label below the drawing pad.
-        return isEraser
-            ? QVPressView::tr("Eraser")
-            //: The end of the pen that is near the tablet; a label below the drawing pad.
-            : QVPressView::tr("Pen");
+        const QString eraser = QVPressView::tr("Eraser");
+        //: The end of the pen that is near the tablet; a label below the drawing pad.
+        const QString tip = QVPressView::tr("Pen");
+        return isEraser ? eraser : tip;
     }
     //: A label below the drawing pad.
-    return (isEraser ? QVPressView::tr("Eraser, serial number %1")
-                     //: A label below the drawing pad.
-                     : QVPressView::tr("Pen, serial number %1"))
-        .arg(pen.uniqueID);
+    const QString eraser = QVPressView::tr("Eraser, serial number %1");
+    //: A label below the drawing pad.
+    const QString tip = QVPressView::tr("Pen, serial number %1");
+    return (isEraser ? eraser : tip).arg(pen.uniqueID);
 }
 
 /** Draws a line one point wide that ends at the end of its path. */

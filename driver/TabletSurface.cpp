@@ -90,10 +90,10 @@ QRectF TabletSurface::surface() const
 QString TabletSurface::spokenContents() const
 {
     //: Read by screen readers; %1 is x, %2 is y, in tablet units.
-    return (isPenDown() ? tr("The pen is down at %1, %2.")
-                        //: Read by screen readers; %1 is x, %2 is y, in tablet units.
-                        : tr("The pen is up at %1, %2."))
-        .arg(QString::number(mPen.x), QString::number(mPen.y));
+    const QString down = tr("The pen is down at %1, %2.");
+    //: Read by screen readers; %1 is x, %2 is y, in tablet units.
+    const QString up = tr("The pen is up at %1, %2.");
+    return (isPenDown() ? down : up).arg(QString::number(mPen.x), QString::number(mPen.y));
 }
 
 QSize TabletSurface::sizeHint() const

@@ -131,8 +131,10 @@ TabletWindow::TabletWindow(Driver& driver)
     , mTop(new QHBoxLayout)
     , mBody(new QHBoxLayout)
 {
+    //: Read by screen readers: the list of tablet models.
     mModels->setAccessibleName(tr("Tablet"));
     mModels->setAccessibleDescription(tr("The model that is attached."));
+    //: First item of the list of tablet models: none is attached.
     mModels->addItem(tr("No tablet"), 0);
     for (const QVTabletModel& known : kQVTabletModels) {
         mModels->addItem(QString::fromUtf8(known.name), known.productID);
@@ -244,10 +246,13 @@ void TabletWindow::showModel()
 {
     const QVTabletModel* const attached = model();
     mModels->setCurrentIndex(mModels->findData(mDriver.attached()));
-    setWindowTitle(attached == nullptr
-            ? tr("Virtual tablet")
-            //: Window title; %1 is the model's name.
-            : tr("Virtual tablet: %1").arg(QString::fromUtf8(attached->name)));
+    if (attached == nullptr) {
+        //: Window title.
+        setWindowTitle(tr("Virtual tablet"));
+    } else {
+        //: Window title; %1 is the model's name.
+        setWindowTitle(tr("Virtual tablet: %1").arg(QString::fromUtf8(attached->name)));
+    }
     mNoTablet->setText(tr("No tablet is attached. Choose one above."));
     mNoTablet->setVisible(attached == nullptr);
     mTablet->setVisible(attached != nullptr);
@@ -378,11 +383,13 @@ void TabletWindow::showSettings()
 
 void TabletWindow::showListening()
 {
-    mListening->setText(mDriver.isCalibrating()
-            //: Follows the label "Panel:".
-            ? tr("calibrating: it gets pen reports")
-            //: Follows the label "Panel:".
-            : tr("not calibrating: it gets no pen reports"));
+    if (mDriver.isCalibrating()) {
+        //: Follows the label "Panel:".
+        mListening->setText(tr("calibrating: it gets pen reports"));
+    } else {
+        //: Follows the label "Panel:".
+        mListening->setText(tr("not calibrating: it gets no pen reports"));
+    }
     liftAboveCalibration();
 }
 
@@ -390,11 +397,11 @@ void TabletWindow::showPen()
 {
     const QVTabletPoint& pen = mSurface->pen();
     //: Follows the label "Pen:"; %1 is x, %2 is y, in tablet units.
+    const QString down = tr("down at %1, %2");
+    //: Follows the label "Pen:"; %1 is x, %2 is y, in tablet units.
+    const QString up = tr("up at %1, %2");
     mPen->setText(
-        (mSurface->isPenDown() ? tr("down at %1, %2")
-                               //: Follows the label "Pen:"; %1 is x, %2 is y, in tablet units.
-                               : tr("up at %1, %2"))
-            .arg(QString::number(pen.x), QString::number(pen.y)));
+        (mSurface->isPenDown() ? down : up).arg(QString::number(pen.x), QString::number(pen.y)));
 }
 
 void TabletWindow::liftAboveCalibration()

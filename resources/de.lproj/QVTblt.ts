@@ -91,14 +91,17 @@
     </message>
     <message>
         <source>Cross 2 of 4, at the upper right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Kreuz 2 von 4, oben rechts.</translation>
     </message>
     <message>
         <source>Cross 3 of 4, at the lower right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Kreuz 3 von 4, unten rechts.</translation>
     </message>
     <message>
         <source>Cross 4 of 4, at the lower left.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Kreuz 4 von 4, unten links.</translation>
     </message>
     <message>
@@ -262,6 +265,7 @@
     </message>
     <message>
         <source>%1. Each key has the number of its list.</source>
+        <extracomment>Read by screen readers for the picture of the tablet; %1 is the model&apos;s name.</extracomment>
         <translation>%1. Jede Taste trägt die Nummer ihrer Liste.</translation>
     </message>
 </context>
@@ -319,6 +323,7 @@
     </message>
     <message>
         <source>Pen</source>
+        <extracomment>The end of the pen that is near the tablet; a label below the drawing pad.</extracomment>
         <translation>Stift</translation>
     </message>
     <message>
@@ -328,6 +333,7 @@
     </message>
     <message>
         <source>Pen, serial number %1</source>
+        <extracomment>A label below the drawing pad.</extracomment>
         <translation>Stift, Seriennummer %1</translation>
     </message>
     <message>
@@ -354,18 +360,22 @@
     </message>
     <message>
         <source>Express key 1</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 1</translation>
     </message>
     <message>
         <source>Express key 2</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 2</translation>
     </message>
     <message>
         <source>Express key 3</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 3</translation>
     </message>
     <message>
         <source>Express key 4</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 4</translation>
     </message>
     <message>
@@ -375,34 +385,42 @@
     </message>
     <message>
         <source>Express key 5</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 5</translation>
     </message>
     <message>
         <source>Express key 6</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 6</translation>
     </message>
     <message>
         <source>Express key 7</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 7</translation>
     </message>
     <message>
         <source>Express key 8</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 8</translation>
     </message>
     <message>
         <source>Express key 9</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 9</translation>
     </message>
     <message>
         <source>Express key 10</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 10</translation>
     </message>
     <message>
         <source>Express key 11</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 11</translation>
     </message>
     <message>
         <source>Express key 12</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 12</translation>
     </message>
     <message>
@@ -412,18 +430,22 @@
     </message>
     <message>
         <source>Express key 13</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 13</translation>
     </message>
     <message>
         <source>Express key 14</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 14</translation>
     </message>
     <message>
         <source>Express key 15</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 15</translation>
     </message>
     <message>
         <source>Express key 16</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Expresstaste 16</translation>
     </message>
     <message>

@@ -5,14 +5,17 @@
     <name>ActionText</name>
     <message>
         <source>Left mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>Linke Maustaste</translation>
     </message>
     <message>
         <source>Right mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>Rechte Maustaste</translation>
     </message>
     <message>
         <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>Mittlere Maustaste</translation>
     </message>
     <message>
@@ -22,26 +25,32 @@
     </message>
     <message>
         <source>No action</source>
+        <extracomment>Action of a tablet key: it does nothing.</extracomment>
         <translation>Keine Aktion</translation>
     </message>
     <message>
         <source>Open an application (unknown path)</source>
+        <extracomment>Action of a tablet key.</extracomment>
         <translation>Eine Anwendung öffnen (Pfad unbekannt)</translation>
     </message>
     <message>
         <source>Open %1</source>
+        <extracomment>Action of a tablet key; %1 is the path of an application.</extracomment>
         <translation>%1 öffnen</translation>
     </message>
     <message>
         <source>Press no keys</source>
+        <extracomment>Action of a tablet key: a key combination without keys.</extracomment>
         <translation>Keine Tasten drücken</translation>
     </message>
     <message>
         <source>Press %1</source>
+        <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
         <translation>%1 drücken</translation>
     </message>
     <message>
         <source>Go to the next display</source>
+        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
         <translation>Zum nächsten Bildschirm</translation>
     </message>
     <message>
@@ -51,6 +60,7 @@
     </message>
     <message>
         <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
         <translation>Tablett anhalten</translation>
     </message>
     <message>
@@ -60,6 +70,7 @@
     </message>
     <message>
         <source>No action: the strip is off</source>
+        <extracomment>Action of a scroll strip.</extracomment>
         <translation>Keine Aktion: Der Streifen ist aus</translation>
     </message>
 </context>
@@ -81,6 +92,7 @@
     </message>
     <message>
         <source>The pen is up at %1, %2.</source>
+        <extracomment>Read by screen readers; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>Der Stift ist oben bei %1, %2.</translation>
     </message>
 </context>
@@ -88,6 +100,7 @@
     <name>TabletWindow</name>
     <message>
         <source>Tablet</source>
+        <extracomment>Read by screen readers: the list of tablet models.</extracomment>
         <translation>Tablett</translation>
     </message>
     <message>
@@ -96,6 +109,7 @@
     </message>
     <message>
         <source>No tablet</source>
+        <extracomment>First item of the list of tablet models: none is attached.</extracomment>
         <translation>Kein Tablett</translation>
     </message>
     <message>
@@ -130,10 +144,12 @@
     </message>
     <message>
         <source>Virtual tablet</source>
+        <extracomment>Window title.</extracomment>
         <translation>Virtuelles Tablett</translation>
     </message>
     <message>
         <source>Virtual tablet: %1</source>
+        <extracomment>Window title; %1 is the model&apos;s name.</extracomment>
         <translation>Virtuelles Tablett: %1</translation>
     </message>
     <message>
@@ -182,10 +198,12 @@
     </message>
     <message>
         <source>calibrating: it gets pen reports</source>
+        <extracomment>Follows the label &quot;Panel:&quot;.</extracomment>
         <translation>Kalibrierung läuft: Stiftdaten werden gesendet</translation>
     </message>
     <message>
         <source>not calibrating: it gets no pen reports</source>
+        <extracomment>Follows the label &quot;Panel:&quot;.</extracomment>
         <translation>keine Kalibrierung: Stiftdaten werden nicht gesendet</translation>
     </message>
     <message>
@@ -195,6 +213,7 @@
     </message>
     <message>
         <source>up at %1, %2</source>
+        <extracomment>Follows the label &quot;Pen:&quot;; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>oben bei %1, %2</translation>
     </message>
 </context>

@@ -91,14 +91,17 @@
     </message>
     <message>
         <source>Cross 2 of 4, at the upper right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Cruz 2 de 4, arriba a la derecha.</translation>
     </message>
     <message>
         <source>Cross 3 of 4, at the lower right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Cruz 3 de 4, abajo a la derecha.</translation>
     </message>
     <message>
         <source>Cross 4 of 4, at the lower left.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Cruz 4 de 4, abajo a la izquierda.</translation>
     </message>
     <message>
@@ -262,6 +265,7 @@
     </message>
     <message>
         <source>%1. Each key has the number of its list.</source>
+        <extracomment>Read by screen readers for the picture of the tablet; %1 is the model&apos;s name.</extracomment>
         <translation>%1. Cada tecla lleva el número de su lista.</translation>
     </message>
 </context>
@@ -319,6 +323,7 @@
     </message>
     <message>
         <source>Pen</source>
+        <extracomment>The end of the pen that is near the tablet; a label below the drawing pad.</extracomment>
         <translation>Lápiz</translation>
     </message>
     <message>
@@ -328,6 +333,7 @@
     </message>
     <message>
         <source>Pen, serial number %1</source>
+        <extracomment>A label below the drawing pad.</extracomment>
         <translation>Lápiz, número de serie %1</translation>
     </message>
     <message>
@@ -358,18 +364,22 @@
     </message>
     <message>
         <source>Express key 1</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 1</translation>
     </message>
     <message>
         <source>Express key 2</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 2</translation>
     </message>
     <message>
         <source>Express key 3</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 3</translation>
     </message>
     <message>
         <source>Express key 4</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 4</translation>
     </message>
     <message>
@@ -379,34 +389,42 @@
     </message>
     <message>
         <source>Express key 5</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 5</translation>
     </message>
     <message>
         <source>Express key 6</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 6</translation>
     </message>
     <message>
         <source>Express key 7</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 7</translation>
     </message>
     <message>
         <source>Express key 8</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 8</translation>
     </message>
     <message>
         <source>Express key 9</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 9</translation>
     </message>
     <message>
         <source>Express key 10</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 10</translation>
     </message>
     <message>
         <source>Express key 11</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 11</translation>
     </message>
     <message>
         <source>Express key 12</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 12</translation>
     </message>
     <message>
@@ -416,18 +434,22 @@
     </message>
     <message>
         <source>Express key 13</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 13</translation>
     </message>
     <message>
         <source>Express key 14</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 14</translation>
     </message>
     <message>
         <source>Express key 15</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 15</translation>
     </message>
     <message>
         <source>Express key 16</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Tecla rápida 16</translation>
     </message>
     <message>

@@ -91,14 +91,17 @@
     </message>
     <message>
         <source>Cross 2 of 4, at the upper right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Croix 2 sur 4, en haut à droite.</translation>
     </message>
     <message>
         <source>Cross 3 of 4, at the lower right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Croix 3 sur 4, en bas à droite.</translation>
     </message>
     <message>
         <source>Cross 4 of 4, at the lower left.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>Croix 4 sur 4, en bas à gauche.</translation>
     </message>
     <message>
@@ -262,6 +265,7 @@
     </message>
     <message>
         <source>%1. Each key has the number of its list.</source>
+        <extracomment>Read by screen readers for the picture of the tablet; %1 is the model&apos;s name.</extracomment>
         <translation>%1. Chaque touche porte le numéro de sa liste.</translation>
     </message>
 </context>
@@ -319,6 +323,7 @@
     </message>
     <message>
         <source>Pen</source>
+        <extracomment>The end of the pen that is near the tablet; a label below the drawing pad.</extracomment>
         <translation>Stylet</translation>
     </message>
     <message>
@@ -328,6 +333,7 @@
     </message>
     <message>
         <source>Pen, serial number %1</source>
+        <extracomment>A label below the drawing pad.</extracomment>
         <translation>Stylet, numéro de série %1</translation>
     </message>
     <message>
@@ -358,18 +364,22 @@
     </message>
     <message>
         <source>Express key 1</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 1</translation>
     </message>
     <message>
         <source>Express key 2</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 2</translation>
     </message>
     <message>
         <source>Express key 3</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 3</translation>
     </message>
     <message>
         <source>Express key 4</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 4</translation>
     </message>
     <message>
@@ -379,34 +389,42 @@
     </message>
     <message>
         <source>Express key 5</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 5</translation>
     </message>
     <message>
         <source>Express key 6</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 6</translation>
     </message>
     <message>
         <source>Express key 7</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 7</translation>
     </message>
     <message>
         <source>Express key 8</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 8</translation>
     </message>
     <message>
         <source>Express key 9</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 9</translation>
     </message>
     <message>
         <source>Express key 10</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 10</translation>
     </message>
     <message>
         <source>Express key 11</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 11</translation>
     </message>
     <message>
         <source>Express key 12</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 12</translation>
     </message>
     <message>
@@ -416,18 +434,22 @@
     </message>
     <message>
         <source>Express key 13</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 13</translation>
     </message>
     <message>
         <source>Express key 14</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 14</translation>
     </message>
     <message>
         <source>Express key 15</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 15</translation>
     </message>
     <message>
         <source>Express key 16</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>Touche rapide 16</translation>
     </message>
     <message>

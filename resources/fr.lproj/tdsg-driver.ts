@@ -5,14 +5,17 @@
     <name>ActionText</name>
     <message>
         <source>Left mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>Souris&#xa0;: bouton gauche</translation>
     </message>
     <message>
         <source>Right mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>Souris&#xa0;: bouton droit</translation>
     </message>
     <message>
         <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>Souris&#xa0;: bouton central</translation>
     </message>
     <message>
@@ -22,26 +25,32 @@
     </message>
     <message>
         <source>No action</source>
+        <extracomment>Action of a tablet key: it does nothing.</extracomment>
         <translation>Aucune action</translation>
     </message>
     <message>
         <source>Open an application (unknown path)</source>
+        <extracomment>Action of a tablet key.</extracomment>
         <translation>Ouvrir une application (chemin inconnu)</translation>
     </message>
     <message>
         <source>Open %1</source>
+        <extracomment>Action of a tablet key; %1 is the path of an application.</extracomment>
         <translation>Ouvrir %1</translation>
     </message>
     <message>
         <source>Press no keys</source>
+        <extracomment>Action of a tablet key: a key combination without keys.</extracomment>
         <translation>N’appuyer sur aucune touche</translation>
     </message>
     <message>
         <source>Press %1</source>
+        <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
         <translation>Appuyer sur %1</translation>
     </message>
     <message>
         <source>Go to the next display</source>
+        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
         <translation>Passer à l’écran suivant</translation>
     </message>
     <message>
@@ -51,6 +60,7 @@
     </message>
     <message>
         <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
         <translation>Suspendre la tablette</translation>
     </message>
     <message>
@@ -60,6 +70,7 @@
     </message>
     <message>
         <source>No action: the strip is off</source>
+        <extracomment>Action of a scroll strip.</extracomment>
         <translation>Aucune action&#xa0;: la bande est désactivée</translation>
     </message>
 </context>
@@ -81,6 +92,7 @@
     </message>
     <message>
         <source>The pen is up at %1, %2.</source>
+        <extracomment>Read by screen readers; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>Le stylet est levé en %1, %2.</translation>
     </message>
 </context>
@@ -88,6 +100,7 @@
     <name>TabletWindow</name>
     <message>
         <source>Tablet</source>
+        <extracomment>Read by screen readers: the list of tablet models.</extracomment>
         <translation>Tablette</translation>
     </message>
     <message>
@@ -96,6 +109,7 @@
     </message>
     <message>
         <source>No tablet</source>
+        <extracomment>First item of the list of tablet models: none is attached.</extracomment>
         <translation>Aucune tablette</translation>
     </message>
     <message>
@@ -130,10 +144,12 @@
     </message>
     <message>
         <source>Virtual tablet</source>
+        <extracomment>Window title.</extracomment>
         <translation>Tablette virtuelle</translation>
     </message>
     <message>
         <source>Virtual tablet: %1</source>
+        <extracomment>Window title; %1 is the model&apos;s name.</extracomment>
         <translation>Tablette virtuelle&#xa0;: %1</translation>
     </message>
     <message>
@@ -182,10 +198,12 @@
     </message>
     <message>
         <source>calibrating: it gets pen reports</source>
+        <extracomment>Follows the label &quot;Panel:&quot;.</extracomment>
         <translation>calibrage en cours&#xa0;: ils reçoivent les données du stylet</translation>
     </message>
     <message>
         <source>not calibrating: it gets no pen reports</source>
+        <extracomment>Follows the label &quot;Panel:&quot;.</extracomment>
         <translation>pas de calibrage&#xa0;: ils ne reçoivent aucune donnée du stylet</translation>
     </message>
     <message>
@@ -195,6 +213,7 @@
     </message>
     <message>
         <source>up at %1, %2</source>
+        <extracomment>Follows the label &quot;Pen:&quot;; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>levé en %1, %2</translation>
     </message>
 </context>

@@ -91,14 +91,17 @@
     </message>
     <message>
         <source>Cross 2 of 4, at the upper right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>4 つのうち 2 番目の十字、右上です。</translation>
     </message>
     <message>
         <source>Cross 3 of 4, at the lower right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>4 つのうち 3 番目の十字、右下です。</translation>
     </message>
     <message>
         <source>Cross 4 of 4, at the lower left.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>4 つのうち 4 番目の十字、左下です。</translation>
     </message>
     <message>
@@ -262,6 +265,7 @@
     </message>
     <message>
         <source>%1. Each key has the number of its list.</source>
+        <extracomment>Read by screen readers for the picture of the tablet; %1 is the model&apos;s name.</extracomment>
         <translation>%1。各キーには、対応するリストの番号が付いています。</translation>
     </message>
 </context>
@@ -319,6 +323,7 @@
     </message>
     <message>
         <source>Pen</source>
+        <extracomment>The end of the pen that is near the tablet; a label below the drawing pad.</extracomment>
         <translation>ペン</translation>
     </message>
     <message>
@@ -328,6 +333,7 @@
     </message>
     <message>
         <source>Pen, serial number %1</source>
+        <extracomment>A label below the drawing pad.</extracomment>
         <translation>ペン、シリアル番号 %1</translation>
     </message>
     <message>
@@ -358,18 +364,22 @@
     </message>
     <message>
         <source>Express key 1</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 1</translation>
     </message>
     <message>
         <source>Express key 2</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 2</translation>
     </message>
     <message>
         <source>Express key 3</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 3</translation>
     </message>
     <message>
         <source>Express key 4</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 4</translation>
     </message>
     <message>
@@ -379,34 +389,42 @@
     </message>
     <message>
         <source>Express key 5</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 5</translation>
     </message>
     <message>
         <source>Express key 6</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 6</translation>
     </message>
     <message>
         <source>Express key 7</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 7</translation>
     </message>
     <message>
         <source>Express key 8</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 8</translation>
     </message>
     <message>
         <source>Express key 9</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 9</translation>
     </message>
     <message>
         <source>Express key 10</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 10</translation>
     </message>
     <message>
         <source>Express key 11</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 11</translation>
     </message>
     <message>
         <source>Express key 12</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 12</translation>
     </message>
     <message>
@@ -416,18 +434,22 @@
     </message>
     <message>
         <source>Express key 13</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 13</translation>
     </message>
     <message>
         <source>Express key 14</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 14</translation>
     </message>
     <message>
         <source>Express key 15</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 15</translation>
     </message>
     <message>
         <source>Express key 16</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>エクスプレスキー 16</translation>
     </message>
     <message>

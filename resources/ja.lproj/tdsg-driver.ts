@@ -5,14 +5,17 @@
     <name>ActionText</name>
     <message>
         <source>Left mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>マウスの左ボタン</translation>
     </message>
     <message>
         <source>Right mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>マウスの右ボタン</translation>
     </message>
     <message>
         <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>マウスの中ボタン</translation>
     </message>
     <message>
@@ -22,26 +25,32 @@
     </message>
     <message>
         <source>No action</source>
+        <extracomment>Action of a tablet key: it does nothing.</extracomment>
         <translation>何もしない</translation>
     </message>
     <message>
         <source>Open an application (unknown path)</source>
+        <extracomment>Action of a tablet key.</extracomment>
         <translation>アプリケーションを開く (パスは不明)</translation>
     </message>
     <message>
         <source>Open %1</source>
+        <extracomment>Action of a tablet key; %1 is the path of an application.</extracomment>
         <translation>%1 を開く</translation>
     </message>
     <message>
         <source>Press no keys</source>
+        <extracomment>Action of a tablet key: a key combination without keys.</extracomment>
         <translation>どのキーも押さない</translation>
     </message>
     <message>
         <source>Press %1</source>
+        <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
         <translation>%1 を押す</translation>
     </message>
     <message>
         <source>Go to the next display</source>
+        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
         <translation>次のディスプレイへ移動</translation>
     </message>
     <message>
@@ -51,6 +60,7 @@
     </message>
     <message>
         <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
         <translation>タブレットを一時停止</translation>
     </message>
     <message>
@@ -60,6 +70,7 @@
     </message>
     <message>
         <source>No action: the strip is off</source>
+        <extracomment>Action of a scroll strip.</extracomment>
         <translation>何もしない: ストリップはオフです</translation>
     </message>
 </context>
@@ -81,6 +92,7 @@
     </message>
     <message>
         <source>The pen is up at %1, %2.</source>
+        <extracomment>Read by screen readers; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>ペンは %1, %2 で上がっています。</translation>
     </message>
 </context>
@@ -88,6 +100,7 @@
     <name>TabletWindow</name>
     <message>
         <source>Tablet</source>
+        <extracomment>Read by screen readers: the list of tablet models.</extracomment>
         <translation>タブレット</translation>
     </message>
     <message>
@@ -96,6 +109,7 @@
     </message>
     <message>
         <source>No tablet</source>
+        <extracomment>First item of the list of tablet models: none is attached.</extracomment>
         <translation>タブレットなし</translation>
     </message>
     <message>
@@ -130,10 +144,12 @@
     </message>
     <message>
         <source>Virtual tablet</source>
+        <extracomment>Window title.</extracomment>
         <translation>仮想タブレット</translation>
     </message>
     <message>
         <source>Virtual tablet: %1</source>
+        <extracomment>Window title; %1 is the model&apos;s name.</extracomment>
         <translation>仮想タブレット: %1</translation>
     </message>
     <message>
@@ -182,10 +198,12 @@
     </message>
     <message>
         <source>calibrating: it gets pen reports</source>
+        <extracomment>Follows the label &quot;Panel:&quot;.</extracomment>
         <translation>キャリブレーション中: ペンのデータが送られます</translation>
     </message>
     <message>
         <source>not calibrating: it gets no pen reports</source>
+        <extracomment>Follows the label &quot;Panel:&quot;.</extracomment>
         <translation>キャリブレーション中ではありません: ペンのデータは送られません</translation>
     </message>
     <message>
@@ -195,6 +213,7 @@
     </message>
     <message>
         <source>up at %1, %2</source>
+        <extracomment>Follows the label &quot;Pen:&quot;; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>離れている: %1, %2</translation>
     </message>
 </context>

@@ -91,14 +91,17 @@
     </message>
     <message>
         <source>Cross 2 of 4, at the upper right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>第 2 个十字（共 4 个），位于右上角。</translation>
     </message>
     <message>
         <source>Cross 3 of 4, at the lower right.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>第 3 个十字（共 4 个），位于右下角。</translation>
     </message>
     <message>
         <source>Cross 4 of 4, at the lower left.</source>
+        <extracomment>Read by screen readers: the cross to touch next, of four in the corners of the display.</extracomment>
         <translation>第 4 个十字（共 4 个），位于左下角。</translation>
     </message>
     <message>
@@ -262,6 +265,7 @@
     </message>
     <message>
         <source>%1. Each key has the number of its list.</source>
+        <extracomment>Read by screen readers for the picture of the tablet; %1 is the model&apos;s name.</extracomment>
         <translation>%1。每个按键都标有其列表的编号。</translation>
     </message>
 </context>
@@ -319,6 +323,7 @@
     </message>
     <message>
         <source>Pen</source>
+        <extracomment>The end of the pen that is near the tablet; a label below the drawing pad.</extracomment>
         <translation>笔</translation>
     </message>
     <message>
@@ -328,6 +333,7 @@
     </message>
     <message>
         <source>Pen, serial number %1</source>
+        <extracomment>A label below the drawing pad.</extracomment>
         <translation>笔，序列号 %1</translation>
     </message>
     <message>
@@ -358,18 +364,22 @@
     </message>
     <message>
         <source>Express key 1</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 1</translation>
     </message>
     <message>
         <source>Express key 2</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 2</translation>
     </message>
     <message>
         <source>Express key 3</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 3</translation>
     </message>
     <message>
         <source>Express key 4</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 4</translation>
     </message>
     <message>
@@ -379,34 +389,42 @@
     </message>
     <message>
         <source>Express key 5</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 5</translation>
     </message>
     <message>
         <source>Express key 6</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 6</translation>
     </message>
     <message>
         <source>Express key 7</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 7</translation>
     </message>
     <message>
         <source>Express key 8</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 8</translation>
     </message>
     <message>
         <source>Express key 9</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 9</translation>
     </message>
     <message>
         <source>Express key 10</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 10</translation>
     </message>
     <message>
         <source>Express key 11</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 11</translation>
     </message>
     <message>
         <source>Express key 12</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 12</translation>
     </message>
     <message>
@@ -416,18 +434,22 @@
     </message>
     <message>
         <source>Express key 13</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 13</translation>
     </message>
     <message>
         <source>Express key 14</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 14</translation>
     </message>
     <message>
         <source>Express key 15</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 15</translation>
     </message>
     <message>
         <source>Express key 16</source>
+        <extracomment>Read by screen readers; the express keys are buttons on the tablet</extracomment>
         <translation>快捷键 16</translation>
     </message>
     <message>

@@ -5,14 +5,17 @@
     <name>ActionText</name>
     <message>
         <source>Left mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>鼠标左键</translation>
     </message>
     <message>
         <source>Right mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>鼠标右键</translation>
     </message>
     <message>
         <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
         <translation>鼠标中键</translation>
     </message>
     <message>
@@ -22,26 +25,32 @@
     </message>
     <message>
         <source>No action</source>
+        <extracomment>Action of a tablet key: it does nothing.</extracomment>
         <translation>无操作</translation>
     </message>
     <message>
         <source>Open an application (unknown path)</source>
+        <extracomment>Action of a tablet key.</extracomment>
         <translation>打开应用程序（路径未知）</translation>
     </message>
     <message>
         <source>Open %1</source>
+        <extracomment>Action of a tablet key; %1 is the path of an application.</extracomment>
         <translation>打开 %1</translation>
     </message>
     <message>
         <source>Press no keys</source>
+        <extracomment>Action of a tablet key: a key combination without keys.</extracomment>
         <translation>不按任何键</translation>
     </message>
     <message>
         <source>Press %1</source>
+        <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
         <translation>按下 %1</translation>
     </message>
     <message>
         <source>Go to the next display</source>
+        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
         <translation>切换到下一个显示器</translation>
     </message>
     <message>
@@ -51,6 +60,7 @@
     </message>
     <message>
         <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
         <translation>暂停数位板</translation>
     </message>
     <message>
@@ -60,6 +70,7 @@
     </message>
     <message>
         <source>No action: the strip is off</source>
+        <extracomment>Action of a scroll strip.</extracomment>
         <translation>无操作：触控条已关闭</translation>
     </message>
 </context>
@@ -81,6 +92,7 @@
     </message>
     <message>
         <source>The pen is up at %1, %2.</source>
+        <extracomment>Read by screen readers; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>笔已抬起，位于 %1, %2。</translation>
     </message>
 </context>
@@ -88,6 +100,7 @@
     <name>TabletWindow</name>
     <message>
         <source>Tablet</source>
+        <extracomment>Read by screen readers: the list of tablet models.</extracomment>
         <translation>数位板</translation>
     </message>
     <message>
@@ -96,6 +109,7 @@
     </message>
     <message>
         <source>No tablet</source>
+        <extracomment>First item of the list of tablet models: none is attached.</extracomment>
         <translation>无数位板</translation>
     </message>
     <message>
@@ -130,10 +144,12 @@
     </message>
     <message>
         <source>Virtual tablet</source>
+        <extracomment>Window title.</extracomment>
         <translation>虚拟数位板</translation>
     </message>
     <message>
         <source>Virtual tablet: %1</source>
+        <extracomment>Window title; %1 is the model&apos;s name.</extracomment>
         <translation>虚拟数位板：%1</translation>
     </message>
     <message>
@@ -182,10 +198,12 @@
     </message>
     <message>
         <source>calibrating: it gets pen reports</source>
+        <extracomment>Follows the label &quot;Panel:&quot;.</extracomment>
         <translation>正在校准：会收到笔的数据</translation>
     </message>
     <message>
         <source>not calibrating: it gets no pen reports</source>
+        <extracomment>Follows the label &quot;Panel:&quot;.</extracomment>
         <translation>未在校准：不会收到笔的数据</translation>
     </message>
     <message>
@@ -195,6 +213,7 @@
     </message>
     <message>
         <source>up at %1, %2</source>
+        <extracomment>Follows the label &quot;Pen:&quot;; %1 is x, %2 is y, in tablet units.</extracomment>
         <translation>抬起，位于 %1, %2</translation>
     </message>
 </context>
