@@ -164,7 +164,7 @@ void QVMonitorView::updateCalibrate()
     const bool hasOneDisplay = mDspCount == 1 || chosenItem() > 0;
     const QString help = hasOneDisplay
         ? mCalibrateHelp
-        : tr("Choose one display first: all displays cannot be calibrated together.");
+        : tr("Choose one display first: only one display can be calibrated at a time.");
     // This is called for each redraw, and screen readers announce each change of a description.
     if (mDoCalibrate->isEnabledTo(mDoCalibrate->parentWidget()) == hasOneDisplay
         && mDoCalibrate->toolTip() == help && mDoCalibrate->accessibleDescription() == help) {
@@ -445,7 +445,7 @@ void QVMonitorView::DoCalibrate()
     }
     const int chosen = chosenItem();
     if (chosen <= 0 || static_cast<std::size_t>(chosen) > mDisplays.size()) {
-        return; // all displays cannot be calibrated together
+        return; // only one display can be calibrated at a time
     }
     const auto index = static_cast<std::size_t>(chosen) - 1;
     const platform::Displays& service = platform::displays();

@@ -282,8 +282,8 @@
         <translation>Das Tablett ist abgebildet auf: %1.</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays cannot be calibrated together.</source>
-        <translation>Zuerst einen Bildschirm wählen: Alle zusammen lassen sich nicht kalibrieren.</translation>
+        <source>Choose one display first: only one display can be calibrated at a time.</source>
+        <translation>Zuerst einen Bildschirm wählen: Es lässt sich immer nur einer kalibrieren.</translation>
     </message>
 </context>
 <context>

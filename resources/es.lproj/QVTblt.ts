@@ -282,8 +282,8 @@
         <translation>La tableta está asignada a: %1.</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays cannot be calibrated together.</source>
-        <translation>Elija primero una pantalla: no se pueden calibrar todas juntas.</translation>
+        <source>Choose one display first: only one display can be calibrated at a time.</source>
+        <translation>Elija primero una pantalla: solo se puede calibrar una a la vez.</translation>
     </message>
 </context>
 <context>

@@ -282,8 +282,8 @@
         <translation>La tablette couvre&#xa0;: %1.</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays cannot be calibrated together.</source>
-        <translation>Choisissez d’abord un écran&#xa0;: tous les écrans ne peuvent pas être calibrés ensemble.</translation>
+        <source>Choose one display first: only one display can be calibrated at a time.</source>
+        <translation>Choisissez d’abord un écran&#xa0;: un seul écran peut être calibré à la fois.</translation>
     </message>
 </context>
 <context>

@@ -282,8 +282,8 @@
         <translation>タブレットの対応範囲は %1 です。</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays cannot be calibrated together.</source>
-        <translation>先にディスプレイを1つ選んでください。すべてのディスプレイをまとめてキャリブレーションすることはできません。</translation>
+        <source>Choose one display first: only one display can be calibrated at a time.</source>
+        <translation>先にディスプレイを1つ選んでください。一度にキャリブレーションできるディスプレイは1つだけです。</translation>
     </message>
 </context>
 <context>

@@ -282,8 +282,8 @@
         <translation>数位板的映射区域：%1。</translation>
     </message>
     <message>
-        <source>Choose one display first: all displays cannot be calibrated together.</source>
-        <translation>请先选择一个显示器：无法同时校准所有显示器。</translation>
+        <source>Choose one display first: only one display can be calibrated at a time.</source>
+        <translation>请先选择一个显示器：一次只能校准一个显示器。</translation>
     </message>
 </context>
 <context>

@@ -384,7 +384,7 @@ TEST_F(DisplayPage, allDisplaysTogetherCannotBeCalibratedAndTheButtonSaysSo)
 {
     auto& button = outlet<QPushButton>("mDoCalibrate");
     const QString why =
-        QStringLiteral("Choose one display first: all displays cannot be calibrated together.");
+        QStringLiteral("Choose one display first: only one display can be calibrated at a time.");
     const auto expect = [&](bool isOn, const char* when) {
         EXPECT_EQ(button.isEnabled(), isOn) << when;
         EXPECT_EQ(button.toolTip() == why, !isOn) << when;
