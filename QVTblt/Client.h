@@ -10,6 +10,11 @@
 #include <memory>
 #include <optional>
 
+/**
+ * @file
+ * Pushes the record to the driver; sets the tablet's report mode over USB.
+ */
+
 /** Posted after each push, successful or not: the record has been edited, or loaded again. */
 inline constexpr QLatin1String kRecordPushedNotification("kRecordPushedNotification");
 

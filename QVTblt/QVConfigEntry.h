@@ -28,7 +28,7 @@ enum class QVEntryResult : std::uint8_t {
 /** The entry's path: "Pen/Speed", or "Key/Key3/App" in a slot. */
 std::string QVEntryPath(const QVEntry& entry);
 
-/** The dictionary of the file that an entry belongs to; a handle on none where there is none. */
+/** The dictionary of the file that an entry belongs to; a null handle if there is none. */
 template <class AnyDictionary>
 AnyDictionary QVEntryDictionary(const AnyDictionary& root, const QVEntry& entry)
 {

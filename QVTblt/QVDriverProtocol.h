@@ -22,7 +22,7 @@ inline constexpr std::int32_t kQVDriverTimeOut = 15;
 /** The driver's property with the number of the tablet's configuration file. */
 inline constexpr platform::FourCharCode kQVConfigProperty = platform::fourCharCode("QCFG");
 
-/** The settings event, and its parameter: the record as text. */
+/** The settings event, and its parameter: the record's bytes, labelled as text. */
 inline constexpr platform::AEEventID kQVSettingsEvent = platform::fourCharCode("WSnd");
 inline constexpr platform::AEKeyword kQVSettingsData = platform::fourCharCode("data");
 

@@ -481,7 +481,7 @@ void DisplayRegisterReconfigurationCallback(
     auto& view = *static_cast<QVMonitorView*>(userInfo);
     const bool isBeginning = flags == platform::kDisplayBeginConfiguration;
     if (isBeginning == DisplayConfigurationChanged) {
-        return; // not the last of several
+        return; // one of a burst, but not its first
     }
     DisplayConfigurationChanged = isBeginning;
     if (isBeginning) {

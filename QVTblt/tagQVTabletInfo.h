@@ -27,7 +27,7 @@ inline constexpr std::size_t kQVStringSize = 256;
 /** Number of buttons: sixteen express keys, then the upper and the lower pen button. */
 inline constexpr std::size_t kQVSlotCount = 18;
 
-/** The slots of the pen's buttons; those before are the express keys'. */
+/** The slots of the pen's buttons, which follow those of the express keys. */
 inline constexpr std::size_t kQVUpperPenSlot = 16;
 inline constexpr std::size_t kQVLowerPenSlot = 17;
 

@@ -34,7 +34,7 @@ constexpr std::chrono::milliseconds kSaveDelay{250};
 QString senderOf(const AppleEvent& event)
 {
     const QByteArray* const name = event.address.bytes();
-    return name == nullptr ? QStringLiteral("somebody") : QString::fromUtf8(*name);
+    return name == nullptr ? QStringLiteral("an unknown sender") : QString::fromUtf8(*name);
 }
 
 QString valueText(const QVEntry& entry, const tagQVTabletInfo& record)

@@ -19,7 +19,8 @@ struct QVTabletModel;
 
 /**
  * The window of the simulated tablet: its surface, to be used with mouse or keyboard, its keys, and
- * what the panel gets of it. Follows the driver when any program attaches or detaches a tablet.
+ * whether the panel gets its pen reports. Follows the driver when any program attaches or detaches
+ * a tablet.
  */
 class TabletWindow final : public QWidget, public platform::Accessible {
     Q_OBJECT

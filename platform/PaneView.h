@@ -52,7 +52,7 @@ protected:
     /** The size of a point in pixels. */
     double pixelsPerPoint() const;
 
-    /** Comes before the whole view is drawn anew: brings up to date what it shows. */
+    /** Called before a full redraw, to update what is shown. */
     virtual void sync() { }
     /**
      * Draws at least the dirty rectangle; the painter is clipped to it, and in points, with y

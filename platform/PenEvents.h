@@ -76,7 +76,7 @@ bool isSameDevice(const Event& one, const Event& other);
 /** Makes a proximity event from any event of the pen. */
 Event proximityEvent(const QTabletEvent& event, bool isEntering);
 
-/** That the pen that made the event is in range. */
+/** Makes the event that this pen has come into range. */
 Event proximityEvent(const Event& event);
 
 } // namespace platform

@@ -143,7 +143,7 @@ private:
         }
     }
 
-    /** Goes on to the next element. @return false at the end of the one around it, or for errors */
+    /** Advances to the next child element. @return false at the parent's end or on an error */
     bool next()
     {
         while (mWhy.empty()) {
@@ -193,7 +193,7 @@ private:
         }
     }
 
-    /** Which value the element is; nothing, and refused, where it is none. */
+    /** The kind of value; rejects an unknown tag. */
     std::optional<Kind> kind()
     {
         const auto name = mXml.name();
@@ -238,7 +238,7 @@ private:
         node.dropOlderValues();
     }
 
-    /** Reads a key and goes on to its value. @return whether there are both */
+    /** Reads a key and goes on to its value. @return whether a value follows */
     bool readKey(std::string& key)
     {
         if (mXml.name() != QLatin1String("key")) {
