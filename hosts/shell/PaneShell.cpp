@@ -111,8 +111,7 @@ int PaneShell::bottomHeight() const
     return mBottom->sizeHint().height();
 }
 
-// Selecting and leaving
-// ------------------------------------------------------------------------------
+// Selecting and leaving ---------------------------------------------------------------------------
 
 void PaneShell::willSelect()
 {

@@ -102,11 +102,11 @@ std::vector<std::string> faultsOf(QAccessibleInterface& thing)
     }
     if ((role == QAccessible::Graphic || role == QAccessible::Canvas)
         && (isNameless || textOf(thing, QAccessible::Description).empty())) {
-        fault(": a picture that is not said in words");
+        fault(": a picture without a name or a description");
     }
     const bool isMute = role == QAccessible::Client || role == QAccessible::NoRole;
     if (isMute && thing.childCount() == 0) {
-        fault(": nobody can tell what it is");
+        fault(": its role does not tell what it is");
     }
     if (thing.state().focusable && !handsFocusOn(thing) && (isMute || isNameless)) {
         fault(": has the focus and does not say what it is");

@@ -140,7 +140,7 @@ TEST_F(SaveFaults, aKillAtAnyMomentLeavesTheOldOrTheNewFileWhole)
 TEST_F(SaveFaults, aFullDiskLeavesTheOldFileAndNothingElse)
 {
     if (!separateMounts()) {
-        GTEST_SKIP() << "this machine lets nobody mount: " << std::strerror(errno);
+        GTEST_SKIP() << "mounting is not permitted here: " << std::strerror(errno);
     }
     const QByteArray config = readFile(mPath);
     // Room for the file and one page more, but not for two files.
@@ -160,7 +160,7 @@ TEST_F(SaveFaults, aFullDiskLeavesTheOldFileAndNothingElse)
 TEST_F(SaveFaults, aReadOnlyFileSystemLeavesTheOldFile)
 {
     if (!separateMounts()) {
-        GTEST_SKIP() << "this machine lets nobody mount: " << std::strerror(errno);
+        GTEST_SKIP() << "mounting is not permitted here: " << std::strerror(errno);
     }
     const std::string folder = mHome.configFolder().path().toStdString();
     ASSERT_EQ(::mount("tmpfs", folder.c_str(), "tmpfs", 0, nullptr), 0);
@@ -175,7 +175,7 @@ TEST_F(SaveFaults, aReadOnlyFileSystemLeavesTheOldFile)
 TEST_F(SaveFaults, aFileThatCannotBeReplacedStaysAndTheLogSaysSo)
 {
     if (!separateMounts()) {
-        GTEST_SKIP() << "this machine lets nobody mount: " << std::strerror(errno);
+        GTEST_SKIP() << "mounting is not permitted here: " << std::strerror(errno);
     }
     const std::string path = mPath.toStdString();
     const QByteArray config = readFile(mPath);

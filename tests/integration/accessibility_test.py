@@ -43,9 +43,9 @@ def faults_of(things):
         if role in VALUES and not labels and (role == "combo box" or not description):
             fault("nothing says what it is for")
         if role in PICTURES and not (name and description):
-            fault("a picture that is not said in words")
+            fault("a picture without a name or a description")
         if role in SILENT and path not in parents:
-            fault("nobody can tell what it is")
+            fault("its role does not tell what it is")
         if thing["focusable"] and path not in page_controls and (not name or role in SILENT):
             fault("has the focus and does not say what it is")
     return faults
