@@ -413,6 +413,8 @@ TEST_F(PenViewTest, proximityOutlivesTheViewInWhoseStrokeItWaits)
     PenInput::deliver();
     PenInput other(mView, 88);
     other.enter();
+    PenInput::deliver();
+    ASSERT_EQ(reach.events.size(), 1U) << "it waits for the end of the stroke";
     view.reset();
     PenInput::deliver();
     ASSERT_EQ(reach.events.size(), 2U);
