@@ -117,7 +117,7 @@ class SystemSettings(host.Host):
         self.start_driver_with_log()
         self.start_at_the_module()
         self.edit(APPLICATION)
-        self.assertFalse(self.find(APPLICATION, host.STRIP)["checked"])
+        session.wait_for(lambda: not self.find(APPLICATION, host.STRIP)["checked"], "the edit")
         self.press("Reset")
         session.wait_for(self.driver_strip, "the driver")
         session.wait_for(lambda: self.find(APPLICATION, host.STRIP)["checked"], "the check box")

@@ -71,13 +71,18 @@ class Harness(unittest.TestCase):
 
 class Tree(desktop.Desktop):
     def expect_no_faults(self, application, least, *roles):
-        """Expects no problems, and at least that many things with these roles."""
-        things = self.things(application)
-        self.assertEqual(faults_of(things), [])
-        shown = [thing["role"] for thing in things if thing["showing"]]
-        self.assertGreaterEqual(len(shown), least)
-        for role in roles:
-            self.assertIn(role, shown)
+        """Waits until there are no problems, and at least that many things with these roles."""
+        faults, shown = [], []
+
+        def is_fine():
+            things = self.things(application)
+            faults[:] = faults_of(things)
+            shown[:] = [thing["role"] for thing in things if thing["showing"]]
+            return not faults and len(shown) >= least and set(roles) <= set(shown)
+        try:
+            session.wait_for(is_fine, f"{application} without faults")
+        except AssertionError as error:
+            self.fail(f"{error}: {faults}, {len(shown)} things: {shown}")
 
     def start_panel(self, *arguments):
         self.driver = self.start_driver(*arguments)
@@ -96,9 +101,9 @@ class Tree(desktop.Desktop):
         self.press("qvtblt", "Display", "page tab")
         self.find("qvtblt", "Picture of the displays and the tablet", "image")
         self.expect_no_faults("qvtblt", 20, "combo box", "image")
-        speed = next(thing for thing in self.things("qvtblt")
-                     if "Report speed" in thing["labels"] and thing["role"] == "combo box")
-        self.assertEqual(speed["name"], "Normal")
+        session.wait_for(lambda: any(
+            "Report speed" in thing["labels"] and thing["name"] == "Normal"
+            for thing in self.things("qvtblt") if thing["role"] == "combo box"), "the speed")
 
     def test_every_layout_of_keys(self):
         self.start_panel()

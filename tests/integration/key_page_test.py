@@ -50,6 +50,9 @@ class KeyPage(desktop.Desktop):
         names = [thing["name"] for thing in self.things("qvtblt") if thing["role"] == "combo box"]
         return names.count("Ctrl  Shift  Z"), names.count(str(self.application))
 
+    def wait_for_shown(self, expected):
+        session.wait_for(lambda: self.shown() == expected, f"{expected} boxes")
+
     def assign_by_mouse(self):
         self.choose("Express key 3", "Press keys…")
         for key in ("Control", "Shift", "Z"):
@@ -72,21 +75,21 @@ class KeyPage(desktop.Desktop):
         self.assign_by_mouse()
         self.assign_application()
         self.assertEqual(self.slot(2), (3, CTRL_SHIFT_Z, ""))
-        self.assertEqual(self.shown(), (1, 1))
+        self.wait_for_shown((1, 1))
         self.close_panel(panel)
 
         panel = self.start_panel()
-        self.assertEqual(self.shown(), (1, 1))
+        self.wait_for_shown((1, 1))
         self.close_panel(panel)
 
         self.simulator("Attach", "q", "20752")  # four keys, and its own file
         panel = self.start_panel()
         self.find("qvtblt", "Quorvia Pocket", "label")
-        self.assertEqual(self.shown(), (0, 0))
+        self.wait_for_shown((0, 0))
         self.close_panel(panel)
         self.simulator("Attach", "q", "20737")
         panel = self.start_panel()
-        self.assertEqual(self.shown(), (1, 1))
+        self.wait_for_shown((1, 1))
         self.close_panel(panel)
 
     def focus(self, name):
@@ -114,7 +117,7 @@ class KeyPage(desktop.Desktop):
         self.xdotool("key", "alt+F4")
         self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
         self.start_panel()
-        self.assertEqual(self.shown(), (1, 0))
+        self.wait_for_shown((1, 0))
 
 
 if __name__ == "__main__":

@@ -191,15 +191,19 @@ class VirtualTablet(Tablet, desktop.Desktop):
 
     def test_everything_that_takes_the_focus_has_a_name(self):
         self.open_tablet()
-        things = [thing for thing in self.things(PROGRAM)
-                  if thing["focusable"] and thing["showing"] and thing["role"] != "filler"]
-        # Eight keys, the strip, the pen's two, the models, the surface.
-        self.assertEqual(len(things), 13)
+        things = []
+
+        def has_all():
+            things[:] = [thing for thing in self.things(PROGRAM)
+                         if thing["focusable"] and thing["showing"] and thing["role"] != "filler"]
+            # Eight keys, the strip, the pen's two, the models, the surface.
+            return len(things) == 13
+        session.wait_for(has_all, "thirteen things that take the focus")
         for thing in things:
             self.assertTrue(thing["name"] and (thing["description"] or thing["role"] != "combo box"))
         surface = self.find(PROGRAM, "Surface")
         self.assertIn("space bar", surface["description"])
-        self.assertTrue(surface["focused"])
+        session.wait_for(lambda: self.find(PROGRAM, "Surface")["focused"], "the focus")
 
     def test_has_the_keys_of_each_layout(self):
         self.open_tablet("--attach", "none")
