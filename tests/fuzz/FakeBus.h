@@ -39,7 +39,8 @@ public:
 
 private:
     void serve();
-    void authenticate() const;
+    /** Returns whether the program goes on to send messages. */
+    bool authenticate() const;
     void take(Message message);
     Message answerOfBus(DBusMessage* call) const;
     Message answerOfOther(DBusMessage* call);
