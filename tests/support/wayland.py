@@ -46,14 +46,22 @@ class Wayland(desktop.Desktop):
 
     def take_picture(self, folder):
         for display in ("Virtual-0", "Virtual-1"):
-            pixel = self.pixels(display)
-            with open(folder / f"{display}.ppm", "wb") as picture:
-                picture.write(b"P6 1280 720 255\n")
-                picture.writelines(bytes(pixel(x, y)) for y in range(720) for x in range(1280))
+            data, stride = self.capture(display)
+            rows = [data[y * stride:y * stride + 4 * 1280] for y in range(720)]
+            picture = bytearray(3 * 1280 * 720)
+            for channel in range(3):
+                picture[channel::3] = b"".join(row[2 - channel::4] for row in rows)
+            (folder / f"{display}.ppm").write_bytes(b"P6 1280 720 255\n" + picture)
 
     def pixels(self, display):
         """Returns a display's contents: a function that returns (red, green, blue) at a
         position."""
+        data, stride = self.capture(display)
+        return lambda x, y: tuple(data[y * stride + 4 * x:][2::-1])
+
+    def capture(self, display):
+        """Returns a display's contents, four bytes (blue, green, red and any) for each pixel, and
+        the bytes of a row."""
         read, write = os.pipe()
         with os.fdopen(read, "rb") as pipe:
             descriptor = dbus.types.UnixFd(write)  # a duplicate
@@ -64,4 +72,4 @@ class Wayland(desktop.Desktop):
         stride = int(picture["stride"])
         self.assertEqual((int(picture["width"]), int(picture["height"]), len(data)),
                          (1280, 720, 720 * stride))
-        return lambda x, y: tuple(data[y * stride + 4 * x:][2::-1])
+        return data, stride
