@@ -81,7 +81,7 @@ public:
     /** Lifts the tip; does nothing while it is up. */
     void penUp();
 
-    /** Sets the reports per second, 1 to 1000.*/
+    /** Sets the reports per second, 1 to 1000. */
     platform::Result<> setReportRate(std::uint32_t perSecond);
 
     /** Writes the state to disk now. */

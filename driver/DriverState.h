@@ -31,5 +31,5 @@ struct DriverState {
     platform::Result<> save() const;
 };
 
-/** Returns the record that the bytes are; as many as it has. */
+/** Copies a record from its bytes, of which there must be kQVRecordSize. */
 tagQVTabletInfo recordIn(const QByteArray& bytes);
