@@ -20,7 +20,7 @@ namespace platform {
  * that stops between its first answer and the last step of the connection blocks the caller for
  * longer: for the 25 seconds of the bus library.
  */
-class DBusAppleEvents final : public AppleEvents {
+class DBusAppleEvents : public AppleEvents {
 public:
     DBusAppleEvents();
     ~DBusAppleEvents() override;
