@@ -2,11 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "LivingBus.h"
 
-#include "Descriptor.h"
-
 #include <QByteArray>
 #include <QByteArrayList>
 #include <QDeadlineTimer>
+#include <QScopeGuard>
 
 #include <algorithm>
 #include <cerrno>
@@ -54,9 +53,9 @@ std::optional<QByteArray> socketName(const QByteArray& address)
     return std::nullopt;
 }
 
-bool waitFor(const Descriptor& socket, short events, const QDeadlineTimer& deadline)
+bool waitForAnswer(int socket, const QDeadlineTimer& deadline)
 {
-    pollfd wanted{socket.get(), events, 0};
+    pollfd wanted{socket, POLLIN, 0};
     int ready = 0;
     do {
         ready = ::poll(&wanted, 1, static_cast<int>(std::max<qint64>(deadline.remainingTime(), 0)));
@@ -65,14 +64,14 @@ bool waitFor(const Descriptor& socket, short events, const QDeadlineTimer& deadl
 }
 
 /** Starts the authentication, and waits for any answer. */
-bool isAnswered(const Descriptor& socket, const QDeadlineTimer& deadline)
+bool isAnswered(int socket, const QDeadlineTimer& deadline)
 {
     // The bus gets the user from the socket; the ID is sent in hexadecimal.
     const QByteArray words = '\0' + QByteArrayLiteral("AUTH EXTERNAL ")
         + QByteArray::number(::getuid()).toHex() + "\r\n";
     const auto size = static_cast<std::size_t>(words.size());
-    return ::send(socket.get(), words.constData(), size, MSG_NOSIGNAL) == static_cast<ssize_t>(size)
-        && waitFor(socket, POLLIN, deadline);
+    return ::send(socket, words.constData(), size, MSG_NOSIGNAL) == static_cast<ssize_t>(size)
+        && waitForAnswer(socket, deadline);
 }
 
 } // namespace
@@ -89,8 +88,9 @@ bool sessionBusAnswers(std::chrono::milliseconds limit)
         const auto length = static_cast<std::size_t>(name->size());
         place.sun_family = AF_UNIX;
         std::memcpy(place.sun_path, name->constData(), length);
-        const Descriptor socket(::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0));
-        if (::connect(socket.get(), reinterpret_cast<const sockaddr*>(&place),
+        const int socket = ::socket(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+        const auto closing = qScopeGuard([socket] { ::close(socket); });
+        if (::connect(socket, reinterpret_cast<const sockaddr*>(&place),
                 static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + length))
             == 0) {
             return isAnswered(socket, deadline);

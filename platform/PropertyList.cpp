@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "PropertyList.h"
 
-#include "Descriptor.h"
 #include "FileSaving.h"
 #include "PropertyListNode.h"
 
@@ -16,17 +15,11 @@
 #include <limits>
 #include <sys/stat.h>
 #include <system_error>
-#include <unistd.h>
 #include <utility>
 
 namespace platform {
 
 namespace {
-
-QString systemText(int error)
-{
-    return QString::fromStdString(std::system_category().message(error));
-}
 
 Error failure(const char* what, const std::string& path, const QString& why)
 {
@@ -39,42 +32,41 @@ Error tooLarge()
     return {QStringLiteral("it is larger than %1 bytes").arg(kPropertyListMaxSize)};
 }
 
-constexpr std::size_t kPart = std::size_t{16} << 10U; ///< read at once: a configuration is less
-
 /** Reads a whole file; never blocks on a regular one. */
-Result<std::string> readFile(const std::string& path, PropertyListSource source)
+Result<QByteArray> readFile(const std::string& path, PropertyListSource source)
 {
     const bool isRegular = source == PropertyListSource::RegularFile;
     const auto fail = [&](const QString& why) { return failure("cannot read", path, why); };
     // O_NONBLOCK: otherwise, opening a FIFO would wait for a writer.
-    const Descriptor file(
-        ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | (isRegular ? O_NONBLOCK : 0)));
-    if (file.get() < 0) {
+    const int descriptor =
+        ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOCTTY | (isRegular ? O_NONBLOCK : 0));
+    if (descriptor < 0) {
         const int reason = errno;
-        Error error = fail(systemText(reason));
+        Error error = fail(QString::fromStdString(std::system_category().message(reason)));
         error.isMissingFile = reason == ENOENT;
         return error;
     }
+    QFile file;
     struct stat status { };
-    if (::fstat(file.get(), &status) != 0) {
-        return fail(systemText(errno));
+    if (!file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)
+        || ::fstat(descriptor, &status) != 0) {
+        return fail(file.errorString());
     }
     if (isRegular && !S_ISREG(status.st_mode)) {
         return fail(QStringLiteral("it is not a regular file"));
     }
-    std::string bytes;
-    while (std::max<std::size_t>(bytes.size(), static_cast<std::size_t>(status.st_size))
-        <= kPropertyListMaxSize) {
-        const std::size_t used = bytes.size();
-        bytes.resize(used + kPart);
-        const ssize_t got = ::read(file.get(), bytes.data() + used, kPart);
-        if (got < 0 && errno != EINTR) {
-            return fail(systemText(errno));
+    constexpr auto kLimit = static_cast<qint64>(kPropertyListMaxSize);
+    constexpr qint64 kPart = 16 << 10; // a configuration is less
+    QByteArray bytes;
+    while (std::max<qint64>(bytes.size(), file.size()) <= kLimit) {
+        const QByteArray part = file.read(kPart);
+        if (file.error() != QFile::NoError) {
+            return fail(file.errorString());
         }
-        bytes.resize(used + static_cast<std::size_t>(std::max<ssize_t>(got, 0)));
-        if (got == 0) {
+        if (part.isEmpty()) {
             return bytes;
         }
+        bytes += part;
     }
     return fail(tooLarge().text);
 }
@@ -294,11 +286,12 @@ Result<PropertyList> PropertyList::parse(std::string_view bytes)
 
 Result<PropertyList> PropertyList::load(const std::string& path, PropertyListSource source)
 {
-    const Result<std::string> bytes = readFile(path, source);
+    const Result<QByteArray> bytes = readFile(path, source);
     if (!bytes) {
         return bytes.error();
     }
-    Result<PropertyList> list = parse(*bytes);
+    Result<PropertyList> list =
+        parse({bytes->constData(), static_cast<std::size_t>(bytes->size())});
     if (!list) {
         return failure("cannot use", path, list.error().text);
     }
