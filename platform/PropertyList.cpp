@@ -75,37 +75,23 @@ Result<QByteArray> readFile(const std::string& path, PropertyListSource source)
 
 // Number ------------------------------------------------------------------------------------------
 
-std::int16_t Number::shortValue() const
+Number Number::integer(std::uint64_t bits)
 {
-    return static_cast<std::int16_t>(longValue());
+    return {static_cast<std::int64_t>(bits), true, bits != 0};
 }
 
-std::int64_t Number::longValue() const
+Number Number::real(double value)
 {
-    if (!mIsReal) {
-        return static_cast<std::int64_t>(mBits);
-    }
     constexpr double kEnd = 0x1p63;
-    if (std::isnan(mReal)) {
-        return 0;
+    std::int64_t whole = 0;
+    if (value >= kEnd) {
+        whole = std::numeric_limits<std::int64_t>::max();
+    } else if (value < -kEnd) {
+        whole = std::numeric_limits<std::int64_t>::min();
+    } else if (!std::isnan(value)) {
+        whole = static_cast<std::int64_t>(value);
     }
-    if (mReal >= kEnd) {
-        return std::numeric_limits<std::int64_t>::max();
-    }
-    if (mReal < -kEnd) {
-        return std::numeric_limits<std::int64_t>::min();
-    }
-    return static_cast<std::int64_t>(mReal);
-}
-
-bool Number::boolValue() const
-{
-    return mIsReal ? mReal != 0.0 : mBits != 0;
-}
-
-bool Number::isWhole() const
-{
-    return !mIsReal || static_cast<double>(longValue()) == mReal;
+    return {whole, static_cast<double>(whole) == value, value != 0};
 }
 
 // Dictionary --------------------------------------------------------------------------------------

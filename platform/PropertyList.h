@@ -32,35 +32,35 @@ inline constexpr int kPropertyListMaxDepth = 64;
 /** A number of a property list: an integer, a real or a boolean. */
 class Number {
 public:
-    static constexpr Number integer(std::uint64_t bits) { return Number(bits, 0.0, false); }
-    static constexpr Number real(double value) { return Number(0, value, true); }
+    static Number integer(std::uint64_t bits);
+    static Number real(double value);
 
     /** The low 16 bits of the integer part. */
-    std::int16_t shortValue() const;
+    std::int16_t shortValue() const { return static_cast<std::int16_t>(mWhole); }
 
     /**
      * The integer part: a real is truncated toward zero and saturates at 64 bits, and NaN is 0. An
      * unsigned integer above INT64_MAX keeps its bits.
      */
-    std::int64_t longValue() const;
+    std::int64_t longValue() const { return mWhole; }
 
     /** Whether the number is not zero. */
-    bool boolValue() const;
+    bool boolValue() const { return mIsTrue; }
 
     /** Whether it is an integer, so that longValue() is exact. */
-    bool isWhole() const;
+    bool isWhole() const { return mIsWhole; }
 
 private:
-    constexpr Number(std::uint64_t bits, double value, bool isReal)
-        : mBits(bits)
-        , mReal(value)
-        , mIsReal(isReal)
+    Number(std::int64_t whole, bool isWhole, bool isTrue)
+        : mWhole(whole)
+        , mIsWhole(isWhole)
+        , mIsTrue(isTrue)
     {
     }
 
-    std::uint64_t mBits;
-    double mReal;
-    bool mIsReal;
+    std::int64_t mWhole;
+    bool mIsWhole;
+    bool mIsTrue;
 };
 
 /** The kind of value for a key. */
