@@ -189,52 +189,46 @@ MutableDictionary MutableDictionary::dictionary(const char* key) const
     return MutableDictionary(findDictionary(mNode, key));
 }
 
-/** Returns the entry for the key, emptied, or a new one; null without a dictionary. */
-PropertyListNode* MutableDictionary::put(const char* key) const
+namespace {
+
+/** Sets an entry, without contents; does nothing without a dictionary. */
+PropertyListNode* put(
+    PropertyListNode* dictionary, const char* key, Kind kind, std::string text = {})
 {
-    if (mNode == nullptr) {
+    if (dictionary == nullptr) {
         return nullptr;
     }
-    PropertyListNode* node = mNode->find(key);
+    PropertyListNode* node = dictionary->find(key);
     if (node == nullptr) {
-        node = &mNode->parts.emplace_back();
+        node = &dictionary->parts.emplace_back();
         node->key = key;
     }
-    node->text.clear();
+    node->kind = kind;
+    node->text = std::move(text);
     node->parts.clear();
     return node;
 }
 
+} // namespace
+
 void MutableDictionary::setInteger(const char* key, std::int64_t value) const
 {
-    if (PropertyListNode* const node = put(key)) {
-        node->kind = Kind::Integer;
-        node->text = std::to_string(value);
-    }
+    put(mNode, key, Kind::Integer, std::to_string(value));
 }
 
 void MutableDictionary::setBoolean(const char* key, bool value) const
 {
-    if (PropertyListNode* const node = put(key)) {
-        node->kind = value ? Kind::True : Kind::False;
-    }
+    put(mNode, key, value ? Kind::True : Kind::False);
 }
 
 void MutableDictionary::setString(const char* key, const std::string& value) const
 {
-    if (PropertyListNode* const node = put(key)) {
-        node->kind = Kind::String;
-        node->text = value;
-    }
+    put(mNode, key, Kind::String, value);
 }
 
 MutableDictionary MutableDictionary::addDictionary(const char* key) const
 {
-    PropertyListNode* const node = put(key);
-    if (node != nullptr) {
-        node->kind = Kind::Dictionary;
-    }
-    return MutableDictionary(node);
+    return MutableDictionary(put(mNode, key, Kind::Dictionary));
 }
 
 // PropertyList ------------------------------------------------------------------------------------

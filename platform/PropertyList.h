@@ -120,8 +120,6 @@ public:
 private:
     friend class PropertyList;
     using Dictionary::Dictionary;
-
-    PropertyListNode* put(const char* key) const;
 };
 
 /** The kinds of files that a list may be loaded from. */
