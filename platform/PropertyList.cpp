@@ -285,38 +285,34 @@ std::string PropertyList::toXml() const
 
 namespace {
 
-/**
- * Returns the list in XML, or an error if the XML does not represent the list and must not be
- * saved.
- */
-Result<std::string> xmlToSave(const PropertyListNode& root)
+/** Saves the list, unless its XML does not represent it. */
+Result<> saveAs(const PropertyListNode& root, const std::string& path, const char* failed,
+    Result<> (*write)(const QString& path, std::string_view bytes))
 {
-    std::string xml = writeXmlPropertyList(root);
+    const std::string xml = writeXmlPropertyList(root);
     if (xml.size() > kPropertyListMaxSize) {
-        return Error{QStringLiteral("in XML, ") + tooLarge().text};
+        return failure(failed, path, QStringLiteral("in XML, ") + tooLarge().text);
     }
     const Result<PropertyListNode> again = readXmlPropertyList(xml);
     if (!again || *again != root) {
-        return Error{QStringLiteral("it contains text that XML cannot represent")
-            + (again ? QString() : QStringLiteral(": ") + again.error().text)};
+        return failure(failed, path,
+            QStringLiteral("it contains text that XML cannot represent")
+                + (again ? QString() : QStringLiteral(": ") + again.error().text));
     }
-    return xml;
+    const Result<> saved = write(QFile::decodeName(path.c_str()), xml);
+    return saved ? saved : failure(failed, path, saved.error().text);
 }
 
 } // namespace
 
 Result<> PropertyList::save(const std::string& path) const
 {
-    const Result<std::string> xml = xmlToSave(*mRoot);
-    const Result<> saved = xml ? replaceFile(QFile::decodeName(path.c_str()), *xml) : xml.error();
-    return saved ? saved : failure("cannot write", path, saved.error().text);
+    return saveAs(*mRoot, path, "cannot write", replaceFile);
 }
 
 Result<> PropertyList::saveNew(const std::string& path) const
 {
-    const Result<std::string> xml = xmlToSave(*mRoot);
-    const Result<> saved = xml ? createFile(QFile::decodeName(path.c_str()), *xml) : xml.error();
-    return saved ? saved : failure("cannot create", path, saved.error().text);
+    return saveAs(*mRoot, path, "cannot create", createFile);
 }
 
 } // namespace platform
