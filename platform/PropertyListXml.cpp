@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "PropertyListNode.h"
 
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 #include <QtEndian>
 
@@ -61,15 +62,9 @@ std::string shown(std::string_view text)
  */
 bool isDate(std::string_view text)
 {
-    constexpr std::string_view kForm = "0000-00-00T00:00:00";
-    constexpr std::array<std::size_t, 4> kLengths{10, 13, 16, 19}; // to the day, hour, ...
-    if (!text.ends_with('Z')) {
-        return false;
-    }
-    text.remove_suffix(1);
-    return std::ranges::find(kLengths, text.size()) != kLengths.end()
-        && std::ranges::equal(text, kForm.substr(0, text.size()),
-            [](char c, char form) { return form == '0' ? c >= '0' && c <= '9' : c == form; });
+    static const QRegularExpression form(
+        QStringLiteral(R"(\A\d{4}-\d\d-\d\d(T\d\d(:\d\d(:\d\d)?)?)?Z\z)"));
+    return form.match(QString::fromUtf8(text.data(), static_cast<int>(text.size()))).hasMatch();
 }
 
 // Reading -----------------------------------------------------------------------------------------
