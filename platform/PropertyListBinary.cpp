@@ -35,24 +35,10 @@ std::string realText(double value)
     return {text.data(), end};
 }
 
-/** The fraction of a second of a date: nothing, or a point and digits. */
-std::string fractionText(double fraction)
-{
-    if (fraction == 0) {
-        return {};
-    }
-    // The smallest double has 324 places. A fraction that would round up to a second is not one
-    // yet.
-    std::array<char, 400> text{};
-    const auto [end, status] = std::to_chars(text.data(), text.data() + text.size(),
-        std::min(fraction, std::nextafter(1.0, 0.0)), std::chars_format::fixed);
-    return {text.data() + 1, end};
-}
-
 /**
  * A date from its seconds since the beginning of 2001; nothing outside the years 1 to 9999. A date
- * in XML has whole seconds, but a fraction is kept in the text, so that the date is never written
- * as a different one.
+ * in XML has whole seconds. A fraction shows in the text, as milliseconds, so that the date is
+ * never written as a different one.
  */
 std::optional<std::string> dateText(double seconds)
 {
@@ -67,8 +53,10 @@ std::optional<std::string> dateText(double seconds)
     if (date.date().year() < 1 || date.date().year() > 9999) {
         return std::nullopt;
     }
-    return date.toString(Qt::ISODate).chopped(1).toStdString() + fractionText(seconds - whole)
-        + 'Z';
+    const double fraction = seconds - whole;
+    return date.addMSecs(static_cast<qint64>(fraction * 1000))
+        .toString(fraction == 0 ? Qt::ISODate : Qt::ISODateWithMs)
+        .toStdString();
 }
 
 /**

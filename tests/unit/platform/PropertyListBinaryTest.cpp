@@ -408,17 +408,13 @@ TEST(PropertyListBinary, datesAreThoseOfTheYears1To9999)
     EXPECT_EQ(date(std::numeric_limits<double>::quiet_NaN()), outside);
 }
 
-TEST(PropertyListBinary, datesKeepTheirFractionsOfASecond)
+TEST(PropertyListBinary, datesShowTheirFractionsOfASecond)
 {
     const auto date = [](double seconds) { return xmlOf("\x33" + bits(seconds)); };
-    EXPECT_EQ(date(-0.25), "<date>2000-12-31T23:59:59.75Z</date>");
-    EXPECT_EQ(date(817'008'360.75), "<date>2026-11-22T02:46:00.75Z</date>");
-    EXPECT_EQ(date(1e-10), "<date>2001-01-01T00:00:00.0000000001Z</date>");
-    const std::string smallest = date(5e-324);
-    EXPECT_TRUE(smallest.starts_with("<date>2001-01-01T00:00:00.000")) << smallest;
-    EXPECT_TRUE(smallest.ends_with("0005Z</date>")) << smallest;
-    const std::string before = date(-5e-324);
-    EXPECT_TRUE(before.starts_with("<date>2000-12-31T23:59:59.999")) << before;
+    EXPECT_EQ(date(-0.25), "<date>2000-12-31T23:59:59.750Z</date>");
+    EXPECT_EQ(date(817'008'360.75), "<date>2026-11-22T02:46:00.750Z</date>");
+    EXPECT_EQ(date(5e-324), "<date>2001-01-01T00:00:00.000Z</date>");
+    EXPECT_EQ(date(-5e-324), "<date>2001-01-01T00:00:00.000Z</date>");
 }
 
 TEST(PropertyListBinary, refusesValuesThatAreCutOff)
