@@ -44,7 +44,7 @@ PaneShell::PaneShell(std::unique_ptr<Pane> pane, Host host, QWidget* parent)
     }
     mBottom->hide();
     mPane->setButtonsShown(false);
-    mPane->setNewsHandler([this](Pane::News news, const QString& text) { take(news, text); });
+    mPane->setNewsHandler([this](Pane::News news, const QString& text) { handleNews(news, text); });
 }
 
 PaneShell::~PaneShell()
@@ -76,17 +76,17 @@ void PaneShell::makeNotice()
     mNoticeLabel->setWordWrap(true);
     mNoticeLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
     mNoticeLabel->hide();
-    mMend = new QPushButton(mBottom);
-    mMend->hide();
-    connect(mMend, &QPushButton::clicked, this, &PaneShell::mend);
+    mRetry = new QPushButton(mBottom);
+    mRetry->hide();
+    connect(mRetry, &QPushButton::clicked, this, &PaneShell::retry);
     auto* const row = static_cast<QHBoxLayout*>(mBottom->layout()); // NOLINT(*-downcast): made so
     if (mSave != nullptr) {
         delete row->takeAt(0); // the line takes the place of the stretch
     }
     row->insertWidget(0, mNoticeLabel, 1);
-    row->insertWidget(1, mMend);
+    row->insertWidget(1, mRetry);
     if (mCancel != nullptr) {
-        setTabOrder(mMend, mCancel);
+        setTabOrder(mRetry, mCancel);
         setTabOrder(mCancel, mSave);
     }
 }
@@ -115,7 +115,7 @@ int PaneShell::bottomHeight() const
 
 void PaneShell::willSelect()
 {
-    forget();
+    clearNotices();
     mIsSelected = true;
     mPane->willSelect();
     if (mSave != nullptr) {
@@ -134,7 +134,7 @@ platform::Result<> PaneShell::willUnselect()
 {
     const bool hasChanges = mPane->hasDevice() && mPane->hasChanges();
     if (!mNotLoaded.isEmpty() && !hasChanges) {
-        load(); // otherwise a file repaired meanwhile would be overwritten with foreign settings
+        reload(); // otherwise a file repaired meanwhile would be overwritten with foreign settings
     }
     mNotSaved.clear();
     mPane->willUnselect();
@@ -142,6 +142,29 @@ platform::Result<> PaneShell::willUnselect()
         return platform::Error{mNotSaved};
     }
     return {};
+}
+
+bool PaneShell::mayLeave(bool canStay)
+{
+    const QPointer<PaneShell> shell(this);
+    for (;;) {
+        const platform::Result<> saved = willUnselect();
+        // Do not delay a logout.
+        if (saved || qGuiApp->isSavingSession()) {
+            return true;
+        }
+        const int answer = askAboutUnsaved(saved.error(), canStay);
+        if (shell.isNull() || !mIsSelected) {
+            return false; // the host has moved on while the user was asked
+        }
+        if (answer != QMessageBox::Retry) {
+            const bool stays = canStay && answer != QMessageBox::Discard;
+            if (!stays) {
+                discardChanges();
+            }
+            return !stays;
+        }
+    }
 }
 
 void PaneShell::didUnselect()
@@ -159,16 +182,16 @@ void PaneShell::end()
     }
 }
 
-void PaneShell::showAnew()
+void PaneShell::reopen()
 {
     closeDialogs();
     const platform::Result<> kept = willUnselect();
-    comeAgain();
+    reshow();
     mNotKept = kept ? QString() : kept.error().text;
     showNotice();
 }
 
-void PaneShell::comeAgain()
+void PaneShell::reshow()
 {
     view().hide(); // showing it again redraws it
     didUnselect();
@@ -177,11 +200,11 @@ void PaneShell::comeAgain()
     didSelect();
 }
 
-void PaneShell::load()
+void PaneShell::reload()
 {
     closeDialogs();
     // Do not leave the pane, which would save what could not be loaded.
-    comeAgain();
+    reshow();
 }
 
 void PaneShell::closeDialogs() const
@@ -204,7 +227,8 @@ void PaneShell::closeDialogs() const
     }
 }
 
-PaneShell::Unsaved PaneShell::askAboutUnsaved(const platform::Error& error, bool canStay)
+/** Asks what to do with changes that could not be saved. @return the button that was pressed */
+int PaneShell::askAboutUnsaved(const platform::Error& error, bool canStay)
 {
     // Its parent may be destroyed, and the message box with it, before the user answers.
     const QPointer<QMessageBox> question = new QMessageBox(QMessageBox::Warning, windowTitle(),
@@ -223,14 +247,7 @@ PaneShell::Unsaved PaneShell::askAboutUnsaved(const platform::Error& error, bool
     }
     const int answer = question->exec();
     delete question;
-    switch (answer) {
-    case QMessageBox::Retry:
-        return Unsaved::TryAgain;
-    case QMessageBox::Discard:
-        return Unsaved::Discard;
-    default:
-        return canStay ? Unsaved::Stay : Unsaved::Discard;
-    }
+    return answer;
 }
 
 void PaneShell::save()
@@ -242,11 +259,11 @@ void PaneShell::cancel()
 {
     mPane->cancel();
     if (mIsSelected) {
-        showAnew();
+        reopen();
     }
 }
 
-void PaneShell::giveUp()
+void PaneShell::discardChanges()
 {
     if (mIsSelected && mPane->hasChanges()) {
         mPane->cancel();
@@ -255,21 +272,19 @@ void PaneShell::giveUp()
 
 // What has gone wrong -----------------------------------------------------------------------------
 
-void PaneShell::take(Pane::News news, const QString& text)
+void PaneShell::handleNews(Pane::News news, const QString& text)
 {
     switch (news) {
     case Pane::News::ChangeTaken:
         mIsNotTaken = false;
         if (mIsUnsure) {
-            followSoon();
+            checkDeviceSoon();
         }
         break;
     case Pane::News::ChangeNotTaken:
         mIsNotTaken = true;
         break;
     case Pane::News::Loaded:
-        mNotLoaded.clear();
-        break;
     case Pane::News::NotLoaded:
         mNotLoaded = text;
         break;
@@ -281,7 +296,7 @@ void PaneShell::take(Pane::News news, const QString& text)
         mNotSaved = text;
         break;
     case Pane::News::DeviceMayHaveChanged:
-        followSoon();
+        checkDeviceSoon();
         return;
     case Pane::News::ChangedByItself:
         if (mIsSelected) {
@@ -292,7 +307,7 @@ void PaneShell::take(Pane::News news, const QString& text)
     showNotice();
 }
 
-void PaneShell::forget()
+void PaneShell::clearNotices()
 {
     mNotSaved.clear();
     mNotKept.clear();
@@ -304,60 +319,46 @@ void PaneShell::forget()
 PaneShell::Notice PaneShell::notice() const
 {
     if (!mIsSelected || !mPane->hasDevice()) {
-        return Notice::None;
+        return {};
     }
     if (!mNotSaved.isEmpty()) {
-        return Notice::NotSaved;
+        //: %1 is the reason, in English.
+        return {tr("The settings were not saved: %1").arg(mNotSaved),
+            //: Button: saves or loads the settings again.
+            tr("Tr&y Again"), &PaneShell::saveAgain};
     }
     if (!mNotKept.isEmpty()) {
-        return Notice::NotKept;
+        //: %1 is the reason, in English.
+        return {tr("The previous tablet's settings were not saved: %1").arg(mNotKept)};
     }
     if (!mNotLoaded.isEmpty()) {
-        return Notice::NotLoaded;
+        //: %1 is the reason, in English.
+        return {tr("The tablet's settings cannot be loaded, so the pages do not show them: %1")
+                    .arg(mNotLoaded),
+            //: Button: saves or loads the settings again.
+            tr("Tr&y Again"), &PaneShell::reload};
     }
-    return mIsNotTaken ? Notice::NotTaken : Notice::None;
+    if (mIsNotTaken) {
+        return {tr("The tablet's driver has not accepted the last change. Is it running?"),
+            //: Button: sends the settings to the driver again.
+            tr("Send A&gain"), &PaneShell::sendAgain};
+    }
+    return {};
 }
 
 void PaneShell::showNotice()
 {
-    QString text;
-    QString button;
-    switch (notice()) {
-    case Notice::NotSaved:
-        //: %1 is the reason, in English.
-        text = tr("The settings were not saved: %1").arg(mNotSaved);
-        //: Button: saves or loads the settings again.
-        button = tr("Tr&y Again");
-        break;
-    case Notice::NotKept:
-        //: %1 is the reason, in English.
-        text = tr("The previous tablet's settings were not saved: %1").arg(mNotKept);
-        break;
-    case Notice::NotLoaded:
-        //: %1 is the reason, in English.
-        text = tr("The tablet's settings cannot be loaded, so the pages do not show them: %1")
-                   .arg(mNotLoaded);
-        //: Button: saves or loads the settings again.
-        button = tr("Tr&y Again");
-        break;
-    case Notice::NotTaken:
-        text = tr("The tablet's driver has not accepted the last change. Is it running?");
-        //: Button: sends the settings to the driver again.
-        button = tr("Send A&gain");
-        break;
-    case Notice::None:
-        break;
-    }
+    const auto [text, button, action] = notice();
     if (mNoticeLabel == nullptr && !text.isEmpty()) {
         makeNotice();
     }
     if (mNoticeLabel != nullptr && text != mNoticeLabel->text()) {
-        const bool hadFocus = mMend->hasFocus();
+        const bool hadFocus = mRetry->hasFocus();
         mNoticeLabel->hide(); // screen readers announce only what appears
         mNoticeLabel->setText(text);
         mNoticeLabel->setVisible(!text.isEmpty());
-        mMend->setText(button);
-        mMend->setVisible(!button.isEmpty());
+        mRetry->setText(button);
+        mRetry->setVisible(!button.isEmpty());
         if (hadFocus && button.isEmpty()) {
             mPane->didSelect(); // the focus goes back to the pane's first control
         }
@@ -365,25 +366,19 @@ void PaneShell::showNotice()
     mBottom->setVisible(!text.isEmpty() || (mSave != nullptr && mPane->hasDevice()));
 }
 
-void PaneShell::mend()
+void PaneShell::retry()
 {
-    switch (notice()) {
-    case Notice::NotSaved:
-        if (mPane->checkDevice() == Pane::Device::Other) {
-            showAnew();
-        } else {
-            save();
-        }
-        break;
-    case Notice::NotLoaded:
-        load();
-        break;
-    case Notice::NotTaken:
-        sendAgain();
-        break;
-    case Notice::NotKept:
-    case Notice::None:
-        break;
+    if (const auto action = notice().action) {
+        (this->*action)();
+    }
+}
+
+void PaneShell::saveAgain()
+{
+    if (mPane->checkDevice() == Pane::Device::Other) {
+        reopen();
+    } else {
+        save();
     }
 }
 
@@ -398,22 +393,22 @@ void PaneShell::sendAgain()
         mPane->send();
         break;
     case Pane::Device::Other:
-        showAnew();
+        reopen();
         break;
     }
 }
 
-void PaneShell::followSoon()
+void PaneShell::checkDeviceSoon()
 {
     // A new driver may be announced more than once, but is asked only once.
-    if (mIsSelected && !std::exchange(mIsFollowing, true)) {
-        QMetaObject::invokeMethod(this, &PaneShell::followDevice, Qt::QueuedConnection);
+    if (mIsSelected && !std::exchange(mWillCheckDevice, true)) {
+        QMetaObject::invokeMethod(this, &PaneShell::checkDevice, Qt::QueuedConnection);
     }
 }
 
-void PaneShell::followDevice()
+void PaneShell::checkDevice()
 {
-    mIsFollowing = false;
+    mWillCheckDevice = false;
     if (!mIsSelected) {
         return;
     }
@@ -424,11 +419,11 @@ void PaneShell::followDevice()
         break;
     case Pane::Device::Same:
         if (!mNotLoaded.isEmpty()) {
-            load(); // the driver may have created the file
+            reload(); // the driver may have created the file
         }
         break;
     case Pane::Device::Other:
-        showAnew();
+        reopen();
         break;
     }
 }

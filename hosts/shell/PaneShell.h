@@ -61,47 +61,51 @@ public:
     void didSelect();
     /** Has the pane save its settings; fails if changes of the user's could not be saved. */
     platform::Result<> willUnselect();
+    /**
+     * Like willUnselect(), but asks the user what to do with changes that could not be saved. The
+     * shell may be destroyed before the answer.
+     *
+     * @param canStay whether the host can still go back; without an answer, the pane then stays,
+     *     otherwise the changes are discarded
+     * @return whether to go on leaving the pane; false also if the host has left it meanwhile
+     */
+    [[nodiscard]] bool mayLeave(bool canStay);
     void didUnselect();
     /** Leaves the pane if it is still selected, before the shell is destroyed. */
     void end();
-
-    /** What to do with changes that could not be saved. */
-    enum class Unsaved : std::uint8_t { TryAgain, Discard, Stay };
-    /**
-     * Asks the user. The shell may be destroyed before the answer.
-     *
-     * @param error from willUnselect()
-     * @param canStay whether the host can still go back; without an answer, the result is then
-     *     Stay, otherwise Discard
-     */
-    Unsaved askAboutUnsaved(const platform::Error& error, bool canStay);
 
     /** Saves the settings. */
     void save();
     /** Goes back to the saved settings, and reshows the pane so that its controls match. */
     void cancel();
     /** Goes back to the saved settings just before the pane is left. */
-    void giveUp();
+    void discardChanges();
 
 private:
     using Pane = platform::PreferencePane;
 
-    /** What the line says; the first that applies is shown. */
-    enum class Notice : std::uint8_t { NotSaved, NotKept, NotLoaded, NotTaken, None };
+    /** What the line says, and its button; empty if there is none. */
+    struct Notice {
+        QString text{};
+        QString button{};
+        void (PaneShell::*action)() = nullptr; ///< what the button does
+    };
 
     void makeButtons();
     void makeNotice();
-    void take(Pane::News news, const QString& text);
-    void forget();
+    int askAboutUnsaved(const platform::Error& error, bool canStay);
+    void handleNews(Pane::News news, const QString& text);
+    void clearNotices();
     Notice notice() const;
     void showNotice();
-    void mend();
+    void retry();
+    void saveAgain();
     void sendAgain();
-    void followSoon();
-    void followDevice();
-    void load();
-    void showAnew();
-    void comeAgain();
+    void checkDeviceSoon();
+    void checkDevice();
+    void reload();
+    void reopen();
+    void reshow();
     void closeDialogs() const;
 
     std::unique_ptr<Pane> mPane;
@@ -110,12 +114,12 @@ private:
     QString mNotKept; ///< why the former tablet's changes were lost; empty if none were
     QString mNotLoaded; ///< why the settings could not be read; empty on success
     bool mIsNotTaken = false; ///< the driver has not accepted the last change
-    bool mIsFollowing = false; ///< followDevice() will be called soon
+    bool mWillCheckDevice = false; ///< checkDevice() will be called soon
     bool mIsUnsure = false; ///< a new driver did not say which tablet it has
 
     QWidget* mBottom = nullptr; ///< the line and the buttons
     platform::NoticeLabel* mNoticeLabel = nullptr; ///< null until the first notice
-    QPushButton* mMend = nullptr;
+    QPushButton* mRetry = nullptr;
     QPushButton* mSave = nullptr; ///< null if the host has its own
     QPushButton* mCancel = nullptr;
 };

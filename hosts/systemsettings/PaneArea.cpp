@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QDialog>
 #include <QHideEvent>
-#include <QPointer>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -17,11 +16,11 @@ PaneArea::PaneArea(std::unique_ptr<platform::PreferencePane> pane, QWidget* pare
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(mShell);
-    mShell->setChangeHandler([this] { tell(); });
+    mShell->setChangeHandler([this] { reportChanges(); });
     // A host that rearranges its window hides the area and shows it again a moment later.
     connect(this, &PaneArea::hidden, this, &PaneArea::unselectWhereHidden, Qt::QueuedConnection);
     // After the call, a host assumes that the settings are saved, without checking the result.
-    connect(this, &PaneArea::served, this, &PaneArea::tell, Qt::QueuedConnection);
+    connect(this, &PaneArea::served, this, &PaneArea::reportChanges, Qt::QueuedConnection);
     connect(qApp, &QCoreApplication::aboutToQuit, this, &PaneArea::unselect);
 }
 
@@ -36,7 +35,7 @@ void PaneArea::setChangeHandler(std::function<void(bool)> handler)
     mChangeHandler = std::move(handler);
 }
 
-void PaneArea::tell() const
+void PaneArea::reportChanges() const
 {
     if (mChangeHandler) {
         mChangeHandler(mShell->hasChanges());
@@ -45,27 +44,10 @@ void PaneArea::tell() const
 
 void PaneArea::unselect()
 {
-    if (!mShell->isSelected()) {
-        return;
+    if (mShell->isSelected() && mShell->mayLeave(false)) {
+        mShell->didUnselect();
+        reportChanges();
     }
-    const QPointer<PaneArea> area(this);
-    for (;;) {
-        const platform::Result<> saved = mShell->willUnselect();
-        // Do not delay a logout.
-        if (saved || qGuiApp->isSavingSession()) {
-            break;
-        }
-        const PaneShell::Unsaved answer = mShell->askAboutUnsaved(saved.error(), false);
-        if (area.isNull() || !mShell->isSelected()) {
-            return; // the host has moved on while the user was asked
-        }
-        if (answer == PaneShell::Unsaved::Discard) {
-            mShell->giveUp();
-            break;
-        }
-    }
-    mShell->didUnselect();
-    tell();
 }
 
 void PaneArea::unselectWhereHidden()
@@ -101,7 +83,8 @@ void PaneArea::showEvent(QShowEvent* event)
         mShell->didSelect();
         if (const auto* const dialog = qobject_cast<QDialog*>(window())) {
             // The dialog emits this right after it has hidden itself, so before the pane is left.
-            connect(dialog, &QDialog::rejected, mShell, &PaneShell::giveUp, Qt::UniqueConnection);
+            connect(dialog, &QDialog::rejected, mShell, &PaneShell::discardChanges,
+                Qt::UniqueConnection);
         }
     }
 }

@@ -53,7 +53,7 @@ protected:
 private:
     void unselect();
     void unselectWhereHidden();
-    void tell() const;
+    void reportChanges() const;
 
     PaneShell* mShell;
     std::function<void(bool)> mChangeHandler;

@@ -7,7 +7,6 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
-#include <QGuiApplication>
 #include <QPixmap>
 #include <QScreen>
 #include <QTabWidget>
@@ -61,21 +60,9 @@ void PaneWindow::closeEvent(QCloseEvent* event)
     if (!mShell->isSelected()) {
         return;
     }
-    for (;;) {
-        const platform::Result<> saved = mShell->willUnselect();
-        // Do not delay a logout.
-        if (saved || qGuiApp->isSavingSession()) {
-            break;
-        }
-        const PaneShell::Unsaved answer = mShell->askAboutUnsaved(saved.error(), true);
-        if (answer == PaneShell::Unsaved::Stay) {
-            event->ignore();
-            return;
-        }
-        if (answer == PaneShell::Unsaved::Discard) {
-            mShell->giveUp();
-            break;
-        }
+    if (!mShell->mayLeave(true)) {
+        event->ignore();
+        return;
     }
     hide();
     mShell->didUnselect();
