@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Geometry.h"
+
 #include <QWidget>
 
 namespace platform {
@@ -22,9 +24,15 @@ public:
 
     using QWidget::QWidget;
 
-    QSize sizeHint() const override;
+    QSize sizeHint() const override
+    {
+        return isHidden() ? kRoom * pixelsPerPoint(font()) : QWidget::sizeHint();
+    }
     /** A hidden page needs kLeast, which is no more than the visible page needs. */
-    QSize minimumSizeHint() const override;
+    QSize minimumSizeHint() const override
+    {
+        return isHidden() ? kLeast * pixelsPerPoint(font()) : QWidget::minimumSizeHint();
+    }
 };
 
 } // namespace platform
