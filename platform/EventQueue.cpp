@@ -4,6 +4,7 @@
 
 #include "PenView.h"
 #include "ProximityRelay.h"
+#include "Service.h"
 
 #include <QPointer>
 
@@ -22,7 +23,7 @@ bool isButtonEvent(EventType type)
 
 EventQueue::EventQueue(PenView& view)
     : mView(view)
-    , mRelay(ProximityRelay::shared())
+    , mRelay(sharedInstance<ProximityRelay>())
 {
     mRelay->mQueues.push_back(this);
     mHandOver.setSingleShot(true);

@@ -3,6 +3,7 @@
 #include "ProximityRelay.h"
 
 #include "EventQueue.h"
+#include "Service.h"
 
 #include <QCoreApplication>
 #include <QTabletEvent>
@@ -14,7 +15,7 @@ namespace platform {
 
 ProximityResponder::ProximityResponder(const QWidget& widget)
     : mWidget(widget)
-    , mRelay(ProximityRelay::shared())
+    , mRelay(sharedInstance<ProximityRelay>())
 {
     mRelay->mResponders.push_back(this);
 }
@@ -24,17 +25,6 @@ ProximityResponder::~ProximityResponder()
     std::erase(mRelay->mResponders, this);
 }
 
-std::shared_ptr<ProximityRelay> ProximityRelay::shared()
-{
-    static std::weak_ptr<ProximityRelay> present;
-    std::shared_ptr<ProximityRelay> relay = present.lock();
-    if (!relay) {
-        relay.reset(new ProximityRelay); // NOLINT(*-owning-memory): its constructor is private
-        present = relay;
-    }
-    return relay;
-}
-
 ProximityRelay::ProximityRelay()
 {
     QCoreApplication::instance()->installEventFilter(this);
@@ -42,7 +32,7 @@ ProximityRelay::ProximityRelay()
 
 bool ProximityRelay::eventFilter(QObject* watched, QEvent* event)
 {
-    const std::shared_ptr<ProximityRelay> guard = shared(); // the last view may be deleted
+    const auto guard = sharedInstance<ProximityRelay>(); // the last view may be deleted
     const auto proximity = [event](bool isEntering) {
         // NOLINTNEXTLINE(*-downcast): its type says so
         return proximityEvent(*static_cast<QTabletEvent*>(event), isEntering);

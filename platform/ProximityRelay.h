@@ -41,13 +41,13 @@ private:
  * Passes the application's proximity events to the responder: after the views have handled all
  * earlier events, and never during a stroke.
  *
- * Main thread only. Exists while there is a responder or a queue.
+ * Main thread only. A sharedInstance() of the responders and queues.
  */
 class ProximityRelay final : public QObject {
     Q_OBJECT
 
 public:
-    static std::shared_ptr<ProximityRelay> shared();
+    ProximityRelay();
 
     /** Notifies the responder at once. */
     void tell(const Event& event);
@@ -60,8 +60,6 @@ protected:
 private:
     friend class ProximityResponder;
     friend class EventQueue;
-
-    ProximityRelay();
 
     EventQueue* busyQueue(const Event& event) const;
     /** @param isGuess whether no driver has announced it, but it follows from the pen's events */

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <memory>
 #include <utility>
 
 namespace platform {
@@ -41,6 +42,19 @@ Service& currentService()
     }
     static Desktop desktop;
     return desktop;
+}
+
+/** Returns the process's only instance, which exists while it is used. Main thread only. */
+template <class Instance>
+std::shared_ptr<Instance> sharedInstance()
+{
+    static std::weak_ptr<Instance> present;
+    std::shared_ptr<Instance> instance = present.lock();
+    if (!instance) {
+        instance = std::make_shared<Instance>();
+        present = instance;
+    }
+    return instance;
 }
 
 } // namespace platform

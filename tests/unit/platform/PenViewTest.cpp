@@ -8,6 +8,7 @@
 #include "DragMouse.h"
 #include "PenInput.h"
 #include "ProximityRelay.h"
+#include "Service.h"
 
 #include <QTest>
 
@@ -444,7 +445,7 @@ TEST(ProximityRelay, endsWithItsLastUser)
 {
     auto reach = std::make_unique<Reach>();
     auto view = std::make_unique<Witness>();
-    const std::weak_ptr<ProximityRelay> relay = ProximityRelay::shared();
+    const std::weak_ptr<ProximityRelay> relay = sharedInstance<ProximityRelay>();
     reach.reset();
     EXPECT_FALSE(relay.expired());
     view.reset();
