@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "Accessible.h"
 
+#include "Service.h"
+
 #include <QAccessibleWidget>
-#include <QTimerEvent>
+#include <QTimer>
 
 #include <utility>
 
@@ -66,64 +68,12 @@ public:
     ~AccessibleFactory() { QAccessible::removeFactory(makeInterface); }
     AccessibleFactory(const AccessibleFactory&) = delete;
     AccessibleFactory& operator=(const AccessibleFactory&) = delete;
-
-    static std::shared_ptr<AccessibleFactory> shared()
-    {
-        static std::weak_ptr<AccessibleFactory> present;
-        std::shared_ptr<AccessibleFactory> factory = present.lock();
-        if (!factory) {
-            factory = std::make_shared<AccessibleFactory>();
-            present = factory;
-        }
-        return factory;
-    }
-};
-
-/** Notifies listeners of a new description when the pause since the last notification is over. */
-class Accessible::Notice final : public QObject {
-public:
-    explicit Notice(const Accessible& accessible)
-        : mAccessible(accessible)
-    {
-    }
-
-    void request()
-    {
-        if (!mTimer.isActive()) {
-            mTimer.start(kPause, this);
-        }
-    }
-
-protected:
-    void timerEvent(QTimerEvent* event) override
-    {
-        if (event->timerId() != mTimer.timerId()) {
-            return;
-        }
-        mTimer.stop();
-        tell(mName, mAccessible.spokenName(), QAccessible::NameChanged);
-        tell(mContents, mAccessible.spokenContents(), QAccessible::DescriptionChanged);
-    }
-
-private:
-    void tell(QString& last, const QString& words, QAccessible::Event what)
-    {
-        if (std::exchange(last, words) != words) {
-            QAccessibleEvent event(&mAccessible.mWidget, what);
-            QAccessible::updateAccessibility(&event);
-        }
-    }
-
-    const Accessible& mAccessible;
-    QBasicTimer mTimer;
-    QString mName;
-    QString mContents;
 };
 
 Accessible::Accessible(QWidget& widget, QAccessible::Role role)
     : mWidget(widget)
     , mRole(role)
-    , mFactory(AccessibleFactory::shared())
+    , mFactory(sharedInstance<AccessibleFactory>())
 {
 }
 
@@ -149,10 +99,26 @@ void Accessible::contentsChanged()
     if (!QAccessible::isActive()) {
         return;
     }
-    if (mNotice == nullptr) {
-        mNotice = std::make_unique<Notice>(*this);
+    if (mPause == nullptr) {
+        mPause = std::make_unique<QTimer>();
+        mPause->setSingleShot(true);
+        mPause->setInterval(kPause);
+        mPause->callOnTimeout([this] {
+            announce(mLastName, spokenName(), QAccessible::NameChanged);
+            announce(mLastContents, spokenContents(), QAccessible::DescriptionChanged);
+        });
     }
-    mNotice->request();
+    if (!mPause->isActive()) {
+        mPause->start();
+    }
+}
+
+void Accessible::announce(QString& last, const QString& words, QAccessible::Event what)
+{
+    if (std::exchange(last, words) != words) {
+        QAccessibleEvent event(&mWidget, what);
+        QAccessible::updateAccessibility(&event);
+    }
 }
 
 LiveLabel::LiveLabel(QWidget* parent)

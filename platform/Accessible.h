@@ -3,14 +3,12 @@
 #pragma once
 
 #include <QAccessible>
-#include <QBasicTimer>
 #include <QLabel>
-#include <QObject>
 #include <QString>
 
 #include <memory>
 
-class QWidget;
+class QTimer;
 
 namespace platform {
 
@@ -44,12 +42,14 @@ public:
     virtual QAccessibleInterface* newInterface();
 
 private:
-    class Notice;
+    void announce(QString& last, const QString& words, QAccessible::Event what);
 
     QWidget& mWidget;
     QAccessible::Role mRole;
     std::shared_ptr<class AccessibleFactory> mFactory;
-    std::unique_ptr<Notice> mNotice; ///< created by the first change with listeners
+    std::unique_ptr<QTimer> mPause; ///< created by the first change with listeners
+    QString mLastName; ///< as announced
+    QString mLastContents;
 };
 
 /**
