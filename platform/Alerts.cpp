@@ -12,26 +12,15 @@ namespace platform {
 
 namespace {
 
-QMessageBox::Icon iconOf(AlertType type)
-{
-    switch (type) {
-    case AlertType::Stop:
-        return QMessageBox::Question;
-    case AlertType::Caution:
-        return QMessageBox::Warning;
-    case AlertType::Note:
-        break;
-    }
-    return QMessageBox::Information;
-}
-
 class DesktopAlerts final : public Alerts {
 public:
     std::int16_t runStandardAlert(const StandardAlert& alert, QWidget* parent) override
     {
         // The parent may be destroyed, and the alert with it, before the answer.
         const QPointer<QMessageBox> box = new QMessageBox(parent);
-        box->setIcon(iconOf(alert.type));
+        box->setIcon(alert.type == AlertType::Stop ? QMessageBox::Question
+                : alert.type == AlertType::Caution ? QMessageBox::Warning
+                                                   : QMessageBox::Information);
         box->setWindowTitle(alert.title);
         box->setText(alert.message);
         box->setInformativeText(alert.explanation);
