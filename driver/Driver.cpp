@@ -43,18 +43,16 @@ QString valueText(const QVEntry& entry, const tagQVTabletInfo& record)
     return entry.type == QVFieldType::String ? QStringLiteral("\"%1\"").arg(text) : text;
 }
 
-/** Lists the differences between two complete records, for the log. */
-QString changes(const QByteArray& before, const QByteArray& after)
+/** Lists the differences between two records, for the log. */
+QString changes(const std::optional<tagQVTabletInfo>& old, const tagQVTabletInfo& now)
 {
-    if (before.size() != kQVRecordSize) {
+    if (!old) {
         return QStringLiteral("the first record");
     }
     QStringList told;
     int count = 0;
-    const tagQVTabletInfo old = recordIn(before);
-    const tagQVTabletInfo now = recordIn(after);
     for (const QVEntry& entry : kQVEntries) {
-        const QString was = valueText(entry, old);
+        const QString was = valueText(entry, *old);
         const QString is = valueText(entry, now);
         if (was != is && ++count <= kMaxChangesTold) {
             told.append(QStringLiteral("%1 %2 -> %3")
@@ -341,18 +339,18 @@ OSErr Driver::answerQuery(const AppleEvent& event, AppleEvent& reply)
 OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
 {
     QThread::msleep(mStall);
-    const Result<QByteArray> record = pushedRecord(event);
+    const Result<tagQVTabletInfo> record = pushedRecord(event);
     if (!record) {
         return refuse(event, record.error(), reply);
     }
     ++mState.pushes;
     say(QStringLiteral("push %1 from %2: %3")
             .arg(mState.pushes)
-            .arg(senderOf(event), changes(mState.record, *record)));
-    mState.record = *record;
+            .arg(senderOf(event), changes(recordIn(mState.record), *record)));
+    mState.record = {reinterpret_cast<const char*>(&*record), kQVRecordSize};
     // Only a push from the panel itself ends its calibration; other programs push, too.
     if (const QByteArray* const sender = event.address.bytes()) {
-        if (recordIn(*record).Monitor.disableFlag == 1) {
+        if (record->Monitor.disableFlag == 1) {
             beginCalibration(*sender);
         } else {
             endCalibration(*sender);

@@ -94,8 +94,11 @@ platform::Result<> DriverState::save() const
         : platform::Error{QStringLiteral("cannot write %1: %2").arg(path, saved.error().text)};
 }
 
-tagQVTabletInfo recordIn(const QByteArray& bytes)
+std::optional<tagQVTabletInfo> recordIn(const QByteArray& bytes)
 {
+    if (bytes.size() != kQVRecordSize) {
+        return std::nullopt;
+    }
     tagQVTabletInfo record{};
     std::memcpy(&record, bytes.constData(), sizeof record);
     return record;

@@ -31,5 +31,5 @@ struct DriverState {
     platform::Result<> save() const;
 };
 
-/** Copies a record from its bytes, of which there must be kQVRecordSize. */
-tagQVTabletInfo recordIn(const QByteArray& bytes);
+/** Copies a record from its bytes; nothing if they are not kQVRecordSize. */
+[[nodiscard]] std::optional<tagQVTabletInfo> recordIn(const QByteArray& bytes);

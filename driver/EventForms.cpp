@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "EventForms.h"
 
+#include "DriverState.h"
 #include "QVDriverProtocol.h"
-#include "tagQVTabletInfo.h"
 
 #include <span>
 
@@ -89,7 +89,7 @@ Result<> checkQuery(const AppleEvent& event)
         checkSpecifier(entry[1].desc)});
 }
 
-Result<QByteArray> pushedRecord(const AppleEvent& event)
+Result<tagQVTabletInfo> pushedRecord(const AppleEvent& event)
 {
     const AERecord& entry = event.parameters;
     if (const Result<> keywords = checkKeywords("the settings", entry, {kQVSettingsData});
@@ -101,10 +101,11 @@ Result<QByteArray> pushedRecord(const AppleEvent& event)
         return Error{QStringLiteral("'data' is of type %1, not 'utf8'")
                          .arg(QLatin1String(quoted(entry[0].desc.type)))};
     }
-    if (bytes->size() != kQVRecordSize) {
+    const std::optional<tagQVTabletInfo> record = recordIn(*bytes);
+    if (!record) {
         return Error{QStringLiteral("the record has %1 bytes, not %2")
                          .arg(bytes->size())
                          .arg(kQVRecordSize)};
     }
-    return *bytes;
+    return *record;
 }

@@ -4,8 +4,7 @@
 
 #include "AppleEvents.h"
 #include "Result.h"
-
-#include <QByteArray>
+#include "tagQVTabletInfo.h"
 
 /**
  * @file
@@ -17,4 +16,4 @@
 platform::Result<> checkQuery(const platform::AppleEvent& event);
 
 /** The complete record that the event pushes. */
-platform::Result<QByteArray> pushedRecord(const platform::AppleEvent& event);
+platform::Result<tagQVTabletInfo> pushedRecord(const platform::AppleEvent& event);

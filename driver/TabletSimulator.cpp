@@ -77,17 +77,14 @@ QByteArray TabletSimulator::LastRecord() const
 
 QVariantMap TabletSimulator::LastRecordDecoded() const
 {
-    const QByteArray bytes = mDriver.lastRecord();
     QVariantMap entries;
-    if (bytes.size() != kQVRecordSize) {
-        return entries;
-    }
-    const tagQVTabletInfo record = recordIn(bytes);
-    for (const QVEntry& entry : kQVEntries) {
-        entries.insert(QString::fromStdString(QVEntryPath(entry)),
-            entry.type == QVFieldType::String
-                ? QVariant(QString::fromLatin1(QVFieldText(entry, record).c_str()))
-                : QVariant(static_cast<qlonglong>(QVFieldNumber(entry, record))));
+    if (const auto record = recordIn(mDriver.lastRecord())) {
+        for (const QVEntry& entry : kQVEntries) {
+            entries.insert(QString::fromStdString(QVEntryPath(entry)),
+                entry.type == QVFieldType::String
+                    ? QVariant(QString::fromLatin1(QVFieldText(entry, *record).c_str()))
+                    : QVariant(static_cast<qlonglong>(QVFieldNumber(entry, *record))));
+        }
     }
     return entries;
 }

@@ -21,7 +21,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cstring>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -212,16 +212,8 @@ const QVTabletModel* TabletWindow::model() const
 
 std::optional<tagQVTabletInfo> TabletWindow::settings() const
 {
-    const QByteArray record = mDriver.lastRecord();
-    if (record.size() != kQVRecordSize) {
-        return std::nullopt;
-    }
-    tagQVTabletInfo settings{};
-    std::memcpy(&settings, record.constData(), sizeof settings);
-    if (QVProductID(settings) != mDriver.attached()) {
-        return std::nullopt;
-    }
-    return settings;
+    std::optional<tagQVTabletInfo> settings = recordIn(mDriver.lastRecord());
+    return settings && QVProductID(*settings) == mDriver.attached() ? settings : std::nullopt;
 }
 
 void TabletWindow::choose()
