@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ConfigFile.h"
 
+#include "Driver.h"
 #include "PropertyList.h"
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
@@ -44,17 +45,18 @@ tagQVTabletInfo defaults(const QVTabletModel& model)
 
 } // namespace
 
-platform::Result<InstalledConfig> installConfigFile(const QVTabletModel& model)
+platform::Result<> installConfigFile(const QVTabletModel& model)
 {
     std::snprintf(GetPListName(), kQVListNameSize, "%u.plist", unsigned{model.productID});
     const std::string path = QVConfigStore::configPath();
-    InstalledConfig config{QFile::decodeName(path.c_str()), false};
+    const QFileInfo file(QFile::decodeName(path.c_str()));
     // Even a broken link or a folder is left alone: it is the user's.
-    if (QFileInfo::exists(config.path) || QFileInfo(config.path).isSymLink()) {
-        return config;
+    if (file.exists() || file.isSymLink()) {
+        return {};
     }
-    if (!QDir().mkpath(QFileInfo(config.path).path())) {
-        return platform::Error{QStringLiteral("cannot create the folder of %1").arg(config.path)};
+    if (!QDir().mkpath(file.path())) {
+        return platform::Error{
+            QStringLiteral("cannot create the folder of %1").arg(file.filePath())};
     }
     const tagQVTabletInfo record = defaults(model);
     platform::PropertyList list;
@@ -67,9 +69,9 @@ platform::Result<InstalledConfig> installConfigFile(const QVTabletModel& model)
     for (const QVEntry& entry : kQVEntries) {
         QVWriteEntry(QVEntryDictionary(list.root(), entry), entry, record);
     }
-    if (const platform::Result<> saved = list.saveNew(path); !saved) {
-        return saved.error();
+    platform::Result<> saved = list.saveNew(path);
+    if (saved) {
+        say(QStringLiteral("installed %1").arg(file.filePath()));
     }
-    config.created = true;
-    return config;
+    return saved;
 }

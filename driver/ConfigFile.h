@@ -5,16 +5,8 @@
 #include "QVTabletModels.h"
 #include "Result.h"
 
-#include <QString>
-
-/** The result of installConfigFile(). */
-struct InstalledConfig {
-    QString path;
-    bool created = false; ///< false: it existed, and was not touched
-};
-
 /**
  * Creates the model's configuration file, "<product ID>.plist", with every entry that a panel
- * knows. An existing file is never touched, whatever it contains.
+ * knows, and says so. An existing file is never touched, whatever it contains.
  */
-platform::Result<InstalledConfig> installConfigFile(const QVTabletModel& model);
+platform::Result<> installConfigFile(const QVTabletModel& model);

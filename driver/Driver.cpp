@@ -129,20 +129,11 @@ Result<> Driver::attach(std::uint16_t productID)
     if (model == nullptr) {
         return Error{QStringLiteral("there is no model with product %1").arg(productID)};
     }
-    const Result<InstalledConfig> config = installConfigFile(*model);
-    if (!config) {
-        return config.error();
+    Result<> installed = installConfigFile(*model);
+    if (installed) {
+        setAttached(productID);
     }
-    if (config->created) {
-        say(QStringLiteral("installed %1").arg(config->path));
-    }
-    setAttached(productID);
-    return {};
-}
-
-void Driver::detach()
-{
-    setAttached(0);
+    return installed;
 }
 
 void Driver::setAttached(std::uint16_t productID)

@@ -54,7 +54,7 @@ public:
     platform::Result<> attach(std::uint16_t productID);
 
     /** Detaches the tablet, if any. */
-    void detach();
+    void detach() { setAttached(0); }
 
     /** From now on, the driver sleeps for this time before it handles an event. */
     void stall(std::uint32_t milliseconds);
