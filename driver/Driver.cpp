@@ -252,9 +252,25 @@ void Driver::beginCalibration(const QByteArray& panel)
     const bool isNew = std::erase(panels, panel) == 0;
     panels.push_back(panel);
     setCalibrating(std::move(panels));
-    if (isNew) {
-        watch(QString::fromUtf8(panel));
+    if (!isNew) {
+        return;
     }
+    const QString name = QString::fromUtf8(panel);
+    mPanels.addWatchedService(name);
+    // It may have left the bus before it was watched.
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("NameHasOwner"));
+    call << name;
+    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this,
+        [this, name](QDBusPendingCallWatcher* answered) {
+            const QDBusPendingReply<bool> isThere = *answered;
+            if (isThere.isValid() && !isThere.value()) {
+                panelHasGone(name);
+            }
+            answered->deleteLater();
+        });
 }
 
 bool Driver::endCalibration(const QByteArray& panel)
@@ -280,25 +296,6 @@ void Driver::setCalibrating(std::vector<QByteArray> panels)
     if (wasCalibrating != isCalibrating()) {
         Q_EMIT calibratingChanged(isCalibrating());
     }
-}
-
-void Driver::watch(const QString& panel)
-{
-    mPanels.addWatchedService(panel);
-    // It may have left the bus before it was watched.
-    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("NameHasOwner"));
-    call << panel;
-    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this,
-        [this, panel](QDBusPendingCallWatcher* answered) {
-            const QDBusPendingReply<bool> isThere = *answered;
-            if (isThere.isValid() && !isThere.value()) {
-                panelHasGone(panel);
-            }
-            answered->deleteLater();
-        });
 }
 
 void Driver::panelHasGone(const QString& panel)

@@ -106,7 +106,6 @@ private:
     /** A panel no longer calibrates. @return whether it did */
     bool endCalibration(const QByteArray& panel);
     void setCalibrating(std::vector<QByteArray> panels);
-    void watch(const QString& panel);
     void panelHasGone(const QString& panel);
     void wakeReports();
     void sendDueReports();
