@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "TabletSimulator.h"
 
-#include "Driver.h"
 #include "QVConfigEntry.h"
 #include "QVTabletModels.h"
 
@@ -17,16 +16,6 @@ TabletSimulator::TabletSimulator(Driver& driver)
     connect(&driver, &Driver::pushed, this, &TabletSimulator::Pushed);
 }
 
-ushort TabletSimulator::Attached() const
-{
-    return mDriver.attached();
-}
-
-uint TabletSimulator::Pushes() const
-{
-    return mDriver.pushes();
-}
-
 ModelNames TabletSimulator::Models() const
 {
     ModelNames models;
@@ -36,31 +25,6 @@ ModelNames TabletSimulator::Models() const
     return models;
 }
 
-void TabletSimulator::Attach(ushort productID)
-{
-    answer(mDriver.attach(productID));
-}
-
-void TabletSimulator::Detach()
-{
-    mDriver.detach();
-}
-
-void TabletSimulator::Stall(uint milliseconds)
-{
-    mDriver.stall(milliseconds);
-}
-
-void TabletSimulator::Tap(ushort x, ushort y)
-{
-    answer(mDriver.tap(x, y));
-}
-
-void TabletSimulator::SetReportRate(uint perSecond)
-{
-    answer(mDriver.setReportRate(perSecond));
-}
-
 void TabletSimulator::answer(const platform::Result<>& result)
 {
     if (!result) {
@@ -68,11 +32,6 @@ void TabletSimulator::answer(const platform::Result<>& result)
         say(text);
         sendErrorReply(QStringLiteral("org.quorvia.TabletSimulator.Error.Failed"), text);
     }
-}
-
-QByteArray TabletSimulator::LastRecord() const
-{
-    return mDriver.lastRecord();
 }
 
 QVariantMap TabletSimulator::LastRecordDecoded() const

@@ -2,13 +2,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Result.h"
+#include "Driver.h"
 
 #include <QDBusContext>
 #include <QObject>
 #include <QVariantMap>
-
-class Driver;
 
 /** Product IDs and names. */
 using ModelNames = QMap<ushort, QString>;
@@ -28,22 +26,22 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     /** The models that can be attached. */
     ModelNames Models() const;
     /** Attaches a model, replacing any other; an error for an unknown product ID. */
-    void Attach(ushort productID);
-    void Detach();
+    void Attach(ushort productID) { answer(mDriver.attach(productID)); }
+    void Detach() { mDriver.detach(); }
     /** Product ID of the attached tablet; 0 for none. */
-    ushort Attached() const;
+    ushort Attached() const { return mDriver.attached(); }
     /** Makes the driver sleep for this time before it handles each event; 0 turns it off. */
-    void Stall(uint milliseconds);
+    void Stall(uint milliseconds) { mDriver.stall(milliseconds); }
     /**
      * Touches a point, in tablet units, with the pen and lifts it; an error if no panel calibrates.
      */
-    void Tap(ushort x, ushort y);
+    void Tap(ushort x, ushort y) { answer(mDriver.tap(x, y)); }
     /** Sets the reports per second of a tap, 1 to 1000. */
-    void SetReportRate(uint perSecond);
+    void SetReportRate(uint perSecond) { answer(mDriver.setReportRate(perSecond)); }
     /** Number of pushes accepted so far. */
-    uint Pushes() const;
+    uint Pushes() const { return mDriver.pushes(); }
     /** The bytes of the last push; empty before the first. */
-    QByteArray LastRecord() const;
+    QByteArray LastRecord() const { return mDriver.lastRecord(); }
     /** The same record as values by entry: "dictionary/entry" and "Key/slot/entry". */
     QVariantMap LastRecordDecoded() const;
 
