@@ -34,12 +34,6 @@ QString mouseText(std::int16_t button)
     }
 }
 
-QString pathText(const QVString& path)
-{
-    const std::string_view text = QVText(path);
-    return QString::fromLatin1(text.data(), static_cast<int>(text.size()));
-}
-
 } // namespace
 
 QString actionText(const tagQVTabletInfoSubKey& slot)
@@ -48,13 +42,14 @@ QString actionText(const tagQVTabletInfoSubKey& slot)
     case kQVMouseButton:
         return mouseText(slot.Mouse);
     case kQVApplication: {
-        const QString path = pathText(slot.App);
-        if (path.isEmpty()) {
+        const std::string_view path = QVText(slot.App);
+        if (path.empty()) {
             //: Action of a tablet key.
             return ActionText::tr("Open an application (unknown path)");
         }
         //: Action of a tablet key; %1 is the path of an application.
-        return ActionText::tr("Open %1").arg(path);
+        return ActionText::tr("Open %1").arg(
+            QString::fromLatin1(path.data(), static_cast<int>(path.size())));
     }
     case kQVKeyCombination: {
         const QString keys = QString::fromStdU16String(QVKeyCombinationText(slot.Key)).trimmed();
