@@ -66,13 +66,18 @@ Label* valueLabel(QFormLayout& form, const QString& name)
     return value;
 }
 
-QToolButton* keyButton(const QString& text, const QString& name)
+/** Describes the action of a button in the settings. */
+auto slotText(std::size_t slot)
 {
-    auto* const button = new QToolButton;
-    button->setText(text);
-    button->setAccessibleName(name);
-    button->setFocusPolicy(Qt::StrongFocus);
-    return button;
+    return [slot](const tagQVTabletInfoKey& keys) { return actionText(keys.SubKey[slot]); };
+}
+
+/** Lets a button of the tablet shrink to the room for its text, since all of them have to fit. */
+void makeShrinkable(QToolButton& button, int height)
+{
+    button.setMinimumSize(kKeyWidth, button.fontMetrics().height());
+    button.setMaximumHeight(std::max(height, button.minimumHeight()));
+    button.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
 }
 
 /** The settings' screen area, relative to the main display's upper left corner. */
@@ -276,18 +281,23 @@ void TabletWindow::addKeys(const QVTabletModel& model)
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(2);
     column->addStretch();
-    int key = 0;
+    std::size_t key = 0;
     for (const int count : groups) {
         if (column->count() > 1) {
             column->addSpacing(kGroupGap);
         }
         if (count == 0 && model.scrollNum > 0) {
-            addStrip(0);
+            const QString strip = tr("Left scroll strip");
+            QToolButton& button = addButton(*column, QStringLiteral("\u2261"), strip,
+                [](const auto& keys) { return stripText(keys.Scrollbar0, keys.ScrollSpeed); });
+            makeShrinkable(button, kStripHeight);
         }
         for (int i = 0; i < count && key < model.keyNum; ++i, ++key) {
             const QString number = QString::number(key + 1);
             //: Name of an express key of the tablet; %1 is its number.
-            addButton(*column, number, tr("Key %1").arg(number), static_cast<std::size_t>(key));
+            QToolButton& button =
+                addButton(*column, number, tr("Key %1").arg(number), slotText(key));
+            makeShrinkable(button, kKeyHeight);
         }
     }
     column->addStretch();
@@ -301,54 +311,27 @@ void TabletWindow::addPenButtons(const QVTabletModel& model)
     row->setContentsMargins(0, 0, 0, 0);
     const std::array names{tr("Upper pen button"), tr("Lower pen button")};
     for (std::size_t i = 0; i < std::min<std::size_t>(model.penButtons, names.size()); ++i) {
-        addButton(*row, names[i], names[i], kQVUpperPenSlot + i);
+        addButton(*row, names[i], names[i], slotText(kQVUpperPenSlot + i));
     }
     mTop->addWidget(mPenButtons); // saves a row on small screens
 }
 
-void TabletWindow::addButton(
-    QLayout& layout, const QString& text, const QString& name, std::size_t slot)
+QToolButton& TabletWindow::addButton(QLayout& layout, const QString& text, const QString& name,
+    std::function<QString(const tagQVTabletInfoKey& keys)> action)
 {
-    QToolButton* const button = keyButton(text, name);
-    if (slot < kQVUpperPenSlot) {
-        // All of them have to fit, so each takes only the room for its number.
-        button->setMinimumSize(kKeyWidth, button->fontMetrics().height());
-        button->setMaximumHeight(std::max(kKeyHeight, button->minimumHeight()));
-        button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    }
-    connect(button, &QToolButton::pressed, this, [this, name, slot] {
+    auto* const button = new QToolButton;
+    button->setText(text);
+    button->setAccessibleName(name);
+    button->setFocusPolicy(Qt::StrongFocus);
+    connect(button, &QToolButton::pressed, this, [this, name, action = std::move(action)] {
         const std::optional<tagQVTabletInfo> known = settings();
-        tell(name, known ? actionText(known->Key.SubKey[slot]) : QString());
+        mTold->tell(
+            tr("%1: %2", "a key and what it does")
+                .arg(name,
+                    known ? action(known->Key) : tr("unknown until the panel sends its settings")));
     });
     layout.addWidget(button);
-}
-
-void TabletWindow::addStrip(std::size_t strip)
-{
-    const QString name = strip == 0 ? tr("Left scroll strip") : tr("Right scroll strip");
-    QToolButton* const button = keyButton(QStringLiteral("\u2261"), name);
-    button->setMinimumWidth(kKeyWidth);
-    button->setMinimumHeight(button->fontMetrics().height());
-    button->setMaximumHeight(std::max(kStripHeight, button->minimumHeight()));
-    button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
-    connect(button, &QToolButton::pressed, this, [this, name, strip] {
-        const std::optional<tagQVTabletInfo> known = settings();
-        QString action;
-        if (known) {
-            action = stripText(
-                strip == 0 ? known->Key.Scrollbar0 : known->Key.Scrollbar1, known->Key.ScrollSpeed);
-        }
-        tell(name, action);
-    });
-    mKeys->layout()->addWidget(button);
-}
-
-void TabletWindow::tell(const QString& name, const QString& action)
-{
-    mTold->tell(
-        tr("%1: %2", "a key and what it does")
-            .arg(name,
-                action.isEmpty() ? tr("unknown until the panel sends its settings") : action));
+    return *button;
 }
 
 void TabletWindow::showSettings()

@@ -7,13 +7,14 @@
 
 #include <QWidget>
 
-#include <cstdint>
+#include <functional>
 #include <optional>
 
 class Driver;
 class QComboBox;
 class QLabel;
 class QHBoxLayout;
+class QToolButton;
 class TabletSurface;
 struct QVTabletModel;
 
@@ -50,9 +51,8 @@ private:
     void addKeys(const QVTabletModel& model);
     void addPenButtons(const QVTabletModel& model);
     /** Adds a button that shows its action in the settings when it is pressed. */
-    void addButton(QLayout& layout, const QString& text, const QString& name, std::size_t slot);
-    void addStrip(std::size_t strip);
-    void tell(const QString& name, const QString& action);
+    QToolButton& addButton(QLayout& layout, const QString& text, const QString& name,
+        std::function<QString(const tagQVTabletInfoKey& keys)> action);
     const QVTabletModel* model() const;
     /**
      * The attached tablet's settings; nothing before a push, or if they belong to another tablet.

@@ -179,10 +179,6 @@
         <translation>Linker Rollstreifen</translation>
     </message>
     <message>
-        <source>Right scroll strip</source>
-        <translation>Rechter Rollstreifen</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <comment>a key and what it does</comment>
         <translation>%1: %2</translation>

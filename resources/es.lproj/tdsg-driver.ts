@@ -179,10 +179,6 @@
         <translation>Banda táctil izquierda</translation>
     </message>
     <message>
-        <source>Right scroll strip</source>
-        <translation>Banda táctil derecha</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <comment>a key and what it does</comment>
         <translation>%1: %2</translation>

@@ -179,10 +179,6 @@
         <translation>Bande tactile gauche</translation>
     </message>
     <message>
-        <source>Right scroll strip</source>
-        <translation>Bande tactile droite</translation>
-    </message>
-    <message>
         <source>%1: %2</source>
         <comment>a key and what it does</comment>
         <translation>%1&#xa0;: %2</translation>
