@@ -8,6 +8,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 using platform::placeOf;
@@ -17,6 +18,15 @@ namespace {
 constexpr qreal kMargin = 3; ///< around the surface, for the focus frame
 constexpr qreal kRing = 6; ///< radius of the ring around the pen
 constexpr int kLargeSteps = 10;
+
+/** The direction of an arrow key. */
+struct Arrow {
+    int key;
+    int right;
+    int down;
+};
+constexpr auto kArrows = std::to_array<Arrow>(
+    {{Qt::Key_Left, -1, 0}, {Qt::Key_Right, 1, 0}, {Qt::Key_Up, 0, -1}, {Qt::Key_Down, 0, 1}});
 
 QVTabletPoint middle(const QVTabletArea& range)
 {
@@ -106,11 +116,6 @@ QSize TabletSurface::sizeHint() const
     return range.scaled(kLargest, Qt::KeepAspectRatio).expandedTo(kSmallest);
 }
 
-QSize TabletSurface::minimumSizeHint() const
-{
-    return sizeHint() / 3;
-}
-
 void TabletSurface::paintEvent(QPaintEvent* event)
 {
     static_cast<void>(event);
@@ -175,32 +180,15 @@ void TabletSurface::mouseReleaseEvent(QMouseEvent* event)
 void TabletSurface::keyPressEvent(QKeyEvent* event)
 {
     const int steps = event->modifiers().testFlag(Qt::ShiftModifier) ? kLargeSteps : 1;
-    int right = 0;
-    int down = 0;
-    switch (event->key()) {
-    case Qt::Key_Left:
-        right = -steps;
-        break;
-    case Qt::Key_Right:
-        right = steps;
-        break;
-    case Qt::Key_Up:
-        down = -steps;
-        break;
-    case Qt::Key_Down:
-        down = steps;
-        break;
-    case Qt::Key_Space:
+    const auto* const arrow = std::ranges::find(kArrows, event->key(), &Arrow::key);
+    if (event->key() == Qt::Key_Space) {
         if (!event->isAutoRepeat() && !isPenDown()) {
             hold(Holder::SpaceBar);
         }
-        return;
-    default:
+    } else if (arrow == kArrows.end()) {
         QWidget::keyPressEvent(event);
-        return;
-    }
-    if (mHeldBy != Holder::Mouse) {
-        movePen(moved(mPen, right, down, mRange));
+    } else if (mHeldBy != Holder::Mouse) {
+        movePen(moved(mPen, arrow->right * steps, arrow->down * steps, mRange));
     }
 }
 
@@ -213,17 +201,10 @@ void TabletSurface::keyReleaseEvent(QKeyEvent* event)
     }
 }
 
-void TabletSurface::focusInEvent(QFocusEvent* event)
-{
-    QWidget::focusInEvent(event);
-    update();
-}
-
 void TabletSurface::focusOutEvent(QFocusEvent* event)
 {
     QWidget::focusOutEvent(event);
     release(Holder::SpaceBar); // its release goes to another widget
-    update();
 }
 
 void TabletSurface::hideEvent(QHideEvent* event)
