@@ -45,7 +45,7 @@ AnyDictionary QVEntryDictionary(const AnyDictionary& root, const QVEntry& entry)
  *
  * @param dictionary contains the entry; a null handle has no entries
  */
-QVEntryResult QVReadEntry(
+[[nodiscard]] QVEntryResult QVReadEntry(
     const platform::Dictionary& dictionary, const QVEntry& entry, tagQVTabletInfo& record);
 
 /** Why an entry is WrongType or Unfit, for messages: "an array instead of a number". */

@@ -101,7 +101,7 @@ private:
     void showNoDevice();
     void placeNoDevice();
     void relay(QLatin1String name, News news);
-    bool askForDevice();
+    [[nodiscard]] bool askForDevice();
     void takeScrollBoxes();
 
     void setUpDisplayPage();

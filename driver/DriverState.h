@@ -25,7 +25,7 @@ struct DriverState {
      * @return nothing if there is none or it is invalid: numbers must be integers in the range of
      *     their types, and the record must be empty or complete
      */
-    static std::optional<DriverState> load();
+    [[nodiscard]] static std::optional<DriverState> load();
 
     /** Replaces the file. */
     platform::Result<> save() const;

@@ -33,7 +33,7 @@ public:
     /** Whether there is nothing to report. */
     bool isEmpty() const { return mReports.empty() && !mIsDown; }
     /** Removes and returns the next report; must not be empty. */
-    QVPenReport take();
+    [[nodiscard]] QVPenReport take();
 
     /** Discards the queued reports. A pen that is down stays down. */
     void forget() { mReports.clear(); }
