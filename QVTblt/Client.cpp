@@ -9,6 +9,7 @@
 #include "rzkApplication.h"
 
 #include <QLoggingCategory>
+#include <QScopeGuard>
 
 #include <array>
 #include <cstdio>
@@ -47,73 +48,14 @@ platform::IOReturn setReportMode(platform::UsbDeviceInterface& device, std::uint
     return device.deviceRequest(request);
 }
 
-/** openUSBDevice(), which notes how far it came. */
-std::int32_t openDevice(platform::UsbDeviceInterface& device, ReportModeOutcome& outcome)
-{
-    std::uint8_t configurations = 0;
-    platform::UsbConfigurationDescriptor configuration{};
-    const platform::IOReturn counted = device.getNumberOfConfigurations(configurations);
-    outcome.configurations = configurations;
-    if (counted != platform::kIOReturnSuccess || configurations != 1
-        || device.getConfigurationDescriptor(0, configuration) != platform::kIOReturnSuccess) {
-        return kNotOpened;
-    }
-    const platform::IOReturn error = device.open();
-    outcome.opened = error;
-    if (error == platform::kIOReturnExclusiveAccess) {
-        return kHeldByAnother;
-    }
-    if (error == platform::kIOReturnNotPermitted) {
-        qCWarning(lcClient,
-            "no permission to open the tablet; the udev rule 60-quorvia-tablet.rules grants it");
-    }
-    return error == platform::kIOReturnSuccess ? configuration.bConfigurationValue : kNotOpened;
-}
+} // namespace
 
-/** iterateDevices(), which notes how far it came. */
-std::int32_t askDevices(
-    platform::UsbIterator& devices, std::uint8_t flag, ReportModeOutcome& outcome)
-{
-    std::int32_t result = -1;
-    // Of all tries together: without a result from any device, it counts as open.
-    std::int32_t opened = 0;
-    for (int pass = 1;;) {
-        std::unique_ptr<platform::UsbService> service = devices.next();
-        if (service == nullptr) {
-            std::fputs("Unable to find first matching USB device\n", stderr);
-            return -1;
-        }
-        outcome.isFound = true;
-        int busy = 0;
-        for (; service != nullptr; service = devices.next()) {
-            if (const auto device = getUSBDevice(*service)) {
-                opened = openDevice(*device, outcome);
-                if (opened == kHeldByAnother) {
-                    ++busy;
-                } else if (opened >= 0) {
-                    result = setReportMode(*device, flag);
-                    outcome.requested = result;
-                }
-            }
-            if (opened >= 0) {
-                return 0;
-            }
-        }
-        if (busy == 0) {
-            return result;
-        }
-        platform::sleeper().sleepFor(std::chrono::seconds(1));
-        devices.reset();
-        if (++pass > kPasses) {
-            return result;
-        }
-    }
-}
-
-/** ConnectToDriver() without the notification. */
-bool sendRecord(const void* record, std::int32_t length)
+bool ConnectToDriver(const void* record, std::int32_t length)
 {
     using namespace platform;
+    const auto told = qScopeGuard([] {
+        notifications().post({kRecordPushedNotification, nullptr, {}});
+    });
     AppleEvents& service = events();
     static constexpr std::array<unsigned char, kQVRecordSize> kNone{};
     const auto* const bytes =
@@ -147,15 +89,6 @@ bool sendRecord(const void* record, std::int32_t length)
     return true;
 }
 
-} // namespace
-
-bool ConnectToDriver(const void* record, std::int32_t length)
-{
-    const bool isSent = sendRecord(record, length);
-    platform::notifications().post({kRecordPushedNotification, nullptr, {}});
-    return isSent;
-}
-
 bool PushQVTabletInfo()
 {
     return ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
@@ -184,15 +117,50 @@ ReportModeOutcome requestReportMode(std::uint8_t flag, std::uint16_t productID)
     outcome.isSearched =
         service.getMatchingServices(std::move(*matching), devices) == platform::kIOReturnSuccess;
     if (outcome.isSearched) {
-        askDevices(*devices, flag, outcome);
+        iterateDevices(*devices, flag, &outcome);
     }
     return outcome;
 }
 
-std::int32_t iterateDevices(platform::UsbIterator& devices, std::uint8_t flag)
+std::int32_t iterateDevices(
+    platform::UsbIterator& devices, std::uint8_t flag, ReportModeOutcome* outcome)
 {
-    ReportModeOutcome outcome;
-    return askDevices(devices, flag, outcome);
+    ReportModeOutcome unused;
+    ReportModeOutcome& noted = outcome == nullptr ? unused : *outcome;
+    std::int32_t result = -1;
+    // Of all tries together: without a result from any device, it counts as open.
+    std::int32_t opened = 0;
+    for (int pass = 1;;) {
+        std::unique_ptr<platform::UsbService> service = devices.next();
+        if (service == nullptr) {
+            std::fputs("Unable to find first matching USB device\n", stderr);
+            return -1;
+        }
+        noted.isFound = true;
+        int busy = 0;
+        for (; service != nullptr; service = devices.next()) {
+            if (const auto device = getUSBDevice(*service)) {
+                opened = openUSBDevice(*device, &noted);
+                if (opened == kHeldByAnother) {
+                    ++busy;
+                } else if (opened >= 0) {
+                    result = setReportMode(*device, flag);
+                    noted.requested = result;
+                }
+            }
+            if (opened >= 0) {
+                return 0;
+            }
+        }
+        if (busy == 0) {
+            return result;
+        }
+        platform::sleeper().sleepFor(std::chrono::seconds(1));
+        devices.reset();
+        if (++pass > kPasses) {
+            return result;
+        }
+    }
 }
 
 std::unique_ptr<platform::UsbDeviceInterface> getUSBDevice(const platform::UsbService& service)
@@ -204,10 +172,28 @@ std::unique_ptr<platform::UsbDeviceInterface> getUSBDevice(const platform::UsbSe
     return device;
 }
 
-std::int32_t openUSBDevice(platform::UsbDeviceInterface& device)
+std::int32_t openUSBDevice(platform::UsbDeviceInterface& device, ReportModeOutcome* outcome)
 {
-    ReportModeOutcome outcome;
-    return openDevice(device, outcome);
+    ReportModeOutcome unused;
+    ReportModeOutcome& noted = outcome == nullptr ? unused : *outcome;
+    std::uint8_t configurations = 0;
+    platform::UsbConfigurationDescriptor configuration{};
+    const platform::IOReturn counted = device.getNumberOfConfigurations(configurations);
+    noted.configurations = configurations;
+    if (counted != platform::kIOReturnSuccess || configurations != 1
+        || device.getConfigurationDescriptor(0, configuration) != platform::kIOReturnSuccess) {
+        return kNotOpened;
+    }
+    const platform::IOReturn error = device.open();
+    noted.opened = error;
+    if (error == platform::kIOReturnExclusiveAccess) {
+        return kHeldByAnother;
+    }
+    if (error == platform::kIOReturnNotPermitted) {
+        qCWarning(lcClient,
+            "no permission to open the tablet; the udev rule 60-quorvia-tablet.rules grants it");
+    }
+    return error == platform::kIOReturnSuccess ? configuration.bConfigurationValue : kNotOpened;
 }
 
 std::int32_t useUSBDevice(platform::UsbDeviceInterface& device, std::uint8_t configuration)

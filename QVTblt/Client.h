@@ -71,8 +71,10 @@ ReportModeOutcome requestReportMode(std::uint8_t flag, std::uint16_t productID);
  *
  * @return 0 if a device was opened and sent the request, -1 if there was none, or none could be
  *     opened. Also 0, with nothing sent, if the first device returns no interface
+ * @param outcome takes how far it came, if not null
  */
-std::int32_t iterateDevices(platform::UsbIterator& devices, std::uint8_t flag);
+std::int32_t iterateDevices(
+    platform::UsbIterator& devices, std::uint8_t flag, ReportModeOutcome* outcome = nullptr);
 
 /** Returns a device to be opened; null, with a diagnostic, if the service is not a device. */
 std::unique_ptr<platform::UsbDeviceInterface> getUSBDevice(const platform::UsbService& service);
@@ -82,7 +84,8 @@ std::unique_ptr<platform::UsbDeviceInterface> getUSBDevice(const platform::UsbSe
  *
  * @return its bConfigurationValue; -2 if another program holds it, -1 for any other reason
  */
-std::int32_t openUSBDevice(platform::UsbDeviceInterface& device);
+std::int32_t openUSBDevice(
+    platform::UsbDeviceInterface& device, ReportModeOutcome* outcome = nullptr);
 
 // A variant of the request through one of the device's interfaces.
 
