@@ -3,6 +3,7 @@
 #include "QVConfigEntry.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <limits>
 #include <string_view>
@@ -136,21 +137,21 @@ bool QVWriteEntry(const platform::MutableDictionary& dictionary, const QVEntry& 
             return false;
         }
         dictionary.setString(entry.key, text);
-        return true;
+        break;
     }
     case QVFieldType::UInt16:
         // The file has always had signed numbers here: 40000 is stored as -25536.
         dictionary.setInteger(entry.key, load<std::int16_t>(entry, record));
-        return true;
+        break;
     case QVFieldType::Boolean:
         dictionary.setBoolean(entry.key, QVFieldNumber(entry, record) != 0);
-        return true;
+        break;
     case QVFieldType::Int16:
     case QVFieldType::UInt32:
         dictionary.setInteger(entry.key, QVFieldNumber(entry, record));
-        return true;
+        break;
     }
-    return false;
+    return true;
 }
 
 std::int64_t QVFieldNumber(const QVEntry& entry, const tagQVTabletInfo& record)
@@ -180,21 +181,7 @@ std::string QVFieldText(const QVEntry& entry, const tagQVTabletInfo& record)
 
 const char* QVKindName(platform::EntryKind kind)
 {
-    switch (kind) {
-    case platform::EntryKind::Absent:
-        return "nothing";
-    case platform::EntryKind::Number:
-        return "a number";
-    case platform::EntryKind::String:
-        return "a string";
-    case platform::EntryKind::Dictionary:
-        return "a dictionary";
-    case platform::EntryKind::Array:
-        return "an array";
-    case platform::EntryKind::Data:
-        return "data";
-    case platform::EntryKind::Date:
-        return "a date";
-    }
-    return "nothing";
+    constexpr std::array kNames{
+        "nothing", "a number", "a string", "a dictionary", "an array", "data", "a date"};
+    return kNames.at(static_cast<std::size_t>(kind));
 }

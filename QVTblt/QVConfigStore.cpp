@@ -23,14 +23,16 @@ Q_LOGGING_CATEGORY(lcStore, "org.quorvia.tablet.store", QtInfoMsg)
 
 constexpr const char* kConfigFolder = "~/Library/Preferences/QuorviaTablet/config/";
 
-/** Whether there is such a slot; logs an invalid one. */
-bool isSlot(std::int32_t i)
+constexpr auto kSlots = static_cast<std::int32_t>(kQVSlotCount);
+
+/** The key of a slot; null, with a message in the log, if there is no such slot. */
+const char* slotKey(std::int32_t i)
 {
-    if (i >= 0 && i < static_cast<std::int32_t>(kQVSlotCount)) {
-        return true;
+    if (i >= 0 && i < kSlots) {
+        return kQVSlotKeys[static_cast<std::size_t>(i)];
     }
     qCWarning(lcStore, "there is no key slot %d", i);
-    return false;
+    return nullptr;
 }
 
 /** Copies the entries of one dictionary; logs those that exist but do not fit. */
@@ -79,10 +81,9 @@ void mapSingleDisplay()
         return;
     }
     const std::optional<std::vector<platform::DisplayID>> active = displays.activeDisplays();
-    if (!active || active->empty()) {
-        return;
+    if (active && !active->empty()) {
+        QVSetMappedArea(qvTabletInfo, displays.bounds(active->front()));
     }
-    QVSetMappedArea(qvTabletInfo, displays.bounds(active->front()));
 }
 
 /** Whether the driver has given a file name. Without one, the path is just the folder. */
@@ -110,11 +111,6 @@ constexpr std::array kNotChosen{offsetof(tagQVTabletInfo, Monitor.disableFlag),
     offsetof(tagQVTabletInfo, Monitor.YOrg), offsetof(tagQVTabletInfo, Monitor.Height)};
 
 } // namespace
-
-QVConfigStore::QVConfigStore()
-    : mInFile(qvTabletInfo)
-{
-}
 
 std::string QVConfigStore::configPath()
 {
@@ -161,7 +157,9 @@ bool QVConfigStore::hasUnsavedFields() const
     return std::ranges::any_of(kQVEntries, [this](const QVEntry& entry) {
         return entry.section->saved
             && std::ranges::find(kNotChosen, entry.offset) == kNotChosen.end()
-            && QVFieldText(entry, qvTabletInfo) != QVFieldText(entry, mInFile);
+            && (entry.type == QVFieldType::String
+                    ? QVFieldText(entry, qvTabletInfo) != QVFieldText(entry, mInFile)
+                    : QVFieldNumber(entry, qvTabletInfo) != QVFieldNumber(entry, mInFile));
     });
 }
 
@@ -171,7 +169,11 @@ platform::Result<platform::PropertyList> QVConfigStore::loadRecord(
     platform::Result<platform::PropertyList> list = platform::PropertyList::load(path, source);
     if (list) {
         for (const QVSection* const section : kQVSections) {
-            readSection(dictionaryIn(list->root(), section->key), *section);
+            const platform::Dictionary dictionary = dictionaryIn(list->root(), section->key);
+            readEntries(dictionary, section->key, QVEntriesOf(*section));
+            for (std::int32_t slot = 0; section->hasSlots && slot < kSlots; ++slot) {
+                GetSubKeyInfo(slot, dictionaryIn(dictionary, slotKey(slot)));
+            }
         }
     }
     return list;
@@ -185,50 +187,30 @@ platform::Result<> QVConfigStore::saveRecord(const std::string& path)
     }
     for (const QVSection* const section : kQVSections) {
         const platform::MutableDictionary dictionary = list->root().dictionary(section->key);
-        if (section->saved && dictionary.exists()) {
-            writeSection(dictionary, *section);
+        if (!section->saved || !dictionary.exists()) {
+            continue;
+        }
+        writeEntries(dictionary, section->key, QVEntriesOf(*section));
+        for (std::int32_t slot = 0; section->hasSlots && slot < kSlots; ++slot) {
+            const platform::MutableDictionary object = dictionary.dictionary(slotKey(slot));
+            if (object.exists()) {
+                SetSubKeyInfo(slot, object);
+            }
         }
     }
     return list->save(path);
 }
 
-void QVConfigStore::readSection(const platform::Dictionary& dictionary, const QVSection& section)
-{
-    readEntries(dictionary, section.key, QVEntriesOf(section));
-    for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
-        const platform::Dictionary object = dictionaryIn(dictionary, kQVSlotKeys[slot]);
-        if (object.exists()) {
-            GetSubKeyInfo(static_cast<std::int32_t>(slot), object);
-        }
-    }
-}
-
-void QVConfigStore::writeSection(
-    const platform::MutableDictionary& dictionary, const QVSection& section)
-{
-    writeEntries(dictionary, section.key, QVEntriesOf(section));
-    for (std::size_t slot = 0; section.hasSlots && slot < kQVSlotCount; ++slot) {
-        const platform::MutableDictionary object = dictionary.dictionary(kQVSlotKeys[slot]);
-        if (object.exists()) {
-            SetSubKeyInfo(static_cast<std::int32_t>(slot), object);
-        }
-    }
-}
-
 void QVConfigStore::GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object)
 {
-    if (!isSlot(i)) {
-        return;
+    if (const char* const slot = slotKey(i)) {
+        readEntries(object, slot, QVEntriesOf(kQVKeySection, slot));
     }
-    const char* const slot = kQVSlotKeys[static_cast<std::size_t>(i)];
-    readEntries(object, slot, QVEntriesOf(kQVKeySection, slot));
 }
 
 void QVConfigStore::SetSubKeyInfo(std::int32_t i, const platform::MutableDictionary& object)
 {
-    if (!isSlot(i)) {
-        return;
+    if (const char* const slot = slotKey(i)) {
+        writeEntries(object, slot, QVEntriesOf(kQVKeySection, slot));
     }
-    const char* const slot = kQVSlotKeys[static_cast<std::size_t>(i)];
-    writeEntries(object, slot, QVEntriesOf(kQVKeySection, slot));
 }

@@ -4,7 +4,7 @@
 
 #include "PropertyList.h"
 #include "QVTabletFields.h"
-#include "tagQVTabletInfo.h"
+#include "rzkApplication.h"
 
 #include <QLatin1String>
 
@@ -31,8 +31,6 @@ inline constexpr QLatin1String kConfigNotSavedNotification("kConfigNotSavedNotif
  */
 class QVConfigStore {
 public:
-    QVConfigStore();
-
     /**
      * Loads the file into the record. Fields whose entry is missing or has a wrong type keep their
      * value. With a single display, the mapped area is that display, whatever the file says.
@@ -75,8 +73,5 @@ public:
     platform::Result<> saveRecord(const std::string& path);
 
 private:
-    void readSection(const platform::Dictionary& dictionary, const QVSection& section);
-    void writeSection(const platform::MutableDictionary& dictionary, const QVSection& section);
-
-    tagQVTabletInfo mInFile; ///< the record when it last matched the file
+    tagQVTabletInfo mInFile = qvTabletInfo; ///< the record when it last matched the file
 };
