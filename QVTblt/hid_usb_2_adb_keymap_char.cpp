@@ -2,20 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "hid_usb_2_adb_keymap_char.h"
 
+#include <algorithm>
+
 namespace {
 
-/** The name of the first entry with that code; empty if there is none. */
+/** The name of the first entry with that code, so "A" for 0; empty if there is none. */
 std::u16string_view nameOf(std::uint8_t code)
 {
-    for (const QVKeyName& key : hid_usb_2_adb_keymap_char) {
-        if (key.isEnd()) {
-            break;
-        }
-        if (key.code == code) {
-            return key.name;
-        }
-    }
-    return {};
+    const auto* const key = std::ranges::find(hid_usb_2_adb_keymap_char, code, &QVKeyName::code);
+    return key == hid_usb_2_adb_keymap_char.end() ? std::u16string_view() : key->name;
 }
 
 } // namespace

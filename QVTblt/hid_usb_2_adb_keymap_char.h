@@ -11,14 +11,11 @@
 struct QVKeyName {
     std::uint8_t code; ///< virtual key code, derived from the Apple Desktop Bus
     std::u16string_view name;
-
-    /** Whether this is the end of the table. The code is not enough: "A" also has 0. */
-    constexpr bool isEnd() const { return code == 0 && name.empty(); }
 };
 
 /**
- * The table of keys, in order, and its end marker. Files contain these codes, so they must not
- * change; "Ctrl" has 54, which elsewhere is the right Command key.
+ * The table of keys, in order, and its end marker, which has no name: "A" also has 0. Files contain
+ * these codes, so they must not change; "Ctrl" has 54, which elsewhere is the right Command key.
  */
 inline constexpr std::array<QVKeyName, 69> hid_usb_2_adb_keymap_char{{
     // Letters

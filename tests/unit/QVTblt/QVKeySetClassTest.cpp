@@ -81,7 +81,7 @@ TEST_F(KeySet, hasAButtonForEveryKeyOfTheTableUnderItsName)
     }
     EXPECT_EQ(buttons.size(), 68);
     for (const QVKeyName& key : hid_usb_2_adb_keymap_char) {
-        if (!key.isEnd()) {
+        if (!key.name.empty()) {
             const QString name = QString::fromUtf16(key.name.data(), int(key.name.size())) + u'/'
                 + QString::number(key.code);
             EXPECT_TRUE(found.contains(name)) << qPrintable(name);

@@ -36,12 +36,13 @@ TEST(KeyTable, holdsEveryKeyOnceAndItsEnd)
     std::set<std::u16string_view> names;
     for (std::size_t i = 0; i + 1 < hid_usb_2_adb_keymap_char.size(); ++i) {
         const QVKeyName& key = hid_usb_2_adb_keymap_char[i];
-        EXPECT_FALSE(key.isEnd());
+        EXPECT_FALSE(key.name.empty());
         EXPECT_TRUE(codes.insert(key.code).second) << int{key.code};
         EXPECT_TRUE(names.insert(key.name).second) << int{key.code};
     }
     EXPECT_EQ(codes.size(), 68U);
-    EXPECT_TRUE(hid_usb_2_adb_keymap_char.back().isEnd());
+    EXPECT_EQ(hid_usb_2_adb_keymap_char.back().code, 0);
+    EXPECT_TRUE(hid_usb_2_adb_keymap_char.back().name.empty());
 }
 
 TEST(KeyTable, hasItsCodesInTheirOrder)
