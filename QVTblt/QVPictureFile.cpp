@@ -17,12 +17,10 @@ std::optional<QString> QVPicturePath(const platform::Bundle& bundle, const QStri
 {
     const QString dark = isDark ? QStringLiteral("-dark") : QString();
     const QString dense = isDense ? QStringLiteral("@2x") : QString();
-    for (const QString& form : {dark + dense, dark, dense}) {
-        if (!form.isEmpty()) {
-            if (auto path = bundle.pathForResource(name + form, type)) {
-                return path;
-            }
+    for (const QString& form : {dark + dense, dark, dense, QString()}) {
+        if (auto path = bundle.pathForResource(name + form, type)) {
+            return path;
         }
     }
-    return bundle.pathForResource(name, type);
+    return std::nullopt;
 }
