@@ -58,6 +58,12 @@ QVTabletArea usedArea(const tagQVTabletInfo& info)
         info.Monitor.cTabletYmax};
 }
 
+/** The index of the chosen item; -1 if there is none. */
+int chosenIn(const QComboBox* list)
+{
+    return list == nullptr ? -1 : list->currentIndex();
+}
+
 /** A line one point wide with flat ends. */
 QPen linePen(const QColor& color)
 {
@@ -151,17 +157,12 @@ void QVMonitorView::setOutlets(
     }
 }
 
-int QVMonitorView::chosenItem() const
-{
-    return mComboBox.isNull() ? -1 : mComboBox->currentIndex();
-}
-
 void QVMonitorView::updateCalibrate()
 {
     if (mDoCalibrate.isNull()) {
         return;
     }
-    const bool hasOneDisplay = mDspCount == 1 || chosenItem() > 0;
+    const bool hasOneDisplay = mDspCount == 1 || chosenIn(mComboBox) > 0;
     const QString help = hasOneDisplay
         ? mCalibrateHelp
         : tr("Choose one display first: only one display can be calibrated at a time.");
@@ -173,11 +174,6 @@ void QVMonitorView::updateCalibrate()
     mDoCalibrate->setEnabled(hasOneDisplay);
     mDoCalibrate->setToolTip(help);
     mDoCalibrate->setAccessibleDescription(help);
-}
-
-void QVMonitorView::awakeFromNib()
-{
-    interrogateHardware();
 }
 
 void QVMonitorView::disableUI()
@@ -288,7 +284,7 @@ Rect QVMonitorView::drawMiniatures(QPainter& painter) const
         painter.setPen(Qt::black);
         drawLabel(painter, displayName(i), miniature);
     }
-    const int chosen = chosenItem();
+    const int chosen = chosenIn(mComboBox);
     if (mDspCount == 1) {
         return miniatures[0];
     }
@@ -311,7 +307,7 @@ QString QVMonitorView::spokenContents() const
                              .arg(displayName(i), number(display.width), number(display.height),
                                  number(display.x), number(display.y)));
     }
-    if (chosenItem() >= 0) {
+    if (chosenIn(mComboBox) >= 0) {
         //: Read by screen readers; %1 is an item of the display list, such as "Display #1".
         sentences.append(tr("The tablet is mapped to %1.").arg(mComboBox->currentText()));
     }
@@ -356,7 +352,7 @@ void QVMonitorView::drawRect(QPainter& painter, const Rect& dirty)
 
 void QVMonitorView::SelectMonitor()
 {
-    const int chosen = chosenItem();
+    const int chosen = chosenIn(mComboBox);
     pQVInfo->Monitor.num = static_cast<std::int16_t>(chosen);
     if (chosen == 0 && mDspCount > 1) {
         Rect all;
@@ -374,33 +370,19 @@ void QVMonitorView::SelectMonitor()
 
 void QVMonitorView::SelectSpeed()
 {
-    const auto productID = QVProductID(*pQVInfo);
-    switch (mComboBoxSpeed.isNull() ? -1 : mComboBoxSpeed->currentIndex()) {
-    case 0:
-        pQVInfo->Monitor.Speed = kFast;
-        controlUSBDev(kQVReportFast, productID);
-        break;
-    case 1:
-        pQVInfo->Monitor.Speed = kNormal;
-        controlUSBDev(kQVReportNormal, productID);
-        break;
-    default:
-        break;
+    const int chosen = chosenIn(mComboBoxSpeed);
+    if (chosen == 0 || chosen == 1) {
+        pQVInfo->Monitor.Speed = chosen == 0 ? kFast : kNormal;
+        controlUSBDev(chosen == 0 ? kQVReportFast : kQVReportNormal, QVProductID(*pQVInfo));
     }
     PushQVTabletInfo();
 }
 
 void QVMonitorView::SelectUseMode()
 {
-    switch (mComboBoxUseMode.isNull() ? -1 : mComboBoxUseMode->currentIndex()) {
-    case 0:
-        pQVInfo->Monitor.rotationFlag = kTurned;
-        break;
-    case 1:
-        pQVInfo->Monitor.rotationFlag = 0;
-        break;
-    default:
-        break;
+    const int chosen = chosenIn(mComboBoxUseMode);
+    if (chosen == 0 || chosen == 1) {
+        pQVInfo->Monitor.rotationFlag = chosen == 0 ? kTurned : std::int16_t{0};
     }
     PushQVTabletInfo();
 }
@@ -438,32 +420,29 @@ void QVMonitorView::CreateCalibrateWin(const Rect& rect)
 void QVMonitorView::DoCalibrate()
 {
     pQVInfo->Monitor.disableFlag = 1;
-    if (mDspCount == 1) {
-        CreateCalibrateWin(mSubMonitorRect[0]);
-        PushQVTabletInfo();
-        return;
+    Rect place = mSubMonitorRect[0];
+    if (mDspCount != 1) {
+        const int chosen = chosenIn(mComboBox);
+        if (chosen <= 0 || static_cast<std::size_t>(chosen) > mDisplays.size()) {
+            return; // only one display can be calibrated at a time
+        }
+        const auto index = static_cast<std::size_t>(chosen) - 1;
+        const auto isMain = [](platform::DisplayID display) {
+            return platform::displays().isMain(display);
+        };
+        const auto main = std::ranges::find_if(mDisplays, isMain);
+        if (main == mDisplays.end()) {
+            qCWarning(lcMonitor, "no display is the main one: the tablet cannot be calibrated");
+            pQVInfo->Monitor.disableFlag = 0;
+            return;
+        }
+        if (!isMain(mDisplays[index])) {
+            const Rect& m = mSubMonitorRect[static_cast<std::size_t>(main - mDisplays.begin())];
+            const Rect& s = mSubMonitorRect[index];
+            place = {s.x + m.x, (m.y + m.height) - (s.y + s.height), s.width, s.height};
+        }
     }
-    const int chosen = chosenItem();
-    if (chosen <= 0 || static_cast<std::size_t>(chosen) > mDisplays.size()) {
-        return; // only one display can be calibrated at a time
-    }
-    const auto index = static_cast<std::size_t>(chosen) - 1;
-    const platform::Displays& service = platform::displays();
-    if (service.isMain(mDisplays[index])) {
-        CreateCalibrateWin(mSubMonitorRect[0]);
-        PushQVTabletInfo();
-        return;
-    }
-    const auto main = std::ranges::find_if(
-        mDisplays, [&service](platform::DisplayID display) { return service.isMain(display); });
-    if (main == mDisplays.end()) {
-        qCWarning(lcMonitor, "no display is the main one: the tablet cannot be calibrated");
-        pQVInfo->Monitor.disableFlag = 0;
-        return;
-    }
-    const Rect& m = mSubMonitorRect[static_cast<std::size_t>(main - mDisplays.begin())];
-    const Rect& s = mSubMonitorRect[index];
-    CreateCalibrateWin({s.x + m.x, (m.y + m.height) - (s.y + s.height), s.width, s.height});
+    CreateCalibrateWin(place);
     PushQVTabletInfo();
 }
 

@@ -39,7 +39,7 @@ public:
     void setOutlets(QComboBox* displays, QComboBox* speed, QComboBox* useMode,
         QPushButton* calibrate = nullptr);
     /** Called when the interface file has been loaded. */
-    void awakeFromNib();
+    void awakeFromNib() { interrogateHardware(); }
 
     /** Reads the displays and fills their list: with two or more, "all displays" comes first. */
     void interrogateHardware();
@@ -106,7 +106,6 @@ private:
     /** @param rect in points from the main display's lower left corner, y growing upwards */
     void CreateCalibrateWin(const platform::Rect& rect);
     void readPicture();
-    int chosenItem() const;
     void updateCalibrate();
     void updatePicturePoints();
     void updateLists();
