@@ -184,18 +184,6 @@ void QVCalibrateView::setDrawEraseFlag(std::int32_t flag)
     setNeedsDisplay();
 }
 
-void QVCalibrateView::setColor(const QColor& color)
-{
-    fillColor = color;
-}
-
-std::int32_t QVCalibrateView::changenPointValue(std::int32_t delta)
-{
-    const std::int32_t before = nPoint;
-    nPoint += delta;
-    return before;
-}
-
 void QVCalibrateView::disableTablet(std::int16_t flag)
 {
     qvTabletInfo.Monitor.disableFlag = flag;
@@ -209,36 +197,11 @@ void QVCalibrateView::setQVTabletRectInfo(
     PushQVTabletInfo();
 }
 
-std::uint16_t QVCalibrateView::getQVTabletRectInfoXmin() const
-{
-    return qvTabletInfo.Monitor.cTabletXmin;
-}
-
-std::uint16_t QVCalibrateView::getQVTabletRectInfoXmax() const
-{
-    return qvTabletInfo.Monitor.cTabletXmax;
-}
-
-std::uint16_t QVCalibrateView::getQVTabletRectInfoYmin() const
-{
-    return qvTabletInfo.Monitor.cTabletYmin;
-}
-
-std::uint16_t QVCalibrateView::getQVTabletRectInfoYmax() const
-{
-    return qvTabletInfo.Monitor.cTabletYmax;
-}
-
 void QVCalibrateView::askAboutArea(const QVTabletArea& before)
 {
     if (!mAreaBefore) { // otherwise the last question was not answered
         mAreaBefore = before;
     }
-}
-
-void QVCalibrateView::keepArea()
-{
-    mAreaBefore.reset();
 }
 
 void QVCalibrateView::stop()
@@ -251,22 +214,19 @@ void QVCalibrateView::stop()
 
 QString QVCalibrateView::spokenContents() const
 {
-    switch (drawflag) {
-    case kDrawCross:
+    static constexpr std::array kCrossTexts{
         //: Read by screen readers: the cross to touch next, of four in the corners of the display.
-        return tr("Cross 1 of 4, at the upper left.");
-    case kDrawCross + 1:
+        QT_TR_NOOP("Cross 1 of 4, at the upper left."),
         //: Read by screen readers: the cross to touch next, of four in the corners of the display.
-        return tr("Cross 2 of 4, at the upper right.");
-    case kDrawCross + 2:
+        QT_TR_NOOP("Cross 2 of 4, at the upper right."),
         //: Read by screen readers: the cross to touch next, of four in the corners of the display.
-        return tr("Cross 3 of 4, at the lower right.");
-    case kDrawCross + 3:
+        QT_TR_NOOP("Cross 3 of 4, at the lower right."),
         //: Read by screen readers: the cross to touch next, of four in the corners of the display.
-        return tr("Cross 4 of 4, at the lower left.");
-    default:
-        return {};
-    }
+        QT_TR_NOOP("Cross 4 of 4, at the lower left."),
+    };
+    const auto cross =
+        static_cast<std::size_t>(drawflag - kDrawCross); // a negative one is too large
+    return cross < kCrossTexts.size() ? tr(kCrossTexts[cross]) : QString();
 }
 
 void QVCalibrateView::drawRect(QPainter& painter, const Rect& dirty)

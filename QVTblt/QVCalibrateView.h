@@ -5,11 +5,13 @@
 #include "AppleEvents.h"
 #include "PaneView.h"
 #include "QVMonitorGeometry.h"
+#include "rzkApplication.h"
 
 #include <QColor>
 
 #include <cstdint>
 #include <optional>
+#include <utility>
 
 /**
  * The contents of the calibration window: a hint, and one cross at a time near each corner, to be
@@ -35,20 +37,23 @@ public:
     /** Shows or erases a cross; other values show none. */
     void setDrawEraseFlag(std::int32_t flag);
     /** Sets the background colour. */
-    void setColor(const QColor& color);
+    void setColor(const QColor& color) { fillColor = color; }
 
     /** Adds to the number of accepted points. @return the previous number */
-    std::int32_t changenPointValue(std::int32_t delta);
+    std::int32_t changenPointValue(std::int32_t delta)
+    {
+        return std::exchange(nPoint, nPoint + delta);
+    }
 
     /** Tells the driver whether a calibration is collecting points. */
     void disableTablet(std::int16_t flag);
     /** Sets the used part of the tablet, and pushes it. */
     void setQVTabletRectInfo(
         std::uint16_t xmin, std::uint16_t xmax, std::uint16_t ymin, std::uint16_t ymax);
-    std::uint16_t getQVTabletRectInfoXmin() const;
-    std::uint16_t getQVTabletRectInfoXmax() const;
-    std::uint16_t getQVTabletRectInfoYmin() const;
-    std::uint16_t getQVTabletRectInfoYmax() const;
+    std::uint16_t getQVTabletRectInfoXmin() const { return qvTabletInfo.Monitor.cTabletXmin; }
+    std::uint16_t getQVTabletRectInfoXmax() const { return qvTabletInfo.Monitor.cTabletXmax; }
+    std::uint16_t getQVTabletRectInfoYmin() const { return qvTabletInfo.Monitor.cTabletYmin; }
+    std::uint16_t getQVTabletRectInfoYmax() const { return qvTabletInfo.Monitor.cTabletYmax; }
 
     /**
      * Notes that the driver has a new area, and the user is asked whether to keep it. Until
@@ -56,7 +61,7 @@ public:
      */
     void askAboutArea(const QVTabletArea& before);
     /** Notes that the user has decided. */
-    void keepArea();
+    void keepArea() { mAreaBefore.reset(); }
     /**
      * Ends the calibration: ignores further reports, and restores an area that the user has not
      * confirmed, only in the record.
