@@ -19,37 +19,27 @@ namespace {
 
 constexpr double kOpacity = 0.7;
 
-/** Keys by their position on the keyboard, independent of the layout. */
-enum class PlacedKey { S, E, Escape, Other };
-
 /**
- * The window system's key codes are the kernel's plus eight. Escape also counts by its meaning:
- * some keyboards have it elsewhere, and the window covers everything.
+ * The key by its position on the keyboard, independent of the layout. The window system's key codes
+ * are the kernel's plus eight. Escape also counts by its meaning: some keyboards have it elsewhere,
+ * and the window covers everything.
  */
-PlacedKey placedKey(const QKeyEvent& event)
+int placedKey(const QKeyEvent& event)
 {
     if (event.key() == Qt::Key_Escape) {
-        return PlacedKey::Escape;
+        return Qt::Key_Escape;
     }
     switch (event.nativeScanCode()) {
     case 0: // not from a real keyboard
-        break;
+        return event.key();
     case 9:
-        return PlacedKey::Escape;
+        return Qt::Key_Escape;
     case 26:
-        return PlacedKey::E;
+        return Qt::Key_E;
     case 39:
-        return PlacedKey::S;
+        return Qt::Key_S;
     default:
-        return PlacedKey::Other;
-    }
-    switch (event.key()) {
-    case Qt::Key_E:
-        return PlacedKey::E;
-    case Qt::Key_S:
-        return PlacedKey::S;
-    default:
-        return PlacedKey::Other;
+        return Qt::Key_unknown;
     }
 }
 
@@ -107,20 +97,10 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     activateWindow();
 }
 
-void QVCalibrateWin::sethCalibrateWin(QWidget* window)
-{
-    mCalibrateWin = window;
-}
-
-bool QVCalibrateWin::isChildOfMainWindow() const
-{
-    return !mMainWindow.isNull() && !mCalibrateWin.isNull()
-        && mCalibrateWin->parentWidget() == mMainWindow;
-}
-
 bool QVCalibrateWin::endCalibration(bool pushes)
 {
-    if (!isChildOfMainWindow()) {
+    if (mMainWindow.isNull() || mCalibrateWin.isNull()
+        || mCalibrateWin->parentWidget() != mMainWindow) {
         return false;
     }
     mView->stop();
@@ -135,11 +115,10 @@ bool QVCalibrateWin::endCalibration(bool pushes)
 
 void QVCalibrateWin::removeAndClose()
 {
-    const QPointer<QWidget> calibration = mCalibrateWin;
     mMainWindow.clear();
     mView->stop();
-    if (!calibration.isNull()) {
-        calibration->close();
+    if (!mCalibrateWin.isNull()) {
+        mCalibrateWin->close();
     }
 }
 
@@ -160,20 +139,12 @@ void QVCalibrateWin::closeEvent(QCloseEvent* event)
 
 void QVCalibrateWin::keyPressEvent(QKeyEvent* event)
 {
-    switch (placedKey(*event)) {
-    case PlacedKey::S:
+    const int key = placedKey(*event);
+    if (key == Qt::Key_S) {
         mView->setDrawEraseFlag(QVCalibrateView::kDrawCross);
-        return;
-    case PlacedKey::E:
+    } else if (key == Qt::Key_E) {
         mView->setDrawEraseFlag(QVCalibrateView::kEraseCross);
-        return;
-    case PlacedKey::Escape:
-        if (endCalibration()) {
-            return;
-        }
-        break;
-    case PlacedKey::Other:
-        break;
+    } else if (key != Qt::Key_Escape || !endCalibration()) {
+        QWidget::keyPressEvent(event);
     }
-    QWidget::keyPressEvent(event);
 }

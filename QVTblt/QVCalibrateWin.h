@@ -28,7 +28,7 @@ public:
     QVCalibrateWin(const platform::Rect& contentRect, QWidget* mainWindow);
 
     /** Sets the window that Escape closes: this one. */
-    void sethCalibrateWin(QWidget* window);
+    void sethCalibrateWin(QWidget* window) { mCalibrateWin = window; }
 
     /**
      * Ends the calibration, like Escape: restores an area that the user has not confirmed, clears
@@ -52,8 +52,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    bool isChildOfMainWindow() const;
-
     QVCalibrateView* mView;
     QPointer<QWidget> mCalibrateWin;
     QPointer<QWidget> mMainWindow;
