@@ -11,46 +11,41 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
+#include <algorithm>
+#include <array>
+
 namespace {
 
-/** The initial text of an item. */
+/** The initial texts of the items, in their order. */
+constexpr std::array kTextsAtFirst{
+    //: Action of a tablet key; must fit into the narrow lists of the key page.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "No action"),
+    //: Action of a tablet key; must fit into the narrow lists of the key page.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "Left mouse button"),
+    //: Action of a tablet key; must fit into the narrow lists of the key page.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "Right mouse button"),
+    //: Action of a tablet key; must fit into the narrow lists of the key page.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "Middle mouse button"),
+    //: The mouse button that goes back, as in a browser; must fit into a narrow list.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "Back mouse button"),
+    //: Action of a tablet key, which asks for the application; must fit into a narrow list.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "Open an application…"),
+    //: Action of a tablet key, which asks for keys of the keyboard; must fit into a narrow
+    //: list.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "Press keys…"),
+    //: Action of a tablet key; must fit into the narrow lists of the key page.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "Go to the next display"),
+    //: Slows the pointer down while the key is held; must fit into a narrow list.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "Move finely while held"),
+    //: Action of a tablet key; must fit into the narrow lists of the key page.
+    QT_TRANSLATE_NOOP("QVKeyComboBox", "Pause the tablet"),
+};
+
+/** The initial text of an item; empty without an item. */
 QString textAtFirst(int item)
 {
-    switch (item) {
-    case QVKeyComboBox::NoAction:
-        //: Action of a tablet key; must fit into the narrow lists of the key page.
-        return QVKeyComboBox::tr("No action");
-    case QVKeyComboBox::LeftButton:
-        //: Action of a tablet key; must fit into the narrow lists of the key page.
-        return QVKeyComboBox::tr("Left mouse button");
-    case QVKeyComboBox::RightButton:
-        //: Action of a tablet key; must fit into the narrow lists of the key page.
-        return QVKeyComboBox::tr("Right mouse button");
-    case QVKeyComboBox::MiddleButton:
-        //: Action of a tablet key; must fit into the narrow lists of the key page.
-        return QVKeyComboBox::tr("Middle mouse button");
-    case QVKeyComboBox::BackButton:
-        //: The mouse button that goes back, as in a browser; must fit into a narrow list.
-        return QVKeyComboBox::tr("Back mouse button");
-    case QVKeyComboBox::Application:
-        //: Action of a tablet key, which asks for the application; must fit into a narrow list.
-        return QVKeyComboBox::tr("Open an application…");
-    case QVKeyComboBox::KeyCombination:
-        //: Action of a tablet key, which asks for keys of the keyboard; must fit into a narrow
-        //: list.
-        return QVKeyComboBox::tr("Press keys…");
-    case QVKeyComboBox::NextDisplay:
-        //: Action of a tablet key; must fit into the narrow lists of the key page.
-        return QVKeyComboBox::tr("Go to the next display");
-    case QVKeyComboBox::FinePositioning:
-        //: Slows the pointer down while the key is held; must fit into a narrow list.
-        return QVKeyComboBox::tr("Move finely while held");
-    case QVKeyComboBox::PauseTablet:
-        //: Action of a tablet key; must fit into the narrow lists of the key page.
-        return QVKeyComboBox::tr("Pause the tablet");
-    default:
-        return {};
-    }
+    const auto index = static_cast<std::size_t>(item); // a negative one is too large
+    return index < kTextsAtFirst.size() ? QVKeyComboBox::tr(kTextsAtFirst[index]) : QString();
 }
 
 /** An item's text as drawn: on one line, and never empty. */
@@ -132,17 +127,9 @@ bool isPrintable(const QKeyEvent& event)
 /** Whether the key would normally choose another item of a closed box at once. */
 bool wouldChoose(const QKeyEvent& event)
 {
-    switch (event.key()) {
-    case Qt::Key_Up:
-    case Qt::Key_Down:
-    case Qt::Key_PageUp:
-    case Qt::Key_PageDown:
-    case Qt::Key_Home:
-    case Qt::Key_End:
-        return true;
-    default:
-        return isPrintable(event);
-    }
+    constexpr std::array<int, 6> kMoves{
+        Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
+    return std::ranges::find(kMoves, event.key()) != kMoves.end() || isPrintable(event);
 }
 
 } // namespace
