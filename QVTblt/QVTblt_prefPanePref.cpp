@@ -57,8 +57,6 @@ QWidget* QVTblt_prefPanePref::makeMainView()
     auto view = std::make_unique<QVNSView>();
     setupUi(view.get());
     mNoDevTitleX = platform::frame(*NoDevTitle).x;
-    mLaidOutProduct.reset();
-    mEnabledAtFirst.clear();
     connect(view.get(), &QVNSView::resized, this, &QVTblt_prefPanePref::placeNoDevice);
     setUpKeyPage();
     setUpPenPage();

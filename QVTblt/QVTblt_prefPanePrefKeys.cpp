@@ -90,13 +90,6 @@ void tint(QVKeyComboBox& box)
     box.setPalette(palette);
 }
 
-void hide(std::span<QVKeyComboBox* const> boxes)
-{
-    for (QVKeyComboBox* const box : boxes) {
-        box->hide();
-    }
-}
-
 /** Shows a strip's field in its box. A strip is on if its field is 0. */
 void showStrip(QCheckBox& box, std::int16_t field)
 {
@@ -184,7 +177,7 @@ void QVTblt_prefPanePref::restoreKeyPage()
 void QVTblt_prefPanePref::InitComboBoxWithKey()
 {
     const auto productID = QVProductID(qvTabletInfo);
-    hide(std::span(mSlotBoxes).subspan<kBankSize, kBankSize>());
+    std::ranges::for_each(std::span(mSlotBoxes).subspan<kBankSize, kBankSize>(), &QWidget::hide);
     mKeyRScroll->hide();
     keyFrame_org = platform::frame(*mKey1_1);
     keyFrame_org_scroll_l = platform::frame(*mKeyLScroll);
@@ -192,13 +185,10 @@ void QVTblt_prefPanePref::InitComboBoxWithKey()
     layOutKeyPage(productID);
     mLaidOutProduct = productID;
 
-    for (std::size_t slot = 0; slot < kQVUpperPenSlot; ++slot) {
+    for (std::size_t slot = 0; slot < kQVSlotCount; ++slot) {
         InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
     }
     showStrip(*mKeyLScroll, qvTabletInfo.Key.Scrollbar0);
-    for (std::size_t slot = kQVUpperPenSlot; slot < kQVSlotCount; ++slot) {
-        InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
-    }
     showStrip(*mKeyRScroll, qvTabletInfo.Key.Scrollbar1);
 }
 
@@ -219,7 +209,7 @@ void QVTblt_prefPanePref::layOutKeyPage(std::uint16_t productID)
         mMonitorSpeed->setEnabled(false);
         [[fallthrough]];
     case QVKeyLayout::D:
-        hide(bank.subspan(4));
+        std::ranges::for_each(bank.subspan(4), &QWidget::hide);
         mKeyLScroll->hide();
         penKeyLower->setEnabled(false);
         moveColumn(bank, 5.0, -65.0, std::array{45.0, 90.0, 135.0});
@@ -229,7 +219,7 @@ void QVTblt_prefPanePref::layOutKeyPage(std::uint16_t productID)
         mKeyLScroll->hide();
         penKeyLower->setEnabled(false);
         moveColumn(bank, 45.0, -50.0, std::array{45.0, 90.0, 135.0, 180.0});
-        hide(bank.subspan(5));
+        std::ranges::for_each(bank.subspan(5), &QWidget::hide);
         disable(bank.subspan(5));
         mScrollSpeed->setEnabled(false);
         break;
@@ -240,7 +230,7 @@ void QVTblt_prefPanePref::layOutKeyPage(std::uint16_t productID)
         mKeyLScroll->hide();
         // The wider gaps separate the middle key, as on the tablet.
         moveColumn(bank, 45.0, -40.0, std::array{30.0, 60.0, 100.0, 140.0, 170.0, 200.0});
-        hide(bank.subspan(7));
+        std::ranges::for_each(bank.subspan(7), &QWidget::hide);
         mScrollSpeed->setEnabled(false);
         break;
     case QVKeyLayout::G: {
