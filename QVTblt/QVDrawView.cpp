@@ -58,11 +58,6 @@ QVDrawView::QVDrawView(QWidget* parent)
     setAttribute(Qt::WA_OpaquePaintEvent); // its background is opaque
 }
 
-void QVDrawView::setOutlets(QLabel* rawTabletPressure)
-{
-    txtRawTabletPressure = rawTabletPressure;
-}
-
 void QVDrawView::awakeFromNib()
 {
     setCaptureMouseMoves(mCapturesMouseMoves);
@@ -74,11 +69,6 @@ void QVDrawView::setCaptureMouseMoves(bool captures)
 {
     mCapturesMouseMoves = captures;
     setAcceptsMouseMovedEvents(captures);
-}
-
-void QVDrawView::doClean()
-{
-    setNeedsDisplay();
 }
 
 void QVDrawView::drawRect(QPainter& painter, const platform::Rect& dirty)
@@ -128,16 +118,6 @@ void QVDrawView::drawWaiting(const Event& event)
     }
     showPressure(mDrawnPressure);
     flushWindow();
-}
-
-void QVDrawView::mouseUp(const Event& event)
-{
-    handleMouseEvent(event);
-}
-
-void QVDrawView::mouseMoved(const Event& event)
-{
-    handleMouseEvent(event);
 }
 
 void QVDrawView::mouseDragged(const Event& event)

@@ -26,7 +26,7 @@ public:
     /**
      * Sets the label that shows the pressure, 0 to 65535 with two decimals; before awakeFromNib().
      */
-    void setOutlets(QLabel* rawTabletPressure);
+    void setOutlets(QLabel* rawTabletPressure) { txtRawTabletPressure = rawTabletPressure; }
     /** Called when the interface file has been loaded. */
     void awakeFromNib();
 
@@ -60,7 +60,7 @@ public:
     bool mUpdateStatsDuringDrag() const { return mUpdatesStatsDuringDrag; }
 
     /** Clears the pad. */
-    void doClean();
+    void doClean() { setNeedsDisplay(); }
 
     /** Describes the shown pressure. */
     QString spokenContents() const override;
@@ -69,8 +69,8 @@ public:
     void handleProximity(const platform::Notification& notification);
 
     void mouseDown(const platform::Event& event) override;
-    void mouseUp(const platform::Event& event) override;
-    void mouseMoved(const platform::Event& event) override;
+    void mouseUp(const platform::Event& event) override { handleMouseEvent(event); }
+    void mouseMoved(const platform::Event& event) override { handleMouseEvent(event); }
     void mouseDragged(const platform::Event& event) override;
     void tabletPoint(const platform::Event& event) override;
     void trackEvents() override;

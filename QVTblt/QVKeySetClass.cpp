@@ -58,11 +58,6 @@ QVKeySetClass::QVKeySetClass(QWidget* parent)
 
 QVKeySetClass::~QVKeySetClass() = default;
 
-void QVKeySetClass::showWindow()
-{
-    show();
-}
-
 void QVKeySetClass::QVShowWindow(QVKeyComboBox* comboBox)
 {
     mComboBox = comboBox;

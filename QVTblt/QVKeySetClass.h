@@ -30,7 +30,7 @@ public:
     ~QVKeySetClass() override;
 
     /** Shows the window without waiting for the user. */
-    void showWindow();
+    void showWindow() { show(); }
     /** Clears the dialog for the box, without showing it. */
     void QVShowWindow(QVKeyComboBox* comboBox);
 

@@ -125,11 +125,6 @@ void QVPressView::InitPoint()
     m_pt.back() = {static_cast<double>(m_pt.size()), static_cast<double>(m_pt.size())};
 }
 
-void QVPressView::SetPoint(int value)
-{
-    m_pt = QVPressCurve(value);
-}
-
 void QVPressView::AdjustPressLine(const QSlider* sender)
 {
     const int threshold = sender->value() / kSliderSteps; // truncated toward zero

@@ -36,7 +36,7 @@ public:
     /** Copies the slider's value to the record and pushes it. */
     void AdjustPressLine(const QSlider* sender);
     /** Computes the curve of a threshold. */
-    void SetPoint(int value);
+    void SetPoint(int value) { m_pt = QVPressCurve(value); }
     /** Computes a falling line as the curve; not used. */
     void InitPoint();
 

@@ -265,8 +265,3 @@ void QVTblt_prefPanePref::CancelSet()
     ReadQVConfigPlist();
     PushQVTabletInfo();
 }
-
-void QVTblt_prefPanePref::send()
-{
-    PushQVTabletInfo();
-}

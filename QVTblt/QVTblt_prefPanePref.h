@@ -3,6 +3,7 @@
 #pragma once
 
 #include "Bundle.h"
+#include "Client.h"
 #include "Geometry.h"
 #include "PreferencePane.h"
 #include "QVConfigStore.h"
@@ -54,7 +55,7 @@ public:
     /** Takes up to a quarter of a second. */
     Device checkDevice() override;
     bool hasDevice() const override;
-    void send() override;
+    void send() override { PushQVTabletInfo(); }
 
     /** Saves the record to its file and pushes it. */
     void SaveSet();
