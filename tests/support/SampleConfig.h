@@ -44,9 +44,9 @@ inline QByteArray sampleConfig()
     text += "</dict>";
     section("Key", {"Scrollbar0", "Scrollbar1", "ScrollSpeed"});
     for (int slot = 0; slot < static_cast<int>(kQVSlotCount); ++slot) {
-        const QByteArray name = slot == 16 ? "penKeyU"
-            : slot == 17                   ? "penKeyL"
-                                           : "Key" + QByteArray::number(slot);
+        const QByteArray name = slot == int{kQVUpperPenSlot} ? "penKeyU"
+            : slot == int{kQVLowerPenSlot}                   ? "penKeyL"
+                                                             : "Key" + QByteArray::number(slot);
         text += "<key>" + name + "</key><dict>";
         for (const auto& [key, first] : {std::pair("Valid", 100), {"Mouse", 200}, {"Key", 300}}) {
             text += QByteArray("<key>") + key + "</key><integer>" + QByteArray::number(first + slot)

@@ -122,7 +122,7 @@ TEST_F(KeySet, threeKeysAreStoredAndShown)
     click({"Ctrl", "Shift", "Z"});
     EXPECT_EQ(text(), QStringLiteral("Ctrl  Shift  Z"));
     press("okBtn");
-    EXPECT_EQ(+slot().Valid, 3);
+    EXPECT_EQ(+slot().Valid, kQVKeyCombination);
     EXPECT_EQ(+slot().Key, 0x03063836U);
     EXPECT_EQ(mBox.committed(), 256);
     EXPECT_EQ(mBox.currentIndex(), 6);
@@ -202,7 +202,7 @@ TEST_F(KeySet, aNumberBelowZeroIsStoredAsItIs)
 {
     mDialog.DeleteOneSet();
     mDialog.SaveKeyData();
-    EXPECT_EQ(+slot().Valid, 3);
+    EXPECT_EQ(+slot().Valid, kQVKeyCombination);
     EXPECT_EQ(+slot().Key, 0xFF000000U);
 }
 
@@ -253,7 +253,7 @@ TEST_F(KeySet, okWithoutAKeyStoresNothing)
     mDialog.SaveKeyData();
     EXPECT_FALSE(mDialog.isVisible());
     EXPECT_EQ(mBox.committed(), 104);
-    EXPECT_EQ(+slot().Valid, 0);
+    EXPECT_EQ(+slot().Valid, kQVNoAction);
     EXPECT_EQ(+slot().Key, 0U);
 }
 
@@ -263,7 +263,7 @@ TEST_F(KeySet, cancelStoresNothing)
     press("cancelBtn");
     EXPECT_FALSE(mDialog.isVisible());
     EXPECT_EQ(mBox.committed(), 100);
-    EXPECT_EQ(+slot().Valid, 0);
+    EXPECT_EQ(+slot().Valid, kQVNoAction);
 }
 
 TEST_F(KeySet, escapeCancels)
@@ -271,7 +271,7 @@ TEST_F(KeySet, escapeCancels)
     click({"B"});
     QTest::keyClick(&mDialog, Qt::Key_Escape);
     EXPECT_FALSE(mDialog.isVisible());
-    EXPECT_EQ(+slot().Valid, 0);
+    EXPECT_EQ(+slot().Valid, kQVNoAction);
 }
 
 TEST_F(KeySet, closingTheWindowCancels)
@@ -279,7 +279,7 @@ TEST_F(KeySet, closingTheWindowCancels)
     click({"B"});
     mDialog.close();
     EXPECT_FALSE(mDialog.isVisible());
-    EXPECT_EQ(+slot().Valid, 0);
+    EXPECT_EQ(+slot().Valid, kQVNoAction);
 }
 
 TEST_F(KeySet, returnIsOkOnceThereIsAKey)

@@ -238,7 +238,7 @@ TEST_F(KeyPage, anUnknownProductGetsLayoutAAndAllSixteenSlots)
     edit([](tagQVTabletInfo& record) {
         record.Basic.ProductID = -1;
         for (int i = 0; i < 16; ++i) {
-            record.Key.SubKey[static_cast<std::size_t>(i)].Valid = 6;
+            record.Key.SubKey[static_cast<std::size_t>(i)].Valid = kQVPauseTablet;
         }
     });
     show();
@@ -570,14 +570,14 @@ TEST_F(KeyPage, anotherModelForgetsTheTextsOfTheLast)
 {
     edit([](tagQVTabletInfo& record) {
         record.Basic.ProductID = kProductA;
-        record.Key.SubKey[3].Valid = 2;
+        record.Key.SubKey[3].Valid = kQVApplication;
     });
     show();
     EXPECT_EQ(box(3).itemText(5), QStringLiteral("/app/3"));
     leave();
     edit([](tagQVTabletInfo& record) {
         record.Basic.ProductID = kProductG;
-        record.Key.SubKey[3].Valid = 0;
+        record.Key.SubKey[3].Valid = kQVNoAction;
     });
     show();
     EXPECT_NE(box(3).itemText(5), QStringLiteral("/app/3"));
@@ -597,19 +597,23 @@ TEST_F(KeyPage, everyValidAndMouseShowsItsItemAndCommitsIt)
     for (int valid = -32768; valid <= 32767; ++valid) {
         key.Valid = static_cast<std::int16_t>(valid);
         key.Mouse = 7;
-        expect(valid >= 2 && valid <= 6 ? valid + 3 : 0);
+        expect(valid >= kQVApplication && valid <= kQVPauseTablet ? valid + 3 : 0);
     }
-    key.Valid = 1;
+    key.Valid = kQVMouseButton;
     for (int mouse = -32768; mouse <= 32767; ++mouse) {
         key.Mouse = static_cast<std::int16_t>(mouse);
-        expect(mouse == 0 ? 1 : mouse == 1 ? 2 : mouse == 3 ? 3 : mouse == 2 ? 4 : 0);
+        expect(mouse == kQVLeftButton      ? 1
+                : mouse == kQVRightButton  ? 2
+                : mouse == kQVMiddleButton ? 3
+                : mouse == kQVBackButton   ? 4
+                                           : 0);
     }
 }
 
 TEST_F(KeyPage, anUnknownMouseButtonIsNoAction)
 {
     edit([](tagQVTabletInfo& record) {
-        record.Key.SubKey[0].Valid = 1;
+        record.Key.SubKey[0].Valid = kQVMouseButton;
         record.Key.SubKey[0].Mouse = 7;
     });
     show();
@@ -621,7 +625,7 @@ TEST_F(KeyPage, anUnknownKindIsNoActionAndTheLastKnownIsTheLastItem)
 {
     edit([](tagQVTabletInfo& record) {
         record.Key.SubKey[0].Valid = 9;
-        record.Key.SubKey[1].Valid = 6;
+        record.Key.SubKey[1].Valid = kQVPauseTablet;
     });
     show();
     EXPECT_EQ(box(0).currentIndex(), 0);
@@ -631,8 +635,8 @@ TEST_F(KeyPage, anUnknownKindIsNoActionAndTheLastKnownIsTheLastItem)
 TEST_F(KeyPage, theStoredCombinationIsItsItemsText)
 {
     edit([](tagQVTabletInfo& record) {
-        record.Key.SubKey[17].Valid = 3;
-        record.Key.SubKey[17].Key = 0x03063836;
+        record.Key.SubKey[kQVLowerPenSlot].Valid = kQVKeyCombination;
+        record.Key.SubKey[kQVLowerPenSlot].Key = 0x03063836;
     });
     show();
     EXPECT_EQ(box(17).currentIndex(), 6);
@@ -641,7 +645,7 @@ TEST_F(KeyPage, theStoredCombinationIsItsItemsText)
 
 TEST_F(KeyPage, theCombinationsTextDoesNotLookAtTheKind)
 {
-    qvTabletInfo.Key.SubKey[5].Valid = 0;
+    qvTabletInfo.Key.SubKey[5].Valid = kQVNoAction;
     qvTabletInfo.Key.SubKey[5].Key = 0x0200000B;
     const tagQVTabletInfo before = qvTabletInfo;
     EXPECT_EQ(mPane.GetSubKeyString(5), QStringLiteral("B  A"));
@@ -661,7 +665,7 @@ TEST_F(KeyPage, everyCombinationIsShownWithoutHarm)
     show();
     std::mt19937 random(4711); // NOLINT(cert-msc51-cpp): the same values in every run
     tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
-    key.Valid = 3;
+    key.Valid = kQVKeyCombination;
     for (int i = 0; i < 2000; ++i) {
         key.Key = static_cast<std::uint32_t>(random());
         mPane.InitSingleComboBoxWithKey(&box(2), 2);
@@ -674,7 +678,7 @@ TEST_F(KeyPage, aPathWithoutItsNulIsReadToTheFieldsEndOnly)
 {
     show();
     tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
-    key.Valid = 2;
+    key.Valid = kQVApplication;
     key.App.fill('x');
     qvTabletInfo.Key.SubKey[3].Valid = 0x7979;
     mPane.InitSingleComboBoxWithKey(&box(2), 2);
@@ -686,7 +690,7 @@ TEST_F(KeyPage, aPathOfAnyBytesIsShownWithoutHarm)
 {
     show();
     tagQVTabletInfoSubKey& key = qvTabletInfo.Key.SubKey[2];
-    key.Valid = 2;
+    key.Valid = kQVApplication;
     key.App.fill('\0');
     std::strcpy(key.App.data(), "/a\n\x01\x7f\x80\xBC");
     mPane.InitSingleComboBoxWithKey(&box(2), 2);
@@ -719,9 +723,12 @@ TEST_F(KeyPage, everyPlainChoiceIsPushedAndNotCommitted)
         std::int16_t mouse;
     };
     show();
-    constexpr std::int16_t kKept = 2;
-    for (const Choice& choice : std::vector<Choice>{{1, 1, 0}, {2, 1, 1}, {3, 1, 3}, {4, 1, 2},
-             {0, 0, kKept}, {7, 4, kKept}, {8, 5, kKept}, {9, 6, kKept}}) {
+    constexpr std::int16_t kKept = kQVBackButton;
+    for (const Choice& choice :
+        std::vector<Choice>{{1, kQVMouseButton, kQVLeftButton}, {2, kQVMouseButton, kQVRightButton},
+            {3, kQVMouseButton, kQVMiddleButton}, {4, kQVMouseButton, kQVBackButton},
+            {0, kQVNoAction, kKept}, {7, kQVNextDisplay, kKept}, {8, kQVFinePositioning, kKept},
+            {9, kQVPauseTablet, kKept}}) {
         const std::size_t before = pushes().size();
         choose(box(2), choice.item);
         ASSERT_EQ(pushes().size(), before + 1) << choice.item;
@@ -737,8 +744,8 @@ TEST_F(KeyPage, aChoiceChangesNothingButItsSlot)
     const tagQVTabletInfo before = qvTabletInfo;
     choose(box(16), 3);
     tagQVTabletInfo expected = before;
-    expected.Key.SubKey[16].Valid = 1;
-    expected.Key.SubKey[16].Mouse = 3;
+    expected.Key.SubKey[kQVUpperPenSlot].Valid = kQVMouseButton;
+    expected.Key.SubKey[kQVUpperPenSlot].Mouse = kQVMiddleButton;
     EXPECT_TRUE(sameBytes(qvTabletInfo, expected));
 }
 
@@ -746,7 +753,7 @@ TEST_F(KeyPage, theFourthItemIsMouseTwoAndIsShownAgain)
 {
     show();
     choose(box(0), 4);
-    EXPECT_EQ(+slot(0).Mouse, 2);
+    EXPECT_EQ(+slot(0).Mouse, kQVBackButton);
     leave();
     show();
     EXPECT_EQ(box(0).currentIndex(), 4);
@@ -784,7 +791,7 @@ TEST_F(KeyPage, anApplicationIsStoredShownAndPushedTwice)
     EXPECT_EQ(mPanel.asked, 1);
     ASSERT_EQ(pushes().size(), 2U);
     for (const tagQVTabletInfo& record : pushes()) {
-        EXPECT_EQ(+record.Key.SubKey[3].Valid, 2);
+        EXPECT_EQ(+record.Key.SubKey[3].Valid, kQVApplication);
         EXPECT_STREQ(record.Key.SubKey[3].App.data(), "/usr/share/applications/draw.desktop");
     }
     EXPECT_EQ(box(3).currentIndex(), 5);
@@ -793,7 +800,7 @@ TEST_F(KeyPage, anApplicationIsStoredShownAndPushedTwice)
 
 TEST_F(KeyPage, anApplicationIsCommittedByTheNextShowingNotByTheChoice)
 {
-    edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = 4; });
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = kQVNextDisplay; });
     show();
     mPanel.path = QStringLiteral("/a.app");
     choose(box(3), 5);
@@ -805,7 +812,7 @@ TEST_F(KeyPage, anApplicationIsCommittedByTheNextShowingNotByTheChoice)
 
 TEST_F(KeyPage, aCancelledChooserCommitsWhatTheRecordHas)
 {
-    edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = 4; });
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = kQVNextDisplay; });
     show();
     choose(box(3), 9); // not committed, but in the record
     EXPECT_EQ(box(3).committed(), 107);
@@ -816,7 +823,7 @@ TEST_F(KeyPage, aCancelledChooserCommitsWhatTheRecordHas)
 
 TEST_F(KeyPage, aDialogCancelledAfterAnApplicationGoesBackToTheCommittedItem)
 {
-    edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = 5; });
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[3].Valid = kQVFinePositioning; });
     show();
     mPanel.path = QStringLiteral("/a.app");
     choose(box(3), 5);
@@ -824,15 +831,15 @@ TEST_F(KeyPage, aDialogCancelledAfterAnApplicationGoesBackToTheCommittedItem)
     chooseKeys(box(3), [](QVKeySetClass& dialog) { click(dialog, {"keyB", "cancelBtn"}); });
     EXPECT_EQ(box(3).currentIndex(), 8);
     EXPECT_EQ(box(3).itemText(5), QStringLiteral("/a.app"));
-    EXPECT_EQ(+slot(3).Valid, 2) << "the record keeps the application";
+    EXPECT_EQ(+slot(3).Valid, kQVApplication) << "the record keeps the application";
     EXPECT_EQ(pushes().size(), before);
 }
 
 TEST_F(KeyPage, aCancelledChooserShowsTheRecordAgainAndStillPushes)
 {
     edit([](tagQVTabletInfo& record) {
-        record.Key.SubKey[3].Valid = 1;
-        record.Key.SubKey[3].Mouse = 1;
+        record.Key.SubKey[3].Valid = kQVMouseButton;
+        record.Key.SubKey[3].Mouse = kQVRightButton;
     });
     show();
     const tagQVTabletInfo before = qvTabletInfo;
@@ -859,7 +866,7 @@ TEST_F(KeyPage, aPathThatCannotBeStoredLeavesTheFieldEmptyAndItsNeighboursAlone)
         const tagQVTabletInfoSubKey next = slot(4);
         mPanel.path = path;
         choose(box(3), 5);
-        EXPECT_EQ(+slot(3).Valid, 2);
+        EXPECT_EQ(+slot(3).Valid, kQVApplication);
         EXPECT_EQ(slot(3).App, QVString{}) << path.size();
         EXPECT_EQ(std::memcmp(&slot(4), &next, sizeof next), 0);
         leave();
@@ -887,7 +894,7 @@ TEST_F(KeyPage, aCombinationIsStoredShownCommittedAndPushedOnce)
         click(dialog, {"keyCtrl", "keyShift", "keyZ", "okBtn"});
     });
     ASSERT_EQ(pushes().size(), 1U);
-    EXPECT_EQ(+pushes().back().Key.SubKey[2].Valid, 3);
+    EXPECT_EQ(+pushes().back().Key.SubKey[2].Valid, kQVKeyCombination);
     EXPECT_EQ(+pushes().back().Key.SubKey[2].Key, 0x03063836U);
     EXPECT_EQ(box(2).currentIndex(), 6);
     EXPECT_EQ(box(2).currentText(), QStringLiteral("Ctrl  Shift  Z"));
@@ -896,7 +903,7 @@ TEST_F(KeyPage, aCombinationIsStoredShownCommittedAndPushedOnce)
 
 TEST_F(KeyPage, aCancelledDialogChangesNothingAndPushesNothing)
 {
-    for (const auto& [valid, item] : {std::pair<std::int16_t, int>(4, 7), {5, 8}}) {
+    for (const auto& [valid, item] : {std::pair(kQVNextDisplay, 7), {kQVFinePositioning, 8}}) {
         edit([valid = valid](tagQVTabletInfo& record) { record.Key.SubKey[2].Valid = valid; });
         show();
         const tagQVTabletInfo before = qvTabletInfo;
@@ -933,7 +940,7 @@ TEST_F(KeyPage, aHostThatClosesThePanelUnderTheDialogDoesNoHarm)
 TEST_F(KeyPage, cancellingOverAStoredCombinationKeepsItShown)
 {
     edit([](tagQVTabletInfo& record) {
-        record.Key.SubKey[2].Valid = 3;
+        record.Key.SubKey[2].Valid = kQVKeyCombination;
         record.Key.SubKey[2].Key = 0x01000006;
     });
     show();
@@ -944,12 +951,12 @@ TEST_F(KeyPage, cancellingOverAStoredCombinationKeepsItShown)
 
 TEST_F(KeyPage, cancellingGoesBackToTheCommittedItemNotToTheChoiceInBetween)
 {
-    edit([](tagQVTabletInfo& record) { record.Key.SubKey[2].Valid = 4; });
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[2].Valid = kQVNextDisplay; });
     show();
     choose(box(2), 9);
     chooseKeys(box(2), [](QVKeySetClass& dialog) { dialog.reject(); });
     EXPECT_EQ(box(2).currentIndex(), 7);
-    EXPECT_EQ(+slot(2).Valid, 6) << "the record keeps the choice in between";
+    EXPECT_EQ(+slot(2).Valid, kQVPauseTablet) << "the record keeps the choice in between";
 }
 
 TEST_F(KeyPage, aDriverThatDiesWhileTheDialogIsOpenLosesNothing)
@@ -1061,11 +1068,11 @@ TEST_F(KeyPage, servesAMainViewThatIsMadeAnew)
 
 TEST_F(KeyPage, cancelPushesTheFileWhileTheBoxesKeepTheChoices)
 {
-    edit([](tagQVTabletInfo& record) { record.Key.SubKey[0].Valid = 4; });
+    edit([](tagQVTabletInfo& record) { record.Key.SubKey[0].Valid = kQVNextDisplay; });
     show();
     choose(box(0), 9);
     mPane.CancelSet();
-    EXPECT_EQ(+pushes().back().Key.SubKey[0].Valid, 4);
+    EXPECT_EQ(+pushes().back().Key.SubKey[0].Valid, kQVNextDisplay);
     EXPECT_EQ(box(0).currentIndex(), 9);
     leave();
     show();
