@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
-#include "CheckFile.h"
-
+#include "Commands.h"
 #include "PropertyList.h"
 #include "QVConfigEntry.h"
 #include "RecordText.h"
@@ -97,13 +96,13 @@ void listAllUnknown(const platform::Dictionary& root, Tally& tally)
 
 } // namespace
 
-bool checkFile(const QString& path)
+int checkFile(const QString& path)
 {
     const auto list = platform::PropertyList::load(
         QFile::encodeName(path).toStdString(), platform::PropertyListSource::AnyFile);
     if (!list) {
         std::printf("unusable  %s\n", qUtf8Printable(list.error().text));
-        return false;
+        return kExitBad;
     }
     Tally tally;
     for (const QVEntry& entry : kQVEntries) {
@@ -112,5 +111,5 @@ bool checkFile(const QString& path)
     listAllUnknown(list->root(), tally);
     std::printf("%d of %d entries are usable, %d unknown ones are kept\n", tally.good,
         tally.good + tally.bad, tally.unknown);
-    return tally.bad == 0;
+    return tally.bad == 0 ? kExitGood : kExitBad;
 }

@@ -4,7 +4,6 @@
 
 #include "AppleEventWire.h"
 #include "AppleEvents.h"
-#include "CheckFile.h"
 #include "Client.h"
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
@@ -19,6 +18,8 @@
 #include <QDBusReply>
 #include <QFile>
 
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstring>
 #include <optional>
@@ -93,9 +94,14 @@ Result<tagQVTabletInfo> lastRecord()
     return record;
 }
 
-} // namespace
+/** The path for a file operand; - is standard input. */
+QString fileOf(const QString& operand)
+{
+    return operand == QLatin1String("-") ? QStringLiteral("/dev/stdin") : operand;
+}
 
-int runStatus()
+/** Prints whether there is a driver, a tablet, and a usable file. */
+int runStatus(const Arguments& /*none*/)
 {
     const bool hasTablet = rzkgetQVDevice();
     const bool hasDriver = *GetPListName() != '\0';
@@ -113,31 +119,34 @@ int runStatus()
     return isUsable ? kExitGood : kExitBad;
 }
 
-int runShow(const std::optional<QString>& file, bool asJson)
+/** Prints the record in a file or a pipe, or, without one, the driver's last record. */
+int runShow(const Arguments& arguments)
 {
-    if (!file) {
+    if (arguments.operands.isEmpty()) {
         const Result<tagQVTabletInfo> record = lastRecord();
         if (!record) {
             return fail(record.error().text);
         }
         *GetqvTabletInfo() = *record;
     } else if (const auto list = QVConfigStore().loadRecord(
-                   QFile::encodeName(*file).toStdString(), platform::PropertyListSource::AnyFile);
+                   QFile::encodeName(fileOf(arguments.operands[0])).toStdString(),
+                   platform::PropertyListSource::AnyFile);
                !list) {
         return fail(list.error().text);
     }
     const tagQVTabletInfo& record = *GetqvTabletInfo();
-    const QByteArray text = asJson ? recordJson(record) : recordTable(record).toUtf8();
+    const QByteArray text = arguments.asJson ? recordJson(record) : recordTable(record).toUtf8();
     std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
     return kExitGood;
 }
 
-int runCheck(const QString& file)
+int runCheck(const Arguments& arguments)
 {
-    return checkFile(file) ? kExitGood : kExitBad;
+    return checkFile(fileOf(arguments.operands[0]));
 }
 
-int runPush()
+/** Loads the tablet's file and pushes the record. */
+int runPush(const Arguments& /*none*/)
 {
     QVConfigStore store;
     const auto list = loadTablet(store);
@@ -149,8 +158,11 @@ int runPush()
     return kExitGood;
 }
 
-int runSet(const QString& entry, const QString& value)
+/** Sets one entry of the tablet's file, pushes the record and saves the file. */
+int runSet(const Arguments& arguments)
 {
+    const QString& entry = arguments.operands[0];
+    const QString& value = arguments.operands[1];
     const QVEntry* const found = findEntry(entry);
     if (found == nullptr || !found->section->saved) {
         fail(found != nullptr
@@ -180,8 +192,14 @@ int runSet(const QString& entry, const QString& value)
     return kExitGood;
 }
 
-int runUsbMode(bool isFast)
+/** Sets the tablet's report mode over USB. */
+int runUsbMode(const Arguments& arguments)
 {
+    const QString& mode = arguments.operands[0];
+    const bool isFast = mode == QLatin1String("fast");
+    if (!isFast && mode != QLatin1String("normal")) {
+        return usageError(QStringLiteral("there is no report mode '%1'").arg(mode));
+    }
     QVConfigStore store;
     if (const auto list = loadTablet(store); !list) {
         return fail(list.error().text + QStringLiteral(", so the tablet is not known"));
@@ -195,10 +213,46 @@ int runUsbMode(bool isFast)
     return kExitGood;
 }
 
-int runSimTap(std::uint16_t x, std::uint16_t y)
+/** Touches a point of the tablet with the simulated pen, in tablet units. */
+int runSim(const Arguments& arguments)
 {
+    if (arguments.operands[0] != QLatin1String("tap")) {
+        return usageError(QStringLiteral("the pen cannot '%1'").arg(arguments.operands[0]));
+    }
     QDBusMessage call = simulatorCall("Tap");
-    call.setArguments({QVariant::fromValue(x), QVariant::fromValue(y)});
+    const QStringList point = arguments.operands.mid(1);
+    for (const QString& operand : point) {
+        const qint64 units = numberIn(operand).value_or(-1);
+        if (units < 0 || units > 65535) {
+            return usageError(QStringLiteral("a point is two numbers from 0 to 65535"));
+        }
+        call << QVariant::fromValue(static_cast<std::uint16_t>(units));
+    }
     const QDBusMessage reply = QDBusConnection::sessionBus().call(call);
     return reply.type() == QDBusMessage::ReplyMessage ? kExitGood : fail(reply.errorMessage());
+}
+
+constexpr std::array<Command, 7> kCommands{{
+    {"status", 0, 0, false, runStatus},
+    {"show", 0, 1, false, runShow},
+    {"check", 1, 1, false, runCheck},
+    {"push", 0, 0, true, runPush},
+    {"set", 2, 2, true, runSet},
+    {"usb-mode", 1, 1, false, runUsbMode},
+    {"sim", 3, 3, false, runSim},
+}};
+
+} // namespace
+
+const Command* findCommand(const QString& name)
+{
+    const auto* const command = std::ranges::find_if(
+        kCommands, [&](const Command& one) { return name == QLatin1String(one.name); });
+    return command == kCommands.end() ? nullptr : command;
+}
+
+int usageError(const QString& why)
+{
+    std::fprintf(stderr, "qvtbltctl: %s\nTry 'qvtbltctl --help'.\n", qUtf8Printable(why));
+    return kExitUsage;
 }

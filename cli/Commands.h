@@ -3,37 +3,37 @@
 #pragma once
 
 #include <QString>
-
-#include <cstdint>
-#include <optional>
-
-/**
- * @file
- * The commands. Each writes its output to standard output and errors to standard error, and returns
- * the exit code.
- */
+#include <QStringList>
 
 inline constexpr int kExitGood = 0;
 inline constexpr int kExitBad = 1; ///< no driver, no tablet, or no usable file
 inline constexpr int kExitUsage = 2; ///< the command line is not valid
 
-/** Prints whether there is a driver, a tablet, and a usable file. */
-int runStatus();
+/** What follows a command. */
+struct Arguments {
+    QStringList operands;
+    bool asJson = false;
+};
 
-/** Prints the record in a file or a pipe, or, without one, the driver's last record. */
-int runShow(const std::optional<QString>& file, bool asJson);
+struct Command {
+    const char* name;
+    int least; ///< number of operands
+    int most;
+    bool needsDisplays; ///< it pushes the tablet's file, which depends on them
+    /** Writes its output to standard output and errors to standard error. @return the exit code */
+    int (*run)(const Arguments& arguments);
+};
 
-/** Checks a file or a pipe entry by entry. */
-int runCheck(const QString& file);
+/** The command with that name; null if there is none. */
+const Command* findCommand(const QString& name);
 
-/** Loads the tablet's file and pushes the record. */
-int runPush();
+/** Reports that the command line is not valid. @return the exit code */
+int usageError(const QString& why);
 
-/** Sets the tablet's report mode over USB. */
-int runUsbMode(bool isFast);
-
-/** Touches a point of the tablet with the simulated pen, in tablet units. */
-int runSimTap(std::uint16_t x, std::uint16_t y);
-
-/** Sets one entry of the tablet's file, pushes the record and saves the file. */
-int runSet(const QString& entry, const QString& value);
+/**
+ * Checks a configuration file or a pipe and prints a line for each entry: the verdict, its path,
+ * and the problem.
+ *
+ * @return kExitGood if the panel can use every entry: none is missing, of a wrong type or too big
+ */
+int checkFile(const QString& path);
