@@ -9,153 +9,88 @@
 #include <algorithm>
 #include <utility>
 
-namespace platform::wire {
+Q_DECLARE_METATYPE(platform::AEDesc)
+Q_DECLARE_METATYPE(platform::AEKeyDesc)
+Q_DECLARE_METATYPE(platform::AEList)
+Q_DECLARE_METATYPE(platform::AERecord)
 
-/** (uv) */
-struct Desc {
-    uint type = 0;
-    QDBusVariant data;
-};
-
-/** (u(uv)) */
-struct Parameter {
-    uint keyword = 0;
-    Desc desc;
-};
+namespace platform {
 
 // QtDBus finds these by the namespace of their types.
 
-static QDBusArgument& operator<<(QDBusArgument& argument, const Desc& desc)
+/** (uv) */
+static QDBusArgument& operator<<(QDBusArgument& argument, const AEDesc& desc)
 {
+    const auto toVariant = [](const auto& data) { return QVariant::fromValue(data); };
     argument.beginStructure();
-    argument << desc.type << desc.data;
+    argument << desc.type << QDBusVariant(std::visit(toVariant, desc.data));
     argument.endStructure();
     return argument;
 }
 
-static const QDBusArgument& operator>>(const QDBusArgument& argument, Desc& desc)
+/** (u(uv)) */
+static QDBusArgument& operator<<(QDBusArgument& argument, const AEKeyDesc& entry)
 {
     argument.beginStructure();
-    argument >> desc.type >> desc.data;
+    argument << entry.keyword << entry.desc;
     argument.endStructure();
     return argument;
 }
 
-static QDBusArgument& operator<<(QDBusArgument& argument, const Parameter& parameter)
+/** A list or a record. */
+template <class Item>
+static QDBusArgument& operator<<(QDBusArgument& argument, const std::vector<Item>& items)
 {
-    argument.beginStructure();
-    argument << parameter.keyword << parameter.desc;
-    argument.endStructure();
+    argument.beginArray(qMetaTypeId<Item>());
+    for (const Item& item : items) {
+        argument << item;
+    }
+    argument.endArray();
     return argument;
 }
 
-static const QDBusArgument& operator>>(const QDBusArgument& argument, Parameter& parameter)
+// Registering a type needs a reader, which is never called.
+
+template <class Value>
+static const QDBusArgument& operator>>(const QDBusArgument& argument, Value& /*value*/)
 {
-    argument.beginStructure();
-    argument >> parameter.keyword >> parameter.desc;
-    argument.endStructure();
     return argument;
 }
 
-} // namespace platform::wire
+template <class Item>
+static const QDBusArgument& operator>>(const QDBusArgument& argument, std::vector<Item>& /*items*/)
+{
+    return argument;
+}
 
-Q_DECLARE_METATYPE(platform::wire::Desc)
-Q_DECLARE_METATYPE(platform::wire::Parameter)
-
-namespace platform::wire {
+namespace wire {
 
 namespace {
-
-void registerTypes()
-{
-    static const bool done = [] {
-        qDBusRegisterMetaType<Desc>();
-        qDBusRegisterMetaType<QList<Desc>>();
-        qDBusRegisterMetaType<Parameter>();
-        qDBusRegisterMetaType<QList<Parameter>>();
-        return true;
-    }();
-    static_cast<void>(done);
-}
-
-Desc toWire(const AEDesc& desc);
-
-QList<Parameter> toWire(const AERecord& record)
-{
-    QList<Parameter> parameters;
-    parameters.reserve(static_cast<int>(record.size()));
-    for (const AEKeyDesc& entry : record) {
-        parameters.append({entry.keyword, toWire(entry.desc)});
-    }
-    return parameters;
-}
-
-QVariant toVariant(const QByteArray& bytes)
-{
-    return bytes;
-}
-
-QVariant toVariant(const AEList& list)
-{
-    QList<Desc> items;
-    items.reserve(static_cast<int>(list.size()));
-    for (const AEDesc& item : list) {
-        items.append(toWire(item));
-    }
-    return QVariant::fromValue(items);
-}
-
-QVariant toVariant(const AERecord& record)
-{
-    return QVariant::fromValue(toWire(record));
-}
-
-Desc toWire(const AEDesc& desc)
-{
-    return {desc.type,
-        QDBusVariant(std::visit([](const auto& data) { return toVariant(data); }, desc.data))};
-}
 
 // Reading. QtDBus warns and returns zeros if an argument is read with a wrong signature, so every
 // signature is checked first. It leaks containers that are begun but not ended, so a malformed
 // argument is still read to its end.
 
-bool readDesc(const QDBusArgument& argument, int depth, AEDesc& desc);
+bool readItem(const QDBusArgument& argument, int depth, AEDesc& desc);
+bool readItem(const QDBusArgument& argument, int depth, AEKeyDesc& entry);
 
-bool readList(const QDBusArgument& argument, int depth, AEList& list)
+template <class Item>
+bool readItems(const QDBusArgument& argument, int depth, std::vector<Item>& items)
 {
     bool isGood = true;
     argument.beginArray();
     while (!argument.atEnd()) {
-        AEDesc item;
-        isGood = readDesc(argument, depth, item) && isGood && list.size() < kMaxItems;
+        Item item;
+        isGood = readItem(argument, depth, item) && isGood && items.size() < kMaxItems;
         if (isGood) {
-            list.push_back(std::move(item));
+            items.push_back(std::move(item));
         }
     }
     argument.endArray();
     return isGood;
 }
 
-bool readRecord(const QDBusArgument& argument, int depth, AERecord& record)
-{
-    bool isGood = true;
-    argument.beginArray();
-    while (!argument.atEnd()) {
-        AEKeyDesc entry;
-        argument.beginStructure();
-        argument >> entry.keyword;
-        isGood = readDesc(argument, depth, entry.desc) && isGood && record.size() < kMaxItems;
-        argument.endStructure();
-        if (isGood) {
-            record.push_back(std::move(entry));
-        }
-    }
-    argument.endArray();
-    return isGood;
-}
-
-bool readDesc(const QDBusArgument& argument, int depth, AEDesc& desc)
+bool readItem(const QDBusArgument& argument, int depth, AEDesc& desc)
 {
     QDBusVariant variant;
     argument.beginStructure();
@@ -172,12 +107,21 @@ bool readDesc(const QDBusArgument& argument, int depth, AEDesc& desc)
     }
     const auto inner = data.value<QDBusArgument>();
     if (inner.currentSignature() == QLatin1String("a(uv)")) {
-        return readList(inner, depth + 1, desc.data.emplace<AEList>());
+        return readItems(inner, depth + 1, desc.data.emplace<AEList>());
     }
     if (inner.currentSignature() == QLatin1String("a(u(uv))")) {
-        return readRecord(inner, depth + 1, desc.data.emplace<AERecord>());
+        return readItems(inner, depth + 1, desc.data.emplace<AERecord>());
     }
     return false;
+}
+
+bool readItem(const QDBusArgument& argument, int depth, AEKeyDesc& entry)
+{
+    argument.beginStructure();
+    argument >> entry.keyword;
+    const bool isGood = readItem(argument, depth, entry.desc);
+    argument.endStructure();
+    return isGood;
 }
 
 } // namespace
@@ -203,8 +147,15 @@ QString busName(FourCharCode signature)
 
 QVariant encode(const AERecord& parameters)
 {
-    registerTypes();
-    return QVariant::fromValue(toWire(parameters));
+    static const bool areRegistered = [] {
+        qDBusRegisterMetaType<AEDesc>();
+        qDBusRegisterMetaType<AEKeyDesc>();
+        qDBusRegisterMetaType<AEList>();
+        qDBusRegisterMetaType<AERecord>();
+        return true;
+    }();
+    static_cast<void>(areRegistered);
+    return QVariant::fromValue(parameters);
 }
 
 std::optional<AERecord> decode(const QVariant& argument)
@@ -217,7 +168,9 @@ std::optional<AERecord> decode(const QVariant& argument)
         return std::nullopt;
     }
     AERecord record;
-    return readRecord(parameters, 1, record) ? std::optional(std::move(record)) : std::nullopt;
+    return readItems(parameters, 1, record) ? std::optional(std::move(record)) : std::nullopt;
 }
 
-} // namespace platform::wire
+} // namespace wire
+
+} // namespace platform
