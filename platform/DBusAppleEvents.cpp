@@ -31,15 +31,6 @@ namespace {
 
 Q_LOGGING_CATEGORY(lcEvents, "org.quorvia.tablet.events", QtInfoMsg)
 
-QDBusMessage methodCall(const AppleEvent& event, const QString& destination)
-{
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(destination, QLatin1String(wire::kObjectPath),
-            QLatin1String(wire::kInterface), QLatin1String(wire::kSendMethod));
-    call << event.eventClass << event.eventID << wire::encode(event.parameters);
-    return call;
-}
-
 /** The bus name of an address; empty for an unknown kind of address. */
 QString destination(const AEDesc& address)
 {
@@ -88,11 +79,6 @@ QDBusMessage errorReply(const QDBusMessage& call, OSErr error, const QString& wh
     return call.createErrorReply(QLatin1String(name), why);
 }
 
-std::chrono::milliseconds milliseconds(std::int32_t ticks)
-{
-    return std::chrono::milliseconds(std::int64_t{ticks} * 1000 / kTicksPerSecond);
-}
-
 /** How long installing a handler waits for a bus that hangs. */
 constexpr std::chrono::milliseconds kListenLimit{250};
 
@@ -137,16 +123,17 @@ public:
                            : QStringLiteral("it does not answer");
     }
 
-    QString introspect(const QString& path) const override
+    QString introspect(const QString& /*path*/) const override
     {
-        static_cast<void>(path);
-        return QStringLiteral("<interface name=\"org.quorvia.AppleEvents1\">"
-                              "<method name=\"Send\">"
+        return QStringLiteral("<interface name=\"%1\">"
+                              "<method name=\"%2\">"
                               "<arg name=\"eventClass\" type=\"u\" direction=\"in\"/>"
                               "<arg name=\"eventID\" type=\"u\" direction=\"in\"/>"
                               "<arg name=\"parameters\" type=\"a(u(uv))\" direction=\"in\"/>"
                               "<arg name=\"reply\" type=\"a(u(uv))\" direction=\"out\"/>"
-                              "</method><signal name=\"Changed\"/></interface>");
+                              "</method><signal name=\"%3\"/></interface>")
+            .arg(QLatin1String(wire::kInterface), QLatin1String(wire::kSendMethod),
+                QLatin1String(wire::kChangedSignal));
     }
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override
@@ -298,15 +285,12 @@ private:
         if (isAnswered) {
             return;
         }
-        if (error != noErr) {
-            const AEDesc* const text = find(reply.parameters, keyErrorString);
-            const QByteArray* const why = text == nullptr ? nullptr : text->bytes();
-            answer(call, bus,
-                errorReply(call, error,
-                    why == nullptr ? QString::number(error) : QString::fromUtf8(*why)));
-            return;
-        }
-        answer(call, bus, call.createReply(wire::encode(reply.parameters)));
+        const AEDesc* const text = find(reply.parameters, keyErrorString);
+        const QByteArray* const why = text == nullptr ? nullptr : text->bytes();
+        answer(call, bus,
+            error == noErr ? call.createReply(wire::encode(reply.parameters))
+                           : errorReply(call, error,
+                               why == nullptr ? QString::number(error) : QString::fromUtf8(*why)));
     }
 
     /** Logs only the first rejection of each sender, so that nobody can flood the log. */
@@ -362,7 +346,7 @@ OSErr DBusAppleEvents::send(const AppleEvent& event, AppleEvent* reply, AESendMo
 
     QElapsedTimer sinceStart;
     sinceStart.start();
-    const std::chrono::milliseconds limit = milliseconds(timeOut);
+    const std::chrono::milliseconds limit(std::int64_t{timeOut} * 1000 / kTicksPerSecond);
     QDBusConnection* const bus = d->connectionWithin(limit);
     const QString receiver = destination(event.address);
     if (bus == nullptr || receiver.isEmpty()) {
@@ -371,7 +355,9 @@ OSErr DBusAppleEvents::send(const AppleEvent& event, AppleEvent* reply, AESendMo
         }
         return connectionInvalid;
     }
-    const QDBusMessage call = methodCall(event, receiver);
+    QDBusMessage call = QDBusMessage::createMethodCall(receiver, QLatin1String(wire::kObjectPath),
+        QLatin1String(wire::kInterface), QLatin1String(wire::kSendMethod));
+    call << event.eventClass << event.eventID << wire::encode(event.parameters);
     if (reply == nullptr) {
         auto* const watcher = new QDBusPendingCallWatcher(
             bus->asyncCall(call, static_cast<int>(limit.count())), d.get());
