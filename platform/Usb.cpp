@@ -8,6 +8,8 @@
 
 #include <libusb.h>
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <deque>
 #include <functional>
@@ -22,28 +24,25 @@ Q_LOGGING_CATEGORY(lcUsb, "org.quorvia.tablet.usb", QtInfoMsg)
 constexpr unsigned kRequestTimeOut = 1000; ///< milliseconds
 constexpr int kFirstInterface = 0;
 
-IOReturn resultOf(int error)
+/** The result for a return value of libusb: an error, or a count. */
+IOReturn resultOf(int value)
 {
-    switch (error) {
-    case LIBUSB_ERROR_ACCESS:
-        return kIOReturnNotPermitted;
-    case LIBUSB_ERROR_NO_DEVICE:
-        return kIOReturnNoDevice;
-    case LIBUSB_ERROR_NOT_FOUND:
-        return kIOReturnNotFound;
-    case LIBUSB_ERROR_BUSY:
-        return kIOReturnExclusiveAccess;
-    case LIBUSB_ERROR_TIMEOUT:
-        return kIOReturnTimeout;
-    case LIBUSB_ERROR_PIPE:
-        return kIOUSBPipeStalled;
-    case LIBUSB_ERROR_NO_MEM:
-        return kIOReturnNoMemory;
-    case LIBUSB_ERROR_NOT_SUPPORTED:
-        return kIOReturnUnsupported;
-    default:
-        return error < 0 ? kIOReturnError : kIOReturnSuccess;
+    using Pair = std::pair<int, IOReturn>;
+    static constexpr std::array<Pair, 8> kErrors{{
+        {LIBUSB_ERROR_ACCESS, kIOReturnNotPermitted},
+        {LIBUSB_ERROR_NO_DEVICE, kIOReturnNoDevice},
+        {LIBUSB_ERROR_NOT_FOUND, kIOReturnNotFound},
+        {LIBUSB_ERROR_BUSY, kIOReturnExclusiveAccess},
+        {LIBUSB_ERROR_TIMEOUT, kIOReturnTimeout},
+        {LIBUSB_ERROR_PIPE, kIOUSBPipeStalled},
+        {LIBUSB_ERROR_NO_MEM, kIOReturnNoMemory},
+        {LIBUSB_ERROR_NOT_SUPPORTED, kIOReturnUnsupported},
+    }};
+    if (value >= 0) {
+        return kIOReturnSuccess;
     }
+    const auto* const known = std::ranges::find(kErrors, value, &Pair::first);
+    return known == kErrors.end() ? kIOReturnError : known->second;
 }
 
 /**
@@ -53,90 +52,69 @@ IOReturn resultOf(int error)
 using Context = std::shared_ptr<libusb_context>;
 using Device = std::shared_ptr<libusb_device>;
 
-IOReturn makeContext(Context& context)
-{
-    libusb_context* made = nullptr;
-    const int error = libusb_init(&made);
-    if (error != LIBUSB_SUCCESS) {
-        qCWarning(lcUsb, "cannot list the USB devices: %s", libusb_strerror(error));
-        return resultOf(error);
-    }
-    context = Context(made, libusb_exit);
-    return kIOReturnSuccess;
-}
-
-/** An open device, with at most one claimed interface. */
+/** A device that can be opened, with one of its interfaces. */
 class Handle {
 public:
-    explicit Handle(Device device)
+    Handle(Device device, int interface)
         : mDevice(std::move(device))
+        , mInterface(interface)
     {
     }
     ~Handle() { close(); }
     Handle(const Handle&) = delete;
     Handle& operator=(const Handle&) = delete;
 
-    libusb_device* device() const { return mDevice.get(); }
+    const Device& device() const { return mDevice; }
+    /** Null unless it is open. */
     libusb_device_handle* get() const { return mHandle; }
 
-    /** Opens the device and claims an interface, both or neither. */
-    int open(int interface)
+    /** Opens the device and claims the interface, both or neither. */
+    int open()
     {
         close();
-        int error = libusb_open(mDevice.get(), &mHandle);
+        libusb_device_handle* opened = nullptr;
+        int error = libusb_open(mDevice.get(), &opened);
         if (error != LIBUSB_SUCCESS) {
-            mHandle = nullptr;
             return error;
         }
         // libusb detaches the kernel's driver when the interface is claimed, and reattaches it on
         // release.
-        libusb_set_auto_detach_kernel_driver(mHandle, 1);
-        error = libusb_claim_interface(mHandle, interface);
+        libusb_set_auto_detach_kernel_driver(opened, 1);
+        error = libusb_claim_interface(opened, mInterface);
         if (error == LIBUSB_SUCCESS) {
-            mInterface = interface;
+            mHandle = opened;
         } else {
-            close();
+            libusb_close(opened);
         }
         return error;
     }
 
     int close()
     {
-        int error = LIBUSB_SUCCESS;
-        if (mInterface) {
-            error = libusb_release_interface(mHandle, *mInterface);
-            mInterface.reset();
+        if (mHandle == nullptr) {
+            return LIBUSB_SUCCESS;
         }
-        if (mHandle != nullptr) {
-            libusb_close(std::exchange(mHandle, nullptr));
-        }
+        const int error = libusb_release_interface(mHandle, mInterface);
+        libusb_close(std::exchange(mHandle, nullptr));
         return error;
     }
 
 private:
     Device mDevice;
+    int mInterface;
     libusb_device_handle* mHandle = nullptr;
-    std::optional<int> mInterface;
 };
 
-class DeviceService final : public UsbService {
+/** A device, or one of its interfaces. */
+class Service final : public UsbService {
 public:
-    explicit DeviceService(Device found)
-        : device(std::move(found))
+    explicit Service(Device itsDevice, std::optional<int> itsInterface = std::nullopt)
+        : device(std::move(itsDevice))
+        , interface(itsInterface)
     {
     }
     const Device device;
-};
-
-class InterfaceService final : public UsbService {
-public:
-    InterfaceService(Device owner, int itsNumber)
-        : device(std::move(owner))
-        , number(itsNumber)
-    {
-    }
-    const Device device;
-    const int number; ///< bInterfaceNumber
+    const std::optional<int> interface; ///< bInterfaceNumber
 };
 
 bool matches(const UsbMatching& matching, libusb_device* device)
@@ -159,11 +137,12 @@ using Search = std::function<IOReturn(Services& found)>;
 
 IOReturn findDevices(const UsbMatching& matching, Services& found)
 {
-    Context context;
-    const IOReturn error = makeContext(context);
-    if (error != kIOReturnSuccess) {
-        return error;
+    libusb_context* made = nullptr;
+    if (const int error = libusb_init(&made); error != LIBUSB_SUCCESS) {
+        qCWarning(lcUsb, "cannot list the USB devices: %s", libusb_strerror(error));
+        return resultOf(error);
     }
+    const Context context(made, libusb_exit);
     libusb_device** list = nullptr;
     const auto count = libusb_get_device_list(context.get(), &list);
     if (count < 0) {
@@ -171,7 +150,7 @@ IOReturn findDevices(const UsbMatching& matching, Services& found)
     }
     for (std::ptrdiff_t i = 0; i < count; ++i) {
         if (matches(matching, list[i])) {
-            found.push_back(std::make_unique<DeviceService>(Device(libusb_ref_device(list[i]),
+            found.push_back(std::make_unique<Service>(Device(libusb_ref_device(list[i]),
                 [context](libusb_device* device) { libusb_unref_device(device); })));
         }
     }
@@ -188,7 +167,7 @@ IOReturn findInterfaces(const Device& device, Services& found)
     }
     for (int i = 0; i < config->bNumInterfaces; ++i) {
         if (config->interface[i].num_altsetting > 0) {
-            found.push_back(std::make_unique<InterfaceService>(
+            found.push_back(std::make_unique<Service>(
                 device, config->interface[i].altsetting->bInterfaceNumber));
         }
     }
@@ -240,15 +219,14 @@ IOReturn iterate(Search search, std::unique_ptr<UsbIterator>& services)
 class LibusbDevice final : public UsbDeviceInterface {
 public:
     explicit LibusbDevice(Device device)
-        : mDevice(device)
-        , mHandle(std::move(device))
+        : mHandle(std::move(device), kFirstInterface)
     {
     }
 
     IOReturn getNumberOfConfigurations(std::uint8_t& count) override
     {
         libusb_device_descriptor descriptor{};
-        const int error = libusb_get_device_descriptor(mDevice.get(), &descriptor);
+        const int error = libusb_get_device_descriptor(device(), &descriptor);
         count = descriptor.bNumConfigurations;
         return resultOf(error);
     }
@@ -257,7 +235,7 @@ public:
         std::uint8_t index, UsbConfigurationDescriptor& descriptor) override
     {
         libusb_config_descriptor* config = nullptr;
-        const int error = libusb_get_config_descriptor(mDevice.get(), index, &config);
+        const int error = libusb_get_config_descriptor(device(), index, &config);
         if (error != LIBUSB_SUCCESS) {
             return resultOf(error);
         }
@@ -268,10 +246,10 @@ public:
 
     IOReturn open() override
     {
-        const int error = mHandle.open(kFirstInterface);
+        const int error = mHandle.open();
         if (error != LIBUSB_SUCCESS) {
             qCDebug(lcUsb, "device %d on bus %d cannot be opened: %s",
-                libusb_get_device_address(mDevice.get()), libusb_get_bus_number(mDevice.get()),
+                libusb_get_device_address(device()), libusb_get_bus_number(device()),
                 libusb_strerror(error));
         }
         return resultOf(error);
@@ -298,24 +276,24 @@ public:
     IOReturn createInterfaceIterator(std::unique_ptr<UsbIterator>& interfaces) override
     {
         return iterate(
-            [device = mDevice](Services& found) { return findInterfaces(device, found); },
+            [device = mHandle.device()](Services& found) { return findInterfaces(device, found); },
             interfaces);
     }
 
 private:
-    Device mDevice;
+    libusb_device* device() const { return mHandle.device().get(); }
+
     Handle mHandle;
 };
 
 class LibusbInterface final : public UsbInterfaceInterface {
 public:
     LibusbInterface(Device device, int number)
-        : mHandle(std::move(device))
-        , mNumber(number)
+        : mHandle(std::move(device), number)
     {
     }
 
-    IOReturn open() override { return resultOf(mHandle.open(mNumber)); }
+    IOReturn open() override { return resultOf(mHandle.open()); }
     IOReturn close() override
     {
         return mHandle.get() == nullptr ? kIOReturnNotOpen : resultOf(mHandle.close());
@@ -323,7 +301,6 @@ public:
 
 private:
     Handle mHandle;
-    int mNumber;
 };
 
 class LibusbUsb final : public Usb {
@@ -345,20 +322,17 @@ public:
 
     std::unique_ptr<UsbDeviceInterface> createDeviceInterface(const UsbService& service) override
     {
-        const auto* const device = dynamic_cast<const DeviceService*>(&service);
-        return device == nullptr ? nullptr : std::make_unique<LibusbDevice>(device->device);
+        const auto& found = dynamic_cast<const Service&>(service);
+        return found.interface ? nullptr : std::make_unique<LibusbDevice>(found.device);
     }
 
     std::unique_ptr<UsbInterfaceInterface> createInterfaceInterface(
         const UsbService& service, IOReturn& error) override
     {
-        const auto* const interface = dynamic_cast<const InterfaceService*>(&service);
-        if (interface == nullptr) {
-            error = kIOReturnUnsupported;
-            return nullptr;
-        }
-        error = kIOReturnSuccess;
-        return std::make_unique<LibusbInterface>(interface->device, interface->number);
+        const auto& found = dynamic_cast<const Service&>(service);
+        error = found.interface ? kIOReturnSuccess : kIOReturnUnsupported;
+        return found.interface ? std::make_unique<LibusbInterface>(found.device, *found.interface)
+                               : nullptr;
     }
 };
 
