@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <array>
 #include <cstring>
-#include <limits>
 #include <string_view>
 #include <utility>
 
@@ -40,45 +39,28 @@ bool isWritable(std::string_view text)
     });
 }
 
-/** The smallest and largest integer that fits a field of the type. */
-std::pair<std::int64_t, std::int64_t> range(QVFieldType type)
-{
-    switch (type) {
-    case QVFieldType::Int16:
-    case QVFieldType::UInt16:
-        return {
-            std::numeric_limits<std::int16_t>::min(), std::numeric_limits<std::uint16_t>::max()};
-    case QVFieldType::UInt32:
-        return {
-            std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::uint32_t>::max()};
-    case QVFieldType::Boolean:
-        return {0, 1};
-    case QVFieldType::String:
-        break;
-    }
-    return {0, 0};
-}
-
 QVEntryResult storeNumber(platform::Number number, const QVEntry& entry, tagQVTabletInfo& record)
 {
     const std::int64_t whole = number.longValue();
+    bool fits = number.isWhole();
     switch (entry.type) {
     case QVFieldType::Int16:
     case QVFieldType::UInt16:
         store(number.shortValue(), entry, record);
+        fits = fits && (std::in_range<std::int16_t>(whole) || std::in_range<std::uint16_t>(whole));
         break;
     case QVFieldType::UInt32:
         store(static_cast<std::uint32_t>(whole), entry, record);
+        fits = fits && (std::in_range<std::int32_t>(whole) || std::in_range<std::uint32_t>(whole));
         break;
     case QVFieldType::Boolean:
         store(std::uint8_t{number.boolValue()}, entry, record);
+        fits = fits && (whole == 0 || whole == 1);
         break;
     case QVFieldType::String:
         break;
     }
-    const auto [least, greatest] = range(entry.type);
-    return number.isWhole() && whole >= least && whole <= greatest ? QVEntryResult::Copied
-                                                                   : QVEntryResult::Truncated;
+    return fits ? QVEntryResult::Copied : QVEntryResult::Truncated;
 }
 
 QVEntryResult storeString(std::string_view text, const QVEntry& entry, tagQVTabletInfo& record)
