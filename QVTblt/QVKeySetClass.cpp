@@ -155,16 +155,6 @@ void QVKeySetClass::SaveKeyData()
     mComboBox->replaceItem(QVKeyComboBox::KeyCombination, text);
 }
 
-void QVKeySetClass::CancelSet()
-{
-    done(Rejected);
-}
-
-void QVKeySetClass::reject()
-{
-    CancelSet();
-}
-
 bool QVKeySetClass::event(QEvent* event)
 {
     const bool isHandled = QDialog::event(event);

@@ -40,7 +40,7 @@ public:
      */
     void SaveKeyData();
     /** Ends the dialog; record and box do not change. */
-    void CancelSet();
+    void CancelSet() { done(Rejected); }
     /**
      * Removes the last key. The value keeps the remaining keys, with their number in its highest
      * byte, to which SaveKeyData() adds its own number by OR. The number of keys is decremented
@@ -63,7 +63,7 @@ public:
 
     void setVisible(bool visible) override;
     /** Escape and the window's close button cancel. */
-    void reject() override;
+    void reject() override { CancelSet(); }
 
 protected:
     bool event(QEvent* event) override;

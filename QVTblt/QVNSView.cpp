@@ -22,16 +22,6 @@ QVNSView::QVNSView(QWidget* parent)
 {
 }
 
-void QVNSView::tabletProximity(const std::shared_ptr<const platform::Event>& event)
-{
-    QVPostProximity(*this, event);
-}
-
-void QVNSView::handleProximity(const platform::Notification& notification)
-{
-    static_cast<void>(notification);
-}
-
 void QVNSView::tabletPoint(const platform::Event& event)
 {
     static_cast<void>(event);

@@ -27,9 +27,12 @@ class QVNSView final : public QWidget, public platform::ProximityResponder {
 public:
     explicit QVNSView(QWidget* parent = nullptr);
 
-    void tabletProximity(const std::shared_ptr<const platform::Event>& event) override;
+    void tabletProximity(const std::shared_ptr<const platform::Event>& event) override
+    {
+        QVPostProximity(*this, event);
+    }
     /** Does nothing: the relay does not need its own notification. */
-    void handleProximity(const platform::Notification& notification);
+    void handleProximity(const platform::Notification& /*notification*/) { }
     /** Writes a line to the log. */
     void tabletPoint(const platform::Event& event);
 

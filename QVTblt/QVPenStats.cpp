@@ -39,11 +39,6 @@ QString textOf(const QVDrawView::Stats& stats)
 
 } // namespace
 
-QVPenStats::QVPenStats(QWidget* parent)
-    : LiveLabel(parent)
-{
-}
-
 void QVPenStats::observe(const QVDrawView& pad)
 {
     setText(textOf(pad.stats()));

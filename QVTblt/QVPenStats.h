@@ -11,7 +11,7 @@ class QVPenStats final : public platform::LiveLabel {
     Q_OBJECT
 
 public:
-    explicit QVPenStats(QWidget* parent = nullptr);
+    using LiveLabel::LiveLabel;
 
     /** Shows the statistics of a pad with the same lifetime. */
     void observe(const QVDrawView& pad);
