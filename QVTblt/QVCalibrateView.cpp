@@ -224,8 +224,8 @@ QString QVCalibrateView::spokenContents() const
         //: Read by screen readers: the cross to touch next, of four in the corners of the display.
         QT_TR_NOOP("Cross 4 of 4, at the lower left."),
     };
-    const auto cross =
-        static_cast<std::size_t>(drawflag - kDrawCross); // a negative one is too large
+    // A negative one is too large.
+    const std::size_t cross = static_cast<std::size_t>(drawflag) - std::size_t{kDrawCross};
     return cross < kCrossTexts.size() ? tr(kCrossTexts[cross]) : QString();
 }
 

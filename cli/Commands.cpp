@@ -22,7 +22,6 @@
 #include <array>
 #include <cstdio>
 #include <cstring>
-#include <optional>
 
 using platform::Error;
 using platform::Result;

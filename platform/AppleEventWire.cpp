@@ -51,8 +51,12 @@ static QDBusArgument& operator<<(QDBusArgument& argument, const std::vector<Item
 
 // Registering a type needs a reader, which is never called.
 
-template <class Value>
-static const QDBusArgument& operator>>(const QDBusArgument& argument, Value& /*value*/)
+static const QDBusArgument& operator>>(const QDBusArgument& argument, AEDesc& /*desc*/)
+{
+    return argument;
+}
+
+static const QDBusArgument& operator>>(const QDBusArgument& argument, AEKeyDesc& /*entry*/)
 {
     return argument;
 }

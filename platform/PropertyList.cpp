@@ -48,9 +48,12 @@ Result<QByteArray> readFile(const std::string& path, PropertyListSource source)
     }
     QFile file;
     struct stat status { };
-    if (!file.open(descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)
-        || ::fstat(descriptor, &status) != 0) {
+    if (!file.open(
+            descriptor, QIODevice::ReadOnly | QIODevice::Unbuffered, QFile::AutoCloseHandle)) {
         return fail(file.errorString());
+    }
+    if (::fstat(descriptor, &status) != 0) {
+        return fail(qt_error_string());
     }
     if (isRegular && !S_ISREG(status.st_mode)) {
         return fail(QStringLiteral("it is not a regular file"));
@@ -63,10 +66,11 @@ Result<QByteArray> readFile(const std::string& path, PropertyListSource source)
         if (file.error() != QFile::NoError) {
             return fail(file.errorString());
         }
-        if (part.isEmpty()) {
+        bytes += part;
+        // QFile fills the part unless the file ends. A terminal would be asked once more.
+        if (part.size() < kPart && bytes.size() <= kLimit) {
             return bytes;
         }
-        bytes += part;
     }
     return fail(tooLarge().text);
 }

@@ -64,7 +64,8 @@ bool isDate(std::string_view text)
 {
     static const QRegularExpression form(
         QStringLiteral(R"(\A\d{4}-\d\d-\d\d(T\d\d(:\d\d(:\d\d)?)?)?Z\z)"));
-    return form.match(QString::fromUtf8(text.data(), static_cast<int>(text.size()))).hasMatch();
+    // As Latin-1, so that a byte-order mark is not passed over.
+    return form.match(QString::fromLatin1(text.data(), static_cast<int>(text.size()))).hasMatch();
 }
 
 // Reading -----------------------------------------------------------------------------------------

@@ -41,7 +41,7 @@ private:
  * Passes the application's proximity events to the responder: after the views have handled all
  * earlier events, and never during a stroke.
  *
- * Main thread only. A sharedInstance() of the responders and queues.
+ * Main thread only. Its sharedInstance() exists while there is a responder or a queue.
  */
 class ProximityRelay final : public QObject {
     Q_OBJECT

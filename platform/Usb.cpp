@@ -322,17 +322,21 @@ public:
 
     std::unique_ptr<UsbDeviceInterface> createDeviceInterface(const UsbService& service) override
     {
-        const auto& found = dynamic_cast<const Service&>(service);
-        return found.interface ? nullptr : std::make_unique<LibusbDevice>(found.device);
+        const auto* const found = dynamic_cast<const Service*>(&service);
+        return found == nullptr || found->interface ? nullptr
+                                                    : std::make_unique<LibusbDevice>(found->device);
     }
 
     std::unique_ptr<UsbInterfaceInterface> createInterfaceInterface(
         const UsbService& service, IOReturn& error) override
     {
-        const auto& found = dynamic_cast<const Service&>(service);
-        error = found.interface ? kIOReturnSuccess : kIOReturnUnsupported;
-        return found.interface ? std::make_unique<LibusbInterface>(found.device, *found.interface)
-                               : nullptr;
+        const auto* const found = dynamic_cast<const Service*>(&service);
+        if (found == nullptr || !found->interface) {
+            error = kIOReturnUnsupported;
+            return nullptr;
+        }
+        error = kIOReturnSuccess;
+        return std::make_unique<LibusbInterface>(found->device, *found->interface);
     }
 };
 

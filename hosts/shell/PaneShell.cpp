@@ -285,6 +285,8 @@ void PaneShell::handleNews(Pane::News news, const QString& text)
         mIsNotTaken = true;
         break;
     case Pane::News::Loaded:
+        mNotLoaded.clear();
+        break;
     case Pane::News::NotLoaded:
         mNotLoaded = text;
         break;

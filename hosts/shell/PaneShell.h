@@ -96,6 +96,7 @@ private:
     int askAboutUnsaved(const platform::Error& error, bool canStay);
     void handleNews(Pane::News news, const QString& text);
     void clearNotices();
+    /** What the line says now: the first of several things that are wrong. */
     Notice notice() const;
     void showNotice();
     void retry();
@@ -103,8 +104,11 @@ private:
     void sendAgain();
     void checkDeviceSoon();
     void checkDevice();
+    /** Shows the pane again without leaving it, so that it saves nothing. */
     void reload();
+    /** Leaves the pane, which saves, and shows it again. */
     void reopen();
+    /** Shows the pane again, once it has been left. */
     void reshow();
     void closeDialogs() const;
 

@@ -3,6 +3,7 @@
 """The command line, with the real driver."""
 
 import json
+import os
 import plistlib
 import re
 import resource
@@ -183,6 +184,17 @@ class Ctl(session.Session):
         path.write_text("<plist><dict>")
         self.assert_result(self.ctl("check", path), 1, "unusable  cannot use ")
         self.assert_result(self.ctl("check", self.home), 1, "Is a directory")
+
+    def test_check_reads_a_terminal_up_to_its_end(self):
+        keyboard, terminal = os.openpty()
+        # Control-D on a line of its own ends the file, once.
+        os.write(keyboard, b"<plist><dict/></plist>\n\x04")
+        result = subprocess.run(
+            [session.BIN / "qvtbltctl", "check", "-"], stdin=terminal, env=self.env,
+            capture_output=True, text=True, timeout=session.PATIENCE)
+        self.assertIn("0 of 102 entries are usable", result.stdout, result)
+        os.close(keyboard)
+        os.close(terminal)
 
     def test_push_sends_the_files_record(self):
         self.assert_result(self.ctl("push"), 1, "", "the driver does not answer")

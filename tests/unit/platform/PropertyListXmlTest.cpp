@@ -153,7 +153,9 @@ TEST(PropertyListXml, refusesRealsAndDatesThatAreNone)
     for (const char* const bad : {"", "1.5x", "1,5", "x", "+", "+-5", "-+5", "1e999x"}) {
         EXPECT_NE(errorOfEntry(std::string("<real>") + bad + "</real>"), "") << bad;
     }
-    for (const char* const bad : {"", "yesterday", "2026-11-21", "2026-11-21T02:46:00"}) {
+    for (const char* const bad : {"", "yesterday", "2026-11-21", "2026-11-21T02:46:00",
+             "\xEF\xBB\xBF"
+             "2026-11-21Z"}) {
         EXPECT_NE(errorOfEntry(std::string("<date>") + bad + "</date>"), "") << bad;
     }
 }
