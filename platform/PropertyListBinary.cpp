@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QString>
+#include <QTimeZone>
 #include <QtEndian>
 
 #include <algorithm>
@@ -49,7 +50,8 @@ std::optional<std::string> dateText(double seconds)
         return std::nullopt;
     }
     const QDateTime date =
-        QDateTime::fromSecsSinceEpoch(static_cast<qint64>(whole + kBegin), Qt::UTC);
+        QDateTime::fromSecsSinceEpoch(static_cast<qint64>(whole + kBegin), QTimeZone::utc())
+            .toUTC();
     if (date.date().year() < 1 || date.date().year() > 9999) {
         return std::nullopt;
     }
