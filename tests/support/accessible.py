@@ -60,6 +60,11 @@ def has_name(thing, name):
     return name in (thing.get_name(), thing.get_description())
 
 
+def role_name(thing):
+    """Returns the name of the accessible's role. Newer libraries call a push button a button."""
+    return "push button" if thing.get_role() == Atspi.Role.PUSH_BUTTON else thing.get_role_name()
+
+
 def describe(thing, path, states):
     """Returns the properties of an accessible, or None if it has disappeared."""
     try:
@@ -69,7 +74,7 @@ def describe(thing, path, states):
         return {
             "application": thing.get_application().get_name(),
             "name": thing.get_name(),
-            "role": thing.get_role_name(),
+            "role": role_name(thing),
             "description": thing.get_description(),
             "labels": labels(thing),
             "path": path,
@@ -104,7 +109,7 @@ def find(things, name, role, showing, inside):
     for thing, path, states in things:
         if path[:len(inside)] == inside and states.contains(Atspi.StateType.SHOWING) == showing:
             try:
-                if has_name(thing, name) and role in ("", thing.get_role_name()):
+                if has_name(thing, name) and role in ("", role_name(thing)):
                     return thing, path, states
             except GLib.Error:
                 pass  # the thing went away while it was looked at
@@ -156,7 +161,7 @@ def listen(name):
                 return
             print(json.dumps({
                 "event": event.type,
-                "role": event.source.get_role_name(),
+                "role": role_name(event.source),
                 "name": event.source.get_name(),
                 "description": event.source.get_description(),
                 "on": event.detail1,
