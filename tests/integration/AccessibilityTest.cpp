@@ -284,7 +284,12 @@ protected:
     static void activate(QWidget& window)
     {
         window.resize(window.sizeHint().expandedTo({900, 660}));
-        QApplication::setActiveWindow(&window);
+        // On the offscreen platform, a window that is hidden keeps the focus. When it is shown
+        // again, it gets it anew only from another one.
+        QWidget other;
+        other.show();
+        ASSERT_TRUE(QTest::qWaitFor([&other] { return other.isActiveWindow(); }, kPatience));
+        window.activateWindow();
         ASSERT_TRUE(QTest::qWaitFor([&window] { return window.isActiveWindow(); }, kPatience));
     }
     QVCalibrateWin& calibrate()
