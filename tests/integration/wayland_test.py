@@ -36,7 +36,7 @@ class WaylandCalibration(wayland.Wayland):
 
     def crosses(self):
         """Returns the numbers of the crosses on the second display."""
-        pixel = self.pixels("Virtual-1")
+        pixel = self.pixels(1)
         return [number for number, (x, y) in enumerate(CROSSES)
                 if any(is_red(pixel(x + 15, y + i)) for i in (-1, 0))
                 and any(is_red(pixel(x + i, y + 15)) for i in (-1, 0))]
@@ -45,11 +45,11 @@ class WaylandCalibration(wayland.Wayland):
         self.press("qvtblt", "Display", "page tab")
         self.press("qvtblt", "Calibrate…", "push button")
         session.wait_for(lambda: self.crosses() == [0], "the first cross")
-        pixel = self.pixels("Virtual-1")
+        pixel = self.pixels(1)
         for x in (0, 640, 1279):
             for y in (0, 600, 719):
                 self.assertTrue(is_yellow(pixel(x, y)), (x, y, pixel(x, y)))
-        first = self.pixels("Virtual-0")
+        first = self.pixels(0)
         self.assertFalse(any(is_yellow(first(x, y))
                              for x in range(0, 1280, 10) for y in range(0, 720, 10)))
 
@@ -59,7 +59,7 @@ class WaylandCalibration(wayland.Wayland):
             self.assertEqual((result.returncode, result.stderr), (0, ""))
         self.find("qvtblt", "The tablet now fits the display. Keep this calibration?")
         self.press("qvtblt", "OK", "push button")
-        session.wait_for(lambda: self.pixels("Virtual-1")(640, 600) == BLACK, "the window's end")
+        session.wait_for(lambda: self.pixels(1)(640, 600) == BLACK, "the window's end")
         self.assertEqual(struct.unpack_from("<4h", self.record(), 295), (1280, 1280, 0, 720))
         self.assertEqual(struct.unpack_from("<4H", self.record(), 303), AREA)
         self.assertEqual(struct.unpack_from("<h", self.record(), 293), (0,))
@@ -68,7 +68,7 @@ class WaylandCalibration(wayland.Wayland):
 class ScaledByTheToolkit(wayland.Wayland):
     def test_the_second_display_is_as_large_as_to_the_compositor(self):
         for settings in ({"QT_SCALE_FACTOR": "1.5"}, {"QT_SCREEN_SCALE_FACTORS": "1;2"},
-                         {"QT_SCREEN_SCALE_FACTORS": "Virtual-1=1.25"}):
+                         {"QT_SCREEN_SCALE_FACTORS": "X11-1=1.25"}):
             with self.subTest(**settings):
                 driver = self.start_driver()
                 config = plistlib.loads(self.config().read_bytes())

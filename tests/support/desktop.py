@@ -30,6 +30,13 @@ class Desktop(session.Session):
 
     def start_display(self):
         """Starts the X server and the window manager."""
+        self.start_x_server()
+        self.start(["openbox"], stdout=subprocess.DEVNULL)
+        session.wait_for(
+            lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.run_program(
+                "xprop", "-root", "_NET_SUPPORTING_WM_CHECK").stdout, "the window manager")
+
+    def start_x_server(self):
         read, write = os.pipe()
         # Without -noreset, the server would reset when its first client disconnects, and drop
         # another that is just connecting.
@@ -38,10 +45,6 @@ class Desktop(session.Session):
         os.close(write)
         with os.fdopen(read) as pipe:
             self.env["DISPLAY"] = ":" + pipe.readline().strip()
-        self.start(["openbox"], stdout=subprocess.DEVNULL)
-        session.wait_for(
-            lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.run_program(
-                "xprop", "-root", "_NET_SUPPORTING_WM_CHECK").stdout, "the window manager")
 
     def has_name(self, name):
         """Whether the name is owned on the bus."""
