@@ -229,6 +229,18 @@ QString QVCalibrateView::spokenContents() const
     return cross < kCrossTexts.size() ? tr(kCrossTexts[cross]) : QString();
 }
 
+void QVCalibrateView::paintEvent(QPaintEvent* event)
+{
+    PaneView::paintEvent(event);
+    if (mOpacity < 1) {
+        // What was just drawn is opaque and covers what was there before, so that the result does
+        // not depend on it.
+        QPainter painter(this);
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        painter.fillRect(rect(), QColor(0, 0, 0, qRound(255 * mOpacity)));
+    }
+}
+
 void QVCalibrateView::drawRect(QPainter& painter, const Rect& dirty)
 {
     painter.fillRect(QRectF(dirty.x, dirty.y, dirty.width, dirty.height), fillColor);

@@ -38,6 +38,8 @@ public:
     void setDrawEraseFlag(std::int32_t flag);
     /** Sets the background colour. */
     void setColor(const QColor& color) { fillColor = color; }
+    /** Makes the view translucent, for windows that cannot be as a whole. */
+    void setOpacity(double opacity) { mOpacity = opacity; }
 
     /** Adds to the number of accepted points. @return the previous number */
     std::int32_t changenPointValue(std::int32_t delta)
@@ -73,6 +75,7 @@ public:
     QString spokenContents() const override;
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void drawRect(QPainter& painter, const platform::Rect& dirty) override;
 
 private:
@@ -80,6 +83,7 @@ private:
     void eraseCross(std::int32_t cross);
 
     QColor fillColor = Qt::transparent;
+    double mOpacity = 1;
     std::int32_t drawflag = kDrawCross;
     std::int32_t nPoint = 0; ///< points accepted in this round: 0 to 4
     std::optional<QVTabletArea> mAreaBefore; ///< set while the area in the record is not confirmed

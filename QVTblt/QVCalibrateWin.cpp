@@ -6,7 +6,6 @@
 #include "QVNSView.h"
 #include "rzkApplication.h"
 
-#include <QGraphicsOpacityEffect>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScreen>
@@ -65,9 +64,7 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     setAttribute(Qt::WA_DeleteOnClose);
     if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
         // On Wayland, windows have no opacity, but their contents have.
-        auto* const effect = new QGraphicsOpacityEffect(mView);
-        effect->setOpacity(kOpacity);
-        mView->setGraphicsEffect(effect);
+        mView->setOpacity(kOpacity);
         setAttribute(Qt::WA_TranslucentBackground);
     } else {
         setWindowOpacity(kOpacity);

@@ -41,20 +41,25 @@ class WaylandCalibration(wayland.Wayland):
                 if any(is_red(pixel(x + 15, y + i)) for i in (-1, 0))
                 and any(is_red(pixel(x + i, y + 15)) for i in (-1, 0))]
 
+    def check_opacity(self):
+        """Looks between the crosses and beside each of them, where the window is drawn again."""
+        pixel = self.pixels(1)
+        for x in (0, 40, 640, 1240, 1279):
+            for y in (0, 10, 40, 600, 660, 719):
+                self.assertTrue(is_yellow(pixel(x, y)), (x, y, pixel(x, y)))
+
     def test_it_covers_the_chosen_display_and_runs_to_its_end(self):
         self.press("qvtblt", "Display", "page tab")
         self.press("qvtblt", "Calibrate…", "push button")
         session.wait_for(lambda: self.crosses() == [0], "the first cross")
-        pixel = self.pixels(1)
-        for x in (0, 640, 1279):
-            for y in (0, 600, 719):
-                self.assertTrue(is_yellow(pixel(x, y)), (x, y, pixel(x, y)))
+        self.check_opacity()
         first = self.pixels(0)
         self.assertFalse(any(is_yellow(first(x, y))
                              for x in range(0, 1280, 10) for y in range(0, 720, 10)))
 
         for number, (x, y) in enumerate(TAPS):
             session.wait_for(lambda number=number: self.crosses() == [number], f"cross {number}")
+            self.check_opacity()
             result = self.ctl("sim", "tap", x, y)
             self.assertEqual((result.returncode, result.stderr), (0, ""))
         self.find("qvtblt", "The tablet now fits the display. Keep this calibration?")

@@ -647,6 +647,19 @@ TEST_F(Calibration, theKeysSAndEShowAndEraseTheFirstCrossOnly)
     EXPECT_EQ(points(), 2);
 }
 
+TEST_F(Calibration, aTranslucentViewStaysSoWhenItIsDrawnOverItself)
+{
+    start();
+    view().setOpacity(0.7);
+    QImage image(view().size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    for (int i = 0; i < 3; ++i) {
+        view().render(&image, {}, {}, QWidget::RenderFlags());
+        EXPECT_EQ(image.pixelColor(image.rect().center()).alpha(), 179);
+        EXPECT_EQ(image.pixelColor(5, 5), QColor(255, 255, 0, 179));
+    }
+}
+
 TEST_F(Calibration, afterTheKeySTheNextLiftIsStillTheNextPoint)
 {
     start();
