@@ -10,6 +10,7 @@ import desktop
 import session
 
 PLUGINS = sys.argv.pop(1)
+PLASMA = "6" if "/qt6/" in PLUGINS else "5"
 
 STRIP = "Left scroll strip"
 
@@ -19,7 +20,7 @@ class Host(desktop.Desktop):
         super().setUp()
         self.env |= {
             "KDE_FULL_SESSION": "true",
-            "KDE_SESSION_VERSION": "5",
+            "KDE_SESSION_VERSION": PLASMA,
             "QT_PLUGIN_PATH": PLUGINS,
             "QT_QUICK_BACKEND": "software",
             "XDG_CURRENT_DESKTOP": "KDE",

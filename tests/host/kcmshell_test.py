@@ -12,12 +12,12 @@ import unittest
 import host
 import session
 
-APPLICATION = "kcmshell5"
+APPLICATION = "kcmshell" + host.PLASMA
 
 
 class KcmShell(host.Host):
     def start_shell(self, *modules):
-        shell = self.start_host("kcmshell5", *(modules or ["kcm_qvtblt"]))
+        shell = self.start_host(APPLICATION, *(modules or ["kcm_qvtblt"]))
         self.find(APPLICATION, host.STRIP, "check box")
         return shell
 
@@ -68,7 +68,7 @@ class KcmShell(host.Host):
 
     def test_shows_the_label_without_a_tablet(self):
         self.start_driver_with_log("--attach", "none")
-        self.start_host("kcmshell5", "kcm_qvtblt")
+        self.start_host(APPLICATION, "kcm_qvtblt")
         self.find(APPLICATION, "No tablet was found", "label")
         self.wait_for_button(APPLICATION, "Apply", False)
 
@@ -83,7 +83,7 @@ class KcmShell(host.Host):
                 ("pt", "The tablet's settings cannot be shown.")):
             with self.subTest(language):
                 self.env["LANGUAGE"] = language
-                shell = self.start_host("kcmshell5", "kcm_qvtblt")
+                shell = self.start_host(APPLICATION, "kcm_qvtblt")
                 session.wait_for(lambda: any(thing["name"].startswith(text + "\n")
                                              for thing in self.things(APPLICATION)), text)
                 shell.kill()

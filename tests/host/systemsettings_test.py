@@ -15,6 +15,8 @@ import host
 import session
 
 APPLICATION = "systemsettings"
+# Where the result of a search stands in the window, below the categories that it is in.
+RESULTS = {"associations": (113, 119), "stylus": (113, 119 if host.PLASMA == "5" else 89)}
 PAGES = {"Keys": "keys", "Pen": "pen", "Display": "display"}
 
 
@@ -41,7 +43,8 @@ class SystemSettings(host.Host):
     def title(self):
         """Returns the window's accessible name, which is that of the module."""
         return next((thing["name"].strip() for thing in self.things(APPLICATION)
-                     if thing["role"] == "frame" and thing["showing"]), None)
+                     if thing["role"] == "frame" and thing["showing"] and len(thing["path"]) == 2),
+                    None)
 
     def point(self, x, y):
         """Clicks into the window. The list at the side is not accessible to screen readers."""
@@ -54,12 +57,12 @@ class SystemSettings(host.Host):
         self.xdotool("key", "ctrl+a", "type", word)
 
         def click():
-            self.point(113, 119)  # below the two headings
+            self.point(*RESULTS[word])
             return arrived()
         session.wait_for(click, f"what '{word}' leads to")
 
     def leave_for_another(self):
-        self.go("samba", lambda: self.title() == "Windows Shares")
+        self.go("associations", lambda: self.title() == "File Associations")
 
     def test_is_found_by_what_it_is_for(self):
         self.start_driver_with_log()
@@ -78,7 +81,7 @@ class SystemSettings(host.Host):
             tabs = self.find(APPLICATION, page, "page tab list")  # it has the current page's name
             things = self.things(APPLICATION)
             pages, = [thing for thing in things if thing["path"] == tabs["path"][:-1]]
-            window = next(thing for thing in things if thing["role"] == "frame")
+            window = next(thing for thing in things if thing["path"] == pages["path"][:2])
             apply = self.find(APPLICATION, "Apply", "push button")
             self.assertLessEqual(pages["x"] + pages["width"], window["x"] + window["width"])
             self.assertLessEqual(pages["y"] + pages["height"], apply["y"])
@@ -144,8 +147,8 @@ class SystemSettings(host.Host):
         self.start_driver_with_log()
         self.start_at_the_module()
         self.edit(APPLICATION)
-        self.go("samba", lambda: [thing for thing in self.things(APPLICATION)
-                                  if thing["name"] == "Discard" and thing["showing"]])
+        self.go("associations", lambda: [thing for thing in self.things(APPLICATION)
+                                         if thing["name"] == "Discard" and thing["showing"]])
         self.press("Discard")
         session.wait_for(self.driver_strip, "the driver")
         session.wait_for(lambda: not [thing for thing in self.things(APPLICATION)
