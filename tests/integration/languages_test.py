@@ -238,7 +238,7 @@ class Choice(desktop.Desktop):
                 panel.wait(timeout=session.PATIENCE)
 
     # From the dialog for choosing an application, which is Qt's.
-    QT_TEXTS = {"en": "Look in:", "fr": "Voir dans :", "zh-Hans": "查找范围："}
+    QT_TEXTS = {"en": "Parent Directory", "fr": "Dossier parent", "zh-Hans": "父目录"}
 
     def test_qts_own_texts_are_in_the_language_of_the_panel(self):
         self.start_driver()
