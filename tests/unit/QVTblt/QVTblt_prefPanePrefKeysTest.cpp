@@ -904,7 +904,7 @@ TEST_F(KeyPage, aCombinationIsStoredShownCommittedAndPushedOnce)
 TEST_F(KeyPage, aCancelledDialogChangesNothingAndPushesNothing)
 {
     for (const auto& [valid, item] : {std::pair(kQVNextDisplay, 7), {kQVFinePositioning, 8}}) {
-        edit([valid = valid](tagQVTabletInfo& record) { record.Key.SubKey[2].Valid = valid; });
+        edit([number = valid](tagQVTabletInfo& record) { record.Key.SubKey[2].Valid = number; });
         show();
         const tagQVTabletInfo before = qvTabletInfo;
         chooseKeys(box(2), [](QVKeySetClass& dialog) { click(dialog, {"keyZ", "cancelBtn"}); });
