@@ -1,12 +1,14 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
 
-# The Debian packages, one for each component. A build tree builds those for its version of Qt;
-# make-packages builds them all.
-if(QT_MAJOR_VERSION EQUAL 5)
-    set(CPACK_COMPONENTS_ALL kcm-qvtblt)
-else()
-    set(CPACK_COMPONENTS_ALL qvtblt qvtblt-dev tdsg-driver)
+# The Debian packages, one for each component. Those for programs are made with Qt 6, that for System
+# Settings with the Qt of the release's Plasma; make-packages makes them all.
+set(CPACK_COMPONENTS_ALL)
+if(QT_MAJOR_VERSION EQUAL 6)
+    list(APPEND CPACK_COMPONENTS_ALL qvtblt qvtblt-dev tdsg-driver)
+endif()
+if(TARGET kcm_qvtblt)
+    list(APPEND CPACK_COMPONENTS_ALL kcm-qvtblt)
 endif()
 
 # In a machine-readable copyright file, an empty line is a dot.
@@ -54,8 +56,8 @@ effect at once.
 This package contains the panel in a window of its own, and qvtbltctl, which
 does the same from the command line.")
 
-# The module for Qt 5 shares texts, pictures and the udev rule with the window, so it depends on the
-# package qvtblt of the same version.
+# The module shares texts, pictures and the udev rule with the window, and the one for Plasma 6 also
+# the panel itself, so it depends on the package qvtblt of the same version.
 set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_NAME kcm-qvtblt)
 set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_SECTION kde)
 set(CPACK_DEBIAN_KCM-QVTBLT_PACKAGE_DEPENDS "qvtblt (= ${PROJECT_VERSION})")
@@ -65,8 +67,8 @@ Sets what each button of the tablet and the pen does, how the pen responds to
 pressure, and which part of the screen the tablet covers. Every change takes
 effect at once.
 
-This package contains the panel as a module of System Settings, under Input
-Devices.")
+This package contains the panel as the module Quorvia Tablet of System
+Settings.")
 
 set(CPACK_DEBIAN_QVTBLT-DEV_PACKAGE_NAME qvtblt-dev)
 set(CPACK_DEBIAN_QVTBLT-DEV_PACKAGE_SECTION libdevel)
