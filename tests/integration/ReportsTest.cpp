@@ -259,8 +259,8 @@ TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
     EXPECT_EQ(seen, all) << "every event came, in order";
     EXPECT_EQ(points(), 0) << "of every event, every odd item was read, and no other";
     EXPECT_EQ(mDriver.pushes(), 1 + 19);
-    // A panel that handles the flood first would answer every click after it. The time of an answer,
-    // and how many clicks come before the end, depend on the machine.
+    // A panel that handles the flood first would answer every click after it. The time of an
+    // answer, and how many clicks come before the end, depend on the machine.
     EXPECT_GE(answeredInTheFlood, 1);
 
     send(mDriver.peer(), {item(report(1, 5000, 5000)), item({}), item(report(0, 5000, 5000))});
