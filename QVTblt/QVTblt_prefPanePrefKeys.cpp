@@ -29,7 +29,7 @@ namespace {
 constexpr std::size_t kBankSize = 8;
 
 /** Distance from a box to its number, in points. */
-constexpr double kLabelDistance = 32.0;
+constexpr double kLabelDistance = 20.0;
 
 /** What an item of a button's list stores in the button's slot. */
 struct Choice {

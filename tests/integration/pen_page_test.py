@@ -168,9 +168,9 @@ class AnotherScreen(Panel, displays.Displays):
         # There, everything is twice as large; the drawn stroke is cleared, and continues.
         place = [1064 + 2 * (self.pad["x"] - left), 120 + 2 * (self.pad["y"] - top)]
         self.wait_for_pixel((place[0] + 10, place[1]), GREY)
-        for step in (60, 70):
-            self.xdotool("mousemove", place[0] + step, place[1] + 80)
-        self.wait_for_pixel((place[0] + 65, place[1] + 80), BLACK)
+        for step in (60, 70):  # above what the smaller window hides
+            self.xdotool("mousemove", place[0] + step, place[1] + 30)
+        self.wait_for_pixel((place[0] + 65, place[1] + 30), BLACK)
         self.xdotool("mouseup", 1)
         self.assertEqual(self.pixel(place[0] + 10, place[1]), GREY)
 

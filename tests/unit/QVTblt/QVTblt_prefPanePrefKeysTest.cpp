@@ -487,7 +487,7 @@ TEST_F(KeyPage, theNumbersStandBesideTheirBoxes)
             std::string label = name(i);
             label.replace(1, 3, "Label");
             const Rect box = frame(name(i));
-            EXPECT_EQ(frame(label), (Rect{box.x - 32, box.y, 26, box.height})) << model.name << i;
+            EXPECT_EQ(frame(label), (Rect{box.x - 20, box.y, 18, box.height})) << model.name << i;
             EXPECT_EQ(enabled(label), enabled(name(i))) << model.name << i;
         }
         leave();
