@@ -52,9 +52,13 @@ QHash<QString, QString> readTable(const std::optional<QString>& path)
         return strings;
     }
     for (const std::string& key : list->root().keys()) {
-        if (const auto text = list->root().string(key.c_str())) {
-            strings.insert(QString::fromStdString(key),
-                QString::fromUtf8(text->data(), static_cast<int>(text->size())));
+        const QString name = QString::fromStdString(key);
+        const auto text = list->root().string(key.c_str());
+        // A key that changes on the way, as one that is only a byte-order mark, would take the place
+        // of another.
+        if (text && name.toStdString() == key) {
+            strings.insert(
+                name, QString::fromUtf8(text->data(), static_cast<int>(text->size())));
         }
     }
     return strings;

@@ -160,6 +160,13 @@ TEST_F(BundleFolder, givesTheValueAndElseTheKeyWhereNoTableHasIt)
         QStringLiteral("Key"));
 }
 
+TEST_F(BundleFolder, takesNoTextOfAKeyThatOnlyLooksTheSame)
+{
+    add("de", "<key>Hello</key><string>Servus</string>"
+              "<key>\xEF\xBB\xBFHello</key><string>with a byte-order mark</string>");
+    EXPECT_EQ(lookUp("de", "Hello"), QStringLiteral("Servus"));
+}
+
 TEST_F(BundleFolder, findsResourcesByNameAndExactType)
 {
     writeFile(mHome.path() + QStringLiteral("/picture.PNG"), "x");
