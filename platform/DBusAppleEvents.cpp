@@ -93,7 +93,13 @@ public:
         : mName(QStringLiteral("org.quorvia.AppleEvents-%1").arg(reinterpret_cast<quintptr>(this)))
     {
     }
-    ~Private() override { disconnect(); }
+    ~Private() override
+    {
+        // Before the connection: Qt 5 may free a call twice that is dropped while its connection
+        // closes in another thread.
+        qDeleteAll(mPending);
+        disconnect();
+    }
 
     bool isConnected() const { return mConnection && mConnection->isConnected(); }
 
