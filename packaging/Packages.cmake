@@ -72,7 +72,7 @@ Settings.")
 
 set(CPACK_DEBIAN_QVTBLT-DEV_PACKAGE_NAME qvtblt-dev)
 set(CPACK_DEBIAN_QVTBLT-DEV_PACKAGE_SECTION libdevel)
-set(CPACK_DEBIAN_QVTBLT-DEV_PACKAGE_DEPENDS "qt6-base-dev, qvtblt (= ${PROJECT_VERSION})")
+set(CPACK_DEBIAN_QVTBLT-DEV_PACKAGE_DEPENDS "libexpat1-dev, qt6-base-dev, qvtblt (= ${PROJECT_VERSION})")
 set(CPACK_DEBIAN_QVTBLT-DEV_DESCRIPTION "settings panel of the Quorvia pen tablet, for developers
 Sets what each button of the tablet and the pen does, how the pen responds to
 pressure, and which part of the screen the tablet covers. Every change takes

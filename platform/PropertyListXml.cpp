@@ -3,17 +3,19 @@
 #include "PropertyListNode.h"
 
 #include <QRegularExpression>
-#include <QXmlStreamReader>
 #include <QtEndian>
 
 #include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <expat.h>
 #include <limits>
 #include <locale>
+#include <memory>
 #include <sstream>
 #include <utility>
+#include <vector>
 
 namespace platform {
 
@@ -23,7 +25,7 @@ using Node = PropertyListNode;
 using Kind = Node::Kind;
 
 struct Tag {
-    const char* name;
+    std::string_view name;
     Kind kind;
 };
 
@@ -32,16 +34,24 @@ constexpr std::array<Tag, 9> kTags{{{"integer", Kind::Integer}, {"string", Kind:
     {"dict", Kind::Dictionary}, {"true", Kind::True}, {"false", Kind::False}, {"real", Kind::Real},
     {"array", Kind::Array}, {"data", Kind::Data}, {"date", Kind::Date}}};
 
-const char* tagName(Kind kind)
+std::string_view tagName(Kind kind)
 {
     return std::ranges::find(kTags, kind, &Tag::kind)->name;
 }
 
+bool isBlank(char c)
+{
+    return c == ' ' || c == '\t' || c == '\r' || c == '\n';
+}
+
 std::string_view trimmed(std::string_view text)
 {
-    constexpr std::string_view kBlanks = " \t\r\n";
-    text = text.substr(0, text.find_last_not_of(kBlanks) + 1);
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    while (!text.empty() && isBlank(text.back())) {
+        text.remove_suffix(1);
+    }
+    while (!text.empty() && isBlank(text.front())) {
+        text.remove_prefix(1);
+    }
     return text;
 }
 
@@ -70,220 +80,210 @@ bool isDate(std::string_view text)
 
 // Reading -----------------------------------------------------------------------------------------
 
+/** UTF-16 in UTF-8; nothing if it is not valid. */
+std::optional<std::string> fromUtf16(std::string_view bytes)
+{
+    const auto* const raw = reinterpret_cast<const unsigned char*>(bytes.data());
+    const bool isBigEndian = raw[0] == 0xFE || raw[0] == 0;
+    const std::size_t mark = raw[0] >= 0xFE ? 2 : 0;
+    QString text(static_cast<int>((bytes.size() - mark) / 2), Qt::Uninitialized);
+    if (isBigEndian) {
+        qFromBigEndian<quint16>(raw + mark, text.size(), text.data());
+    } else {
+        qFromLittleEndian<quint16>(raw + mark, text.size(), text.data());
+    }
+    if (bytes.size() % 2 != 0 || !text.isValidUtf16()) {
+        return std::nullopt;
+    }
+    return text.toStdString();
+}
+
+/** Builds the tree from the parser's events. After the first error, the rest is ignored. */
 class XmlReader {
 public:
-    explicit XmlReader(std::string_view bytes)
-        : mBytes(bytes)
+    Result<Node> read(std::string_view bytes)
     {
-        // Tags are identified by their qualified names.
-        mXml.setNamespaceProcessing(false);
-        const auto* const raw = reinterpret_cast<const unsigned char*>(bytes.data());
-        // UTF-16 is detected by its byte-order mark, or the NUL beside the first '<'. The reader
-        // gets it decoded, whatever byte order is declared.
+        // Detected by its byte-order mark, or the NUL beside the first '<', whatever is declared.
         const bool isWide = bytes.size() >= 2
-            && ((raw[0] == 0xFF && raw[1] == 0xFE) || (raw[0] == 0xFE && raw[1] == 0xFF)
-                || (raw[0] == '<' && raw[1] == 0) || (raw[0] == 0 && raw[1] == '<'));
-        if (!isWide) {
-            mXml.addData(QByteArray::fromRawData(bytes.data(), static_cast<int>(bytes.size())));
-            return;
-        }
-        const bool isBigEndian = raw[0] == 0xFE || raw[0] == 0;
-        const std::size_t mark = raw[0] >= 0xFE ? 2 : 0;
-        QString text(static_cast<int>((bytes.size() - mark) / 2), Qt::Uninitialized);
-        if (isBigEndian) {
-            qFromBigEndian<quint16>(raw + mark, text.size(), text.data());
-        } else {
-            qFromLittleEndian<quint16>(raw + mark, text.size(), text.data());
-        }
-        mIsDecoded = true;
-        if (bytes.size() % 2 != 0 || !text.isValidUtf16()) {
-            refuse("it is not valid UTF-16");
-        }
-        mXml.addData(text);
-    }
-
-    Result<Node> read()
-    {
-        Node root;
-        const bool hasRoot = next() && (mXml.name() != QLatin1String("plist") || next());
-        if (hasRoot) {
-            readValue(root, 0);
-        }
-        while (mWhy.empty() && !mXml.atEnd()) {
-            if (next() && kind()) {
-                refuse("a second list follows the first");
+            && (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")
+                || (bytes[0] == '<' && bytes[1] == 0) || (bytes[0] == 0 && bytes[1] == '<'));
+        std::optional<std::string> decoded;
+        if (isWide) {
+            decoded = fromUtf16(bytes);
+            if (!decoded) {
+                return Error{QStringLiteral("it is not valid UTF-16")};
             }
+            bytes = *decoded;
         }
-        if (mXml.hasError()) {
-            // Qt quotes the unexpected text, including control characters.
-            QString text = mXml.errorString();
-            for (QChar& c : text) {
-                c = c.isPrint() ? c : QChar(u'?');
-            }
-            refuse(text.toStdString() + " (line " + std::to_string(mXml.lineNumber()) + ")");
-        }
-        if (!hasRoot) {
+        const std::unique_ptr<XML_ParserStruct, decltype(&XML_ParserFree)> parser(
+            XML_ParserCreate(isWide ? "UTF-8" : nullptr), &XML_ParserFree);
+        mParser = parser.get();
+        setHandlers();
+        if (XML_Parse(mParser, bytes.data(), static_cast<int>(bytes.size()), XML_TRUE)
+            == XML_STATUS_ERROR) {
+            // If a handler has stopped it, its reason stays.
+            refuse(mMayBeUtf8 && !isUtf8(bytes)
+                    ? "it is not valid UTF-8"
+                    : XML_ErrorString(XML_GetErrorCode(mParser)) + line());
+        } else if (!mHasRoot) {
             refuse("it contains no value");
         }
         if (!mWhy.empty()) {
             return Error{QString::fromStdString(mWhy)};
         }
-        return root;
+        return std::move(mRoot);
     }
 
 private:
+    static XmlReader& reader(void* self) { return *static_cast<XmlReader*>(self); }
+
+    void setHandlers()
+    {
+        XML_SetUserData(mParser, this);
+        XML_SetElementHandler(
+            mParser,
+            [](void* self, const XML_Char* name, const XML_Char** /*attributes*/) {
+                reader(self).start(name);
+            },
+            [](void* self, const XML_Char* /*name*/) { reader(self).end(); });
+        XML_SetCharacterDataHandler(mParser, [](void* self, const XML_Char* text, int length) {
+            reader(self).addText({text, static_cast<std::size_t>(length)});
+        });
+        XML_SetXmlDeclHandler(mParser,
+            [](void* self, const XML_Char* /*version*/, const XML_Char* encoding, int /*alone*/) {
+                reader(self).mMayBeUtf8 = encoding == nullptr || qstricmp(encoding, "UTF-8") == 0;
+            });
+        // No list needs its own entities, so they are never expanded.
+        XML_SetStartDoctypeDeclHandler(mParser,
+            [](void* self, const XML_Char* /*name*/, const XML_Char* /*system*/,
+                const XML_Char* /*public*/, int hasDefinitions) {
+                if (hasDefinitions != 0) {
+                    reader(self).refuse("a document type with definitions");
+                }
+            });
+        XML_SetSkippedEntityHandler(
+            mParser, [](void* self, const XML_Char* /*name*/, int /*isParameter*/) {
+                reader(self).refuse("an entity that is not defined");
+            });
+    }
+
+    std::string line() const
+    {
+        return " (line " + std::to_string(XML_GetCurrentLineNumber(mParser)) + ")";
+    }
+
+    /** Keeps the first reason, and ends the parsing. */
     void refuse(std::string why)
     {
         if (mWhy.empty()) {
             mWhy = std::move(why);
+            XML_StopParser(mParser, XML_FALSE);
         }
     }
 
-    /** Advances to the next child element. @return false at the parent's end or on an error */
-    bool next()
+    void start(std::string_view name)
     {
-        while (mWhy.empty()) {
-            switch (mXml.readNext()) {
-            case QXmlStreamReader::StartDocument:
-                checkEncoding();
-                break;
-            case QXmlStreamReader::DTD:
-                // No list needs its own entities, so they are never expanded.
-                if (mXml.text().contains(QLatin1Char('['))) {
-                    refuse("a document type with definitions");
-                }
-                break;
-            case QXmlStreamReader::StartElement:
-                return true;
-            case QXmlStreamReader::EndElement:
-            case QXmlStreamReader::EndDocument:
-            case QXmlStreamReader::Invalid:
-                return false;
-            case QXmlStreamReader::Characters:
-                if (!mXml.isWhitespace()) {
-                    refuse(
-                        "text instead of a value (line " + std::to_string(mXml.lineNumber()) + ")");
-                }
-                break;
-            case QXmlStreamReader::EntityReference:
-                refuse("an entity that is not defined");
-                break;
-            default:
-                break;
+        if (!mWhy.empty()) {
+            return;
+        }
+        if (mText != nullptr) {
+            refuse(shown(*mText) + " is interrupted");
+        } else if (mOpen.empty()) {
+            startOutermost(name);
+        } else if (mOpen.back()->kind == Kind::Dictionary && !mHasKey) {
+            startKey(name);
+        } else {
+            Node& parent = *mOpen.back();
+            startValue(mHasKey ? parent.parts.back() : parent.parts.emplace_back(), name);
+            mHasKey = false;
+        }
+    }
+
+    /** The list itself, or the element "plist" around it. */
+    void startOutermost(std::string_view name)
+    {
+        const bool isFirst = std::exchange(mIsFirst, false);
+        if (isFirst && name == "plist") {
+            return;
+        }
+        if (std::exchange(mHasRoot, true)) {
+            if (kindOf(name)) {
+                refuse("a second list follows the first");
             }
+            return;
         }
-        return false;
+        startValue(mRoot, name);
     }
 
-    /** Rejects invalid UTF-8; in other encodings, decoding errors show in the texts. */
-    void checkEncoding()
+    void startKey(std::string_view name)
     {
-        const QString encoding = mXml.documentEncoding().toString().toUpper();
-        const bool isUtf8Declared = encoding.isEmpty() || encoding == QLatin1String("UTF-8")
-            || encoding == QLatin1String("US-ASCII");
-        if (!mIsDecoded && isUtf8Declared) {
-            mIsDecoded = true;
-            if (!isUtf8(mBytes)) {
-                refuse("it is not valid UTF-8");
-            }
+        if (name == "key") {
+            mText = &mOpen.back()->parts.emplace_back().key;
+        } else if (kindOf(name)) {
+            refuse("a value without a key");
         }
     }
 
-    /** The kind of value; rejects an unknown tag. */
-    std::optional<Kind> kind()
+    void startValue(Node& node, std::string_view name)
     {
-        const auto name = mXml.name();
-        const auto* const tag = std::ranges::find_if(
-            kTags, [&](const Tag& known) { return name == QLatin1String(known.name); });
-        if (tag != kTags.end()) {
-            return tag->kind;
-        }
-        refuse(name == QLatin1String("key")
-                ? "a key instead of a value"
-                : "unknown tag " + shown(name.toString().toStdString()));
-        return std::nullopt;
-    }
-
-    /** Reads the element's value, up to its end. @param depth containers around it */
-    void readValue(Node& node, int depth)
-    {
-        const std::optional<Kind> itsKind = kind();
-        if (!itsKind) {
+        const std::optional<Kind> kind = kindOf(name);
+        if (!kind) {
             return;
         }
         if (++mNodes > kPropertyListMaxNodes) {
             refuse(propertyListTooManyNodes());
             return;
         }
-        node.kind = *itsKind;
+        node.kind = *kind;
         if (!node.isContainer()) {
-            readText(node.text);
-            check(node);
-            return;
-        }
-        if (depth == kPropertyListMaxDepth) {
+            mScalar = &node;
+            mText = &node.text;
+        } else if (mOpen.size() == std::size_t{kPropertyListMaxDepth}) {
             refuse(propertyListTooDeep());
+        } else {
+            mOpen.push_back(&node);
+        }
+    }
+
+    void end()
+    {
+        if (!mWhy.empty()) {
             return;
         }
-        while (next()) {
-            Node& part = node.parts.emplace_back();
-            if (node.kind != Kind::Dictionary || readKey(part.key)) {
-                readValue(part, depth + 1);
-            }
-        }
-        node.dropOlderValues();
-    }
-
-    /** Reads a key and goes on to its value. @return whether a value follows */
-    bool readKey(std::string& key)
-    {
-        if (mXml.name() != QLatin1String("key")) {
-            if (kind()) {
-                refuse("a value without a key");
-            }
-            return false;
-        }
-        readText(key);
-        if (next()) {
-            return true;
-        }
-        if (!mXml.hasError()) {
+        if (mScalar != nullptr) {
+            check(*mScalar);
+            mScalar = nullptr;
+            mText = nullptr;
+        } else if (mText != nullptr) {
+            mHasKey = true;
+            mText = nullptr;
+        } else if (mHasKey) {
             refuse("a key without a value");
+        } else if (!mOpen.empty()) {
+            mOpen.back()->dropOlderValues();
+            mOpen.pop_back();
         }
-        return false;
     }
 
-    /** Reads to the end of the element. Comments in between are not part of its text. */
-    void readText(std::string& text)
+    /** A text may come in parts. */
+    void addText(std::string_view text)
     {
-        for (;;) {
-            switch (mXml.readNext()) {
-            case QXmlStreamReader::Characters: {
-                const auto part = mXml.text();
-                if (!mIsDecoded && part.contains(QChar(QChar::ReplacementCharacter))) {
-                    refuse("it is not in the encoding that it declares");
-                }
-                const bool isAscii =
-                    std::ranges::all_of(part, [](QChar c) { return c.unicode() < 0x80; });
-                if (isAscii) { // as nearly always: it need not be encoded
-                    std::ranges::transform(
-                        part, std::back_inserter(text), [](QChar c) { return c.toLatin1(); });
-                } else {
-                    text += part.toUtf8().toStdString();
-                }
-                break;
-            }
-            case QXmlStreamReader::Comment:
-            case QXmlStreamReader::ProcessingInstruction:
-                break;
-            case QXmlStreamReader::EndElement:
-            case QXmlStreamReader::Invalid:
-                return;
-            default:
-                refuse(shown(text) + " is interrupted");
-                return;
-            }
+        if (mText != nullptr) {
+            mText->append(text);
+        } else if (!std::ranges::all_of(text, isBlank)) {
+            refuse("text instead of a value" + line());
         }
+    }
+
+    /** The kind of value; rejects an unknown tag. */
+    std::optional<Kind> kindOf(std::string_view name)
+    {
+        const auto* const tag = std::ranges::find(kTags, name, &Tag::name);
+        if (tag != kTags.end()) {
+            return tag->kind;
+        }
+        refuse(name == "key" ? "a key instead of a value" : "unknown tag " + shown(name));
+        return std::nullopt;
     }
 
     /** Rejects an invalid scalar. */
@@ -318,11 +318,18 @@ private:
         }
     }
 
-    std::string_view mBytes;
-    QXmlStreamReader mXml;
-    bool mIsDecoded = false; ///< encoding errors have already been detected
+    XML_Parser mParser = nullptr;
+    bool mMayBeUtf8 = true; ///< no other encoding is declared
+    Node mRoot;
+    bool mIsFirst = true; ///< no element has begun
+    bool mHasRoot = false;
+    std::vector<Node*> mOpen; ///< the containers around the next element
+    bool mHasKey = false; ///< the innermost dictionary's last part has a key, but no value
+    Node* mScalar = nullptr; ///< the scalar whose text is being read
+    std::string* mText =
+        nullptr; ///< where the text goes that is being read: a scalar's, or a key's
     std::size_t mNodes = 0;
-    std::string mWhy;
+    std::string mWhy; ///< why the list is rejected
 };
 
 // Writing -----------------------------------------------------------------------------------------
@@ -384,7 +391,7 @@ void writeNode(std::string& xml, const Node& node, std::size_t depth)
 
 Result<PropertyListNode> readXmlPropertyList(std::string_view bytes)
 {
-    return XmlReader(bytes).read();
+    return XmlReader().read(bytes);
 }
 
 std::string writeXmlPropertyList(const PropertyListNode& root)
