@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QListView>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
 #include <QStyledItemDelegate>
@@ -140,6 +141,9 @@ QVKeyComboBox::QVKeyComboBox(QWidget* parent)
     setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setItemDelegate(new ItemDelegate(this));
+    if (auto* const list = qobject_cast<QListView*>(view())) {
+        list->setUniformItemSizes(true); // otherwise each click lays out every item's text
+    }
     resetItems();
 }
 
