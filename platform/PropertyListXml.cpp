@@ -30,9 +30,9 @@ struct Tag {
 };
 
 /** Most frequent first. */
-constexpr std::array<Tag, 9> kTags{{{"integer", Kind::Integer}, {"string", Kind::String},
+constexpr auto kTags = std::to_array<Tag>({{"integer", Kind::Integer}, {"string", Kind::String},
     {"dict", Kind::Dictionary}, {"true", Kind::True}, {"false", Kind::False}, {"real", Kind::Real},
-    {"array", Kind::Array}, {"data", Kind::Data}, {"date", Kind::Date}}};
+    {"array", Kind::Array}, {"data", Kind::Data}, {"date", Kind::Date}});
 
 std::string_view tagName(Kind kind)
 {
@@ -80,17 +80,14 @@ bool isDate(std::string_view text)
 
 // Reading -----------------------------------------------------------------------------------------
 
-/** UTF-16 in UTF-8; nothing if it is not valid. */
+/** UTF-16 in UTF-8, with its byte-order mark; nothing if it is not valid. */
 std::optional<std::string> fromUtf16(std::string_view bytes)
 {
-    const auto* const raw = reinterpret_cast<const unsigned char*>(bytes.data());
-    const bool isBigEndian = raw[0] == 0xFE || raw[0] == 0;
-    const std::size_t mark = raw[0] >= 0xFE ? 2 : 0;
-    QString text(static_cast<int>((bytes.size() - mark) / 2), Qt::Uninitialized);
-    if (isBigEndian) {
-        qFromBigEndian<quint16>(raw + mark, text.size(), text.data());
+    QString text(static_cast<int>(bytes.size() / 2), Qt::Uninitialized);
+    if (bytes.front() == '\xFE' || bytes.front() == '\0') {
+        qFromBigEndian<quint16>(bytes.data(), text.size(), text.data());
     } else {
-        qFromLittleEndian<quint16>(raw + mark, text.size(), text.data());
+        qFromLittleEndian<quint16>(bytes.data(), text.size(), text.data());
     }
     if (bytes.size() % 2 != 0 || !text.isValidUtf16()) {
         return std::nullopt;
@@ -104,9 +101,8 @@ public:
     Result<Node> read(std::string_view bytes)
     {
         // Detected by its byte-order mark, or the NUL beside the first '<', whatever is declared.
-        const bool isWide = bytes.size() >= 2
-            && (bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")
-                || (bytes[0] == '<' && bytes[1] == 0) || (bytes[0] == 0 && bytes[1] == '<'));
+        const bool isWide = bytes.starts_with("\xFF\xFE") || bytes.starts_with("\xFE\xFF")
+            || bytes.substr(0, 2).find('\0') != std::string_view::npos;
         std::optional<std::string> decoded;
         if (isWide) {
             decoded = fromUtf16(bytes);

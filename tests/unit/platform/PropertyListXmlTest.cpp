@@ -137,6 +137,15 @@ TEST(PropertyListXml, takesIntegersOf64BitsAndKeepsThemToTheLetter)
     EXPECT_NE(errorOfEntry("<integer/>"), "");
 }
 
+TEST(PropertyListXml, blanksAroundANumberDoNotCount)
+{
+    for (const char* const number : {"<integer> 7\n</integer>", "<real>\t7.5 </real>"}) {
+        const auto list = PropertyList::parse(entry(number));
+        ASSERT_TRUE(list) << errorText(list);
+        EXPECT_EQ(list->root().number("k")->longValue(), 7) << number;
+    }
+}
+
 TEST(PropertyListXml, aLeadingZeroIsNoOtherBase)
 {
     const auto list = PropertyList::parse(entry("<integer>-010</integer>"));
