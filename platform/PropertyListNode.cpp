@@ -50,7 +50,10 @@ bool isUtf8(std::string_view bytes)
 
 std::string propertyListTooDeep()
 {
-    return "containers nest deeper than " + std::to_string(kPropertyListMaxDepth);
+    // In one expression, GCC 14 warns that it writes past the end of the number's text.
+    std::string text = "containers nest deeper than ";
+    text += std::to_string(kPropertyListMaxDepth);
+    return text;
 }
 
 std::string propertyListTooManyNodes()
