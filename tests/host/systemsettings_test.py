@@ -17,6 +17,15 @@ import session
 APPLICATION = "systemsettings"
 # Where the result of a search stands in the window, below the categories that it is in.
 RESULTS = {"associations": (113, 119), "stylus": (113, 119 if host.PLASMA == "5" else 89)}
+# For each locale a word to search for, and the only module that has it.
+FINDS = {
+    "de_DE": ("grafiktablett", "Quorvia-Tablett"),
+    "en_US": ("stylus", "Quorvia Tablet"),
+    "es_ES": ("dibujo", "Tableta Quorvia"),
+    "fr_FR": ("calibrage", "Tablette Quorvia"),
+    "ja_JP": ("筆圧", "Quorvia タブレット"),
+    "zh_CN": ("压感", "Quorvia 数位板"),
+}
 PAGES = {"Keys": "keys", "Pen": "pen", "Display": "display"}
 
 
@@ -47,14 +56,23 @@ class SystemSettings(host.Host):
                     None)
 
     def point(self, x, y):
-        """Clicks into the window. The list at the side is not accessible to screen readers."""
+        """Clicks into the window. Plasma 5's list at the side is not accessible to screen
+        readers."""
         window = self.window()
         self.xdotool("mousemove", "--window", window, x, y, "click", 1)
 
-    def go(self, word, arrived):
-        """Searches for a word that only one module has, and clicks the result."""
+    def entries(self):
+        """Returns the names in the list at the side."""
+        return [thing["name"] for thing in self.things(APPLICATION)
+                if thing["role"] == "list item" and thing["showing"]]
+
+    def search(self, word):
         self.point(110, 20)
         self.xdotool("key", "ctrl+a", "type", word)
+
+    def go(self, word, arrived):
+        """Searches for a word that only one module has, and clicks the result."""
+        self.search(word)
 
         def click():
             self.point(*RESULTS[word])
@@ -71,6 +89,17 @@ class SystemSettings(host.Host):
         self.go("stylus", lambda: self.title() == "Quorvia Tablet")
         self.find(APPLICATION, "Quorvia Draft S", "label")
         self.assertEqual(self.showings(), 1)
+
+    @unittest.skipIf(host.PLASMA == "5", "its list is not accessible to screen readers")
+    def test_is_all_that_is_found_by_a_word_in_each_language(self):
+        for locale, (word, name) in FINDS.items():
+            settings = self.start_host("env", f"LANG={locale}.UTF-8", "systemsettings")
+            session.wait_for(lambda: len(self.entries()) > 1, "the list")
+            self.search("nowhere")
+            session.wait_for(lambda: self.entries() == [], "an empty list")
+            self.search(word)
+            session.wait_for(lambda: self.entries() == [name], f"'{name}' alone")
+            self.end(settings)
 
     def test_has_room_for_each_page_and_changes_nothing(self):
         self.start_driver_with_log()
