@@ -1,6 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
-#include <KCModule>
+#include "Frameworks.h"
+
 #include <KPluginFactory>
 
 namespace {
@@ -10,7 +11,7 @@ class EmptyModule final : public KCModule {
     Q_OBJECT
 
 public:
-    explicit EmptyModule(QWidget* parent, const QVariantList& arguments)
+    explicit EmptyModule(ModuleParent* parent, const ModuleArguments& arguments)
         : KCModule(parent, arguments)
     {
     }

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""Measures the time from launching kcmshell5 with a module until its page is shown, and its memory.
+"""Measures the time from launching kcmshell with a module until its page is shown, and its memory:
+kcmshell6 where the plug-ins are Qt 6's, otherwise kcmshell5.
 
 Three modules start in turn: the panel's, with a tablet; an empty one; and Plasma's tablet module as
 packaged in Debian, without a tablet. Writes the figures as JSON, like the other benchmarks. A page is
@@ -77,8 +78,9 @@ def end(program):
 def measure(screen, module, environment, rest):
     """Returns the seconds until the page is shown, and the memory after that many seconds of
     rest."""
+    shell = "kcmshell" + environment["KDE_SESSION_VERSION"]
     start = time.monotonic()
-    host = subprocess.Popen(["kcmshell5", module], env=environment, start_new_session=True,
+    host = subprocess.Popen([shell, module], env=environment, start_new_session=True,
                             stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     try:
         screen.wait_for_page(host.pid)
@@ -93,22 +95,25 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("plugins")
     parser.add_argument("driver")
-    parser.add_argument("plasma_module", type=pathlib.Path, help="its package, unpacked")
     parser.add_argument("output", type=pathlib.Path)
+    parser.add_argument("--plasma-module", type=pathlib.Path, default=pathlib.Path("/"),
+                        help="its package, unpacked, if it is not installed")
     parser.add_argument("--runs", type=int, default=100)
     options = parser.parse_args()
 
+    plasma = "6" if "/qt6/" in options.plugins else "5"
     with tempfile.TemporaryDirectory() as folder:
         environment = {
             "DBUS_SESSION_BUS_ADDRESS": os.environ["DBUS_SESSION_BUS_ADDRESS"],
             "DISPLAY": os.environ["DISPLAY"],
             "HOME": folder,
             "KDE_FULL_SESSION": "true",
-            "KDE_SESSION_VERSION": "5",
+            "KDE_SESSION_VERSION": plasma,
             "LANG": "C.UTF-8",
             "PATH": "/usr/bin:/bin",
             "QT_PLUGIN_PATH": ":".join(map(str, [
-                options.plugins, *options.plasma_module.glob("usr/lib/*/qt5/plugins")])),
+                options.plugins, *options.plasma_module.glob(f"usr/lib/*/qt{plasma}/plugins")])),
+            "QT_QUICK_BACKEND": "software",
             "XAUTHORITY": os.environ.get("XAUTHORITY", ""),
             "XDG_CURRENT_DESKTOP": "KDE",
             "XDG_DATA_DIRS": f"{options.plasma_module}/usr/share:/usr/local/share:/usr/share",
@@ -139,14 +144,15 @@ def main():
         return statistics.median(map(operator.truediv, figures(found, PANEL, SECONDS),
                                      figures(found, floor, SECONDS)))
 
+    suffix = "6" if plasma == "6" else ""
     results = [{
-        "name": name,
+        "name": name + suffix,
         "us": median(found, PANEL, SECONDS) * 1e6,
         "floor_us": median(found, floor, SECONDS) * 1e6,
         "ratio": ratio(floor),
     } for name, floor in (("startInHost", EMPTY), ("startOfPlasmaModule", PLASMA))]
     results.append({
-        "name": "memoryInHost",
+        "name": "memoryInHost" + suffix,
         "iterations": 1,
         "grown_KiB": median(rested, PANEL, RESIDENT) - median(rested, EMPTY, RESIDENT),
     })
