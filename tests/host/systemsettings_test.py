@@ -11,6 +11,7 @@ import os
 import pathlib
 import unittest
 
+import desktop
 import host
 import session
 
@@ -30,6 +31,8 @@ PAGES = {"Keys": "keys", "Pen": "pen", "Display": "display"}
 
 
 class SystemSettings(host.Host):
+    SCREEN = "2560x1800x24"  # for its window at twice the density
+
     def start_settings(self, *modules):
         return self.start_host("systemsettings", *modules)
 
@@ -101,13 +104,12 @@ class SystemSettings(host.Host):
             session.wait_for(lambda: self.entries() == [name], f"'{name}' alone")
             self.end(settings)
 
-    def test_has_room_for_each_page_and_changes_nothing(self):
-        self.start_driver_with_log()
-        self.start_at_the_module()
+    def open_pages(self):
+        """Opens each page in turn, checks that it has room, and returns the name of its picture."""
         for page, file in PAGES.items():
-            self.click(self.find(APPLICATION, page, "page tab"))
-            self.xdotool("mousemove", 0, 0)  # avoids a highlight under the pointer
-            tabs = self.find(APPLICATION, page, "page tab list")  # it has the current page's name
+            desktop.Desktop.press(self, APPLICATION, page, "page tab")
+            # It has the current page's name.
+            tabs = self.find(APPLICATION, page, "page tab list")
             things = self.things(APPLICATION)
             pages, = [thing for thing in things if thing["path"] == tabs["path"][:-1]]
             window = next(thing for thing in things if thing["path"] == pages["path"][:2])
@@ -120,13 +122,27 @@ class SystemSettings(host.Host):
                               and len(thing["path"]) < len(pages["path"])
                               and pages["path"][:len(thing["path"]) - 2] == thing["path"][:-2]],
                              [], "only what is on a page scrolls")
+            yield f"systemsettings-{file}.png"
+
+    def test_has_room_for_each_page_and_changes_nothing(self):
+        self.start_driver_with_log()
+        self.start_at_the_module()
+        for name in self.open_pages():
             if "QVTBLT_PICTURES" in os.environ:
-                picture = pathlib.Path(os.environ["QVTBLT_PICTURES"]) / f"systemsettings-{file}.png"
+                picture = pathlib.Path(os.environ["QVTBLT_PICTURES"]) / name
+                self.xdotool("mousemove", 0, 0)  # avoids a highlight under the pointer
                 self.run_program("sleep", "1")  # the tab's own animation
                 self.run_program("import", "-frame", "-window", self.window(), picture)
         self.wait_for_button(APPLICATION, "Apply", False)
         self.wait_for_button(APPLICATION, "Reset", False)
         self.assertEqual(self.pushes(), 0)
+
+    def test_has_room_for_each_page_at_twice_the_density(self):
+        self.env["QT_SCALE_FACTOR"] = "2"
+        self.start_driver_with_log()
+        self.start_at_the_module()
+        for _ in self.open_pages():
+            pass
 
     def test_apply_saves_what_the_driver_has_already(self):
         self.start_driver_with_log()
