@@ -4,7 +4,6 @@
 
 import pathlib
 import signal
-import statistics
 import subprocess
 import unittest
 
@@ -67,12 +66,12 @@ class PenReports(session.Session):
                 self.simulator("SetReportRate", "u", str(rate))
                 self.tap(panel, taps)
                 arrived = [when for *_, when in self.reports(panel, taps * REPORTS_OF_TAP)]
-                # Measure between the middles of both halves, so that a single late report does not
-                # matter.
-                half = len(arrived) // 2
-                measured = half / (statistics.median(arrived[half:]) -
-                                   statistics.median(arrived[:half]))
-                self.assertAlmostEqual(measured / rate, 1, delta=0.03)
+                # Each is sent when it is due, or late on a busy machine. Compare the most punctual
+                # of the first third with that of the last.
+                late = [when - number / rate for number, when in enumerate(arrived)]
+                third = len(late) // 3
+                drift = min(late[-third:]) - min(late[:third])
+                self.assertAlmostEqual(drift / (2 * third / rate), 0, delta=0.03)
 
     def test_stops_when_the_panel_dies(self):
         driver = self.start_driver()
