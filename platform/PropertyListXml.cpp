@@ -78,6 +78,13 @@ bool isDate(std::string_view text)
     return form.match(QString::fromLatin1(text.data(), static_cast<int>(text.size()))).hasMatch();
 }
 
+// Expat 2.9 replaced this function, which other releases have.
+#if XML_MAJOR_VERSION > 2 || XML_MINOR_VERSION >= 9
+constexpr auto currentLine = XML_GetCurrentLineNumber64;
+#else
+constexpr auto currentLine = XML_GetCurrentLineNumber;
+#endif
+
 // Reading -----------------------------------------------------------------------------------------
 
 /** UTF-16 in UTF-8, with its byte-order mark; nothing if it is not valid. */
@@ -163,10 +170,7 @@ private:
             });
     }
 
-    std::string line() const
-    {
-        return " (line " + std::to_string(XML_GetCurrentLineNumber(mParser)) + ")";
-    }
+    std::string line() const { return " (line " + std::to_string(currentLine(mParser)) + ")"; }
 
     /** Keeps the first reason, and ends the parsing. */
     void refuse(std::string why)
