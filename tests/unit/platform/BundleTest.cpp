@@ -162,8 +162,9 @@ TEST_F(BundleFolder, givesTheValueAndElseTheKeyWhereNoTableHasIt)
 
 TEST_F(BundleFolder, takesNoTextOfAKeyThatOnlyLooksTheSame)
 {
-    add("de", "<key>Hello</key><string>Servus</string>"
-              "<key>\xEF\xBB\xBFHello</key><string>with a byte-order mark</string>");
+    add("de",
+        "<key>Hello</key><string>Servus</string>"
+        "<key>\xEF\xBB\xBFHello</key><string>with a byte-order mark</string>");
     EXPECT_EQ(lookUp("de", "Hello"), QStringLiteral("Servus"));
 }
 
