@@ -216,6 +216,10 @@ TEST(PropertyListXml, refusesDefinitionsOfEntitiesBeforeTheyGrow)
         errorOfBytes("<!DOCTYPE p [<!ENTITY a \"&a;\"><!ATTLIST dict x CDATA \"&a;\">]><dict/>"),
         "");
     EXPECT_NE(errorOfEntry("<string>&unknown;</string>"), "");
+    // The document type that is usual could define it, but is never read.
+    EXPECT_EQ(errorOfBytes("<!DOCTYPE plist PUBLIC \"-//A//B//EN\" \"http://example.org/list.dtd\">"
+                  + entry("<string>&unknown;</string>")),
+        "an entity that is not defined");
 }
 
 TEST(PropertyListXml, refusesWhatStandsInTheWrongPlace)
@@ -230,7 +234,7 @@ TEST(PropertyListXml, refusesWhatStandsInTheWrongPlace)
     EXPECT_EQ(errorOf("<array>x</array>"), "text instead of a value (line 1)");
     EXPECT_EQ(errorOf("<dict><key>a<b/></key><true/></dict>"), "'a' is interrupted");
     EXPECT_EQ(errorOfEntry("<integer>5<integer/></integer>"), "'5' is interrupted");
-    EXPECT_EQ(errorOfEntry("<true>x</true>"), "'x' in a boolean");
+    EXPECT_EQ(errorOfEntry("<true>x y</true>"), "'x y' in a boolean");
     EXPECT_NE(errorOfEntry("<integer>5</real>"), "");
     EXPECT_NE(errorOfEntry("<integer>5"), "");
 }
