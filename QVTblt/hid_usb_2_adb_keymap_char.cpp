@@ -15,30 +15,28 @@ std::u16string_view nameOf(std::uint8_t code)
 
 } // namespace
 
+QVKeyCombination::QVKeyCombination(std::uint32_t field)
+{
+    std::uint32_t remaining = field >> 24U;
+    for (unsigned shift = 0; mCount < mCodes.size(); shift += 8, --remaining) {
+        const auto code = static_cast<std::uint8_t>(field >> shift);
+        if (code == 0 && remaining == 0) {
+            break;
+        }
+        mCodes.at(mCount++) = code;
+    }
+}
+
 std::u16string QVKeyCombinationText(std::uint32_t combination)
 {
-    const auto codeAt = [&](int position) {
-        return static_cast<std::uint8_t>(combination >> static_cast<unsigned>(8 * position));
-    };
-    std::uint32_t remaining = codeAt(3);
-    std::uint8_t code = codeAt(0);
+    const QVKeyCombination keys(combination);
     std::u16string text;
-    if (code == 0 && remaining == 0) {
-        return text;
-    }
-    for (int position = 0;;) {
-        const std::u16string_view name = nameOf(code);
+    for (std::size_t position = 0; position < keys.codes().size(); ++position) {
+        const std::u16string_view name = nameOf(keys.codes()[position]);
         if (!name.empty()) {
             text += position > 0 ? kQVKeySeparator : std::u16string_view();
             text += name;
         }
-        if (++position == kQVMaxKeys) {
-            return text;
-        }
-        --remaining; // wraps around: from 0 on, every later byte is a key
-        code = codeAt(position);
-        if (code == 0 && remaining == 0) {
-            return text;
-        }
     }
+    return text;
 }

@@ -3,7 +3,9 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -103,11 +105,28 @@ inline constexpr std::u16string_view kQVKeySeparator = u"  ";
 inline constexpr int kQVMaxKeys = 3;
 
 /**
- * The text of a key combination, at most three names.
+ * The keys of a combination, at most three.
  *
- * @param combination the record's field: key codes in bytes 0 to 2 (byte 0 is the least
- *     significant), their number in byte 3. A zero byte is "A" if the number says that there is a
- *     key; a number that is too small wraps around at zero, so that every later byte is shown. An
- *     unknown code has no name, but the next one still has its separator.
+ * The record's field has key codes in bytes 0 to 2 (byte 0 is the least significant), and their
+ * number in byte 3. A zero byte is "A" if the number says that there is a key; a number that is too
+ * small wraps around at zero, so that every later byte is a key.
+ */
+class QVKeyCombination {
+public:
+    /** @param field the record's field */
+    explicit QVKeyCombination(std::uint32_t field);
+
+    std::span<const std::uint8_t> codes() const { return {mCodes.data(), mCount}; }
+
+private:
+    std::array<std::uint8_t, kQVMaxKeys> mCodes{};
+    std::size_t mCount = 0;
+};
+
+/**
+ * The text of a key combination. An unknown code has no name, but the next one still has its
+ * separator.
+ *
+ * @param combination the record's field
  */
 std::u16string QVKeyCombinationText(std::uint32_t combination);
