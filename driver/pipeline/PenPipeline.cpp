@@ -1,0 +1,132 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "PenPipeline.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr double kFineScale = 0.25; ///< of the pen's movement, while it positions finely
+
+std::int32_t rounded(double value)
+{
+    return static_cast<std::int32_t>(std::lround(value));
+}
+
+/** The part of a range at a value, 0 to 1; outside, that of the nearer end. */
+double partOf(double value, double from, double to)
+{
+    return std::clamp((value - from) / (to - from), 0.0, 1.0);
+}
+
+double between(double from, double to, double part)
+{
+    return from + (to - from) * part;
+}
+
+/** The buttons of the virtual pen that toolkits take for those of a mouse. */
+std::uint8_t buttonsOf(const ButtonActions& held)
+{
+    return static_cast<std::uint8_t>((held.penHolds(kQVMiddleButton) ? kPenLower : 0)
+        | (held.penHolds(kQVRightButton) ? kPenUpper : 0)
+        | (held.penHolds(kQVBackButton) ? kPenThird : 0));
+}
+
+} // namespace
+
+double curvedPressure(double pressure, double curve)
+{
+    const double s = std::abs(curve);
+    const double linear = 1 - s;
+    if (curve >= 0) {
+        return pressure * (linear + s * pressure);
+    }
+    // The positive solution g of s g^2 + (1 - s) g = t, in the form without cancellation.
+    const double root = std::sqrt(linear * linear + 4 * s * pressure);
+    return pressure > 0 ? 2 * pressure / (linear + root) : 0;
+}
+
+PenPipeline::PenPipeline(const PenAxes& tablet, const PenAxes& virtualPen)
+    : mTablet(tablet)
+    , mVirtual(virtualPen)
+{
+}
+
+PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSettings& settings,
+    ButtonActions& buttons, Commands& commands)
+{
+    const bool isNear = frame.tool != PenTool::None;
+    buttons.set(kQVLowerPenSlot, isNear && (frame.buttons & kPenLower) != 0, settings, commands);
+    buttons.set(kQVUpperPenSlot, isNear && (frame.buttons & kPenUpper) != 0, settings, commands);
+
+    PenFrame gone;
+    gone.time = frame.time;
+    gone.x = mLast.x;
+    gone.y = mLast.y;
+    gone.serial = mLast.serial;
+
+    // A tablet that is turned has its origin in the user's upper left corner, too.
+    Point place{partOf(frame.x, 0, mTablet.xMax), partOf(frame.y, 0, mTablet.yMax)};
+    if (settings.isTurned) {
+        place = {1 - place.x, 1 - place.y};
+    }
+    const TabletRect& range = settings.range;
+    const Point units{
+        between(range.left, range.right, place.x), between(range.top, range.bottom, place.y)};
+    if (!isNear || settings.isCalibrating || buttons.isPaused()) {
+        mAnchor.reset();
+        mLast = gone;
+        if (!isNear || !settings.isCalibrating) {
+            return {gone, std::nullopt};
+        }
+        return {gone,
+            QVPenReport{frame.isTouching ? 1U : 0U, static_cast<std::uint16_t>(rounded(units.x)),
+                static_cast<std::uint16_t>(rounded(units.y)),
+                static_cast<std::uint32_t>(std::max(frame.pressure, 0))}};
+    }
+
+    const TabletRect& area = settings.area;
+    const Point target =
+        fine({partOf(units.x, area.left, area.right), partOf(units.y, area.top, area.bottom)},
+            buttons.isFine());
+    PenFrame pen = frame;
+    pen.x = rounded(between(settings.target.left, settings.target.right, target.x) * mVirtual.xMax);
+    pen.y = rounded(between(settings.target.top, settings.target.bottom, target.y) * mVirtual.yMax);
+    pen.buttons = buttonsOf(buttons);
+    if (mTablet.pressureMax > 0 && frame.pressure > 0) {
+        const double pressure =
+            curvedPressure(std::min(1.0, static_cast<double>(frame.pressure) / mTablet.pressureMax),
+                settings.curve);
+        // The lightest stroke stays one.
+        pen.pressure = std::max(1, rounded(pressure * mVirtual.pressureMax));
+    } else {
+        pen.pressure = 0;
+    }
+    if (buttons.penHolds(kQVLeftButton) && !pen.isTouching) {
+        // The tip is the left button. A mouse draws with all its pressure.
+        pen.isTouching = true;
+        pen.pressure = mVirtual.pressureMax;
+    }
+    if (settings.isTurned) {
+        pen.tiltX = -frame.tiltX;
+        pen.tiltY = -frame.tiltY;
+        if (mTablet.twistTurn > 0) {
+            pen.twist = (frame.twist + mTablet.twistTurn / 2) % mTablet.twistTurn;
+        }
+    }
+    mLast = pen;
+    return {pen, std::nullopt};
+}
+
+PenPipeline::Point PenPipeline::fine(const Point& place, bool isFine)
+{
+    if (!isFine) {
+        mAnchor.reset();
+        return place;
+    }
+    if (!mAnchor) {
+        mAnchor = place;
+    }
+    return {between(mAnchor->x, place.x, kFineScale), between(mAnchor->y, place.y, kFineScale)};
+}

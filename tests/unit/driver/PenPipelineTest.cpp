@@ -1,0 +1,348 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "PenPipeline.h"
+
+#include "QVPressCurve.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <random>
+
+namespace {
+
+/** A tablet of 40,000 by 20,000 units with 8,192 levels, and a virtual pen of other ranges. */
+constexpr PenAxes kTablet{40000, 20000, 8191, 3600};
+constexpr PenAxes kVirtual{160000, 80000, 8191, 3600};
+
+class PenPipelineTest : public testing::Test {
+protected:
+    PenPipelineTest()
+    {
+        settings.range = {0, 0, 20000, 10000};
+        settings.area = settings.range;
+    }
+
+    PenPipeline::Result next(const PenFrame& frame)
+    {
+        commands.clear();
+        return pipeline.next(frame, settings, buttons, commands);
+    }
+
+    static PenFrame at(std::int32_t x, std::int32_t y)
+    {
+        PenFrame frame;
+        frame.tool = PenTool::Tip;
+        frame.x = x;
+        frame.y = y;
+        return frame;
+    }
+
+    static PenFrame pressed(std::int32_t pressure)
+    {
+        PenFrame frame = at(100, 100);
+        frame.isTouching = true;
+        frame.pressure = pressure;
+        return frame;
+    }
+
+    static PenFrame holding(std::uint8_t button)
+    {
+        PenFrame frame = at(100, 100);
+        frame.buttons = button;
+        return frame;
+    }
+
+    void assign(std::size_t slot, QVAction action, QVMouseButton mouse = kQVLeftButton)
+    {
+        settings.buttons.at(slot) = {action, mouse, {}, 0};
+    }
+
+    TabletSettings settings;
+    ButtonActions buttons;
+    Commands commands;
+    PenPipeline pipeline{kTablet, kVirtual};
+};
+
+TEST_F(PenPipelineTest, theWholeTabletCoversTheWholeRange)
+{
+    EXPECT_EQ(next(at(0, 0)).pen.x, 0);
+    const PenFrame middle = next(at(20000, 5000)).pen;
+    EXPECT_EQ(middle.x, 80000);
+    EXPECT_EQ(middle.y, 20000);
+    const PenFrame corner = next(at(40000, 20000)).pen;
+    EXPECT_EQ(corner.x, 160000);
+    EXPECT_EQ(corner.y, 80000);
+}
+
+TEST_F(PenPipelineTest, aPartOfTheTabletCoversAllAndIsClampedAtItsEdges)
+{
+    settings.area = {5000, 2500, 15000, 7500};
+    EXPECT_EQ(next(at(20000, 10000)).pen.x, 80000);
+    EXPECT_EQ(next(at(10000, 10000)).pen.x, 0);
+    EXPECT_EQ(next(at(30000, 10000)).pen.x, 160000);
+    EXPECT_EQ(next(at(0, 0)).pen.x, 0);
+    EXPECT_EQ(next(at(0, 0)).pen.y, 0);
+    EXPECT_EQ(next(at(40000, 20000)).pen.x, 160000);
+    EXPECT_EQ(next(at(40000, 20000)).pen.y, 80000);
+}
+
+TEST_F(PenPipelineTest, theAreaLandsInItsTarget)
+{
+    settings.target = {0.5, 0, 1, 0.5};
+    EXPECT_EQ(next(at(0, 0)).pen.x, 80000);
+    EXPECT_EQ(next(at(40000, 20000)).pen.x, 160000);
+    EXPECT_EQ(next(at(40000, 20000)).pen.y, 40000);
+}
+
+TEST_F(PenPipelineTest, rotationTurnsPlaceTiltAndTwist)
+{
+    settings.isTurned = true;
+    PenFrame frame = at(10000, 5000);
+    frame.tiltX = 30;
+    frame.tiltY = -12;
+    frame.twist = 2700;
+    const PenFrame pen = next(frame).pen;
+    EXPECT_EQ(pen.x, 120000);
+    EXPECT_EQ(pen.y, 60000);
+    EXPECT_EQ(pen.tiltX, -30);
+    EXPECT_EQ(pen.tiltY, 12);
+    EXPECT_EQ(pen.twist, 900);
+}
+
+TEST_F(PenPipelineTest, theAreaIsOneOfTheTurnedTablet)
+{
+    settings.isTurned = true;
+    settings.area = {0, 0, 10000, 5000}; // the user's upper left quarter
+    EXPECT_EQ(next(at(40000, 20000)).pen.x, 0);
+    EXPECT_EQ(next(at(20000, 10000)).pen.x, 160000);
+    EXPECT_EQ(next(at(20000, 10000)).pen.y, 80000);
+    EXPECT_EQ(next(at(0, 0)).pen.x, 160000);
+}
+
+TEST_F(PenPipelineTest, aStraightLineKeepsEveryLevel)
+{
+    for (std::int32_t level = 0; level <= kTablet.pressureMax; ++level) {
+        ASSERT_EQ(next(pressed(level)).pen.pressure, level);
+    }
+}
+
+TEST_F(PenPipelineTest, everyCurveIsMonotoneFromEndToEnd)
+{
+    for (const double curve : {-1.0, -0.5, -0.01, 0.0, 0.01, 0.5, 1.0}) {
+        settings.curve = curve;
+        EXPECT_EQ(next(pressed(0)).pen.pressure, 0) << curve;
+        std::int32_t last = 0;
+        for (std::int32_t level = 1; level <= kTablet.pressureMax; ++level) {
+            const std::int32_t pressure = next(pressed(level)).pen.pressure;
+            ASSERT_GE(pressure, std::max(last, 1)) << curve << " at " << level;
+            last = pressure;
+        }
+        EXPECT_EQ(last, kVirtual.pressureMax) << curve;
+    }
+}
+
+TEST_F(PenPipelineTest, theCurveIsTheOneThatThePanelDraws)
+{
+    constexpr double kSteps = 1023;
+    for (int threshold = 0; threshold <= 200; threshold += 10) {
+        for (int j = 1; j < 200; ++j) {
+            // The view truncates to its points, five steps high, on both of its axes.
+            const double drawn = 5.0 * QVPressHeight(threshold, j);
+            const double light =
+                kSteps * curvedPressure(5 * (j - 5) / kSteps, (threshold - 100) / 100.0);
+            const double heavy =
+                kSteps * curvedPressure(5 * (j + 6) / kSteps, (threshold - 100) / 100.0);
+            if (j > 5) {
+                EXPECT_GE(drawn, light - 30) << threshold << " at " << j;
+            }
+            EXPECT_LE(drawn, heavy + 30) << threshold << " at " << j;
+        }
+    }
+}
+
+TEST_F(PenPipelineTest, moreThanTheFullPressureIsTheFullPressure)
+{
+    EXPECT_EQ(next(pressed(9000)).pen.pressure, kVirtual.pressureMax);
+    EXPECT_EQ(next(pressed(-5)).pen.pressure, 0);
+}
+
+TEST_F(PenPipelineTest, carriesThroughWhatNoSettingConcerns)
+{
+    PenFrame frame = at(1, 1);
+    frame.time = std::chrono::microseconds(1234);
+    frame.tool = PenTool::Eraser;
+    frame.serial = 77;
+    frame.distance = 12;
+    frame.tiltX = 5;
+    frame.tiltY = 6;
+    frame.twist = 7;
+    const PenFrame pen = next(frame).pen;
+    EXPECT_EQ(pen.time, frame.time);
+    EXPECT_EQ(pen.tool, PenTool::Eraser);
+    EXPECT_EQ(pen.serial, 77U);
+    EXPECT_EQ(pen.distance, 12);
+    EXPECT_EQ(pen.tiltX, 5);
+    EXPECT_EQ(pen.tiltY, 6);
+    EXPECT_EQ(pen.twist, 7);
+}
+
+TEST_F(PenPipelineTest, thePensButtonsAreMouseButtonsOfTheirSlots)
+{
+    assign(kQVLowerPenSlot, kQVMouseButton, kQVRightButton);
+    assign(kQVUpperPenSlot, kQVMouseButton, kQVBackButton);
+    EXPECT_EQ(next(holding(kPenLower)).pen.buttons, kPenUpper);
+    EXPECT_EQ(next(holding(kPenUpper)).pen.buttons, kPenThird);
+    EXPECT_EQ(next(holding(kPenUpper | kPenLower)).pen.buttons, kPenUpper | kPenThird);
+    EXPECT_EQ(next(holding(0)).pen.buttons, 0);
+    EXPECT_TRUE(commands.all().empty());
+}
+
+TEST_F(PenPipelineTest, theLeftButtonOnThePenIsItsTip)
+{
+    assign(kQVLowerPenSlot, kQVMouseButton, kQVLeftButton);
+    const PenFrame pen = next(holding(kPenLower)).pen;
+    EXPECT_TRUE(pen.isTouching);
+    EXPECT_EQ(pen.pressure, kVirtual.pressureMax);
+    EXPECT_EQ(pen.buttons, 0);
+    EXPECT_FALSE(next(holding(0)).pen.isTouching);
+}
+
+TEST_F(PenPipelineTest, aButtonIsReleasedWhenThePenLeaves)
+{
+    assign(kQVLowerPenSlot, kQVKeyCombination);
+    settings.buttons[kQVLowerPenSlot].keyCodes[0] = KEY_A;
+    settings.buttons[kQVLowerPenSlot].keyCount = 1;
+    next(holding(kPenLower));
+    ASSERT_EQ(commands.all().size(), 1U);
+    EXPECT_EQ(commands.all()[0], (Command{Command::Kind::KeyDown, KEY_A}));
+    PenFrame gone;
+    gone.buttons = kPenLower; // a tablet that never says that it is up
+    next(gone);
+    ASSERT_EQ(commands.all().size(), 1U);
+    EXPECT_EQ(commands.all()[0], (Command{Command::Kind::KeyUp, KEY_A}));
+}
+
+TEST_F(PenPipelineTest, finePositioningMovesAQuarterFromWhereItBegan)
+{
+    assign(kQVLowerPenSlot, kQVFinePositioning);
+    next(at(10000, 10000));
+    PenFrame frame = at(10000, 10000);
+    frame.buttons = kPenLower;
+    EXPECT_EQ(next(frame).pen.x, 40000);
+    frame.x = 14000;
+    frame.y = 6000;
+    EXPECT_EQ(next(frame).pen.x, 44000);
+    EXPECT_EQ(next(frame).pen.y, 36000);
+    EXPECT_EQ(next(at(14000, 6000)).pen.x, 56000);
+}
+
+TEST_F(PenPipelineTest, aPausedPenIsOutOfReachUntilTheButtonIsPressedAgain)
+{
+    assign(kQVLowerPenSlot, kQVPauseTablet);
+    EXPECT_EQ(next(at(1, 1)).pen.tool, PenTool::Tip);
+    EXPECT_EQ(next(holding(kPenLower)).pen.tool, PenTool::None);
+    EXPECT_EQ(next(at(2, 2)).pen.tool, PenTool::None);
+    EXPECT_EQ(next(holding(kPenLower)).pen.tool, PenTool::Tip);
+    EXPECT_EQ(next(at(2, 2)).pen.tool, PenTool::Tip);
+}
+
+TEST_F(PenPipelineTest, whileThePanelCalibratesItGetsReportsAndThePenMovesNothing)
+{
+    settings.isCalibrating = true;
+    PenPipeline::Result result = next(at(10000, 5000));
+    EXPECT_EQ(result.pen.tool, PenTool::None);
+    ASSERT_TRUE(result.report);
+    EXPECT_EQ(*result.report, (QVPenReport{0, 5000, 2500, 0}));
+    PenFrame touching = pressed(300);
+    touching.x = 40000;
+    touching.y = 20000;
+    result = next(touching);
+    ASSERT_TRUE(result.report);
+    EXPECT_EQ(*result.report, (QVPenReport{1, 20000, 10000, 300}));
+    EXPECT_FALSE(next(PenFrame()).report);
+}
+
+TEST_F(PenPipelineTest, theReportsOfATurnedTabletAreTurned)
+{
+    settings.isCalibrating = true;
+    settings.isTurned = true;
+    settings.range = {100, 200, 20100, 10200};
+    const PenPipeline::Result result = next(at(0, 5000));
+    ASSERT_TRUE(result.report);
+    EXPECT_EQ(*result.report, (QVPenReport{0, 20100, 7700, 0}));
+}
+
+/** Frames of a tablet that has lost its mind. */
+TEST_F(PenPipelineTest, whateverTheFramesThePenStaysInItsRange)
+{
+    std::mt19937 random(20261122); // NOLINT(cert-msc51-cpp): the same frames each time
+    const auto any = [&random](std::int32_t from, std::int32_t to) {
+        return std::uniform_int_distribution<std::int32_t>(from, to)(random);
+    };
+    const auto oneIn = [&any](int count) { return any(1, count) == 1; };
+    std::array<int, KEY_CNT> down{};
+    for (int frame = 0; frame < 500'000; ++frame) {
+        if (oneIn(100)) {
+            settings.isTurned = oneIn(2);
+            settings.isCalibrating = oneIn(4);
+            settings.curve = any(-100, 100) / 100.0;
+            settings.area = {static_cast<double>(any(0, 9000)), static_cast<double>(any(0, 4000)),
+                static_cast<double>(any(9001, 20000)), static_cast<double>(any(4001, 10000))};
+            settings.target.left = any(0, 50) / 100.0;
+            settings.target.right = any(51, 100) / 100.0;
+            for (const std::size_t slot : {kQVUpperPenSlot, kQVLowerPenSlot}) {
+                ButtonAssignment& button = settings.buttons.at(slot);
+                button.action = static_cast<QVAction>(any(kQVNoAction, kQVPauseTablet));
+                button.mouse = static_cast<QVMouseButton>(any(kQVLeftButton, kQVMiddleButton));
+                button.keyCount = 0;
+                while (button.action == kQVKeyCombination && button.keyCount < 3) {
+                    button.keyCodes.at(button.keyCount) =
+                        static_cast<std::uint16_t>(KEY_A + button.keyCount);
+                    ++button.keyCount;
+                }
+            }
+        }
+        PenFrame in;
+        in.tool = static_cast<PenTool>(any(0, 2));
+        in.isTouching = oneIn(2);
+        in.buttons = static_cast<std::uint8_t>(any(0, 255));
+        constexpr auto kLeast = std::numeric_limits<std::int32_t>::min();
+        constexpr auto kMost = std::numeric_limits<std::int32_t>::max();
+        in.x = oneIn(10) ? any(kLeast, kMost) : any(0, kTablet.xMax);
+        in.y = oneIn(10) ? any(kLeast, kMost) : any(0, kTablet.yMax);
+        in.pressure = oneIn(10) ? any(kLeast, kMost) : any(0, kTablet.pressureMax);
+        in.tiltX = any(-90, 90);
+        in.twist = any(0, 3599);
+        const PenPipeline::Result out = next(in);
+        if (out.pen.tool != PenTool::None) {
+            ASSERT_GE(out.pen.x, settings.target.left * kVirtual.xMax - 1);
+            ASSERT_LE(out.pen.x, settings.target.right * kVirtual.xMax + 1);
+            ASSERT_GE(out.pen.y, 0);
+            ASSERT_LE(out.pen.y, kVirtual.yMax);
+            ASSERT_GE(out.pen.pressure, 0);
+            ASSERT_LE(out.pen.pressure, kVirtual.pressureMax);
+            ASSERT_FALSE(settings.isCalibrating);
+        } else {
+            ASSERT_FALSE(out.pen.isTouching);
+            ASSERT_EQ(out.pen.buttons, 0);
+            ASSERT_EQ(out.pen.pressure, 0);
+        }
+        for (const Command& command : commands.all()) {
+            if (command.kind == Command::Kind::KeyDown) {
+                ASSERT_EQ(++down.at(static_cast<std::size_t>(command.value)), 1);
+            } else if (command.kind == Command::Kind::KeyUp) {
+                ASSERT_EQ(--down.at(static_cast<std::size_t>(command.value)), 0);
+            }
+        }
+    }
+    next(PenFrame());
+    for (const Command& command : commands.all()) {
+        if (command.kind == Command::Kind::KeyUp) {
+            --down.at(static_cast<std::size_t>(command.value));
+        }
+    }
+    EXPECT_EQ(down, (std::array<int, KEY_CNT>{}));
+}
+
+} // namespace
