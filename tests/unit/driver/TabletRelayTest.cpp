@@ -1,0 +1,391 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// The input thread, with pipes in place of the event nodes and of the virtual devices.
+
+#include "TabletRelay.h"
+
+#include "Descriptor.h"
+#include "Wait.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <fcntl.h>
+#include <map>
+#include <memory>
+#include <optional>
+#include <poll.h>
+#include <sys/eventfd.h>
+#include <thread>
+#include <vector>
+
+namespace {
+
+/** A pipe of which either end may be closed early. */
+class Pipe {
+public:
+    explicit Pipe(int flags = 0)
+    {
+        std::array<int, 2> ends{-1, -1};
+        EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC | flags), 0);
+        mReading = std::make_unique<Descriptor>(ends[0]);
+        mWriting = std::make_unique<Descriptor>(ends[1]);
+    }
+
+    int reading() const { return mReading->get(); }
+    int writing() const { return mWriting->get(); }
+    void closeWriting() { mWriting.reset(); }
+
+    /** Reads a value, or nothing if none comes in time. */
+    template <class Value>
+    std::optional<Value> next(int patience = kPatience) const
+    {
+        pollfd file{reading(), POLLIN, 0};
+        Value value{};
+        if (::poll(&file, 1, patience) <= 0
+            || ::read(reading(), &value, sizeof value) != sizeof value) {
+            return std::nullopt;
+        }
+        return value;
+    }
+
+private:
+    std::unique_ptr<Descriptor> mReading;
+    std::unique_ptr<Descriptor> mWriting;
+};
+
+input_event event(unsigned type, unsigned code, std::int32_t value)
+{
+    input_event made{};
+    made.type = static_cast<std::uint16_t>(type);
+    made.code = static_cast<std::uint16_t>(code);
+    made.value = value;
+    return made;
+}
+
+constexpr auto kEnd = [] { return event(EV_SYN, SYN_REPORT, 0); };
+
+/** The last value of each code in a frame of events. */
+using Frame = std::map<std::pair<unsigned, unsigned>, std::int32_t>;
+
+class TabletRelayTest : public testing::Test {
+protected:
+    TabletRelayTest()
+    {
+        description.x = {0, 10000, 100};
+        description.y = {0, 5000, 100};
+        description.pressure = Axis{0, 1000, 0};
+        description.hasTool = true;
+        description.hasEraser = true;
+        padDescription.keys = {BTN_0, BTN_1, BTN_2};
+        settings.range = {0, 0, 10000, 5000};
+        settings.area = settings.range;
+    }
+
+    ~TabletRelayTest() override { stop(); }
+
+    void start()
+    {
+        exchange = std::make_unique<SettingsExchange>(settings);
+        relay = std::make_unique<TabletRelay>(
+            TabletRelay::Files{pen.reading(), pad.reading(), virtualPen.writing(),
+                keyboard.writing(), pointer.writing(), notes.writing(), wake.get()},
+            description, description.axes(), padDescription, *exchange);
+        thread = std::thread([this] { relay->run(); });
+        expectNote(RelayNote::Kind::Grabbed);
+    }
+
+    void stop()
+    {
+        if (thread.joinable()) {
+            relay->stop();
+            thread.join();
+        }
+    }
+
+    static void send(const Pipe& node, std::vector<input_event> events)
+    {
+        events.push_back(kEnd());
+        const std::size_t size = events.size() * sizeof(input_event);
+        ASSERT_EQ(::write(node.writing(), events.data(), size), static_cast<ssize_t>(size));
+    }
+
+    void sendPen(std::int32_t x, std::int32_t pressure, bool isNear = true)
+    {
+        send(pen,
+            {event(EV_KEY, BTN_TOOL_PEN, isNear ? 1 : 0), event(EV_ABS, ABS_X, x),
+                event(EV_ABS, ABS_Y, 100), event(EV_ABS, ABS_PRESSURE, pressure),
+                event(EV_KEY, BTN_TOUCH, pressure > 0 ? 1 : 0)});
+    }
+
+    /** The next frame that a virtual device was given; empty if none comes. */
+    static Frame frameOf(const Pipe& device, int patience = kPatience)
+    {
+        Frame frame;
+        while (const auto got = device.next<input_event>(patience)) {
+            if (got->type == EV_SYN) {
+                break;
+            }
+            frame[{got->type, got->code}] = got->value;
+        }
+        return frame;
+    }
+
+    RelayNote expectNote(RelayNote::Kind kind)
+    {
+        const auto note = notes.next<RelayNote>();
+        EXPECT_TRUE(note);
+        EXPECT_EQ(note.value_or(RelayNote{}).kind, kind);
+        return note.value_or(RelayNote{});
+    }
+
+    Pipe pen;
+    Pipe pad;
+    Pipe virtualPen;
+    Pipe keyboard;
+    Pipe pointer;
+    Pipe notes{O_NONBLOCK};
+    Descriptor wake{::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)};
+    PenDescription description;
+    PadDescription padDescription;
+    TabletSettings settings;
+    std::unique_ptr<SettingsExchange> exchange;
+    std::unique_ptr<TabletRelay> relay;
+    std::thread thread;
+};
+
+TEST_F(TabletRelayTest, aStrokeArrivesInOrderAndComplete)
+{
+    start();
+    for (int x = 1; x <= 1000; ++x) {
+        sendPen(x, x);
+        const Frame frame = frameOf(virtualPen);
+        ASSERT_EQ(frame.at({EV_ABS, ABS_X}), x);
+        ASSERT_EQ(frame.at({EV_ABS, ABS_PRESSURE}), x);
+        ASSERT_TRUE(frame.contains({EV_MSC, MSC_TIMESTAMP}));
+        ASSERT_EQ(frame.contains({EV_KEY, BTN_TOOL_PEN}), x == 1);
+        ASSERT_EQ(frame.contains({EV_KEY, BTN_TOUCH}), x == 1);
+    }
+    sendPen(1000, 0, false);
+    const Frame gone = frameOf(virtualPen);
+    EXPECT_EQ(gone.at({EV_KEY, BTN_TOOL_PEN}), 0);
+    EXPECT_EQ(gone.at({EV_KEY, BTN_TOUCH}), 0);
+    EXPECT_EQ(gone.at({EV_ABS, ABS_PRESSURE}), 0);
+}
+
+TEST_F(TabletRelayTest, theOtherEndOfThePenComesAfterTheFirstHasLeft)
+{
+    start();
+    sendPen(10, 500);
+    frameOf(virtualPen);
+    send(pen, {event(EV_KEY, BTN_TOOL_PEN, 0), event(EV_KEY, BTN_TOOL_RUBBER, 1)});
+    const Frame left = frameOf(virtualPen);
+    EXPECT_EQ(left.at({EV_KEY, BTN_TOOL_PEN}), 0);
+    EXPECT_EQ(left.at({EV_KEY, BTN_TOUCH}), 0);
+    EXPECT_FALSE(left.contains({EV_KEY, BTN_TOOL_RUBBER}));
+    const Frame came = frameOf(virtualPen);
+    EXPECT_EQ(came.at({EV_KEY, BTN_TOOL_RUBBER}), 1);
+    EXPECT_EQ(came.at({EV_KEY, BTN_TOUCH}), 1);
+}
+
+TEST_F(TabletRelayTest, aKeyReachesTheKeyboardAndTheMainThread)
+{
+    settings.buttons[1] = {kQVKeyCombination, kQVLeftButton, {KEY_LEFTCTRL, KEY_Z, 0}, 2};
+    start();
+    send(pad, {event(EV_KEY, BTN_1, 1)});
+    EXPECT_EQ(frameOf(keyboard), (Frame{{{EV_KEY, KEY_LEFTCTRL}, 1}}));
+    EXPECT_EQ(frameOf(keyboard), (Frame{{{EV_KEY, KEY_Z}, 1}}));
+    const RelayNote pressed = expectNote(RelayNote::Kind::Button);
+    EXPECT_EQ(pressed.slot, 1);
+    EXPECT_TRUE(pressed.isDown);
+    send(pad, {event(EV_KEY, BTN_1, 0)});
+    EXPECT_EQ(frameOf(keyboard), (Frame{{{EV_KEY, KEY_Z}, 0}}));
+    EXPECT_EQ(frameOf(keyboard), (Frame{{{EV_KEY, KEY_LEFTCTRL}, 0}}));
+    EXPECT_FALSE(expectNote(RelayNote::Kind::Button).isDown);
+}
+
+TEST_F(TabletRelayTest, mouseButtonsAndScrollingReachThePointer)
+{
+    settings.buttons[0] = {kQVMouseButton, kQVBackButton, {}, 0};
+    padDescription.strips.push_back({EV_ABS, ABS_RX, {0, 100, 0}, false});
+    start();
+    send(pad, {event(EV_KEY, BTN_0, 1)});
+    EXPECT_EQ(frameOf(pointer), (Frame{{{EV_KEY, BTN_SIDE}, 1}}));
+    send(pad, {event(EV_ABS, ABS_RX, 50)});
+    send(pad, {event(EV_ABS, ABS_RX, 45)});
+    EXPECT_EQ(frameOf(pointer), (Frame{{{EV_REL, REL_WHEEL_HI_RES}, 60}}));
+    send(pad, {event(EV_ABS, ABS_RX, 40)});
+    EXPECT_EQ(
+        frameOf(pointer), (Frame{{{EV_REL, REL_WHEEL_HI_RES}, 60}, {{EV_REL, REL_WHEEL}, 1}}));
+}
+
+TEST_F(TabletRelayTest, whatTheMainThreadDoesIsToldToIt)
+{
+    settings.buttons[0].action = kQVApplication;
+    start();
+    send(pad, {event(EV_KEY, BTN_0, 1)});
+    const RelayNote launch = expectNote(RelayNote::Kind::Command);
+    EXPECT_EQ(launch.command, (Command{Command::Kind::Launch, 0}));
+}
+
+TEST_F(TabletRelayTest, whatWasLostIsNotMadeUp)
+{
+    start();
+    sendPen(1, 0);
+    frameOf(virtualPen);
+    send(pen, {event(EV_SYN, SYN_DROPPED, 0), event(EV_ABS, ABS_X, 9000)});
+    sendPen(2, 0);
+    EXPECT_EQ(frameOf(virtualPen).at({EV_ABS, ABS_X}), 2);
+}
+
+TEST_F(TabletRelayTest, takesTheTabletAgainOnlyWhenThePenHasLeft)
+{
+    start();
+    sendPen(1, 10);
+    frameOf(virtualPen);
+    relay->setActive(false);
+    EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOOL_PEN}), 0);
+    relay->setActive(true);
+    sendPen(2, 20); // the desktop's
+    sendPen(3, 0);
+    sendPen(4, 0, false);
+    expectNote(RelayNote::Kind::Grabbed);
+    sendPen(5, 0);
+    EXPECT_EQ(frameOf(virtualPen).at({EV_ABS, ABS_X}), 5);
+}
+
+TEST_F(TabletRelayTest, takesTheTabletAgainOnlyWhenItsKeysAreUp)
+{
+    start();
+    send(pad, {event(EV_KEY, BTN_0, 1)});
+    EXPECT_TRUE(expectNote(RelayNote::Kind::Button).isDown);
+    relay->setActive(false);
+    EXPECT_FALSE(expectNote(RelayNote::Kind::Button).isDown);
+    relay->setActive(true);
+    send(pad, {event(EV_KEY, BTN_1, 1)});
+    send(pad, {event(EV_KEY, BTN_0, 0)});
+    send(pad, {event(EV_KEY, BTN_1, 0)});
+    expectNote(RelayNote::Kind::Grabbed); // and no button before it
+    send(pad, {event(EV_KEY, BTN_2, 1)});
+    EXPECT_EQ(expectNote(RelayNote::Kind::Button).slot, 2);
+}
+
+TEST_F(TabletRelayTest, lettingGoReleasesEverything)
+{
+    settings.buttons[0] = {kQVKeyCombination, kQVLeftButton, {KEY_A, 0, 0}, 1};
+    start();
+    sendPen(1, 10);
+    frameOf(virtualPen);
+    send(pad, {event(EV_KEY, BTN_0, 1)});
+    frameOf(keyboard);
+    relay->setActive(false);
+    EXPECT_EQ(frameOf(keyboard), (Frame{{{EV_KEY, KEY_A}, 0}}));
+    EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOUCH}), 0);
+    sendPen(2, 20);
+    stop();
+    EXPECT_TRUE(frameOf(virtualPen, 0).empty());
+}
+
+TEST_F(TabletRelayTest, unpluggingInAStrokeReleasesEverything)
+{
+    settings.buttons[0] = {kQVKeyCombination, kQVLeftButton, {KEY_A, 0, 0}, 1};
+    start();
+    send(pad, {event(EV_KEY, BTN_0, 1)});
+    frameOf(keyboard);
+    expectNote(RelayNote::Kind::Button);
+    sendPen(1, 10);
+    frameOf(virtualPen);
+    pen.closeWriting();
+    EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOOL_PEN}), 0);
+    EXPECT_EQ(frameOf(keyboard), (Frame{{{EV_KEY, KEY_A}, 0}}));
+    expectNote(RelayNote::Kind::Button);
+    expectNote(RelayNote::Kind::Gone);
+}
+
+TEST_F(TabletRelayTest, settingsAreTakenAsAWholeBetweenFrames)
+{
+    // The target lies where the curve says, so that a mixture of two versions would show.
+    settings.curve = 0;
+    settings.target = {0, 0, 0.25, 1};
+    start();
+    TabletSettings other = settings;
+    other.curve = 1;
+    other.target = {0.5, 0, 1, 1};
+    std::atomic<bool> isEnough{false};
+    std::thread storm([&] {
+        for (bool isOther = false; !isEnough; isOther = !isOther) {
+            exchange->publish(isOther ? other : settings);
+        }
+    });
+    std::int32_t lastX = 0;
+    std::int32_t lastPressure = 0;
+    for (int i = 1; i <= 2000; ++i) {
+        sendPen(5000 + i % 2, 500 + i % 2);
+        const Frame frame = frameOf(virtualPen);
+        const auto value = [&](unsigned code, std::int32_t& last) {
+            const auto found = frame.find({EV_ABS, code});
+            return last = found == frame.end() ? last : found->second;
+        };
+        const bool isRight = value(ABS_X, lastX) > 2600;
+        const bool isHeavy = value(ABS_PRESSURE, lastPressure) < 400;
+        ASSERT_EQ(isRight, isHeavy) << lastX << " " << lastPressure;
+    }
+    isEnough = true;
+    storm.join();
+}
+
+TEST_F(TabletRelayTest, tenThousandPushesLoseNoFrame)
+{
+    start();
+    for (int i = 0; i < 10'000; ++i) {
+        exchange->publish(settings);
+        relay->wake();
+    }
+    for (int x = 1; x <= 100; ++x) {
+        sendPen(x, 0);
+    }
+    for (int x = 1; x <= 100;) {
+        const Frame frame = frameOf(virtualPen);
+        ASSERT_FALSE(frame.empty());
+        if (const auto found = frame.find({EV_ABS, ABS_X}); found != frame.end()) {
+            ASSERT_EQ(found->second, x++);
+        }
+    }
+}
+
+TEST_F(TabletRelayTest, aCalibrationThatBeginsLiftsThePenThatLiesStill)
+{
+    start();
+    sendPen(100, 10);
+    frameOf(virtualPen);
+    settings.isCalibrating = true;
+    exchange->publish(settings);
+    relay->wake();
+    EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOOL_PEN}), 0);
+    EXPECT_EQ(expectNote(RelayNote::Kind::Report).report, (QVPenReport{1, 100, 100, 10}));
+}
+
+TEST_F(TabletRelayTest, tellsThatItIsAlive)
+{
+    start();
+    relay->ask();
+    expectNote(RelayNote::Kind::Alive);
+}
+
+TEST_F(TabletRelayTest, aMainThreadThatHangsDelaysNoFrame)
+{
+    settings.isCalibrating = true;
+    start();
+    for (int x = 1; x <= 5000; ++x) { // far more than the pipe holds
+        sendPen(x, 0);
+    }
+    settings.isCalibrating = false;
+    exchange->publish(settings);
+    sendPen(42, 0);
+    while (frameOf(virtualPen)[{EV_ABS, ABS_X}] != 42) {
+        ASSERT_FALSE(HasFailure());
+    }
+}
+
+} // namespace
