@@ -43,3 +43,7 @@ static_assert(sizeof(QVPenReport) == 12);
 /** The simulated tablet, an object on the driver's connection. */
 inline constexpr auto kQVSimulatorPath = "/org/quorvia/TabletSimulator";
 inline constexpr auto kQVSimulatorInterface = "org.quorvia.TabletSimulator1";
+
+/** The tablet that the driver uses, another object there. */
+inline constexpr auto kQVTabletPath = "/org/quorvia/Tablet";
+inline constexpr auto kQVTabletInterface = "org.quorvia.Tablet1";

@@ -119,7 +119,7 @@ def main():
             "XDG_DATA_DIRS": f"{options.plasma_module}/usr/share:/usr/local/share:/usr/share",
             "XDG_RUNTIME_DIR": folder,
         }
-        with subprocess.Popen([options.driver], env=environment, text=True,
+        with subprocess.Popen([options.driver, "--simulate"], env=environment, text=True,
                               stdout=subprocess.PIPE) as driver:
             while driver.stdout.readline() != "ready\n":
                 pass

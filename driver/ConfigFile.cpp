@@ -17,10 +17,10 @@
 namespace {
 
 /** The settings of a new tablet. */
-tagQVTabletInfo defaults(const QVTabletModel& model)
+tagQVTabletInfo defaults(const QVTabletModel& model, std::uint16_t vendorID)
 {
     tagQVTabletInfo record{};
-    record.Basic.VendorID = static_cast<std::int16_t>(kQVVendorID);
+    record.Basic.VendorID = static_cast<std::int16_t>(vendorID);
     record.Basic.ProductID = static_cast<std::int16_t>(model.productID);
     record.Basic.VersionNumber = 1;
     record.Basic.InputLength = 12;
@@ -45,7 +45,7 @@ tagQVTabletInfo defaults(const QVTabletModel& model)
 
 } // namespace
 
-platform::Result<> installConfigFile(const QVTabletModel& model)
+platform::Result<> installConfigFile(const QVTabletModel& model, std::uint16_t vendorID)
 {
     std::snprintf(GetPListName(), kQVListNameSize, "%u.plist", unsigned{model.productID});
     const std::string path = QVConfigStore::configPath();
@@ -58,7 +58,7 @@ platform::Result<> installConfigFile(const QVTabletModel& model)
         return platform::Error{
             QStringLiteral("cannot create the folder of %1").arg(file.filePath())};
     }
-    const tagQVTabletInfo record = defaults(model);
+    const tagQVTabletInfo record = defaults(model, vendorID);
     platform::PropertyList list;
     for (const QVSection* const section : kQVSections) {
         const platform::MutableDictionary dictionary = list.root().addDictionary(section->key);
@@ -68,6 +68,9 @@ platform::Result<> installConfigFile(const QVTabletModel& model)
     }
     for (const QVEntry& entry : kQVEntries) {
         QVWriteEntry(QVEntryDictionary(list.root(), entry), entry, record);
+    }
+    if (QVFindModel(model.productID) == nullptr) {
+        list.root().dictionary("Tablet").setString("Name", model.name);
     }
     platform::Result<> saved = list.saveNew(path);
     if (saved) {

@@ -6,7 +6,11 @@
 #include "Result.h"
 
 /**
- * Creates the model's configuration file, "<product ID>.plist", with every entry that a panel
+ * Creates the configuration file of a tablet, "<product ID>.plist", with every entry that a panel
  * knows, and says so. An existing file is never touched, whatever it contains.
+ *
+ * @param model of the table, or made of what the kernel says of a foreign tablet; the file of one
+ *     that is not in the table has its name, for the panel
  */
-platform::Result<> installConfigFile(const QVTabletModel& model);
+platform::Result<> installConfigFile(
+    const QVTabletModel& model, std::uint16_t vendorID = kQVVendorID);

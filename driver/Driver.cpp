@@ -5,6 +5,7 @@
 #include "ConfigFile.h"
 #include "EventForms.h"
 #include "QVConfigEntry.h"
+#include "QVConfigStore.h"
 #include "QVDriverProtocol.h"
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
@@ -27,6 +28,9 @@ constexpr std::int32_t kReportTimeOut = 10 * kTicksPerSecond; ///< the panel pau
 
 /** Changes that are listed for a push; a completely new record would have a hundred. */
 constexpr int kMaxChangesTold = 4;
+
+/** No model of our own has such a product ID: no request of the panel reaches a foreign device. */
+constexpr std::uint32_t kFirstForeignNumber = 0x8000;
 
 /** Pushes often come in bursts, such as from a slider; the state is written after the burst. */
 constexpr std::chrono::milliseconds kSaveDelay{250};
@@ -65,14 +69,6 @@ QString changes(const std::optional<tagQVTabletInfo>& old, const tagQVTabletInfo
     return told.isEmpty() ? QStringLiteral("nothing changed") : told.join(QStringLiteral(", "));
 }
 
-QString modelText(std::uint16_t productID)
-{
-    const QVTabletModel* const model = QVFindModel(productID);
-    return model == nullptr ? QStringLiteral("no tablet")
-                            : QStringLiteral("%1 (product %2)")
-                                  .arg(QString::fromUtf8(model->name), QString::number(productID));
-}
-
 } // namespace
 
 void say(const QString& line)
@@ -104,13 +100,16 @@ Driver::Driver(AppleEvents& events, QDBusConnection bus)
         [this](const AppleEvent& event, AppleEvent& reply) { return takeSettings(event, reply); });
 }
 
-Result<> Driver::start(std::optional<std::uint16_t> productID)
+void Driver::start()
 {
-    const std::optional<DriverState> state = DriverState::load();
-    if (state) {
-        mState = *state;
-    }
-    const std::uint16_t remembered = state ? state->attached : kQVTabletModels.front().productID;
+    mState = DriverState::load().value_or(DriverState());
+}
+
+Result<> Driver::startSimulation(std::optional<std::uint16_t> productID)
+{
+    mIsSimulation = true;
+    start();
+    const std::uint16_t remembered = mState.attached;
     mState.attached = 0;
     if (productID) {
         return *productID == 0 ? Result<>() : attach(*productID);
@@ -131,21 +130,90 @@ Result<> Driver::attach(std::uint16_t productID)
     }
     Result<> installed = installConfigFile(*model);
     if (installed) {
-        setAttached(productID);
+        setAttached(productID, QString::fromUtf8(model->name));
     }
     return installed;
 }
 
-void Driver::setAttached(std::uint16_t productID)
+void Driver::detach()
 {
-    if (mState.attached == productID) {
+    setAttached(0, {});
+}
+
+Result<> Driver::attachTablet(const QVTabletModel& model, std::uint16_t vendorID)
+{
+    Result<> installed = installConfigFile(model, vendorID);
+    if (!installed) {
+        return installed;
+    }
+    const std::optional<tagQVTabletInfo> last = recordIn(mState.record);
+    if (last && QVProductID(*last) == model.productID) {
+        mSettings = *last;
+    } else {
+        qvTabletInfo = {};
+        QVConfigStore store;
+        // A file that cannot be used leaves a tablet without settings, which covers everything.
+        static_cast<void>(store.loadRecord(QVConfigStore::configPath()));
+        mSettings = qvTabletInfo;
+    }
+    setAttached(model.productID, QString::fromUtf8(model.name));
+    Q_EMIT settingsChanged();
+    return {};
+}
+
+Result<std::uint16_t> Driver::configNumber(std::uint16_t vendorID, std::uint16_t productID)
+{
+    if (vendorID == kQVVendorID) {
+        return productID;
+    }
+    const QString key = QStringLiteral("%1:%2")
+                            .arg(vendorID, 4, 16, QLatin1Char('0'))
+                            .arg(productID, 4, 16, QLatin1Char('0'));
+    const auto known = mState.numbers.constFind(key);
+    if (known != mState.numbers.constEnd()) {
+        return *known;
+    }
+    const QList<std::uint16_t> taken = mState.numbers.values();
+    for (std::uint32_t number = kFirstForeignNumber; number <= 0xFFFF; ++number) {
+        const auto candidate = static_cast<std::uint16_t>(number);
+        if (!taken.contains(candidate)) {
+            mState.numbers.insert(key, candidate);
+            saveState(); // before the file has this number
+            return candidate;
+        }
+    }
+    return Error{QStringLiteral("there are no more numbers for tablets")};
+}
+
+void Driver::setChosenTablet(const QString& id)
+{
+    mState.chosen = id;
+    saveState();
+}
+
+void Driver::report(const QVPenReport& report)
+{
+    if (isCalibrating()) {
+        send(report);
+    }
+}
+
+void Driver::setAttached(std::uint16_t productID, const QString& name)
+{
+    if (mIsSimulation) {
+        mState.attached = productID;
+    }
+    if (mAttached == productID) {
         return;
     }
-    mState.attached = productID;
+    mAttached = productID;
     mReports.reset(); // a tablet that is disconnected reports no lift
     mPanels.setWatchedServices({});
     setCalibrating({}); // the panels were calibrating the previous tablet
-    say(QStringLiteral("attached: %1").arg(modelText(productID)));
+    say(QStringLiteral("attached: %1")
+            .arg(productID == 0
+                    ? QStringLiteral("no tablet")
+                    : QStringLiteral("%1 (product %2)").arg(name, QString::number(productID))));
     mSaveSoon.start();
     Q_EMIT attachedChanged(productID);
 }
@@ -158,7 +226,7 @@ void Driver::stall(std::uint32_t milliseconds)
 
 Result<> Driver::tap(std::uint16_t x, std::uint16_t y)
 {
-    if (mState.attached == 0) {
+    if (mAttached == 0) {
         return Error{QStringLiteral("no tablet is attached")};
     }
     if (!isCalibrating()) {
@@ -173,7 +241,7 @@ Result<> Driver::tap(std::uint16_t x, std::uint16_t y)
 
 void Driver::penDown(std::uint16_t x, std::uint16_t y)
 {
-    if (mState.attached == 0) {
+    if (mAttached == 0) {
         return;
     }
     mReports.press(x, y);
@@ -319,7 +387,7 @@ OSErr Driver::answerQuery(const AppleEvent& event, AppleEvent& reply)
     if (const Result<> query = checkQuery(event); !query) {
         return refuse(event, query.error(), reply);
     }
-    const std::int32_t answer = mState.attached;
+    const std::int32_t answer = mAttached;
     say(QStringLiteral("query from %1: %2").arg(senderOf(event), QString::number(answer)));
     return mEvents.putParamPtr(reply, keyDirectObject, typeLongInteger, bytesOf(answer));
 }
@@ -345,6 +413,8 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
         }
     }
     mSaveSoon.start();
+    mSettings = *record;
+    Q_EMIT settingsChanged();
     Q_EMIT pushed(mState.pushes);
     return noErr;
 }

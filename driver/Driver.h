@@ -5,6 +5,7 @@
 #include "AppleEvents.h"
 #include "DriverState.h"
 #include "PenReports.h"
+#include "QVTabletModels.h"
 #include "Result.h"
 
 #include <QDBusConnection>
@@ -18,8 +19,8 @@
 #include <vector>
 
 /**
- * The driver: answers the panel's query, receives its pushes, and has at most one simulated tablet
- * attached. Prints a line for each event.
+ * The driver: answers the panel's query, receives its pushes, and has at most one tablet attached,
+ * a real or a simulated one. Prints a line for each event.
  */
 class Driver final : public QObject {
     Q_OBJECT
@@ -32,17 +33,20 @@ public:
      */
     Driver(platform::AppleEvents& events, QDBusConnection bus);
 
+    /** Restores the state of the last run, for real tablets: none is attached yet. */
+    void start();
+
     /**
-     * Restores the state of the last run.
+     * Restores the state of the last run, for simulated tablets.
      *
      * @param productID the model to attach, 0 for none; by default the last one attached, or the
      *     first of the table on the first run
      * @return whether the given model could be attached
      */
-    platform::Result<> start(std::optional<std::uint16_t> productID);
+    platform::Result<> startSimulation(std::optional<std::uint16_t> productID);
 
-    /** Product ID of the attached tablet; 0 for none. */
-    std::uint16_t attached() const { return mState.attached; }
+    /** Number of the attached tablet's file, its product ID if it is one of our own; 0 for none. */
+    std::uint16_t attached() const { return mAttached; }
 
     /** Bytes of the last push; empty before the first. */
     QByteArray lastRecord() const { return mState.record; }
@@ -50,11 +54,34 @@ public:
     /** Number of pushes so far. */
     std::uint32_t pushes() const { return mState.pushes; }
 
-    /** Attaches a model in place of any other. */
+    /** Attaches a simulated model in place of any other, and remembers it. */
     platform::Result<> attach(std::uint16_t productID);
 
     /** Detaches the tablet, if any. */
-    void detach() { setAttached(0); }
+    void detach();
+
+    /**
+     * Attaches a real tablet in place of any other. Creates its configuration file if it has none.
+     *
+     * @param model made of what the kernel says; its productID is the number of the file
+     */
+    platform::Result<> attachTablet(const QVTabletModel& model, std::uint16_t vendorID);
+
+    /**
+     * The number of a tablet's configuration file: the product ID of one of our own, else a number
+     * from 0x8000 on that it keeps.
+     */
+    platform::Result<std::uint16_t> configNumber(std::uint16_t vendorID, std::uint16_t productID);
+
+    /** The tablet that the user chose, as Tablet::id(); empty for the first one. */
+    const QString& chosenTablet() const { return mState.chosen; }
+    void setChosenTablet(const QString& id);
+
+    /** The settings of the attached tablet: those of the last push, or else those of its file. */
+    const tagQVTabletInfo& settings() const { return mSettings; }
+
+    /** Passes a report to the panel that calibrates, if any. */
+    void report(const QVPenReport& report);
 
     /** From now on, the driver sleeps for this time before it handles an event. */
     void stall(std::uint32_t milliseconds);
@@ -84,6 +111,9 @@ public:
     /** Sets the reports per second, 1 to 1000. */
     platform::Result<> setReportRate(std::uint32_t perSecond);
 
+    /** Tells that a button of the simulated tablet or of its pen is down or up. */
+    void press(std::uint16_t slot, bool isDown) { Q_EMIT buttonChanged(slot, isDown); }
+
     /** Writes the state to disk now. */
     void saveState();
 
@@ -92,6 +122,10 @@ Q_SIGNALS:
     void pushed(uint count);
     /** A panel has begun to calibrate, or none does any longer. */
     void calibratingChanged(bool isCalibrating);
+    /** settings() have changed. */
+    void settingsChanged();
+    /** press() was called. */
+    void buttonChanged(ushort slot, bool isDown);
     /** tap() has touched a point. */
     void tapped(ushort x, ushort y);
 
@@ -100,7 +134,7 @@ private:
     platform::OSErr takeSettings(const platform::AppleEvent& event, platform::AppleEvent& reply);
     platform::OSErr refuse(const platform::AppleEvent& event, const platform::Error& error,
         platform::AppleEvent& reply);
-    void setAttached(std::uint16_t productID);
+    void setAttached(std::uint16_t productID, const QString& name);
     /** A panel calibrates; it becomes the newest, even if it was in the list already. */
     void beginCalibration(const QByteArray& panel);
     /** A panel no longer calibrates. @return whether it did */
@@ -115,6 +149,9 @@ private:
     platform::AppleEvents& mEvents;
     QDBusConnection mBus;
     DriverState mState;
+    bool mIsSimulation = false;
+    std::uint16_t mAttached = 0;
+    tagQVTabletInfo mSettings{}; ///< of a real tablet
     QTimer mSaveSoon;
     std::uint32_t mStall = 0;
     /**

@@ -21,6 +21,8 @@ namespace {
 constexpr QLatin1String kAttached("attached");
 constexpr QLatin1String kRecord("record");
 constexpr QLatin1String kPushes("pushes");
+constexpr QLatin1String kChosen("chosen");
+constexpr QLatin1String kNumbers("numbers");
 
 QString statePath()
 {
@@ -75,7 +77,14 @@ std::optional<DriverState> DriverState::load()
     if (!attached || !record || !pushes) {
         return std::nullopt;
     }
-    return DriverState{*attached, *record, *pushes};
+    DriverState state{*attached, *record, *pushes, object.value(kChosen).toString(), {}};
+    const QJsonObject numbers = object.value(kNumbers).toObject();
+    for (auto number = numbers.begin(); number != numbers.end(); ++number) {
+        if (const auto value = wholeNumber<std::uint16_t>(number.value())) {
+            state.numbers.insert(number.key(), *value);
+        }
+    }
+    return state;
 }
 
 platform::Result<> DriverState::save() const
@@ -86,6 +95,12 @@ platform::Result<> DriverState::save() const
     object.insert(kAttached, attached);
     object.insert(kRecord, QString::fromLatin1(record.toBase64()));
     object.insert(kPushes, static_cast<double>(pushes));
+    object.insert(kChosen, chosen);
+    QJsonObject numberObject;
+    for (auto number = numbers.begin(); number != numbers.end(); ++number) {
+        numberObject.insert(number.key(), number.value());
+    }
+    object.insert(kNumbers, numberObject);
     const QByteArray bytes = QJsonDocument(object).toJson();
     const platform::Result<> saved =
         platform::replaceFile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())});

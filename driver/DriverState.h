@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "QVTabletModels.h"
 #include "Result.h"
 #include "tagQVTabletInfo.h"
 
 #include <QByteArray>
+#include <QMap>
+#include <QString>
 
 #include <cstdint>
 #include <optional>
@@ -15,9 +18,13 @@
  * folder (XDG_STATE_HOME, or ~/.local/state).
  */
 struct DriverState {
-    std::uint16_t attached = 0; ///< product ID; 0 is no tablet
+    /** Product ID of the simulated tablet; 0 is no tablet. */
+    std::uint16_t attached = kQVTabletModels.front().productID;
     QByteArray record; ///< the last push; empty before the first
     std::uint32_t pushes = 0; ///< number of pushes so far
+    QString chosen; ///< the tablet that the user chose, as Tablet::id(); empty for the first one
+    /** Numbers of the configuration files of foreign tablets, by "vendor:product". */
+    QMap<QString, std::uint16_t> numbers;
 
     /**
      * Reads the file.

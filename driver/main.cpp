@@ -1,17 +1,26 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
+#include "AppleEventWire.h"
 #include "Bundle.h"
 #include "DBusAppleEvents.h"
 #include "Driver.h"
 #include "QVDriverProtocol.h"
+#include "QVTabletList.h"
 #include "QVTabletModels.h"
+#include "TabletController.h"
+#include "TabletMonitor.h"
+#include "TabletNodes.h"
+#include "TabletObject.h"
 #include "TabletSimulator.h"
 #include "TabletWindow.h"
 #include "UnixSignals.h"
+#include "Watchdog.h"
 #include "rzkApplication.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDBusMessage>
+#include <QDBusReply>
 #include <QDir>
 #include <QIcon>
 #include <QTranslator>
@@ -40,8 +49,8 @@ bool wantsWindow(std::span<char*> words)
     bool isWanted = false;
     for (const char* const word : words) {
         const std::string_view text(word);
-        if (text == "--list" || text == "--help" || text == "-h" || text == "--help-all"
-            || text == "--version" || text == "-v") {
+        if (text == "--list" || text == "--list-tablets" || text == "--help" || text == "-h"
+            || text == "--help-all" || text == "--version" || text == "-v") {
             return false;
         }
         isWanted = isWanted || text == "--window";
@@ -92,6 +101,55 @@ void translateWindow(QTranslator& translator)
     }
 }
 
+/** What the object on the bus says of a simulated tablet. */
+TabletFacts simulatedFacts(const Driver& driver)
+{
+    TabletFacts facts;
+    if (const QVTabletModel* const model = QVFindModel(driver.attached())) {
+        facts.name = QString::fromUtf8(model->name);
+        facts.vendorID = kQVVendorID;
+        facts.productID = model->productID;
+        facts.state =
+            driver.isCalibrating() ? QStringLiteral("calibrating") : QStringLiteral("attached");
+    }
+    return facts;
+}
+
+/** Prints the tablets that are plugged in: as the running driver sees them, if there is one. */
+int listTablets()
+{
+    QVRegisterTabletList();
+    QDBusMessage call = QDBusMessage::createMethodCall(platform::wire::busName(kQVDriverSignature),
+        QLatin1String(kQVTabletPath), QLatin1String(kQVTabletInterface), QStringLiteral("Tablets"));
+    call.setAutoStartService(false);
+    const QDBusReply<QVTabletList> reply = QDBusConnection::sessionBus().call(call);
+    QVTabletList list = reply.value();
+    if (!reply.isValid()) {
+        const TabletMonitor monitor;
+        for (const Tablet& tablet : monitor.tablets()) {
+            list.append(describeTablet(tablet));
+        }
+    }
+    std::fputs(qUtf8Printable(QVTabletListText(list)), stdout);
+    return 0;
+}
+
+/** The product ID to simulate: nothing without a word; an error if the word is none. */
+platform::Result<std::optional<std::uint16_t>> modelOf(const QStringList& words)
+{
+    if (words.isEmpty()) {
+        return std::optional<std::uint16_t>();
+    }
+    const QString& wanted = words.constFirst();
+    bool isNumber = true;
+    const std::uint16_t productID =
+        wanted == QLatin1String("none") ? ushort{0} : wanted.toUShort(&isNumber, 0);
+    if (!isNumber) {
+        return platform::Error{QStringLiteral("'%1' is not a product ID").arg(wanted)};
+    }
+    return std::optional(productID);
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -103,19 +161,22 @@ int main(int argc, char* argv[])
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Driver of the Quorvia pen tablet, with a simulated tablet."));
+        QStringLiteral("Driver of the Quorvia pen tablet, and of others, or of a simulated one."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption attachOption(QStringLiteral("attach"),
-        QStringLiteral("Attach the model with the product ID ID, or none. The default is the model "
-                       "that was attached last."),
-        QStringLiteral("ID"));
+    const QCommandLineOption listTabletsOption(
+        QStringLiteral("list-tablets"), QStringLiteral("List the tablets plugged in and exit."));
+    const QCommandLineOption simulateOption(QStringLiteral("simulate"),
+        QStringLiteral("Simulate a tablet instead of driving a real one: the model with the "
+                       "product ID ID, or none. The default is the model that was attached last."));
     const QCommandLineOption listOption(
-        QStringLiteral("list"), QStringLiteral("List the models and exit."));
+        QStringLiteral("list"), QStringLiteral("List the models that can be simulated and exit."));
     const QCommandLineOption windowOption(QStringLiteral("window"),
         QStringLiteral("Show the simulated tablet in a window, for use with the mouse or the "
                        "keyboard. Closing the window stops the driver."));
-    parser.addOptions({attachOption, listOption, windowOption});
+    parser.addOptions({listTabletsOption, simulateOption, listOption, windowOption});
+    parser.addPositionalArgument(QStringLiteral("ID"),
+        QStringLiteral("Product ID of the model to simulate, or none."), QStringLiteral("[ID]"));
     parser.process(*application);
 
     if (parser.isSet(listOption)) {
@@ -124,15 +185,18 @@ int main(int argc, char* argv[])
         }
         return 0;
     }
+    if (parser.isSet(listTabletsOption)) {
+        return listTablets();
+    }
 
-    std::optional<std::uint16_t> productID;
-    if (parser.isSet(attachOption)) {
-        const QString wanted = parser.value(attachOption);
-        bool isNumber = true;
-        productID = wanted == QLatin1String("none") ? ushort{0} : wanted.toUShort(&isNumber, 0);
-        if (!isNumber) {
-            return fail(QStringLiteral("'%1' is not a product ID").arg(wanted));
-        }
+    const bool isSimulation = parser.isSet(simulateOption) || parser.isSet(windowOption);
+    const QStringList words = parser.positionalArguments();
+    if (words.size() > (isSimulation ? 1 : 0)) {
+        return fail(QStringLiteral("extra operand '%1'").arg(words.constLast()));
+    }
+    const platform::Result<std::optional<std::uint16_t>> productID = modelOf(words);
+    if (!productID) {
+        return fail(productID.error().text);
     }
 
     platform::DBusAppleEvents events;
@@ -140,18 +204,50 @@ int main(int argc, char* argv[])
     Driver driver(events, bus);
     TabletSimulator simulator(driver);
     bus.registerObject(QLatin1String(kQVSimulatorPath), &simulator,
-        QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
-    // Without the name, the user's files are left alone. Events that arrive from here on wait for
-    // the event loop.
-    const platform::Result<> named = events.registerApplication(kQVDriverSignature);
-    if (const platform::Result<> started = named ? driver.start(productID) : named; !started) {
+        isSimulation
+            ? QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals
+            : QDBusConnection::ExportScriptableSlots | QDBusConnection::ExportScriptableSignals);
+    std::unique_ptr<TabletController> controller;
+    TabletObject tablet(
+        bus, [&] { return controller ? controller->list() : QVTabletList(); },
+        [&](const QString& id) {
+            return controller ? controller->use(id)
+                              : platform::Error{QStringLiteral("the tablet is simulated")};
+        });
+    // Without the name, the user's files and devices are left alone. Events that arrive from here
+    // on wait for the event loop.
+    platform::Result<> started = events.registerApplication(kQVDriverSignature);
+    if (started && isSimulation) {
+        started = driver.startSimulation(*productID);
+    }
+    if (!started) {
         return fail(started.error().text);
     }
     // The bus itself announces that the driver has appeared.
     QObject::connect(&driver, &Driver::attachedChanged, application.get(),
         [&events] { events.announceChange(); });
+    Watchdog watchdog;
+    if (isSimulation) {
+        const auto showFacts = [&] { tablet.show(simulatedFacts(driver)); };
+        QObject::connect(&driver, &Driver::attachedChanged, &tablet, showFacts);
+        QObject::connect(&driver, &Driver::calibratingChanged, &tablet, showFacts);
+        QObject::connect(&driver, &Driver::buttonChanged, &tablet, &TabletObject::ButtonChanged);
+        QObject::connect(&watchdog, &Watchdog::due, &watchdog, &Watchdog::feed);
+        showFacts();
+    } else {
+        driver.start();
+        controller = std::make_unique<TabletController>(driver, bus, QDBusConnection::systemBus());
+        const auto showFacts = [&] { tablet.show(controller->facts()); };
+        QObject::connect(controller.get(), &TabletController::changed, &tablet, showFacts);
+        QObject::connect(controller.get(), &TabletController::buttonChanged, &tablet,
+            &TabletObject::ButtonChanged);
+        QObject::connect(&watchdog, &Watchdog::due, controller.get(), &TabletController::ask);
+        QObject::connect(controller.get(), &TabletController::alive, &watchdog, &Watchdog::feed);
+        showFacts();
+    }
     const platform::UnixSignals signals({SIGTERM, SIGINT, SIGHUP});
-    const auto end = [] {
+    const auto end = [&] {
+        controller.reset(); // first of all, let the tablet go
         // Handle what has already arrived before exiting.
         QCoreApplication::processEvents();
         QCoreApplication::quit();
@@ -172,6 +268,7 @@ int main(int argc, char* argv[])
     }
     say(QStringLiteral("ready")); // also to receive signals
     const int result = hasWindow ? QApplication::exec() : QCoreApplication::exec();
+    controller.reset();
     driver.saveState();
     say(QStringLiteral("ended"));
     return result;

@@ -13,7 +13,8 @@ using ModelNames = QMap<ushort, QString>;
 
 /**
  * Controls the simulated tablet over D-Bus, for people and tests. All public members are exported,
- * as org.quorvia.TabletSimulator1.
+ * as org.quorvia.TabletSimulator1; of a driver with real tablets, only those that just tell
+ * something, which are marked as scriptable.
  */
 class TabletSimulator final : public QObject, protected QDBusContext {
     Q_OBJECT
@@ -29,26 +30,28 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     void Attach(ushort productID) { answer(mDriver.attach(productID)); }
     void Detach() { mDriver.detach(); }
     /** Product ID of the attached tablet; 0 for none. */
-    ushort Attached() const { return mDriver.attached(); }
+    Q_SCRIPTABLE ushort Attached() const { return mDriver.attached(); }
     /** Makes the driver sleep for this time before it handles each event; 0 turns it off. */
     void Stall(uint milliseconds) { mDriver.stall(milliseconds); }
     /**
      * Touches a point, in tablet units, with the pen and lifts it; an error if no panel calibrates.
      */
     void Tap(ushort x, ushort y) { answer(mDriver.tap(x, y)); }
+    /** Presses or releases a button of the tablet or of its pen. */
+    void Press(ushort slot, bool down) { mDriver.press(slot, down); }
     /** Sets the reports per second of a tap, 1 to 1000. */
     void SetReportRate(uint perSecond) { answer(mDriver.setReportRate(perSecond)); }
     /** Number of pushes accepted so far. */
-    uint Pushes() const { return mDriver.pushes(); }
+    Q_SCRIPTABLE uint Pushes() const { return mDriver.pushes(); }
     /** The bytes of the last push; empty before the first. */
-    QByteArray LastRecord() const { return mDriver.lastRecord(); }
+    Q_SCRIPTABLE QByteArray LastRecord() const { return mDriver.lastRecord(); }
     /** The same record as values by entry: "dictionary/entry" and "Key/slot/entry". */
-    QVariantMap LastRecordDecoded() const;
+    Q_SCRIPTABLE QVariantMap LastRecordDecoded() const;
 
 Q_SIGNALS:
-    void AttachedChanged(ushort productID);
+    Q_SCRIPTABLE void AttachedChanged(ushort productID);
     /** A push was accepted; count is the number so far. */
-    void Pushed(uint count);
+    Q_SCRIPTABLE void Pushed(uint count);
 
 private:
     /** Replies with the error, if there is one. */

@@ -298,6 +298,7 @@ void TabletWindow::addKeys(const QVTabletModel& model)
             QToolButton& button =
                 addButton(*column, number, tr("Key %1").arg(number), slotText(key));
             makeShrinkable(button, kKeyHeight);
+            reportButton(button, key);
         }
     }
     column->addStretch();
@@ -311,7 +312,8 @@ void TabletWindow::addPenButtons(const QVTabletModel& model)
     row->setContentsMargins(0, 0, 0, 0);
     const std::array names{tr("Upper pen button"), tr("Lower pen button")};
     for (std::size_t i = 0; i < std::min<std::size_t>(model.penButtons, names.size()); ++i) {
-        addButton(*row, names[i], names[i], slotText(kQVUpperPenSlot + i));
+        const std::size_t slot = kQVUpperPenSlot + i;
+        reportButton(addButton(*row, names[i], names[i], slotText(slot)), slot);
     }
     mTop->addWidget(mPenButtons); // saves a row on small screens
 }
@@ -332,6 +334,15 @@ QToolButton& TabletWindow::addButton(QLayout& layout, const QString& text, const
     });
     layout.addWidget(button);
     return *button;
+}
+
+void TabletWindow::reportButton(const QToolButton& button, std::size_t slot)
+{
+    const auto number = static_cast<std::uint16_t>(slot);
+    connect(
+        &button, &QToolButton::pressed, &mDriver, [this, number] { mDriver.press(number, true); });
+    connect(&button, &QToolButton::released, &mDriver,
+        [this, number] { mDriver.press(number, false); });
 }
 
 void TabletWindow::showSettings()

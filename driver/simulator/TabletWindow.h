@@ -7,6 +7,7 @@
 
 #include <QWidget>
 
+#include <cstddef>
 #include <functional>
 #include <optional>
 
@@ -53,6 +54,8 @@ private:
     /** Adds a button that shows its action in the settings when it is pressed. */
     QToolButton& addButton(QLayout& layout, const QString& text, const QString& name,
         std::function<QString(const tagQVTabletInfoKey& keys)> action);
+    /** Has the driver tell when the button is pressed and released. */
+    void reportButton(const QToolButton& button, std::size_t slot);
     const QVTabletModel* model() const;
     /**
      * The attached tablet's settings; nothing before a push, or if they belong to another tablet.

@@ -73,7 +73,8 @@ struct Program {
     {
         bus.events.connection().registerObject(QLatin1String(kQVSimulatorPath), &simulator,
             QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
-        require(driver.start(kQVTabletModels.front().productID).has_value(), "there is a tablet");
+        require(driver.startSimulation(kQVTabletModels.front().productID).has_value(),
+            "there is a tablet");
     }
 
     Bus& bus;

@@ -33,7 +33,7 @@ class Host(desktop.Desktop):
     def start_driver_with_log(self, *arguments):
         """Starts the driver with its output in a log file, so that a test can read it meanwhile."""
         with self.driver_log.open("w") as log:
-            driver = self.start([session.BIN / "tdsg-driver", *arguments], stdout=log)
+            driver = self.start([session.BIN / "tdsg-driver", "--simulate", *arguments], stdout=log)
         session.wait_for(lambda: "ready\n" in self.driver_log.read_text(), "the driver")
         return driver
 

@@ -67,7 +67,7 @@ class KcmShell(host.Host):
         self.assertEqual(self.pushes(), 0, "leaving must not push")
 
     def test_shows_the_label_without_a_tablet(self):
-        self.start_driver_with_log("--attach", "none")
+        self.start_driver_with_log("none")
         self.start_host(APPLICATION, "kcm_qvtblt")
         self.find(APPLICATION, "No tablet was found", "label")
         self.wait_for_button(APPLICATION, "Apply", False)

@@ -1201,7 +1201,8 @@ TEST_F(DriverLink, theDriverDoesNotStartWhenAnotherProgramHasItsName)
 {
     const Peer other(mBus, kDriverName);
     QProcess driver;
-    driver.start(QStringLiteral(QVTBLT_STAGE_BIN "/tdsg-driver"), QStringList());
+    driver.start(
+        QStringLiteral(QVTBLT_STAGE_BIN "/tdsg-driver"), QStringList(QStringLiteral("--simulate")));
     ASSERT_TRUE(driver.waitForFinished());
     EXPECT_EQ(driver.exitCode(), 1);
     EXPECT_EQ(driver.readAllStandardError(),

@@ -116,7 +116,7 @@ class Tree(desktop.Desktop):
                 self.end(panel)
 
     def test_without_a_tablet(self):
-        self.start_panel("--attach", "none")
+        self.start_panel("none")
         hint = self.find("qvtblt", "Is the tablet connected? Is its driver running? The settings "
                          "appear here as soon as both are available.")
         self.expect_no_faults("qvtblt", 4, "frame", "label")

@@ -132,12 +132,12 @@ class Pictures(desktop.Desktop):
     def test_each_page_is_as_on_its_picture(self):
         for name, product, tab in pages.pages():
             with self.subTest(name):
-                driver = self.start_driver("--attach", str(product))
+                driver = self.start_driver(str(product))
                 self.look(name, tab)
                 self.stop_driver(driver)
 
     def test_the_panel_without_a_tablet_is_as_on_its_picture(self):
-        self.start_driver("--attach", "none")
+        self.start_driver("none")
         self.look("noTablet")
 
     def test_no_picture_is_of_a_page_that_is_gone(self):

@@ -4,6 +4,7 @@
 
 import plistlib
 import signal
+import socket
 import subprocess
 import unittest
 
@@ -30,11 +31,11 @@ class Driver(session.Session):
         return (result.stdout + result.stderr).strip()
 
     def test_answers_the_query_with_the_product_id(self):
-        self.start_driver("--attach", "20739")
+        self.start_driver("20739")
         self.assertEqual(self.send(QUERY), "a(u(uv)) 1 757935405 1819242087 ay 4 3 81 0 0")
 
     def test_answers_0_without_a_tablet(self):
-        self.start_driver("--attach", "none")
+        self.start_driver("none")
         self.assertEqual(self.send(QUERY), "a(u(uv)) 1 757935405 1819242087 ay 4 0 0 0 0")
 
     def test_takes_the_short_form_of_the_key_data(self):
@@ -110,7 +111,7 @@ class Driver(session.Session):
         self.assertEqual(said[6:], ["ended"])
 
     def test_installs_a_whole_configuration_file_for_every_model(self):
-        self.start_driver("--attach", "none")
+        self.start_driver("none")
         models = self.run_program(session.BIN / "tdsg-driver", "--list").stdout.splitlines()
         self.assertGreaterEqual(len(models), 3)
         for line in models:
@@ -129,27 +130,27 @@ class Driver(session.Session):
         self.config().parent.mkdir(parents=True)
         for contents in (b"", b"not a list", b"<plist><dict></dict></plist>"):
             self.config().write_bytes(contents)
-            said = self.stop_driver(self.start_driver("--attach", "20737"))
+            said = self.stop_driver(self.start_driver("20737"))
             self.assertEqual(self.config().read_bytes(), contents)
             self.assertFalse(any("installed" in line for line in said))
 
     def test_leaves_a_broken_link_alone(self):
         self.config().parent.mkdir(parents=True)
         self.config().symlink_to(self.home / "nowhere")
-        self.stop_driver(self.start_driver("--attach", "20737"))
+        self.stop_driver(self.start_driver("20737"))
         self.assertTrue(self.config().is_symlink())
         self.assertFalse((self.home / "nowhere").exists())
 
     def test_says_why_it_cannot_install_the_file(self):
         (self.home / "Library").write_text("in the way")
-        driver = self.run_program(session.BIN / "tdsg-driver", "--attach", "20737")
+        driver = self.run_program(session.BIN / "tdsg-driver", "--simulate", "20737")
         self.assertEqual(driver.returncode, 1)
         self.assertIn("cannot create the folder", driver.stderr)
 
     def test_forgets_nothing_when_it_is_told_to_end(self):
         for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
             with self.subTest(number):
-                driver = self.start_driver("--attach", "20738")
+                driver = self.start_driver("20738")
                 before = int(self.simulator("Pushes")[1])
                 pushed = PUSH.split()
                 pushed[8 + 319] = str(int(number))
@@ -186,7 +187,7 @@ class Driver(session.Session):
         self.assertIn("no model with product 5", result.stderr)
         self.assertEqual(self.simulator("Attached"), ["q", "20737"])
         for wrong in ("5", "x", ""):
-            driver = self.run_program(session.BIN / "tdsg-driver", "--attach", wrong)
+            driver = self.run_program(session.BIN / "tdsg-driver", "--simulate", wrong)
             self.assertEqual(driver.returncode, 1, wrong)
 
     def test_decodes_the_last_record(self):
@@ -214,16 +215,57 @@ class Driver(session.Session):
         while "is owned by" not in monitor.stdout.readline():
             pass
         self.simulator("Attach", "q", "20739")
-        # Skip the signals of the driver's start.
-        line = monitor.stdout.readline()
-        if "AttachedChanged (uint16 20737,)" in line:
-            monitor.stdout.readline()
-            line = monitor.stdout.readline()
-        self.assertIn("AttachedChanged (uint16 20739,)", line)
+        # After the signals of the driver's start.
+        while "AttachedChanged (uint16 20739,)" not in monitor.stdout.readline():
+            pass
         self.assertIn("/org/quorvia/AppleEvents: org.quorvia.AppleEvents1.Changed ()",
                       monitor.stdout.readline())
+        changed = monitor.stdout.readline()
+        self.assertIn("/org/quorvia/Tablet: org.freedesktop.DBus.Properties.PropertiesChanged "
+                      "('org.quorvia.Tablet1', {", changed)
+        self.assertIn("'Name': <'Quorvia Draft L'>", changed)
         self.send(PUSH)
         self.assertIn("Pushed (uint32 1,)", monitor.stdout.readline())
+        self.simulator("Press", "qb", "3", "true")
+        self.assertIn("org.quorvia.Tablet1.ButtonChanged (uint16 3, true)",
+                      monitor.stdout.readline())
+
+    def property(self, name):
+        """Returns a property of the tablet's object."""
+        result = self.run_program("busctl", "--user", "get-property", session.DRIVER_NAME,
+                                  *session.TABLET, name)
+        return result.stdout.strip()
+
+    def test_describes_its_tablet(self):
+        self.start_driver("20739")
+        self.assertEqual(self.property("Name"), 's "Quorvia Draft L"')
+        self.assertEqual(self.property("VendorID"), "q 28477")
+        self.assertEqual(self.property("ProductID"), "q 20739")
+        self.assertEqual(self.property("State"), 's "attached"')
+        self.simulator("Detach")
+        self.assertEqual(self.property("Name"), 's ""')
+        self.assertEqual(self.property("State"), 's "none"')
+
+    def test_without_simulation_there_is_nothing_to_simulate(self):
+        self.start_real_driver()
+        self.assertEqual(self.property("State"), 's "none"')
+        self.assertEqual(self.simulator("Attached"), ["q", "0"])
+        for call in (("Attach", "q", "20737"), ("Detach",), ("Tap", "qq", "1", "1"), ("Models",)):
+            result = self.run_program(
+                "busctl", "--user", "call", session.DRIVER_NAME, *session.SIMULATOR, *call)
+            self.assertNotEqual(result.returncode, 0, call)
+        listed = self.run_program(session.BIN / "tdsg-driver", "--list-tablets")
+        self.assertEqual(listed.stdout, "no tablet is plugged in\n")
+
+    def test_tells_the_watchdog_that_it_is_well(self):
+        path = self.folder / "notify"
+        with socket.socket(socket.AF_UNIX, socket.SOCK_DGRAM) as watchdog:
+            watchdog.bind(str(path))
+            watchdog.settimeout(session.PATIENCE)
+            self.env |= {"NOTIFY_SOCKET": str(path), "WATCHDOG_USEC": "200000"}
+            self.start_real_driver()
+            for _ in range(3):
+                self.assertEqual(watchdog.recv(100), b"WATCHDOG=1")
 
     def test_ends_with_its_bus(self):
         driver = self.start_driver()

@@ -221,7 +221,7 @@ class Choice(desktop.Desktop):
             "as both are available.")
 
     def test_follows_the_list_of_preferences_with_all_its_texts(self):
-        self.start_driver("--attach", "none")
+        self.start_driver("none")
         for languages, wanted in (
                 ("pt:fr:en", "fr"), ("es_MX", "es"), ("en_GB:de", "en"), ("xx", "en"),
                 ("zh_CN", "zh-Hans"), ("zh_SG", "zh-Hans"),

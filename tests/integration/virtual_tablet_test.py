@@ -206,7 +206,7 @@ class VirtualTablet(Tablet, desktop.Desktop):
         session.wait_for(lambda: self.find(PROGRAM, "Surface")["focused"], "the focus")
 
     def test_has_the_keys_of_each_layout(self):
-        self.open_tablet("--attach", "none")
+        self.open_tablet("none")
         pen = ["Upper pen button", "Lower pen button"]
         for model in models.of_each_layout():
             with self.subTest(model.name):
@@ -323,7 +323,7 @@ class VirtualTablet(Tablet, desktop.Desktop):
         self.wait_for_label("No tablet is attached. Choose one above.")
 
     def test_says_why_a_tablet_cannot_be_attached(self):
-        self.open_tablet("--attach", "none")
+        self.open_tablet("none")
         (self.home / "Library").write_text("in the way")
         self.xdotool("key", "alt+t", "Down")
         session.wait_for(
@@ -331,7 +331,7 @@ class VirtualTablet(Tablet, desktop.Desktop):
         self.find(PROGRAM, "No tablet", "combo box")
 
     def test_closing_it_ends_the_driver_and_saves(self):
-        self.open_tablet("--attach", "20739")
+        self.open_tablet("20739")
         self.ctl("set", "Pen/Speed", "9")
         self.close_window("Virtual tablet")
         rest, _ = self.driver.communicate(timeout=session.PATIENCE)

@@ -108,7 +108,7 @@ class Window(desktop.Desktop):
                 self.assertEqual(self.file_strips(), (1 - before[0], 0))
 
     def test_without_a_tablet_there_is_only_the_label(self):
-        self.start_driver("--attach", "none")
+        self.start_driver("none")
         self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "No tablet was found", "label")
         for thing in self.things("qvtblt"):
@@ -133,7 +133,7 @@ class Window(desktop.Desktop):
                         for words in ("not accepted", "not saved", "cannot be loaded"))]
 
     def test_the_pages_appear_when_a_tablet_is_attached(self):
-        self.start_driver("--attach", "none")
+        self.start_driver("none")
         self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "No tablet was found", "label")
         self.find("qvtblt", HELP, "label")

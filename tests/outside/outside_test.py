@@ -59,7 +59,7 @@ class Outside(session.Session):
 
     def test_the_interfaces_are_those_of_the_driver(self):
         self.start_driver()
-        for path, name in (session.EVENTS, session.SIMULATOR):
+        for path, name in (session.EVENTS, session.TABLET, session.SIMULATOR):
             with self.subTest(name):
                 answer = self.run_program(
                     "busctl", "--user", "introspect", "--xml-interface", session.DRIVER_NAME, path)

@@ -16,7 +16,7 @@
 #include <csignal>
 #include <type_traits>
 
-/** The driver of this build, as a process on the session bus. */
+/** The driver of this build with a simulated tablet, as a process on the session bus. */
 class DriverProcess {
 public:
     explicit DriverProcess(const QStringList& arguments = {})
@@ -24,7 +24,8 @@ public:
         // Its output is not read, and a full pipe would block it.
         mProcess.setStandardOutputFile(QProcess::nullDevice());
         mProcess.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        mProcess.start(QStringLiteral(QVTBLT_STAGE_BIN "/tdsg-driver"), arguments);
+        mProcess.start(QStringLiteral(QVTBLT_STAGE_BIN "/tdsg-driver"),
+            QStringList{QStringLiteral("--simulate")} + arguments);
         EXPECT_TRUE(mProcess.waitForStarted());
         while (
             !bus().interface()->isServiceRegistered(platform::wire::busName(kQVDriverSignature))) {

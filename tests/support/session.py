@@ -27,6 +27,7 @@ PATIENCE = 60
 DRIVER_NAME = "org.quorvia.AppleEvents.TdSg"
 # Objects of the driver with their interfaces.
 EVENTS = ("/org/quorvia/AppleEvents", "org.quorvia.AppleEvents1")
+TABLET = ("/org/quorvia/Tablet", "org.quorvia.Tablet1")
 SIMULATOR = ("/org/quorvia/TabletSimulator", "org.quorvia.TabletSimulator1")
 
 BUS_CONFIG = """<busconfig><type>session</type><listen>unix:path={folder}/bus</listen>{services}
@@ -172,7 +173,18 @@ class Session(unittest.TestCase):
         self.assertIsNone(re.search("Sanitizer|runtime error:", text), text)
 
     def start_driver(self, *arguments):
-        """Starts the driver and returns the process; its stdout has its messages."""
+        """Starts the driver with a simulated tablet and returns the process; its stdout has its
+        messages."""
+        return self.start_and_await_driver("--simulate", *arguments)
+
+    def start_real_driver(self, *arguments):
+        """Starts the driver for real tablets, on a machine without any."""
+        (self.folder / "devices").mkdir(exist_ok=True)
+        self.env |= {"LD_PRELOAD": "libumockdev-preload.so.0",
+                     "UMOCKDEV_DIR": str(self.folder / "devices")}
+        return self.start_and_await_driver(*arguments)
+
+    def start_and_await_driver(self, *arguments):
         driver = self.start([BIN / "tdsg-driver", *arguments], stdout=subprocess.PIPE)
         driver.said = []
         while not driver.said or driver.said[-1] != "ready":

@@ -49,13 +49,16 @@ QByteArray quotedRecord(int size)
 
 TEST_F(DriverStateFile, comesBackAsItWasSaved)
 {
-    const DriverState saved{65535, QByteArray(kQVRecordSize, '\xE9'), 4294967295U};
+    const DriverState saved{65535, QByteArray(kQVRecordSize, '\xE9'), 4294967295U,
+        QStringLiteral("056a:0357:A17"), {{QStringLiteral("056a:0357"), 0x8000}}};
     EXPECT_EQ(errorText(saved.save()), "");
     const auto loaded = DriverState::load();
     ASSERT_TRUE(loaded);
     EXPECT_EQ(loaded->attached, 65535);
     EXPECT_EQ(loaded->record, saved.record);
     EXPECT_EQ(loaded->pushes, 4294967295U);
+    EXPECT_EQ(loaded->chosen, saved.chosen);
+    EXPECT_EQ(loaded->numbers, saved.numbers);
 }
 
 TEST_F(DriverStateFile, isNoneWithANumberOutOfItsRange)

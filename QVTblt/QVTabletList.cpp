@@ -1,0 +1,46 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVTabletList.h"
+
+#include <QDBusMetaType>
+#include <QStringList>
+
+void QVRegisterTabletList()
+{
+    qRegisterMetaType<QVTabletList>("QVTabletList"); // Qt 5 knows a method's types by name only
+    qDBusRegisterMetaType<QVTabletList>();
+}
+
+QString QVTabletListText(const QVTabletList& tablets)
+{
+    QString text;
+    for (const QVariantMap& tablet : tablets) {
+        const auto entry = [&](const char* key) { return tablet.value(QLatin1String(key)); };
+        const auto word = [&](const char* key) { return entry(key).toString(); };
+        const auto number = [&](const char* key, const char* unit) {
+            return QStringLiteral("%1 %2").arg(word(key), QLatin1String(unit));
+        };
+        text += QStringLiteral("%1  %2%3\n")
+                    .arg(word("id"), word("name"),
+                        entry("inUse").toBool() ? QStringLiteral(" (in use)") : QString());
+        QStringList facts{word("node")};
+        if (tablet.contains(QStringLiteral("pressureLevels"))) {
+            if (entry("width").toDouble() > 0) {
+                facts += QStringLiteral("%1 x %2 mm")
+                             .arg(entry("width").toDouble(), 0, 'f', 0)
+                             .arg(entry("height").toDouble(), 0, 'f', 0);
+            }
+            facts += number("pressureLevels", "pressure levels");
+            facts += entry("tilt").toBool() ? QStringLiteral("tilt") : QStringLiteral("no tilt");
+            facts +=
+                entry("eraser").toBool() ? QStringLiteral("eraser") : QStringLiteral("no eraser");
+            facts += number("keys", "keys");
+            facts += number("strips", "strips or rings");
+        }
+        text += QStringLiteral("    %1\n").arg(facts.join(QStringLiteral(", ")));
+        if (const QString problem = word("problem"); !problem.isEmpty()) {
+            text += QStringLiteral("    %1\n").arg(problem);
+        }
+    }
+    return tablets.isEmpty() ? QStringLiteral("no tablet is plugged in\n") : text;
+}

@@ -1,0 +1,339 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "TabletController.h"
+
+#include "TabletNodes.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <limits>
+#include <sys/eventfd.h>
+#include <unistd.h>
+
+using platform::Error;
+using platform::Result;
+
+namespace {
+
+constexpr std::int32_t kMaxUnits = std::numeric_limits<std::uint16_t>::max();
+constexpr std::int32_t kMaxPressure = std::numeric_limits<std::int16_t>::max();
+
+QString errorText(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error));
+}
+
+/** Both ends of a pipe. */
+struct Pipe {
+    Pipe()
+    {
+        std::array<int, 2> ends{-1, -1};
+        // Without a pipe, the main thread hears nothing, and the pen still works.
+        [[maybe_unused]] const int made = ::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK);
+        reading = std::make_unique<Descriptor>(ends[0]);
+        writing = std::make_unique<Descriptor>(ends[1]);
+    }
+
+    std::unique_ptr<Descriptor> reading;
+    std::unique_ptr<Descriptor> writing;
+};
+
+} // namespace
+
+struct TabletController::Open {
+    Open(TabletNodes tabletNodes, VirtualDevices virtualDevices, const TabletSettings& settings)
+        : nodes(std::move(tabletNodes))
+        , devices(std::move(virtualDevices))
+        , wake(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+        , exchange(settings)
+        , relay({nodes.penFile->get(), nodes.padFile->get(), devices.pen(), devices.keyboard(),
+                    devices.pointer(), notes.writing->get(), wake.get()},
+              nodes.pen, virtualAxes(nodes.pen), nodes.pad, exchange)
+        , notifier(notes.reading->get(), QSocketNotifier::Read)
+    {
+    }
+
+    ~Open()
+    {
+        relay.stop();
+        if (thread.joinable()) {
+            thread.join();
+        }
+    }
+
+    Open(const Open&) = delete;
+    Open& operator=(const Open&) = delete;
+
+    TabletNodes nodes;
+    VirtualDevices devices;
+    Pipe notes;
+    Descriptor wake;
+    SettingsExchange exchange;
+    TabletRelay relay;
+    QSocketNotifier notifier;
+    std::thread thread;
+};
+
+TabletController::TabletController(
+    Driver& driver, const QDBusConnection& session, const QDBusConnection& system)
+    : mDriver(driver)
+    , mSeat(system)
+    , mLauncher(session)
+{
+    const auto tryAgain = [this] {
+        if (mTablet && mOpen == nullptr) {
+            choose();
+        }
+    };
+    connect(&mMonitor, &TabletMonitor::changed, this, &TabletController::choose);
+    connect(&mMonitor, &TabletMonitor::accessChanged, this, tryAgain);
+    connect(&mSeat, &SeatSession::changed, this, [this, tryAgain] {
+        if (mOpen != nullptr) {
+            mOpen->relay.setActive(mSeat.isOurs());
+        } else if (mSeat.isOurs()) {
+            tryAgain(); // it could not be opened while the session was in the background
+        }
+        Q_EMIT changed();
+    });
+    connect(&driver, &Driver::settingsChanged, this, &TabletController::publish);
+    connect(&driver, &Driver::calibratingChanged, this, &TabletController::publish);
+    choose();
+}
+
+TabletController::~TabletController() = default;
+
+TabletState TabletController::state() const
+{
+    if (!mTablet) {
+        return TabletState::None;
+    }
+    if (!mSeat.isOurs()) {
+        return TabletState::Asleep;
+    }
+    if (mOpen == nullptr) {
+        return TabletState::NoPermission;
+    }
+    if (mDriver.isCalibrating()) {
+        return TabletState::Calibrating;
+    }
+    return mIsPaused ? TabletState::Paused : TabletState::Attached;
+}
+
+QVTabletList TabletController::list() const
+{
+    QVTabletList list;
+    for (const Tablet& tablet : tablets()) {
+        QVariantMap entries = describeTablet(tablet);
+        const bool isInUse = mTablet && tablet.device == mTablet->device;
+        entries.insert(QStringLiteral("inUse"), isInUse);
+        if (isInUse && !mProblem.isEmpty()) {
+            entries.insert(QStringLiteral("problem"), mProblem);
+        }
+        list.append(entries);
+    }
+    return list;
+}
+
+TabletFacts TabletController::facts() const
+{
+    static constexpr std::array kNames{
+        "none", "attached", "calibrating", "paused", "no-permission", "asleep"};
+    TabletFacts facts;
+    if (mTablet) {
+        facts.name = mTablet->name;
+        facts.vendorID = mTablet->vendor;
+        facts.productID = mDriver.attached();
+    }
+    facts.state = QString::fromLatin1(kNames.at(static_cast<std::size_t>(state())));
+    facts.problem = mProblem;
+    return facts;
+}
+
+void TabletController::ask()
+{
+    if (mOpen != nullptr) {
+        mOpen->relay.ask();
+    } else {
+        Q_EMIT alive(); // there is no input thread
+    }
+}
+
+Result<> TabletController::use(const QString& id)
+{
+    if (std::ranges::find(tablets(), id, &Tablet::id) == tablets().end()) {
+        return Error{QStringLiteral("no tablet with the ID %1 is plugged in").arg(id)};
+    }
+    mDriver.setChosenTablet(id);
+    choose();
+    return {};
+}
+
+void TabletController::choose()
+{
+    const std::vector<Tablet>& all = tablets();
+    const auto isInUse = [this](const Tablet& tablet) {
+        return mTablet && tablet.device == mTablet->device;
+    };
+    const auto isChosen = [this](const Tablet& tablet) {
+        return tablet.id() == mDriver.chosenTablet();
+    };
+    // The chosen one, and of several with that ID the one in use; else the one in use, or the
+    // first.
+    auto wanted = std::ranges::find_if(
+        all, [&](const Tablet& tablet) { return isChosen(tablet) && isInUse(tablet); });
+    if (wanted == all.end()) {
+        wanted = std::ranges::find_if(all, isChosen);
+    }
+    if (wanted == all.end()) {
+        wanted = std::ranges::find_if(all, isInUse);
+    }
+    if (wanted == all.end()) {
+        wanted = all.begin();
+    }
+    const std::optional<Tablet> tablet =
+        wanted == all.end() ? std::nullopt : std::optional(*wanted);
+    if (tablet == mTablet && mOpen != nullptr) {
+        return;
+    }
+    mOpen.reset();
+    mIsPaused = false;
+    if (mTablet != tablet) {
+        mTablet = tablet;
+        mDriver.detach();
+    }
+    QString problem;
+    if (tablet) {
+        if (const Result<> attached = attach(*tablet); !attached) {
+            mDriver.detach();
+            // Another user's tablet is none of this one's business.
+            problem = mSeat.isOurs() ? attached.error().text : QString();
+        }
+    }
+    setProblem(problem);
+}
+
+Result<> TabletController::attach(const Tablet& tablet)
+{
+    Result<TabletNodes> nodes = TabletNodes::open(tablet);
+    if (!nodes) {
+        return nodes.error();
+    }
+    Result<VirtualDevices> devices = VirtualDevices::create(nodes->pen);
+    if (!devices) {
+        return devices.error();
+    }
+    if (const Result<> prepared = prepare(tablet, *nodes); !prepared) {
+        return prepared;
+    }
+    mOpen = std::make_unique<Open>(std::move(*nodes), std::move(*devices), settings());
+    connect(&mOpen->notifier, &QSocketNotifier::activated, this, &TabletController::readNotes);
+    mOpen->relay.setActive(mSeat.isOurs());
+    mOpen->thread = std::thread([relay = &mOpen->relay] { relay->run(); });
+    return {};
+}
+
+Result<> TabletController::prepare(const Tablet& tablet, const TabletNodes& nodes)
+{
+    const PenDescription& pen = nodes.pen;
+    const Result<std::uint16_t> number = mDriver.configNumber(tablet.vendor, tablet.product);
+    if (!number) {
+        return number.error();
+    }
+    // The record's units have 16 bits. The virtual pen keeps all of the tablet's.
+    const std::int32_t most = std::max(pen.x.range(), pen.y.range());
+    const std::int32_t divisor = most / (kMaxUnits + 1) + 1;
+    const QByteArray name = tablet.name.toUtf8();
+    QVTabletModel model{};
+    model.productID = *number;
+    model.name = name.constData();
+    model.keyNum = static_cast<std::uint16_t>(nodes.pad.keys.size());
+    model.scrollNum = static_cast<std::uint16_t>(nodes.pad.strips.size());
+    model.tabletXmax = static_cast<std::uint16_t>(pen.x.range() / divisor);
+    model.tabletYmax = static_cast<std::uint16_t>(pen.y.range() / divisor);
+    model.pressureMax = static_cast<std::uint16_t>(
+        std::min(pen.pressure ? pen.pressure->range() : 0, kMaxPressure));
+    return mDriver.attachTablet(model, tablet.vendor);
+}
+
+void TabletController::readNotes()
+{
+    RelayNote note;
+    while (mOpen != nullptr
+        && ::read(mOpen->notes.reading->get(), &note, sizeof note)
+            == static_cast<ssize_t>(sizeof note)) {
+        obey(note);
+    }
+}
+
+void TabletController::obey(const RelayNote& note)
+{
+    switch (note.kind) {
+    case RelayNote::Kind::Report:
+        mDriver.report(note.report);
+        break;
+    case RelayNote::Kind::Button:
+        Q_EMIT buttonChanged(static_cast<ushort>(note.slot), note.isDown);
+        break;
+    case RelayNote::Kind::Command:
+        if (note.command.kind == Command::Kind::Launch && mSeat.isOurs()) {
+            setProblem({}); // of an earlier one
+            const auto slot = static_cast<std::size_t>(note.command.value);
+            const std::string_view path = QVText(mDriver.settings().Key.SubKey.at(slot).App);
+            mLauncher.launch(note.command.value,
+                QString::fromUtf8(path.data(), static_cast<int>(path.size())),
+                [this](const QString& problem) { setProblem(problem); });
+        } else if (note.command.kind == Command::Kind::Pause) {
+            mIsPaused = note.command.value != 0;
+            Q_EMIT changed();
+        }
+        break;
+    case RelayNote::Kind::Grabbed:
+        say(QStringLiteral("%1 obeys the settings").arg(mTablet->name));
+        break;
+    case RelayNote::Kind::Alive:
+        Q_EMIT alive();
+        break;
+    case RelayNote::Kind::Gone:
+        // udev tells as well, and perhaps that it is here again.
+        mOpen.reset();
+        mDriver.detach();
+        Q_EMIT changed();
+        break;
+    case RelayNote::Kind::Failed:
+        mOpen.reset();
+        mDriver.detach();
+        setProblem(note.error == EBUSY
+                ? QStringLiteral("Another program has taken %1.").arg(mTablet->name)
+                : QStringLiteral("%1 failed: %2").arg(mTablet->name, errorText(note.error)));
+        break;
+    }
+}
+
+TabletSettings TabletController::settings() const
+{
+    const tagQVTabletInfo& record = mDriver.settings();
+    const tagQVTabletInfoMonitior& monitor = record.Monitor;
+    const QRectF area(monitor.XOrg, monitor.YOrg, monitor.Width, monitor.Height);
+    return decodeSettings(record, targetOf(area, mMapping.covered()), mDriver.isCalibrating());
+}
+
+void TabletController::publish()
+{
+    if (mOpen != nullptr) {
+        mOpen->exchange.publish(settings());
+        mOpen->relay.wake();
+    }
+    Q_EMIT changed();
+}
+
+void TabletController::setProblem(const QString& problem)
+{
+    if (!problem.isEmpty() && problem != mProblem) {
+        say(problem);
+    }
+    mProblem = problem;
+    Q_EMIT changed();
+}

@@ -1,0 +1,98 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Driver.h"
+#include "Launcher.h"
+#include "Mapping.h"
+#include "Result.h"
+#include "SeatSession.h"
+#include "SettingsExchange.h"
+#include "TabletMonitor.h"
+#include "TabletObject.h"
+#include "TabletRelay.h"
+#include "VirtualDevices.h"
+
+#include <QObject>
+#include <QSocketNotifier>
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <thread>
+#include <vector>
+
+struct TabletNodes;
+
+/** What becomes of the tablet. */
+enum class TabletState : std::uint8_t {
+    None, ///< none is plugged in
+    Attached,
+    Calibrating,
+    Paused, ///< by a key
+    NoPermission, ///< it cannot be opened, as problem() says
+    Asleep, ///< the session is locked, not in front, or asleep
+};
+
+/**
+ * Has the tablet in use obey the settings: opens it, starts its input thread, and does what that
+ * thread leaves to the main thread. One tablet is in use at a time.
+ */
+class TabletController final : public QObject {
+    Q_OBJECT
+
+public:
+    /**
+     * @param driver talks to the panel
+     * @param session the user's bus, with the service manager
+     * @param system the bus of logind
+     */
+    TabletController(Driver& driver, const QDBusConnection& session, const QDBusConnection& system);
+    ~TabletController() override;
+
+    TabletState state() const;
+    /** The tablet in use, for the object on the bus. */
+    TabletFacts facts() const;
+    /** All that are plugged in. */
+    QVTabletList list() const;
+
+    /** Uses a tablet from now on, also when it is plugged in again. @param id as Tablet::id() */
+    platform::Result<> use(const QString& id);
+
+    /** Asks whether the input thread, if there is one, still answers; alive() is the answer. */
+    void ask();
+
+Q_SIGNALS:
+    /** facts() may have changed. */
+    void changed();
+    void alive();
+    /** A button of the tablet or of its pen is down or up. */
+    void buttonChanged(ushort slot, bool isDown);
+
+private:
+    /** What belongs to a tablet that is open. */
+    struct Open;
+
+    const std::vector<Tablet>& tablets() const { return mMonitor.tablets(); }
+    /** Opens the tablet that is to be used, if it is not open yet. */
+    void choose();
+    platform::Result<> attach(const Tablet& tablet);
+    /** Gives the tablet its number and its file. */
+    platform::Result<> prepare(const Tablet& tablet, const TabletNodes& nodes);
+    void readNotes();
+    void obey(const RelayNote& note);
+    TabletSettings settings() const;
+    void publish();
+    void setProblem(const QString& problem);
+
+    Driver& mDriver;
+    TabletMonitor mMonitor;
+    SeatSession mSeat;
+    Launcher mLauncher;
+    WholeDesktop mMapping;
+    std::optional<Tablet> mTablet;
+    std::unique_ptr<Open> mOpen;
+    QString mProblem;
+    bool mIsPaused = false;
+};

@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "SeatSession.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+
+namespace {
+
+constexpr QLatin1String kLogin("org.freedesktop.login1");
+constexpr QLatin1String kManagerPath("/org/freedesktop/login1");
+constexpr QLatin1String kManager("org.freedesktop.login1.Manager");
+constexpr QLatin1String kSession("org.freedesktop.login1.Session");
+constexpr QLatin1String kUser("org.freedesktop.login1.User");
+constexpr QLatin1String kProperties("org.freedesktop.DBus.Properties");
+
+} // namespace
+
+SeatSession::SeatSession(const QDBusConnection& bus, QObject* parent)
+    : QObject(parent)
+    , mBus(bus)
+{
+    mBus.connect(kLogin, kManagerPath, kManager, QStringLiteral("PrepareForSleep"), this,
+        SLOT(prepareForSleep(bool)));
+    // Of every session: the user's graphical one may begin after this program.
+    mBus.connect(kLogin, QString(), kProperties, QStringLiteral("PropertiesChanged"), this,
+        SLOT(takeProperties(QString, QVariantMap, QStringList)));
+    ask();
+}
+
+void SeatSession::ask()
+{
+    // A service of the user belongs to no session, so it is the user's graphical one that counts.
+    QDBusMessage call = QDBusMessage::createMethodCall(kLogin,
+        QStringLiteral("/org/freedesktop/login1/user/self"), kProperties, QStringLiteral("Get"));
+    call << QString(kUser) << QStringLiteral("Display");
+    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        answer->deleteLater();
+        const QDBusPendingReply<QDBusVariant> reply = *answer;
+        if (!reply.isValid()) {
+            take({}); // there is no logind, or it does not know this user
+            return;
+        }
+        QString name;
+        QDBusObjectPath path;
+        const auto session = reply.value().variant().value<QDBusArgument>();
+        session.beginStructure();
+        session >> name >> path;
+        session.endStructure();
+        if (name.isEmpty()) {
+            take({{QStringLiteral("Active"), false}}); // the user has logged out
+            return;
+        }
+        QDBusMessage properties = QDBusMessage::createMethodCall(
+            kLogin, path.path(), kProperties, QStringLiteral("GetAll"));
+        properties << QString(kSession);
+        auto* const all = new QDBusPendingCallWatcher(mBus.asyncCall(properties), this);
+        connect(all, &QDBusPendingCallWatcher::finished, this, [this, all] {
+            all->deleteLater();
+            const QDBusPendingReply<QVariantMap> values = *all;
+            // A session that has just ended is followed by another one, or by none.
+            take(
+                values.isValid() ? values.value() : QVariantMap{{QStringLiteral("Active"), false}});
+        });
+    });
+}
+
+void SeatSession::takeProperties(
+    const QString& interface, const QVariantMap& changed, const QStringList& invalidated)
+{
+    Q_UNUSED(invalidated)
+    if (interface == kUser) {
+        ask(); // another session may be the graphical one now
+    } else if (interface == kSession) {
+        // Which of the sessions this is does not reach a slot.
+        if (changed.contains(QStringLiteral("Active"))
+            || changed.contains(QStringLiteral("LockedHint"))) {
+            ask();
+        }
+    }
+}
+
+void SeatSession::take(const QVariantMap& properties)
+{
+    const bool wasOurs = isOurs();
+    mIsKnown = true;
+    mIsActive = properties.value(QStringLiteral("Active"), true).toBool();
+    mIsLocked = properties.value(QStringLiteral("LockedHint"), false).toBool();
+    if (wasOurs != isOurs()) {
+        Q_EMIT changed();
+    }
+}
+
+void SeatSession::prepareForSleep(bool isAboutToSleep)
+{
+    const bool wasOurs = isOurs();
+    mIsAsleep = isAboutToSleep;
+    if (wasOurs != isOurs()) {
+        Q_EMIT changed();
+    }
+}

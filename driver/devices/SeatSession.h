@@ -1,0 +1,41 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+#include <QString>
+#include <QVariantMap>
+
+/**
+ * Whether this user is at the machine: the session is the active one, not locked, and the machine
+ * is not about to sleep. It is logind that says so; without it, the session always is.
+ */
+class SeatSession final : public QObject {
+    Q_OBJECT
+
+public:
+    /** @param bus where logind is: the system bus, or its replacement in a test */
+    explicit SeatSession(const QDBusConnection& bus, QObject* parent = nullptr);
+
+    /** Whether the tablet is this session's; not before logind has answered. */
+    bool isOurs() const { return mIsKnown && mIsActive && !mIsLocked && !mIsAsleep; }
+
+Q_SIGNALS:
+    void changed();
+
+private Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
+    void takeProperties(
+        const QString& interface, const QVariantMap& changed, const QStringList& invalidated);
+    void prepareForSleep(bool isAboutToSleep);
+    void ask();
+
+private:
+    void take(const QVariantMap& properties);
+
+    QDBusConnection mBus;
+    bool mIsKnown = false;
+    bool mIsActive = true;
+    bool mIsLocked = false;
+    bool mIsAsleep = false;
+};

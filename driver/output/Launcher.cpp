@@ -1,0 +1,193 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Launcher.h"
+
+#include <QCoreApplication>
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+
+#include <chrono>
+
+using platform::Error;
+using platform::Result;
+
+namespace {
+
+/** A key that bounces, or that is held by mistake, must not fill the screen. */
+constexpr std::chrono::milliseconds kPause{1000};
+
+/** A property of a unit: (sv). */
+struct UnitProperty {
+    QString name;
+    QDBusVariant value;
+};
+
+/** One command of a unit: (sasb), the last of which ignores its failure. */
+struct UnitCommand {
+    QString program;
+    QStringList arguments;
+    bool mayFail = false;
+};
+
+/** An auxiliary unit, of which there are none: (sa(sv)). */
+struct AuxiliaryUnit {
+    QString name;
+    QList<UnitProperty> properties;
+};
+
+QDBusArgument& operator<<(QDBusArgument& argument, const UnitProperty& property)
+{
+    argument.beginStructure();
+    argument << property.name << property.value;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, UnitProperty& property)
+{
+    argument.beginStructure();
+    argument >> property.name >> property.value;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const UnitCommand& command)
+{
+    argument.beginStructure();
+    argument << command.program << command.arguments << command.mayFail;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, UnitCommand& command)
+{
+    argument.beginStructure();
+    argument >> command.program >> command.arguments >> command.mayFail;
+    argument.endStructure();
+    return argument;
+}
+
+QDBusArgument& operator<<(QDBusArgument& argument, const AuxiliaryUnit& unit)
+{
+    argument.beginStructure();
+    argument << unit.name << unit.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, AuxiliaryUnit& unit)
+{
+    argument.beginStructure();
+    argument >> unit.name >> unit.properties;
+    argument.endStructure();
+    return argument;
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(UnitProperty)
+Q_DECLARE_METATYPE(UnitCommand)
+Q_DECLARE_METATYPE(AuxiliaryUnit)
+
+namespace {
+
+QDBusMessage startMessage(const QString& unit, const QString& path, const QStringList& command)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.systemd1"),
+        QStringLiteral("/org/freedesktop/systemd1"),
+        QStringLiteral("org.freedesktop.systemd1.Manager"), QStringLiteral("StartTransientUnit"));
+    const auto property = [](const char* name, const QVariant& value) {
+        return UnitProperty{QString::fromLatin1(name), QDBusVariant(value)};
+    };
+    const QList<UnitCommand> commands{{command.front(), command, false}};
+    const QList<UnitProperty> properties{
+        property("Description", path),
+        property("ExecStart", QVariant::fromValue(commands)),
+        // It has started when its program has; it has ended when all of its processes have.
+        property("Type", QStringLiteral("exec")),
+        property("ExitType", QStringLiteral("cgroup")),
+        property("CollectMode", QStringLiteral("inactive-or-failed")),
+        property("Slice", QStringLiteral("app.slice")),
+    };
+    call << unit << QStringLiteral("fail") << QVariant::fromValue(properties)
+         << QVariant::fromValue(QList<AuxiliaryUnit>());
+    return call;
+}
+
+} // namespace
+
+Result<QStringList> launchCommand(const QString& path)
+{
+    const QFileInfo file(path);
+    if (path.isEmpty() || file.isRelative()) {
+        return Error{QStringLiteral("no application is chosen")};
+    }
+    if (!file.exists()) {
+        return Error{QStringLiteral("%1 does not exist").arg(path)};
+    }
+    if (file.isFile() && path.endsWith(QLatin1String(".desktop"))) {
+        const QString gio = QStandardPaths::findExecutable(QStringLiteral("gio"));
+        if (gio.isEmpty()) {
+            return Error{QStringLiteral("the program 'gio' is missing, which starts %1").arg(path)};
+        }
+        return QStringList{gio, QStringLiteral("launch"), path};
+    }
+    const QFileInfo program(file.isDir() ? QDir(path).filePath(QStringLiteral("AppRun")) : path);
+    if (!program.isFile() || !program.isExecutable()) {
+        return Error{QStringLiteral("%1 is not an application, or is not executable").arg(path)};
+    }
+    return QStringList{program.filePath()};
+}
+
+Launcher::Launcher(const QDBusConnection& bus, QObject* parent)
+    : QObject(parent)
+    , mBus(bus)
+{
+    qDBusRegisterMetaType<UnitProperty>();
+    qDBusRegisterMetaType<QList<UnitProperty>>();
+    qDBusRegisterMetaType<UnitCommand>();
+    qDBusRegisterMetaType<QList<UnitCommand>>();
+    qDBusRegisterMetaType<AuxiliaryUnit>();
+    qDBusRegisterMetaType<QList<AuxiliaryUnit>>();
+}
+
+void Launcher::launch(
+    int slot, const QString& path, const std::function<void(const QString&)>& failed)
+{
+    QElapsedTimer& last = mLast[slot];
+    if (last.isValid() && !last.hasExpired(kPause.count())) {
+        return;
+    }
+    last.start();
+    const Result<QStringList> command = launchCommand(path);
+    if (!command) {
+        failed(command.error().text);
+        return;
+    }
+    const QString unit = QStringLiteral("app-tdsgdriver-%1-%2.service")
+                             .arg(QCoreApplication::applicationPid())
+                             .arg(++mCount);
+    auto* const answer =
+        new QDBusPendingCallWatcher(mBus.asyncCall(startMessage(unit, path, *command)), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [=] {
+        answer->deleteLater();
+        const QDBusPendingReply<> reply = *answer;
+        if (reply.isError() && reply.error().type() == QDBusError::ServiceUnknown) {
+            // A user without a service manager of their own.
+            if (!QProcess::startDetached(command->front(), command->mid(1))) {
+                failed(QStringLiteral("%1 could not be started").arg(path));
+            }
+        } else if (reply.isError()) {
+            failed(
+                QStringLiteral("%1 could not be started: %2").arg(path, reply.error().message()));
+        }
+    });
+}

@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Result.h"
+
+#include <QDBusConnection>
+#include <QElapsedTimer>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <map>
+
+/**
+ * The command that starts an application: a desktop entry, an AppImage or another executable, or an
+ * application folder, by its absolute path.
+ *
+ * @return the program and its arguments; an error that says what is wrong with the path
+ */
+platform::Result<QStringList> launchCommand(const QString& path);
+
+/**
+ * Starts applications, never through a shell. The user's service manager starts them, if there is
+ * one, so that they live apart from this program and have none of its restrictions.
+ */
+class Launcher final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Launcher(const QDBusConnection& bus, QObject* parent = nullptr);
+
+    /**
+     * Starts the application of a button, at most once a second for each.
+     *
+     * @param failed is called with the reason if it cannot be started, perhaps later
+     */
+    void launch(int slot, const QString& path, const std::function<void(const QString&)>& failed);
+
+private:
+    QDBusConnection mBus;
+    std::map<int, QElapsedTimer> mLast; ///< when a button last started something
+    int mCount = 0;
+};
