@@ -8,6 +8,7 @@
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
 #include "QVDriverProtocol.h"
+#include "QVTabletList.h"
 #include "QVTabletModels.h"
 #include "RecordText.h"
 #include "UsbMode.h"
@@ -17,6 +18,9 @@
 #include <QDBusMessage>
 #include <QDBusReply>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
 #include <array>
@@ -66,12 +70,16 @@ Result<> pushRecord()
     return {};
 }
 
+QDBusMessage driverCall(const char* path, const char* interface, const char* method)
+{
+    return QDBusMessage::createMethodCall(platform::wire::busName(kQVDriverSignature),
+        QLatin1String(path), QLatin1String(interface), QString::fromLatin1(method));
+}
+
 /** Creates a call to the simulated tablet that does not start a driver. */
 QDBusMessage simulatorCall(const char* method)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(platform::wire::busName(kQVDriverSignature),
-        QLatin1String(kQVSimulatorPath), QLatin1String(kQVSimulatorInterface),
-        QString::fromLatin1(method));
+    QDBusMessage call = driverCall(kQVSimulatorPath, kQVSimulatorInterface, method);
     call.setAutoStartService(false);
     return call;
 }
@@ -212,6 +220,43 @@ int runUsbMode(const Arguments& arguments)
     return kExitGood;
 }
 
+/** Prints the tablets that are plugged in, or has the driver use one of them. */
+int runTablet(const Arguments& arguments)
+{
+    const QString& what = arguments.operands[0];
+    const bool isUse = what == QLatin1String("use");
+    if (!isUse && what != QLatin1String("list")) {
+        return usageError(QStringLiteral("a tablet cannot '%1'").arg(what));
+    }
+    if (arguments.operands.size() != (isUse ? 2 : 1)) {
+        return usageError(isUse ? QStringLiteral("missing operand after 'use'")
+                                : QStringLiteral("extra operand '%1'").arg(arguments.operands[1]));
+    }
+    QVRegisterTabletList();
+    QDBusMessage call = driverCall(kQVTabletPath, kQVTabletInterface, isUse ? "Use" : "Tablets");
+    if (isUse) {
+        call << arguments.operands[1];
+    }
+    const QDBusMessage message = QDBusConnection::sessionBus().call(call);
+    if (message.type() != QDBusMessage::ReplyMessage) {
+        return fail(message.errorMessage());
+    }
+    if (isUse) {
+        return kExitGood;
+    }
+    const QVTabletList list = QDBusReply<QVTabletList>(message).value();
+    QByteArray text = QVTabletListText(list).toUtf8();
+    if (arguments.asJson) {
+        QJsonArray array;
+        for (const QVariantMap& tablet : list) {
+            array.append(QJsonObject::fromVariantMap(tablet));
+        }
+        text = QJsonDocument(array).toJson();
+    }
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+    return kExitGood;
+}
+
 /** Touches a point of the tablet with the simulated pen, in tablet units. */
 int runSim(const Arguments& arguments)
 {
@@ -231,13 +276,14 @@ int runSim(const Arguments& arguments)
     return reply.type() == QDBusMessage::ReplyMessage ? kExitGood : fail(reply.errorMessage());
 }
 
-constexpr std::array<Command, 7> kCommands{{
+constexpr std::array<Command, 8> kCommands{{
     {"status", 0, 0, false, runStatus},
     {"show", 0, 1, false, runShow},
     {"check", 1, 1, false, runCheck},
     {"push", 0, 0, true, runPush},
     {"set", 2, 2, true, runSet},
     {"usb-mode", 1, 1, false, runUsbMode},
+    {"tablet", 1, 2, false, runTablet},
     {"sim", 3, 3, false, runSim},
 }};
 

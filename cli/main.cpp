@@ -27,6 +27,9 @@ Commands:
                       send it to the driver and save the tablet's file
   usb-mode fast|normal
                       set the report speed of the tablet over USB
+  tablet list [--json]
+                      print the tablets that are plugged in
+  tablet use ID       use a tablet of that list, also when it is plugged in again
   sim tap X Y         touch a point with the simulated pen, in tablet units,
                       while the panel calibrates
 
@@ -43,8 +46,8 @@ platform::Result<> checkArguments(const Command& command, const Arguments& argum
 {
     const QString name = QString::fromLatin1(command.name);
     const auto count = arguments.operands.size();
-    if (arguments.asJson && name != QLatin1String("show")) {
-        return platform::Error{QStringLiteral("--json can only be used with show")};
+    if (arguments.asJson && name != QLatin1String("show") && name != QLatin1String("tablet")) {
+        return platform::Error{QStringLiteral("--json can only be used with show and tablet")};
     }
     if (count < command.least) {
         return platform::Error{QStringLiteral("missing operand after '%1'")

@@ -339,6 +339,26 @@ class CtlStartsTheDriver(session.Session):
     def test_status_finds_a_driver_that_the_bus_has_to_start(self):
         session.wait_for(lambda: self.ctl("status").returncode == 0, "the driver")
 
+    def test_lists_the_tablets_that_are_plugged_in(self):
+        self.start_real_driver()
+        listed = self.ctl("tablet", "list")
+        self.assertEqual(listed.stdout, "no tablet is plugged in\n", listed.stderr)
+        self.assertEqual(json.loads(self.ctl("tablet", "list", "--json").stdout), [])
+        used = self.ctl("tablet", "use", "6f3d:5101")
+        self.assertEqual(used.returncode, 1)
+        self.assertIn("no tablet with the ID 6f3d:5101 is plugged in", used.stderr)
+
+    def test_a_simulated_tablet_is_not_in_the_list(self):
+        self.start_driver()
+        self.assertEqual(self.ctl("tablet", "list").stdout, "no tablet is plugged in\n")
+        used = self.ctl("tablet", "use", "6f3d:5101")
+        self.assertEqual((used.returncode, used.stderr), (1, "qvtbltctl: the tablet is simulated\n"))
+
+    def test_tablet_takes_only_its_own_operands(self):
+        for words in (["tablet"], ["tablet", "use"], ["tablet", "list", "x"], ["tablet", "draw"],
+                      ["tablet", "use", "x", "y"]):
+            self.assertEqual(self.ctl(*words).returncode, 2, words)
+
 
 if __name__ == "__main__":
     unittest.main()
