@@ -5,7 +5,7 @@
 # Settings with the Qt of the release's Plasma; make-packages makes them all.
 set(CPACK_COMPONENTS_ALL)
 if(QT_MAJOR_VERSION EQUAL 6)
-    list(APPEND CPACK_COMPONENTS_ALL qvtblt qvtblt-dev tdsg-driver)
+    list(APPEND CPACK_COMPONENTS_ALL qvtblt qvtblt-dev tdsg-driver tdsg-driver-access)
 endif()
 if(TARGET kcm_qvtblt)
     list(APPEND CPACK_COMPONENTS_ALL kcm-qvtblt)
@@ -84,12 +84,31 @@ own, as a package for CMake, and the driver's D-Bus interfaces.")
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_NAME tdsg-driver)
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_SECTION utils)
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_DEPENDS "${bus}, hicolor-icon-theme")
-set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_RECOMMENDS qt6-wayland)
+# gio starts the applications that keys open.
+set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_RECOMMENDS "libglib2.0-bin, qt6-wayland")
+set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_SUGGESTS tdsg-driver-access)
 set(CPACK_DEBIAN_TDSG-DRIVER_PACKAGE_ENHANCES "kcm-qvtblt, qvtblt")
 set(CPACK_DEBIAN_TDSG-DRIVER_DESCRIPTION "driver of the Quorvia pen tablet
-Serves the tablet's settings panel on the session bus, which starts it on
-demand.
+Has a pen tablet obey its settings, and serves the settings panel on the
+session bus. Any tablet works for which the kernel has an event device.
 
-Its tablet is simulated, for use without a real one: it can be used with the
-mouse in a window.")
+It needs access to the tablet and to /dev/uinput, which the package
+tdsg-driver-access gives. Without a tablet, it can simulate one, which can be
+used with the mouse in a window.")
+
+set(CPACK_DEBIAN_TDSG-DRIVER-ACCESS_PACKAGE_NAME tdsg-driver-access)
+set(CPACK_DEBIAN_TDSG-DRIVER-ACCESS_PACKAGE_SECTION utils)
+set(CPACK_DEBIAN_TDSG-DRIVER-ACCESS_PACKAGE_ARCHITECTURE all)
+set(CPACK_DEBIAN_TDSG-DRIVER-ACCESS_PACKAGE_DEPENDS tdsg-driver)
+set(CPACK_DEBIAN_TDSG-DRIVER-ACCESS_PACKAGE_CONTROL_EXTRA
+    ${CMAKE_CURRENT_SOURCE_DIR}/access/postinst)
+set(CPACK_DEBIAN_TDSG-DRIVER-ACCESS_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_DEBIAN_TDSG-DRIVER-ACCESS_DESCRIPTION "access to pen tablets for tdsg-driver
+Lets the user at the machine read the events of pen tablets and make virtual
+input devices, and starts tdsg-driver when a tablet is plugged in.
+
+This holds for every program of that user, not just for the driver: any of them
+can then read what the pen does, and can type and click as if it were the user,
+also where the desktop would prevent it. Install it only if all programs that
+you run may do so.")
 include(CPack)

@@ -1,6 +1,6 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""The udev rule, and that the vendor ID belongs to no other vendor."""
+"""The udev rules, and that the vendor ID belongs to no other vendor."""
 
 import re
 import unittest
@@ -8,6 +8,7 @@ import unittest
 import session
 
 RULE = session.SOURCE / "packaging/60-quorvia-tablet.rules"
+ACCESS = session.SOURCE / "packaging/70-tdsg-driver-access.rules"
 USB_IDS = "/usr/share/misc/usb.ids"
 
 
@@ -40,6 +41,32 @@ class UdevRule(unittest.TestCase):
             assigned = {int(line[:4], 16) for line in file if re.match(r"[0-9a-f]{4}  ", line)}
         self.assertGreater(len(assigned), 1000)
         self.assertNotIn(vendor(), assigned)
+
+
+class AccessRules(unittest.TestCase):
+    def lines(self):
+        return [line for line in ACCESS.read_text().splitlines() if not line.startswith("#")]
+
+    def test_let_the_seated_user_in_and_nobody_else(self):
+        for line in self.lines():
+            self.assertEqual("MODE=" in line, 'TAG+="uaccess"' in line, line)
+            self.assertNotIn("GROUP", line)
+            self.assertNotRegex(line, r'MODE="(?!0660")')
+
+    def test_come_between_the_rules_that_they_need(self):
+        self.assertLess(60, int(ACCESS.name.split("-")[0]))
+        self.assertLess(int(ACCESS.name.split("-")[0]), 73)
+
+    def test_are_about_pen_tablets_that_are_not_virtual(self):
+        lines = self.lines()
+        granted = lines.index('MODE="0660", TAG+="uaccess"')
+        for condition in ('SUBSYSTEM!="input"', 'ENV{ID_INPUT_TABLET}!="1"',
+                          'DEVPATH=="/devices/virtual/input/*"'):
+            self.assertIn(f'{condition}, GOTO="tdsg_driver_end"', lines[:granted])
+
+    def test_start_the_driver_that_is_packaged(self):
+        self.assertIn('ENV{SYSTEMD_USER_WANTS}+="tdsg-driver.service"', ACCESS.read_text())
+        self.assertTrue((session.SOURCE / "packaging/tdsg-driver.service.in").exists())
 
 
 if __name__ == "__main__":

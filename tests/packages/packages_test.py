@@ -17,7 +17,7 @@ import tempfile
 import unittest
 
 SOURCE = pathlib.Path(__file__).resolve().parent.parent.parent
-NAMES = ("kcm-qvtblt", "qvtblt", "tdsg-driver")  # for users
+NAMES = ("kcm-qvtblt", "qvtblt", "tdsg-driver", "tdsg-driver-access")  # for users
 DEVELOPMENT = "qvtblt-dev"
 PROGRAMS = {"qvtblt": "qvtblt", "qvtbltctl": "qvtblt", "tdsg-driver": "tdsg-driver"}
 
@@ -123,6 +123,9 @@ class Contents(unittest.TestCase):
                    env=os.environ | {"XDG_RUNTIME_DIR": str(self.unpacked)})
         self.assertNotIn(unit, said)
 
+    def test_the_virtual_pens_quirks_are_valid(self):
+        run("libinput", "quirks", "validate", "--data-dir", self.usr / "share/libinput")
+
     def options(self, program):
         said = run(self.usr / "bin" / program, "--help")
         return set(re.findall(r"(?<![\w-])--[\w-]+", said.split("Options:")[1]))
@@ -227,7 +230,7 @@ class CleanRoot(unittest.TestCase):
 
         said = self.in_root("apt-get", "install", "--yes", "--quiet",
                             *(f"/opt/{package.name}" for package in USERS_PACKAGES))
-        self.assertIn("\n0 upgraded, 3 newly installed, 0 to remove", said)
+        self.assertIn("\n0 upgraded, 4 newly installed, 0 to remove", said)
         installed = self.files()
         self.assertLess(before, installed)
 
@@ -248,12 +251,12 @@ class CleanRoot(unittest.TestCase):
             self.assertEqual(self.in_root(program, "--version"), f"{program} {version}\n")
         # The bus starts the driver, which finds no tablet here.
         self.assertIn("none attached", self.in_session("qvtbltctl status || true"))
-        self.in_session("""
+        said = self.in_session("""
             tdsg-driver --simulate >/tmp/driver.log & driver=$!
             until grep -q ^ready /tmp/driver.log; do sleep 0.1; done
             qvtbltctl set Key/Scrollbar0 1
+            qvtblt --render /tmp/pages && ls /tmp/pages
             kill $driver""")
-        said = self.in_session("qvtblt --render /tmp/pages && ls /tmp/pages")
         self.assertLessEqual({"keyPage.png", "noDevice.png"}, set(said.split()))
 
     def check_completion_of_entries(self):
