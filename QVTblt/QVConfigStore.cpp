@@ -168,6 +168,9 @@ platform::Result<platform::PropertyList> QVConfigStore::loadRecord(
 {
     platform::Result<platform::PropertyList> list = platform::PropertyList::load(path, source);
     if (list) {
+        const std::string_view name =
+            list->root().dictionary(kQVTabletSection.key).string("Name").value_or("");
+        mTabletName = QString::fromUtf8(name.data(), static_cast<int>(name.size()));
         for (const QVSection* const section : kQVSections) {
             const platform::Dictionary dictionary = dictionaryIn(list->root(), section->key);
             readEntries(dictionary, section->key, QVEntriesOf(*section));

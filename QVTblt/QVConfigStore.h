@@ -7,6 +7,7 @@
 #include "rzkApplication.h"
 
 #include <QLatin1String>
+#include <QString>
 
 #include <cstdint>
 #include <string>
@@ -72,6 +73,10 @@ public:
     /** Saves the record's sections to any existing configuration file. */
     platform::Result<> saveRecord(const std::string& path);
 
+    /** The tablet's name in the file loaded last; empty if it has none. */
+    QString tabletName() const { return mTabletName; }
+
 private:
+    QString mTabletName;
     tagQVTabletInfo mInFile = qvTabletInfo; ///< the record when it last matched the file
 };

@@ -58,6 +58,7 @@ QWidget* QVTblt_prefPanePref::makeMainView()
     setupUi(view.get());
     mNoDevTitleX = platform::frame(*NoDevTitle).x;
     connect(view.get(), &QVNSView::resized, this, &QVTblt_prefPanePref::placeNoDevice);
+    mSoft->setTextFormat(Qt::PlainText); // a device may call itself anything
     setUpKeyPage();
     setUpPenPage();
     setUpDisplayPage();
@@ -169,10 +170,14 @@ void QVTblt_prefPanePref::showModel()
 {
     const auto productID = QVProductID(qvTabletInfo);
     const QVTabletModel* const model = QVFindModel(productID);
-    mSoft->setText(model == nullptr
-            //: In place of a model's name; %1 is the USB product ID, four hexadecimal digits.
-            ? tr("Unknown tablet, product %1").arg(productID, 4, 16, QLatin1Char('0'))
-            : QString::fromUtf8(model->name));
+    if (model != nullptr) {
+        mSoft->setText(QString::fromUtf8(model->name));
+    } else if (const QString name = tabletName(); !name.isEmpty()) {
+        mSoft->setText(name);
+    } else {
+        //: In place of a model's name; %1 is the USB product ID, four hexadecimal digits.
+        mSoft->setText(tr("Unknown tablet, product %1").arg(productID, 4, 16, QLatin1Char('0')));
+    }
 }
 
 void QVTblt_prefPanePref::showNoDevice()

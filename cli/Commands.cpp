@@ -38,13 +38,14 @@ int fail(const QString& why)
     return kExitBad;
 }
 
-QString modelName(const tagQVTabletInfo& record)
+/** The name of the tablet whose file is loaded. */
+QString modelName(const QVConfigStore& store)
 {
-    const auto productID = QVProductID(record);
+    const auto productID = QVProductID(*GetqvTabletInfo());
     const QVTabletModel* const model = QVFindModel(productID);
+    const QString name = model == nullptr ? store.tabletName() : QString::fromUtf8(model->name);
     return QStringLiteral("%1 (product %2)")
-        .arg(model == nullptr ? QStringLiteral("unknown model") : QString::fromUtf8(model->name),
-            QString::number(productID));
+        .arg(name.isEmpty() ? QStringLiteral("unknown model") : name, QString::number(productID));
 }
 
 /** Finds the tablet and loads its file. @return the file's contents */
@@ -118,10 +119,10 @@ int runStatus(const Arguments& /*none*/)
         return kExitBad;
     }
     const std::string path = QVConfigStore::configPath();
-    const auto list = QVConfigStore().loadRecord(path);
+    QVConfigStore store;
+    const auto list = store.loadRecord(path);
     const bool isUsable = list.has_value();
-    std::printf(
-        "tablet  %s\n", isUsable ? qUtf8Printable(modelName(*GetqvTabletInfo())) : "attached");
+    std::printf("tablet  %s\n", isUsable ? qUtf8Printable(modelName(store)) : "attached");
     std::printf("file    %s\n", isUsable ? path.c_str() : qUtf8Printable(list.error().text));
     return isUsable ? kExitGood : kExitBad;
 }
@@ -161,7 +162,7 @@ int runPush(const Arguments& /*none*/)
     if (!pushed) {
         return fail(pushed.error().text);
     }
-    std::printf("pushed the settings of %s\n", qUtf8Printable(modelName(*GetqvTabletInfo())));
+    std::printf("pushed the settings of %s\n", qUtf8Printable(modelName(store)));
     return kExitGood;
 }
 
@@ -212,7 +213,7 @@ int runUsbMode(const Arguments& arguments)
         return fail(list.error().text + QStringLiteral(", so the tablet is not known"));
     }
     const auto productID = QVProductID(*GetqvTabletInfo());
-    const Result<QString> told = setUsbMode(isFast, productID, modelName(*GetqvTabletInfo()));
+    const Result<QString> told = setUsbMode(isFast, productID, modelName(store));
     if (!told) {
         return fail(told.error().text);
     }
