@@ -103,7 +103,10 @@ TabletController::TabletController(
     choose();
 }
 
-TabletController::~TabletController() = default;
+TabletController::~TabletController()
+{
+    close();
+}
 
 TabletState TabletController::state() const
 {
@@ -198,7 +201,7 @@ void TabletController::choose()
     if (tablet == mTablet && mOpen != nullptr) {
         return;
     }
-    mOpen.reset();
+    close();
     mIsPaused = false;
     if (mTablet != tablet) {
         mTablet = tablet;
@@ -258,6 +261,16 @@ Result<> TabletController::prepare(const Tablet& tablet, const TabletNodes& node
     return mDriver.attachTablet(model, tablet.vendor);
 }
 
+void TabletController::close()
+{
+    mOpen.reset();
+    for (ushort slot = 0; mDown != 0; ++slot, mDown >>= 1U) {
+        if ((mDown & 1U) != 0) {
+            Q_EMIT buttonChanged(slot, false);
+        }
+    }
+}
+
 void TabletController::readNotes()
 {
     RelayNote note;
@@ -275,6 +288,11 @@ void TabletController::obey(const RelayNote& note)
         mDriver.report(note.report);
         break;
     case RelayNote::Kind::Button:
+        if (note.isDown) {
+            mDown |= 1U << static_cast<unsigned>(note.slot);
+        } else {
+            mDown &= ~(1U << static_cast<unsigned>(note.slot));
+        }
         Q_EMIT buttonChanged(static_cast<ushort>(note.slot), note.isDown);
         break;
     case RelayNote::Kind::Command:
@@ -298,12 +316,12 @@ void TabletController::obey(const RelayNote& note)
         break;
     case RelayNote::Kind::Gone:
         // udev tells as well, and perhaps that it is here again.
-        mOpen.reset();
+        close();
         mDriver.detach();
         Q_EMIT changed();
         break;
     case RelayNote::Kind::Failed:
-        mOpen.reset();
+        close();
         mDriver.detach();
         setProblem(note.error == EBUSY
                 ? QStringLiteral("Another program has taken %1.").arg(mTablet->name)

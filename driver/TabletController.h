@@ -80,6 +80,8 @@ private:
     platform::Result<> attach(const Tablet& tablet);
     /** Gives the tablet its number and its file. */
     platform::Result<> prepare(const Tablet& tablet, const TabletNodes& nodes);
+    /** Lets the tablet go, if it is open. */
+    void close();
     void readNotes();
     void obey(const RelayNote& note);
     TabletSettings settings() const;
@@ -95,4 +97,5 @@ private:
     std::unique_ptr<Open> mOpen;
     QString mProblem;
     bool mIsPaused = false;
+    std::uint32_t mDown = 0; ///< buttons that are down, as bits
 };

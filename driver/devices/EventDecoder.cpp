@@ -144,6 +144,9 @@ PenFrame PenDecoder::frame()
     // Some kernels say both while the eraser is near.
     const bool hasTip = mHasTip || !mDescription.hasTool;
     mFrame.tool = mHasEraser ? PenTool::Eraser : hasTip ? PenTool::Tip : PenTool::None;
+    if (!mDescription.hasTouch) {
+        mFrame.isTouching = mFrame.pressure > 0;
+    }
     mFrame.serial = mSerial;
     return mFrame;
 }

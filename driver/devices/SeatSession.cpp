@@ -9,6 +9,8 @@
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 
+#include <utility>
+
 namespace {
 
 constexpr QLatin1String kLogin("org.freedesktop.login1");
@@ -34,6 +36,10 @@ SeatSession::SeatSession(const QDBusConnection& bus, QObject* parent)
 
 void SeatSession::ask()
 {
+    if (!mBus.isConnected()) {
+        take({}); // there is no logind; a call would never be answered
+        return;
+    }
     // A service of the user belongs to no session, so it is the user's graphical one that counts.
     QDBusMessage call = QDBusMessage::createMethodCall(kLogin,
         QStringLiteral("/org/freedesktop/login1/user/self"), kProperties, QStringLiteral("Get"));
@@ -89,6 +95,7 @@ void SeatSession::take(const QVariantMap& properties)
 {
     const bool wasOurs = isOurs();
     mIsKnown = true;
+    mIsAsleep = mIsAsleep && !std::exchange(mIsWaking, false);
     mIsActive = properties.value(QStringLiteral("Active"), true).toBool();
     mIsLocked = properties.value(QStringLiteral("LockedHint"), false).toBool();
     if (wasOurs != isOurs()) {
@@ -99,8 +106,12 @@ void SeatSession::take(const QVariantMap& properties)
 void SeatSession::prepareForSleep(bool isAboutToSleep)
 {
     const bool wasOurs = isOurs();
-    mIsAsleep = isAboutToSleep;
+    mIsAsleep = true;
+    mIsWaking = !isAboutToSleep;
     if (wasOurs != isOurs()) {
         Q_EMIT changed();
+    }
+    if (mIsWaking) {
+        ask();
     }
 }

@@ -38,4 +38,5 @@ private:
     bool mIsActive = true;
     bool mIsLocked = false;
     bool mIsAsleep = false;
+    bool mIsWaking = false; ///< asleep until logind has told whether the screen is locked
 };

@@ -63,8 +63,12 @@ std::uint16_t idOf(udev_device* node, const char* attribute)
 QString nameOf(udev_device* node)
 {
     udev_device* const input = inputOf(node);
-    const QString name = QString::fromUtf8(
+    QString name = QString::fromUtf8(
         input == nullptr ? nullptr : udev_device_get_sysattr_value(input, "name"));
+    // A device may call itself anything. A property list cannot hold all of it.
+    for (QChar& character : name) {
+        character = character.isPrint() ? character : QChar(QLatin1Char(' '));
+    }
     return name.simplified();
 }
 
@@ -146,7 +150,7 @@ void TabletMonitor::enumerate()
         udev_device* const node = device.get();
         const QString path = QString::fromUtf8(udev_device_get_syspath(node));
         const char* const file = udev_device_get_devnode(node);
-        if (file == nullptr || udev_device_get_is_initialized(node) == 0
+        if (file == nullptr
             || !QString::fromUtf8(udev_device_get_sysname(node)).startsWith(QLatin1String("event"))
             || path.contains(QLatin1String("/devices/virtual/input/"))
             || isSet(node, "ID_INPUT_TOUCHSCREEN") || isSet(node, "ID_INPUT_TOUCHPAD")) {

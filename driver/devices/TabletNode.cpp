@@ -57,6 +57,7 @@ std::optional<PenDescription> describePen(const libevdev& node)
         pen.tiltY.reset();
     }
     pen.twist = axisOf(node, ABS_Z);
+    pen.hasTouch = hasKey(node, BTN_TOUCH);
     pen.hasTool = hasKey(node, BTN_TOOL_PEN);
     pen.hasEraser = hasKey(node, BTN_TOOL_RUBBER);
     pen.hasSerial = libevdev_has_event_code(&node, EV_MSC, MSC_SERIAL) != 0;

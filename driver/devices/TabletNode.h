@@ -40,6 +40,7 @@ struct PenDescription {
     std::optional<Axis> tiltX; ///< if there is one, there is the other
     std::optional<Axis> tiltY;
     std::optional<Axis> twist;
+    bool hasTouch = true; ///< the pen says when it touches
     bool hasTool = false; ///< the pen says when it comes into reach
     bool hasEraser = false;
     bool hasSerial = false;

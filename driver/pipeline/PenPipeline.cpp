@@ -94,7 +94,8 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
     pen.x = rounded(between(settings.target.left, settings.target.right, target.x) * mVirtual.xMax);
     pen.y = rounded(between(settings.target.top, settings.target.bottom, target.y) * mVirtual.yMax);
     pen.buttons = buttonsOf(buttons);
-    if (mTablet.pressureMax > 0 && frame.pressure > 0) {
+    // Some pens tell a little pressure before they touch, which would draw.
+    if (mTablet.pressureMax > 0 && frame.isTouching && frame.pressure > 0) {
         const double pressure =
             curvedPressure(std::min(1.0, static_cast<double>(frame.pressure) / mTablet.pressureMax),
                 settings.curve);
