@@ -47,3 +47,6 @@ inline constexpr auto kQVSimulatorInterface = "org.quorvia.TabletSimulator1";
 /** The tablet that the driver uses, another object there. */
 inline constexpr auto kQVTabletPath = "/org/quorvia/Tablet";
 inline constexpr auto kQVTabletInterface = "org.quorvia.Tablet1";
+
+/** Its signal when a button is down or up, with the slot (q) and whether it is down (b). */
+inline constexpr auto kQVButtonSignal = "ButtonChanged";

@@ -163,6 +163,14 @@ void QVKeyComboBox::replaceItem(Item item, const QString& text)
     setCurrentIndex(item);
 }
 
+void QVKeyComboBox::setMarked(bool isMarked)
+{
+    if (mIsMarked != isMarked) {
+        mIsMarked = isMarked;
+        update();
+    }
+}
+
 void QVKeyComboBox::keyPressEvent(QKeyEvent* event)
 {
     if (!wouldChoose(*event)) {
@@ -202,6 +210,12 @@ void QVKeyComboBox::paintEvent(QPaintEvent* event)
         option.rect.setLeft(option.rect.left() + missing);
     }
     painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    if (mIsMarked) {
+        constexpr qreal kWidth = 2;
+        painter.setPen(QPen(palette().color(QPalette::Highlight), kWidth));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(QRectF(rect()).adjusted(kWidth / 2, kWidth / 2, -kWidth / 2, -kWidth / 2));
+    }
 }
 
 bool QVKeyComboBox::event(QEvent* event)

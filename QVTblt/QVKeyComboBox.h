@@ -42,6 +42,10 @@ public:
     int committed() const { return mCommitted; }
     void setCommitted(int committed) { mCommitted = committed; }
 
+    /** Marks the box, as long as its button is pressed on the tablet. */
+    void setMarked(bool isMarked);
+    bool isMarked() const { return mIsMarked; }
+
     /** Sets an item's text and selects it. */
     void replaceItem(Item item, const QString& text);
 
@@ -56,4 +60,5 @@ protected:
 
 private:
     int mCommitted = kCommitted;
+    bool mIsMarked = false;
 };

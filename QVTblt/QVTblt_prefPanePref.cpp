@@ -31,6 +31,14 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
     if (translation && mTranslator.load(*translation)) {
         QCoreApplication::installTranslator(&mTranslator);
     }
+    platform::events().acceptSignal(QLatin1String(kQVTabletPath), QLatin1String(kQVTabletInterface),
+        QLatin1String(kQVButtonSignal));
+    platform::notifications().addObserver(
+        *this, platform::kSourceSignalNotification, [this](const platform::Notification& signal) {
+            if (signal.values.size() == 2) {
+                markButton(signal.values[0].toUInt(), signal.values[1].toBool());
+            }
+        });
     platform::events().acceptEventsFrom(kQVDriverSignature);
     platform::notifications().addObserver(*this, kRecordPushedNotification,
         [this](const platform::Notification&) { mayHaveChanged(); });

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Accessible.h"
 #include "Bundle.h"
 #include "Client.h"
 #include "Geometry.h"
@@ -11,6 +12,7 @@
 #include "ui_QVTblt_prefPanePref.h"
 
 #include <QHash>
+#include <QPointer>
 #include <QTranslator>
 
 #include <array>
@@ -112,6 +114,8 @@ private:
     void layOutKeyPage(std::uint16_t productID);
     void takeApplication(QVKeyComboBox& comboBox, tagQVTabletInfoSubKey& slot);
     void askForKeys(QVKeyComboBox& comboBox);
+    /** A button of the tablet is down or up: marks its box. Screen readers hear it once. */
+    void markButton(std::size_t slot, bool isDown);
 
     QTranslator mTranslator; ///< for the panel's own texts
     double mNoDevTitleX = 0; ///< of the label, from the side on which lines start
@@ -130,6 +134,7 @@ private:
     std::array<QLabel*, kQVSlotCount> mSlotLabels{};
     QHash<QWidget*, bool> mEnabledAtFirst; ///< the key page's controls, as in the interface file
     std::optional<std::uint16_t> mLaidOutProduct;
+    QPointer<platform::NoticeLabel> mPressed; ///< none before the first press
 
     /** Frames in the interface file, and then before each layout moved them. */
     platform::Rect keyFrame_org;

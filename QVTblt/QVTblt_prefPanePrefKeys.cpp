@@ -156,6 +156,26 @@ void QVTblt_prefPanePref::setUpKeyPage()
     connect(mScrollSpeed, &QSlider::valueChanged, this, [this] { ScrollSpeed(mScrollSpeed); });
 }
 
+void QVTblt_prefPanePref::markButton(std::size_t slot, bool isDown)
+{
+    if (mainView() == nullptr || slot >= mSlotBoxes.size()) {
+        return;
+    }
+    QVKeyComboBox& box = *mSlotBoxes[slot];
+    box.setMarked(isDown);
+    if (mPressed == nullptr) {
+        // For screen readers only.
+        mPressed = new platform::NoticeLabel(keyCanvas);
+        mPressed->setGeometry(0, 0, 1, 1);
+    }
+    mPressed->hide();
+    if (isDown && box.isVisible()) {
+        //: Read by screen readers; %1 is the name of a key or of a button of the pen.
+        mPressed->setText(tr("%1 is pressed").arg(box.accessibleName()));
+        mPressed->show();
+    }
+}
+
 void QVTblt_prefPanePref::restoreKeyPage()
 {
     keyCanvas->restorePlaces();
@@ -186,6 +206,7 @@ void QVTblt_prefPanePref::InitComboBoxWithKey()
     mLaidOutProduct = productID;
 
     for (std::size_t slot = 0; slot < kQVSlotCount; ++slot) {
+        mSlotBoxes[slot]->setMarked(false);
         InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
     }
     showStrip(*mKeyLScroll, qvTabletInfo.Key.Scrollbar0);

@@ -96,6 +96,9 @@ inline constexpr QLatin1String kSourceChangedNotification("kSourceChangedNotific
 inline constexpr QLatin1String kEventTakenNotification("kEventTakenNotification");
 inline constexpr QLatin1String kEventNotTakenNotification("kEventNotTakenNotification");
 
+/** Notification, without an object: a signal of acceptSignal() has arrived; with its arguments. */
+inline constexpr QLatin1String kSourceSignalNotification("kSourceSignalNotification");
+
 struct AEDesc;
 struct AEKeyDesc;
 using AEList = std::vector<AEDesc>;
@@ -200,6 +203,15 @@ public:
      * are rejected.
      */
     virtual void acceptEventsFrom(FourCharCode signature) = 0;
+
+    /**
+     * Posts a notification for each signal with that name of one of the same application's objects,
+     * and none from others. To be called before acceptEventsFrom().
+     */
+    virtual void acceptSignal(
+        const QString& /*object*/, const QString& /*interface*/, const QString& /*name*/)
+    {
+    }
 };
 
 /** Returns the session's events, or their replacement by a ServiceScope<AppleEvents>. */

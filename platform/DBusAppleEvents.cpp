@@ -18,6 +18,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstring>
 #include <deque>
@@ -163,6 +164,8 @@ public:
     OSErr mLastError = noErr;
     std::optional<FourCharCode> mSource; ///< the only sender that is accepted
     bool mIsApplication = false; ///< all senders are accepted
+    /** A signal's object, interface and name; empty for none. */
+    std::array<QString, 3> mSignal;
 
     void watchSource()
     {
@@ -184,6 +187,10 @@ public:
         mConnection->connect(wire::busName(*mSource), QLatin1String(wire::kObjectPath),
             QLatin1String(wire::kInterface), QLatin1String(wire::kChangedSignal), this,
             SLOT(noteChange()));
+        if (const auto& [object, interface, name] = mSignal; !name.isEmpty()) {
+            mConnection->connect(wire::busName(*mSource), object, interface, name, this,
+                SLOT(noteSignal(QDBusMessage)));
+        }
     }
 
     void noteAnswer(QDBusPendingCallWatcher* watcher)
@@ -206,6 +213,10 @@ public:
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     void noteChange() { notifications().post({kSourceChangedNotification, nullptr, {}}); }
+    void noteSignal(const QDBusMessage& signal)
+    {
+        notifications().post({kSourceSignalNotification, nullptr, {}, {}, signal.arguments()});
+    }
 
 private:
     void connectAgain()
@@ -424,6 +435,12 @@ void DBusAppleEvents::acceptEventsFrom(FourCharCode signature)
     } else {
         qCWarning(lcEvents, "no session bus: %s", qUtf8Printable(d->lastError()));
     }
+}
+
+void DBusAppleEvents::acceptSignal(
+    const QString& object, const QString& interface, const QString& name)
+{
+    d->mSignal = {object, interface, name};
 }
 
 Result<> DBusAppleEvents::registerApplication(FourCharCode signature)

@@ -31,6 +31,8 @@ public:
     OSErr installEventHandler(AEEventClass eventClass, AEEventID eventID, Handler handler) override;
     OSErr removeEventHandler(AEEventClass eventClass, AEEventID eventID) override;
     void acceptEventsFrom(FourCharCode signature) override;
+    void acceptSignal(
+        const QString& object, const QString& interface, const QString& name) override;
 
     /**
      * Registers this process as the application with that signature, to which all programs on the

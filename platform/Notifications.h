@@ -7,6 +7,7 @@
 #include <QHash>
 #include <QObject>
 #include <QString>
+#include <QVariantList>
 
 #include <functional>
 #include <memory>
@@ -23,6 +24,7 @@ struct Notification {
     const QObject* object = nullptr; ///< the sender
     QHash<QString, std::shared_ptr<const Event>> userInfo;
     QString text = {}; ///< why something failed, for the user; empty on success
+    QVariantList values = {}; ///< the arguments of a signal
 };
 
 /** Main thread only. */

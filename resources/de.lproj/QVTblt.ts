@@ -678,5 +678,10 @@
         <source>Is the tablet connected? Is its driver running? The settings appear here as soon as both are available.</source>
         <translation>Ist das Tablett angeschlossen? Läuft sein Treiber? Die Einstellungen erscheinen hier, sobald beides der Fall ist.</translation>
     </message>
+    <message>
+        <source>%1 is pressed</source>
+        <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
+        <translation>%1 ist gedrückt</translation>
+    </message>
 </context>
 </TS>

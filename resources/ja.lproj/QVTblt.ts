@@ -678,5 +678,10 @@
         <extracomment>In place of a model&apos;s name; %1 is the USB product ID, four hexadecimal digits.</extracomment>
         <translation>不明なタブレット (製品 %1)</translation>
     </message>
+    <message>
+        <source>%1 is pressed</source>
+        <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
+        <translation>%1 が押されています</translation>
+    </message>
 </context>
 </TS>

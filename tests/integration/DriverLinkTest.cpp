@@ -1118,6 +1118,29 @@ TEST_F(Inbound, theDriversComingAndItsWordAreChangesAndItsGoingIsNone)
     EXPECT_EQ(waitForCount(changes, 3), 3);
 }
 
+TEST_F(Inbound, aSignalIsTakenFromTheDriverAlone)
+{
+    mEvents.acceptSignal(QLatin1String(kQVTabletPath), QLatin1String(kQVTabletInterface),
+        QLatin1String(kQVButtonSignal));
+    mEvents.acceptEventsFrom(kQVDriverSignature);
+    const int& changes = countOf(kSourceChangedNotification);
+    const int& buttons = countOf(kSourceSignalNotification);
+    Peer stranger(mBus);
+    Peer driver(mBus, kDriverName);
+    EXPECT_EQ(waitForCount(changes, 1), 1);
+    const auto press = [](Peer& peer) {
+        QDBusMessage signal = QDBusMessage::createSignal(QLatin1String(kQVTabletPath),
+            QLatin1String(kQVTabletInterface), QLatin1String(kQVButtonSignal));
+        signal << QVariant::fromValue(ushort{3}) << true;
+        EXPECT_TRUE(peer.connection().send(signal));
+    };
+    press(stranger);
+    press(driver);
+    EXPECT_EQ(waitForCount(buttons, 1), 1);
+    press(driver);
+    EXPECT_EQ(waitForCount(buttons, 2), 2) << "the stranger's signal was taken";
+}
+
 TEST_F(Inbound, goesOnTakingEventsAfterTheBusWasStartedAgain)
 {
     mEvents.installEventHandler(1, 2, [](const AppleEvent&, AppleEvent&) { return noErr; });

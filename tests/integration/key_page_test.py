@@ -119,6 +119,19 @@ class KeyPage(desktop.Desktop):
         self.start_panel()
         self.wait_for_shown((1, 0))
 
+    def test_a_key_that_is_pressed_on_the_tablet_is_told_once(self):
+        self.start_panel()
+
+        def told():
+            return [thing["name"] for thing in self.things("qvtblt")
+                    if thing["showing"] and "is pressed" in thing["name"]]
+
+        self.assertEqual(told(), [])
+        self.simulator("Press", "qb", "2", "true")
+        session.wait_for(lambda: told() == ["Express key 3 is pressed"], "the key")
+        self.simulator("Press", "qb", "2", "false")
+        session.wait_for(lambda: told() == [], "its release")
+
 
 if __name__ == "__main__":
     unittest.main()

@@ -585,6 +585,27 @@ TEST_F(KeyPage, anotherModelForgetsTheTextsOfTheLast)
 
 // Showing a slot ----------------------------------------------------------------------------------
 
+TEST_F(KeyPage, aKeyIsMarkedAsLongAsItIsPressedOnTheTablet)
+{
+    showProduct(kProductA);
+    const auto press = [](uint slot, bool isDown) {
+        platform::notifications().post(
+            {platform::kSourceSignalNotification, nullptr, {}, {}, {slot, isDown}});
+    };
+    press(2, true);
+    press(17, true);
+    EXPECT_TRUE(box(2).isMarked());
+    EXPECT_TRUE(box(17).isMarked());
+    EXPECT_FALSE(box(3).isMarked());
+    press(2, false);
+    EXPECT_FALSE(box(2).isMarked());
+    EXPECT_TRUE(box(17).isMarked());
+    press(18, true); // there is no such slot
+    press(70000, true);
+    show();
+    EXPECT_FALSE(box(17).isMarked()) << "another tablet's key stays marked";
+}
+
 TEST_F(KeyPage, everyValidAndMouseShowsItsItemAndCommitsIt)
 {
     show();
