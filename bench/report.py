@@ -63,6 +63,14 @@ GROWTHS = {
 
 PEN_LIMIT_MS = 16.7  # a frame at 60 Hz
 
+# What is measured of the driver's input thread.
+RELAYS = {
+    "relay": "a frame of the pen",
+    "relayInAStorm": "the same, with ten thousand pushes at once every second",
+}
+RELAY_LIMIT_US = 50
+RELAY_P99_LIMIT_US = 1000
+
 
 def machine():
     processor = re.search(r"^model name\s*: (.*)$", pathlib.Path("/proc/cpuinfo").read_text(), re.M)
@@ -113,10 +121,18 @@ class Report:
         ]
         return [f"| {what} | {value} | {limit} |" for what, value, limit in rows]
 
+    def relay(self, run):
+        name = run["name"].split("/")[0]
+        median, rare = run["relay_us"], run["relay_p99_us"]
+        return (f"| `{name}`: {RELAYS[name]} | {run['relay_frames']:.0f} | {median:.1f} µs | "
+                f"{self.limit(name, median, RELAY_LIMIT_US, ' µs')} | {run['relay_floor_us']:.1f} µs | "
+                f"{rare:.1f} µs | {self.limit(name + ' p99', rare, RELAY_P99_LIMIT_US, ' µs')} | "
+                f"{run['relay_lost']:.0f} | {self.limit(name + ' lost', run['relay_lost'], 0)} |")
+
 
 def main():
     report = Report()
-    ratios, growths, pens = [], [], []
+    ratios, growths, pens, relays = [], [], [], []
     for name in sys.argv[1:]:
         text = pathlib.Path(name).read_text()
         for run in json.loads(text)["benchmarks"] if text else []:  # a filter may match nothing
@@ -124,6 +140,8 @@ def main():
                 ratios.append(report.ratio(run))
             elif "p99_ms" in run:
                 pens += report.pen(run)
+            elif "relay_us" in run:
+                relays.append(report.relay(run))
             else:
                 growths.append(report.growth(run))
 
@@ -139,6 +157,11 @@ that of Debian 13, in a root of its own.""")
     if pens:
         print("\nA pen with 1000 events a second for ten seconds, under Xvfb:\n",
               "| events | | limit |\n|---|---|---|", *pens, sep="\n")
+    if relays:
+        print("\nThe driver's input thread over pipes, with 1000 frames a second. The floor is a thread that "
+              "reads the same\nbytes and writes them.\n",
+              "| work | frames | median | limit | floor | 99th percentile | limit | lost | limit |",
+              "|---|---|---|---|---|---|---|---|---|", *relays, sep="\n")
     if growths:
         print("\n| memory | times | growth | limit |\n|---|---|---|---|", *growths, sep="\n")
     if report.misses:
