@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "TabletController.h"
 
+#include "Pipe.h"
 #include "TabletNodes.h"
 
 #include <algorithm>
@@ -25,21 +26,6 @@ QString errorText(int error)
 {
     return QString::fromLocal8Bit(std::strerror(error));
 }
-
-/** Both ends of a pipe. */
-struct Pipe {
-    Pipe()
-    {
-        std::array<int, 2> ends{-1, -1};
-        // Without a pipe, the main thread hears nothing, and the pen still works.
-        [[maybe_unused]] const int made = ::pipe2(ends.data(), O_CLOEXEC | O_NONBLOCK);
-        reading = std::make_unique<Descriptor>(ends[0]);
-        writing = std::make_unique<Descriptor>(ends[1]);
-    }
-
-    std::unique_ptr<Descriptor> reading;
-    std::unique_ptr<Descriptor> writing;
-};
 
 } // namespace
 
@@ -69,7 +55,7 @@ struct TabletController::Open {
 
     TabletNodes nodes;
     VirtualDevices devices;
-    Pipe notes;
+    Pipe notes{O_NONBLOCK}; ///< without it, the main thread hears nothing, and the pen still works
     Descriptor wake;
     SettingsExchange exchange;
     TabletRelay relay;

@@ -7,8 +7,6 @@
 
 namespace {
 
-constexpr std::int32_t kNotch = 120; ///< what a notch of a wheel counts
-
 std::chrono::microseconds timeOf(const input_event& event)
 {
     return std::chrono::seconds(event.input_event_sec)
@@ -174,7 +172,7 @@ std::optional<PadFrame> PadDecoder::take(const input_event& event)
         if (its.type == EV_ABS) {
             takeAxis(strip, event.value);
         } else {
-            mFrame.wheels.at(strip) += kNotch * event.value;
+            mFrame.wheels.at(strip) += kWheelNotch * event.value;
         }
     }
     return std::nullopt;

@@ -93,13 +93,13 @@ PadDescription describePad(const libevdev& node)
     addKeys(BTN_MISC, BTN_9);
     addKeys(BTN_MOUSE, BTN_TASK);
     addKeys(BTN_JOYSTICK, BTN_THUMBR);
-    for (const unsigned code : {ABS_RX, ABS_RY, ABS_WHEEL, ABS_THROTTLE}) {
+    for (const unsigned code : std::to_array<unsigned>({ABS_RX, ABS_RY, ABS_WHEEL, ABS_THROTTLE})) {
         const std::optional<Axis> axis = axisOf(node, code);
         if (axis && pad.strips.size() < kPadStrips) {
             pad.strips.push_back({EV_ABS, code, *axis, code == ABS_WHEEL || code == ABS_THROTTLE});
         }
     }
-    for (const unsigned code : {REL_WHEEL, REL_HWHEEL, REL_DIAL}) {
+    for (const unsigned code : std::to_array<unsigned>({REL_WHEEL, REL_HWHEEL, REL_DIAL})) {
         if (libevdev_has_event_code(&node, EV_REL, code) != 0 && pad.strips.size() < kPadStrips) {
             pad.strips.push_back({EV_REL, code, {}, false});
         }

@@ -8,8 +8,6 @@
 
 namespace {
 
-constexpr std::int32_t kNotch = 120;
-
 unsigned toolCode(PenTool tool)
 {
     return tool == PenTool::Eraser ? BTN_TOOL_RUBBER : BTN_TOOL_PEN;
@@ -159,8 +157,8 @@ void CommandWriter::scroll(std::int32_t amount)
 {
     mNotches += amount;
     mMouse.add(EV_REL, REL_WHEEL_HI_RES, amount);
-    if (const std::int32_t whole = mNotches / kNotch; whole != 0) {
-        mNotches -= whole * kNotch;
+    if (const std::int32_t whole = mNotches / kWheelNotch; whole != 0) {
+        mNotches -= whole * kWheelNotch;
         mMouse.add(EV_REL, REL_WHEEL, whole);
     }
     mMouse.endFrame();

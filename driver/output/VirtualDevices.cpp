@@ -8,6 +8,7 @@
 
 #include <QString>
 
+#include <array>
 #include <cstring>
 #include <utility>
 
@@ -79,7 +80,8 @@ NodeState describe(const PenDescription& tablet)
     if (tablet.twist) {
         addAxis(device, ABS_Z, 0, tablet.twist->range(), tablet.twist->resolution);
     }
-    for (const unsigned code : {BTN_TOOL_PEN, BTN_TOUCH, BTN_STYLUS, BTN_STYLUS2, BTN_STYLUS3}) {
+    for (const unsigned code :
+        std::to_array<unsigned>({BTN_TOOL_PEN, BTN_TOUCH, BTN_STYLUS, BTN_STYLUS2, BTN_STYLUS3})) {
         addKey(device, code);
     }
     if (tablet.hasEraser) {
@@ -104,10 +106,12 @@ NodeState describePointer()
 {
     NodeState pointer = newDevice("Quorvia Virtual Pointer", kPointerProduct);
     // Nothing moves it, but without these axes it is no pointer.
-    for (const unsigned code : {REL_X, REL_Y, REL_WHEEL, REL_WHEEL_HI_RES}) {
+    for (const unsigned code :
+        std::to_array<unsigned>({REL_X, REL_Y, REL_WHEEL, REL_WHEEL_HI_RES})) {
         libevdev_enable_event_code(pointer.get(), EV_REL, code, nullptr);
     }
-    for (const unsigned code : {BTN_LEFT, BTN_RIGHT, BTN_MIDDLE, BTN_SIDE}) {
+    for (const unsigned code :
+        std::to_array<unsigned>({BTN_LEFT, BTN_RIGHT, BTN_MIDDLE, BTN_SIDE})) {
         addKey(*pointer, code);
     }
     return pointer;

@@ -3,7 +3,6 @@
 #include "ButtonActions.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace {
 
@@ -34,7 +33,7 @@ void ButtonActions::press(std::size_t slot, const ButtonAssignment& button, Comm
     mHeld.at(slot) = button;
     switch (button.action) {
     case kQVMouseButton:
-        if (!isPenSlot(slot) && mMouseHolders.at(button.mouse)++ == 0) {
+        if (!isPenSlot(slot) && mMouseHolders.at(static_cast<std::size_t>(button.mouse))++ == 0) {
             commands.add(Command::Kind::MouseDown, button.mouse);
         }
         break;
@@ -68,12 +67,13 @@ void ButtonActions::release(std::size_t slot, Commands& commands)
     const ButtonAssignment button = mHeld.at(slot);
     mHeld.at(slot) = {};
     if (button.action == kQVMouseButton && !isPenSlot(slot)
-        && --mMouseHolders.at(button.mouse) == 0) {
+        && --mMouseHolders.at(static_cast<std::size_t>(button.mouse)) == 0) {
         commands.add(Command::Kind::MouseUp, button.mouse);
     }
-    for (const std::uint16_t key : button.keys() | std::views::reverse) {
-        if (--mKeyHolders.at(key) == 0) {
-            commands.add(Command::Kind::KeyUp, key);
+    const auto keys = button.keys();
+    for (auto key = keys.rbegin(); key != keys.rend(); ++key) {
+        if (--mKeyHolders.at(*key) == 0) {
+            commands.add(Command::Kind::KeyUp, *key);
         }
     }
     if (button.action == kQVFinePositioning) {

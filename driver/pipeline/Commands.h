@@ -7,6 +7,9 @@
 #include <cstdint>
 #include <span>
 
+/** What one notch of a wheel counts, as for high-resolution wheels in Linux. */
+inline constexpr std::int32_t kWheelNotch = 120;
+
 /** Something to be done besides moving the pen. */
 struct Command {
     enum class Kind : std::uint8_t {
@@ -14,7 +17,7 @@ struct Command {
         KeyUp,
         MouseDown, ///< value is a QVMouseButton
         MouseUp,
-        Scroll, ///< value is in 120ths of a notch, positive away from the user
+        Scroll, ///< value is in parts of kWheelNotch, positive away from the user
         Launch, ///< starts the application of the slot in value
         NextDisplay,
         Pause, ///< value is 1 when the pen is ignored from now on, 0 when it is not any longer

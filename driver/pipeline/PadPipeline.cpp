@@ -7,9 +7,6 @@
 
 namespace {
 
-/** What a program gets for one notch of a wheel. */
-constexpr std::int64_t kNotch = 120;
-
 /** Notches for a whole strip or turn, for each step of the speed. */
 constexpr std::int64_t kNotchesPerLength = 2;
 
@@ -36,7 +33,7 @@ void PadPipeline::next(const PadFrame& frame, const TabletSettings& settings,
         const bool isWheel = shape.length <= 0;
         const std::int64_t divisor = isWheel ? kPlainSpeed : shape.length;
         const std::int64_t units =
-            isWheel ? frame.wheels.at(strip) : up * down * kNotch * kNotchesPerLength;
+            isWheel ? frame.wheels.at(strip) : up * down * kWheelNotch * kNotchesPerLength;
         const std::int64_t sum = mRest.at(strip) + units * settings.scrollSpeed;
         mRest.at(strip) = sum % divisor;
         if (const std::int64_t scrolled = sum / divisor; scrolled != 0) {

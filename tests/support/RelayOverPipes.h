@@ -2,31 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include "Descriptor.h"
+#include "Pipe.h"
 #include "TabletRelay.h"
 
-#include <array>
 #include <cstdlib>
-#include <fcntl.h>
 #include <memory>
 #include <sys/eventfd.h>
 #include <thread>
 #include <unistd.h>
-
-struct Pipe {
-    Pipe()
-    {
-        std::array<int, 2> ends{-1, -1};
-        if (::pipe2(ends.data(), O_CLOEXEC) != 0) {
-            std::abort();
-        }
-        reading = std::make_unique<Descriptor>(ends[0]);
-        writing = std::make_unique<Descriptor>(ends[1]);
-    }
-
-    std::unique_ptr<Descriptor> reading;
-    std::unique_ptr<Descriptor> writing;
-};
 
 inline input_event event(unsigned type, unsigned code, std::int32_t value)
 {
