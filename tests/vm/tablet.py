@@ -22,7 +22,7 @@ BUS_USB = 3
 
 PRESSURE_MAX = 8191
 TILT_MAX = 60  # degrees
-TWIST_TURN = 360
+DISTANCE_MAX = 63
 KEYS = 16
 STRIP_MAX = 100
 RING_TURN = 72
@@ -75,8 +75,8 @@ GENERIC, BUTTONS, DIGITIZER = 0x01, 0x09, 0x0D
 
 
 def pen_descriptor(x_max, y_max, width, height):
-    """A pen of a surface with this size in millimetres. It has tilt, twist, an eraser, two buttons and
-    a serial number. HID has nothing that the kernel takes for a distance."""
+    """A pen of a surface with this size in millimetres. It has tilt, an eraser, two buttons and a serial
+    number, and what the kernel takes for its distance. HID has nothing that it takes for a twist."""
     return page(DIGITIZER) + usages(0x02) + collection(
         APPLICATION, usages(0x20), collection(
             PHYSICAL,
@@ -86,8 +86,8 @@ def pen_descriptor(x_max, y_max, width, height):
             page(GENERIC),
             measure(0, 10 * width, 0x11, -2), usages(0x30), fields(1, 32, 0, x_max),
             measure(0, 10 * height, 0x11, -2), usages(0x31), fields(1, 32, 0, y_max),
-            measure(0, TWIST_TURN, 0x14), usages(0x32), fields(1, 16, 0, TWIST_TURN - 1),
-            page(DIGITIZER), measure(0, 0),
+            measure(0, 0), usages(0x32), fields(1, 16, 0, DISTANCE_MAX),
+            page(DIGITIZER),
             usages(0x30), fields(1, 16, 0, PRESSURE_MAX),
             measure(-TILT_MAX, TILT_MAX, 0x14),
             usages(0x3D, 0x3E), fields(2, 8, -TILT_MAX, TILT_MAX),
@@ -149,10 +149,10 @@ class Tablet:
                 Device(f"{name} Pad", f"{place}/input1", serial, vendor, product, pad_descriptor()))
         self.down = self.at_strip = self.at_ring = 0
 
-    def pen(self, x, y, pressure=0, buttons=0, *, tilt=(0, 0), twist=0, serial=0, eraser=False):
+    def pen(self, x, y, pressure=0, buttons=0, *, tilt=(0, 0), distance=0, serial=0, eraser=False):
         touches = pressure > 0
         flags = (touches and not eraser) | buttons << 1 | eraser << 3 | (touches and eraser) << 4 | 0x20
-        self.devices[0].send(PEN_REPORT.pack(flags, x, y, twist, pressure, *tilt, serial))
+        self.devices[0].send(PEN_REPORT.pack(flags, x, y, distance, pressure, *tilt, serial))
 
     def away(self):
         self.devices[0].send(PEN_REPORT.pack(0, 0, 0, 0, 0, 0, 0, 0))

@@ -1,0 +1,61 @@
+# SPDX-FileCopyrightText: 2026 The QVTblt developers
+# SPDX-License-Identifier: MIT
+"""As much of logind as the driver asks for: one user with one session, which standard input commands, a
+line each: "Active 0", "LockedHint 1", or "PrepareForSleep 1". Says "ready" when it is on the bus, and
+repeats each line when its signal is out."""
+
+import sys
+
+from gi.repository import Gio, GLib
+
+NAME = "org.freedesktop.login1"
+MANAGER, USER, SESSION = (
+    f"/org/freedesktop/login1{path}" for path in ("", "/user/self", "/session/_31"))
+INTERFACES = Gio.DBusNodeInfo.new_for_xml(f"""<node>
+<interface name="{NAME}.Manager"><signal name="PrepareForSleep"><arg type="b"/></signal></interface>
+<interface name="{NAME}.User"><property name="Display" type="(so)" access="read"/></interface>
+<interface name="{NAME}.Session">
+<property name="Active" type="b" access="read"/><property name="LockedHint" type="b" access="read"/>
+</interface></node>""").interfaces
+
+
+def main():
+    bus = Gio.bus_get_sync(Gio.BusType.SYSTEM)
+    state = {"Active": True, "LockedHint": False}
+    values = {"Display": lambda: GLib.Variant("(so)", ("1", SESSION)),
+              "Active": lambda: GLib.Variant("b", state["Active"]),
+              "LockedHint": lambda: GLib.Variant("b", state["LockedHint"])}
+
+    def get(_bus, _sender, _path, _interface, name):
+        return values[name]()
+
+    def command(channel, _condition):
+        line = channel.readline()
+        if not line:
+            loop.quit()
+            return False
+        name, number = line.split()
+        value = bool(int(number))
+        if name == "PrepareForSleep":
+            bus.emit_signal(None, MANAGER, f"{NAME}.Manager", name, GLib.Variant("(b)", (value,)))
+        else:
+            state[name] = value
+            bus.emit_signal(
+                None, SESSION, "org.freedesktop.DBus.Properties", "PropertiesChanged",
+                GLib.Variant("(sa{sv}as)", (f"{NAME}.Session", {name: GLib.Variant("b", value)}, [])))
+        bus.flush_sync()
+        print(line, end="", flush=True)
+        return True
+
+    for path, interface in zip((MANAGER, USER, SESSION), INTERFACES):
+        bus.register_object(path, interface, None, get, None)
+    bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
+                  GLib.Variant("(su)", (NAME, 0)), None, Gio.DBusCallFlags.NONE, -1)
+    print("ready", flush=True)
+    loop = GLib.MainLoop()
+    GLib.io_add_watch(sys.stdin, GLib.IO_IN | GLib.IO_HUP, command)
+    loop.run()
+
+
+if __name__ == "__main__":
+    main()
