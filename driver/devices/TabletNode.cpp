@@ -81,8 +81,9 @@ PadStrips PadDescription::ranges() const
 PadDescription describePad(const libevdev& node)
 {
     PadDescription pad;
-    // Where tablets have their keys: of general use, of games, and of mice. Keys of the keyboard
-    // are not taken: a tablet that has these types by itself.
+    // Where tablets have their keys: of general use, of mice, and of games. A generic one may have
+    // more than ten of general use, beyond those with names. Keys of the keyboard are not taken: a
+    // tablet that has these types by itself.
     const auto addKeys = [&](unsigned first, unsigned last) {
         for (unsigned code = first; code <= last && pad.keys.size() < kQVUpperPenSlot; ++code) {
             if (hasKey(node, code)) {
@@ -90,8 +91,7 @@ PadDescription describePad(const libevdev& node)
             }
         }
     };
-    addKeys(BTN_MISC, BTN_9);
-    addKeys(BTN_MOUSE, BTN_TASK);
+    addKeys(BTN_MISC, BTN_TASK);
     addKeys(BTN_JOYSTICK, BTN_THUMBR);
     for (const unsigned code : std::to_array<unsigned>({ABS_RX, ABS_RY, ABS_WHEEL, ABS_THROTTLE})) {
         const std::optional<Axis> axis = axisOf(node, code);
