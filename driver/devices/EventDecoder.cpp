@@ -24,13 +24,17 @@ std::int32_t fromCentre(const std::optional<Axis>& axis, std::int32_t value)
     if (!axis) {
         return 0;
     }
-    const std::int32_t centre = axis->minimum + (axis->range() + 1) / 2;
-    return std::clamp(value, axis->minimum, axis->maximum) - (axis->minimum < 0 ? 0 : centre);
+    const std::int32_t half = (axis->range() + 1) / 2;
+    const std::int32_t centre = axis->minimum < 0 ? 0 : axis->minimum + half;
+    return std::clamp(std::clamp(value, axis->minimum, axis->maximum) - centre, -half, half);
 }
 
+/** More than a hand turns a wheel within a frame. */
+constexpr std::int32_t kMostNotches = 100;
+
 /** The keys of a pen, in the order in which a state is read. */
-constexpr auto kPenKeys = std::to_array<unsigned>(
-    {BTN_TOOL_PEN, BTN_TOOL_RUBBER, BTN_TOUCH, BTN_STYLUS, BTN_STYLUS2, BTN_STYLUS3});
+constexpr auto kPenKeys = std::to_array<unsigned>({BTN_TOOL_PEN, BTN_TOOL_BRUSH, BTN_TOOL_PENCIL,
+    BTN_TOOL_AIRBRUSH, BTN_TOOL_RUBBER, BTN_TOUCH, BTN_STYLUS, BTN_STYLUS2, BTN_STYLUS3});
 constexpr auto kPenAxes = std::to_array<unsigned>(
     {ABS_X, ABS_Y, ABS_PRESSURE, ABS_DISTANCE, ABS_TILT_X, ABS_TILT_Y, ABS_Z});
 
@@ -81,7 +85,10 @@ void PenDecoder::takeKey(unsigned code, bool isDown)
     };
     switch (code) {
     case BTN_TOOL_PEN:
-        mHasTip = isDown;
+    case BTN_TOOL_BRUSH:
+    case BTN_TOOL_PENCIL:
+    case BTN_TOOL_AIRBRUSH:
+        mTips.set(code - BTN_TOOL_PEN, isDown);
         break;
     case BTN_TOOL_RUBBER:
         mHasEraser = isDown;
@@ -134,13 +141,13 @@ void PenDecoder::takeAxis(unsigned code, std::int32_t value)
 
 bool PenDecoder::isAtRest() const
 {
-    return !mHasTip && !mHasEraser && !mFrame.isTouching && mFrame.buttons == 0;
+    return mTips.none() && !mHasEraser && !mFrame.isTouching && mFrame.buttons == 0;
 }
 
 PenFrame PenDecoder::frame()
 {
     // Some kernels say both while the eraser is near.
-    const bool hasTip = mHasTip || !mDescription.hasTool;
+    const bool hasTip = mTips.any() || !mDescription.hasTool;
     mFrame.tool = mHasEraser ? PenTool::Eraser : hasTip ? PenTool::Tip : PenTool::None;
     if (!mDescription.hasTouch) {
         mFrame.isTouching = mFrame.pressure > 0;
@@ -172,7 +179,10 @@ std::optional<PadFrame> PadDecoder::take(const input_event& event)
         if (its.type == EV_ABS) {
             takeAxis(strip, event.value);
         } else {
-            mFrame.wheels.at(strip) += kWheelNotch * event.value;
+            const std::int32_t notches = mFrame.wheels.at(strip) / kWheelNotch
+                + std::clamp(event.value, -kMostNotches, kMostNotches);
+            mFrame.wheels.at(strip) =
+                kWheelNotch * std::clamp(notches, -kMostNotches, kMostNotches);
         }
     }
     return std::nullopt;
@@ -203,9 +213,10 @@ void PadDecoder::takeAxis(std::size_t strip, std::int32_t value)
 {
     // A strip that is left says 0, which is no place on it; a ring has one there.
     const StripDescription& its = mDescription.strips[strip];
-    if (!its.isRing && !mSaysTouch && value == its.axis.minimum) {
+    const std::int32_t place = fromMinimum(its.axis, value);
+    if (!its.isRing && !mSaysTouch && place == 0) {
         mFrame.strips.at(strip).reset();
     } else {
-        mFrame.strips.at(strip) = value - its.axis.minimum;
+        mFrame.strips.at(strip) = place;
     }
 }

@@ -6,6 +6,7 @@
 #include "PenFrame.h"
 #include "TabletNode.h"
 
+#include <bitset>
 #include <linux/input.h>
 #include <optional>
 
@@ -37,7 +38,8 @@ private:
     PenDescription mDescription;
     PenFrame mFrame{};
     std::uint32_t mSerial = 0;
-    bool mHasTip = false;
+    /** The tips in reach. Some tablets tell kinds of pens apart, which are all the same to us. */
+    std::bitset<BTN_TOOL_AIRBRUSH - BTN_TOOL_PEN + 1> mTips;
     bool mHasEraser = false;
 };
 

@@ -8,13 +8,19 @@
 
 namespace {
 
+/** Far more than a tablet has. A device may claim anything, but nothing must overflow. */
+constexpr std::int32_t kMostUnits = 1 << 24;
+constexpr std::int32_t kMostResolution = 1 << 20;
+
 std::optional<Axis> axisOf(const libevdev& node, unsigned code)
 {
     const input_absinfo* const info = libevdev_get_abs_info(&node, code);
-    if (info == nullptr || info->maximum <= info->minimum) {
+    if (info == nullptr || info->maximum <= info->minimum
+        || std::int64_t{info->maximum} - info->minimum > kMostUnits) {
         return std::nullopt;
     }
-    return Axis{info->minimum, info->maximum, info->resolution};
+    const bool isKnown = info->resolution > 0 && info->resolution <= kMostResolution;
+    return Axis{info->minimum, info->maximum, isKnown ? info->resolution : 0};
 }
 
 bool hasKey(const libevdev& node, unsigned code)

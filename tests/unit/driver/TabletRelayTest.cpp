@@ -12,6 +12,7 @@
 
 #include <array>
 #include <fcntl.h>
+#include <limits>
 #include <map>
 #include <memory>
 #include <optional>
@@ -227,6 +228,44 @@ TEST_F(TabletRelayTest, whatTheMainThreadDoesIsToldToIt)
     send(pad, {event(EV_KEY, BTN_0, 1)});
     const RelayNote launch = expectNote(RelayNote::Kind::Command);
     EXPECT_EQ(launch.command, (Command{Command::Kind::Launch, 0}));
+}
+
+TEST_F(TabletRelayTest, anyKindOfPenIsOne)
+{
+    start();
+    send(pen, {event(EV_KEY, BTN_TOOL_BRUSH, 1), event(EV_ABS, ABS_X, 7)});
+    EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOOL_PEN}), 1);
+    send(pen, {event(EV_KEY, BTN_TOOL_AIRBRUSH, 1), event(EV_KEY, BTN_TOOL_BRUSH, 0)});
+    EXPECT_FALSE(frameOf(virtualPen).contains({EV_KEY, BTN_TOOL_PEN}));
+    send(pen, {event(EV_KEY, BTN_TOOL_AIRBRUSH, 0)});
+    EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOOL_PEN}), 0);
+}
+
+TEST_F(TabletRelayTest, valuesThatADeviceDoesNotHaveAreThoseOfTheNearestEnd)
+{
+    constexpr std::int32_t kLeast = std::numeric_limits<std::int32_t>::min();
+    constexpr std::int32_t kMost = std::numeric_limits<std::int32_t>::max();
+    description.x = {kLeast, kLeast + 10000, 100};
+    description.tiltX = Axis{kLeast, kLeast + 10, 0};
+    description.tiltY = Axis{kMost - 10, kMost, 0};
+    padDescription.strips.push_back({EV_ABS, ABS_RX, {kLeast, kLeast + 100, 0}, false});
+    padDescription.strips.push_back({EV_REL, REL_WHEEL, {}, false});
+    settings.isTurned = true;
+    start();
+    send(pen,
+        {event(EV_KEY, BTN_TOOL_PEN, 1), event(EV_ABS, ABS_X, kMost),
+            event(EV_ABS, ABS_TILT_X, kLeast), event(EV_ABS, ABS_TILT_Y, kLeast)});
+    const Frame frame = frameOf(virtualPen);
+    EXPECT_EQ(frame.at({EV_ABS, ABS_TILT_X}), 5);
+    EXPECT_EQ(frame.at({EV_ABS, ABS_TILT_Y}), 5);
+    EXPECT_FALSE(frame.contains({EV_ABS, ABS_X})); // the right end, turned
+    send(pad, {event(EV_ABS, ABS_RX, kLeast + 1)});
+    send(pad, {event(EV_ABS, ABS_RX, kMost)});
+    EXPECT_EQ(frameOf(pointer).at({EV_REL, REL_WHEEL_HI_RES}), 99 * 120 * 2 * 5 / 100);
+    send(pad, std::vector<input_event>(2, event(EV_REL, REL_WHEEL, kMost)));
+    EXPECT_EQ(frameOf(pointer).at({EV_REL, REL_WHEEL_HI_RES}), 100 * 120);
+    send(pad, {event(EV_REL, REL_WHEEL, kLeast)});
+    EXPECT_EQ(frameOf(pointer).at({EV_REL, REL_WHEEL_HI_RES}), -100 * 120);
 }
 
 TEST_F(TabletRelayTest, whatWasLostIsNotMadeUp)
