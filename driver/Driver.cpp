@@ -413,8 +413,11 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
         }
     }
     mSaveSoon.start();
-    mSettings = *record;
-    Q_EMIT settingsChanged();
+    // A panel may still show another tablet, whose area and keys would make no sense on this one.
+    if (QVProductID(*record) == mAttached) {
+        mSettings = *record;
+        Q_EMIT settingsChanged();
+    }
     Q_EMIT pushed(mState.pushes);
     return noErr;
 }
