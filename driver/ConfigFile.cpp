@@ -43,15 +43,39 @@ tagQVTabletInfo defaults(const QVTabletModel& model, std::uint16_t vendorID)
     return record;
 }
 
+/** The path of a number's file, which is also the file of the store from now on. */
+std::string select(std::uint16_t number)
+{
+    std::snprintf(GetPListName(), kQVListNameSize, "%u.plist", unsigned{number});
+    return QVConfigStore::configPath();
+}
+
+/** Even a broken link or a folder is left alone: it is the user's. */
+bool exists(const QFileInfo& file)
+{
+    return file.exists() || file.isSymLink();
+}
+
 } // namespace
+
+bool mayBeConfigFileOf(std::uint16_t number, std::uint16_t vendorID, const QString& name)
+{
+    const std::string path = select(number);
+    if (!exists(QFileInfo(QFile::decodeName(path.c_str())))) {
+        return true;
+    }
+    qvTabletInfo = {};
+    QVConfigStore store;
+    return store.loadRecord(path)
+        && static_cast<std::uint16_t>(qvTabletInfo.Basic.VendorID) == vendorID
+        && store.tabletName() == name;
+}
 
 platform::Result<> installConfigFile(const QVTabletModel& model, std::uint16_t vendorID)
 {
-    std::snprintf(GetPListName(), kQVListNameSize, "%u.plist", unsigned{model.productID});
-    const std::string path = QVConfigStore::configPath();
+    const std::string path = select(model.productID);
     const QFileInfo file(QFile::decodeName(path.c_str()));
-    // Even a broken link or a folder is left alone: it is the user's.
-    if (file.exists() || file.isSymLink()) {
+    if (exists(file)) {
         return {};
     }
     if (!QDir().mkpath(file.path())) {

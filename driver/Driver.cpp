@@ -161,7 +161,8 @@ Result<> Driver::attachTablet(const QVTabletModel& model, std::uint16_t vendorID
     return {};
 }
 
-Result<std::uint16_t> Driver::configNumber(std::uint16_t vendorID, std::uint16_t productID)
+Result<std::uint16_t> Driver::configNumber(
+    std::uint16_t vendorID, std::uint16_t productID, const QString& name)
 {
     if (vendorID == kQVVendorID) {
         return productID;
@@ -176,7 +177,8 @@ Result<std::uint16_t> Driver::configNumber(std::uint16_t vendorID, std::uint16_t
     const QList<std::uint16_t> taken = mState.numbers.values();
     for (std::uint32_t number = kFirstForeignNumber; number <= 0xFFFF; ++number) {
         const auto candidate = static_cast<std::uint16_t>(number);
-        if (!taken.contains(candidate)) {
+        // After the state was lost, a tablet finds its own file again, and no other's.
+        if (!taken.contains(candidate) && mayBeConfigFileOf(candidate, vendorID, name)) {
             mState.numbers.insert(key, candidate);
             saveState(); // before the file has this number
             return candidate;

@@ -70,8 +70,11 @@ public:
     /**
      * The number of a tablet's configuration file: the product ID of one of our own, else a number
      * from 0x8000 on that it keeps.
+     *
+     * @param name of the tablet, as in its file
      */
-    platform::Result<std::uint16_t> configNumber(std::uint16_t vendorID, std::uint16_t productID);
+    platform::Result<std::uint16_t> configNumber(
+        std::uint16_t vendorID, std::uint16_t productID, const QString& name);
 
     /** The tablet that the user chose, as Tablet::id(); empty for the first one. */
     const QString& chosenTablet() const { return mState.chosen; }

@@ -227,7 +227,8 @@ Result<> TabletController::attach(const Tablet& tablet)
 Result<> TabletController::prepare(const Tablet& tablet, const TabletNodes& nodes)
 {
     const PenDescription& pen = nodes.pen;
-    const Result<std::uint16_t> number = mDriver.configNumber(tablet.vendor, tablet.product);
+    const Result<std::uint16_t> number =
+        mDriver.configNumber(tablet.vendor, tablet.product, tablet.name);
     if (!number) {
         return number.error();
     }

@@ -152,7 +152,7 @@ TEST_F(Tablets, areDescribed)
     const std::string text = QVTabletListText({entries}).toStdString();
     EXPECT_EQ(text,
         "1234:0042  Acme Pen\n    /dev/input/event1, 240 x 150 mm, 8192 pressure levels, tilt, "
-        "eraser, 4 keys, 1 strips or rings\n");
+        "eraser, 4 keys, 1 strip or ring\n");
 }
 
 TEST_F(Tablets, thatAreUnpluggedWhileTheyAreOpenedSaySo)
@@ -167,6 +167,18 @@ TEST_F(Tablets, thatAreUnpluggedWhileTheyAreOpenedSaySo)
     mBus.removeFile(1);
     EXPECT_EQ(errorText(TabletNodes::open(monitor.tablets()[0])),
         "Acme Pen cannot be opened: /dev/input/event1: No such file or directory");
+}
+
+QVTabletModel acmePen()
+{
+    QVTabletModel model{};
+    model.productID = 0x8000;
+    model.name = "Acme Pen";
+    model.keyNum = 16;
+    model.tabletXmax = 40000;
+    model.tabletYmax = 30000;
+    model.pressureMax = 8191;
+    return model;
 }
 
 TEST_F(TabletsOfTheDriver, sayWhatIsMissing)
@@ -228,25 +240,33 @@ TEST_F(TabletsOfTheDriver, theFirstIsUsedUntilAnotherIsChosen)
 
 TEST_F(TabletsOfTheDriver, ofOtherVendorsHaveNumbersOfTheirOwn)
 {
-    EXPECT_EQ(mDriver.configNumber(kQVVendorID, 0x5101).value(), 0x5101);
-    EXPECT_EQ(mDriver.configNumber(0x1234, 0x5101).value(), 0x8000);
-    EXPECT_EQ(mDriver.configNumber(0x1234, 0x5102).value(), 0x8001);
-    EXPECT_EQ(mDriver.configNumber(0x1234, 0x5101).value(), 0x8000);
+    const QString kName = QStringLiteral("Acme Pen");
+    EXPECT_EQ(mDriver.configNumber(kQVVendorID, 0x5101, kName).value(), 0x5101);
+    EXPECT_EQ(mDriver.configNumber(0x1234, 0x5101, kName).value(), 0x8000);
+    EXPECT_EQ(mDriver.configNumber(0x1234, 0x5102, kName).value(), 0x8001);
+    EXPECT_EQ(mDriver.configNumber(0x1234, 0x5101, kName).value(), 0x8000);
     Driver next(mEvents, mNoBus);
     next.start();
-    EXPECT_EQ(next.configNumber(0x1234, 0x5102).value(), 0x8001);
-    EXPECT_EQ(next.configNumber(0x4321, 0x5101).value(), 0x8002);
+    EXPECT_EQ(next.configNumber(0x1234, 0x5102, kName).value(), 0x8001);
+    EXPECT_EQ(next.configNumber(0x4321, 0x5101, kName).value(), 0x8002);
+}
+
+TEST_F(TabletsOfTheDriver, findTheirFilesWithoutTheState)
+{
+    QVTabletModel model = acmePen();
+    EXPECT_EQ(errorText(mDriver.attachTablet(model, 0x1234)), "");
+    model.productID = 0x8001;
+    model.name = "Other Pen";
+    EXPECT_EQ(errorText(mDriver.attachTablet(model, 0x1234)), "");
+    EXPECT_EQ(mDriver.configNumber(0x1234, 1, QStringLiteral("Other Pen")).value(), 0x8001);
+    EXPECT_EQ(mDriver.configNumber(0x4321, 2, QStringLiteral("Acme Pen")).value(), 0x8002)
+        << "of another vendor";
+    EXPECT_EQ(mDriver.configNumber(0x1234, 3, QStringLiteral("Acme Pen")).value(), 0x8000);
 }
 
 TEST_F(TabletsOfTheDriver, getAFileOnceWithTheirName)
 {
-    QVTabletModel model{};
-    model.productID = 0x8000;
-    model.name = "Acme Pen";
-    model.keyNum = 16;
-    model.tabletXmax = 40000;
-    model.tabletYmax = 30000;
-    model.pressureMax = 8191;
+    QVTabletModel model = acmePen();
     EXPECT_EQ(errorText(mDriver.attachTablet(model, 0x1234)), "");
     EXPECT_EQ(mDriver.attached(), 0x8000);
     EXPECT_EQ(mDriver.settings().Basic.KeyNum, 16);
