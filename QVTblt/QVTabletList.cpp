@@ -35,7 +35,8 @@ QString QVTabletListText(const QVTabletList& tablets)
             facts +=
                 entry("eraser").toBool() ? QStringLiteral("eraser") : QStringLiteral("no eraser");
             facts += number("keys", "keys");
-            facts += number("strips", "strips or rings");
+            facts += entry("strips").toUInt() == 1 ? QStringLiteral("1 strip or ring")
+                                                   : number("strips", "strips or rings");
         }
         text += QStringLiteral("    %1\n").arg(facts.join(QStringLiteral(", ")));
         if (const QString problem = word("problem"); !problem.isEmpty()) {

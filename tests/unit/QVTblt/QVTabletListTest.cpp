@@ -30,10 +30,10 @@ TEST(QVTabletList, saysOfEachTabletWhatItHas)
     EXPECT_EQ(QVTabletListText({tablet(), second}).toStdString(),
         "6f3d:0042  Pen M (in use)\n"
         "    /dev/input/event7, 240 x 150 mm, 8192 pressure levels, tilt, no eraser, 8 keys, "
-        "1 strips or rings\n"
+        "1 strip or ring\n"
         "6f3d:0042  Pen M\n"
-        "    /dev/input/event7, 8192 pressure levels, no tilt, eraser, 8 keys, 1 strips or "
-        "rings\n");
+        "    /dev/input/event7, 8192 pressure levels, no tilt, eraser, 8 keys, 1 strip or "
+        "ring\n");
 }
 
 TEST(QVTabletList, saysWhyATabletCannotBeUsed)
