@@ -10,6 +10,7 @@
 #include "PaneTest.h"
 #include "QVCalibrateWin.h"
 #include "QVCalibration.h"
+#include "SameImage.h"
 #include "Wait.h"
 
 #include <QComboBox>
@@ -1033,10 +1034,8 @@ TEST_F(Calibration, drawsEachCrossAndTheHintAsPlainPainterCallsDo)
 
         view().setDrawEraseFlag(flag);
         const QImage drawn = view().grab().toImage();
-        ASSERT_EQ(drawn.size(), expected.size());
-        EXPECT_EQ(drawn.convertToFormat(QImage::Format_RGB32),
-            expected.convertToFormat(QImage::Format_RGB32))
-            << flag << " at density " << density;
+        SCOPED_TRACE(testing::Message() << flag << " at density " << density);
+        expectSameImage(drawn, expected);
     }
 }
 
