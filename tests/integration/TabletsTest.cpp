@@ -269,14 +269,14 @@ TEST_F(TabletsOfTheDriver, getAFileOnceWithTheirName)
     QVTabletModel model = acmePen();
     EXPECT_EQ(errorText(mDriver.attachTablet(model, 0x1234)), "");
     EXPECT_EQ(mDriver.attached(), 0x8000);
-    EXPECT_EQ(mDriver.settings().Basic.KeyNum, 16);
-    EXPECT_EQ(mDriver.settings().Basic.PressureMax, 8191);
-    EXPECT_EQ(mDriver.settings().Monitor.cTabletXmax, 40000);
+    EXPECT_EQ(int{mDriver.settings().Basic.KeyNum}, 16);
+    EXPECT_EQ(int{mDriver.settings().Basic.PressureMax}, 8191);
+    EXPECT_EQ(int{mDriver.settings().Monitor.cTabletXmax}, 40000);
     QVConfigStore store;
     EXPECT_TRUE(store.loadTabletsRecord());
     EXPECT_EQ(store.tabletName(), QStringLiteral("Acme Pen"));
     model.keyNum = 2;
     mDriver.detach();
     EXPECT_EQ(errorText(mDriver.attachTablet(model, 0x1234)), "");
-    EXPECT_EQ(mDriver.settings().Basic.KeyNum, 16) << "the file was replaced";
+    EXPECT_EQ(int{mDriver.settings().Basic.KeyNum}, 16) << "the file was replaced";
 }
