@@ -69,7 +69,6 @@ bool PenWriter::write(const PenFrame& frame)
         stay(frame);
         stamp(frame.time);
     }
-    mLast = frame;
     return mEvents.writeTo(mFd);
 }
 

@@ -52,7 +52,7 @@ private:
     void stamp(std::chrono::microseconds time);
 
     int mFd;
-    PenFrame mLast{};
+    PenFrame mLast{}; ///< what the device has, also while the pen is out of reach
     EventBuffer mEvents;
 };
 
