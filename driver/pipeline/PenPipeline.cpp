@@ -57,8 +57,14 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
     ButtonActions& buttons, Commands& commands)
 {
     const bool isNear = frame.tool != PenTool::None;
-    buttons.set(kQVLowerPenSlot, isNear && (frame.buttons & kPenLower) != 0, settings, commands);
-    buttons.set(kQVUpperPenSlot, isNear && (frame.buttons & kPenUpper) != 0, settings, commands);
+    const auto setButton = [&](std::size_t slot, PenButton bit) {
+        // While the pen is ignored, a button of it can still end that.
+        const bool isIgnored = settings.isCalibrating || buttons.isPaused();
+        const bool mayAct = !isIgnored || settings.buttons.at(slot).action == kQVPauseTablet;
+        buttons.set(slot, isNear && mayAct && (frame.buttons & bit) != 0, settings, commands);
+    };
+    setButton(kQVLowerPenSlot, kPenLower);
+    setButton(kQVUpperPenSlot, kPenUpper);
 
     PenFrame gone;
     gone.time = frame.time;
@@ -77,14 +83,20 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
     if (!isNear || settings.isCalibrating || buttons.isPaused()) {
         mAnchor.reset();
         mLast = gone;
-        if (!isNear || !settings.isCalibrating) {
-            return {gone, std::nullopt};
-        }
-        return {gone,
-            QVPenReport{frame.isTouching ? 1U : 0U, static_cast<std::uint16_t>(rounded(units.x)),
+        std::optional<QVPenReport> report;
+        if (settings.isCalibrating && isNear) {
+            report = QVPenReport{frame.isTouching ? 1U : 0U,
+                static_cast<std::uint16_t>(rounded(units.x)),
                 static_cast<std::uint16_t>(rounded(units.y)),
-                static_cast<std::uint32_t>(std::max(frame.pressure, 0))}};
+                static_cast<std::uint32_t>(std::max(frame.pressure, 0))};
+        } else if (settings.isCalibrating && mTouching) {
+            // It was lifted and left in one frame, which tells no place.
+            report = QVPenReport{0, mTouching->x, mTouching->y, 0};
+        }
+        mTouching = report && report->key != 0 ? report : std::nullopt;
+        return {gone, report};
     }
+    mTouching.reset();
 
     const TabletRect& area = settings.area;
     const Point target =

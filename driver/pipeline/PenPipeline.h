@@ -53,4 +53,6 @@ private:
     PenFrame mLast{}; ///< of the virtual pen
     /** Where the pen was when fine positioning began. */
     std::optional<Point> mAnchor;
+    /** The last report of the calibration, if the tip was on the surface. */
+    std::optional<QVPenReport> mTouching;
 };

@@ -260,7 +260,43 @@ TEST_F(PenPipelineTest, whileThePanelCalibratesItGetsReportsAndThePenMovesNothin
     result = next(touching);
     ASSERT_TRUE(result.report);
     EXPECT_EQ(*result.report, (QVPenReport{1, 20000, 10000, 300}));
+    touching.isTouching = false;
+    next(touching);
     EXPECT_FALSE(next(PenFrame()).report);
+}
+
+TEST_F(PenPipelineTest, aPenThatLeavesWhileItTouchesIsLiftedWhereItWas)
+{
+    settings.isCalibrating = true;
+    next(pressed(300));
+    const PenPipeline::Result result = next(PenFrame());
+    ASSERT_TRUE(result.report);
+    EXPECT_EQ(*result.report, (QVPenReport{0, 50, 50, 0}));
+    EXPECT_FALSE(next(PenFrame()).report);
+    next(pressed(300));
+    settings.isCalibrating = false;
+    next(pressed(300));
+    settings.isCalibrating = true;
+    EXPECT_FALSE(next(PenFrame()).report) << "of a calibration before";
+}
+
+TEST_F(PenPipelineTest, aButtonOfAPenThatIsIgnoredDoesNothing)
+{
+    assign(kQVLowerPenSlot, kQVPauseTablet);
+    assign(kQVUpperPenSlot, kQVApplication);
+    settings.isCalibrating = true;
+    next(holding(kPenUpper));
+    EXPECT_TRUE(commands.all().empty());
+    next(at(2, 2));
+    settings.isCalibrating = false;
+    next(holding(kPenLower));
+    next(holding(kPenUpper));
+    EXPECT_TRUE(commands.all().empty());
+    next(holding(kPenLower));
+    next(at(2, 2));
+    next(holding(kPenUpper));
+    ASSERT_EQ(commands.all().size(), 1U);
+    EXPECT_EQ(commands.all()[0].kind, Command::Kind::Launch);
 }
 
 TEST_F(PenPipelineTest, theReportsOfATurnedTabletAreTurned)
