@@ -7,12 +7,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstring>
 #include <fcntl.h>
 #include <limits>
 #include <sys/eventfd.h>
 #include <unistd.h>
+#include <utility>
 
 using platform::Error;
 using platform::Result;
@@ -21,11 +20,6 @@ namespace {
 
 constexpr std::int32_t kMaxUnits = std::numeric_limits<std::uint16_t>::max();
 constexpr std::int32_t kMaxPressure = std::numeric_limits<std::int16_t>::max();
-
-QString errorText(int error)
-{
-    return QString::fromLocal8Bit(std::strerror(error));
-}
 
 } // namespace
 
@@ -77,10 +71,11 @@ TabletController::TabletController(
     connect(&mMonitor, &TabletMonitor::changed, this, &TabletController::choose);
     connect(&mMonitor, &TabletMonitor::accessChanged, this, tryAgain);
     connect(&mSeat, &SeatSession::changed, this, [this, tryAgain] {
+        if (mSeat.isOurs()) {
+            tryAgain(); // it could not be opened while the session was in the background
+        }
         if (mOpen != nullptr) {
             mOpen->relay.setActive(mSeat.isOurs());
-        } else if (mSeat.isOurs()) {
-            tryAgain(); // it could not be opened while the session was in the background
         }
         Q_EMIT changed();
     });
@@ -96,13 +91,13 @@ TabletController::~TabletController()
 
 TabletState TabletController::state() const
 {
-    if (!mTablet) {
+    if (!mTablet || mIsGone) {
         return TabletState::None;
     }
     if (!mSeat.isOurs()) {
         return TabletState::Asleep;
     }
-    if (mOpen == nullptr) {
+    if (mOpen == nullptr || mIsBusy) {
         return TabletState::NoPermission;
     }
     if (mDriver.isCalibrating()) {
@@ -188,6 +183,7 @@ void TabletController::choose()
         return;
     }
     close();
+    mIsGone = false;
     mIsPaused = false;
     if (mTablet != tablet) {
         mTablet = tablet;
@@ -214,7 +210,7 @@ Result<> TabletController::attach(const Tablet& tablet)
     if (!devices) {
         return devices.error();
     }
-    if (const Result<> prepared = prepare(tablet, *nodes); !prepared) {
+    if (Result<> prepared = prepare(tablet, *nodes); !prepared) {
         return prepared;
     }
     mOpen = std::make_unique<Open>(std::move(*nodes), std::move(*devices), settings());
@@ -251,6 +247,7 @@ Result<> TabletController::prepare(const Tablet& tablet, const TabletNodes& node
 void TabletController::close()
 {
     mOpen.reset();
+    mIsBusy = false;
     for (ushort slot = 0; mDown != 0; ++slot, mDown >>= 1U) {
         if ((mDown & 1U) != 0) {
             Q_EMIT buttonChanged(slot, false);
@@ -297,6 +294,13 @@ void TabletController::obey(const RelayNote& note)
         break;
     case RelayNote::Kind::Grabbed:
         say(QStringLiteral("%1 obeys the settings").arg(mTablet->name));
+        if (std::exchange(mIsBusy, false)) {
+            setProblem({});
+        }
+        break;
+    case RelayNote::Kind::Busy:
+        mIsBusy = true;
+        setProblem(QStringLiteral("Another program has taken %1.").arg(mTablet->name));
         break;
     case RelayNote::Kind::Alive:
         Q_EMIT alive();
@@ -304,15 +308,14 @@ void TabletController::obey(const RelayNote& note)
     case RelayNote::Kind::Gone:
         // udev tells as well, and perhaps that it is here again.
         close();
+        mIsGone = true;
         mDriver.detach();
         Q_EMIT changed();
         break;
     case RelayNote::Kind::Failed:
         close();
         mDriver.detach();
-        setProblem(note.error == EBUSY
-                ? QStringLiteral("Another program has taken %1.").arg(mTablet->name)
-                : QStringLiteral("%1 failed: %2").arg(mTablet->name, errorText(note.error)));
+        setProblem(QStringLiteral("%1 failed: %2").arg(mTablet->name, qt_error_string(note.error)));
         break;
     }
 }

@@ -96,6 +96,8 @@ private:
     std::optional<Tablet> mTablet;
     std::unique_ptr<Open> mOpen;
     QString mProblem;
+    bool mIsGone = false; ///< it has just been unplugged; udev has not told yet
+    bool mIsBusy = false; ///< another program has it
     bool mIsPaused = false;
     std::uint32_t mDown = 0; ///< buttons that are down, as bits
 };

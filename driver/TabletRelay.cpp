@@ -8,6 +8,19 @@
 #include <poll.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
+#include <utility>
+
+namespace {
+
+constexpr int kBusyRetry = 250; ///< milliseconds
+
+bool isReadable(int fd)
+{
+    pollfd file{fd, POLLIN, 0};
+    return ::poll(&file, 1, 0) > 0 && (file.revents & POLLIN) != 0;
+}
+
+} // namespace
 
 TabletRelay::TabletRelay(const Files& files, const PenDescription& pen, const PenAxes& virtualPen,
     const PadDescription& pad, SettingsExchange& settings)
@@ -31,9 +44,14 @@ void TabletRelay::run()
         {{mFiles.wake, POLLIN, 0}, {mFiles.pen, POLLIN, 0}, {mFiles.pad, POLLIN, 0}}};
     followWishes();
     while (!mHasEnded && !mIsStopped) {
-        if (::poll(files.data(), files.size(), -1) < 0 && errno != EINTR) {
+        const int ready = ::poll(files.data(), files.size(), mIsBusy ? kBusyRetry : -1);
+        if (ready < 0 && errno != EINTR) {
             end(RelayNote::Kind::Failed, errno);
             return;
+        }
+        if (ready <= 0) {
+            followWishes();
+            continue;
         }
         if (files[0].revents != 0) {
             std::uint64_t count = 0;
@@ -66,7 +84,7 @@ void TabletRelay::setActive(bool isActive)
     wake();
 }
 
-void TabletRelay::wake()
+void TabletRelay::wake() const
 {
     const std::uint64_t one = 1;
     [[maybe_unused]] const ssize_t put = ::write(mFiles.wake, &one, sizeof one);
@@ -97,11 +115,13 @@ void TabletRelay::read(bool isPen)
     }
     const std::size_t count = static_cast<std::size_t>(size) / sizeof(input_event);
     for (std::size_t i = 0; i < count && !mHasEnded; ++i) {
-        take(events.at(i), isPen);
+        if (take(events.at(i), isPen)) {
+            return;
+        }
     }
 }
 
-void TabletRelay::take(const input_event& event, bool isPen)
+bool TabletRelay::take(const input_event& event, bool isPen)
 {
     bool& hasLost = isPen ? mHasLostPen : mHasLostPad;
     const bool isFrameEnd = event.type == EV_SYN && event.code == SYN_REPORT;
@@ -111,7 +131,11 @@ void TabletRelay::take(const input_event& event, bool isPen)
         // Whatever comes up to the end of the frame is incomplete.
         if (isFrameEnd) {
             hasLost = false;
-            resync(isPen);
+            const bool isRead = resync(isPen);
+            if (!mIsGrabbed) {
+                followWishes();
+            }
+            return isRead;
         }
     } else if (isPen) {
         if (const auto frame = mPenDecoder.take(event)) {
@@ -120,22 +144,27 @@ void TabletRelay::take(const input_event& event, bool isPen)
     } else if (const auto frame = mPadDecoder.take(event)) {
         takePad(*frame);
     }
-    if (isFrameEnd && !mIsGrabbed) {
-        followWishes();
-    }
+    return isFrameEnd && !mIsGrabbed && followWishes();
 }
 
-void TabletRelay::resync(bool isPen)
+bool TabletRelay::resync(bool isPen)
 {
-    const NodeState state = readNode(isPen ? mFiles.pen : mFiles.pad);
+    const int file = isPen ? mFiles.pen : mFiles.pad;
+    // What waits in the file is older than the state. Reading that removes some of it only.
+    int version = 0;
+    const bool isNode = ::ioctl(file, EVIOCGVERSION, &version) == 0;
+    std::array<input_event, 64> events; // NOLINT(cppcoreguidelines-pro-type-member-init): read into
+    while (isNode && isReadable(file) && ::read(file, events.data(), sizeof events) > 0) { }
+    const NodeState state = readNode(file);
     if (state == nullptr) {
-        return; // no such node, or one that has just gone, as reading it will tell
+        return false; // no such node, or one that has just gone, as reading it will tell
     }
     if (isPen) {
         takePen(mPenDecoder.resync(*state));
     } else {
         takePad(mPadDecoder.resync(*state));
     }
+    return true;
 }
 
 void TabletRelay::takePen(const PenFrame& frame)
@@ -193,33 +222,47 @@ void TabletRelay::obey(const Commands& commands)
             note.kind = RelayNote::Kind::Button;
             note.slot = static_cast<std::int32_t>(slot);
             note.isDown = (down >> slot & 1U) != 0;
-            tell(note);
+            if (tell(note)) {
+                mToldDown ^= 1U << slot;
+            }
         }
     }
-    mToldDown = down;
 }
 
-void TabletRelay::followWishes()
+bool TabletRelay::followWishes()
 {
+    const bool wasBusy = std::exchange(mIsBusy, false);
     if (mIsGrabbed && !mIsActive) {
         release();
     } else if (!mIsGrabbed && mIsActive && isAtRest()) {
-        if (const int error = grab(true); error != 0) {
+        const int error = grab(true);
+        if (error == EBUSY) {
+            mIsBusy = true;
+            RelayNote note;
+            note.kind = RelayNote::Kind::Busy;
+            if (!wasBusy) {
+                tell(note);
+            }
+            return false;
+        }
+        if (error != 0) {
             end(RelayNote::Kind::Failed, error);
-            return;
+            return false;
         }
         // The desktop has seen what happened before, and would wait for its end in vain.
-        resync(true);
-        resync(false);
+        const bool isPenRead = resync(true);
+        const bool isRead = resync(false) || isPenRead;
         if (!isAtRest()) {
             grab(false);
-            return;
+            return isRead;
         }
         mIsGrabbed = true;
         RelayNote note;
         note.kind = RelayNote::Kind::Grabbed;
         tell(note);
+        return isRead;
     }
+    return false;
 }
 
 int TabletRelay::grab(bool isWanted)
@@ -243,6 +286,7 @@ void TabletRelay::release()
     }
     mCommands.clear();
     mButtons.releaseAll(mCommands);
+    mPad.forget();
     PenFrame gone;
     gone.time = mPenDecoder.last().time;
     // A device that takes nothing any more has nothing pressed, either.
@@ -252,10 +296,10 @@ void TabletRelay::release()
     grab(false);
 }
 
-void TabletRelay::tell(const RelayNote& note)
+bool TabletRelay::tell(const RelayNote& note) const
 {
     // If the main thread does not read, the pipe is full. The pen must not wait for it.
-    [[maybe_unused]] const ssize_t put = ::write(mFiles.notes, &note, sizeof note);
+    return ::write(mFiles.notes, &note, sizeof note) == static_cast<ssize_t>(sizeof note);
 }
 
 void TabletRelay::end(RelayNote::Kind kind, int error)
@@ -265,5 +309,11 @@ void TabletRelay::end(RelayNote::Kind kind, int error)
     RelayNote note;
     note.kind = kind;
     note.error = error;
-    tell(note);
+    // There is nothing left to do but this.
+    while (!tell(note) && errno == EAGAIN && !mIsStopped) {
+        std::array<pollfd, 2> files{{{mFiles.wake, POLLIN, 0}, {mFiles.notes, POLLOUT, 0}}};
+        ::poll(files.data(), files.size(), -1);
+        std::uint64_t count = 0;
+        [[maybe_unused]] const ssize_t got = ::read(mFiles.wake, &count, sizeof count);
+    }
 }

@@ -22,6 +22,7 @@ struct RelayNote {
         Button, ///< slot and whether it is down
         Command, ///< one that is not a key stroke, a mouse button or scrolling
         Grabbed, ///< the tablet is ours alone from now on
+        Busy, ///< another program has the tablet; the relay tries again and again
         Alive, ///< the answer to ask()
         Gone, ///< the tablet was unplugged; the relay has ended
         Failed, ///< number of the error; the relay has ended
@@ -62,7 +63,7 @@ public:
     void setActive(bool isActive);
 
     /** Any thread: takes over changed settings also while the tablet is still. */
-    void wake();
+    void wake() const;
 
     /** Any thread: has the input thread tell that it is alive. */
     void ask();
@@ -72,16 +73,20 @@ public:
 
 private:
     void read(bool isPen);
-    void take(const input_event& event, bool isPen);
-    void resync(bool isPen);
+    /** @return whether the events that were read with this one are older than the state now */
+    bool take(const input_event& event, bool isPen);
+    /** Reads the state of a node. @return whether it could be read */
+    bool resync(bool isPen);
     void takePen(const PenFrame& frame);
     void takePad(const PadFrame& frame);
     void obey(const Commands& commands);
-    void followWishes();
+    /** @return whether the states of the nodes were read, to take the tablet */
+    bool followWishes();
     bool isAtRest() const { return mPenDecoder.isAtRest() && mPadDecoder.isAtRest(); }
     int grab(bool isWanted);
     void release();
-    void tell(const RelayNote& note);
+    /** @return whether the pipe had room */
+    bool tell(const RelayNote& note) const;
     void end(RelayNote::Kind kind, int error);
 
     Files mFiles;
@@ -98,6 +103,7 @@ private:
     std::atomic<bool> mIsStopped{false};
     std::atomic<bool> mIsAsked{false};
     bool mIsGrabbed = false;
+    bool mIsBusy = false; ///< another program has the tablet
     bool mHasEnded = false;
     bool mWasPaused = false;
     bool mHasLostPen = false; ///< events of the pen, until the end of the frame

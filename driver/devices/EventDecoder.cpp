@@ -162,11 +162,12 @@ std::optional<PadFrame> PadDecoder::take(const input_event& event)
         takeKey(event.code, event.value != 0);
     } else if (event.type == EV_ABS && event.code == ABS_MISC) {
         mSaysTouch = true;
-        if (event.value == 0) {
-            mFrame.strips = {};
-        }
+        mIsTouched = event.value != 0;
     } else if (event.type == EV_SYN && event.code == SYN_REPORT) {
         mFrame.time = timeOf(event);
+        if (mSaysTouch && !mIsTouched) {
+            mFrame.strips = {}; // also if their axes follow in the same frame
+        }
         PadFrame frame = mFrame;
         mFrame.wheels = {};
         return frame;

@@ -67,4 +67,5 @@ private:
     PadDescription mDescription;
     PadFrame mFrame{};
     bool mSaysTouch = false; ///< ABS_MISC tells whether a finger is on a strip
+    bool mIsTouched = false; ///< what it says
 };

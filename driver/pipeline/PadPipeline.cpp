@@ -10,6 +10,9 @@ namespace {
 /** Notches for a whole strip or turn, for each step of the speed. */
 constexpr std::int64_t kNotchesPerLength = 2;
 
+/** A ring's turn has at least as many steps from one frame to the next. */
+constexpr std::int64_t kLeastStepsOfTurn = 8;
+
 /** The speed at which a wheel's notch is one. */
 constexpr std::int64_t kPlainSpeed = 5;
 
@@ -42,6 +45,12 @@ void PadPipeline::next(const PadFrame& frame, const TabletSettings& settings,
     }
 }
 
+void PadPipeline::forget()
+{
+    mLast = {};
+    mRest = {};
+}
+
 std::int64_t PadPipeline::moved(std::size_t strip, const std::optional<std::int32_t>& position)
 {
     const PadStrip& shape = mStrips.at(strip);
@@ -49,9 +58,13 @@ std::int64_t PadPipeline::moved(std::size_t strip, const std::optional<std::int3
     if (!position || !last) {
         return 0;
     }
-    const std::int64_t way = std::int64_t{*position} - *last;
-    if (!shape.isRing || std::abs(way) * 2 <= shape.length) {
+    std::int64_t way = std::int64_t{*position} - *last;
+    if (!shape.isRing) {
         return way;
     }
-    return way > 0 ? way - shape.length : way + shape.length; // the shorter way around
+    if (std::abs(way) * 2 > shape.length) {
+        way += way > 0 ? -shape.length : shape.length; // the shorter way around
+    }
+    // Some rings do not tell that the finger has left, but no finger is that fast.
+    return std::abs(way) * kLeastStepsOfTurn > shape.length ? 0 : way;
 }

@@ -44,6 +44,9 @@ public:
     void next(const PadFrame& frame, const TabletSettings& settings, ButtonActions& buttons,
         Commands& commands);
 
+    /** Forgets where the fingers were: the tablet was not ours meanwhile. */
+    void forget();
+
 private:
     /** The units by which the finger moved downwards, or clockwise. */
     std::int64_t moved(std::size_t strip, const std::optional<std::int32_t>& position);

@@ -230,6 +230,63 @@ TEST_F(TabletRelayTest, whatTheMainThreadDoesIsToldToIt)
     EXPECT_EQ(launch.command, (Command{Command::Kind::Launch, 0}));
 }
 
+TEST_F(TabletRelayTest, aPenThatReturnsUprightIsNoLongerTilted)
+{
+    description.tiltX = Axis{-60, 60, 57};
+    description.tiltY = description.tiltX;
+    start();
+    send(pen, {event(EV_KEY, BTN_TOOL_PEN, 1), event(EV_ABS, ABS_TILT_X, 30)});
+    EXPECT_EQ(frameOf(virtualPen).at({EV_ABS, ABS_TILT_X}), 30);
+    send(pen, {event(EV_KEY, BTN_TOOL_PEN, 0)});
+    EXPECT_FALSE(frameOf(virtualPen).contains({EV_ABS, ABS_TILT_X}));
+    send(pen, {event(EV_KEY, BTN_TOOL_PEN, 1), event(EV_ABS, ABS_TILT_X, 0)});
+    EXPECT_EQ(frameOf(virtualPen).at({EV_ABS, ABS_TILT_X}), 0);
+}
+
+TEST_F(TabletRelayTest, aPenThatReturnsAtTheEdgeIsThere)
+{
+    start();
+    sendPen(100, 0);
+    frameOf(virtualPen);
+    relay->setActive(false);
+    EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOOL_PEN}), 0);
+    sendPen(100, 0, false);
+    relay->setActive(true);
+    expectNote(RelayNote::Kind::Grabbed);
+    sendPen(0, 0);
+    EXPECT_EQ(frameOf(virtualPen).at({EV_ABS, ABS_X}), 0);
+}
+
+TEST_F(TabletRelayTest, aStripThatWasTouchedBeforeScrollsNothingAtTheNextTouch)
+{
+    padDescription.strips.push_back({EV_ABS, ABS_RX, {0, 100, 0}, false});
+    start();
+    send(pad, {event(EV_ABS, ABS_RX, 10)});
+    send(pad, {event(EV_ABS, ABS_RX, 20)});
+    EXPECT_EQ(frameOf(pointer).at({EV_REL, REL_WHEEL_HI_RES}), -120);
+    send(pad, {event(EV_KEY, BTN_0, 1)});
+    expectNote(RelayNote::Kind::Button);
+    relay->setActive(false);
+    EXPECT_FALSE(expectNote(RelayNote::Kind::Button).isDown);
+    send(pad, {event(EV_KEY, BTN_0, 0)});
+    relay->setActive(true);
+    expectNote(RelayNote::Kind::Grabbed);
+    send(pad, {event(EV_ABS, ABS_RX, 90)});
+    send(pad, {event(EV_ABS, ABS_RX, 95)});
+    EXPECT_EQ(frameOf(pointer).at({EV_REL, REL_WHEEL_HI_RES}), -60);
+}
+
+TEST_F(TabletRelayTest, aFingerThatLeavesHasLeftWhateverComesAfter)
+{
+    padDescription.strips.push_back({EV_ABS, ABS_RX, {0, 100, 0}, false});
+    start();
+    send(pad, {event(EV_ABS, ABS_MISC, 15), event(EV_ABS, ABS_RX, 50)});
+    send(pad, {event(EV_ABS, ABS_MISC, 0), event(EV_ABS, ABS_RX, 0)});
+    send(pad, {event(EV_ABS, ABS_MISC, 15), event(EV_ABS, ABS_RX, 60)});
+    send(pad, {event(EV_ABS, ABS_RX, 61)});
+    EXPECT_EQ(frameOf(pointer).at({EV_REL, REL_WHEEL_HI_RES}), -12);
+}
+
 TEST_F(TabletRelayTest, anyKindOfPenIsOne)
 {
     start();
