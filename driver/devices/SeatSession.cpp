@@ -22,9 +22,9 @@ constexpr QLatin1String kProperties("org.freedesktop.DBus.Properties");
 
 } // namespace
 
-SeatSession::SeatSession(const QDBusConnection& bus, QObject* parent)
+SeatSession::SeatSession(QDBusConnection bus, QObject* parent)
     : QObject(parent)
-    , mBus(bus)
+    , mBus(std::move(bus))
 {
     mBus.connect(kLogin, kManagerPath, kManager, QStringLiteral("PrepareForSleep"), this,
         SLOT(prepareForSleep(bool)));

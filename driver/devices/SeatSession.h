@@ -16,7 +16,7 @@ class SeatSession final : public QObject {
 
 public:
     /** @param bus where logind is: the system bus, or its replacement in a test */
-    explicit SeatSession(const QDBusConnection& bus, QObject* parent = nullptr);
+    explicit SeatSession(QDBusConnection bus, QObject* parent = nullptr);
 
     /** Whether the tablet is this session's; not before logind has answered. */
     bool isOurs() const { return mIsKnown && mIsActive && !mIsLocked && !mIsAsleep; }
@@ -24,13 +24,13 @@ public:
 Q_SIGNALS:
     void changed();
 
-private Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
+private Q_SLOTS:
     void takeProperties(
         const QString& interface, const QVariantMap& changed, const QStringList& invalidated);
     void prepareForSleep(bool isAboutToSleep);
     void ask();
 
-private:
+private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     void take(const QVariantMap& properties);
 
     QDBusConnection mBus;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <linux/input.h>
 #include <map>
 #include <utility>
 
@@ -30,20 +31,31 @@ udev_device* inputOf(udev_device* node)
     return udev_device_get_parent_with_subsystem_devtype(node, "input", nullptr);
 }
 
+/** An attribute of the node's input device; empty if there is none. */
+QString attributeOf(udev_device* node, const char* name)
+{
+    udev_device* const input = inputOf(node);
+    return QString::fromUtf8(
+        input == nullptr ? nullptr : udev_device_get_sysattr_value(input, name));
+}
+
 /**
  * What the nodes of one physical device have in common. The interfaces of a USB device are inputs
- * of their own; Bluetooth and others tell their place instead.
+ * of their own. Bluetooth devices share the place and the USB device of their adapter, but have an
+ * address; others tell their place.
  */
 QString physicalDevice(udev_device* node)
 {
+    const QString address = attributeOf(node, "uniq");
+    if (attributeOf(node, "id/bustype").toUShort(nullptr, 16) == BUS_BLUETOOTH
+        && !address.isEmpty()) {
+        return address;
+    }
     if (udev_device* const usb =
             udev_device_get_parent_with_subsystem_devtype(node, "usb", "usb_device")) {
         return QString::fromUtf8(udev_device_get_syspath(usb));
     }
-    udev_device* const input = inputOf(node);
-    const QString place =
-        QString::fromUtf8(input == nullptr ? nullptr : udev_device_get_sysattr_value(input, "phys"))
-            .section(QLatin1Char('/'), 0, 0);
+    QString place = attributeOf(node, "phys").section(QLatin1Char('/'), 0, 0);
     if (!place.isEmpty()) {
         return place;
     }
@@ -54,17 +66,12 @@ QString physicalDevice(udev_device* node)
 /** A number in hexadecimal of the input device; 0 if there is none. */
 std::uint16_t idOf(udev_device* node, const char* attribute)
 {
-    udev_device* const input = inputOf(node);
-    const char* const text =
-        input == nullptr ? nullptr : udev_device_get_sysattr_value(input, attribute);
-    return QString::fromUtf8(text).toUShort(nullptr, 16);
+    return attributeOf(node, attribute).toUShort(nullptr, 16);
 }
 
 QString nameOf(udev_device* node)
 {
-    udev_device* const input = inputOf(node);
-    QString name = QString::fromUtf8(
-        input == nullptr ? nullptr : udev_device_get_sysattr_value(input, "name"));
+    QString name = attributeOf(node, "name");
     // A device may call itself anything. A property list cannot hold all of it.
     for (QChar& character : name) {
         character = character.isPrint() ? character : QChar(QLatin1Char(' '));
@@ -74,9 +81,7 @@ QString nameOf(udev_device* node)
 
 QString serialOf(udev_device* node)
 {
-    udev_device* const input = inputOf(node);
-    const QString unique = QString::fromUtf8(
-        input == nullptr ? nullptr : udev_device_get_sysattr_value(input, "uniq"));
+    const QString unique = attributeOf(node, "uniq");
     return unique.isEmpty() ? property(node, "ID_SERIAL_SHORT") : unique;
 }
 
@@ -153,7 +158,8 @@ void TabletMonitor::enumerate()
         if (file == nullptr
             || !QString::fromUtf8(udev_device_get_sysname(node)).startsWith(QLatin1String("event"))
             || path.contains(QLatin1String("/devices/virtual/input/"))
-            || isSet(node, "ID_INPUT_TOUCHSCREEN") || isSet(node, "ID_INPUT_TOUCHPAD")) {
+            || isSet(node, "ID_INPUT_TOUCHSCREEN") || isSet(node, "ID_INPUT_TOUCHPAD")
+            || isSet(node, "ID_INPUT_KEYBOARD")) {
             continue;
         }
         const QString physical = physicalDevice(node);

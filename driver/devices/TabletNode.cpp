@@ -88,8 +88,8 @@ PadDescription describePad(const libevdev& node)
 {
     PadDescription pad;
     // Where tablets have their keys: of general use, of mice, and of games. A generic one may have
-    // more than ten of general use, beyond those with names. Keys of the keyboard are not taken: a
-    // tablet that has these types by itself.
+    // more than ten of general use, beyond those with names. Keys of a keyboard are no express
+    // keys.
     const auto addKeys = [&](unsigned first, unsigned last) {
         for (unsigned code = first; code <= last && pad.keys.size() < kQVUpperPenSlot; ++code) {
             if (hasKey(node, code)) {

@@ -5,10 +5,9 @@
 #include <QFile>
 
 #include <cerrno>
-#include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <sys/ioctl.h>
-#include <time.h>
 
 using platform::Error;
 using platform::Result;
@@ -37,7 +36,7 @@ Error openError(const Tablet& tablet, const QString& node, int error)
                          .arg(tablet.name, node)};
     }
     return Error{QStringLiteral("%1 cannot be opened: %2: %3")
-                     .arg(tablet.name, node, QString::fromLocal8Bit(std::strerror(error)))};
+                     .arg(tablet.name, node, qt_error_string(error))};
 }
 
 double millimetres(const Axis& axis)

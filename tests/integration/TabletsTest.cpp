@@ -134,6 +134,27 @@ TEST_F(Tablets, areNeitherTouchscreensNorTouchpadsNorVirtual)
     EXPECT_EQ(ids(monitor.tablets()), Words());
 }
 
+TEST_F(Tablets, onOneBluetoothAdapterAreToldApartByTheirAddresses)
+{
+    EmulatedNode first = pen();
+    first.bus = BUS_BLUETOOTH;
+    first.serial = "aa:bb:cc:00:00:01";
+    EmulatedNode second = pen(2);
+    second.bus = BUS_BLUETOOTH;
+    second.serial = "aa:bb:cc:00:00:02";
+    second.name = "Second";
+    EmulatedNode secondPad = pad(3);
+    secondPad.bus = BUS_BLUETOOTH;
+    secondPad.serial = second.serial;
+    mBus.plug(first);
+    mBus.plug(second);
+    mBus.plug(secondPad);
+    const TabletMonitor monitor;
+    ASSERT_EQ(monitor.tablets().size(), 2U);
+    EXPECT_EQ(monitor.tablets()[0].padNode, QString());
+    EXPECT_EQ(monitor.tablets()[1].padNode, QStringLiteral("/dev/input/event3"));
+}
+
 TEST_F(Tablets, areDescribed)
 {
     mBus.plug(pen());

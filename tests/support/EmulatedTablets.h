@@ -28,6 +28,7 @@ struct EmulatedNode {
     std::uint16_t vendor = 0x1234;
     std::uint16_t product = 0x0042;
     std::string serial = {};
+    unsigned bus = BUS_USB;
     std::vector<std::string> properties = {"ID_INPUT_TABLET=1"}; ///< of udev
     std::map<unsigned, std::vector<unsigned>> codes = {}; ///< by type
     std::map<unsigned, input_absinfo> axes = {};
@@ -64,9 +65,10 @@ public:
         const std::string input = node.device
             + (isUsb ? "/1-1:1." + std::to_string(node.interface) : std::string()) + "/input/input"
             + std::to_string(node.number);
-        char ids[64];
-        std::snprintf(ids, sizeof ids, "A: id/vendor=%04x\\n\nA: id/product=%04x\\n\n", node.vendor,
-            node.product);
+        char ids[96];
+        std::snprintf(ids, sizeof ids,
+            "A: id/bustype=%04x\\n\nA: id/vendor=%04x\\n\nA: id/product=%04x\\n\n", node.bus,
+            node.vendor, node.product);
         if (mParents.insert(input).second) {
             add("P: " + input + "\nE: SUBSYSTEM=input\nA: name=" + node.name
                 + "\\n\nA: uniq=" + node.serial + "\\n\n" + ids + "\n");
