@@ -15,6 +15,7 @@
 #include <QStandardPaths>
 
 #include <chrono>
+#include <utility>
 
 using platform::Error;
 using platform::Result;
@@ -99,11 +100,14 @@ Q_DECLARE_METATYPE(AuxiliaryUnit)
 
 namespace {
 
+constexpr QLatin1String kManagerName("org.freedesktop.systemd1");
+constexpr QLatin1String kManagerPath("/org/freedesktop/systemd1");
+constexpr QLatin1String kManager("org.freedesktop.systemd1.Manager");
+
 QDBusMessage startMessage(const QString& unit, const QString& path, const QStringList& command)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.systemd1"),
-        QStringLiteral("/org/freedesktop/systemd1"),
-        QStringLiteral("org.freedesktop.systemd1.Manager"), QStringLiteral("StartTransientUnit"));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        kManagerName, kManagerPath, kManager, QStringLiteral("StartTransientUnit"));
     const auto property = [](const char* name, const QVariant& value) {
         return UnitProperty{QString::fromLatin1(name), QDBusVariant(value)};
     };
@@ -147,9 +151,9 @@ Result<QStringList> launchCommand(const QString& path)
     return QStringList{program.filePath()};
 }
 
-Launcher::Launcher(const QDBusConnection& bus, QObject* parent)
+Launcher::Launcher(QDBusConnection bus, QObject* parent)
     : QObject(parent)
-    , mBus(bus)
+    , mBus(std::move(bus))
 {
     qDBusRegisterMetaType<UnitProperty>();
     qDBusRegisterMetaType<QList<UnitProperty>>();
@@ -157,6 +161,8 @@ Launcher::Launcher(const QDBusConnection& bus, QObject* parent)
     qDBusRegisterMetaType<QList<UnitCommand>>();
     qDBusRegisterMetaType<AuxiliaryUnit>();
     qDBusRegisterMetaType<QList<AuxiliaryUnit>>();
+    mBus.connect(kManagerName, kManagerPath, kManager, QStringLiteral("JobRemoved"), this,
+        SLOT(jobRemoved(QDBusMessage)));
 }
 
 void Launcher::launch(
@@ -175,19 +181,39 @@ void Launcher::launch(
     const QString unit = QStringLiteral("app-tdsgdriver-%1-%2.service")
                              .arg(QCoreApplication::applicationPid())
                              .arg(++mCount);
+    mStarts[unit] = {path, failed};
+    // It tells about jobs only those who ask for it.
+    QDBusMessage subscribe = QDBusMessage::createMethodCall(
+        kManagerName, kManagerPath, kManager, QStringLiteral("Subscribe"));
+    subscribe.setAutoStartService(false);
+    mBus.asyncCall(subscribe);
     auto* const answer =
         new QDBusPendingCallWatcher(mBus.asyncCall(startMessage(unit, path, *command)), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this, [=] {
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [=, this] {
         answer->deleteLater();
         const QDBusPendingReply<> reply = *answer;
-        if (reply.isError() && reply.error().type() == QDBusError::ServiceUnknown) {
-            // A user without a service manager of their own.
-            if (!QProcess::startDetached(command->front(), command->mid(1))) {
-                failed(QStringLiteral("%1 could not be started").arg(path));
-            }
-        } else if (reply.isError()) {
+        if (!reply.isError()) {
+            return; // jobRemoved() tells what becomes of it
+        }
+        mStarts.erase(unit);
+        if (reply.error().type() != QDBusError::ServiceUnknown) {
             failed(
                 QStringLiteral("%1 could not be started: %2").arg(path, reply.error().message()));
+        } else if (!QProcess::startDetached(command->front(), command->mid(1))) {
+            // A user without a service manager of their own.
+            failed(QStringLiteral("%1 could not be started").arg(path));
         }
     });
+}
+
+void Launcher::jobRemoved(const QDBusMessage& signal)
+{
+    const QString unit = signal.arguments().value(2).toString();
+    const QString result = signal.arguments().value(3).toString();
+    const auto start = mStarts.extract(unit);
+    if (!start.empty() && result != QLatin1String("done")) {
+        start.mapped().failed(
+            QStringLiteral("%1 could not be started; the user's journal has the reason")
+                .arg(start.mapped().path));
+    }
 }

@@ -5,6 +5,7 @@
 #include "Result.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QElapsedTimer>
 #include <QObject>
 #include <QString>
@@ -29,7 +30,7 @@ class Launcher final : public QObject {
     Q_OBJECT
 
 public:
-    explicit Launcher(const QDBusConnection& bus, QObject* parent = nullptr);
+    explicit Launcher(QDBusConnection bus, QObject* parent = nullptr);
 
     /**
      * Starts the application of a button, at most once a second for each.
@@ -38,8 +39,19 @@ public:
      */
     void launch(int slot, const QString& path, const std::function<void(const QString&)>& failed);
 
-private:
+private Q_SLOTS:
+    /** Takes the number of the job, its object, the unit and the result. */
+    void jobRemoved(const QDBusMessage& signal);
+
+private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
+    /** An application that the service manager is starting. */
+    struct Start {
+        QString path;
+        std::function<void(const QString&)> failed;
+    };
+
     QDBusConnection mBus;
+    std::map<QString, Start> mStarts; ///< by the name of the unit
     std::map<int, QElapsedTimer> mLast; ///< when a button last started something
     int mCount = 0;
 };

@@ -9,7 +9,6 @@
 #include <QString>
 
 #include <array>
-#include <cstring>
 #include <utility>
 
 using platform::Error;
@@ -126,7 +125,7 @@ Result<VirtualDevice> make(const NodeState& description)
         return Error{
             QStringLiteral("No virtual device can be made with /dev/uinput: %1. Install the "
                            "package tdsg-driver-access.")
-                .arg(QString::fromLocal8Bit(std::strerror(-error)))};
+                .arg(qt_error_string(-error))};
     }
     return VirtualDevice(device, &libevdev_uinput_destroy);
 }

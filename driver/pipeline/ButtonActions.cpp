@@ -71,9 +71,9 @@ void ButtonActions::release(std::size_t slot, Commands& commands)
         commands.add(Command::Kind::MouseUp, button.mouse);
     }
     const auto keys = button.keys();
-    for (auto key = keys.rbegin(); key != keys.rend(); ++key) {
-        if (--mKeyHolders.at(*key) == 0) {
-            commands.add(Command::Kind::KeyUp, *key);
+    for (std::size_t i = keys.size(); i-- > 0;) {
+        if (--mKeyHolders.at(keys[i]) == 0) {
+            commands.add(Command::Kind::KeyUp, keys[i]);
         }
     }
     if (button.action == kQVFinePositioning) {
