@@ -406,18 +406,21 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
             .arg(mState.pushes)
             .arg(senderOf(event), changes(recordIn(mState.record), *record)));
     mState.record = {reinterpret_cast<const char*>(&*record), kQVRecordSize};
+    // A panel may still show another tablet, whose area and keys would make no sense on this one.
+    const bool isAboutTablet = mIsSimulation || QVProductID(*record) == mAttached;
+    if (isAboutTablet) {
+        mSettings = *record;
+    }
     // Only a push from the panel itself ends its calibration; other programs push, too.
     if (const QByteArray* const sender = event.address.bytes()) {
-        if (record->Monitor.disableFlag == 1) {
+        if (isAboutTablet && record->Monitor.disableFlag == 1) {
             beginCalibration(*sender);
         } else {
             endCalibration(*sender);
         }
     }
     mSaveSoon.start();
-    // A panel may still show another tablet, whose area and keys would make no sense on this one.
-    if (QVProductID(*record) == mAttached) {
-        mSettings = *record;
+    if (isAboutTablet) {
         Q_EMIT settingsChanged();
     }
     Q_EMIT pushed(mState.pushes);

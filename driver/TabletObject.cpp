@@ -10,8 +10,8 @@
 
 #include <utility>
 
-TabletObject::TabletObject(const QDBusConnection& bus, List list, User use)
-    : mBus(bus)
+TabletObject::TabletObject(QDBusConnection bus, List list, User use)
+    : mBus(std::move(bus))
     , mList(std::move(list))
     , mUse(std::move(use))
 {
@@ -35,7 +35,7 @@ void TabletObject::show(const TabletFacts& facts)
     QVariantMap changed;
     const auto note = [&](const char* property, const auto& was, const auto& is) {
         if (was != is) {
-            changed.insert(QLatin1String(property), is);
+            changed.insert(QLatin1String(property), QVariant::fromValue(is));
         }
     };
     note("Name", old.name, facts.name);

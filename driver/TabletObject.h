@@ -44,7 +44,7 @@ public:
      * @param list gives the tablets that are plugged in
      * @param use has the driver use one of them
      */
-    TabletObject(const QDBusConnection& bus, List list, User use);
+    TabletObject(QDBusConnection bus, List list, User use);
 
     /** Shows these facts from now on, and tells what has changed. */
     void show(const TabletFacts& facts);

@@ -24,7 +24,8 @@ Watchdog::Watchdog()
         return;
     }
     connect(&mTimer, &QTimer::timeout, this, &Watchdog::due);
-    mTimer.start(std::chrono::duration_cast<std::chrono::milliseconds>(limit / 2));
+    mTimer.start(
+        std::chrono::duration_cast<std::chrono::milliseconds>(limit / 4)); // an answer may get lost
 }
 
 void Watchdog::feed() const

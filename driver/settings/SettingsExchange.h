@@ -26,7 +26,7 @@ public:
 private:
     struct Version {
         TabletSettings settings;
-        Version* next; ///< of those to be freed
+        Version* next = nullptr; ///< of those to be freed
     };
 
     static void freeAll(Version* version);

@@ -70,7 +70,7 @@ TabletSettings decodeSettings(
     settings.curve =
         std::clamp((record.Pen.PressureThreshold - kMiddleThreshold) / kMiddleThreshold, -1.0, 1.0);
     std::ranges::transform(record.Key.SubKey, settings.buttons.begin(), decodeButton);
-    settings.areStripsOn = {record.Key.Scrollbar0 != 1, record.Key.Scrollbar1 != 1};
+    settings.areStripsOn = {record.Key.Scrollbar0 == 0, record.Key.Scrollbar1 == 0};
     settings.scrollSpeed = std::clamp<int>(record.Key.ScrollSpeed, 1, 10);
     return settings;
 }

@@ -3,6 +3,8 @@
 """The real driver with tablets that the kernel takes for real ones. Runs in the virtual machine, see
 vm_test.py."""
 
+import fcntl
+import os
 import pathlib
 import plistlib
 import re
@@ -25,6 +27,7 @@ from tablet import LOWER, PRESSURE_MAX, STRIP_MAX, UPPER, Tablet
 MIDDLE = {"x": 24000, "y": 15000}
 LEFT, RIGHT, BACK, MIDDLE_BUTTON = range(4)
 CONTROL, SHIFT, ALT = 54, 56, 58
+EVIOCGRAB = 0x40044590
 
 # The kernel's names of the keys that are not called as in the panel.
 KEY_NAMES = {
@@ -101,8 +104,23 @@ class TheTablet(guest.TestCase):
         self.assertEqual(self.place(12000, 7500), (48000, 30000))
 
     def test_obeys_no_settings_for_another_one(self):
-        self.push(ProductID=self.tablet.product + 1, rotationFlag=180)
+        self.push(ProductID=self.tablet.product + 1, rotationFlag=180, disableFlag=1)
         self.assertEqual(self.place(12000, 7500), (48000, 30000))
+
+    def test_waits_for_another_program_that_has_taken_it(self):
+        self.addCleanup(self.renew)
+        self.world.end()
+        tablet = Tablet()
+        self.addCleanup(tablet.unplug)
+        other = os.open(wait_for(lambda: guest.Node.find(tablet.name), "its node"), os.O_RDONLY)
+        fcntl.ioctl(other, EVIOCGRAB, 1)
+        self.world.start_driver()
+        wait_for(lambda: self.world.property("Problem") == f"Another program has taken {tablet.name}.",
+                 "the problem")
+        self.assertEqual(self.world.property("State"), "no-permission")
+        os.close(other)
+        self.world.wait_for_state("attached")
+        self.assertEqual(self.world.property("Problem"), "")
 
 
 class ThePen(guest.TestCase):
@@ -440,10 +458,10 @@ class TheStrips(guest.TestCase):
         self.push(Scrollbar0=1)
         self.slide(1, 51)
         self.assertEqual(self.scrolled(), 0)
-        self.turn(20, 30)
+        self.turn(20, 26)
         self.assertNotEqual(self.scrolled(), 0)
         self.push(Scrollbar0=0, Scrollbar1=1)
-        self.turn(40, 20)
+        self.turn(40, 34)
         self.assertEqual(self.scrolled(), 0)
         self.slide(1, 51)
         self.assertEqual(self.scrolled(), -600)
