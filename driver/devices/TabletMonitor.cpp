@@ -46,7 +46,7 @@ QString attributeOf(udev_device* node, const char* name)
  */
 QString physicalDevice(udev_device* node)
 {
-    const QString address = attributeOf(node, "uniq");
+    QString address = attributeOf(node, "uniq");
     if (attributeOf(node, "id/bustype").toUShort(nullptr, 16) == BUS_BLUETOOTH
         && !address.isEmpty()) {
         return address;
