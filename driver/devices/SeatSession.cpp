@@ -30,7 +30,7 @@ SeatSession::SeatSession(QDBusConnection bus, QObject* parent)
         SLOT(prepareForSleep(bool)));
     // Of every session: the user's graphical one may begin after this program.
     mBus.connect(kLogin, QString(), kProperties, QStringLiteral("PropertiesChanged"), this,
-        SLOT(takeProperties(QString, QVariantMap, QStringList)));
+        SLOT(takeProperties(QDBusMessage)));
     ask();
 }
 
@@ -76,10 +76,10 @@ void SeatSession::ask()
     });
 }
 
-void SeatSession::takeProperties(
-    const QString& interface, const QVariantMap& changed, const QStringList& invalidated)
+void SeatSession::takeProperties(const QDBusMessage& signal)
 {
-    Q_UNUSED(invalidated)
+    const QString interface = signal.arguments().value(0).toString();
+    const auto changed = qdbus_cast<QVariantMap>(signal.arguments().value(1));
     if (interface == kUser) {
         ask(); // another session may be the graphical one now
     } else if (interface == kSession) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QObject>
 #include <QString>
 #include <QVariantMap>
@@ -25,8 +26,8 @@ Q_SIGNALS:
     void changed();
 
 private Q_SLOTS:
-    void takeProperties(
-        const QString& interface, const QVariantMap& changed, const QStringList& invalidated);
+    /** Takes the interface, what has changed, and what is no longer known. */
+    void takeProperties(const QDBusMessage& signal);
     void prepareForSleep(bool isAboutToSleep);
     void ask();
 
