@@ -57,9 +57,7 @@ void TabletRelay::run()
             std::uint64_t count = 0;
             [[maybe_unused]] const ssize_t got = ::read(mFiles.wake, &count, sizeof count);
             if (mIsAsked.exchange(false)) {
-                RelayNote note;
-                note.kind = RelayNote::Kind::Alive;
-                tell(note);
+                tell({.kind = RelayNote::Kind::Alive});
             }
             followWishes();
             if (mIsGrabbed) {
@@ -179,10 +177,7 @@ void TabletRelay::takePen(const PenFrame& frame)
         return;
     }
     if (result.report) {
-        RelayNote note;
-        note.kind = RelayNote::Kind::Report;
-        note.report = *result.report;
-        tell(note);
+        tell({.kind = RelayNote::Kind::Report, .report = *result.report});
     }
     obey(mCommands);
 }
@@ -209,20 +204,15 @@ void TabletRelay::obey(const Commands& commands)
     for (const Command& command : commands.all()) {
         if (command.kind == Command::Kind::Launch || command.kind == Command::Kind::NextDisplay
             || command.kind == Command::Kind::Pause) {
-            RelayNote note;
-            note.kind = RelayNote::Kind::Command;
-            note.command = command;
-            tell(note);
+            tell({.kind = RelayNote::Kind::Command, .command = command});
         }
     }
     const std::uint32_t down = mButtons.down();
     for (std::uint32_t slot = 0; slot < kQVSlotCount; ++slot) {
         if (((down ^ mToldDown) >> slot & 1U) != 0) {
-            RelayNote note;
-            note.kind = RelayNote::Kind::Button;
-            note.slot = static_cast<std::int32_t>(slot);
-            note.isDown = (down >> slot & 1U) != 0;
-            if (tell(note)) {
+            if (tell({.kind = RelayNote::Kind::Button,
+                    .slot = static_cast<std::int32_t>(slot),
+                    .isDown = (down >> slot & 1U) != 0})) {
                 mToldDown ^= 1U << slot;
             }
         }
@@ -238,10 +228,8 @@ bool TabletRelay::followWishes()
         const int error = grab(true);
         if (error == EBUSY) {
             mIsBusy = true;
-            RelayNote note;
-            note.kind = RelayNote::Kind::Busy;
             if (!wasBusy) {
-                tell(note);
+                tell({.kind = RelayNote::Kind::Busy});
             }
             return false;
         }
@@ -257,9 +245,7 @@ bool TabletRelay::followWishes()
             return isRead;
         }
         mIsGrabbed = true;
-        RelayNote note;
-        note.kind = RelayNote::Kind::Grabbed;
-        tell(note);
+        tell({.kind = RelayNote::Kind::Grabbed});
         return isRead;
     }
     return false;
@@ -306,9 +292,7 @@ void TabletRelay::end(RelayNote::Kind kind, int error)
 {
     mHasEnded = true;
     release();
-    RelayNote note;
-    note.kind = kind;
-    note.error = error;
+    const RelayNote note{.kind = kind, .error = error};
     // There is nothing left to do but this.
     while (!tell(note) && errno == EAGAIN && !mIsStopped) {
         std::array<pollfd, 2> files{{{mFiles.wake, POLLIN, 0}, {mFiles.notes, POLLOUT, 0}}};

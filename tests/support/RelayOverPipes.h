@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "InputEvent.h"
 #include "Pipe.h"
 #include "TabletRelay.h"
 
@@ -10,15 +11,6 @@
 #include <sys/eventfd.h>
 #include <thread>
 #include <unistd.h>
-
-inline input_event event(unsigned type, unsigned code, std::int32_t value)
-{
-    input_event made{};
-    made.type = static_cast<std::uint16_t>(type);
-    made.code = static_cast<std::uint16_t>(code);
-    made.value = value;
-    return made;
-}
 
 /** The driver's input thread at work, with pipes in place of the pen and of the virtual devices. */
 class RelayOverPipes {

@@ -6,6 +6,7 @@
 #include "TabletRelay.h"
 
 #include "Descriptor.h"
+#include "InputEvent.h"
 #include "Wait.h"
 
 #include <gtest/gtest.h>
@@ -55,15 +56,6 @@ private:
     std::unique_ptr<Descriptor> mReading;
     std::unique_ptr<Descriptor> mWriting;
 };
-
-input_event event(unsigned type, unsigned code, std::int32_t value)
-{
-    input_event made{};
-    made.type = static_cast<std::uint16_t>(type);
-    made.code = static_cast<std::uint16_t>(code);
-    made.value = value;
-    return made;
-}
 
 constexpr auto kEnd = [] { return event(EV_SYN, SYN_REPORT, 0); };
 
