@@ -71,6 +71,7 @@ def describe(thing, path, states):
         component = thing.get_component_iface()
         extents = component.get_extents(Atspi.CoordType.SCREEN) if component else None
         value = thing.get_value_iface()
+        text = thing.get_text_iface() if thing.get_role() == Atspi.Role.TEXT else None
         return {
             "application": thing.get_application().get_name(),
             "name": thing.get_name(),
@@ -84,6 +85,7 @@ def describe(thing, path, states):
             "focused": states.contains(Atspi.StateType.FOCUSED),
             "checked": states.contains(Atspi.StateType.CHECKED),
             "value": value.get_current_value() if value else None,
+            "text": Atspi.Text.get_text(text, 0, -1) if text else None,
             "x": extents.x if extents else 0,
             "y": extents.y if extents else 0,
             "width": extents.width if extents else 0,
