@@ -167,9 +167,7 @@ Result<std::uint16_t> Driver::configNumber(
     if (vendorID == kQVVendorID) {
         return productID;
     }
-    const QString key = QStringLiteral("%1:%2")
-                            .arg(vendorID, 4, 16, QLatin1Char('0'))
-                            .arg(productID, 4, 16, QLatin1Char('0'));
+    const QString key = modelKey(vendorID, productID);
     const auto known = mState.numbers.constFind(key);
     if (known != mState.numbers.constEnd()) {
         return *known;

@@ -109,6 +109,13 @@ platform::Result<> DriverState::save() const
         : platform::Error{QStringLiteral("cannot write %1: %2").arg(path, saved.error().text)};
 }
 
+QString modelKey(std::uint16_t vendorID, std::uint16_t productID)
+{
+    return QStringLiteral("%1:%2")
+        .arg(vendorID, 4, 16, QLatin1Char('0'))
+        .arg(productID, 4, 16, QLatin1Char('0'));
+}
+
 std::optional<tagQVTabletInfo> recordIn(const QByteArray& bytes)
 {
     if (bytes.size() != kQVRecordSize) {

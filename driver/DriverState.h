@@ -23,7 +23,7 @@ struct DriverState {
     QByteArray record; ///< the last push; empty before the first
     std::uint32_t pushes = 0; ///< number of pushes so far
     QString chosen; ///< the tablet that the user chose, as Tablet::id(); empty for the first one
-    /** Numbers of the configuration files of foreign tablets, by "vendor:product". */
+    /** Numbers of the configuration files of foreign tablets, by modelKey(). */
     QMap<QString, std::uint16_t> numbers;
 
     /**
@@ -37,6 +37,9 @@ struct DriverState {
     /** Replaces the file. */
     platform::Result<> save() const;
 };
+
+/** What a model is remembered by: vendor and product, in hexadecimal, such as "6f3d:0042". */
+[[nodiscard]] QString modelKey(std::uint16_t vendorID, std::uint16_t productID);
 
 /** Copies a record from its bytes; nothing if they are not kQVRecordSize. */
 [[nodiscard]] std::optional<tagQVTabletInfo> recordIn(const QByteArray& bytes);

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "TabletMonitor.h"
 
+#include "DriverState.h"
+
 #include <algorithm>
 #include <chrono>
 #include <linux/input.h>
@@ -89,10 +91,8 @@ QString serialOf(udev_device* node)
 
 QString Tablet::id() const
 {
-    const QString numbers = QStringLiteral("%1:%2")
-                                .arg(vendor, 4, 16, QLatin1Char('0'))
-                                .arg(product, 4, 16, QLatin1Char('0'));
-    return serial.isEmpty() ? numbers : numbers + QLatin1Char(':') + serial;
+    const QString model = modelKey(vendor, product);
+    return serial.isEmpty() ? model : model + QLatin1Char(':') + serial;
 }
 
 TabletMonitor::TabletMonitor(QObject* parent)
