@@ -104,19 +104,28 @@ constexpr QLatin1String kManagerName("org.freedesktop.systemd1");
 constexpr QLatin1String kManagerPath("/org/freedesktop/systemd1");
 constexpr QLatin1String kManager("org.freedesktop.systemd1.Manager");
 
-QDBusMessage startMessage(const QString& unit, const QString& path, const QStringList& command)
+/** What starts an application. */
+struct Command {
+    QStringList words; ///< the program and its arguments
+    /** Whether it starts the application and ends, with 0 if the application could be started. */
+    bool endsOnceStarted = false;
+};
+
+QDBusMessage startMessage(const QString& unit, const QString& path, const Command& command)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
         kManagerName, kManagerPath, kManager, QStringLiteral("StartTransientUnit"));
     const auto property = [](const char* name, const QVariant& value) {
         return UnitProperty{QString::fromLatin1(name), QDBusVariant(value)};
     };
-    const QList<UnitCommand> commands{{command.front(), command, false}};
+    const QList<UnitCommand> commands{{command.words.front(), command.words, false}};
     const QList<UnitProperty> properties{
         property("Description", path),
         property("ExecStart", QVariant::fromValue(commands)),
-        // It has started when its program has; it has ended when all of its processes have.
-        property("Type", QStringLiteral("exec")),
+        // It has started when its program has, or when that has ended without an error.
+        property(
+            "Type", command.endsOnceStarted ? QStringLiteral("forking") : QStringLiteral("exec")),
+        // It has ended when all of its processes have.
         property("ExitType", QStringLiteral("cgroup")),
         property("CollectMode", QStringLiteral("inactive-or-failed")),
         property("Slice", QStringLiteral("app.slice")),
@@ -126,9 +135,13 @@ QDBusMessage startMessage(const QString& unit, const QString& path, const QStrin
     return call;
 }
 
-} // namespace
-
-Result<QStringList> launchCommand(const QString& path)
+/**
+ * The command that starts an application: a desktop entry, an AppImage or another executable, or an
+ * application folder, by its absolute path.
+ *
+ * @return an error that says what is wrong with the path
+ */
+Result<Command> commandFor(const QString& path)
 {
     const QFileInfo file(path);
     if (path.isEmpty() || file.isRelative()) {
@@ -142,14 +155,41 @@ Result<QStringList> launchCommand(const QString& path)
         if (gio.isEmpty()) {
             return Error{QStringLiteral("the program 'gio' is missing, which starts %1").arg(path)};
         }
-        return QStringList{gio, QStringLiteral("launch"), path};
+        return Command{{gio, QStringLiteral("launch"), path}, true};
     }
     const QFileInfo program(file.isDir() ? QDir(path).filePath(QStringLiteral("AppRun")) : path);
     if (!program.isFile() || !program.isExecutable()) {
         return Error{QStringLiteral("%1 is not an application, or is not executable").arg(path)};
     }
-    return QStringList{program.filePath()};
+    return Command{{program.filePath()}};
 }
+
+/** Starts it for a user without a service manager. @param owner lives as long as failed can be
+ * called */
+void startWithoutManager(QObject* owner, const Command& command, const QString& path,
+    const std::function<void(const QString&)>& failed)
+{
+    const QString program = command.words.front();
+    const QStringList arguments = command.words.mid(1);
+    if (!command.endsOnceStarted) {
+        if (!QProcess::startDetached(program, arguments)) {
+            failed(QStringLiteral("%1 could not be started").arg(path));
+        }
+        return;
+    }
+    auto* const process = new QProcess(owner);
+    process->setProcessChannelMode(QProcess::ForwardedChannels);
+    QObject::connect(process, qOverload<int, QProcess::ExitStatus>(&QProcess::finished), owner,
+        [=](int code, QProcess::ExitStatus status) {
+            process->deleteLater();
+            if (status != QProcess::NormalExit || code != 0) {
+                failed(QStringLiteral("%1 could not be started").arg(path));
+            }
+        });
+    process->start(program, arguments);
+}
+
+} // namespace
 
 Launcher::Launcher(QDBusConnection bus, QObject* parent)
     : QObject(parent)
@@ -173,7 +213,7 @@ void Launcher::launch(
         return;
     }
     last.start();
-    const Result<QStringList> command = launchCommand(path);
+    const Result<Command> command = commandFor(path);
     if (!command) {
         failed(command.error().text);
         return;
@@ -199,9 +239,8 @@ void Launcher::launch(
         if (reply.error().type() != QDBusError::ServiceUnknown) {
             failed(
                 QStringLiteral("%1 could not be started: %2").arg(path, reply.error().message()));
-        } else if (!QProcess::startDetached(command->front(), command->mid(1))) {
-            // A user without a service manager of their own.
-            failed(QStringLiteral("%1 could not be started").arg(path));
+        } else {
+            startWithoutManager(this, *command, path, failed);
         }
     });
 }

@@ -9,18 +9,9 @@
 #include <QElapsedTimer>
 #include <QObject>
 #include <QString>
-#include <QStringList>
 
 #include <functional>
 #include <map>
-
-/**
- * The command that starts an application: a desktop entry, an AppImage or another executable, or an
- * application folder, by its absolute path.
- *
- * @return the program and its arguments; an error that says what is wrong with the path
- */
-platform::Result<QStringList> launchCommand(const QString& path);
 
 /**
  * Starts applications, never through a shell. The user's service manager starts them, if there is

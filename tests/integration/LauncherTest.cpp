@@ -148,4 +148,15 @@ TEST_F(LauncherTest, startsAnApplicationByItselfWithoutAServiceManager)
     EXPECT_EQ(mProblem, QString());
 }
 
+TEST_F(LauncherTest, tellsOfADesktopEntryThatCannotBeStartedWithoutAServiceManager)
+{
+    const QString entry = mFolder.filePath(QStringLiteral("broken.desktop"));
+    QFile file(entry);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("[Desktop Entry]\nType=Application\nName=Broken\nExec=/nowhere/program\n");
+    file.close();
+    launch(0, entry);
+    EXPECT_TRUE(hasProblem(entry + QStringLiteral(" could not be started")));
+}
+
 } // namespace
