@@ -76,6 +76,8 @@ TabletController::TabletController(
         }
         if (mOpen != nullptr) {
             mOpen->relay.setActive(mSeat.isOurs());
+        } else if (!mSeat.isOurs()) {
+            mSeat.letSleep();
         }
         Q_EMIT changed();
     });
@@ -296,6 +298,11 @@ void TabletController::obey(const RelayNote& note)
         say(QStringLiteral("%1 obeys the settings").arg(mTablet->name));
         if (std::exchange(mIsBusy, false)) {
             setProblem({});
+        }
+        break;
+    case RelayNote::Kind::Released:
+        if (!mSeat.isOurs()) {
+            mSeat.letSleep();
         }
         break;
     case RelayNote::Kind::Busy:

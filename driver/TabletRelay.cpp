@@ -222,9 +222,13 @@ void TabletRelay::obey(const Commands& commands)
 bool TabletRelay::followWishes()
 {
     const bool wasBusy = std::exchange(mIsBusy, false);
-    if (mIsGrabbed && !mIsActive) {
+    const bool isActive = mIsActive;
+    if (!isActive && !mIsLeft) {
         release();
-    } else if (!mIsGrabbed && mIsActive && isAtRest()) {
+        tell({.kind = RelayNote::Kind::Released});
+    }
+    mIsLeft = !isActive;
+    if (!mIsGrabbed && isActive && isAtRest()) {
         const int error = grab(true);
         if (error == EBUSY) {
             mIsBusy = true;

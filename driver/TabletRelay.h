@@ -22,6 +22,7 @@ struct RelayNote {
         Button, ///< slot and whether it is down
         Command, ///< one that is not a key stroke, a mouse button or scrolling
         Grabbed, ///< the tablet is ours alone from now on
+        Released, ///< after setActive(false): nothing of ours is pressed
         Busy, ///< another program has the tablet; the relay tries again and again
         Alive, ///< the answer to ask()
         Gone, ///< the tablet was unplugged; the relay has ended
@@ -103,6 +104,7 @@ private:
     std::atomic<bool> mIsStopped{false};
     std::atomic<bool> mIsAsked{false};
     bool mIsGrabbed = false;
+    bool mIsLeft = false; ///< to the desktop, as setActive(false) wishes
     bool mIsBusy = false; ///< another program has the tablet
     bool mHasEnded = false;
     bool mWasPaused = false;

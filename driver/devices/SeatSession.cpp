@@ -7,6 +7,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusUnixFileDescriptor>
 #include <QDBusVariant>
 
 #include <utility>
@@ -32,6 +33,33 @@ SeatSession::SeatSession(QDBusConnection bus, QObject* parent)
     mBus.connect(kLogin, QString(), kProperties, QStringLiteral("PropertiesChanged"), this,
         SLOT(takeProperties(QDBusMessage)));
     ask();
+}
+
+void SeatSession::announce(bool wasOurs)
+{
+    if (wasOurs == isOurs()) {
+        return;
+    }
+    if (isOurs() && mBus.isConnected()) {
+        delaySleep();
+    }
+    Q_EMIT changed();
+}
+
+void SeatSession::delaySleep()
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(kLogin, kManagerPath, kManager, QStringLiteral("Inhibit"));
+    call << QStringLiteral("sleep") << QStringLiteral("Tablet driver")
+         << QStringLiteral("Releases what the tablet has pressed") << QStringLiteral("delay");
+    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        answer->deleteLater();
+        const QDBusPendingReply<QDBusUnixFileDescriptor> reply = *answer;
+        if (reply.isValid() && isOurs()) {
+            mSleepDelay = reply.value();
+        }
+    });
 }
 
 void SeatSession::ask()
@@ -98,9 +126,7 @@ void SeatSession::take(const QVariantMap& properties)
     mIsAsleep = mIsAsleep && !std::exchange(mIsWaking, false);
     mIsActive = properties.value(QStringLiteral("Active"), true).toBool();
     mIsLocked = properties.value(QStringLiteral("LockedHint"), false).toBool();
-    if (wasOurs != isOurs()) {
-        Q_EMIT changed();
-    }
+    announce(wasOurs);
 }
 
 void SeatSession::prepareForSleep(bool isAboutToSleep)
@@ -108,9 +134,7 @@ void SeatSession::prepareForSleep(bool isAboutToSleep)
     const bool wasOurs = isOurs();
     mIsAsleep = true;
     mIsWaking = !isAboutToSleep;
-    if (wasOurs != isOurs()) {
-        Q_EMIT changed();
-    }
+    announce(wasOurs);
     if (mIsWaking) {
         ask();
     }

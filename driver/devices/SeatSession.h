@@ -4,13 +4,15 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusUnixFileDescriptor>
 #include <QObject>
 #include <QString>
 #include <QVariantMap>
 
 /**
  * Whether this user is at the machine: the session is the active one, not locked, and the machine
- * is not about to sleep. It is logind that says so; without it, the session always is.
+ * is not about to sleep. It is logind that says so; without it, the session always is. The machine
+ * waits with its sleep for letSleep().
  */
 class SeatSession final : public QObject {
     Q_OBJECT
@@ -21,6 +23,9 @@ public:
 
     /** Whether the tablet is this session's; not before logind has answered. */
     bool isOurs() const { return mIsKnown && mIsActive && !mIsLocked && !mIsAsleep; }
+
+    /** Tells that whatever the tablet had pressed is let go, so that the machine may sleep. */
+    void letSleep() { mSleepDelay = {}; }
 
 Q_SIGNALS:
     void changed();
@@ -33,11 +38,15 @@ private Q_SLOTS:
 
 private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     void take(const QVariantMap& properties);
+    /** Tells if it has become ours, or is no longer. */
+    void announce(bool wasOurs);
+    void delaySleep();
 
     QDBusConnection mBus;
     bool mIsKnown = false;
     bool mIsActive = true;
     bool mIsLocked = false;
     bool mIsAsleep = false;
+    QDBusUnixFileDescriptor mSleepDelay; ///< while it is open, logind waits
     bool mIsWaking = false; ///< asleep until logind has told whether the screen is locked
 };

@@ -5,6 +5,7 @@
 
 #include "SeatSession.h"
 
+#include "Pipe.h"
 #include "PrivateBus.h"
 #include "Wait.h"
 
@@ -12,12 +13,14 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QDBusUnixFileDescriptor>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include <cerrno>
 #include <optional>
 #include <utility>
 
@@ -61,6 +64,13 @@ public:
         EXPECT_TRUE(mBus.send(signal));
     }
 
+    /** Whether someone has the machine wait before it sleeps. */
+    bool isDelayed() const
+    {
+        char byte = 0;
+        return delay && ::read(delay->reading->get(), &byte, 1) < 0 && errno == EAGAIN;
+    }
+
     QString introspect(const QString& /*path*/) const override { return {}; }
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override
@@ -75,6 +85,15 @@ public:
                 call.createReply(QVariant::fromValue(QDBusVariant(QVariant::fromValue(value)))));
             return true;
         }
+        if (call.member() == QLatin1String("Inhibit")) {
+            EXPECT_EQ(call.arguments().value(0), QStringLiteral("sleep"));
+            EXPECT_EQ(call.arguments().value(3), QStringLiteral("delay"));
+            delay.emplace(O_NONBLOCK);
+            const QDBusUnixFileDescriptor file(delay->writing->get());
+            bus.send(call.createReply(QVariant::fromValue(file)));
+            delay->writing.reset();
+            return true;
+        }
         if (call.member() == QLatin1String("GetAll") && call.path() == kSessionPath) {
             bus.send(call.createReply(QVariant(session)));
             return true;
@@ -84,6 +103,7 @@ public:
 
     QVariantMap session{{QStringLiteral("Active"), true}, {QStringLiteral("LockedHint"), false}};
     QString display = QStringLiteral("2");
+    std::optional<Pipe> delay; ///< at its end once the last one who delays the sleep has closed it
 
 private:
     void changed(const QString& path, const char* interface, const QVariantMap& properties)
@@ -177,4 +197,32 @@ TEST_F(Seat, isNotOursWithoutASession)
     EXPECT_TRUE(becomes(false));
     login.setSession(QStringLiteral("2"));
     EXPECT_TRUE(becomes(true));
+}
+
+TEST_F(Seat, delaysTheSleepUntilTheTabletIsReleased)
+{
+    FakeLogin login(mBus.address());
+    SeatSession& session = start();
+    const auto delays = [&](bool isDelayed) {
+        return QTest::qWaitFor([&] { return login.isDelayed() == isDelayed; }, kPatience);
+    };
+    for (int i = 0; i < 2; ++i) {
+        EXPECT_TRUE(delays(true)) << "sleep number " << i;
+        login.prepareForSleep(true);
+        EXPECT_TRUE(becomes(false));
+        EXPECT_TRUE(login.isDelayed());
+        session.letSleep();
+        EXPECT_TRUE(delays(false));
+        login.prepareForSleep(false);
+        EXPECT_TRUE(becomes(true));
+    }
+}
+
+TEST_F(Seat, delaysNoSleepWhileTheSessionIsNotOurs)
+{
+    FakeLogin login(mBus.address());
+    login.session.insert(QStringLiteral("LockedHint"), true);
+    start();
+    QTest::qWait(100);
+    EXPECT_FALSE(login.delay) << "there is nothing to release";
 }

@@ -7,6 +7,7 @@
 
 #include "Descriptor.h"
 #include "InputEvent.h"
+#include "Pipe.h"
 #include "Wait.h"
 
 #include <gtest/gtest.h>
@@ -24,38 +25,17 @@
 
 namespace {
 
-/** A pipe of which either end may be closed early. */
-class Pipe {
-public:
-    explicit Pipe(int flags = 0)
-    {
-        std::array<int, 2> ends{-1, -1};
-        EXPECT_EQ(::pipe2(ends.data(), O_CLOEXEC | flags), 0);
-        mReading = std::make_unique<Descriptor>(ends[0]);
-        mWriting = std::make_unique<Descriptor>(ends[1]);
+/** Reads a value from a pipe, or nothing if none comes in time. */
+template <class Value>
+std::optional<Value> next(const Pipe& pipe, int patience = kPatience)
+{
+    pollfd file{pipe.reading->get(), POLLIN, 0};
+    Value value{};
+    if (::poll(&file, 1, patience) <= 0 || ::read(file.fd, &value, sizeof value) != sizeof value) {
+        return std::nullopt;
     }
-
-    int reading() const { return mReading->get(); }
-    int writing() const { return mWriting->get(); }
-    void closeWriting() { mWriting.reset(); }
-
-    /** Reads a value, or nothing if none comes in time. */
-    template <class Value>
-    std::optional<Value> next(int patience = kPatience) const
-    {
-        pollfd file{reading(), POLLIN, 0};
-        Value value{};
-        if (::poll(&file, 1, patience) <= 0
-            || ::read(reading(), &value, sizeof value) != sizeof value) {
-            return std::nullopt;
-        }
-        return value;
-    }
-
-private:
-    std::unique_ptr<Descriptor> mReading;
-    std::unique_ptr<Descriptor> mWriting;
-};
+    return value;
+}
 
 constexpr auto kEnd = [] { return event(EV_SYN, SYN_REPORT, 0); };
 
@@ -82,8 +62,8 @@ protected:
     {
         exchange = std::make_unique<SettingsExchange>(settings);
         relay = std::make_unique<TabletRelay>(
-            TabletRelay::Files{pen.reading(), pad.reading(), virtualPen.writing(),
-                keyboard.writing(), pointer.writing(), notes.writing(), wake.get()},
+            TabletRelay::Files{pen.reading->get(), pad.reading->get(), virtualPen.writing->get(),
+                keyboard.writing->get(), pointer.writing->get(), notes.writing->get(), wake.get()},
             description, description.axes(), padDescription, *exchange);
         thread = std::thread([this] { relay->run(); });
         expectNote(RelayNote::Kind::Grabbed);
@@ -101,7 +81,7 @@ protected:
     {
         events.push_back(kEnd());
         const std::size_t size = events.size() * sizeof(input_event);
-        ASSERT_EQ(::write(node.writing(), events.data(), size), static_cast<ssize_t>(size));
+        ASSERT_EQ(::write(node.writing->get(), events.data(), size), static_cast<ssize_t>(size));
     }
 
     void sendPen(std::int32_t x, std::int32_t pressure, bool isNear = true)
@@ -116,7 +96,7 @@ protected:
     static Frame frameOf(const Pipe& device, int patience = kPatience)
     {
         Frame frame;
-        while (const auto got = device.next<input_event>(patience)) {
+        while (const auto got = next<input_event>(device, patience)) {
             if (got->type == EV_SYN) {
                 break;
             }
@@ -127,7 +107,7 @@ protected:
 
     RelayNote expectNote(RelayNote::Kind kind)
     {
-        const auto note = notes.next<RelayNote>();
+        const auto note = next<RelayNote>(notes);
         EXPECT_TRUE(note);
         EXPECT_EQ(note.value_or(RelayNote{}).kind, kind);
         return note.value_or(RelayNote{});
@@ -242,6 +222,7 @@ TEST_F(TabletRelayTest, aPenThatReturnsAtTheEdgeIsThere)
     frameOf(virtualPen);
     relay->setActive(false);
     EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOOL_PEN}), 0);
+    expectNote(RelayNote::Kind::Released);
     sendPen(100, 0, false);
     relay->setActive(true);
     expectNote(RelayNote::Kind::Grabbed);
@@ -260,6 +241,7 @@ TEST_F(TabletRelayTest, aStripThatWasTouchedBeforeScrollsNothingAtTheNextTouch)
     expectNote(RelayNote::Kind::Button);
     relay->setActive(false);
     EXPECT_FALSE(expectNote(RelayNote::Kind::Button).isDown);
+    expectNote(RelayNote::Kind::Released);
     send(pad, {event(EV_KEY, BTN_0, 0)});
     relay->setActive(true);
     expectNote(RelayNote::Kind::Grabbed);
@@ -334,6 +316,7 @@ TEST_F(TabletRelayTest, takesTheTabletAgainOnlyWhenThePenHasLeft)
     frameOf(virtualPen);
     relay->setActive(false);
     EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOOL_PEN}), 0);
+    expectNote(RelayNote::Kind::Released);
     relay->setActive(true);
     sendPen(2, 20); // the desktop's
     sendPen(3, 0);
@@ -350,6 +333,7 @@ TEST_F(TabletRelayTest, takesTheTabletAgainOnlyWhenItsKeysAreUp)
     EXPECT_TRUE(expectNote(RelayNote::Kind::Button).isDown);
     relay->setActive(false);
     EXPECT_FALSE(expectNote(RelayNote::Kind::Button).isDown);
+    expectNote(RelayNote::Kind::Released);
     relay->setActive(true);
     send(pad, {event(EV_KEY, BTN_1, 1)});
     send(pad, {event(EV_KEY, BTN_0, 0)});
@@ -367,12 +351,17 @@ TEST_F(TabletRelayTest, lettingGoReleasesEverything)
     frameOf(virtualPen);
     send(pad, {event(EV_KEY, BTN_0, 1)});
     frameOf(keyboard);
+    expectNote(RelayNote::Kind::Button);
     relay->setActive(false);
     EXPECT_EQ(frameOf(keyboard), (Frame{{{EV_KEY, KEY_A}, 0}}));
     EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOUCH}), 0);
+    expectNote(RelayNote::Kind::Button);
+    expectNote(RelayNote::Kind::Released); // once everything is
+    relay->setActive(false);
     sendPen(2, 20);
     stop();
     EXPECT_TRUE(frameOf(virtualPen, 0).empty());
+    EXPECT_FALSE(next<RelayNote>(notes, 0));
 }
 
 TEST_F(TabletRelayTest, unpluggingInAStrokeReleasesEverything)
@@ -384,7 +373,7 @@ TEST_F(TabletRelayTest, unpluggingInAStrokeReleasesEverything)
     expectNote(RelayNote::Kind::Button);
     sendPen(1, 10);
     frameOf(virtualPen);
-    pen.closeWriting();
+    pen.writing.reset();
     EXPECT_EQ(frameOf(virtualPen).at({EV_KEY, BTN_TOOL_PEN}), 0);
     EXPECT_EQ(frameOf(keyboard), (Frame{{{EV_KEY, KEY_A}, 0}}));
     expectNote(RelayNote::Kind::Button);
