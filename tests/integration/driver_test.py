@@ -224,6 +224,7 @@ class Driver(session.Session):
         self.assertIn("/org/quorvia/Tablet: org.freedesktop.DBus.Properties.PropertiesChanged "
                       "('org.quorvia.Tablet1', {", changed)
         self.assertIn("'Name': <'Quorvia Draft L'>", changed)
+        self.assertIn("'ProductID': <uint16 20739>", changed)
         self.send(PUSH)
         self.assertIn("Pushed (uint32 1,)", monitor.stdout.readline())
         self.simulator("Press", "qb", "3", "true")

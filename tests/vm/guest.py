@@ -141,6 +141,9 @@ class Program:
         with path.open("w") as output:
             self.process = subprocess.Popen([str(word) for word in command], env=env, stdout=output,
                                             stderr=subprocess.STDOUT, text=True, **options)
+        self.follow(path)
+
+    def follow(self, path):
         self.output = path.open()
         self.rest = ""
         self.known = []
@@ -164,6 +167,14 @@ class Program:
     def end(self, number=signal.SIGKILL):
         self.process.send_signal(number)
         return self.process.wait(timeout=PATIENCE)
+
+
+def make_program(name, text):
+    """Returns the path of a new executable file."""
+    path = FOLDER / name
+    path.write_text(text)
+    path.chmod(0o755)
+    return path
 
 
 class Record:
@@ -206,6 +217,13 @@ class Record:
         return self.slot(number, 3, key=int.from_bytes(bytes([*padded, len(codes)]), "little"))
 
 
+def connect(address):
+    """Returns a new connection to a bus."""
+    return Gio.DBusConnection.new_for_address_sync(
+        address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+        | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None)
+
+
 class Bus:
     """A private bus."""
 
@@ -219,9 +237,7 @@ class Bus:
         self.address = f"unix:path={FOLDER / name}/bus"
 
     def connect(self):
-        return Gio.DBusConnection.new_for_address_sync(
-            self.address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None)
+        return connect(self.address)
 
 
 class World:
@@ -263,11 +279,15 @@ class World:
 
     def end(self):
         """Ends the driver, and unplugs the tablet."""
+        if self.driver.process and self.driver.process.poll() is None:
+            self.driver.end()
+        self.drop_tablet()
+
+    def drop_tablet(self):
+        """Unplugs the tablet, when the driver has ended."""
         for node in self.nodes.values():
             node.close()
         self.nodes = {}
-        if self.driver.process.poll() is None:
-            self.driver.end()
         if self.tablet:
             self.tablet.unplug()
         wait_for(lambda: not any(map(Node.find, (PEN, KEYBOARD, POINTER, "Test Tablet"))),
@@ -326,6 +346,66 @@ class World:
         """Runs a program to its end."""
         return subprocess.run([str(word) for word in command], env=self.env, text=True,
                               capture_output=True, timeout=2 * PATIENCE, check=False)
+
+
+class Service(Program):
+    """A program that someone else starts, again and again."""
+
+    def __init__(self, path):
+        path.touch()
+        self.process = None
+        self.follow(path)
+
+
+class ServiceManager:
+    """A user's service manager, that the world uses with its bus until its end."""
+
+    def __init__(self, world):
+        self.world = world
+        self.before = (world.env, world.bus)
+        units = world.home / ".config/systemd/user"
+        units.mkdir(parents=True)
+        self.log = FOLDER / "service.log"
+        (units / "dbus.socket").write_text("[Socket]\nListenStream=%t/bus\n")
+        (units / "dbus.service").write_text(
+            "[Service]\nType=notify\nExecStart=/usr/bin/dbus-daemon --session --address=systemd: "
+            "--nofork --nopidfile --systemd-activation\n")
+        unit = (session.SOURCE / "packaging/tdsg-driver.service.in").read_text()
+        unit = unit.replace("ConditionUser=!@system\n", "")  # there is only root here
+        (units / "tdsg-driver.service").write_text(
+            unit.replace("@QVTBLT_DRIVER@", str(session.BIN / "tdsg-driver"))
+            + f"StandardOutput=append:{self.log}\nStandardError=append:{self.log}\n")
+        groups = pathlib.Path("/sys/fs/cgroup")
+        if not os.path.ismount(groups):
+            subprocess.run(["mount", "-t", "cgroup2", "cgroup2", groups], check=True)
+        pathlib.Path("/run/systemd/system").mkdir(parents=True, exist_ok=True)  # as systemd does
+        runtime = pathlib.Path(world.env["XDG_RUNTIME_DIR"])
+        world.env = world.env | {"DBUS_SESSION_BUS_ADDRESS": f"unix:path={runtime}/bus"}
+        self.program = Program(["/lib/systemd/systemd", "--user", "--unit=basic.target"], world.env)
+        wait_for((runtime / "systemd/private").exists, "the service manager")
+        self.control("start", "dbus.service")
+        world.bus = connect(world.env["DBUS_SESSION_BUS_ADDRESS"])
+
+    def control(self, *words):
+        result = self.world.run("systemctl", "--user", *words)
+        if result.returncode != 0:
+            raise AssertionError(f"{words}: {result.stderr} {self.program.lines}")
+        return result.stdout.strip()
+
+    def start_driver(self):
+        self.world.driver = Service(self.log)
+        self.control("start", "tdsg-driver.service")
+        self.world.driver.wait("ready")
+
+    def driver(self, name):
+        """Returns a property of the driver's unit, in its plain form."""
+        return self.control("show", "--value", f"--property={name}", "tdsg-driver.service")
+
+    def end(self):
+        self.control("stop", "tdsg-driver.service")
+        self.world.drop_tablet()
+        self.program.end(signal.SIGTERM)
+        self.world.env, self.world.bus = self.before
 
 
 class TestCase(unittest.TestCase):

@@ -41,6 +41,12 @@ def setUpModule():
     guest.TestCase.world.make()
 
 
+def wait_for_stop(process):
+    """Waits until a process does not run any more."""
+    wait_for(lambda: "T (stopped)" in pathlib.Path(f"/proc/{process}/status").read_text(),
+             f"process {process} to stop")
+
+
 def down_and_up(*names):
     """The frames of keys that go down in this order, and up in reverse."""
     return [[(name, 1)] for name in names] + [[(name, 0)] for name in reversed(names)]
@@ -523,17 +529,11 @@ class Functions(guest.TestCase):
         self.tablet.away()
         self.pen.wait_for("BTN_TOOL_PEN", 0)
 
-    def make_program(self, name, text):
-        path = guest.FOLDER / name
-        path.write_text(text)
-        path.chmod(0o755)
-        return path
-
     def test_a_key_starts_an_application_once_a_second(self):
-        first, second = (self.make_program(
+        first, second = (guest.make_program(
             f"program-{number}", f"#!/bin/sh\necho started >>{guest.FOLDER}/started-{number}\n")
             for number in (1, 2))
-        desktop = self.make_program(
+        desktop = guest.make_program(
             "program.desktop", f"[Desktop Entry]\nType=Application\nName=Program\nExec={second}\n")
         self.record.slot(0, 2, app=first).slot(1, 2, app=desktop)
         self.push()
@@ -697,6 +697,9 @@ class Safety(guest.TestCase):
     """Whatever happens in the middle of a stroke, with a key and a mouse button held: nothing stays
     pressed."""
 
+    PRESSED = ((PEN, "BTN_TOUCH"), (PEN, "BTN_STYLUS2"), (PEN, "BTN_TOOL_PEN"),
+               (KEYBOARD, "KEY_LEFTCTRL"), (POINTER, "BTN_RIGHT"))
+
     def setUp(self):
         super().setUp()
         self.record.combination(0, CONTROL).slot(1, 1, RIGHT).slot(guest.Record.UPPER, 1, RIGHT)
@@ -718,11 +721,14 @@ class Safety(guest.TestCase):
 
     def expect_nothing_pressed(self):
         """Checks that the driver has let go of everything, also of the tablet."""
-        for node, names in ((self.pen, ("BTN_TOUCH", "BTN_STYLUS2", "BTN_TOOL_PEN")),
-                            (self.keyboard, ("KEY_LEFTCTRL",)), (self.pointer, ("BTN_RIGHT",))):
-            for name in names:
-                node.wait(lambda: node.state[name] == 0, f"{name} to be let go")
+        for node, name in self.PRESSED:
+            node = self.world.nodes[node]
+            node.wait(lambda: node.state[name] == 0, f"{name} to be let go")
         self.expect_nothing_pressed_for_libinput()
+
+    def pressed(self):
+        """Returns the state of what the stroke presses."""
+        return [self.world.nodes[node].state[name] for node, name in self.PRESSED]
 
     def expect_nothing_pressed_for_libinput(self):
         for text in ("proximity-out", "KEY_LEFTCTRL (29) released", "BTN_RIGHT (273) released"):
@@ -772,6 +778,22 @@ class Safety(guest.TestCase):
         self.world.driver.process.wait(timeout=guest.PATIENCE)
         self.expect_the_bare_tablet()
 
+    def test_nothing_stays_pressed_for_which_events_were_lost(self):
+        """More happens than the kernel keeps for a driver that does not read."""
+        process = self.world.driver.process
+        process.send_signal(signal.SIGSTOP)
+        wait_for_stop(process.pid)
+        for step in range(500):
+            self.tablet.pen(12000 + step, 6000, pressure=5000, buttons=UPPER * (step % 2))
+            self.press(*range(step % 2))
+        self.press()
+        self.tablet.away()
+        process.send_signal(signal.SIGCONT)
+        self.expect_nothing_pressed()
+        self.take()
+        self.assertEqual(set(self.pressed()), {0})
+        self.assertEqual(self.place(12000, 7500), (48000, 30000))
+
     def test_a_locked_session_has_everything_let_go_until_it_is_unlocked(self):
         self.lose_and_regain("LockedHint 1", "LockedHint 0")
 
@@ -779,7 +801,11 @@ class Safety(guest.TestCase):
         self.lose_and_regain("Active 0", "Active 1")
 
     def test_a_machine_about_to_sleep_has_everything_let_go_until_it_wakes(self):
+        self.world.logind.wait("delayed")
+        begin = len(self.world.logind.lines)
         self.lose_and_regain("PrepareForSleep 1", "PrepareForSleep 0")
+        released = self.world.logind.wait("released", begin)
+        self.world.logind.wait("delayed", released)  # for the next time
 
     def lose_and_regain(self, lost, regained):
         self.world.tell_logind(lost)
@@ -857,8 +883,7 @@ class Watchdog(guest.TestCase):
             self.pen.wait_for("BTN_TOOL_PEN", 1)
             begin = len(self.world.libinput.lines)
             self.world.driver.process.send_signal(signal.SIGSTOP)
-            wait_for(lambda: "T (stopped)" in pathlib.Path(
-                f"/proc/{self.world.driver.process.pid}/status").read_text(), "the driver to hang")
+            wait_for_stop(self.world.driver.process.pid)
             manager.setblocking(False)
             with self.assertRaises(BlockingIOError):
                 while True:
@@ -868,6 +893,70 @@ class Watchdog(guest.TestCase):
                 manager.recv(100)
             self.world.driver.end(signal.SIGKILL)
             self.world.libinput.wait("proximity-out", begin)
+
+
+class AsAService(guest.TestCase):
+    """The driver is run by a user's service manager, as the package has it."""
+
+    @classmethod
+    def setUpClass(cls):
+        cls.world.end()
+        cls.manager = guest.ServiceManager(cls.world)
+        cls.manager.start_driver()
+        cls.world.plug(Tablet())
+
+    @classmethod
+    def tearDownClass(cls):
+        cls.manager.end()
+        cls.world.make()
+
+    def test_a_driver_that_hangs_is_replaced_within_five_seconds_of_its_last_word(self):
+        self.assertEqual(self.manager.driver("WatchdogUSec"), "4s")
+        self.record.combination(0, CONTROL)
+        self.push()
+        self.press(0)
+        self.tablet.pen(12000, 6000)
+        for step in range(1, 6):
+            self.tablet.pen(12000 + step, 6000, pressure=5000)
+        self.keyboard.wait_for("KEY_LEFTCTRL", 1)
+        self.world.libinput.wait("KEY_LEFTCTRL")
+        self.pen.wait_for("ABS_X", 48020)
+        begin = len(self.world.libinput.lines)
+        said = len(self.world.driver.lines)
+        os.kill(int(self.manager.driver("MainPID")), signal.SIGSTOP)
+        hanging = time.monotonic()
+        self.world.libinput.wait("KEY_LEFTCTRL (29) released", begin)
+        self.world.libinput.wait("proximity-out", begin)
+        print(f"    let go {time.monotonic() - hanging:.1f} s after the hang", file=sys.stderr)
+        self.tablet.away()
+        self.press()
+        self.world.driver.wait("ready", said)  # another one
+        self.world.wait_until_used(self.tablet)
+        self.assertEqual(self.place(12000, 7500), (48000, 30000))
+
+    def test_applications_live_apart_from_the_driver_and_without_its_restrictions(self):
+        out = guest.FOLDER / "restrictions"
+        program = guest.make_program(
+            "apart", f"#!/bin/sh\ncat /proc/self/status /proc/self/cgroup >{out}.new\nmv {out}.new {out}\n")
+        entry = guest.make_program(
+            "apart.desktop", f"[Desktop Entry]\nType=Application\nName=Apart\nExec={program}\n")
+        for slot, path in enumerate((program, entry)):
+            out.unlink(missing_ok=True)
+            self.record.slot(slot, 2, app=path)
+            self.push()
+            self.click(slot)
+            wait_for(out.exists, path)
+            self.assertRegex(out.read_text(), r"(?s)NoNewPrivs:\t0\n.*app\.slice/app-tdsgdriver-")
+        self.assertEqual(self.world.property("Problem"), "")
+
+    def test_a_desktop_entry_that_cannot_be_started_is_a_problem(self):
+        entry = guest.make_program(
+            "broken.desktop",
+            "[Desktop Entry]\nType=Application\nName=Broken\nExec=/nowhere/program\n")
+        self.record.slot(0, 2, app=entry)
+        self.push()
+        self.click(0)
+        wait_for(lambda: str(entry) in self.world.property("Problem"), "the problem")
 
 
 if __name__ == "__main__":

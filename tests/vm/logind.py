@@ -2,8 +2,10 @@
 # SPDX-License-Identifier: MIT
 """As much of logind as the driver asks for: one user with one session, which standard input commands, a
 line each: "Active 0", "LockedHint 1", or "PrepareForSleep 1". Says "ready" when it is on the bus, and
-repeats each line when its signal is out."""
+repeats each line when its signal is out. Says "delayed" when a program has the machine wait before it
+sleeps, and "released" when that has ended."""
 
+import os
 import sys
 
 from gi.repository import Gio, GLib
@@ -12,7 +14,10 @@ NAME = "org.freedesktop.login1"
 MANAGER, USER, SESSION = (
     f"/org/freedesktop/login1{path}" for path in ("", "/user/self", "/session/_31"))
 INTERFACES = Gio.DBusNodeInfo.new_for_xml(f"""<node>
-<interface name="{NAME}.Manager"><signal name="PrepareForSleep"><arg type="b"/></signal></interface>
+<interface name="{NAME}.Manager"><signal name="PrepareForSleep"><arg type="b"/></signal>
+<method name="Inhibit"><arg type="s" direction="in"/><arg type="s" direction="in"/>
+<arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="h" direction="out"/></method>
+</interface>
 <interface name="{NAME}.User"><property name="Display" type="(so)" access="read"/></interface>
 <interface name="{NAME}.Session">
 <property name="Active" type="b" access="read"/><property name="LockedHint" type="b" access="read"/>
@@ -28,6 +33,20 @@ def main():
 
     def get(_bus, _sender, _path, _interface, name):
         return values[name]()
+
+    def call(_bus, _sender, _path, _interface, _method, arguments, invocation):
+        what, _who, _why, mode = arguments.unpack()
+        assert (what, mode) == ("sleep", "delay"), arguments
+        reading, writing = os.pipe()
+        files = Gio.UnixFDList.new_from_array([writing])
+        invocation.return_value_with_unix_fd_list(GLib.Variant("(h)", (0,)), files)
+        print("delayed", flush=True)
+
+        def closed(*_):
+            os.close(reading)
+            print("released", flush=True)
+            return False
+        GLib.io_add_watch(reading, GLib.IO_HUP, closed)
 
     def command(channel, _condition):
         line = channel.readline()
@@ -48,7 +67,7 @@ def main():
         return True
 
     for path, interface in zip((MANAGER, USER, SESSION), INTERFACES):
-        bus.register_object(path, interface, None, get, None)
+        bus.register_object(path, interface, call, get, None)
     bus.call_sync("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus", "RequestName",
                   GLib.Variant("(su)", (NAME, 0)), None, Gio.DBusCallFlags.NONE, -1)
     print("ready", flush=True)
