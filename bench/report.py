@@ -71,6 +71,8 @@ RELAYS = {
 RELAY_LIMIT_US = 50
 RELAY_P99_LIMIT_US = 1000
 
+PLUG_IN_LIMIT_MS = 1000
+
 
 def machine():
     processor = re.search(r"^model name\s*: (.*)$", pathlib.Path("/proc/cpuinfo").read_text(), re.M)
@@ -129,10 +131,15 @@ class Report:
                 f"{rare:.1f} µs | {self.limit(name + ' p99', rare, RELAY_P99_LIMIT_US, ' µs')} | "
                 f"{run['relay_lost']:.0f} | {self.limit(name + ' lost', run['relay_lost'], 0)} |")
 
+    def plug_in(self, run):
+        slowest = run["slowest_plug_in_ms"]
+        return (f"| {run['times']} | {slowest:.0f} ms | "
+                f"{self.limit('plugIn', slowest, PLUG_IN_LIMIT_MS, ' ms')} |")
+
 
 def main():
     report = Report()
-    ratios, growths, pens, relays = [], [], [], []
+    ratios, growths, pens, relays, plugs = [], [], [], [], []
     for name in sys.argv[1:]:
         text = pathlib.Path(name).read_text()
         for run in json.loads(text)["benchmarks"] if text else []:  # a filter may match nothing
@@ -142,6 +149,8 @@ def main():
                 pens += report.pen(run)
             elif "relay_us" in run:
                 relays.append(report.relay(run))
+            elif "slowest_plug_in_ms" in run:
+                plugs.append(report.plug_in(run))
             else:
                 growths.append(report.growth(run))
 
@@ -162,6 +171,10 @@ that of Debian 13, in a root of its own.""")
               "reads the same\nbytes and writes them.\n",
               "| work | frames | median | limit | floor | 99th percentile | limit | lost | limit |",
               "|---|---|---|---|---|---|---|---|---|", *relays, sep="\n")
+    if plugs:
+        print("\nFrom plugging a tablet in until the driver has it to itself, in a virtual machine that "
+              "emulates the\nprocessor, and so is many times slower than a real one:\n",
+              "| times | slowest | limit |", "|---|---|---|", *plugs, sep="\n")
     if growths:
         print("\n| memory | times | growth | limit |\n|---|---|---|---|", *growths, sep="\n")
     if report.misses:
