@@ -127,7 +127,7 @@ private:
     std::optional<Answer> mAnswer; ///< for the next showing; differs from what is shown
     bool mHasDevice = false; ///< as currently shown
     bool mButtonsShown = false; ///< Save and Cancel, if there is a tablet
-    QVKeySetClass* mKeyset = nullptr; ///< owned by the main view
+    QVKeySetClass* mKeyset = nullptr; ///< owned by the main view; none before its first use
     QString mFileName; ///< path of the application last chosen
 
     std::array<QVKeyComboBox*, kQVSlotCount> mSlotBoxes{}; ///< by slot

@@ -144,7 +144,6 @@ void QVTblt_prefPanePref::setUpKeyPage()
     }
     mEnabledAtFirst.insert(mMonitorSpeed, mMonitorSpeed->isEnabled());
 
-    mKeyset = new QVKeySetClass(keyCanvas->window());
     for (QVKeyComboBox* const box : mSlotBoxes) {
         connect(box, qOverload<int>(&QComboBox::activated), this, [this, box] { SelectKey(box); });
     }
@@ -353,6 +352,9 @@ void QVTblt_prefPanePref::takeApplication(QVKeyComboBox& comboBox, tagQVTabletIn
 void QVTblt_prefPanePref::askForKeys(QVKeyComboBox& comboBox)
 {
     const QPointer<QVKeyComboBox> box(&comboBox);
+    if (mKeyset == nullptr) {
+        mKeyset = new QVKeySetClass(mainView()); // not before, since it has some eighty controls
+    }
     mKeyset->QVShowWindow(&comboBox);
     mKeyset->exec();
     if (box.isNull()) { // the host has closed the panel meanwhile

@@ -131,10 +131,18 @@ protected:
         }
     }
 
-    QVKeySetClass& keyDialog() { return *mWindow->window()->findChild<QVKeySetClass*>(); }
+    /** The window for combinations, which is made when it is first asked for. */
+    QVKeySetClass& keyDialog()
+    {
+        if (mKeyDialog == nullptr) {
+            mKeyDialog = new QVKeySetClass(mWindow->window());
+        }
+        return *mKeyDialog;
+    }
 
     QSize mInterfaceFile; ///< the main view's size in the interface file
     QScrollArea mArea;
+    QVKeySetClass* mKeyDialog = nullptr; ///< owned by the main view's window
 };
 
 // What is shown -----------------------------------------------------------------------------------
