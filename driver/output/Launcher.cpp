@@ -105,13 +105,13 @@ constexpr QLatin1String kManagerPath("/org/freedesktop/systemd1");
 constexpr QLatin1String kManager("org.freedesktop.systemd1.Manager");
 
 /** What starts an application. */
-struct Command {
+struct StartCommand {
     QStringList words; ///< the program and its arguments
     /** Whether it starts the application and ends, with 0 if the application could be started. */
     bool endsOnceStarted = false;
 };
 
-QDBusMessage startMessage(const QString& unit, const QString& path, const Command& command)
+QDBusMessage startMessage(const QString& unit, const QString& path, const StartCommand& command)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
         kManagerName, kManagerPath, kManager, QStringLiteral("StartTransientUnit"));
@@ -141,7 +141,7 @@ QDBusMessage startMessage(const QString& unit, const QString& path, const Comman
  *
  * @return an error that says what is wrong with the path
  */
-Result<Command> commandFor(const QString& path)
+Result<StartCommand> commandFor(const QString& path)
 {
     const QFileInfo file(path);
     if (path.isEmpty() || file.isRelative()) {
@@ -155,18 +155,18 @@ Result<Command> commandFor(const QString& path)
         if (gio.isEmpty()) {
             return Error{QStringLiteral("the program 'gio' is missing, which starts %1").arg(path)};
         }
-        return Command{{gio, QStringLiteral("launch"), path}, true};
+        return StartCommand{{gio, QStringLiteral("launch"), path}, true};
     }
     const QFileInfo program(file.isDir() ? QDir(path).filePath(QStringLiteral("AppRun")) : path);
     if (!program.isFile() || !program.isExecutable()) {
         return Error{QStringLiteral("%1 is not an application, or is not executable").arg(path)};
     }
-    return Command{{program.filePath()}};
+    return StartCommand{{program.filePath()}};
 }
 
 /** Starts it for a user without a service manager. @param owner lives as long as failed can be
  * called */
-void startWithoutManager(QObject* owner, const Command& command, const QString& path,
+void startWithoutManager(QObject* owner, const StartCommand& command, const QString& path,
     const std::function<void(const QString&)>& failed)
 {
     const QString program = command.words.front();
@@ -213,7 +213,7 @@ void Launcher::launch(
         return;
     }
     last.start();
-    const Result<Command> command = commandFor(path);
+    const Result<StartCommand> command = commandFor(path);
     if (!command) {
         failed(command.error().text);
         return;
