@@ -76,7 +76,8 @@ TabletController::TabletController(
         }
         if (mOpen != nullptr) {
             mOpen->relay.setActive(mSeat.isOurs());
-        } else if (!mSeat.isOurs()) {
+        }
+        if (mOpen == nullptr && !mSeat.isOurs()) {
             mSeat.letSleep();
         }
         Q_EMIT changed();
@@ -249,6 +250,9 @@ Result<> TabletController::prepare(const Tablet& tablet, const TabletNodes& node
 void TabletController::close()
 {
     mOpen.reset();
+    if (!mSeat.isOurs()) {
+        mSeat.letSleep(); // the input thread's word may not have been read
+    }
     mIsBusy = false;
     for (ushort slot = 0; mDown != 0; ++slot, mDown >>= 1U) {
         if ((mDown & 1U) != 0) {

@@ -186,6 +186,12 @@ void startWithoutManager(QObject* owner, const StartCommand& command, const QStr
                 failed(QStringLiteral("%1 could not be started").arg(path));
             }
         });
+    QObject::connect(process, &QProcess::errorOccurred, owner, [=](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) { // no other signal follows
+            process->deleteLater();
+            failed(QStringLiteral("%1 could not be started").arg(path));
+        }
+    });
     process->start(program, arguments);
 }
 
