@@ -12,8 +12,11 @@
 
 namespace {
 
-/** How long a device that has just appeared may take to bring its other nodes. */
-constexpr std::chrono::milliseconds kSettle{100};
+/**
+ * How long a device that has just appeared may take to bring its other nodes. The file of a tablet
+ * whose keys come later is made without them.
+ */
+constexpr std::chrono::milliseconds kSettle{250};
 
 using Device = std::unique_ptr<udev_device, decltype(&udev_device_unref)>;
 

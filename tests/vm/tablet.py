@@ -142,11 +142,11 @@ class Tablet:
         self.x_max, self.y_max = x_max, y_max
         self.id = ":".join((f"{vendor:04x}", f"{product:04x}", *([serial] if serial else ())))
         self.keys_count = KEYS if has_pad else 0
+        # The pad first: here, udev may take longer for it than the driver waits after the pen.
+        pads = [Device(f"{name} Pad", f"{place}/input1", serial, vendor, product, pad_descriptor())
+                for _ in range(has_pad)]
         self.devices = [Device(name, f"{place}/input0", serial, vendor, product,
-                               pen_descriptor(x_max, y_max, width, height))]
-        if has_pad:
-            self.devices.append(
-                Device(f"{name} Pad", f"{place}/input1", serial, vendor, product, pad_descriptor()))
+                               pen_descriptor(x_max, y_max, width, height)), *pads]
         self.down = self.at_strip = self.at_ring = 0
 
     def pen(self, x, y, pressure=0, buttons=0, *, tilt=(0, 0), distance=0, serial=0, eraser=False):
