@@ -77,7 +77,7 @@ TabletController::TabletController(
         if (mOpen != nullptr) {
             mOpen->relay.setActive(mSeat.isOurs());
         }
-        if (mOpen == nullptr && !mSeat.isOurs()) {
+        if (mOpen == nullptr) {
             mSeat.letSleep();
         }
         Q_EMIT changed();
@@ -250,9 +250,7 @@ Result<> TabletController::prepare(const Tablet& tablet, const TabletNodes& node
 void TabletController::close()
 {
     mOpen.reset();
-    if (!mSeat.isOurs()) {
-        mSeat.letSleep(); // the input thread's word may not have been read
-    }
+    mSeat.letSleep(); // the input thread's word may not have been read
     mIsBusy = false;
     for (ushort slot = 0; mDown != 0; ++slot, mDown >>= 1U) {
         if ((mDown & 1U) != 0) {
@@ -305,9 +303,7 @@ void TabletController::obey(const RelayNote& note)
         }
         break;
     case RelayNote::Kind::Released:
-        if (!mSeat.isOurs()) {
-            mSeat.letSleep();
-        }
+        mSeat.letSleep();
         break;
     case RelayNote::Kind::Busy:
         mIsBusy = true;

@@ -24,8 +24,16 @@ public:
     /** Whether the tablet is this session's; not before logind has answered. */
     bool isOurs() const { return mIsKnown && mIsActive && !mIsLocked && !mIsAsleep; }
 
-    /** Tells that whatever the tablet had pressed is let go, so that the machine may sleep. */
-    void letSleep() { mSleepDelay = {}; }
+    /**
+     * Tells that whatever the tablet had pressed is let go, so that the machine may sleep. While
+     * the session is ours, this does nothing: more can be pressed.
+     */
+    void letSleep()
+    {
+        if (!isOurs()) {
+            mSleepDelay = {};
+        }
+    }
 
 Q_SIGNALS:
     void changed();
