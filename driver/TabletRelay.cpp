@@ -172,7 +172,7 @@ void TabletRelay::takePen(const PenFrame& frame)
     }
     mCommands.clear();
     const PenPipeline::Result result = mPen.next(frame, mSettings.take(), mButtons, mCommands);
-    if (!mPenWriter.write(result.pen)) {
+    if ((result.lift && !mPenWriter.write(*result.lift)) || !mPenWriter.write(result.pen)) {
         end(RelayNote::Kind::Failed, errno);
         return;
     }

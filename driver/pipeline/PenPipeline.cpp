@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -23,6 +24,19 @@ double partOf(double value, double from, double to)
 double between(double from, double to, double part)
 {
     return from + (to - from) * part;
+}
+
+/**
+ * The unit of an axis that lies at a part of it, between two others. A desktop spreads max + 1
+ * units evenly over its pixels; the pen must not appear beyond an edge, where another display may
+ * be.
+ */
+std::int32_t unitAt(double part, double from, double to, std::int32_t max)
+{
+    const double count = max + 1.0;
+    const double first = std::ceil(from * count);
+    const double last = std::max(first, std::ceil(to * count) - 1);
+    return static_cast<std::int32_t>(std::clamp(std::floor(part * count), first, last));
 }
 
 /** The buttons of the virtual pen that toolkits take for those of a mouse. */
@@ -82,6 +96,7 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
         between(range.left, range.right, place.x), between(range.top, range.bottom, place.y)};
     if (!isNear || settings.isCalibrating || buttons.isPaused()) {
         mAnchor.reset();
+        mIsLifted = false;
         mLast = gone;
         std::optional<QVPenReport> report;
         if (settings.isCalibrating && isNear) {
@@ -94,17 +109,38 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
             report = QVPenReport{0, mTouching->x, mTouching->y, 0};
         }
         mTouching = report && report->key != 0 ? report : std::nullopt;
-        return {gone, report};
+        return {gone, report, std::nullopt};
     }
     mTouching.reset();
+
+    // A stroke must not run across the desktop when a part of it takes the place of another.
+    std::optional<PenFrame> lift;
+    const bool hasMoved = settings.target != mTarget || settings.desktopTurns != mDesktopTurns;
+    if (hasMoved && mLast.isTouching) {
+        lift = mLast;
+        lift->time = frame.time;
+        lift->isTouching = false;
+        lift->pressure = 0;
+        mIsLifted = true;
+    }
+    mTarget = settings.target;
+    mDesktopTurns = settings.desktopTurns;
 
     const TabletRect& area = settings.area;
     const Point target =
         fine({partOf(units.x, area.left, area.right), partOf(units.y, area.top, area.bottom)},
             buttons.isFine());
     PenFrame pen = frame;
-    pen.x = rounded(between(settings.target.left, settings.target.right, target.x) * mVirtual.xMax);
-    pen.y = rounded(between(settings.target.top, settings.target.bottom, target.y) * mVirtual.yMax);
+    const TabletRect& goal = settings.target;
+    double x = between(goal.left, goal.right, target.x);
+    double y = between(goal.top, goal.bottom, target.y);
+    TabletRect edges = goal;
+    for (int turn = 0; turn < settings.desktopTurns; ++turn) {
+        x = std::exchange(y, 1 - x); // a quarter turn back
+        edges = {edges.top, 1 - edges.right, edges.bottom, 1 - edges.left};
+    }
+    pen.x = unitAt(x, edges.left, edges.right, mVirtual.xMax);
+    pen.y = unitAt(y, edges.top, edges.bottom, mVirtual.yMax);
     pen.buttons = buttonsOf(buttons);
     // Some pens tell a little pressure before they touch, which would draw.
     if (mTablet.pressureMax > 0 && frame.isTouching && frame.pressure > 0) {
@@ -121,6 +157,11 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
         pen.isTouching = true;
         pen.pressure = mVirtual.pressureMax;
     }
+    mIsLifted = mIsLifted && pen.isTouching;
+    if (mIsLifted) {
+        pen.isTouching = false;
+        pen.pressure = 0;
+    }
     if (settings.isTurned) {
         pen.tiltX = -frame.tiltX;
         pen.tiltY = -frame.tiltY;
@@ -129,7 +170,7 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
         }
     }
     mLast = pen;
-    return {pen, std::nullopt};
+    return {pen, std::nullopt, lift};
 }
 
 PenPipeline::Point PenPipeline::fine(const Point& place, bool isFine)

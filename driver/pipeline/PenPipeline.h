@@ -27,6 +27,8 @@ public:
     struct Result {
         PenFrame pen; ///< of the virtual pen
         std::optional<QVPenReport> report; ///< for the panel that calibrates
+        /** Comes before the pen: it leaves the surface where it is, since its place will jump. */
+        std::optional<PenFrame> lift;
     };
 
     /**
@@ -51,6 +53,9 @@ private:
     PenAxes mTablet;
     PenAxes mVirtual;
     PenFrame mLast{}; ///< of the virtual pen
+    TabletRect mTarget; ///< of the last settings
+    int mDesktopTurns = 0; ///< likewise
+    bool mIsLifted = false; ///< until the tip is up, although it touches
     /** Where the pen was when fine positioning began. */
     std::optional<Point> mAnchor;
     /** The last report of the calibration, if the tip was on the surface. */

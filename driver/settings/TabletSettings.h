@@ -37,6 +37,8 @@ struct TabletSettings {
     TabletRect area{0, 0, 1, 1}; ///< its part in use, in tablet units of the turned tablet
     /** The part of the virtual pen's range that the area covers, each side from 0 to 1. */
     TabletRect target{0, 0, 1, 1};
+    /** Quarter turns clockwise that the desktop gives the range, and that are undone before. */
+    int desktopTurns = 0;
     bool isTurned = false; ///< by 180 degrees
     bool isCalibrating = false; ///< the pen moves nothing; raw reports go to the panel
     double curve = 0; ///< of the pressure: -1 (light) to 1 (heavy), 0 is the straight line

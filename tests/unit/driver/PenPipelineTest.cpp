@@ -8,6 +8,7 @@
 
 #include <limits>
 #include <random>
+#include <utility>
 
 namespace {
 
@@ -90,9 +91,85 @@ TEST_F(PenPipelineTest, aPartOfTheTabletCoversAllAndIsClampedAtItsEdges)
 TEST_F(PenPipelineTest, theAreaLandsInItsTarget)
 {
     settings.target = {0.5, 0, 1, 0.5};
-    EXPECT_EQ(next(at(0, 0)).pen.x, 80000);
+    EXPECT_EQ(next(at(0, 0)).pen.x, 80001); // unit 80000 begins before the middle
     EXPECT_EQ(next(at(40000, 20000)).pen.x, 160000);
     EXPECT_EQ(next(at(40000, 20000)).pen.y, 40000);
+}
+
+TEST_F(PenPipelineTest, thePenStaysOnItsSideOfTheEdgesOfItsTarget)
+{
+    // Two displays of 1000 points side by side; the second one begins at point 1000.
+    const auto pointAt = [&](std::int32_t x) {
+        return 2000.0 * next(at(x, 0)).pen.x / (kVirtual.xMax + 1);
+    };
+    settings.target = {0, 0, 0.5, 1};
+    EXPECT_EQ(pointAt(0), 0);
+    EXPECT_LT(pointAt(40000), 1000);
+    EXPECT_NEAR(pointAt(40000), 1000, 0.02);
+    settings.target = {0.5, 0, 1, 1};
+    EXPECT_GE(pointAt(0), 1000);
+    EXPECT_NEAR(pointAt(0), 1000, 0.02);
+    EXPECT_LT(pointAt(40000), 2000);
+}
+
+TEST_F(PenPipelineTest, theTurnsOfTheDesktopAreUndoneLast)
+{
+    settings.target = {0, 0, 0.5, 1};
+    const auto place = [&](int turns) {
+        settings.desktopTurns = turns;
+        const PenFrame pen = next(at(40000, 5000)).pen;
+        return std::pair(pen.x, pen.y);
+    };
+    EXPECT_EQ(place(0), std::pair(80000, 20000));
+    EXPECT_EQ(place(1), std::pair(40000, 40001));
+    EXPECT_EQ(place(2), std::pair(80001, 60000));
+    EXPECT_EQ(place(3), std::pair(120000, 40000));
+}
+
+TEST_F(PenPipelineTest, aStrokeEndsWhereItIsWhenItsTargetMoves)
+{
+    settings.target = {0, 0, 0.5, 1};
+    const PenFrame before = next(pressed(4000)).pen;
+    EXPECT_TRUE(before.isTouching);
+    settings.target = {0.5, 0, 1, 1};
+    PenFrame frame = pressed(4000);
+    frame.time = std::chrono::microseconds(7);
+    const PenPipeline::Result moved = next(frame);
+    ASSERT_TRUE(moved.lift);
+    EXPECT_EQ(std::pair(moved.lift->x, moved.lift->y), std::pair(before.x, before.y));
+    EXPECT_EQ(moved.lift->tool, PenTool::Tip);
+    EXPECT_FALSE(moved.lift->isTouching);
+    EXPECT_EQ(moved.lift->pressure, 0);
+    EXPECT_EQ(moved.lift->time, frame.time);
+    EXPECT_EQ(moved.pen.x, before.x + 80000);
+    EXPECT_FALSE(moved.pen.isTouching) << "the tip has not been lifted yet";
+    EXPECT_EQ(moved.pen.pressure, 0);
+    EXPECT_FALSE(next(pressed(5000)).pen.isTouching);
+    EXPECT_FALSE(next(pressed(5000)).lift) << "once is enough";
+    EXPECT_FALSE(next(at(100, 100)).pen.isTouching);
+    EXPECT_TRUE(next(pressed(4000)).pen.isTouching);
+}
+
+TEST_F(PenPipelineTest, aPenThatDoesNotTouchNeedsNoLift)
+{
+    next(at(100, 100));
+    settings.target = {0.5, 0, 1, 1};
+    EXPECT_FALSE(next(pressed(4000)).lift);
+    EXPECT_TRUE(next(pressed(4000)).pen.isTouching);
+    settings.target = {0, 0, 0.5, 1};
+    EXPECT_FALSE(next(PenFrame()).lift) << "it leaves anyway";
+    EXPECT_TRUE(next(pressed(4000)).pen.isTouching);
+}
+
+TEST_F(PenPipelineTest, theLeftButtonOnThePenIsLiftedAsTheTipIs)
+{
+    assign(kQVLowerPenSlot, kQVMouseButton, kQVLeftButton);
+    EXPECT_TRUE(next(holding(kPenLower)).pen.isTouching);
+    settings.target = {0.5, 0, 1, 1};
+    EXPECT_TRUE(next(holding(kPenLower)).lift);
+    EXPECT_FALSE(next(holding(kPenLower)).pen.isTouching);
+    EXPECT_FALSE(next(at(100, 100)).pen.isTouching);
+    EXPECT_TRUE(next(holding(kPenLower)).pen.isTouching);
 }
 
 TEST_F(PenPipelineTest, rotationTurnsPlaceTiltAndTwist)

@@ -147,6 +147,24 @@ TEST_F(TabletRelayTest, aStrokeArrivesInOrderAndComplete)
     EXPECT_EQ(gone.at({EV_ABS, ABS_PRESSURE}), 0);
 }
 
+TEST_F(TabletRelayTest, aPenThatRestsIsLiftedWhereItIsBeforeItsTargetMoves)
+{
+    start();
+    sendPen(4000, 500);
+    frameOf(virtualPen);
+    settings.target = {0.5, 0, 1, 1};
+    exchange->publish(settings);
+    relay->wake();
+    const Frame lifted = frameOf(virtualPen);
+    EXPECT_EQ(lifted.at({EV_KEY, BTN_TOUCH}), 0);
+    EXPECT_EQ(lifted.at({EV_ABS, ABS_PRESSURE}), 0);
+    EXPECT_FALSE(lifted.contains({EV_ABS, ABS_X}));
+    const Frame moved = frameOf(virtualPen);
+    EXPECT_EQ(moved.at({EV_ABS, ABS_X}), 7000);
+    EXPECT_FALSE(moved.contains({EV_KEY, BTN_TOUCH}));
+    EXPECT_FALSE(moved.contains({EV_KEY, BTN_TOOL_PEN}));
+}
+
 TEST_F(TabletRelayTest, theOtherEndOfThePenComesAfterTheFirstHasLeft)
 {
     start();
@@ -382,13 +400,13 @@ TEST_F(TabletRelayTest, unpluggingInAStrokeReleasesEverything)
 
 TEST_F(TabletRelayTest, settingsAreTakenAsAWholeBetweenFrames)
 {
-    // The target lies where the curve says, so that a mixture of two versions would show.
+    // The area is as large as the curve says, so that a mixture of two versions would show.
     settings.curve = 0;
-    settings.target = {0, 0, 0.25, 1};
+    settings.area.right *= 2;
     start();
     TabletSettings other = settings;
     other.curve = 1;
-    other.target = {0.5, 0, 1, 1};
+    other.area = settings.range;
     std::atomic<bool> isEnough{false};
     std::thread storm([&] {
         for (bool isOther = false; !isEnough; isOther = !isOther) {
