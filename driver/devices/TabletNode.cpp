@@ -67,7 +67,6 @@ std::optional<PenDescription> describePen(const libevdev& node)
     pen.hasTool = hasKey(node, BTN_TOOL_PEN);
     pen.hasEraser = hasKey(node, BTN_TOOL_RUBBER);
     pen.hasSerial = libevdev_has_event_code(&node, EV_MSC, MSC_SERIAL) != 0;
-    pen.isDirect = libevdev_has_property(&node, INPUT_PROP_DIRECT) != 0;
     return pen;
 }
 

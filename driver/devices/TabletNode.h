@@ -44,7 +44,6 @@ struct PenDescription {
     bool hasTool = false; ///< the pen says when it comes into reach
     bool hasEraser = false;
     bool hasSerial = false;
-    bool isDirect = false; ///< there is a display under the surface
 
     /** The ranges for the pipeline. */
     PenAxes axes() const;

@@ -6,7 +6,7 @@
 #include "QVTabletModels.h"
 #include "hid_usb_2_adb_keymap_char.h"
 
-#include <QString>
+#include <QFileInfo>
 
 #include <array>
 #include <utility>
@@ -16,7 +16,7 @@ using platform::Result;
 
 namespace {
 
-/** Of a device that this program makes; the quirks file of the package names the pen, too. */
+/** Of a device that this program makes. */
 constexpr int kVersion = 1;
 constexpr int kPenProduct = 0x0001;
 constexpr int kKeyboardProduct = 0x0002;
@@ -24,6 +24,9 @@ constexpr int kPointerProduct = 0x0003;
 
 /** A tablet that does not tell its size is taken for one of this many units per millimetre. */
 constexpr std::int32_t kUsualResolution = 100;
+
+/** The virtual pen claims a size that is this part of the tablet's. */
+constexpr std::int32_t kSmallness = 8;
 
 NodeState newDevice(const char* name, int product)
 {
@@ -53,15 +56,12 @@ void addKey(libevdev& device, unsigned code)
 
 NodeState describe(const PenDescription& tablet)
 {
-    NodeState pen = newDevice("Quorvia Virtual Pen", kPenProduct);
+    NodeState pen = newDevice(kVirtualPenName, kPenProduct);
     libevdev& device = *pen;
     const PenAxes axes = virtualAxes(tablet);
-    const auto resolution = [](const Axis& axis) {
-        return kVirtualUnits * (axis.resolution > 0 ? axis.resolution : kUsualResolution);
-    };
     // Without a resolution, libinput ignores the device.
-    addAxis(device, ABS_X, 0, axes.xMax, resolution(tablet.x));
-    addAxis(device, ABS_Y, 0, axes.yMax, resolution(tablet.y));
+    addAxis(device, ABS_X, 0, axes.xMax, claimedResolution(tablet.x));
+    addAxis(device, ABS_Y, 0, axes.yMax, claimedResolution(tablet.y));
     if (axes.pressureMax > 0) {
         addAxis(device, ABS_PRESSURE, 0, axes.pressureMax, 0);
     }
@@ -88,7 +88,8 @@ NodeState describe(const PenDescription& tablet)
     }
     libevdev_enable_event_code(&device, EV_MSC, MSC_SERIAL, nullptr);
     libevdev_enable_event_code(&device, EV_MSC, MSC_TIMESTAMP, nullptr);
-    libevdev_enable_property(&device, tablet.isDirect ? INPUT_PROP_DIRECT : INPUT_PROP_POINTER);
+    // Also for a tablet with a display: desktops map a direct pen to a display of their choice.
+    libevdev_enable_property(&device, INPUT_PROP_POINTER);
     return pen;
 }
 
@@ -140,11 +141,22 @@ PenAxes virtualAxes(const PenDescription& tablet)
     return axes;
 }
 
+std::int32_t claimedResolution(const Axis& tablet)
+{
+    return kVirtualUnits * kSmallness
+        * (tablet.resolution > 0 ? tablet.resolution : kUsualResolution);
+}
+
 VirtualDevices::VirtualDevices(VirtualDevice pen, VirtualDevice keyboard, VirtualDevice pointer)
     : mPen(std::move(pen))
     , mKeyboard(std::move(keyboard))
     , mPointer(std::move(pointer))
 {
+}
+
+QString VirtualDevices::penNode() const
+{
+    return QFileInfo(QFile::decodeName(libevdev_uinput_get_devnode(mPen.get()))).fileName();
 }
 
 Result<VirtualDevices> VirtualDevices::create(const PenDescription& tablet)

@@ -6,6 +6,8 @@
 #include "Result.h"
 #include "TabletNode.h"
 
+#include <QString>
+
 #include <libevdev/libevdev-uinput.h>
 #include <memory>
 
@@ -16,8 +18,17 @@ using VirtualDevice = std::unique_ptr<libevdev_uinput, decltype(&libevdev_uinput
  * the tablet is mapped to then still has all of its steps. */
 inline constexpr std::int32_t kVirtualUnits = 4;
 
+/** The name of every virtual pen, as the desktop shows it; the package's quirks name it, too. */
+inline constexpr const char* kVirtualPenName = "Quorvia Virtual Pen";
+
 /** The ranges of the virtual pen of a tablet. */
 PenAxes virtualAxes(const PenDescription& tablet);
+
+/**
+ * The units per millimetre that the virtual pen claims for an axis. Some desktops map a pen whose
+ * size is that of a monitor to that monitor; so it claims to be smaller than any.
+ */
+std::int32_t claimedResolution(const Axis& tablet);
 
 /**
  * The devices that stand for a tablet: a pen, a keyboard, and a pointer with buttons and a wheel.
@@ -27,6 +38,9 @@ class VirtualDevices {
 public:
     /** Creates them. Needs access to /dev/uinput. */
     static platform::Result<VirtualDevices> create(const PenDescription& tablet);
+
+    /** The name of the pen's event node, such as "event7"; empty if that is not known. */
+    QString penNode() const;
 
     int pen() const { return libevdev_uinput_get_fd(mPen.get()); }
     int keyboard() const { return libevdev_uinput_get_fd(mKeyboard.get()); }

@@ -225,8 +225,8 @@ class ThePen(guest.TestCase):
                  for _, rest in told]
         self.assertEqual((words[0], sorted(words[1:3]), sorted(words[3:5]), words[5:]),
                          ("proximity-in", ["down", "pressed"], ["released", "up"], ["proximity-out"]))
-        # In millimetres of the tablet, all of it.
-        self.assertRegex(events[0][1], r"\b100\.00\*?/75\.00")
+        # In millimetres, of a pen that claims to be an eighth of the tablet.
+        self.assertRegex(events[0][1], r"\b12\.50\*?/9\.38")
 
     def test_touches_for_libinput_with_its_lightest_stroke(self):
         self.push(PressureThreshold=200)
