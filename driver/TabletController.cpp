@@ -5,6 +5,8 @@
 #include "Pipe.h"
 #include "TabletNodes.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <array>
 #include <fcntl.h>
@@ -62,6 +64,8 @@ TabletController::TabletController(
     : mDriver(driver)
     , mSeat(system)
     , mLauncher(session)
+    , mDisplays(session, QCoreApplication::applicationFilePath())
+    , mKWin(session)
 {
     const auto tryAgain = [this] {
         if (mTablet && mOpen == nullptr) {
@@ -82,6 +86,11 @@ TabletController::TabletController(
         }
         Q_EMIT changed();
     });
+    connect(&mDisplays, &DisplayWatcher::changed, this, [this] {
+        mKWin.setDesktop(mDisplays.desktop());
+        publish();
+    });
+    connect(&mKWin, &KWinMapping::changed, this, &TabletController::publish);
     connect(&driver, &Driver::settingsChanged, this, &TabletController::publish);
     connect(&driver, &Driver::calibratingChanged, this, &TabletController::publish);
     choose();
@@ -192,6 +201,9 @@ void TabletController::choose()
         mTablet = tablet;
         mDriver.detach();
     }
+    if (!tablet) {
+        mDisplays.stop(); // nobody asks for them
+    }
     QString problem;
     if (tablet) {
         if (const Result<> attached = attach(*tablet); !attached) {
@@ -220,6 +232,8 @@ Result<> TabletController::attach(const Tablet& tablet)
     connect(&mOpen->notifier, &QSocketNotifier::activated, this, &TabletController::readNotes);
     mOpen->relay.setActive(mSeat.isOurs());
     mOpen->thread = std::thread([relay = &mOpen->relay] { relay->run(); });
+    mKWin.setPen(mOpen->devices.penNode());
+    mDisplays.start();
     return {};
 }
 
@@ -251,6 +265,7 @@ void TabletController::close()
 {
     mOpen.reset();
     mSeat.letSleep(); // the input thread's word may not have been read
+    mKWin.setPen({});
     mIsBusy = false;
     for (ushort slot = 0; mDown != 0; ++slot, mDown >>= 1U) {
         if ((mDown & 1U) != 0) {
@@ -332,7 +347,10 @@ TabletSettings TabletController::settings() const
     const tagQVTabletInfo& record = mDriver.settings();
     const tagQVTabletInfoMonitior& monitor = record.Monitor;
     const QRectF area(monitor.XOrg, monitor.YOrg, monitor.Width, monitor.Height);
-    return decodeSettings(record, targetOf(area, mMapping.covered()), mDriver.isCalibrating());
+    TabletSettings settings = decodeSettings(
+        record, targetOf(area, boundsOf(mDisplays.desktop())), mDriver.isCalibrating());
+    settings.desktopTurns = mKWin.turns();
+    return settings;
 }
 
 void TabletController::publish()

@@ -2,9 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "DisplayWatcher.h"
 #include "Driver.h"
+#include "KWinMapping.h"
 #include "Launcher.h"
-#include "Mapping.h"
 #include "Result.h"
 #include "SeatSession.h"
 #include "SettingsExchange.h"
@@ -92,7 +93,8 @@ private:
     TabletMonitor mMonitor;
     SeatSession mSeat;
     Launcher mLauncher;
-    WholeDesktop mMapping;
+    DisplayWatcher mDisplays;
+    KWinMapping mKWin;
     std::optional<Tablet> mTablet;
     std::unique_ptr<Open> mOpen;
     QString mProblem;

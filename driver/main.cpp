@@ -3,6 +3,7 @@
 #include "AppleEventWire.h"
 #include "Bundle.h"
 #include "DBusAppleEvents.h"
+#include "DisplayReport.h"
 #include "Driver.h"
 #include "QVDriverProtocol.h"
 #include "QVTabletList.h"
@@ -154,6 +155,10 @@ platform::Result<std::optional<std::uint16_t>> modelOf(const QStringList& words)
 
 int main(int argc, char* argv[])
 {
+    // The driver starts itself so, to watch the displays from a process of its own.
+    if (argc == 2 && std::string_view(argv[1]) == "--displays") {
+        return reportDisplays(argc, argv);
+    }
     const bool hasWindow = wantsWindow({argv + 1, argv + std::max(argc, 1)});
     const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, hasWindow);
     QCoreApplication::setApplicationName(QStringLiteral("tdsg-driver"));

@@ -2,27 +2,99 @@
 // SPDX-License-Identifier: MIT
 #include "Mapping.h"
 
-#include "Displays.h"
-
-#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <algorithm>
-#include <vector>
+#include <cmath>
 
-QRectF WholeDesktop::covered() const
+namespace {
+
+constexpr QLatin1String kName("name");
+constexpr QLatin1String kX("x");
+constexpr QLatin1String kY("y");
+constexpr QLatin1String kWidth("width");
+constexpr QLatin1String kHeight("height");
+constexpr QLatin1String kTurns("turns");
+
+/** Far more than a desktop has. */
+constexpr int kMaxDisplays = 64;
+constexpr double kMaxPoints = 1'000'000;
+
+/** The record has whole points. */
+bool isAbout(const QRectF& area, const QRectF& bounds)
+{
+    const auto isNear = [](double a, double b) { return std::abs(a - b) <= 1; };
+    return isNear(area.left(), bounds.left()) && isNear(area.top(), bounds.top())
+        && isNear(area.width(), bounds.width()) && isNear(area.height(), bounds.height());
+}
+
+std::optional<DesktopDisplay> displayFrom(const QJsonObject& object)
+{
+    const auto number = [&](QLatin1String key) {
+        const double value = object.value(key).toDouble(2 * kMaxPoints);
+        return std::abs(value) <= kMaxPoints ? std::optional(value) : std::nullopt;
+    };
+    const auto x = number(kX);
+    const auto y = number(kY);
+    const auto width = number(kWidth);
+    const auto height = number(kHeight);
+    const int turns = object.value(kTurns).toInt(-1);
+    if (!x || !y || !width || *width <= 0 || !height || *height <= 0 || turns < 0 || turns > 3) {
+        return std::nullopt;
+    }
+    return DesktopDisplay{object.value(kName).toString(), {*x, *y, *width, *height}, turns};
+}
+
+} // namespace
+
+QRectF boundsOf(const Desktop& desktop)
 {
     QRectF all;
-    // A driver that runs without a desktop knows no displays.
-    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) == nullptr) {
-        return all;
-    }
-    const platform::Displays& displays = platform::displays();
-    for (const platform::DisplayID display :
-        displays.activeDisplays().value_or(std::vector<platform::DisplayID>())) {
-        const platform::Rect bounds = displays.bounds(display);
-        all |= QRectF(bounds.x, bounds.y, bounds.width, bounds.height);
+    for (const DesktopDisplay& display : desktop) {
+        all |= display.bounds;
     }
     return all;
+}
+
+std::optional<std::size_t> displayAfter(const Desktop& desktop, const QRectF& area)
+{
+    if (desktop.empty()) {
+        return std::nullopt;
+    }
+    const auto covered = std::ranges::find_if(
+        desktop, [&](const DesktopDisplay& display) { return isAbout(area, display.bounds); });
+    return covered == desktop.end()
+        ? 0
+        : static_cast<std::size_t>(covered - desktop.begin() + 1) % desktop.size();
+}
+
+QByteArray toLine(const Desktop& desktop)
+{
+    QJsonArray displays;
+    for (const auto& [name, bounds, turns] : desktop) {
+        displays.append(QJsonObject{{kName, name}, {kX, bounds.x()}, {kY, bounds.y()},
+            {kWidth, bounds.width()}, {kHeight, bounds.height()}, {kTurns, turns}});
+    }
+    return QJsonDocument(displays).toJson(QJsonDocument::Compact) + '\n';
+}
+
+std::optional<Desktop> desktopFrom(const QByteArray& line)
+{
+    const QJsonArray displays = QJsonDocument::fromJson(line).array();
+    if (displays.isEmpty() || displays.size() > kMaxDisplays) {
+        return std::nullopt;
+    }
+    Desktop desktop;
+    for (const QJsonValue display : displays) {
+        const std::optional<DesktopDisplay> read = displayFrom(display.toObject());
+        if (!read) {
+            return std::nullopt;
+        }
+        desktop.push_back(*read);
+    }
+    return desktop;
 }
 
 TabletRect targetOf(const QRectF& area, const QRectF& covered)

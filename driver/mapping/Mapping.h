@@ -4,31 +4,53 @@
 
 #include "TabletSettings.h"
 
+#include <QByteArray>
 #include <QRectF>
+#include <QString>
 
-/** Says which part of the desktop the whole range of the virtual pen covers. */
-class Mapping {
-public:
-    virtual ~Mapping() = default;
+#include <cstddef>
+#include <optional>
+#include <vector>
 
-    /**
-     * The rectangle that it covers, in points from the upper left corner of the main display; empty
-     * if that is not known.
-     */
-    virtual QRectF covered() const = 0;
+/**
+ * @file
+ * Where the virtual pen points. Every desktop has its whole range cover all displays together,
+ * either by itself or because it is told to; which part of that the tablet reaches is computed here
+ * and nowhere else, so that nothing is scaled twice. All rectangles are in points from the upper
+ * left corner of the main display.
+ */
+
+/** A display, as the panel sees it. */
+struct DesktopDisplay {
+    QString name; ///< of its connector, such as "DP-1"
+    QRectF bounds;
+    int turns = 0; ///< quarter turns by which the desktop has rotated it
+
+    bool operator==(const DesktopDisplay&) const = default;
 };
 
-/** As desktops do that are told nothing: the virtual pen covers all displays together. */
-class WholeDesktop final : public Mapping {
-public:
-    QRectF covered() const override;
-};
+/** All displays, in the order in which the panel lists them; none if they are not known. */
+using Desktop = std::vector<DesktopDisplay>;
+
+/** The rectangle around all displays; empty without any. */
+QRectF boundsOf(const Desktop& desktop);
+
+/**
+ * The display after the one that an area covers, and after the last one the first; also the first
+ * for an area that is not one display's. Nothing without displays.
+ */
+std::optional<std::size_t> displayAfter(const Desktop& desktop, const QRectF& area);
+
+/** A line that describes the displays, with its end. */
+QByteArray toLine(const Desktop& desktop);
+
+/** Reads such a line; nothing if it is no description of at least one display. */
+std::optional<Desktop> desktopFrom(const QByteArray& line);
 
 /**
  * The part of the virtual pen's range that points at an area of the desktop, each side from 0 to 1.
  * Without a known desktop, all of it.
  *
- * @param area in points from the upper left corner of the main display
  * @param covered what the whole range covers
  */
 TabletRect targetOf(const QRectF& area, const QRectF& covered);

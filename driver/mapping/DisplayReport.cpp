@@ -1,0 +1,109 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "DisplayReport.h"
+
+#include "Displays.h"
+#include "Mapping.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSocketNotifier>
+#include <QTimer>
+
+#include <array>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <unistd.h>
+
+namespace {
+
+/** While displays change, so that the pen follows before all have settled. */
+constexpr std::chrono::milliseconds kInterval{50};
+
+int turnsOf(const QScreen& screen)
+{
+    switch (screen.orientation()) {
+    case Qt::PortraitOrientation:
+        return 1;
+    case Qt::InvertedLandscapeOrientation:
+        return 2;
+    case Qt::InvertedPortraitOrientation:
+        return 3;
+    default:
+        return 0;
+    }
+}
+
+Desktop desktopNow()
+{
+    Desktop desktop;
+    const QList<QScreen*> screens = QGuiApplication::screens();
+    for (const QScreen* const screen : screens) {
+        const platform::Rect bounds = platform::screenBounds(*screen);
+        // With all displays off, Qt makes up one without a size.
+        if (bounds.width > 0 && bounds.height > 0) {
+            desktop.push_back({screen->name(), {bounds.x, bounds.y, bounds.width, bounds.height},
+                turnsOf(*screen)});
+        }
+    }
+    return desktop;
+}
+
+/** Prints the displays if they are other ones than before. */
+class Reporter {
+public:
+    void report()
+    {
+        const Desktop desktop = desktopNow();
+        if (!desktop.empty() && desktop != mLast) {
+            mLast = desktop;
+            std::fputs(toLine(desktop).constData(), stdout);
+            std::fflush(stdout);
+        }
+    }
+
+private:
+    Desktop mLast;
+};
+
+/** Without a display, Qt calls abort(), which would look like a crash. */
+void endQuietly(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    static_cast<void>(context);
+    static_cast<void>(message);
+    if (type == QtFatalMsg) {
+        std::_Exit(EXIT_FAILURE);
+    }
+}
+
+} // namespace
+
+int reportDisplays(int argc, char** argv)
+{
+    qInstallMessageHandler(endQuietly);
+    QGuiApplication::setAttribute(Qt::AA_DisableSessionManager); // nothing to be restored
+    const QGuiApplication application(argc, argv);
+    Reporter reporter;
+    QTimer soon;
+    soon.setInterval(kInterval);
+    QObject::connect(&soon, &QTimer::timeout, [&] { reporter.report(); });
+    QObject::connect(&platform::displays(), &platform::Displays::reconfigured, &soon,
+        [&](platform::DisplayID /*display*/, std::uint32_t flags) {
+            if (flags == platform::kDisplayBeginConfiguration) {
+                soon.start();
+            } else {
+                soon.stop();
+                reporter.report();
+            }
+        });
+    QSocketNotifier input(STDIN_FILENO, QSocketNotifier::Read);
+    QObject::connect(&input, &QSocketNotifier::activated, [] {
+        std::array<char, 64> ignored{};
+        if (::read(STDIN_FILENO, ignored.data(), ignored.size()) <= 0) {
+            QCoreApplication::quit();
+        }
+    });
+    reporter.report();
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,160 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "DisplayWatcher.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QProcessEnvironment>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+constexpr std::chrono::milliseconds kFirstPause{250};
+constexpr std::chrono::milliseconds kLongestPause{8000};
+/** A process that has lived as long was all right. */
+constexpr std::chrono::milliseconds kLongLife{10000};
+constexpr int kAnswerTime = 2000; ///< milliseconds
+constexpr qint64 kMaxLine = 65536;
+
+/** Any of them leads to a desktop. */
+constexpr std::array kDisplayVariables{"WAYLAND_DISPLAY", "DISPLAY"};
+/** What Qt chooses its connection to the desktop by, besides. */
+constexpr std::array kOtherVariables{
+    "XAUTHORITY", "XDG_CURRENT_DESKTOP", "XDG_SESSION_TYPE", "QT_QPA_PLATFORM"};
+
+bool hasDisplay(const QProcessEnvironment& environment)
+{
+    return std::ranges::any_of(kDisplayVariables,
+        [&](const char* name) { return environment.contains(QLatin1String(name)); });
+}
+
+} // namespace
+
+DisplayWatcher::DisplayWatcher(QDBusConnection session, QString program, QObject* parent)
+    : QObject(parent)
+    , mBus(std::move(session))
+    , mProgram(std::move(program))
+{
+    mPause.setSingleShot(true);
+    mPause.setInterval(kFirstPause);
+    connect(&mPause, &QTimer::timeout, this, &DisplayWatcher::begin);
+}
+
+DisplayWatcher::~DisplayWatcher()
+{
+    stop();
+}
+
+void DisplayWatcher::start()
+{
+    if (!std::exchange(mIsWatching, true)) {
+        mPause.setInterval(kFirstPause);
+        begin();
+    }
+}
+
+void DisplayWatcher::stop()
+{
+    mIsWatching = false;
+    mPause.stop();
+    if (mProcess != nullptr) {
+        mProcess->disconnect(this);
+        mProcess->kill();
+        mProcess->waitForFinished();
+        mProcess.reset();
+    }
+    mDesktop.clear();
+}
+
+void DisplayWatcher::begin()
+{
+    if (!mBus.isConnected()) {
+        launch(std::nullopt);
+        return;
+    }
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.systemd1"),
+        QStringLiteral("/org/freedesktop/systemd1"),
+        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    call << QStringLiteral("org.freedesktop.systemd1.Manager") << QStringLiteral("Environment");
+    call.setAutoStartService(false);
+    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call, kAnswerTime), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+        answer->deleteLater();
+        const QDBusPendingReply<QDBusVariant> reply = *answer;
+        launch(
+            reply.isValid() ? std::optional(reply.value().variant().toStringList()) : std::nullopt);
+    });
+}
+
+void DisplayWatcher::launch(const std::optional<QStringList>& variables)
+{
+    if (!mIsWatching || mProcess != nullptr) {
+        return;
+    }
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    // A desktop that has been started again may have another name. A driver that was started by
+    // hand on a desktop of its own stays there.
+    if (variables && (!hasDisplay(environment) || mHasFailed)) {
+        const auto take = [&](const char* name) {
+            const QString begin = QLatin1String(name) + QLatin1Char('=');
+            const auto found = std::ranges::find_if(
+                *variables, [&](const QString& entry) { return entry.startsWith(begin); });
+            if (found != variables->end()) {
+                environment.insert(QLatin1String(name), found->mid(begin.size()));
+            }
+        };
+        std::ranges::for_each(kDisplayVariables, take);
+        std::ranges::for_each(kOtherVariables, take);
+    }
+    if (!hasDisplay(environment)) {
+        if (variables) {
+            tryAgainLater(); // there is no desktop as yet
+        }
+        return;
+    }
+    mProcess = std::make_unique<QProcess>();
+    mProcess->setProcessEnvironment(environment);
+    mProcess->setStandardErrorFile(QProcess::nullDevice());
+    connect(mProcess.get(), &QProcess::readyReadStandardOutput, this, &DisplayWatcher::read);
+    const auto hasEnded = [this] {
+        mHasFailed = true;
+        mProcess->disconnect(this);
+        mProcess.release()->deleteLater(); // the signal is its own
+        tryAgainLater();
+    };
+    connect(
+        mProcess.get(), qOverload<int, QProcess::ExitStatus>(&QProcess::finished), this, hasEnded);
+    connect(
+        mProcess.get(), &QProcess::errorOccurred, this, [hasEnded](QProcess::ProcessError error) {
+            if (error == QProcess::FailedToStart) {
+                hasEnded(); // no other signal follows
+            }
+        });
+    mSinceLaunch.start();
+    mProcess->start(mProgram, {QStringLiteral("--displays")});
+}
+
+void DisplayWatcher::read()
+{
+    while (mProcess->canReadLine()) {
+        std::optional<Desktop> desktop = desktopFrom(mProcess->readLine(kMaxLine));
+        if (desktop && *desktop != mDesktop) {
+            mDesktop = std::move(*desktop);
+            Q_EMIT changed();
+        }
+    }
+}
+
+void DisplayWatcher::tryAgainLater()
+{
+    if (mSinceLaunch.isValid() && mSinceLaunch.hasExpired(kLongLife.count())) {
+        mPause.setInterval(kFirstPause);
+    }
+    mPause.start();
+    mPause.setInterval(std::min(2 * mPause.intervalAsDuration(), kLongestPause));
+}

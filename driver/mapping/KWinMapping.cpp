@@ -1,0 +1,222 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "KWinMapping.h"
+
+#include "VirtualDevices.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
+#include <QDBusVariant>
+#include <QFile>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace {
+
+constexpr QLatin1String kKWin("org.kde.KWin");
+constexpr QLatin1String kManagerPath("/org/kde/KWin/InputDevice");
+constexpr QLatin1String kManager("org.kde.KWin.InputDeviceManager");
+constexpr QLatin1String kDevice("org.kde.KWin.InputDevice");
+constexpr QLatin1String kProperties("org.freedesktop.DBus.Properties");
+
+constexpr QLatin1String kMapToWorkspace("mapToWorkspace");
+constexpr QLatin1String kOutputName("outputName");
+constexpr QLatin1String kOutputArea("outputArea");
+
+constexpr int kAnswerTime = 5000; ///< milliseconds
+
+const QRectF kAll(0, 0, 1, 1);
+
+QDBusMessage propertiesCall(const QString& path, const char* method)
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(kKWin, path, kProperties, QLatin1String(method));
+    call << QString(kDevice);
+    call.setAutoStartService(false);
+    return call;
+}
+
+QRectF rectIn(const QVariant& value)
+{
+    return value.canConvert<QDBusArgument>() ? qdbus_cast<QRectF>(value) : value.toRectF();
+}
+
+bool isSame(const QVariant& present, const QVariant& wanted)
+{
+    if (wanted.userType() != QMetaType::QRectF) {
+        return present == wanted;
+    }
+    const QRectF a = rectIn(present);
+    const QRectF b = wanted.toRectF();
+    const auto isNear = [](double x, double y) { return std::abs(x - y) < 1e-7; };
+    return isNear(a.x(), b.x()) && isNear(a.y(), b.y()) && isNear(a.width(), b.width())
+        && isNear(a.height(), b.height());
+}
+
+/**
+ * All displays, in parts of one of them before the desktop has turned it: KWin turns a point of
+ * that display's plane clockwise by its quarter turns.
+ */
+QRectF areaOf(const QRectF& all, const DesktopDisplay& display)
+{
+    const QRectF& one = display.bounds;
+    const double left = (all.left() - one.left()) / one.width();
+    const double right = (one.right() - all.right()) / one.width();
+    const double top = (all.top() - one.top()) / one.height();
+    const double bottom = (one.bottom() - all.bottom()) / one.height();
+    // KWin cuts the products to whole pixels.
+    constexpr double kLittle = 1e-6;
+    const double width = all.width() / one.width() + kLittle;
+    const double height = all.height() / one.height() + kLittle;
+    switch (display.turns) {
+    case 1:
+        return {top, right, height, width};
+    case 2:
+        return {right, bottom, width, height};
+    case 3:
+        return {bottom, left, height, width};
+    default:
+        return {left, top, width, height};
+    }
+}
+
+} // namespace
+
+KWinSettings kwinSettings(const QVariantMap& present, const Desktop& desktop)
+{
+    KWinSettings settings;
+    // Only what this KWin has, and what is otherwise.
+    const auto want = [&](QLatin1String name, const QVariant& value) {
+        if (present.contains(name) && !isSame(present.value(name), value)) {
+            settings.changes.insert(name, value);
+        }
+    };
+    if (present.contains(kMapToWorkspace)) {
+        want(kMapToWorkspace, true);
+        want(kOutputArea, kAll);
+    } else if (!desktop.empty()) {
+        const auto upright = std::ranges::find(desktop, 0, &DesktopDisplay::turns);
+        const DesktopDisplay& display = upright == desktop.end() ? desktop.front() : *upright;
+        want(kOutputName, display.name);
+        want(kOutputArea, areaOf(boundsOf(desktop), display));
+        settings.turns = display.turns;
+    }
+    // The panel has settings for these, or none; twice would be wrong.
+    want(QLatin1String("leftHanded"), false);
+    want(QLatin1String("orientationDBus"), 0);
+    want(QLatin1String("inputArea"), kAll);
+    want(QLatin1String("pressureRangeMin"), 0.0);
+    want(QLatin1String("pressureRangeMax"), 1.0);
+    const auto wantDefault = [&](const char* name, const char* defaultName) {
+        if (const QVariant value = present.value(QLatin1String(defaultName)); value.isValid()) {
+            want(QLatin1String(name), value);
+        }
+    };
+    wantDefault("calibrationMatrix", "defaultCalibrationMatrix");
+    wantDefault("pressureCurve", "defaultPressureCurve");
+    return settings;
+}
+
+KWinMapping::KWinMapping(QDBusConnection session, QObject* parent)
+    : QObject(parent)
+    , mBus(std::move(session))
+{
+    if (!mBus.isConnected()) {
+        return;
+    }
+    mBus.connect(kKWin, kManagerPath, kManager, QStringLiteral("deviceAdded"), this,
+        SLOT(takeDevice(QString)));
+    auto* const watcher =
+        new QDBusServiceWatcher(kKWin, mBus, QDBusServiceWatcher::WatchForRegistration, this);
+    connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &KWinMapping::apply);
+    connect(&mFile, &QFileSystemWatcher::fileChanged, this, [this] {
+        watchFile(); // before it changes once more
+        apply();
+    });
+}
+
+void KWinMapping::setPen(const QString& node)
+{
+    mPen = node;
+    apply();
+}
+
+void KWinMapping::setDesktop(const Desktop& desktop)
+{
+    mDesktop = desktop;
+    apply();
+}
+
+void KWinMapping::takeDevice(const QString& node)
+{
+    if (node == mPen) {
+        apply();
+    }
+}
+
+void KWinMapping::apply()
+{
+    if (mPen.isEmpty() || !mBus.isConnected()) {
+        return;
+    }
+    if (std::exchange(mIsAsking, true)) {
+        mIsToAskAgain = true;
+        return;
+    }
+    const QString path = kManagerPath + QLatin1Char('/') + mPen;
+    auto* const answer = new QDBusPendingCallWatcher(
+        mBus.asyncCall(propertiesCall(path, "GetAll"), kAnswerTime), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [=, this] {
+        answer->deleteLater();
+        mIsAsking = false;
+        if (std::exchange(mIsToAskAgain, false)) {
+            apply();
+            return;
+        }
+        const QDBusPendingReply<QVariantMap> reply = *answer;
+        if (reply.isValid()) {
+            set(path, reply.value());
+        } else if (reply.error().type() == QDBusError::NoReply
+            || reply.error().type() == QDBusError::Timeout) {
+            apply(); // it is busy
+        }
+    });
+}
+
+void KWinMapping::set(const QString& path, const QVariantMap& present)
+{
+    // The node of a pen that is gone may be another device's by now.
+    if (present.value(QStringLiteral("name")).toString() != QLatin1String(kVirtualPenName)) {
+        return;
+    }
+    const KWinSettings settings = kwinSettings(present, mDesktop);
+    for (auto change = settings.changes.begin(); change != settings.changes.end(); ++change) {
+        QDBusMessage call = propertiesCall(path, "Set");
+        call << change.key() << QVariant::fromValue(QDBusVariant(change.value()));
+        auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call, kAnswerTime), this);
+        connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+            answer->deleteLater();
+            watchFile(); // there was none, perhaps
+        });
+    }
+    watchFile();
+    if (std::exchange(mTurns, settings.turns) != settings.turns) {
+        Q_EMIT changed();
+    }
+}
+
+void KWinMapping::watchFile()
+{
+    const QString file = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
+        + QStringLiteral("/kcminputrc");
+    // A file that was replaced is no longer watched.
+    if (mFile.files().isEmpty() && QFile::exists(file) && mFile.addPath(file)) {
+        apply(); // it may have changed before
+    }
+}

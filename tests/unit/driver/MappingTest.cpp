@@ -1,0 +1,209 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "Mapping.h"
+
+#include "KWinMapping.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <utility>
+
+namespace {
+
+DesktopDisplay display(const QRectF& bounds, int turns = 0)
+{
+    return {QStringLiteral("DP-%1").arg(bounds.x()), bounds, turns};
+}
+
+/** A main display with one to its left, higher up, and one to its right. */
+const Desktop kThree{
+    display({0, 0, 1920, 1080}), display({-1280, -200, 1280, 1024}), display({1920, 0, 1536, 864})};
+
+/** What KWin 5.27 tells of a pen, as far as it matters. */
+QVariantMap kwin5(const QString& output = {}, const QRectF& area = {0, 0, 1, 1})
+{
+    return {{QStringLiteral("outputName"), output}, {QStringLiteral("outputArea"), area},
+        {QStringLiteral("leftHanded"), false}};
+}
+
+/** The same of KWin 6. */
+QVariantMap kwin6(bool isMapped = false)
+{
+    QVariantMap present = kwin5();
+    present.insert(QStringLiteral("mapToWorkspace"), isMapped);
+    present.insert(QStringLiteral("inputArea"), QRectF(0, 0, 1, 1));
+    present.insert(QStringLiteral("orientationDBus"), 0);
+    present.insert(QStringLiteral("pressureRangeMin"), 0.0);
+    present.insert(QStringLiteral("pressureRangeMax"), 1.0);
+    present.insert(QStringLiteral("pressureCurve"), QStringLiteral("0,0;1,1;"));
+    present.insert(QStringLiteral("defaultPressureCurve"), QStringLiteral("0,0;1,1;"));
+    return present;
+}
+
+/**
+ * Where KWin 5 puts a place of the pen's range that the pipeline has given it: turned, then on the
+ * area of the output before its rotation, then rotated with the output.
+ */
+QPointF kwin5Place(QPointF range, const QRectF& area, const DesktopDisplay& output)
+{
+    const QRectF& bounds = output.bounds;
+    const bool isUpright = output.turns % 2 == 0;
+    const double width = isUpright ? bounds.width() : bounds.height();
+    const double height = isUpright ? bounds.height() : bounds.width();
+    const QPointF place(width * (area.x() + area.width() * range.x()),
+        height * (area.y() + area.height() * range.y()));
+    switch (output.turns) {
+    case 1:
+        return bounds.topLeft() + QPointF(height - place.y(), place.x());
+    case 2:
+        return bounds.topLeft() + QPointF(width - place.x(), height - place.y());
+    case 3:
+        return bounds.topLeft() + QPointF(place.y(), width - place.x());
+    default:
+        return bounds.topLeft() + place;
+    }
+}
+
+/** As PenPipeline does it. */
+QPointF turnedBack(QPointF place, int turns)
+{
+    for (int turn = 0; turn < turns; ++turn) {
+        place = {place.y(), 1 - place.x()};
+    }
+    return place;
+}
+
+} // namespace
+
+TEST(Mapping, theDesktopIsTheRectangleAroundAllDisplays)
+{
+    EXPECT_TRUE(boundsOf({}).isEmpty());
+    EXPECT_EQ(boundsOf(kThree), QRectF(-1280, -200, 1280 + 1920 + 1536, 1280));
+}
+
+TEST(Mapping, anAreaIsAPartOfTheRange)
+{
+    const QRectF all(-1000, 0, 2000, 1000);
+    EXPECT_EQ(targetOf({-1000, 0, 2000, 1000}, all), (TabletRect{0, 0, 1, 1}));
+    EXPECT_EQ(targetOf({0, 0, 1000, 500}, all), (TabletRect{0.5, 0, 1, 0.5}));
+    EXPECT_EQ(targetOf({-1000, 500, 1000, 500}, all), (TabletRect{0, 0.5, 0.5, 1}));
+    EXPECT_EQ(targetOf({500, 500, 1000, 1000}, all), (TabletRect{0.75, 0.5, 1, 1}))
+        << "what is off the desktop cannot be reached";
+}
+
+TEST(Mapping, withoutADesktopOrAnAreaOnItTheTabletReachesAllOfIt)
+{
+    const TabletRect all{0, 0, 1, 1};
+    EXPECT_EQ(targetOf({0, 0, 100, 100}, {}), all);
+    EXPECT_EQ(targetOf({}, {0, 0, 100, 100}), all);
+    EXPECT_EQ(targetOf({200, 0, 100, 100}, {0, 0, 100, 100}), all) << "its display is gone";
+}
+
+TEST(Mapping, theNextDisplayIsThatAfterTheOneInUse)
+{
+    EXPECT_EQ(displayAfter(kThree, {0, 0, 1920, 1080}), 1U);
+    EXPECT_EQ(displayAfter(kThree, {-1280, -200, 1280, 1024}), 2U);
+    EXPECT_EQ(displayAfter(kThree, {1920, 0, 1536, 864}), 0U);
+    EXPECT_EQ(displayAfter(kThree, boundsOf(kThree)), 0U) << "of all together, the first";
+    EXPECT_EQ(displayAfter(kThree, {}), 0U);
+    EXPECT_EQ(displayAfter({display({0, 0, 1920.5, 1080})}, {0, 0, 1920, 1080}), 0U)
+        << "the only one, with a fraction of a point";
+    EXPECT_FALSE(displayAfter({}, {0, 0, 1920, 1080}));
+}
+
+TEST(Mapping, aLineBringsTheDisplaysBack)
+{
+    Desktop desktop = kThree;
+    desktop[1].turns = 3;
+    desktop[2].bounds.setWidth(1536.5);
+    desktop[2].name = QStringLiteral("\"\n{");
+    const QByteArray line = toLine(desktop);
+    EXPECT_EQ(line.count('\n'), 1);
+    EXPECT_TRUE(line.endsWith('\n'));
+    EXPECT_EQ(desktopFrom(line), desktop);
+}
+
+TEST(Mapping, aLineThatMakesNoSenseIsNone)
+{
+    const auto isNone = [](const char* line) { return !desktopFrom(line); };
+    EXPECT_TRUE(isNone(""));
+    EXPECT_TRUE(isNone("[]"));
+    EXPECT_TRUE(isNone("{}"));
+    EXPECT_TRUE(isNone("[1]"));
+    EXPECT_TRUE(isNone("[{\"x\":0,\"y\":0,\"width\":1,\"turns\":0}]"));
+    const auto withWidth = [](const QByteArray& width, const char* turns = "0") {
+        return QByteArray(
+            "[{\"x\":0,\"y\":0,\"width\":" + width + ",\"height\":9,\"turns\":" + turns + "}]");
+    };
+    EXPECT_FALSE(isNone(withWidth("9")));
+    EXPECT_TRUE(isNone(withWidth("0")));
+    EXPECT_TRUE(isNone(withWidth("-9")));
+    EXPECT_TRUE(isNone(withWidth("1e300")));
+    EXPECT_TRUE(isNone(withWidth("\"9\"")));
+    EXPECT_TRUE(isNone(withWidth("9", "4")));
+    EXPECT_TRUE(isNone(toLine(Desktop(65, display({0, 0, 9, 9})))));
+}
+
+TEST(KWinSettings, ofKWin6AreTheWorkspace)
+{
+    EXPECT_EQ(kwinSettings(kwin6(), kThree).changes,
+        (QVariantMap{{QStringLiteral("mapToWorkspace"), true}}));
+    EXPECT_TRUE(kwinSettings(kwin6(true), {}).changes.isEmpty());
+    EXPECT_EQ(kwinSettings(kwin6(), {display({0, 0, 1080, 1920}, 1)}).turns, 0)
+        << "it does not turn the pen with a display";
+}
+
+TEST(KWinSettings, takeBackWhatThePanelHasSettingsFor)
+{
+    const QVariantMap plain = kwin6(true);
+    for (const auto& [name, value] :
+        QVariantMap{{QStringLiteral("leftHanded"), true}, {QStringLiteral("orientationDBus"), 2},
+            {QStringLiteral("outputArea"), QRectF(0, 0, 0.5, 1)},
+            {QStringLiteral("inputArea"), QRectF(0.1, 0, 0.9, 1)},
+            {QStringLiteral("pressureRangeMin"), 0.2}, {QStringLiteral("pressureRangeMax"), 0.8},
+            {QStringLiteral("pressureCurve"), QStringLiteral("0,0;0.5,0.9;1,1;")}}
+            .toStdMap()) {
+        QVariantMap present = plain;
+        present.insert(name, value);
+        EXPECT_EQ(kwinSettings(present, kThree).changes, (QVariantMap{{name, plain.value(name)}}));
+    }
+}
+
+TEST(KWinSettings, ofKWin5AreAnAreaAroundItsOutput)
+{
+    const QVariantMap changes = kwinSettings(kwin5(), kThree).changes;
+    EXPECT_EQ(changes.value(QStringLiteral("outputName")), kThree[0].name);
+    const QRectF area = changes.value(QStringLiteral("outputArea")).toRectF();
+    EXPECT_DOUBLE_EQ(area.x(), -1280.0 / 1920);
+    EXPECT_DOUBLE_EQ(area.y(), -200.0 / 1080);
+    EXPECT_NEAR(area.width(), 4736.0 / 1920, 2e-6);
+    EXPECT_NEAR(area.height(), 1280.0 / 1080, 2e-6);
+    EXPECT_TRUE(kwinSettings(kwin5(kThree[0].name, area), kThree).changes.isEmpty());
+    EXPECT_TRUE(kwinSettings(kwin5(), {}).changes.isEmpty()) << "it does not know where that is";
+}
+
+TEST(KWinSettings, ofKWin5PreferAnOutputThatIsNotTurned)
+{
+    const Desktop desktop{display({0, 0, 1080, 1920}, 1), display({1080, 0, 1920, 1080}, 0)};
+    const KWinSettings settings = kwinSettings(kwin5(), desktop);
+    EXPECT_EQ(settings.changes.value(QStringLiteral("outputName")), desktop[1].name);
+    EXPECT_EQ(settings.turns, 0);
+}
+
+TEST(KWinSettings, ofKWin5PutThePenWhereItBelongsHoweverTheOutputIsTurned)
+{
+    for (int turns = 0; turns < 4; ++turns) {
+        const Desktop desktop{
+            display({0, 0, 1080, 1920}, turns), display({1080, 300, 1000, 1700}, turns)};
+        const QRectF all = boundsOf(desktop);
+        const KWinSettings settings = kwinSettings(kwin5(), desktop);
+        ASSERT_EQ(settings.turns, turns);
+        const QRectF area = settings.changes.value(QStringLiteral("outputArea")).toRectF();
+        for (const QPointF wanted : {QPointF(0, 0), QPointF(1, 0), QPointF(0.25, 0.5)}) {
+            const QPointF place = kwin5Place(turnedBack(wanted, settings.turns), area, desktop[0]);
+            EXPECT_NEAR(place.x(), all.x() + all.width() * wanted.x(), 0.01) << turns;
+            EXPECT_NEAR(place.y(), all.y() + all.height() * wanted.y(), 0.01) << turns;
+        }
+    }
+}
