@@ -221,28 +221,42 @@ int runUsbMode(const Arguments& arguments)
     return kExitGood;
 }
 
-/** Prints the tablets that are plugged in, or has the driver use one of them. */
+/**
+ * Prints the tablets that are plugged in, has the driver use one of them, or says whether it shows
+ * notices.
+ */
 int runTablet(const Arguments& arguments)
 {
     const QString& what = arguments.operands[0];
+    const bool isList = what == QLatin1String("list");
     const bool isUse = what == QLatin1String("use");
-    if (!isUse && what != QLatin1String("list")) {
+    if (!isList && !isUse && what != QLatin1String("notices")) {
         return usageError(QStringLiteral("a tablet cannot '%1'").arg(what));
     }
-    if (arguments.operands.size() != (isUse ? 2 : 1)) {
-        return usageError(isUse ? QStringLiteral("missing operand after 'use'")
-                                : QStringLiteral("extra operand '%1'").arg(arguments.operands[1]));
+    if (arguments.operands.size() != (isList ? 1 : 2)) {
+        return usageError(isList ? QStringLiteral("extra operand '%1'").arg(arguments.operands[1])
+                                 : QStringLiteral("missing operand after '%1'").arg(what));
     }
     QVRegisterTabletList();
-    QDBusMessage call = driverCall(kQVTabletPath, kQVTabletInterface, isUse ? "Use" : "Tablets");
+    QDBusMessage call = driverCall(kQVTabletPath, kQVTabletInterface,
+        isList      ? "Tablets"
+            : isUse ? "Use"
+                    : "ShowNotices");
     if (isUse) {
         call << arguments.operands[1];
+    } else if (!isList) {
+        const QString& choice = arguments.operands[1];
+        const bool isOn = choice == QLatin1String("on");
+        if (!isOn && choice != QLatin1String("off")) {
+            return usageError(QStringLiteral("notices can be on or off, not '%1'").arg(choice));
+        }
+        call << isOn;
     }
     const QDBusMessage message = QDBusConnection::sessionBus().call(call);
     if (message.type() != QDBusMessage::ReplyMessage) {
         return fail(message.errorMessage());
     }
-    if (isUse) {
+    if (!isList) {
         return kExitGood;
     }
     const QVTabletList list = QDBusReply<QVTabletList>(message).value();

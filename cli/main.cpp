@@ -30,6 +30,9 @@ Commands:
   tablet list [--json]
                       print the tablets that are plugged in
   tablet use ID       use a tablet of that list, also when it is plugged in again
+  tablet notices on|off
+                      show on the screen when a key pauses the pen or moves it to
+                      another display, or do not
   sim tap X Y         touch a point with the simulated pen, in tablet units,
                       while the panel calibrates
 

@@ -191,6 +191,12 @@ void Driver::setChosenTablet(const QString& id)
     saveState();
 }
 
+void Driver::setShowsNotices(bool areShown)
+{
+    mState.showsNotices = areShown;
+    saveState();
+}
+
 void Driver::report(const QVPenReport& report)
 {
     if (isCalibrating()) {

@@ -80,6 +80,10 @@ public:
     const QString& chosenTablet() const { return mState.chosen; }
     void setChosenTablet(const QString& id);
 
+    /** Whether the user wants a word on the screen when a button changes where the pen is. */
+    bool showsNotices() const { return mState.showsNotices; }
+    void setShowsNotices(bool areShown);
+
     /** The settings of the attached tablet: those of the last push, or else those of its file. */
     const tagQVTabletInfo& settings() const { return mSettings; }
 

@@ -23,6 +23,7 @@ constexpr QLatin1String kRecord("record");
 constexpr QLatin1String kPushes("pushes");
 constexpr QLatin1String kChosen("chosen");
 constexpr QLatin1String kNumbers("numbers");
+constexpr QLatin1String kNotices("notices");
 
 QString statePath()
 {
@@ -77,7 +78,8 @@ std::optional<DriverState> DriverState::load()
     if (!attached || !record || !pushes) {
         return std::nullopt;
     }
-    DriverState state{*attached, *record, *pushes, object.value(kChosen).toString(), {}};
+    DriverState state{*attached, *record, *pushes, object.value(kChosen).toString(), {},
+        object.value(kNotices).toBool(true)};
     const QJsonObject numbers = object.value(kNumbers).toObject();
     for (auto number = numbers.begin(); number != numbers.end(); ++number) {
         if (const auto value = wholeNumber<std::uint16_t>(number.value())) {
@@ -96,6 +98,7 @@ platform::Result<> DriverState::save() const
     object.insert(kRecord, QString::fromLatin1(record.toBase64()));
     object.insert(kPushes, static_cast<double>(pushes));
     object.insert(kChosen, chosen);
+    object.insert(kNotices, showsNotices);
     QJsonObject numberObject;
     for (auto number = numbers.begin(); number != numbers.end(); ++number) {
         numberObject.insert(number.key(), number.value());

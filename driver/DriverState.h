@@ -25,6 +25,7 @@ struct DriverState {
     QString chosen; ///< the tablet that the user chose, as Tablet::id(); empty for the first one
     /** Numbers of the configuration files of foreign tablets, by modelKey(). */
     QMap<QString, std::uint16_t> numbers;
+    bool showsNotices = true; ///< on the screen
 
     /**
      * Reads the file.

@@ -66,6 +66,7 @@ TabletController::TabletController(
     , mLauncher(session)
     , mDisplays(session, QCoreApplication::applicationFilePath())
     , mKWin(session)
+    , mNotices(session)
 {
     const auto tryAgain = [this] {
         if (mTablet && mOpen == nullptr) {
@@ -87,6 +88,7 @@ TabletController::TabletController(
         Q_EMIT changed();
     });
     connect(&mDisplays, &DisplayWatcher::changed, this, [this] {
+        mDetour.reset(); // the display may be gone
         mKWin.setDesktop(mDisplays.desktop());
         publish();
     });
@@ -266,6 +268,7 @@ void TabletController::close()
     mOpen.reset();
     mSeat.letSleep(); // the input thread's word may not have been read
     mKWin.setPen({});
+    mDetour.reset();
     mIsBusy = false;
     for (ushort slot = 0; mDown != 0; ++slot, mDown >>= 1U) {
         if ((mDown & 1U) != 0) {
@@ -308,7 +311,14 @@ void TabletController::obey(const RelayNote& note)
                 [this](const QString& problem) { setProblem(problem); });
         } else if (note.command.kind == Command::Kind::Pause) {
             mIsPaused = note.command.value != 0;
+            notice(mIsPaused
+                    //: The user has pressed a key of the tablet that pauses it.
+                    ? QCoreApplication::translate("Notices", "The pen is paused")
+                    //: The user has pressed that key again.
+                    : QCoreApplication::translate("Notices", "The pen works again"));
             Q_EMIT changed();
+        } else if (note.command.kind == Command::Kind::NextDisplay) {
+            goToNextDisplay();
         }
         break;
     case RelayNote::Kind::Grabbed:
@@ -342,13 +352,44 @@ void TabletController::obey(const RelayNote& note)
     }
 }
 
+void TabletController::goToNextDisplay()
+{
+    const Desktop& desktop = mDisplays.desktop();
+    const std::optional<std::size_t> next = displayAfter(desktop, area());
+    if (next) {
+        mDetour = Detour{settingsArea(), desktop[*next].bounds};
+        publish();
+        //: The pen is now on this display, %1 in the panel's list, with a connector such as DP-1.
+        notice(QCoreApplication::translate("Notices", "The pen is on display #%1 (%2)")
+                   .arg(*next + 1)
+                   .arg(desktop[*next].name));
+    }
+}
+
+void TabletController::notice(const QString& text)
+{
+    if (mDriver.showsNotices()) {
+        mNotices.show(text);
+    }
+}
+
+QRectF TabletController::settingsArea() const
+{
+    const tagQVTabletInfoMonitior& monitor = mDriver.settings().Monitor;
+    return {static_cast<double>(monitor.XOrg), static_cast<double>(monitor.YOrg),
+        static_cast<double>(monitor.Width), static_cast<double>(monitor.Height)};
+}
+
+QRectF TabletController::area() const
+{
+    const QRectF area = settingsArea();
+    return mDetour && mDetour->from == area ? mDetour->to : area;
+}
+
 TabletSettings TabletController::settings() const
 {
-    const tagQVTabletInfo& record = mDriver.settings();
-    const tagQVTabletInfoMonitior& monitor = record.Monitor;
-    const QRectF area(monitor.XOrg, monitor.YOrg, monitor.Width, monitor.Height);
-    TabletSettings settings = decodeSettings(
-        record, targetOf(area, boundsOf(mDisplays.desktop())), mDriver.isCalibrating());
+    TabletSettings settings = decodeSettings(mDriver.settings(),
+        targetOf(area(), boundsOf(mDisplays.desktop())), mDriver.isCalibrating());
     settings.desktopTurns = mKWin.turns();
     return settings;
 }

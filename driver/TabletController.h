@@ -6,6 +6,7 @@
 #include "Driver.h"
 #include "KWinMapping.h"
 #include "Launcher.h"
+#include "Notices.h"
 #include "Result.h"
 #include "SeatSession.h"
 #include "SettingsExchange.h"
@@ -85,6 +86,14 @@ private:
     void close();
     void readNotes();
     void obey(const RelayNote& note);
+    /** Maps the tablet to the next display, until the area of the settings changes. */
+    void goToNextDisplay();
+    /** Shows a word on the screen, if the user wants that. */
+    void notice(const QString& text);
+    /** The area of the desktop that the settings map the tablet to. */
+    QRectF settingsArea() const;
+    /** The one that it is mapped to. */
+    QRectF area() const;
     TabletSettings settings() const;
     void publish();
     void setProblem(const QString& problem);
@@ -95,6 +104,7 @@ private:
     Launcher mLauncher;
     DisplayWatcher mDisplays;
     KWinMapping mKWin;
+    Notices mNotices;
     std::optional<Tablet> mTablet;
     std::unique_ptr<Open> mOpen;
     QString mProblem;
@@ -102,4 +112,10 @@ private:
     bool mIsBusy = false; ///< another program has it
     bool mIsPaused = false;
     std::uint32_t mDown = 0; ///< buttons that are down, as bits
+    /** A display that a button has chosen, and the area of the settings that it replaces. */
+    struct Detour {
+        QRectF from;
+        QRectF to;
+    };
+    std::optional<Detour> mDetour;
 };

@@ -10,10 +10,11 @@
 
 #include <utility>
 
-TabletObject::TabletObject(QDBusConnection bus, List list, User use)
+TabletObject::TabletObject(QDBusConnection bus, List list, User use, Noticer notices)
     : mBus(std::move(bus))
     , mList(std::move(list))
     , mUse(std::move(use))
+    , mNotices(std::move(notices))
 {
     QVRegisterTabletList();
     mBus.registerObject(QLatin1String(kQVTabletPath), this,

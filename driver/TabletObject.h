@@ -37,14 +37,16 @@ class TabletObject final : public QObject, protected QDBusContext {
 public:
     using List = std::function<QVTabletList()>;
     using User = std::function<platform::Result<>(const QString& id)>;
+    using Noticer = std::function<void(bool areShown)>;
 
     /**
      * Exports the object.
      *
      * @param list gives the tablets that are plugged in
      * @param use has the driver use one of them
+     * @param notices has it show notices on the screen, or not
      */
-    TabletObject(QDBusConnection bus, List list, User use);
+    TabletObject(QDBusConnection bus, List list, User use, Noticer notices);
 
     /** Shows these facts from now on, and tells what has changed. */
     void show(const TabletFacts& facts);
@@ -60,6 +62,8 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     QVTabletList Tablets() const { return mList(); }
     /** Uses a tablet from now on; an error if none with that ID is plugged in. */
     void Use(const QString& id);
+    /** Whether a word on the screen tells when a button changes where the pen is. */
+    void ShowNotices(bool areShown) { mNotices(areShown); }
 
 Q_SIGNALS:
     /** A button of the tablet or of its pen is down or up; slot is the button's in the record. */
@@ -69,5 +73,6 @@ private:
     QDBusConnection mBus;
     List mList;
     User mUse;
+    Noticer mNotices;
     TabletFacts mFacts;
 };

@@ -89,8 +89,8 @@ std::unique_ptr<QCoreApplication> makeApplication(int& argc, char** argv, bool h
     return application;
 }
 
-/** Translates the window's texts into the user's language. Printed output stays English. */
-void translateWindow(QTranslator& translator)
+/** Translates what is seen on the screen into the user's language. Printed output stays English. */
+void translateTexts(QTranslator& translator)
 {
     const QDir folder(QCoreApplication::applicationDirPath());
     const platform::Bundle texts(
@@ -218,7 +218,8 @@ int main(int argc, char* argv[])
         [&](const QString& id) {
             return controller ? controller->use(id)
                               : platform::Error{QStringLiteral("the tablet is simulated")};
-        });
+        },
+        [&](bool areShown) { driver.setShowsNotices(areShown); });
     // Without the name, the user's files and devices are left alone. Events that arrive from here
     // on wait for the event loop.
     platform::Result<> started = events.registerApplication(kQVDriverSignature);
@@ -263,9 +264,9 @@ int main(int argc, char* argv[])
         QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
         application.get(), SLOT(quit()));
     QTranslator translator;
+    translateTexts(translator);
     std::unique_ptr<TabletWindow> window;
     if (hasWindow) {
-        translateWindow(translator);
         window = std::make_unique<TabletWindow>(driver);
         QObject::connect(
             window.get(), &TabletWindow::closed, application.get(), end, Qt::QueuedConnection);

@@ -75,6 +75,23 @@
     </message>
 </context>
 <context>
+    <name>Notices</name>
+    <message>
+        <source>The pen is paused</source>
+        <extracomment>The user has pressed a key of the tablet that pauses it.</extracomment>
+        <translation>El lápiz está en pausa</translation>
+    </message>
+    <message>
+        <source>The pen works again</source>
+        <translation>El lápiz vuelve a funcionar</translation>
+    </message>
+    <message>
+        <source>The pen is on display #%1 (%2)</source>
+        <extracomment>The pen is now on this display, %1 in the panel&apos;s list, with a connector such as DP-1.</extracomment>
+        <translation>El lápiz está en la pantalla #%1 (%2)</translation>
+    </message>
+</context>
+<context>
     <name>TabletSurface</name>
     <message>
         <source>Surface</source>

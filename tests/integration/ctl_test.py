@@ -354,9 +354,21 @@ class CtlStartsTheDriver(session.Session):
         used = self.ctl("tablet", "use", "6f3d:5101")
         self.assertEqual((used.returncode, used.stderr), (1, "qvtbltctl: the tablet is simulated\n"))
 
+    def test_notices_are_on_until_they_are_turned_off(self):
+        driver = self.start_real_driver()
+        state = self.home / ".local/state/tdsg-driver/state.json"
+        for word, areShown in (("off", False), ("on", True)):
+            self.assertEqual(self.ctl("tablet", "notices", word).returncode, 0)
+            self.assertEqual(json.loads(state.read_text())["notices"], areShown)
+        self.assertEqual(self.ctl("tablet", "notices", "off").returncode, 0)
+        self.stop_driver(driver)
+        self.start_real_driver()
+        self.assertFalse(json.loads(state.read_text())["notices"])
+
     def test_tablet_takes_only_its_own_operands(self):
         for words in (["tablet"], ["tablet", "use"], ["tablet", "list", "x"], ["tablet", "draw"],
-                      ["tablet", "use", "x", "y"]):
+                      ["tablet", "use", "x", "y"], ["tablet", "notices"],
+                      ["tablet", "notices", "maybe"]):
             self.assertEqual(self.ctl(*words).returncode, 2, words)
 
 

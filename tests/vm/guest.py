@@ -185,7 +185,8 @@ class Record:
         "VendorID": (0, "H"), "ProductID": (2, "H"), "KeyNum": (8, "h"), "ScrollNum": (10, "h"),
         "PressureMax": (12, "h"), "TabletXmin": (14, "H"), "TabletXmax": (16, "H"),
         "TabletYmin": (18, "H"), "TabletYmax": (20, "H"), "PressureThreshold": (283, "h"),
-        "rotationFlag": (291, "h"), "disableFlag": (293, "h"), "cTabletXmin": (303, "H"),
+        "rotationFlag": (291, "h"), "disableFlag": (293, "h"), "XOrg": (295, "h"),
+        "Width": (297, "h"), "YOrg": (299, "h"), "Height": (301, "h"), "cTabletXmin": (303, "H"),
         "cTabletXmax": (305, "H"), "cTabletYmin": (307, "H"), "cTabletYmax": (309, "H"),
         "Scrollbar0": (5071, "h"), "Scrollbar1": (5073, "h"), "ScrollSpeed": (5075, "h"),
     }

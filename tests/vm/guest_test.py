@@ -4,6 +4,7 @@
 vm_test.py."""
 
 import fcntl
+import json
 import os
 import pathlib
 import plistlib
@@ -552,6 +553,109 @@ class Functions(guest.TestCase):
         wait_for(lambda: "/nowhere/program" in self.world.property("Problem"), "the problem")
         self.click(3)
         wait_for(lambda: self.world.property("Problem") == "", "the end of the problem")
+
+
+class Displays(guest.TestCase):
+    """Two displays of 1000 by 500 points, the main one to the right, as a file tells Qt."""
+
+    NOTIFICATIONS = "org.freedesktop.Notifications"
+
+    @classmethod
+    def setUpClass(cls):
+        config = guest.FOLDER / "screens.json"
+        config.write_text(json.dumps({"screens": [
+            {"name": "DP-1", "x": 1000, "y": 0, "width": 1000, "height": 500},
+            {"name": "DP-2", "x": 0, "y": 0, "width": 1000, "height": 500}]}))
+        cls.begin_anew(DISPLAY=":9", QT_QPA_PLATFORM=f"offscreen:configfile={config}")
+        cls.notices = []
+        interface, = Gio.DBusNodeInfo.new_for_xml(
+            f"""<node><interface name="{cls.NOTIFICATIONS}"><method name="Notify">
+            <arg type="s" direction="in"/><arg type="u" direction="in"/><arg type="s" direction="in"/>
+            <arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="as" direction="in"/>
+            <arg type="a{{sv}}" direction="in"/><arg type="i" direction="in"/>
+            <arg type="u" direction="out"/></method></interface></node>""").interfaces
+        bus = cls.world.bus
+        cls.object = bus.register_object(
+            "/" + cls.NOTIFICATIONS.replace(".", "/"), interface, cls.notify, None, None)
+        cls.name = Gio.bus_own_name_on_connection(
+            bus, cls.NOTIFICATIONS, Gio.BusNameOwnerFlags.NONE, None, None)
+
+    @classmethod
+    def tearDownClass(cls):
+        Gio.bus_unown_name(cls.name)
+        cls.world.bus.unregister_object(cls.object)
+        cls.begin_anew()
+
+    @classmethod
+    def begin_anew(cls, **env):
+        cls.world.end()
+        cls.world.start_driver(**env)
+        cls.world.plug(Tablet())
+
+    @classmethod
+    def notify(cls, _bus, _sender, _path, _interface, _method, words, call):
+        cls.notices.append(words.unpack()[3])
+        call.return_value(GLib.Variant("(u)", (len(cls.notices),)))
+
+    def setUp(self):
+        super().setUp()
+        self.record.slot(0, 4)
+        # The left display, after another area, so that it is no longer a button's choice.
+        self.push(XOrg=-1000, Width=1000, YOrg=0, Height=500)
+        wait_for(lambda: self.place(48000, 30000) == (96000, 120000), "the displays")
+        self.notices.clear()
+
+    def test_are_where_the_record_says(self):
+        self.assertEqual(self.place(0, 0), (0, 0))
+        self.push(XOrg=0)
+        self.assertEqual(self.place(0, 0), (96001, 0))
+        self.assertEqual(self.place(48000, 30000), (192000, 120000))
+        self.push(XOrg=-1000, Width=2000)
+        self.assertEqual(self.place(24000, 15000), (96000, 60000))
+        self.push(XOrg=5000)  # where there is no display
+        self.assertEqual(self.place(48000, 30000), (192000, 120000))
+
+    def test_a_key_goes_to_the_next_one_until_the_panel_says_otherwise(self):
+        for x, notice in ((96001, "The pen is on display #1 (DP-1)"), (0, "The pen is on display #2 (DP-2)")):
+            self.click(0)
+            wait_for(lambda x=x: self.place(0, 0) == (x, 0), "the next display")
+            wait_for(lambda notice=notice: self.notices[-1:] == [notice], notice)
+        self.click(0)
+        wait_for(lambda: self.place(0, 0) == (96001, 0), "the next display")
+        self.push(PressureThreshold=120)
+        self.assertEqual(self.place(0, 0), (96001, 0))
+        self.push(XOrg=-1000, Width=2000)
+        self.assertEqual(self.place(0, 0), (0, 0))
+
+    def test_a_stroke_ends_where_it_is_when_the_pen_goes_to_another(self):
+        self.tablet.pen(24000, 15000, pressure=4000)
+        self.pen.wait_for("BTN_TOUCH", 1)
+        self.press(0)
+        self.pen.wait_for("ABS_X", 144000)
+        lifted = next(frame for frame in self.pen.frames if ("BTN_TOUCH", 0) in frame)
+        self.assertNotIn("ABS_X", dict(lifted))
+        self.press()
+        self.tablet.pen(24000, 15000, pressure=5000)
+        self.tablet.away()
+        self.pen.wait_for("BTN_TOOL_PEN", 0)
+        touches = [frame for frame in self.pen.frames if ("BTN_TOUCH", 1) in frame]
+        self.assertEqual(len(touches), 1, "the tip has not been lifted in between")
+
+    def test_a_word_says_that_the_pen_is_paused_unless_it_is_not_wanted(self):
+        self.record.slot(1, 6)
+        self.push()
+        self.click(1)
+        wait_for(lambda: self.notices == ["The pen is paused"], "the notice")
+        self.click(1)
+        wait_for(lambda: self.notices[1:] == ["The pen works again"], "the notice")
+        ctl = session.BIN / "qvtbltctl"
+        self.addCleanup(self.world.run, ctl, "tablet", "notices", "on")
+        self.assertEqual(self.world.run(ctl, "tablet", "notices", "off").returncode, 0)
+        self.click(1)
+        self.world.wait_for_state("paused")
+        self.click(1)
+        self.world.wait_for_state("attached")
+        self.assertEqual(len(self.notices), 2)
 
 
 class Calibration(guest.TestCase):

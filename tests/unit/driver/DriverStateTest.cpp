@@ -50,7 +50,7 @@ QByteArray quotedRecord(int size)
 TEST_F(DriverStateFile, comesBackAsItWasSaved)
 {
     const DriverState saved{65535, QByteArray(kQVRecordSize, '\xE9'), 4294967295U,
-        QStringLiteral("056a:0357:A17"), {{QStringLiteral("056a:0357"), 0x8000}}};
+        QStringLiteral("056a:0357:A17"), {{QStringLiteral("056a:0357"), 0x8000}}, false};
     EXPECT_EQ(errorText(saved.save()), "");
     const auto loaded = DriverState::load();
     ASSERT_TRUE(loaded);
@@ -58,6 +58,7 @@ TEST_F(DriverStateFile, comesBackAsItWasSaved)
     EXPECT_EQ(loaded->record, saved.record);
     EXPECT_EQ(loaded->pushes, 4294967295U);
     EXPECT_EQ(loaded->chosen, saved.chosen);
+    EXPECT_FALSE(loaded->showsNotices);
     EXPECT_EQ(loaded->numbers, saved.numbers);
 }
 
