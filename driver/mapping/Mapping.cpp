@@ -102,14 +102,14 @@ TabletRect targetOf(const QRectF& area, const QRectF& covered)
     if (area.isEmpty() || covered.isEmpty()) {
         return {0, 0, 1, 1};
     }
-    const auto across = [&](double x) {
-        return std::clamp((x - covered.left()) / covered.width(), 0.0, 1.0);
-    };
-    const auto down = [&](double y) {
-        return std::clamp((y - covered.top()) / covered.height(), 0.0, 1.0);
-    };
-    const TabletRect target{
-        across(area.left()), down(area.top()), across(area.right()), down(area.bottom())};
+    // KWin rounds places to whole points before it looks for a window, so that the last half of the
+    // last point is off the display, and a pen there is nowhere.
+    constexpr double kLast = 0.51;
+    const auto across = [&](double x) { return (x - covered.left()) / covered.width(); };
+    const auto down = [&](double y) { return (y - covered.top()) / covered.height(); };
+    const QRectF reached = area & covered;
+    const TabletRect target{across(reached.left()), down(reached.top()),
+        across(reached.right() - kLast), down(reached.bottom() - kLast)};
     // An area on a display that is gone.
     return target.width() > 0 && target.height() > 0 ? target : TabletRect{0, 0, 1, 1};
 }

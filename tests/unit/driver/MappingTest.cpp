@@ -85,10 +85,17 @@ TEST(Mapping, theDesktopIsTheRectangleAroundAllDisplays)
 TEST(Mapping, anAreaIsAPartOfTheRange)
 {
     const QRectF all(-1000, 0, 2000, 1000);
-    EXPECT_EQ(targetOf({-1000, 0, 2000, 1000}, all), (TabletRect{0, 0, 1, 1}));
-    EXPECT_EQ(targetOf({0, 0, 1000, 500}, all), (TabletRect{0.5, 0, 1, 0.5}));
-    EXPECT_EQ(targetOf({-1000, 500, 1000, 500}, all), (TabletRect{0, 0.5, 0.5, 1}));
-    EXPECT_EQ(targetOf({500, 500, 1000, 1000}, all), (TabletRect{0.75, 0.5, 1, 1}))
+    // In points: the area up to the middle of its last ones.
+    const auto target = [&](const QRectF& area) {
+        const TabletRect part = targetOf(area, all);
+        return QRectF(QPointF(all.left() + part.left * all.width(), part.top * all.height()),
+            QPointF(
+                all.left() + part.right * all.width() + 0.51, part.bottom * all.height() + 0.51));
+    };
+    for (const QRectF& area : {all, QRectF(0, 0, 1000, 500), QRectF(-1000, 500, 1000, 500)}) {
+        EXPECT_EQ(target(area), area);
+    }
+    EXPECT_EQ(target({500, 500, 1000, 1000}), QRectF(500, 500, 500, 500))
         << "what is off the desktop cannot be reached";
 }
 
