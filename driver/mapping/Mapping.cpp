@@ -102,9 +102,10 @@ TabletRect targetOf(const QRectF& area, const QRectF& covered)
     if (area.isEmpty() || covered.isEmpty()) {
         return {0, 0, 1, 1};
     }
-    // KWin rounds places to whole points before it looks for a window, so that the last half of the
-    // last point is off the display, and a pen there is nowhere.
-    constexpr double kLast = 0.51;
+    // KWin 5 rounds places to whole points before it looks for a window, so that the last half of
+    // the last point is off the display, and a pen there is nowhere. The rest is for displays with
+    // a fractional scale, whose size it rounds, too.
+    constexpr double kLast = 0.9;
     const auto across = [&](double x) { return (x - covered.left()) / covered.width(); };
     const auto down = [&](double y) { return (y - covered.top()) / covered.height(); };
     const QRectF reached = area & covered;

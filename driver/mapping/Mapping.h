@@ -48,8 +48,8 @@ QByteArray toLine(const Desktop& desktop);
 std::optional<Desktop> desktopFrom(const QByteArray& line);
 
 /**
- * The part of the virtual pen's range that points at an area of the desktop, up to the middle of its
- * last points, each side from 0 to 1. Without a known desktop, all of it.
+ * The part of the virtual pen's range that points at an area of the desktop, up to the beginning of
+ * its last points, each side from 0 to 1. Without a known desktop, all of it.
  *
  * @param covered what the whole range covers
  */

@@ -556,8 +556,8 @@ class Functions(guest.TestCase):
 
 
 class Displays(guest.TestCase):
-    """Two displays of 1000 by 500 points, the main one to the right, as a file tells Qt. An area ends in the
-    middle of its last points."""
+    """Two displays of 1000 by 500 points, the main one to the right, as a file tells Qt. An area ends at the
+    beginning of its last points."""
 
     NOTIFICATIONS = "org.freedesktop.Notifications"
 
@@ -603,16 +603,16 @@ class Displays(guest.TestCase):
         self.record.slot(0, 4)
         # The left display, after another area, so that it is no longer a button's choice.
         self.push(XOrg=-1000, Width=1000, YOrg=0, Height=500)
-        wait_for(lambda: self.place(48000, 30000) == (95951, 119878), "the displays")
+        wait_for(lambda: self.place(48000, 30000) == (95914, 119784), "the displays")
         self.notices.clear()
 
     def test_are_where_the_record_says(self):
         self.assertEqual(self.place(0, 0), (0, 0))
         self.push(XOrg=0)
         self.assertEqual(self.place(0, 0), (96001, 0))
-        self.assertEqual(self.place(48000, 30000), (191952, 119878))
+        self.assertEqual(self.place(48000, 30000), (191914, 119784))
         self.push(XOrg=-1000, Width=2000)
-        self.assertEqual(self.place(24000, 15000), (95976, 59939))
+        self.assertEqual(self.place(24000, 15000), (95957, 59892))
         self.push(XOrg=5000)  # where there is no display
         self.assertEqual(self.place(48000, 30000), (192000, 120000))
 
@@ -632,7 +632,7 @@ class Displays(guest.TestCase):
         self.tablet.pen(24000, 15000, pressure=4000)
         self.pen.wait_for("BTN_TOUCH", 1)
         self.press(0)
-        self.pen.wait_for("ABS_X", 143976)
+        self.pen.wait_for("ABS_X", 143957)
         lifted = next(frame for frame in self.pen.frames if ("BTN_TOUCH", 0) in frame)
         self.assertNotIn("ABS_X", dict(lifted))
         self.press()

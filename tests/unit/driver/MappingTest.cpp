@@ -85,12 +85,11 @@ TEST(Mapping, theDesktopIsTheRectangleAroundAllDisplays)
 TEST(Mapping, anAreaIsAPartOfTheRange)
 {
     const QRectF all(-1000, 0, 2000, 1000);
-    // In points: the area up to the middle of its last ones.
+    // In points: the area up to the beginning of its last ones.
     const auto target = [&](const QRectF& area) {
         const TabletRect part = targetOf(area, all);
         return QRectF(QPointF(all.left() + part.left * all.width(), part.top * all.height()),
-            QPointF(
-                all.left() + part.right * all.width() + 0.51, part.bottom * all.height() + 0.51));
+            QPointF(all.left() + part.right * all.width() + 0.9, part.bottom * all.height() + 0.9));
     };
     for (const QRectF& area : {all, QRectF(0, 0, 1000, 500), QRectF(-1000, 500, 1000, 500)}) {
         EXPECT_EQ(target(area), area);
