@@ -20,11 +20,15 @@ VARIABLES = {
 }
 
 
-def main():
+def command(*options):
+    """Returns the beginning of a command that runs a script in the virtual machine."""
     settings = [f"{name}={os.environ.get(name, value)}" for name, value in VARIABLES.items()]
-    command = [HERE / "boot", "env", *settings, sys.executable, "-B", HERE / "guest_test.py",
-               *sys.argv[1:]]
-    return subprocess.run(command, check=False).returncode
+    return [HERE / "boot", *options, "env", *settings, sys.executable, "-B"]
+
+
+def main():
+    return subprocess.run([*command(), HERE / "guest_test.py", *sys.argv[1:]],
+                          check=False).returncode
 
 
 if __name__ == "__main__":
