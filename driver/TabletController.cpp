@@ -382,8 +382,7 @@ QRectF TabletController::settingsArea() const
 
 QRectF TabletController::area() const
 {
-    const QRectF area = settingsArea();
-    return mDetour && mDetour->from == area ? mDetour->to : area;
+    return mDetour ? mDetour->to : settingsArea();
 }
 
 TabletSettings TabletController::settings() const
@@ -396,6 +395,9 @@ TabletSettings TabletController::settings() const
 
 void TabletController::publish()
 {
+    if (mDetour && mDetour->from != settingsArea()) {
+        mDetour.reset(); // for good, also if that area comes back
+    }
     if (mOpen != nullptr) {
         mOpen->exchange.publish(settings());
         mOpen->relay.wake();
