@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace {
 
@@ -73,6 +74,14 @@ QString toolTipOf(const QString& text)
     return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
 }
 
+/** A tooltip with the name of an application above its path, as far as they are known. */
+QString toolTipOf(const QString& name, const QString& path)
+{
+    return name.isEmpty()
+        ? toolTipOf(path)
+        : QStringLiteral("<b>%1</b><br>%2").arg(name.toHtmlEscaped(), path.toHtmlEscaped());
+}
+
 /** Draws the items of the open list. */
 class ItemDelegate final : public QStyledItemDelegate {
 public:
@@ -117,7 +126,9 @@ int missingMargin(const QStyleOptionComboBox& option, const QWidget* box)
 int textWidth(const QStyleOptionComboBox& option, const QWidget* box)
 {
     constexpr int kMargins = 4;
-    return fieldOf(option, box).width() - missingMargin(option, box) - kMargins;
+    constexpr int kIconGap = 4;
+    const int icon = option.currentIcon.isNull() ? 0 : option.iconSize.width() + kIconGap;
+    return fieldOf(option, box).width() - missingMargin(option, box) - icon - kMargins;
 }
 
 bool isPrintable(const QKeyEvent& event)
@@ -144,11 +155,13 @@ QVKeyComboBox::QVKeyComboBox(QWidget* parent)
     if (auto* const list = qobject_cast<QListView*>(view())) {
         list->setUniformItemSizes(true); // otherwise each click lays out every item's text
     }
+    connect(this, qOverload<int>(&QComboBox::currentIndexChanged), this, &QVKeyComboBox::describe);
     resetItems();
 }
 
 void QVKeyComboBox::resetItems()
 {
+    mApplication.clear();
     clear();
     for (int item = NoAction; item <= PauseTablet; ++item) {
         addItem(textAtFirst(item));
@@ -157,10 +170,36 @@ void QVKeyComboBox::resetItems()
 
 void QVKeyComboBox::replaceItem(Item item, const QString& text)
 {
+    if (item == Application) {
+        mApplication.clear();
+    }
     removeItem(item);
     insertItem(item, text);
     setItemData(item, toolTipOf(text), Qt::ToolTipRole);
     setCurrentIndex(item);
+}
+
+void QVKeyComboBox::showApplication(const QString& path, const QString& name, const QIcon& icon)
+{
+    replaceItem(Application, path);
+    mApplication = name;
+    setItemIcon(Application, icon);
+    setItemData(Application, toolTipOf(name, path), Qt::ToolTipRole);
+    describe();
+}
+
+/** Describes the box by the application that it shows, if any. */
+void QVKeyComboBox::describe()
+{
+    const bool showsName = currentIndex() == Application && !mApplication.isEmpty();
+    if (showsName && mDescription.isNull()) {
+        mDescription = accessibleDescription() + QLatin1String(""); // not null
+    }
+    if (showsName) {
+        setAccessibleDescription(mApplication);
+    } else if (!mDescription.isNull()) {
+        setAccessibleDescription(std::exchange(mDescription, {}));
+    }
 }
 
 void QVKeyComboBox::setMarked(bool isMarked)
@@ -224,9 +263,10 @@ bool QVKeyComboBox::event(QEvent* event)
         help != nullptr && help->type() == QEvent::ToolTip) {
         QStyleOptionComboBox option;
         initStyleOption(&option);
+        const QString name = currentIndex() == Application ? mApplication : QString();
         const bool fits = fontMetrics().horizontalAdvance(currentText()) <= textWidth(option, this);
-        if (!fits) {
-            QToolTip::showText(help->globalPos(), toolTipOf(currentText()), this);
+        if (!fits || !name.isEmpty()) {
+            QToolTip::showText(help->globalPos(), toolTipOf(name, currentText()), this);
             return true;
         }
     }

@@ -49,6 +49,12 @@ public:
     /** Sets an item's text and selects it. */
     void replaceItem(Item item, const QString& text);
 
+    /**
+     * Shows an application's path as the item's text and selects it. Beside it, there are the
+     * application's icon and its name, in the tooltip and for screen readers.
+     */
+    void showApplication(const QString& path, const QString& name, const QIcon& icon);
+
     /** Resets all items to their initial texts, and selects the first. */
     void resetItems();
 
@@ -59,6 +65,10 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void describe();
+
     int mCommitted = kCommitted;
     bool mIsMarked = false;
+    QString mApplication; ///< the name of the item's application; empty without one
+    QString mDescription; ///< the box's own description, while there is another one
 };

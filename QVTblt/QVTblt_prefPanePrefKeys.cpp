@@ -4,6 +4,7 @@
 // The key page of the panel: its layouts, and the actions of its controls.
 
 #include "Client.h"
+#include "InstalledApplications.h"
 #include "OpenPanel.h"
 #include "QVKeyComboBox.h"
 #include "QVKeySetClass.h"
@@ -63,6 +64,17 @@ QString textOf(const QVString& field)
         text += code < 0x80 ? QChar(char16_t{code}) : QChar(QChar::ReplacementCharacter);
     }
     return text;
+}
+
+/** Shows the application with that path in a box. */
+void showApplication(QVKeyComboBox& box, const QString& path)
+{
+    if (path.isEmpty()) {
+        box.replaceItem(QVKeyComboBox::Application, path);
+        return;
+    }
+    const platform::Application application = platform::applicationAt(path);
+    box.showApplication(path, application.name, platform::iconOf(application));
 }
 
 /** Colours a box light grey, with readable text even in a dark theme. */
@@ -302,7 +314,7 @@ void QVTblt_prefPanePref::InitSingleComboBoxWithKey(
     const tagQVTabletInfoSubKey& slot = qvTabletInfo.Key.SubKey[static_cast<std::size_t>(keyNo)];
     const QVKeyComboBox::Item item = itemOf(slot);
     if (item == QVKeyComboBox::Application) {
-        comboBox->replaceItem(item, textOf(slot.App));
+        showApplication(*comboBox, textOf(slot.App));
     } else if (item == QVKeyComboBox::KeyCombination) {
         comboBox->replaceItem(item, GetSubKeyString(keyNo));
     } else {
@@ -343,7 +355,7 @@ void QVTblt_prefPanePref::takeApplication(QVKeyComboBox& comboBox, tagQVTabletIn
         InitSingleComboBoxWithKey(&comboBox, comboBox.tag());
         return;
     }
-    comboBox.replaceItem(QVKeyComboBox::Application, mFileName);
+    showApplication(comboBox, mFileName);
     slot.Valid = kQVApplication;
     QVStoreSlotPath(mFileName, slot);
     PushQVTabletInfo(); // and a second time on leaving, as after every choice
@@ -372,7 +384,8 @@ void QVTblt_prefPanePref::askForKeys(QVKeyComboBox& comboBox)
 bool QVTblt_prefPanePref::SetApplicationPath()
 {
     const QPointer<QVTblt_prefPanePref> pane(this);
-    const std::optional<QString> path = platform::openPanel().chooseApplication(mainView());
+    const std::optional<QString> path =
+        platform::openPanel().chooseApplication(mainView(), QVSlotPathFault);
     if (!path || pane.isNull()) {
         return false;
     }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "OpenPanel.h"
 
+#include "ApplicationChooser.h"
+#include "InstalledApplications.h"
 #include "Service.h"
 
 #include <QCoreApplication>
@@ -77,41 +79,59 @@ private:
 
 class DesktopOpenPanel final : public OpenPanel {
 public:
-    std::optional<QString> chooseApplication(QWidget* parent) override
+    std::optional<QString> chooseApplication(QWidget* parent, const Refusal& refusal) override
     {
         // The parent may be destroyed, and the dialog with it, before the user is done.
+        const QPointer<ApplicationChooser> chooser = new ApplicationChooser(
+            parent, refusal, [refusal](QWidget* dialog) { return chooseFile(dialog, refusal); });
+        std::optional<QString> path;
+        if (chooser->exec() == QDialog::Accepted && !chooser.isNull()) {
+            path = chooser->chosen();
+        }
+        delete chooser;
+        return path;
+    }
+
+private:
+    static std::optional<QString> chooseFile(QWidget* parent, const Refusal& refusal)
+    {
         //: Title of the dialog.
         const QPointer<ApplicationDialog> dialog = new ApplicationDialog(
-            parent, QCoreApplication::translate("OpenPanel", "Choose an application"));
+            parent, QCoreApplication::translate("OpenPanel", "Choose the file of an application"));
         dialog->setDirectory(applicationsFolder());
         std::optional<QString> path;
         bool goesOn = true;
         while (goesOn && dialog->exec() == QDialog::Accepted && !dialog.isNull()) {
             path = applicationOf(dialog->chosen());
-            // A typed name bypasses the filter. If the message is closed by the program, because
-            // the file is no longer needed, do not ask again.
-            goesOn = !path && tellOfNoApplication(dialog) && !dialog.isNull();
+            const QString fault = path ? refusal(*path)
+                                       : QCoreApplication::translate("OpenPanel",
+                                           "This is not an application: choose a desktop entry, an "
+                                           "AppImage or an application bundle.");
+            if (fault.isEmpty()) {
+                break;
+            }
+            path.reset();
+            // If the message is closed by the program, because the file is no longer needed, do not
+            // ask again.
+            goesOn = tell(dialog, fault) && !dialog.isNull();
         }
         delete dialog;
         return path;
     }
 
-private:
     /** Returns whether the user has closed the message. */
-    static bool tellOfNoApplication(QWidget* dialog)
+    static bool tell(QWidget* dialog, const QString& text)
     {
-        const QPointer<QMessageBox> message = new QMessageBox(QMessageBox::Information,
-            dialog->windowTitle(),
-            QCoreApplication::translate("OpenPanel",
-                "This is not an application: choose a desktop entry, an AppImage or an application "
-                "bundle."),
-            QMessageBox::Ok, dialog);
+        const QPointer<QMessageBox> message = new QMessageBox(
+            QMessageBox::Information, dialog->windowTitle(), text, QMessageBox::Ok, dialog);
+        message->setTextFormat(Qt::PlainText);
         const bool isRead = message->exec() != QDialog::Rejected; // no button has this result
         delete message;
         return isRead;
     }
 
-    /** The file's full path, with links resolved; nothing if it is not an application. */
+    /** The file's lasting path; nothing if it is not an application: a typed name bypasses the
+     * filter. */
     static std::optional<QString> applicationOf(const QString& file)
     {
         static const QStringList kTypes{
@@ -120,9 +140,7 @@ private:
         if (!kTypes.contains(info.suffix().toLower()) || (info.isDir() && !isBundle(info))) {
             return std::nullopt;
         }
-        const QString resolved = info.canonicalFilePath();
-        // A file that has been deleted meanwhile has no canonical path.
-        return resolved.isEmpty() ? file : resolved;
+        return lastingPath(file);
     }
 
     /** The folder of applications: the system's, or else the user's own. */

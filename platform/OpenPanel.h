@@ -4,27 +4,32 @@
 
 #include <QString>
 
+#include <functional>
 #include <optional>
 
 class QWidget;
 
 namespace platform {
 
-/** The desktop's panel for choosing a file. Main thread only. */
+/** The panel for choosing an application. Main thread only. */
 class OpenPanel {
 public:
     virtual ~OpenPanel() = default;
 
+    /** Says why the caller cannot use an application with that path; empty if it can. */
+    using Refusal = std::function<QString(const QString& path)>;
+
     /**
-     * Lets the user choose one application: a desktop entry, an AppImage or an application bundle.
-     * Starts in the folder of installed applications and runs until the user is done.
+     * Lets the user choose one application, until the user is done: one of those that are
+     * installed, or the file of any other: a desktop entry, an AppImage or an application bundle.
+     * None that the caller cannot use is ever chosen; the user is told why.
      *
      * A bundle is a folder named *.app. It counts as a file: entering it chooses it, even in the
      * desktop's own dialog. No other folder can be chosen.
      *
-     * @return the chosen file's full path, with links resolved; nothing if the user cancelled
+     * @return the chosen file's full path, as lastingPath(); nothing if the user cancelled
      */
-    virtual std::optional<QString> chooseApplication(QWidget* parent) = 0;
+    virtual std::optional<QString> chooseApplication(QWidget* parent, const Refusal& refusal) = 0;
 };
 
 /** Returns the desktop's panel, or its replacement by a ServiceScope<OpenPanel>. */

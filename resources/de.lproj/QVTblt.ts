@@ -4,11 +4,6 @@
 <context>
     <name>OpenPanel</name>
     <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>Anwendung auswählen</translation>
-    </message>
-    <message>
         <source>Applications</source>
         <extracomment>Kind of files in the dialog for choosing an application.</extracomment>
         <translation>Anwendungen</translation>
@@ -16,6 +11,11 @@
     <message>
         <source>This is not an application: choose a desktop entry, an AppImage or an application bundle.</source>
         <translation>Das ist keine Anwendung: Bitte einen Desktop-Eintrag, ein AppImage oder ein Anwendungspaket wählen.</translation>
+    </message>
+    <message>
+        <source>Choose the file of an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Datei einer Anwendung auswählen</translation>
     </message>
 </context>
 <context>
@@ -345,6 +345,18 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>Schwelle %1 von 200. Programme erhalten bei einem Viertel des vollen Drucks %2 % davon, bei der Hälfte %3 % und bei drei Vierteln %4 %.</translation>
+    </message>
+</context>
+<context>
+    <name>QVSlotPath</name>
+    <message>
+        <source>The path contains characters that the tablet&apos;s settings cannot hold.</source>
+        <translation>Der Pfad enthält Zeichen, die die Einstellungen des Tabletts nicht aufnehmen können.</translation>
+    </message>
+    <message>
+        <source>The path is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>Der Pfad ist länger als %1 Zeichen.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +694,46 @@
         <source>%1 is pressed</source>
         <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
         <translation>%1 ist gedrückt</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Anwendung auswählen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>Nach einer Anwendung suchen</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Anwendungen</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>Keine Anwendung passt zur Suche.</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>Andere &amp;Datei …</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>Aus&amp;wählen</translation>
     </message>
 </context>
 </TS>

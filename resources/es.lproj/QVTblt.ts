@@ -4,11 +4,6 @@
 <context>
     <name>OpenPanel</name>
     <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>Elegir una aplicación</translation>
-    </message>
-    <message>
         <source>Applications</source>
         <extracomment>Kind of files in the dialog for choosing an application.</extracomment>
         <translation>Aplicaciones</translation>
@@ -16,6 +11,11 @@
     <message>
         <source>This is not an application: choose a desktop entry, an AppImage or an application bundle.</source>
         <translation>Esto no es una aplicación: elija una entrada de escritorio, una AppImage o un paquete de aplicación.</translation>
+    </message>
+    <message>
+        <source>Choose the file of an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Elegir el archivo de una aplicación</translation>
     </message>
 </context>
 <context>
@@ -345,6 +345,18 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>Umbral %1 de 200. Los programas reciben el %2&#xa0;% de la presión máxima a un cuarto de ella, el %3&#xa0;% a la mitad y el %4&#xa0;% a tres cuartos.</translation>
+    </message>
+</context>
+<context>
+    <name>QVSlotPath</name>
+    <message>
+        <source>The path contains characters that the tablet&apos;s settings cannot hold.</source>
+        <translation>La ruta contiene caracteres que los ajustes de la tableta no admiten.</translation>
+    </message>
+    <message>
+        <source>The path is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>La ruta tiene más de %1 caracteres.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +694,46 @@
         <source>%1 is pressed</source>
         <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
         <translation>%1: pulsado</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Elegir una aplicación</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>Buscar una aplicación</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Aplicaciones</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>Ninguna aplicación coincide con la búsqueda.</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>&amp;Otro archivo…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>&amp;Elegir</translation>
     </message>
 </context>
 </TS>

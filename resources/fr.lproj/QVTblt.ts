@@ -4,11 +4,6 @@
 <context>
     <name>OpenPanel</name>
     <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>Choisir une application</translation>
-    </message>
-    <message>
         <source>Applications</source>
         <extracomment>Kind of files in the dialog for choosing an application.</extracomment>
         <translation>Applications</translation>
@@ -16,6 +11,11 @@
     <message>
         <source>This is not an application: choose a desktop entry, an AppImage or an application bundle.</source>
         <translation>Ce n’est pas une application&#xa0;: choisissez une entrée de bureau, une AppImage ou un paquet d’application.</translation>
+    </message>
+    <message>
+        <source>Choose the file of an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Choisir le fichier d’une application</translation>
     </message>
 </context>
 <context>
@@ -345,6 +345,18 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>Seuil %1 sur 200. Les programmes reçoivent %2&#xa0;% de la pression maximale à un quart de celle-ci, %3&#xa0;% à la moitié et %4&#xa0;% aux trois quarts.</translation>
+    </message>
+</context>
+<context>
+    <name>QVSlotPath</name>
+    <message>
+        <source>The path contains characters that the tablet&apos;s settings cannot hold.</source>
+        <translation>Le chemin contient des caractères que les réglages de la tablette ne peuvent pas contenir.</translation>
+    </message>
+    <message>
+        <source>The path is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>Le chemin dépasse %1 caractères.</translation>
     </message>
 </context>
 <context>
@@ -682,6 +694,46 @@
         <source>%1 is pressed</source>
         <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
         <translation>%1&#xa0;: appuyé</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Choisir une application</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>Rechercher une application</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>Aucune application ne correspond à la recherche.</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>A&amp;utre fichier…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>C&amp;hoisir</translation>
     </message>
 </context>
 </TS>

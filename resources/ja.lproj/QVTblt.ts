@@ -4,11 +4,6 @@
 <context>
     <name>OpenPanel</name>
     <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>アプリケーションを選択</translation>
-    </message>
-    <message>
         <source>Applications</source>
         <extracomment>Kind of files in the dialog for choosing an application.</extracomment>
         <translation>アプリケーション</translation>
@@ -16,6 +11,11 @@
     <message>
         <source>This is not an application: choose a desktop entry, an AppImage or an application bundle.</source>
         <translation>これはアプリケーションではありません。デスクトップエントリ、AppImage、またはアプリケーションバンドルを選択してください。</translation>
+    </message>
+    <message>
+        <source>Choose the file of an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>アプリケーションのファイルの選択</translation>
     </message>
 </context>
 <context>
@@ -345,6 +345,18 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>しきい値は 200 のうち %1 です。最大筆圧でプログラムが受け取る値に対して、4 分の 1 の筆圧では %2%、半分では %3%、4 分の 3 では %4% を受け取ります。</translation>
+    </message>
+</context>
+<context>
+    <name>QVSlotPath</name>
+    <message>
+        <source>The path contains characters that the tablet&apos;s settings cannot hold.</source>
+        <translation>パスに、タブレットの設定に保存できない文字が含まれています。</translation>
+    </message>
+    <message>
+        <source>The path is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>パスが %1 文字を超えています。</translation>
     </message>
 </context>
 <context>
@@ -682,6 +694,46 @@
         <source>%1 is pressed</source>
         <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
         <translation>%1 が押されています</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>アプリケーションの選択</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>アプリケーションを検索</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>検索に一致するアプリケーションがありません。</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>その他のファイル(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>選択(&amp;H)</translation>
     </message>
 </context>
 </TS>

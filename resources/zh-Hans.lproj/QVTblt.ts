@@ -4,11 +4,6 @@
 <context>
     <name>OpenPanel</name>
     <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>选择应用程序</translation>
-    </message>
-    <message>
         <source>Applications</source>
         <extracomment>Kind of files in the dialog for choosing an application.</extracomment>
         <translation>应用程序</translation>
@@ -16,6 +11,11 @@
     <message>
         <source>This is not an application: choose a desktop entry, an AppImage or an application bundle.</source>
         <translation>这不是应用程序。请选择桌面入口文件、AppImage 或应用程序包。</translation>
+    </message>
+    <message>
+        <source>Choose the file of an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>选择应用程序的文件</translation>
     </message>
 </context>
 <context>
@@ -345,6 +345,18 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>阈值 %1，共 200。与压力最大时程序收到的值相比，压力为四分之一时收到 %2%，一半时收到 %3%，四分之三时收到 %4%。</translation>
+    </message>
+</context>
+<context>
+    <name>QVSlotPath</name>
+    <message>
+        <source>The path contains characters that the tablet&apos;s settings cannot hold.</source>
+        <translation>路径中含有数位板设置无法保存的字符。</translation>
+    </message>
+    <message>
+        <source>The path is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>路径超过 %1 个字符。</translation>
     </message>
 </context>
 <context>
@@ -682,6 +694,46 @@
         <source>%1 is pressed</source>
         <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
         <translation>已按下%1</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>选择应用程序</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>搜索应用程序</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>应用程序</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>没有与搜索匹配的应用程序。</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>其他文件(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>选择(&amp;H)</translation>
     </message>
 </context>
 </TS>

@@ -4,6 +4,7 @@
 // Every page and state of the panel with a screen reader, with the keyboard, and with sufficient
 // contrast.
 
+#include "ApplicationChooser.h"
 #include "Contrast.h"
 #include "LayoutModels.h"
 #include "NotedPane.h"
@@ -353,6 +354,14 @@ TEST_F(Accessibility, saysWhatIsInTheKeyDialog)
     dialog.QVShowWindow(&box);
     dialog.showWindow();
     expectNoFaults(dialog, 70);
+}
+
+TEST_F(Accessibility, saysWhatIsInTheChooserOfApplications)
+{
+    platform::ApplicationChooser chooser(
+        nullptr, [](const QString& /*path*/) { return QString(); }, {});
+    chooser.show();
+    expectNoFaults(chooser, 5);
 }
 
 TEST_F(Accessibility, saysWhichCrossToTouch)

@@ -65,6 +65,7 @@ class KeyPage(desktop.Desktop):
         session.wait_for(lambda: self.run_program(
             "xdotool", "search", "--onlyvisible", "--name", "Choose an application").stdout,
             "the chooser")
+        self.click(self.find("qvtblt", "Other File…", "push button"))
         self.find("qvtblt", "File name:", "text")
         self.xdotool("type", str(self.application))
         self.xdotool("key", "Return")

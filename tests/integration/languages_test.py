@@ -237,7 +237,7 @@ class Choice(desktop.Desktop):
                 panel.terminate()
                 panel.wait(timeout=session.PATIENCE)
 
-    # From the dialog for choosing an application, which is Qt's.
+    # From the dialog for choosing an application's file, which is Qt's.
     QT_TEXTS = {"en": "Parent Directory", "fr": "Dossier parent", "zh-Hans": "父目录"}
 
     def test_qts_own_texts_are_in_the_language_of_the_panel(self):
@@ -251,6 +251,8 @@ class Choice(desktop.Desktop):
                 item = self.find("qvtblt", self.text(wanted, "Open an application…"), "list item")
                 self.click(item)
                 self.find("qvtblt", self.text(wanted, "Choose an application"))
+                other = self.text(wanted, "&Other File…").replace("&", "")
+                self.click(self.find("qvtblt", other, "push button"))
                 self.find("qvtblt", self.QT_TEXTS[wanted])
                 panel.kill()
                 panel.wait(timeout=session.PATIENCE)

@@ -29,14 +29,16 @@ namespace {
 /** Returns paths without a dialog. */
 class FakeOpenPanel final : public platform::OpenPanel {
 public:
-    std::optional<QString> chooseApplication(QWidget* parent) override
+    std::optional<QString> chooseApplication(QWidget* parent, const Refusal& wanted) override
     {
         EXPECT_NE(parent, nullptr);
+        refusal = wanted;
         ++asked;
         return path;
     }
 
     std::optional<QString> path;
+    Refusal refusal; ///< what the panel says about paths
     int asked = 0;
 
 private:
@@ -892,6 +894,50 @@ TEST_F(KeyPage, aPathThatCannotBeStoredLeavesTheFieldEmptyAndItsNeighboursAlone)
         EXPECT_EQ(std::memcmp(&slot(4), &next, sizeof next), 0);
         leave();
     }
+}
+
+TEST_F(KeyPage, tellsTheChooserWhichPathsItCannotStore)
+{
+    show();
+    choose(box(3), 5);
+    const auto fault = mPanel.refusal;
+    EXPECT_EQ(fault(u'/' + QString(254, u'x')), QString());
+    EXPECT_EQ(fault(u'/' + QString(255, u'x')),
+        QStringLiteral("The path is longer than 255 characters."));
+    for (const QString& path : {QStringLiteral("/opt/M\u00fcller/draw.desktop"),
+             QStringLiteral("/a\nb.desktop"), QStringLiteral("/a\u007f")}) {
+        EXPECT_EQ(fault(path),
+            QStringLiteral("The path contains characters that the tablet's settings cannot hold."))
+            << qPrintable(path);
+    }
+}
+
+TEST_F(KeyPage, showsAnApplicationsNameAndIconBesideItsPath)
+{
+    const QString path = mHome.path() + QStringLiteral("/draw.desktop");
+    QImage blue(16, 16, QImage::Format_RGB32);
+    blue.fill(Qt::blue);
+    ASSERT_TRUE(blue.save(mHome.path() + QStringLiteral("/draw.png")));
+    writeFile(path,
+        "[Desktop Entry]\nType=Application\nName=Draw & Paint\nExec=true\nIcon="
+            + QFile::encodeName(mHome.path()) + "/draw.png\n");
+    show();
+    const QString own = box(3).accessibleDescription();
+    mPanel.path = path;
+    choose(box(3), 5);
+    EXPECT_EQ(box(3).currentText(), path);
+    EXPECT_EQ(box(3).accessibleDescription(), QStringLiteral("Draw & Paint"));
+    EXPECT_TRUE(box(3)
+                    .itemData(5, Qt::ToolTipRole)
+                    .toString()
+                    .contains(QStringLiteral("Draw &amp; Paint")));
+    EXPECT_FALSE(box(3).itemIcon(5).isNull());
+    choose(box(3), 0);
+    EXPECT_EQ(box(3).accessibleDescription(), own);
+    choose(box(3), 5);
+    leave();
+    show();
+    EXPECT_EQ(box(3).accessibleDescription(), QStringLiteral("Draw & Paint"));
 }
 
 TEST_F(KeyPage, aShorterPathLeavesNothingOfALongerOne)

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "OpenPanel.h"
 
+#include "ApplicationChooser.h"
 #include "Service.h"
 #include "TemporaryHome.h"
 #include "Wait.h"
@@ -14,6 +15,8 @@
 #include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
@@ -21,26 +24,63 @@
 
 namespace {
 
-/** Picks the file, or none, in the open panel's window, and returns the answer. */
-std::optional<QString> choose(const QString& file)
+/** Accepts every path. */
+QString noRefusal(const QString& path)
 {
-    QTimer::singleShot(0, qApp, [file] {
-        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFile);
-        if (file.isEmpty()) {
-            dialog->reject();
-            return;
+    static_cast<void>(path);
+    return {};
+}
+
+/**
+ * Asks for another file, acts in the window that opens for it, and returns the answer. If nothing
+ * was chosen there, cancels.
+ */
+template <class Act>
+std::optional<QString> chooseBy(
+    const Act& act, const platform::OpenPanel::Refusal& refusal = noRefusal)
+{
+    QTimer::singleShot(0, qApp, [act] {
+        const QPointer<QDialog> chooser =
+            qobject_cast<platform::ApplicationChooser*>(QApplication::activeModalWidget());
+        ASSERT_FALSE(chooser.isNull());
+        QTimer::singleShot(0, qApp, [act] {
+            auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            ASSERT_NE(dialog, nullptr);
+            act(*dialog);
+        });
+        chooser->findChild<QPushButton*>(QStringLiteral("otherFile"))->click();
+        if (!chooser.isNull() && chooser->isVisible()) {
+            chooser->reject();
         }
-        dialog->selectFile(file);
-        static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
     });
-    return platform::openPanel().chooseApplication(nullptr);
+    return platform::openPanel().chooseApplication(nullptr, refusal);
+}
+
+/** Picks the file, or none, in the open panel's window, and returns the answer. */
+std::optional<QString> choose(
+    const QString& file, const platform::OpenPanel::Refusal& refusal = noRefusal)
+{
+    return chooseBy(
+        [file](QFileDialog& dialog) {
+            EXPECT_EQ(dialog.fileMode(), QFileDialog::ExistingFile);
+            if (file.isEmpty()) {
+                dialog.reject();
+                return;
+            }
+            dialog.selectFile(file);
+            static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+        },
+        refusal);
 }
 
 class OpenPanel : public testing::Test {
 protected:
-    OpenPanel() { QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs); }
+    OpenPanel()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        qputenv("XDG_DATA_HOME", QFile::encodeName(mHome.path()));
+        qputenv("XDG_DATA_DIRS", QFile::encodeName(mHome.path()));
+    }
 
     TemporaryHome mHome;
 };
@@ -98,6 +138,28 @@ TEST_F(OpenPanel, asksAgainForWhatIsNoApplication)
     EXPECT_GE(told, 1);
 }
 
+TEST_F(OpenPanel, saysWhyAFileCannotBeUsedAndChoosesNone)
+{
+    const QString file = mHome.path() + QStringLiteral("/draw.desktop");
+    writeFile(file, "[Desktop Entry]\n");
+    QString told;
+    QTimer answer;
+    QObject::connect(&answer, &QTimer::timeout, qApp, [&] {
+        QWidget* const shown = QApplication::activeModalWidget();
+        if (auto* const message = qobject_cast<QMessageBox*>(shown)) {
+            told = message->text();
+            message->accept();
+        } else if (auto* const dialog = qobject_cast<QFileDialog*>(shown);
+                   !told.isEmpty() && dialog) {
+            dialog->reject();
+        }
+    });
+    answer.start(10);
+    EXPECT_EQ(choose(file, [](const QString& path) { return QStringLiteral("not ") + path; }),
+        std::nullopt);
+    EXPECT_EQ(told, QStringLiteral("not ") + QFileInfo(file).canonicalFilePath());
+}
+
 TEST_F(OpenPanel, asksForNothingMoreWhenItsMessageIsClosedFromOutside)
 {
     const QString tool = mHome.path() + QStringLiteral("/tool");
@@ -149,18 +211,6 @@ QModelIndex placeOf(QFileDialog& dialog, const QString& name)
         kPatience);
     EXPECT_TRUE(isThere) << qPrintable(name);
     return place;
-}
-
-/** Acts in the open panel's window, and returns the answer. */
-template <class Act>
-std::optional<QString> chooseBy(const Act& act)
-{
-    QTimer::singleShot(0, qApp, [act] {
-        auto* const dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        ASSERT_NE(dialog, nullptr);
-        act(*dialog);
-    });
-    return platform::openPanel().chooseApplication(nullptr);
 }
 
 /** Types a name and presses Return. */

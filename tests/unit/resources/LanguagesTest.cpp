@@ -5,6 +5,7 @@
 // Also in a right-to-left language.
 
 #include "Accessible.h"
+#include "ApplicationChooser.h"
 #include "Geometry.h"
 #include "NotedPane.h"
 #include "PaneShell.h"
@@ -467,6 +468,18 @@ TEST_P(Language, hasRoomForWhatGoesWrong)
         texts.removeDuplicates();
         EXPECT_EQ(texts.size(), 3);
     }
+}
+
+TEST_P(Language, hasRoomInTheChooserOfApplications)
+{
+    show();
+    platform::ApplicationChooser chooser(
+        nullptr, [](const QString& /*path*/) { return QString(); }, {});
+    chooser.show();
+    settle();
+    expectAllFits(chooser);
+    expectGlyphs(textsOf(chooser));
+    expectMnemonicsDiffer(textsOf(chooser), 3);
 }
 
 TEST_P(Language, hasRoomForTheTextsWithoutATablet)
