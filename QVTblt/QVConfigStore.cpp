@@ -105,11 +105,6 @@ void tellFailure(QLatin1String name, const platform::Error& error)
     platform::notifications().post({name, nullptr, {}, error.text});
 }
 
-/** Fields that the user does not choose: they are transient, or follow from num. */
-constexpr std::array kNotChosen{offsetof(tagQVTabletInfo, Monitor.disableFlag),
-    offsetof(tagQVTabletInfo, Monitor.XOrg), offsetof(tagQVTabletInfo, Monitor.Width),
-    offsetof(tagQVTabletInfo, Monitor.YOrg), offsetof(tagQVTabletInfo, Monitor.Height)};
-
 } // namespace
 
 std::string QVConfigStore::configPath()
@@ -155,8 +150,7 @@ void QVConfigStore::WriteQVConfigPlist()
 bool QVConfigStore::hasUnsavedFields() const
 {
     return std::ranges::any_of(kQVEntries, [this](const QVEntry& entry) {
-        return entry.section->saved
-            && std::ranges::find(kNotChosen, entry.offset) == kNotChosen.end()
+        return QVIsChosen(entry)
             && (entry.type == QVFieldType::String
                     ? QVFieldText(entry, qvTabletInfo) != QVFieldText(entry, mInFile)
                     : QVFieldNumber(entry, qvTabletInfo) != QVFieldNumber(entry, mInFile));

@@ -373,9 +373,17 @@ void QVMonitorView::SelectSpeed()
     const int chosen = chosenIn(mComboBoxSpeed);
     if (chosen == 0 || chosen == 1) {
         pQVInfo->Monitor.Speed = chosen == 0 ? kFast : kNormal;
-        controlUSBDev(chosen == 0 ? kQVReportFast : kQVReportNormal, QVProductID(*pQVInfo));
+        sendSpeed();
     }
     PushQVTabletInfo();
+}
+
+void QVMonitorView::sendSpeed() const
+{
+    const std::int16_t speed = pQVInfo->Monitor.Speed;
+    if (speed == kFast || speed == kNormal) {
+        controlUSBDev(speed == kFast ? kQVReportFast : kQVReportNormal, QVProductID(*pQVInfo));
+    }
 }
 
 void QVMonitorView::SelectUseMode()
@@ -415,6 +423,7 @@ void QVMonitorView::CreateCalibrateWin(const Rect& rect)
         mCalibration->removeAndClose(); // one at a time: the driver's reports go to the newest
     }
     mCalibration = new QVCalibrateWin(rect, window()); // the window owns it and closes it
+    connect(mCalibration, &QObject::destroyed, this, &QVMonitorView::calibrationEnded);
 }
 
 void QVMonitorView::DoCalibrate()

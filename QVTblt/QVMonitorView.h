@@ -66,6 +66,9 @@ public:
      * @param pushes whether to push the record; false if the driver has another tablet by now
      */
     void endCalibration(bool pushes = true);
+    bool isCalibrating() const { return !mCalibration.isNull(); }
+    /** Sends the record's report mode to the tablet itself, over USB. */
+    void sendSpeed() const;
     /** Uses the part of the tablet with the proportions of the mapped area. */
     void AutoCalibrate();
 
@@ -92,6 +95,8 @@ public:
 Q_SIGNALS:
     /** The displays have changed, and the list is up to date. */
     void displaysChanged();
+    /** A calibration has ended, with or without a new area. */
+    void calibrationEnded();
 
 protected:
     /** Selects the light or the dark picture. */

@@ -110,6 +110,18 @@ inline constexpr std::array<QVEntry, 102> kQVEntries = [] {
 }();
 static_assert(kQVEntries.back().key != nullptr, "the array is completely filled");
 
+/**
+ * Whether the user chooses an entry. Of those that the panel saves, the others are transient, or
+ * follow from num.
+ */
+constexpr bool QVIsChosen(const QVEntry& entry)
+{
+    constexpr std::array kNotChosen{offsetof(tagQVTabletInfo, Monitor.disableFlag),
+        offsetof(tagQVTabletInfo, Monitor.XOrg), offsetof(tagQVTabletInfo, Monitor.Width),
+        offsetof(tagQVTabletInfo, Monitor.YOrg), offsetof(tagQVTabletInfo, Monitor.Height)};
+    return entry.section->saved && std::ranges::find(kNotChosen, entry.offset) == kNotChosen.end();
+}
+
 /** The entries of a section's own dictionary or, with a slot's key, of that slot's. */
 constexpr std::span<const QVEntry> QVEntriesOf(const QVSection& section, const char* slot = nullptr)
 {

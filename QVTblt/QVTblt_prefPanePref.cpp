@@ -110,6 +110,7 @@ void QVTblt_prefPanePref::setUpDisplayPage()
     connect(
         mDefaultArea, &QPushButton::clicked, mMonitorView, &QVMonitorView::setTabletDefaultArea);
     connect(mAutoCalibrate, &QPushButton::clicked, mMonitorView, &QVMonitorView::AutoCalibrate);
+    connect(mMonitorView, &QVMonitorView::calibrationEnded, this, [this] { mayHaveChanged(); });
     connect(mMonitorView, &QVMonitorView::displaysChanged, this, [this] {
         if (hasDevice() && mMonitorView->updateMappedArea()) {
             tell(News::ChangedByItself);

@@ -58,6 +58,9 @@ public:
     Device checkDevice() override;
     bool hasDevice() const override;
     void send() override { PushQVTabletInfo(); }
+    QByteArray settings() const override;
+    void setSettings(const QByteArray& settings) override;
+    QString nameOfEdit(const QByteArray& before, const QByteArray& after) const override;
 
     /** Saves the record to its file and pushes it. */
     void SaveSet();
@@ -106,6 +109,7 @@ private:
     void relay(QLatin1String name, News news);
     [[nodiscard]] bool askForDevice();
     void takeScrollBoxes();
+    void showStrips();
 
     void setUpDisplayPage();
     void setUpKeyPage();

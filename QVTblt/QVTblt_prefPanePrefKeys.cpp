@@ -220,6 +220,11 @@ void QVTblt_prefPanePref::InitComboBoxWithKey()
         mSlotBoxes[slot]->setMarked(false);
         InitSingleComboBoxWithKey(mSlotBoxes[slot], static_cast<std::int32_t>(slot));
     }
+    showStrips();
+}
+
+void QVTblt_prefPanePref::showStrips()
+{
     showStrip(*mKeyLScroll, qvTabletInfo.Key.Scrollbar0);
     showStrip(*mKeyRScroll, qvTabletInfo.Key.Scrollbar1);
 }

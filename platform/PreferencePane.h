@@ -4,6 +4,7 @@
 
 #include "Bundle.h"
 
+#include <QByteArray>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -99,8 +100,25 @@ public:
     /** Whether there is anything to save() or cancel(). */
     virtual bool hasChanges() const { return false; }
     /**
-     * Sets the function to call, on the main thread, when the result of hasChanges() may have
-     * changed.
+     * All settings that the user can edit, in a form of the pane's own; equal ones have equal
+     * bytes. Empty if there are none, and while an edit is not yet finished.
+     */
+    virtual QByteArray settings() const { return {}; }
+    /**
+     * Goes back or forth to what settings() once returned for the same device: sends these
+     * settings, once, and shows them.
+     */
+    virtual void setSettings(const QByteArray& settings) { static_cast<void>(settings); }
+    /** The name of the edit between two settings(), for a menu, such as "key 3". */
+    virtual QString nameOfEdit(const QByteArray& before, const QByteArray& after) const
+    {
+        static_cast<void>(before);
+        static_cast<void>(after);
+        return {};
+    }
+    /**
+     * Sets the function to call, on the main thread, when the result of hasChanges() or settings()
+     * may have changed.
      */
     void setChangeHandler(std::function<void()> handler) { mChangeHandler = std::move(handler); }
     /**
@@ -112,7 +130,7 @@ public:
 protected:
     const Bundle& bundle() const { return mBundle; }
 
-    /** Notifies the host that the result of hasChanges() may have changed. */
+    /** Notifies the host that the result of hasChanges() or settings() may have changed. */
     void mayHaveChanged() const
     {
         if (mChangeHandler) {
@@ -147,4 +165,4 @@ public:
 
 } // namespace platform
 
-Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/3")
+Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/4")

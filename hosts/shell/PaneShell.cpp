@@ -3,6 +3,7 @@
 #include "PaneShell.h"
 
 #include "Accessible.h"
+#include "PaneEdits.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -45,6 +46,8 @@ PaneShell::PaneShell(std::unique_ptr<Pane> pane, Host host, QWidget* parent)
     mBottom->hide();
     mPane->setButtonsShown(false);
     mPane->setNewsHandler([this](Pane::News news, const QString& text) { handleNews(news, text); });
+    mEdits = new PaneEdits(*mPane, *this);
+    setChangeHandler({});
 }
 
 PaneShell::~PaneShell()
@@ -93,7 +96,12 @@ void PaneShell::makeNotice()
 
 void PaneShell::setChangeHandler(std::function<void()> handler)
 {
-    mPane->setChangeHandler(std::move(handler));
+    mPane->setChangeHandler([this, handler = std::move(handler)] {
+        mEdits->note();
+        if (handler) {
+            handler();
+        }
+    });
 }
 
 bool PaneShell::hasChanges() const
@@ -118,6 +126,7 @@ void PaneShell::willSelect()
     clearNotices();
     mIsSelected = true;
     mPane->willSelect();
+    mEdits->begin();
     if (mSave != nullptr) {
         mSave->setVisible(mPane->hasDevice());
         mCancel->setVisible(mPane->hasDevice());

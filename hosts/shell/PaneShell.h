@@ -11,6 +11,7 @@
 #include <functional>
 #include <memory>
 
+class PaneEdits;
 class QPushButton;
 
 namespace platform {
@@ -113,6 +114,7 @@ private:
     void closeDialogs() const;
 
     std::unique_ptr<Pane> mPane;
+    PaneEdits* mEdits = nullptr;
     bool mIsSelected = false;
     QString mNotSaved; ///< why the last save failed; empty on success
     QString mNotKept; ///< why the former tablet's changes were lost; empty if none were

@@ -19,6 +19,32 @@
     </message>
 </context>
 <context>
+    <name>PaneEdits</name>
+    <message>
+        <source>Edit</source>
+        <extracomment>Button beside the tabs, which opens a menu with Undo and Redo.</extracomment>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
+        <translation>&amp;Deshacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Deshacer</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
+        <translation>&amp;Rehacer: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rehacer</translation>
+    </message>
+</context>
+<context>
     <name>PaneShell</name>
     <message>
         <source>&amp;Cancel</source>
@@ -694,6 +720,66 @@
         <source>%1 is pressed</source>
         <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
         <translation>%1: pulsado</translation>
+    </message>
+    <message>
+        <source>upper pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>botón superior del lápiz</translation>
+    </message>
+    <message>
+        <source>lower pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>botón inferior del lápiz</translation>
+    </message>
+    <message>
+        <source>key %1</source>
+        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
+        <translation>tecla %1</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
+        <translation>presión</translation>
+    </message>
+    <message>
+        <source>left scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>banda táctil izquierda</translation>
+    </message>
+    <message>
+        <source>right scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>banda táctil derecha</translation>
+    </message>
+    <message>
+        <source>scroll speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>velocidad de desplazamiento</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
+        <translation>pantalla</translation>
+    </message>
+    <message>
+        <source>report speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>velocidad de envío</translation>
+    </message>
+    <message>
+        <source>orientation</source>
+        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
+        <translation>orientación</translation>
+    </message>
+    <message>
+        <source>area of the tablet</source>
+        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
+        <translation>área de la tableta</translation>
+    </message>
+    <message>
+        <source>several settings</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>varios ajustes</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,32 @@
     </message>
 </context>
 <context>
+    <name>PaneEdits</name>
+    <message>
+        <source>Edit</source>
+        <extracomment>Button beside the tabs, which opens a menu with Undo and Redo.</extracomment>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
+        <translation>&amp;Annuler : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
+        <translation>&amp;Rétablir : %1</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>&amp;Rétablir</translation>
+    </message>
+</context>
+<context>
     <name>PaneShell</name>
     <message>
         <source>&amp;Cancel</source>
@@ -694,6 +720,66 @@
         <source>%1 is pressed</source>
         <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
         <translation>%1&#xa0;: appuyé</translation>
+    </message>
+    <message>
+        <source>upper pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>bouton haut du stylet</translation>
+    </message>
+    <message>
+        <source>lower pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>bouton bas du stylet</translation>
+    </message>
+    <message>
+        <source>key %1</source>
+        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
+        <translation>touche %1</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
+        <translation>pression</translation>
+    </message>
+    <message>
+        <source>left scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>bande tactile gauche</translation>
+    </message>
+    <message>
+        <source>right scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>bande tactile droite</translation>
+    </message>
+    <message>
+        <source>scroll speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>vitesse de défilement</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
+        <translation>écran</translation>
+    </message>
+    <message>
+        <source>report speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>vitesse d’envoi</translation>
+    </message>
+    <message>
+        <source>orientation</source>
+        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
+        <translation>orientation</translation>
+    </message>
+    <message>
+        <source>area of the tablet</source>
+        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
+        <translation>zone de la tablette</translation>
+    </message>
+    <message>
+        <source>several settings</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>plusieurs réglages</translation>
     </message>
 </context>
 <context>

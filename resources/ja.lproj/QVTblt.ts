@@ -19,6 +19,32 @@
     </message>
 </context>
 <context>
+    <name>PaneEdits</name>
+    <message>
+        <source>Edit</source>
+        <extracomment>Button beside the tabs, which opens a menu with Undo and Redo.</extracomment>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
+        <translation>元に戻す: %1 (&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>元に戻す(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
+        <translation>やり直す: %1 (&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>やり直す(&amp;R)</translation>
+    </message>
+</context>
+<context>
     <name>PaneShell</name>
     <message>
         <source>&amp;Cancel</source>
@@ -694,6 +720,66 @@
         <source>%1 is pressed</source>
         <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
         <translation>%1 が押されています</translation>
+    </message>
+    <message>
+        <source>upper pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>ペンの上ボタン</translation>
+    </message>
+    <message>
+        <source>lower pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>ペンの下ボタン</translation>
+    </message>
+    <message>
+        <source>key %1</source>
+        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
+        <translation>キー %1</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
+        <translation>筆圧</translation>
+    </message>
+    <message>
+        <source>left scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>左スクロールストリップ</translation>
+    </message>
+    <message>
+        <source>right scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>右スクロールストリップ</translation>
+    </message>
+    <message>
+        <source>scroll speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>スクロール速度</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
+        <translation>ディスプレイ</translation>
+    </message>
+    <message>
+        <source>report speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>送信速度</translation>
+    </message>
+    <message>
+        <source>orientation</source>
+        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>area of the tablet</source>
+        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
+        <translation>タブレットの領域</translation>
+    </message>
+    <message>
+        <source>several settings</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>複数の設定</translation>
     </message>
 </context>
 <context>

@@ -19,6 +19,32 @@
     </message>
 </context>
 <context>
+    <name>PaneEdits</name>
+    <message>
+        <source>Edit</source>
+        <extracomment>Button beside the tabs, which opens a menu with Undo and Redo.</extracomment>
+        <translation>编辑</translation>
+    </message>
+    <message>
+        <source>&amp;Undo: %1</source>
+        <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
+        <translation>撤销：%1 (&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>撤销(&amp;U)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo: %1</source>
+        <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
+        <translation>重做：%1 (&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>重做(&amp;R)</translation>
+    </message>
+</context>
+<context>
     <name>PaneShell</name>
     <message>
         <source>&amp;Cancel</source>
@@ -694,6 +720,66 @@
         <source>%1 is pressed</source>
         <extracomment>Read by screen readers; %1 is the name of a key or of a button of the pen.</extracomment>
         <translation>已按下%1</translation>
+    </message>
+    <message>
+        <source>upper pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>笔的上键</translation>
+    </message>
+    <message>
+        <source>lower pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>笔的下键</translation>
+    </message>
+    <message>
+        <source>key %1</source>
+        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
+        <translation>快捷键 %1</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
+        <translation>压感</translation>
+    </message>
+    <message>
+        <source>left scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>左滚动触控条</translation>
+    </message>
+    <message>
+        <source>right scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>右滚动触控条</translation>
+    </message>
+    <message>
+        <source>scroll speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>滚动速度</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
+        <translation>显示器</translation>
+    </message>
+    <message>
+        <source>report speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>报告速度</translation>
+    </message>
+    <message>
+        <source>orientation</source>
+        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>area of the tablet</source>
+        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
+        <translation>数位板区域</translation>
+    </message>
+    <message>
+        <source>several settings</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>多项设置</translation>
     </message>
 </context>
 <context>

@@ -181,6 +181,20 @@ class SystemSettings(host.Host):
         self.edit(APPLICATION)
         self.wait_for_button(APPLICATION, "Apply", False)
 
+    def test_undo_takes_an_edit_back_and_leaves_nothing_to_apply(self):
+        self.start_driver_with_log()
+        self.start_at_the_module()
+        self.edit(APPLICATION)
+        self.wait_for_button(APPLICATION, "Apply", True)
+        self.xdotool("key", "ctrl+z")
+        session.wait_for(self.driver_strip, "the driver")
+        self.wait_for_button(APPLICATION, "Apply", False)
+        self.assertTrue(self.find(APPLICATION, host.STRIP)["checked"])
+        self.xdotool("key", "ctrl+shift+z")
+        session.wait_for(lambda: not self.driver_strip(), "the driver")
+        self.wait_for_button(APPLICATION, "Apply", True)
+        self.assertEqual(self.pushes(), 3)
+
     def test_reset_brings_record_and_controls_back_to_the_file(self):
         self.start_driver_with_log()
         self.start_at_the_module()

@@ -127,7 +127,7 @@ class Tree(desktop.Desktop):
         self.find("qvtblt", "Express key 3", "combo box")
         self.xdotool("search", "--sync", "--onlyvisible", "--name", "Quorvia Tablet",
                      "windowactivate", "--sync")
-        self.xdotool("key", "Tab", "Tab", "Down")  # the tabs, and the first list
+        self.xdotool("key", "Tab", "Tab", "Tab", "Down")  # the tabs, Edit, and the first list
         self.find("qvtblt", "Press keys…", "list item")
         self.xdotool("key", "Home", *["Down"] * 6, "Return")
         self.find("qvtblt", "Control", "push button")

@@ -120,6 +120,20 @@ class KeyPage(desktop.Desktop):
         self.start_panel()
         self.wait_for_shown((1, 0))
 
+    def test_edits_are_undone_and_redone(self):
+        self.start_panel()
+        self.choose("Express key 3", "Pause the tablet")
+        self.wait_for_slot(2, (6, 0, ""))
+        self.choose("Express key 4", "Go to the next display")
+        self.wait_for_slot(3, (4, 0, ""))
+        self.click(self.find("qvtblt", "Edit", "push button"))
+        self.xdotool("key", "Down", "Return")  # the first item of the menu
+        session.wait_for(lambda: self.slot(3)[0] != 4, "the undo")
+        self.xdotool("key", "ctrl+z")
+        session.wait_for(lambda: self.slot(2)[0] != 6, "the undo")
+        self.xdotool("key", "ctrl+shift+z")
+        self.wait_for_slot(2, (6, 0, ""))
+
     def test_a_key_that_is_pressed_on_the_tablet_is_told_once(self):
         self.start_panel()
 

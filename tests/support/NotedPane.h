@@ -18,6 +18,7 @@ struct PaneLife {
     bool canSave = true;
     bool canLoad = true;
     bool hasDevice = true;
+    QByteArray settings; ///< all of them
     platform::PreferencePane::Device device = platform::PreferencePane::Device::Same;
 
     /** Returns the calls since the last take(). */
@@ -67,6 +68,18 @@ public:
     {
         note("check");
         return mLife.device;
+    }
+    QByteArray settings() const override { return mLife.settings; }
+    void setSettings(const QByteArray& settings) override
+    {
+        note(("set " + settings.toStdString()).c_str());
+        mLife.settings = settings;
+        mayHaveChanged();
+    }
+    QString nameOfEdit(const QByteArray& before, const QByteArray& after) const override
+    {
+        // The letter is the setting, the number its value.
+        return QString::fromLatin1(after.left(1) == before.left(1) ? after.left(1) : after);
     }
     bool hasDevice() const override { return mLife.hasDevice; }
     bool hasChanges() const override { return mLife.hasChanges; }
