@@ -13,8 +13,6 @@
 
 namespace {
 
-constexpr int kSliderSteps = 10; ///< per unit of the threshold
-
 QString nameOf(const platform::Event& pen)
 {
     const bool isEraser = pen.pointingDeviceType == platform::PointingDeviceType::Eraser;

@@ -26,6 +26,8 @@ class QVPressView final : public platform::PaneView {
     Q_OBJECT
 
 public:
+    static constexpr int kSliderSteps = 10; ///< of the slider, per unit of the threshold
+
     explicit QVPressView(QWidget* parent = nullptr);
 
     /** Sets the slider, whose unit is a tenth, and the label for the pen; before awakeFromNib(). */

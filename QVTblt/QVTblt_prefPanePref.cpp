@@ -83,11 +83,24 @@ void QVTblt_prefPanePref::setUpPenPage()
     mDrawView->setOutlets(txtRawTabletPressure);
     mDrawView->awakeFromNib();
     mPenStats->observe(*mDrawView);
+    mPressDot->follow(*mDrawView);
+    connect(mFitPressure, &QPushButton::clicked, this, &QVTblt_prefPanePref::fitPressure);
     connect(
         mSlider, &QSlider::valueChanged, this, [this] { mPressView->AdjustPressLine(mSlider); });
     connect(mAdjustOpacity, &QCheckBox::toggled, mDrawView, &QVDrawView::setAdjustOpacity);
     connect(mAdjustSize, &QCheckBox::toggled, mDrawView, &QVDrawView::setAdjustSize);
     connect(mClean, &QPushButton::clicked, mDrawView, &QVDrawView::doClean);
+}
+
+void QVTblt_prefPanePref::fitPressure()
+{
+    // The dialog is destroyed with the page, if the host closes the panel meanwhile.
+    const QPointer<QVPressFit> dialog =
+        new QVPressFit(qvTabletInfo.Pen.PressureThreshold, mFitPressure->window());
+    if (dialog->exec() == QDialog::Accepted && !dialog.isNull()) {
+        mSlider->choose(dialog->threshold() * QVPressView::kSliderSteps);
+    }
+    delete dialog;
 }
 
 void QVTblt_prefPanePref::setUpDisplayPage()

@@ -106,6 +106,7 @@ private:
     void showModel();
     void showNoDevice();
     void placeNoDevice();
+    void fitPressure();
     void relay(QLatin1String name, News news);
     [[nodiscard]] bool askForDevice();
     void takeScrollBoxes();

@@ -341,6 +341,66 @@
     </message>
 </context>
 <context>
+    <name>QVPressFit</name>
+    <message>
+        <source>Programs receive %1 % of the full pressure at a quarter of it, %2 % at half and %3 % at three quarters.</source>
+        <extracomment>Read by screen readers for the new pressure curve; %1 to %3 are percentages.</extracomment>
+        <translation>Programme erhalten bei einem Viertel des vollen Drucks %1 % davon, bei der Hälfte %2 % und bei drei Vierteln %3 %.</translation>
+    </message>
+    <message>
+        <source>Fit the pressure to your hand</source>
+        <extracomment>Title of the dialog that fits the pressure curve to the user&apos;s hand.</extracomment>
+        <translation>Druck an die Hand anpassen</translation>
+    </message>
+    <message>
+        <source>Pad to press on</source>
+        <translation>Fläche zum Drücken</translation>
+    </message>
+    <message>
+        <source>Pressure curve</source>
+        <translation>Druckkurve</translation>
+    </message>
+    <message>
+        <source>Start &amp;Again</source>
+        <extracomment>Button: forgets both presses, and asks for the first one again.</extracomment>
+        <translation>&amp;Neu beginnen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and leaves the pressure curve as it is.</extracomment>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <extracomment>Button: takes the new pressure curve.</extracomment>
+        <translation>&amp;Übernehmen</translation>
+    </message>
+    <message>
+        <source>Press on the pad as lightly as you ever do, and lift the pen.</source>
+        <translation>So leicht auf die Fläche drücken, wie Sie es je tun, und den Stift abheben.</translation>
+    </message>
+    <message>
+        <source>Now press as hard as you ever do, and lift the pen.</source>
+        <translation>Jetzt so fest drücken, wie Sie es je tun, und den Stift abheben.</translation>
+    </message>
+    <message>
+        <source>That was not harder than the first time. Press as hard as you ever do, and lift the pen.</source>
+        <translation>Das war nicht fester als beim ersten Mal. So fest drücken, wie Sie es je tun, und den Stift abheben.</translation>
+    </message>
+    <message>
+        <source>The curve fits your hand as it is.</source>
+        <translation>Die Kurve passt schon so zu Ihrer Hand.</translation>
+    </message>
+    <message>
+        <source>The thick line is the curve that fits your hand: the middle between your lightest and your hardest touch has half of the full effect.</source>
+        <translation>Die dicke Linie ist die Kurve, die zu Ihrer Hand passt: Die Mitte zwischen Ihrem leichtesten und Ihrem festesten Druck hat die halbe Wirkung.</translation>
+    </message>
+    <message>
+        <source>Press here with the pen.</source>
+        <translation>Hier mit dem Stift drücken.</translation>
+    </message>
+</context>
+<context>
     <name>QVPressView</name>
     <message>
         <source>Eraser</source>
@@ -780,6 +840,15 @@
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>mehrere Einstellungen</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to My Hand…</source>
+        <extracomment>Button: opens a dialog that sets the pressure by two touches</extracomment>
+        <translation>An die &amp;Hand anpassen …</translation>
+    </message>
+    <message>
+        <source>Press once lightly and once hard to find the curve that fits.</source>
+        <translation>Einmal leicht und einmal fest drücken, um die passende Kurve zu finden.</translation>
     </message>
 </context>
 <context>

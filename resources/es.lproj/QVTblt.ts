@@ -341,6 +341,66 @@
     </message>
 </context>
 <context>
+    <name>QVPressFit</name>
+    <message>
+        <source>Programs receive %1 % of the full pressure at a quarter of it, %2 % at half and %3 % at three quarters.</source>
+        <extracomment>Read by screen readers for the new pressure curve; %1 to %3 are percentages.</extracomment>
+        <translation>Los programas reciben el %1 % de la presión máxima a un cuarto de ella, el %2 % a la mitad y el %3 % a tres cuartos.</translation>
+    </message>
+    <message>
+        <source>Fit the pressure to your hand</source>
+        <extracomment>Title of the dialog that fits the pressure curve to the user&apos;s hand.</extracomment>
+        <translation>Ajustar la presión a su mano</translation>
+    </message>
+    <message>
+        <source>Pad to press on</source>
+        <translation>Superficie para presionar</translation>
+    </message>
+    <message>
+        <source>Pressure curve</source>
+        <translation>Curva de presión</translation>
+    </message>
+    <message>
+        <source>Start &amp;Again</source>
+        <extracomment>Button: forgets both presses, and asks for the first one again.</extracomment>
+        <translation>&amp;Empezar de nuevo</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and leaves the pressure curve as it is.</extracomment>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <extracomment>Button: takes the new pressure curve.</extracomment>
+        <translation>&amp;Usar</translation>
+    </message>
+    <message>
+        <source>Press on the pad as lightly as you ever do, and lift the pen.</source>
+        <translation>Presione la superficie tan suavemente como lo haga alguna vez y levante el lápiz.</translation>
+    </message>
+    <message>
+        <source>Now press as hard as you ever do, and lift the pen.</source>
+        <translation>Ahora presione tan fuerte como lo haga alguna vez y levante el lápiz.</translation>
+    </message>
+    <message>
+        <source>That was not harder than the first time. Press as hard as you ever do, and lift the pen.</source>
+        <translation>No ha sido más fuerte que la primera vez. Presione tan fuerte como lo haga alguna vez y levante el lápiz.</translation>
+    </message>
+    <message>
+        <source>The curve fits your hand as it is.</source>
+        <translation>La curva ya se ajusta a su mano.</translation>
+    </message>
+    <message>
+        <source>The thick line is the curve that fits your hand: the middle between your lightest and your hardest touch has half of the full effect.</source>
+        <translation>La línea gruesa es la curva que se ajusta a su mano: el punto medio entre su toque más suave y el más fuerte tiene la mitad del efecto.</translation>
+    </message>
+    <message>
+        <source>Press here with the pen.</source>
+        <translation>Presione aquí con el lápiz.</translation>
+    </message>
+</context>
+<context>
     <name>QVPressView</name>
     <message>
         <source>Eraser</source>
@@ -780,6 +840,15 @@
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>varios ajustes</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to My Hand…</source>
+        <extracomment>Button: opens a dialog that sets the pressure by two touches</extracomment>
+        <translation>A&amp;justar a mi mano…</translation>
+    </message>
+    <message>
+        <source>Press once lightly and once hard to find the curve that fits.</source>
+        <translation>Presione una vez suavemente y otra con fuerza para encontrar la curva adecuada.</translation>
     </message>
 </context>
 <context>

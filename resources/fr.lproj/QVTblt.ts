@@ -28,7 +28,7 @@
     <message>
         <source>&amp;Undo: %1</source>
         <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
-        <translation>&amp;Annuler : %1</translation>
+        <translation>&amp;Annuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -37,7 +37,7 @@
     <message>
         <source>&amp;Redo: %1</source>
         <extracomment>Menu item; %1 is what was edited, such as &quot;key 3&quot;.</extracomment>
-        <translation>&amp;Rétablir : %1</translation>
+        <translation>&amp;Rétablir&#xa0;: %1</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
@@ -338,6 +338,66 @@
         <source>Pen number %1</source>
         <extracomment>%1 is the number of the input device.</extracomment>
         <translation>Stylet numéro %1</translation>
+    </message>
+</context>
+<context>
+    <name>QVPressFit</name>
+    <message>
+        <source>Programs receive %1 % of the full pressure at a quarter of it, %2 % at half and %3 % at three quarters.</source>
+        <extracomment>Read by screen readers for the new pressure curve; %1 to %3 are percentages.</extracomment>
+        <translation>Les programmes reçoivent %1 % de la pression maximale à un quart de celle-ci, %2 % à la moitié et %3 % aux trois quarts.</translation>
+    </message>
+    <message>
+        <source>Fit the pressure to your hand</source>
+        <extracomment>Title of the dialog that fits the pressure curve to the user&apos;s hand.</extracomment>
+        <translation>Ajuster la pression à votre main</translation>
+    </message>
+    <message>
+        <source>Pad to press on</source>
+        <translation>Surface où appuyer</translation>
+    </message>
+    <message>
+        <source>Pressure curve</source>
+        <translation>Courbe de pression</translation>
+    </message>
+    <message>
+        <source>Start &amp;Again</source>
+        <extracomment>Button: forgets both presses, and asks for the first one again.</extracomment>
+        <translation>&amp;Recommencer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and leaves the pressure curve as it is.</extracomment>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <extracomment>Button: takes the new pressure curve.</extracomment>
+        <translation>&amp;Utiliser</translation>
+    </message>
+    <message>
+        <source>Press on the pad as lightly as you ever do, and lift the pen.</source>
+        <translation>Appuyez sur la surface aussi légèrement qu’il vous arrive de le faire, puis levez le stylet.</translation>
+    </message>
+    <message>
+        <source>Now press as hard as you ever do, and lift the pen.</source>
+        <translation>Appuyez maintenant aussi fort qu’il vous arrive de le faire, puis levez le stylet.</translation>
+    </message>
+    <message>
+        <source>That was not harder than the first time. Press as hard as you ever do, and lift the pen.</source>
+        <translation>Ce n’était pas plus fort que la première fois. Appuyez aussi fort qu’il vous arrive de le faire, puis levez le stylet.</translation>
+    </message>
+    <message>
+        <source>The curve fits your hand as it is.</source>
+        <translation>La courbe convient déjà à votre main.</translation>
+    </message>
+    <message>
+        <source>The thick line is the curve that fits your hand: the middle between your lightest and your hardest touch has half of the full effect.</source>
+        <translation>La ligne épaisse est la courbe qui convient à votre main&#xa0;: le milieu entre votre toucher le plus léger et le plus fort a la moitié de l’effet.</translation>
+    </message>
+    <message>
+        <source>Press here with the pen.</source>
+        <translation>Appuyez ici avec le stylet.</translation>
     </message>
 </context>
 <context>
@@ -780,6 +840,15 @@
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>plusieurs réglages</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to My Hand…</source>
+        <extracomment>Button: opens a dialog that sets the pressure by two touches</extracomment>
+        <translation>A&amp;juster à ma main…</translation>
+    </message>
+    <message>
+        <source>Press once lightly and once hard to find the curve that fits.</source>
+        <translation>Appuyez une fois légèrement et une fois fort pour trouver la courbe qui convient.</translation>
     </message>
 </context>
 <context>

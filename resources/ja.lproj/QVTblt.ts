@@ -341,6 +341,66 @@
     </message>
 </context>
 <context>
+    <name>QVPressFit</name>
+    <message>
+        <source>Programs receive %1 % of the full pressure at a quarter of it, %2 % at half and %3 % at three quarters.</source>
+        <extracomment>Read by screen readers for the new pressure curve; %1 to %3 are percentages.</extracomment>
+        <translation>最大筆圧でプログラムが受け取る値に対して、4 分の 1 の筆圧では %1%、半分では %2%、4 分の 3 では %3% を受け取ります。</translation>
+    </message>
+    <message>
+        <source>Fit the pressure to your hand</source>
+        <extracomment>Title of the dialog that fits the pressure curve to the user&apos;s hand.</extracomment>
+        <translation>筆圧を手に合わせる</translation>
+    </message>
+    <message>
+        <source>Pad to press on</source>
+        <translation>押すためのパッド</translation>
+    </message>
+    <message>
+        <source>Pressure curve</source>
+        <translation>筆圧カーブ</translation>
+    </message>
+    <message>
+        <source>Start &amp;Again</source>
+        <extracomment>Button: forgets both presses, and asks for the first one again.</extracomment>
+        <translation>やり直す(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and leaves the pressure curve as it is.</extracomment>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <extracomment>Button: takes the new pressure curve.</extracomment>
+        <translation>使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Press on the pad as lightly as you ever do, and lift the pen.</source>
+        <translation>ふだんのいちばん軽い力でパッドを押してから、ペンを離してください。</translation>
+    </message>
+    <message>
+        <source>Now press as hard as you ever do, and lift the pen.</source>
+        <translation>次に、ふだんのいちばん強い力で押してから、ペンを離してください。</translation>
+    </message>
+    <message>
+        <source>That was not harder than the first time. Press as hard as you ever do, and lift the pen.</source>
+        <translation>最初より強くありませんでした。ふだんのいちばん強い力で押してから、ペンを離してください。</translation>
+    </message>
+    <message>
+        <source>The curve fits your hand as it is.</source>
+        <translation>筆圧カーブは今のままで手に合っています。</translation>
+    </message>
+    <message>
+        <source>The thick line is the curve that fits your hand: the middle between your lightest and your hardest touch has half of the full effect.</source>
+        <translation>太い線が手に合う筆圧カーブです。いちばん軽い力といちばん強い力の中間で、効果が半分になります。</translation>
+    </message>
+    <message>
+        <source>Press here with the pen.</source>
+        <translation>ここをペンで押してください。</translation>
+    </message>
+</context>
+<context>
     <name>QVPressView</name>
     <message>
         <source>Eraser</source>
@@ -780,6 +840,15 @@
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>複数の設定</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to My Hand…</source>
+        <extracomment>Button: opens a dialog that sets the pressure by two touches</extracomment>
+        <translation>自分の手に合わせる(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Press once lightly and once hard to find the curve that fits.</source>
+        <translation>一度軽く、一度強く押して、合う筆圧カーブを見つけます。</translation>
     </message>
 </context>
 <context>

@@ -341,6 +341,66 @@
     </message>
 </context>
 <context>
+    <name>QVPressFit</name>
+    <message>
+        <source>Programs receive %1 % of the full pressure at a quarter of it, %2 % at half and %3 % at three quarters.</source>
+        <extracomment>Read by screen readers for the new pressure curve; %1 to %3 are percentages.</extracomment>
+        <translation>与压力最大时程序收到的值相比，压力为四分之一时收到 %1%，一半时收到 %2%，四分之三时收到 %3%。</translation>
+    </message>
+    <message>
+        <source>Fit the pressure to your hand</source>
+        <extracomment>Title of the dialog that fits the pressure curve to the user&apos;s hand.</extracomment>
+        <translation>使压感适应您的手</translation>
+    </message>
+    <message>
+        <source>Pad to press on</source>
+        <translation>按压区域</translation>
+    </message>
+    <message>
+        <source>Pressure curve</source>
+        <translation>压感曲线</translation>
+    </message>
+    <message>
+        <source>Start &amp;Again</source>
+        <extracomment>Button: forgets both presses, and asks for the first one again.</extracomment>
+        <translation>重新开始(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and leaves the pressure curve as it is.</extracomment>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Use</source>
+        <extracomment>Button: takes the new pressure curve.</extracomment>
+        <translation>使用(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Press on the pad as lightly as you ever do, and lift the pen.</source>
+        <translation>以您最轻的力度按压区域，然后抬起笔。</translation>
+    </message>
+    <message>
+        <source>Now press as hard as you ever do, and lift the pen.</source>
+        <translation>现在以您最重的力度按压，然后抬起笔。</translation>
+    </message>
+    <message>
+        <source>That was not harder than the first time. Press as hard as you ever do, and lift the pen.</source>
+        <translation>这次没有比第一次更重。请以您最重的力度按压，然后抬起笔。</translation>
+    </message>
+    <message>
+        <source>The curve fits your hand as it is.</source>
+        <translation>当前压感曲线已适合您的手。</translation>
+    </message>
+    <message>
+        <source>The thick line is the curve that fits your hand: the middle between your lightest and your hardest touch has half of the full effect.</source>
+        <translation>粗线是适合您的手的压感曲线：最轻与最重力度的中间值产生一半的效果。</translation>
+    </message>
+    <message>
+        <source>Press here with the pen.</source>
+        <translation>用笔在此处按压。</translation>
+    </message>
+</context>
+<context>
     <name>QVPressView</name>
     <message>
         <source>Eraser</source>
@@ -780,6 +840,15 @@
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>多项设置</translation>
+    </message>
+    <message>
+        <source>&amp;Fit to My Hand…</source>
+        <extracomment>Button: opens a dialog that sets the pressure by two touches</extracomment>
+        <translation>适应我的手(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Press once lightly and once hard to find the curve that fits.</source>
+        <translation>轻按一次、重按一次，以找到合适的压感曲线。</translation>
     </message>
 </context>
 <context>

@@ -15,6 +15,7 @@
 #include "QVKeyComboBox.h"
 #include "QVKeySetClass.h"
 #include "QVMonitorView.h"
+#include "QVPressFit.h"
 #include "QVPressView.h"
 #include "QVTabletModels.h"
 #include "Wait.h"
@@ -362,6 +363,13 @@ TEST_F(Accessibility, saysWhatIsInTheChooserOfApplications)
         nullptr, [](const QString& /*path*/) { return QString(); }, {});
     chooser.show();
     expectNoFaults(chooser, 5);
+}
+
+TEST_F(Accessibility, saysWhatIsInTheDialogThatFitsThePressure)
+{
+    QVPressFit dialog(100, nullptr);
+    dialog.show();
+    expectNoFaults(dialog, 5);
 }
 
 TEST_F(Accessibility, saysWhichCrossToTouch)

@@ -12,6 +12,7 @@
 #include "PaneTest.h"
 #include "QVKeyComboBox.h"
 #include "QVKeySetClass.h"
+#include "QVPressFit.h"
 #include "QVTabletModels.h"
 #include "TabPage.h"
 #include "rzkBundle.h"
@@ -480,6 +481,17 @@ TEST_P(Language, hasRoomInTheChooserOfApplications)
     expectAllFits(chooser);
     expectGlyphs(textsOf(chooser));
     expectMnemonicsDiffer(textsOf(chooser), 3);
+}
+
+TEST_P(Language, hasRoomInTheDialogThatFitsThePressure)
+{
+    show();
+    QVPressFit dialog(100, nullptr);
+    dialog.show();
+    settle();
+    expectAllFits(dialog);
+    expectGlyphs(textsOf(dialog));
+    expectMnemonicsDiffer(textsOf(dialog), 3);
 }
 
 TEST_P(Language, hasRoomForTheTextsWithoutATablet)
