@@ -109,7 +109,12 @@ void tellFailure(QLatin1String name, const platform::Error& error)
 
 std::string QVConfigStore::configPath()
 {
-    return platform::expandTilde(std::string(kConfigFolder) + GetPListName());
+    return configFolder() + GetPListName();
+}
+
+std::string QVConfigStore::configFolder()
+{
+    return platform::expandTilde(kConfigFolder);
 }
 
 void QVConfigStore::ReadQVConfigPlist()

@@ -59,6 +59,9 @@ public:
     /** The file's path: its folder in the user's home folder, and pListname. */
     static std::string configPath();
 
+    /** The folder of all tablets' files, with a slash at its end. */
+    static std::string configFolder();
+
     /**
      * ReadQVConfigPlist() for callers that do not observe notifications.
      *

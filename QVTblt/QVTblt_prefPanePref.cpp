@@ -7,6 +7,7 @@
 #include "Notifications.h"
 #include "QVDriverProtocol.h"
 #include "QVNSView.h"
+#include "QVSelfCheck.h"
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
 #include "rzkBundle.h"
@@ -14,6 +15,7 @@
 #include <QCoreApplication>
 #include <QFontDatabase>
 #include <QScrollBar>
+#include <QThread>
 
 #include <algorithm>
 #include <memory>
@@ -45,6 +47,11 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
     relay(platform::kSourceChangedNotification, News::DeviceMayHaveChanged);
     relay(platform::kEventTakenNotification, News::ChangeTaken);
     relay(platform::kEventNotTakenNotification, News::ChangeNotTaken);
+    for (const auto& [name, isTaken] : {std::pair(platform::kEventTakenNotification, true),
+             {platform::kEventNotTakenNotification, false}}) {
+        platform::notifications().addObserver(*this, name,
+            [this, isTaken = isTaken](const platform::Notification&) { mIsPushTaken = isTaken; });
+    }
     relay(kConfigLoadedNotification, News::Loaded);
     relay(kConfigNotLoadedNotification, News::NotLoaded);
     relay(kConfigSavedNotification, News::Saved);
@@ -145,6 +152,20 @@ platform::PreferencePane::Device QVTblt_prefPanePref::checkDevice()
     }
     mAnswer = answer;
     return Device::Other;
+}
+
+void QVTblt_prefPanePref::checkSelf(std::function<void(const SelfCheck& check)> done)
+{
+    QVSelfCheckInput input;
+    input.isLastPushTaken = mIsPushTaken;
+    const auto facts = std::make_shared<QVSelfCheckFacts>();
+    QThread* const thread = QThread::create([facts, input] { *facts = QVGatherFacts(input); });
+    connect(thread, &QThread::finished, this,
+        [facts, done = std::move(done)] { done(QVSelfCheckResult(*facts)); });
+    connect(thread, &QThread::finished, thread, &QObject::deleteLater);
+    // It uses D-Bus, which must not end before it.
+    connect(qApp, &QCoreApplication::aboutToQuit, thread, [thread] { thread->wait(); });
+    thread->start();
 }
 
 bool QVTblt_prefPanePref::askForDevice()

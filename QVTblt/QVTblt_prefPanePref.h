@@ -17,6 +17,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -56,6 +57,7 @@ public:
     void setButtonsShown(bool shown) override { mButtonsShown = shown; }
     /** Takes up to a quarter of a second. */
     Device checkDevice() override;
+    void checkSelf(std::function<void(const SelfCheck& check)> done) override;
     bool hasDevice() const override;
     void send() override { PushQVTabletInfo(); }
     QByteArray settings() const override;
@@ -131,6 +133,7 @@ private:
     };
     std::optional<Answer> mAnswer; ///< for the next showing; differs from what is shown
     bool mHasDevice = false; ///< as currently shown
+    std::optional<bool> mIsPushTaken; ///< the last one, by the driver; nothing before the first
     bool mButtonsShown = false; ///< Save and Cancel, if there is a tablet
     QVKeySetClass* mKeyset = nullptr; ///< owned by the main view; none before its first use
     QString mFileName; ///< path of the application last chosen

@@ -16,19 +16,6 @@ std::array<char, kQVListNameSize> pListname{};
 namespace {
 
 /**
- * The key data of the query. The driver expects the platform's long: the property's code and, if a
- * long has room for both, the driver's signature after it.
- */
-std::array<std::byte, sizeof(long)> configKeyData()
-{
-    constexpr std::array<platform::FourCharCode, 2> kCodes{kQVConfigProperty, kQVDriverSignature};
-    std::array<std::byte, sizeof(long)> data{};
-    static_assert(sizeof data <= sizeof kCodes);
-    std::memcpy(data.data(), kCodes.data(), sizeof data);
-    return data;
-}
-
-/**
  * Sends the query.
  *
  * @return the driver's answer, 0 if it cannot be read; nothing without an answer
@@ -49,7 +36,7 @@ std::optional<std::int64_t> askDriver()
 
     AEDesc keyData;
     AEDesc property;
-    service.createDesc(typeLongInteger, configKeyData(), keyData);
+    service.createDesc(typeLongInteger, QVConfigKeyData(), keyData);
     service.createObjSpecifier(cProperty, AEDesc{}, formPropertyID, std::move(keyData), property);
     service.putParamPtr(query, keyAERequestedType, typeType, bytesOf(typeLongInteger));
     service.putParamDesc(query, keyDirectObject, std::move(property));
@@ -66,6 +53,15 @@ std::optional<std::int64_t> askDriver()
 }
 
 } // namespace
+
+std::array<std::byte, sizeof(long)> QVConfigKeyData()
+{
+    constexpr std::array<platform::FourCharCode, 2> kCodes{kQVConfigProperty, kQVDriverSignature};
+    std::array<std::byte, sizeof(long)> data{};
+    static_assert(sizeof data <= sizeof kCodes);
+    std::memcpy(data.data(), kCodes.data(), sizeof data);
+    return data;
+}
 
 tagQVTabletInfo* GetqvTabletInfo()
 {

@@ -46,5 +46,11 @@ bool GetQVConfigFileName(char* name);
 /** The same, with pListname as the name. */
 bool rzkgetQVDevice();
 
+/**
+ * The key data of the query. The driver expects the platform's long: the property's code and, if a
+ * long has room for both, the driver's signature after it.
+ */
+std::array<std::byte, sizeof(long)> QVConfigKeyData();
+
 /** Whether a tablet is attached, without storing its file name. The spelling is intended. */
 bool GetQVTabeltDevices();

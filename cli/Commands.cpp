@@ -4,23 +4,30 @@
 
 #include "AppleEventWire.h"
 #include "AppleEvents.h"
+#include "Bundle.h"
 #include "Client.h"
+#include "Doctor.h"
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
 #include "QVDriverProtocol.h"
+#include "QVSelfCheck.h"
 #include "QVTabletList.h"
 #include "QVTabletModels.h"
 #include "RecordText.h"
 #include "UsbMode.h"
 #include "rzkApplication.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusReply>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QTranslator>
 
 #include <algorithm>
 #include <array>
@@ -291,8 +298,33 @@ int runSim(const Arguments& arguments)
     return reply.type() == QDBusMessage::ReplyMessage ? kExitGood : fail(reply.errorMessage());
 }
 
-constexpr std::array<Command, 8> kCommands{{
+/** Checks everything between the tablet and the panel, and says what to do. */
+int runDoctor(const Arguments& arguments)
+{
+    // The texts are the panel's.
+    const QDir programs(QCoreApplication::applicationDirPath());
+    const QString module = QDir::cleanPath(programs.filePath(QStringLiteral(QVTBLT_MODULE_PATH)));
+    const platform::Bundle bundle(
+        QDir::cleanPath(QFileInfo(module).dir().filePath(QStringLiteral(QVTBLT_RESOURCES_PATH))));
+    QTranslator translator;
+    const auto translation =
+        bundle.pathForLocalizedResource(QStringLiteral("QVTblt"), QStringLiteral("qm"));
+    if (translation && translator.load(*translation)) {
+        QCoreApplication::installTranslator(&translator);
+    }
+    QVSelfCheckInput input;
+    input.modulePath = module;
+    const std::vector<QVStage> stages = QVDecideStages(QVGatherFacts(input));
+    const QByteArray text = arguments.asJson ? doctorJson(stages) : doctorText(stages).toUtf8();
+    std::fwrite(text.constData(), 1, static_cast<std::size_t>(text.size()), stdout);
+    const bool hasProblem = std::ranges::any_of(
+        stages, [](const QVStage& stage) { return stage.status == QVStage::Status::Problem; });
+    return hasProblem ? kExitBad : kExitGood;
+}
+
+constexpr std::array<Command, 9> kCommands{{
     {"status", 0, 0, false, runStatus},
+    {"doctor", 0, 0, false, runDoctor},
     {"show", 0, 1, false, runShow},
     {"check", 1, 1, false, runCheck},
     {"push", 0, 0, true, runPush},

@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QGuiApplication>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <memory>
@@ -19,6 +21,8 @@ The settings of the Quorvia pen tablet, without a window.
 
 Commands:
   status              print whether there is a driver, a tablet, and a usable file
+  doctor [--json]     check everything between the tablet and the panel, and print
+                      what to do where something is wrong
   show [--json]       print the last settings that the driver received
   show [--json] FILE  print the settings in a configuration file; - is standard input
   check FILE          print for every entry of a configuration file whether it is usable
@@ -40,8 +44,8 @@ Options:
   -h, --help          print this help
   -v, --version       print the version
 
-Exit code: 0 on success; 1 if there is no driver, no tablet or no usable file, or the output
-cannot be written; 2 if the command is not valid.
+Exit code: 0 on success; 1 if there is no driver, no tablet or no usable file, doctor has found a
+problem, or the output cannot be written; 2 if the command is not valid.
 )";
 
 /** Checks what follows a command. */
@@ -49,8 +53,10 @@ platform::Result<> checkArguments(const Command& command, const Arguments& argum
 {
     const QString name = QString::fromLatin1(command.name);
     const auto count = arguments.operands.size();
-    if (arguments.asJson && name != QLatin1String("show") && name != QLatin1String("tablet")) {
-        return platform::Error{QStringLiteral("--json can only be used with show and tablet")};
+    constexpr std::array kWithJson{"doctor", "show", "tablet"};
+    if (arguments.asJson && std::ranges::find(kWithJson, name.toStdString()) == kWithJson.end()) {
+        return platform::Error{
+            QStringLiteral("--json can only be used with doctor, show and tablet")};
     }
     if (count < command.least) {
         return platform::Error{QStringLiteral("missing operand after '%1'")

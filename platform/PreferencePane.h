@@ -15,6 +15,7 @@
 #include <functional>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace platform {
 
@@ -83,6 +84,26 @@ public:
      * instead of asking again, and sends nothing to the driver until then.
      */
     virtual Device checkDevice() { return Device::Same; }
+
+    /** One stage of a self-check. */
+    struct CheckedStage {
+        enum class Status : std::uint8_t { Ok, Problem, NotChecked };
+
+        QString id; ///< the same in every version and language
+        Status status;
+        QString text; ///< what was found, in the user's language
+        QString remedy; ///< what to do about it; empty if nothing is to be done
+    };
+    struct SelfCheck {
+        std::vector<CheckedStage> stages;
+        QString report; ///< for others: in English, and without anything that is the user's own
+    };
+    /**
+     * Checks everything between the device and the pane, and may start the driver. Returns at once
+     * and calls the function later, on the main thread, unless the pane is destroyed before. By
+     * default, there is nothing to check.
+     */
+    virtual void checkSelf(std::function<void(const SelfCheck& check)> done) { done({}); }
 
     /** Whether the pane shows the settings of a device. */
     virtual bool hasDevice() const { return true; }

@@ -4,6 +4,7 @@
 
 #include "Accessible.h"
 #include "PaneEdits.h"
+#include "SelfCheckDialog.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -92,6 +93,30 @@ void PaneShell::makeNotice()
         setTabOrder(mRetry, mCancel);
         setTabOrder(mCancel, mSave);
     }
+}
+
+void PaneShell::makeSelfCheck()
+{
+    mSelfCheck = new QWidget(this);
+    auto* const row = new QHBoxLayout(mSelfCheck);
+    row->setContentsMargins(mBottom->layout()->contentsMargins());
+    //: Button where no tablet is found: opens the self-check.
+    auto* const button = new QPushButton(tr("Find the &Problem…"));
+    button->setToolTip(tr("Check the tablet, its driver and the panel"));
+    button->setAccessibleDescription(button->toolTip());
+    connect(button, &QPushButton::clicked, this, &PaneShell::checkSelf);
+    row->addWidget(button);
+    row->addStretch(1);
+    layout()->addWidget(mSelfCheck);
+}
+
+void PaneShell::checkSelf()
+{
+    auto* const dialog = new SelfCheckDialog(*mPane, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    // The tablet may be there by now; then the pages appear, and the dialog closes.
+    connect(dialog, &SelfCheckDialog::checked, this, &PaneShell::checkDeviceSoon);
+    dialog->open();
 }
 
 void PaneShell::setChangeHandler(std::function<void()> handler)
@@ -375,6 +400,13 @@ void PaneShell::showNotice()
         }
     }
     mBottom->setVisible(!text.isEmpty() || (mSave != nullptr && mPane->hasDevice()));
+    const bool isMissed = mIsSelected && !mPane->hasDevice();
+    if (mSelfCheck == nullptr && isMissed) {
+        makeSelfCheck();
+    }
+    if (mSelfCheck != nullptr) {
+        mSelfCheck->setVisible(isMissed);
+    }
 }
 
 void PaneShell::retry()

@@ -24,8 +24,8 @@ class NoticeLabel;
  *
  * The pane itself reports no failures and retries nothing. The shell listens to its news, and
  * leaves and reshows the pane when the driver has another tablet, or when the user goes back to the
- * saved settings. Before it sends anything, on its own or for "Send Again", it checks that the
- * driver still has the same tablet.
+ * saved settings. Where there is no tablet, it offers to find out why. Before it sends anything, on
+ * its own or for "Send Again", it checks that the driver still has the same tablet.
  *
  * The host calls willSelect(), didSelect(), willUnselect() and didUnselect() here instead of on the
  * pane.
@@ -94,6 +94,8 @@ private:
 
     void makeButtons();
     void makeNotice();
+    void makeSelfCheck();
+    void checkSelf();
     int askAboutUnsaved(const platform::Error& error, bool canStay);
     void handleNews(Pane::News news, const QString& text);
     void clearNotices();
@@ -126,6 +128,7 @@ private:
     QWidget* mBottom = nullptr; ///< the line and the buttons
     platform::NoticeLabel* mNoticeLabel = nullptr; ///< null until the first notice
     QPushButton* mRetry = nullptr;
+    QWidget* mSelfCheck = nullptr; ///< the button for a self-check; null before it is needed
     QPushButton* mSave = nullptr; ///< null if the host has its own
     QPushButton* mCancel = nullptr;
 };

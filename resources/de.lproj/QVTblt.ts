@@ -107,6 +107,15 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Die Einstellungen des vorigen Tabletts wurden nicht gespeichert: %1</translation>
     </message>
+    <message>
+        <source>Find the &amp;Problem…</source>
+        <extracomment>Button where no tablet is found: opens the self-check.</extracomment>
+        <translation>&amp;Fehler suchen …</translation>
+    </message>
+    <message>
+        <source>Check the tablet, its driver and the panel</source>
+        <translation>Tablett, Treiber und Einstellungen prüfen</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>
@@ -889,6 +898,301 @@
         <source>C&amp;hoose</source>
         <extracomment>Button: takes the selected application.</extracomment>
         <translation>Aus&amp;wählen</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheck</name>
+    <message>
+        <source>Log out and in again.</source>
+        <translation>Melden Sie sich ab und wieder an.</translation>
+    </message>
+    <message>
+        <source>Restart the driver, or log out and in again.</source>
+        <translation>Starten Sie den Treiber neu, oder melden Sie sich ab und wieder an.</translation>
+    </message>
+    <message>
+        <source>Plug the tablet in again. If that does not help, log out and in again.</source>
+        <translation>Stecken Sie das Tablett neu ein. Wenn das nicht hilft, melden Sie sich ab und wieder an.</translation>
+    </message>
+    <message>
+        <source>End that program, and plug the tablet in again.</source>
+        <translation>Beenden Sie dieses Programm, und stecken Sie das Tablett neu ein.</translation>
+    </message>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>Es gibt keinen Sitzungsbus.</translation>
+    </message>
+    <message>
+        <source>Log out and in again. Without a desktop, use dbus-run-session.</source>
+        <translation>Melden Sie sich ab und wieder an. Ohne Arbeitsfläche hilft dbus-run-session.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Der Sitzungsbus antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The session bus answers.</source>
+        <translation>Der Sitzungsbus antwortet.</translation>
+    </message>
+    <message>
+        <source>The driver is running.</source>
+        <translation>Der Treiber läuft.</translation>
+    </message>
+    <message>
+        <source>The driver was not running and has been started.</source>
+        <translation>Der Treiber lief nicht und wurde gestartet.</translation>
+    </message>
+    <message>
+        <source>No driver is installed.</source>
+        <translation>Es ist kein Treiber installiert.</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver.</source>
+        <translation>Installieren Sie das Paket tdsg-driver.</translation>
+    </message>
+    <message>
+        <source>The driver cannot be started.</source>
+        <translation>Der Treiber lässt sich nicht starten.</translation>
+    </message>
+    <message>
+        <source>Log out and in again. The reason is in the journal of the session.</source>
+        <translation>Melden Sie sich ab und wieder an. Der Grund steht im Journal der Sitzung.</translation>
+    </message>
+    <message>
+        <source>The driver does not answer in time.</source>
+        <translation>Der Treiber antwortet nicht rechtzeitig.</translation>
+    </message>
+    <message>
+        <source>The driver answers in time.</source>
+        <translation>Der Treiber antwortet rechtzeitig.</translation>
+    </message>
+    <message>
+        <source>The driver has a tablet of its own, such as a simulated one.</source>
+        <translation>Der Treiber hat ein eigenes Tablett, etwa ein simuliertes.</translation>
+    </message>
+    <message>
+        <source>No tablet is connected.</source>
+        <translation>Es ist kein Tablett angeschlossen.</translation>
+    </message>
+    <message>
+        <source>Connect the tablet, or switch it on. If it is connected, try another socket or cable.</source>
+        <translation>Schließen Sie das Tablett an, oder schalten Sie es ein. Ist es angeschlossen, versuchen Sie eine andere Buchse oder ein anderes Kabel.</translation>
+    </message>
+    <message>
+        <source>A tablet is connected, but the driver does not use it: %1.</source>
+        <translation>Ein Tablett ist angeschlossen, aber der Treiber nutzt es nicht: %1.</translation>
+    </message>
+    <message>
+        <source>Do what the following lines say. Otherwise, plug the tablet in again, or restart the driver.</source>
+        <translation>Folgen Sie den nächsten Zeilen. Stecken Sie sonst das Tablett neu ein, oder starten Sie den Treiber neu.</translation>
+    </message>
+    <message>
+        <source>A tablet is connected: %1.</source>
+        <translation>Ein Tablett ist angeschlossen: %1.</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver-access, and plug the tablet in again.</source>
+        <translation>Installieren Sie das Paket tdsg-driver-access, und stecken Sie das Tablett neu ein.</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet.</source>
+        <translation>Sie dürfen das Tablett nicht öffnen.</translation>
+    </message>
+    <message>
+        <source>You may not open /dev/uinput, which the driver needs.</source>
+        <translation>Sie dürfen /dev/uinput nicht öffnen, das der Treiber braucht.</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <translation>Sie dürfen das Tablett nicht über USB öffnen, daher lässt sich seine Geschwindigkeit nicht einstellen.</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt, and plug the tablet in again.</source>
+        <translation>Installieren Sie das Paket qvtblt, und stecken Sie das Tablett neu ein.</translation>
+    </message>
+    <message>
+        <source>You may open the tablet.</source>
+        <translation>Sie dürfen das Tablett öffnen.</translation>
+    </message>
+    <message>
+        <source>Another program has the tablet open: %1.</source>
+        <translation>Ein anderes Programm hat das Tablett geöffnet: %1.</translation>
+    </message>
+    <message>
+        <source>A program has taken the tablet from the system&apos;s drivers.</source>
+        <translation>Ein Programm hat den Treibern des Systems das Tablett weggenommen.</translation>
+    </message>
+    <message>
+        <source>No other program has the tablet open.</source>
+        <translation>Kein anderes Programm hat das Tablett geöffnet.</translation>
+    </message>
+    <message>
+        <source>There is no settings file.</source>
+        <translation>Es gibt keine Einstellungsdatei.</translation>
+    </message>
+    <message>
+        <source>Restart the driver, which makes the file.</source>
+        <translation>Starten Sie den Treiber neu, der die Datei anlegt.</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be used.</source>
+        <translation>Die Einstellungsdatei ist unbrauchbar.</translation>
+    </message>
+    <message>
+        <source>Move the file away and restart the driver, which makes a new one.</source>
+        <translation>Verschieben Sie die Datei, und starten Sie den Treiber neu, der eine neue anlegt.</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be written.</source>
+        <translation>Die Einstellungsdatei lässt sich nicht schreiben.</translation>
+    </message>
+    <message>
+        <source>Allow yourself to write the file and its folder.</source>
+        <translation>Erlauben Sie sich, die Datei und ihren Ordner zu schreiben.</translation>
+    </message>
+    <message>
+        <source>The disk with the settings file has no room left.</source>
+        <translation>Auf dem Datenträger mit der Einstellungsdatei ist kein Platz mehr.</translation>
+    </message>
+    <message>
+        <source>Delete something from this disk.</source>
+        <translation>Löschen Sie etwas von diesem Datenträger.</translation>
+    </message>
+    <message>
+        <source>The settings file can be read and written.</source>
+        <translation>Die Einstellungsdatei lässt sich lesen und schreiben.</translation>
+    </message>
+    <message>
+        <source>No settings have been sent yet.</source>
+        <translation>Es wurden noch keine Einstellungen gesendet.</translation>
+    </message>
+    <message>
+        <source>The driver has not accepted the last change.</source>
+        <translation>Der Treiber hat die letzte Änderung nicht angenommen.</translation>
+    </message>
+    <message>
+        <source>The driver has accepted the settings.</source>
+        <translation>Der Treiber hat die Einstellungen angenommen.</translation>
+    </message>
+    <message>
+        <source>The panel is not installed.</source>
+        <translation>Die Einstellungen sind nicht installiert.</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt.</source>
+        <translation>Installieren Sie das Paket qvtblt.</translation>
+    </message>
+    <message>
+        <source>The panel does not fit the version of Qt: it was built for %1.</source>
+        <translation>Die Einstellungen passen nicht zur Version von Qt: Sie wurden für %1 gebaut.</translation>
+    </message>
+    <message>
+        <source>Install the panel of the same release as the desktop.</source>
+        <translation>Installieren Sie die Einstellungen aus derselben Ausgabe wie die Arbeitsfläche.</translation>
+    </message>
+    <message>
+        <source>The panel fits the version of Qt, %1.</source>
+        <translation>Die Einstellungen passen zur Version von Qt, %1.</translation>
+    </message>
+    <message>
+        <source>There is no desktop.</source>
+        <translation>Es gibt keine Arbeitsfläche.</translation>
+    </message>
+    <message>
+        <source>This desktop does not let others choose the pen&apos;s display.</source>
+        <translation>Diese Arbeitsfläche lässt andere den Bildschirm des Stifts nicht wählen.</translation>
+    </message>
+    <message>
+        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
+        <translation>Wählen Sie den Bildschirm in den Tablett-Einstellungen der Arbeitsfläche.</translation>
+    </message>
+    <message>
+        <source>The pen&apos;s display can be chosen.</source>
+        <translation>Der Bildschirm des Stifts ist wählbar.</translation>
+    </message>
+    <message>
+        <source>The driver was not looked for.</source>
+        <translation>Der Treiber wurde nicht gesucht.</translation>
+    </message>
+    <message>
+        <source>The driver was not asked.</source>
+        <translation>Der Treiber wurde nicht gefragt.</translation>
+    </message>
+    <message>
+        <source>Access to the tablet was not checked.</source>
+        <translation>Der Zugriff auf das Tablett wurde nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>Other programs were not checked.</source>
+        <translation>Andere Programme wurden nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>The settings file was not checked.</source>
+        <translation>Die Einstellungsdatei wurde nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>Sending settings was not checked.</source>
+        <translation>Das Senden der Einstellungen wurde nicht geprüft.</translation>
+    </message>
+    <message>
+        <source>The choice of the pen&apos;s display was not checked.</source>
+        <translation>Die Wahl des Bildschirms für den Stift wurde nicht geprüft.</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheckDialog</name>
+    <message>
+        <source>Self-Check</source>
+        <extracomment>Title of the window that says what is wrong with tablet, driver and panel.</extracomment>
+        <translation>Selbstprüfung</translation>
+    </message>
+    <message>
+        <source>What was checked</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>Was geprüft wurde</translation>
+    </message>
+    <message>
+        <source>Check A&amp;gain</source>
+        <extracomment>Button of the self-check.</extracomment>
+        <translation>E&amp;rneut prüfen</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Report</source>
+        <extracomment>Button of the self-check: copies what was found to the clipboard.</extracomment>
+        <translation>&amp;Bericht kopieren</translation>
+    </message>
+    <message>
+        <source>For whoever helps you. It contains nothing personal.</source>
+        <translation>Für alle, die Ihnen helfen. Er enthält nichts Persönliches.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Wird geprüft …</translation>
+    </message>
+    <message>
+        <source>Nothing wrong was found.</source>
+        <translation>Es wurde kein Fehler gefunden.</translation>
+    </message>
+    <message>
+        <source>Something is wrong. Begin with the first problem:</source>
+        <translation>Etwas stimmt nicht. Beginnen Sie mit dem ersten Problem:</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>In Ordnung</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Nicht geprüft</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

@@ -107,6 +107,15 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Los ajustes de la tableta anterior no se han guardado: %1</translation>
     </message>
+    <message>
+        <source>Find the &amp;Problem…</source>
+        <extracomment>Button where no tablet is found: opens the self-check.</extracomment>
+        <translation>&amp;Buscar el problema…</translation>
+    </message>
+    <message>
+        <source>Check the tablet, its driver and the panel</source>
+        <translation>Comprobar la tableta, su controlador y el panel</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>
@@ -889,6 +898,301 @@
         <source>C&amp;hoose</source>
         <extracomment>Button: takes the selected application.</extracomment>
         <translation>&amp;Elegir</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheck</name>
+    <message>
+        <source>Log out and in again.</source>
+        <translation>Cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+    <message>
+        <source>Restart the driver, or log out and in again.</source>
+        <translation>Reinicie el controlador, o cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+    <message>
+        <source>Plug the tablet in again. If that does not help, log out and in again.</source>
+        <translation>Vuelva a conectar la tableta. Si no basta, cierre la sesión y vuelva a iniciarla.</translation>
+    </message>
+    <message>
+        <source>End that program, and plug the tablet in again.</source>
+        <translation>Cierre ese programa y vuelva a conectar la tableta.</translation>
+    </message>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>No hay bus de sesión.</translation>
+    </message>
+    <message>
+        <source>Log out and in again. Without a desktop, use dbus-run-session.</source>
+        <translation>Cierre la sesión y vuelva a iniciarla. Sin escritorio, use dbus-run-session.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>El bus de sesión no responde.</translation>
+    </message>
+    <message>
+        <source>The session bus answers.</source>
+        <translation>El bus de sesión responde.</translation>
+    </message>
+    <message>
+        <source>The driver is running.</source>
+        <translation>El controlador está en marcha.</translation>
+    </message>
+    <message>
+        <source>The driver was not running and has been started.</source>
+        <translation>El controlador no estaba en marcha y se ha iniciado.</translation>
+    </message>
+    <message>
+        <source>No driver is installed.</source>
+        <translation>No hay ningún controlador instalado.</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver.</source>
+        <translation>Instale el paquete tdsg-driver.</translation>
+    </message>
+    <message>
+        <source>The driver cannot be started.</source>
+        <translation>No se puede iniciar el controlador.</translation>
+    </message>
+    <message>
+        <source>Log out and in again. The reason is in the journal of the session.</source>
+        <translation>Cierre la sesión y vuelva a iniciarla. El motivo está en el registro de la sesión.</translation>
+    </message>
+    <message>
+        <source>The driver does not answer in time.</source>
+        <translation>El controlador no responde a tiempo.</translation>
+    </message>
+    <message>
+        <source>The driver answers in time.</source>
+        <translation>El controlador responde a tiempo.</translation>
+    </message>
+    <message>
+        <source>The driver has a tablet of its own, such as a simulated one.</source>
+        <translation>El controlador tiene una tableta propia, por ejemplo una simulada.</translation>
+    </message>
+    <message>
+        <source>No tablet is connected.</source>
+        <translation>No hay ninguna tableta conectada.</translation>
+    </message>
+    <message>
+        <source>Connect the tablet, or switch it on. If it is connected, try another socket or cable.</source>
+        <translation>Conecte la tableta o enciéndala. Si está conectada, pruebe con otro puerto u otro cable.</translation>
+    </message>
+    <message>
+        <source>A tablet is connected, but the driver does not use it: %1.</source>
+        <translation>Hay una tableta conectada, pero el controlador no la usa: %1.</translation>
+    </message>
+    <message>
+        <source>Do what the following lines say. Otherwise, plug the tablet in again, or restart the driver.</source>
+        <translation>Haga lo que dicen las líneas siguientes. Si no dicen nada, vuelva a conectar la tableta o reinicie el controlador.</translation>
+    </message>
+    <message>
+        <source>A tablet is connected: %1.</source>
+        <translation>Hay una tableta conectada: %1.</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver-access, and plug the tablet in again.</source>
+        <translation>Instale el paquete tdsg-driver-access y vuelva a conectar la tableta.</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet.</source>
+        <translation>No tiene permiso para abrir la tableta.</translation>
+    </message>
+    <message>
+        <source>You may not open /dev/uinput, which the driver needs.</source>
+        <translation>No tiene permiso para abrir /dev/uinput, que el controlador necesita.</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <translation>No tiene permiso para abrir la tableta por USB, así que no se puede ajustar su velocidad.</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt, and plug the tablet in again.</source>
+        <translation>Instale el paquete qvtblt y vuelva a conectar la tableta.</translation>
+    </message>
+    <message>
+        <source>You may open the tablet.</source>
+        <translation>Tiene permiso para abrir la tableta.</translation>
+    </message>
+    <message>
+        <source>Another program has the tablet open: %1.</source>
+        <translation>Otro programa tiene abierta la tableta: %1.</translation>
+    </message>
+    <message>
+        <source>A program has taken the tablet from the system&apos;s drivers.</source>
+        <translation>Un programa ha quitado la tableta a los controladores del sistema.</translation>
+    </message>
+    <message>
+        <source>No other program has the tablet open.</source>
+        <translation>Ningún otro programa tiene abierta la tableta.</translation>
+    </message>
+    <message>
+        <source>There is no settings file.</source>
+        <translation>No hay archivo de ajustes.</translation>
+    </message>
+    <message>
+        <source>Restart the driver, which makes the file.</source>
+        <translation>Reinicie el controlador, que crea el archivo.</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be used.</source>
+        <translation>El archivo de ajustes no se puede usar.</translation>
+    </message>
+    <message>
+        <source>Move the file away and restart the driver, which makes a new one.</source>
+        <translation>Mueva el archivo a otro lugar y reinicie el controlador, que crea uno nuevo.</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be written.</source>
+        <translation>No se puede escribir en el archivo de ajustes.</translation>
+    </message>
+    <message>
+        <source>Allow yourself to write the file and its folder.</source>
+        <translation>Dese permiso para escribir en el archivo y en su carpeta.</translation>
+    </message>
+    <message>
+        <source>The disk with the settings file has no room left.</source>
+        <translation>No queda espacio en el disco del archivo de ajustes.</translation>
+    </message>
+    <message>
+        <source>Delete something from this disk.</source>
+        <translation>Borre algo de ese disco.</translation>
+    </message>
+    <message>
+        <source>The settings file can be read and written.</source>
+        <translation>El archivo de ajustes se puede leer y escribir.</translation>
+    </message>
+    <message>
+        <source>No settings have been sent yet.</source>
+        <translation>Aún no se ha enviado ningún ajuste.</translation>
+    </message>
+    <message>
+        <source>The driver has not accepted the last change.</source>
+        <translation>El controlador no ha aceptado el último cambio.</translation>
+    </message>
+    <message>
+        <source>The driver has accepted the settings.</source>
+        <translation>El controlador ha aceptado los ajustes.</translation>
+    </message>
+    <message>
+        <source>The panel is not installed.</source>
+        <translation>El panel no está instalado.</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt.</source>
+        <translation>Instale el paquete qvtblt.</translation>
+    </message>
+    <message>
+        <source>The panel does not fit the version of Qt: it was built for %1.</source>
+        <translation>El panel no corresponde a la versión de Qt: se compiló para la %1.</translation>
+    </message>
+    <message>
+        <source>Install the panel of the same release as the desktop.</source>
+        <translation>Instale el panel de la misma versión que el escritorio.</translation>
+    </message>
+    <message>
+        <source>The panel fits the version of Qt, %1.</source>
+        <translation>El panel corresponde a la versión de Qt, la %1.</translation>
+    </message>
+    <message>
+        <source>There is no desktop.</source>
+        <translation>No hay escritorio.</translation>
+    </message>
+    <message>
+        <source>This desktop does not let others choose the pen&apos;s display.</source>
+        <translation>Este escritorio no deja que otros elijan la pantalla del lápiz.</translation>
+    </message>
+    <message>
+        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
+        <translation>Elija la pantalla en los ajustes de tabletas del propio escritorio.</translation>
+    </message>
+    <message>
+        <source>The pen&apos;s display can be chosen.</source>
+        <translation>Se puede elegir la pantalla del lápiz.</translation>
+    </message>
+    <message>
+        <source>The driver was not looked for.</source>
+        <translation>No se ha buscado el controlador.</translation>
+    </message>
+    <message>
+        <source>The driver was not asked.</source>
+        <translation>No se ha preguntado al controlador.</translation>
+    </message>
+    <message>
+        <source>Access to the tablet was not checked.</source>
+        <translation>No se ha comprobado el acceso a la tableta.</translation>
+    </message>
+    <message>
+        <source>Other programs were not checked.</source>
+        <translation>No se han comprobado otros programas.</translation>
+    </message>
+    <message>
+        <source>The settings file was not checked.</source>
+        <translation>No se ha comprobado el archivo de ajustes.</translation>
+    </message>
+    <message>
+        <source>Sending settings was not checked.</source>
+        <translation>No se ha comprobado el envío de ajustes.</translation>
+    </message>
+    <message>
+        <source>The choice of the pen&apos;s display was not checked.</source>
+        <translation>No se ha comprobado la elección de la pantalla del lápiz.</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheckDialog</name>
+    <message>
+        <source>Self-Check</source>
+        <extracomment>Title of the window that says what is wrong with tablet, driver and panel.</extracomment>
+        <translation>Autocomprobación</translation>
+    </message>
+    <message>
+        <source>What was checked</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>Lo que se ha comprobado</translation>
+    </message>
+    <message>
+        <source>Check A&amp;gain</source>
+        <extracomment>Button of the self-check.</extracomment>
+        <translation>Comprobar de &amp;nuevo</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Report</source>
+        <extracomment>Button of the self-check: copies what was found to the clipboard.</extracomment>
+        <translation>Copiar el &amp;informe</translation>
+    </message>
+    <message>
+        <source>For whoever helps you. It contains nothing personal.</source>
+        <translation>Para quien le ayude. No contiene nada personal.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Comprobando…</translation>
+    </message>
+    <message>
+        <source>Nothing wrong was found.</source>
+        <translation>No se ha encontrado ningún problema.</translation>
+    </message>
+    <message>
+        <source>Something is wrong. Begin with the first problem:</source>
+        <translation>Algo no va bien. Empiece por el primer problema:</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problema</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Correcto</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Sin comprobar</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

@@ -107,6 +107,15 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>Les réglages de la tablette précédente n’ont pas été enregistrés&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Find the &amp;Problem…</source>
+        <extracomment>Button where no tablet is found: opens the self-check.</extracomment>
+        <translation>Chercher le &amp;problème…</translation>
+    </message>
+    <message>
+        <source>Check the tablet, its driver and the panel</source>
+        <translation>Vérifier la tablette, son pilote et le panneau</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>
@@ -889,6 +898,301 @@
         <source>C&amp;hoose</source>
         <extracomment>Button: takes the selected application.</extracomment>
         <translation>C&amp;hoisir</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheck</name>
+    <message>
+        <source>Log out and in again.</source>
+        <translation>Fermez la session et ouvrez-la de nouveau.</translation>
+    </message>
+    <message>
+        <source>Restart the driver, or log out and in again.</source>
+        <translation>Redémarrez le pilote, ou fermez la session et ouvrez-la de nouveau.</translation>
+    </message>
+    <message>
+        <source>Plug the tablet in again. If that does not help, log out and in again.</source>
+        <translation>Rebranchez la tablette. Si cela ne suffit pas, fermez la session et ouvrez-la de nouveau.</translation>
+    </message>
+    <message>
+        <source>End that program, and plug the tablet in again.</source>
+        <translation>Fermez ce programme et rebranchez la tablette.</translation>
+    </message>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>Il n&apos;y a pas de bus de session.</translation>
+    </message>
+    <message>
+        <source>Log out and in again. Without a desktop, use dbus-run-session.</source>
+        <translation>Fermez la session et ouvrez-la de nouveau. Sans bureau, utilisez dbus-run-session.</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>Le bus de session ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The session bus answers.</source>
+        <translation>Le bus de session répond.</translation>
+    </message>
+    <message>
+        <source>The driver is running.</source>
+        <translation>Le pilote fonctionne.</translation>
+    </message>
+    <message>
+        <source>The driver was not running and has been started.</source>
+        <translation>Le pilote ne fonctionnait pas et a été démarré.</translation>
+    </message>
+    <message>
+        <source>No driver is installed.</source>
+        <translation>Aucun pilote n&apos;est installé.</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver.</source>
+        <translation>Installez le paquet tdsg-driver.</translation>
+    </message>
+    <message>
+        <source>The driver cannot be started.</source>
+        <translation>Le pilote ne peut pas être démarré.</translation>
+    </message>
+    <message>
+        <source>Log out and in again. The reason is in the journal of the session.</source>
+        <translation>Fermez la session et ouvrez-la de nouveau. La raison se trouve dans le journal de la session.</translation>
+    </message>
+    <message>
+        <source>The driver does not answer in time.</source>
+        <translation>Le pilote ne répond pas à temps.</translation>
+    </message>
+    <message>
+        <source>The driver answers in time.</source>
+        <translation>Le pilote répond à temps.</translation>
+    </message>
+    <message>
+        <source>The driver has a tablet of its own, such as a simulated one.</source>
+        <translation>Le pilote a sa propre tablette, par exemple une tablette simulée.</translation>
+    </message>
+    <message>
+        <source>No tablet is connected.</source>
+        <translation>Aucune tablette n&apos;est branchée.</translation>
+    </message>
+    <message>
+        <source>Connect the tablet, or switch it on. If it is connected, try another socket or cable.</source>
+        <translation>Branchez la tablette ou allumez-la. Si elle est branchée, essayez une autre prise ou un autre câble.</translation>
+    </message>
+    <message>
+        <source>A tablet is connected, but the driver does not use it: %1.</source>
+        <translation>Une tablette est branchée, mais le pilote ne l&apos;utilise pas&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Do what the following lines say. Otherwise, plug the tablet in again, or restart the driver.</source>
+        <translation>Faites ce que disent les lignes suivantes. Sinon, rebranchez la tablette ou redémarrez le pilote.</translation>
+    </message>
+    <message>
+        <source>A tablet is connected: %1.</source>
+        <translation>Une tablette est branchée&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver-access, and plug the tablet in again.</source>
+        <translation>Installez le paquet tdsg-driver-access et rebranchez la tablette.</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet.</source>
+        <translation>Vous n&apos;avez pas le droit d&apos;ouvrir la tablette.</translation>
+    </message>
+    <message>
+        <source>You may not open /dev/uinput, which the driver needs.</source>
+        <translation>Vous n&apos;avez pas le droit d&apos;ouvrir /dev/uinput, dont le pilote a besoin.</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <translation>Vous n&apos;avez pas le droit d&apos;ouvrir la tablette par USB&#xa0;: sa vitesse ne peut pas être réglée.</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt, and plug the tablet in again.</source>
+        <translation>Installez le paquet qvtblt et rebranchez la tablette.</translation>
+    </message>
+    <message>
+        <source>You may open the tablet.</source>
+        <translation>Vous avez le droit d&apos;ouvrir la tablette.</translation>
+    </message>
+    <message>
+        <source>Another program has the tablet open: %1.</source>
+        <translation>Un autre programme a ouvert la tablette&#xa0;: %1.</translation>
+    </message>
+    <message>
+        <source>A program has taken the tablet from the system&apos;s drivers.</source>
+        <translation>Un programme a pris la tablette aux pilotes du système.</translation>
+    </message>
+    <message>
+        <source>No other program has the tablet open.</source>
+        <translation>Aucun autre programme n&apos;a ouvert la tablette.</translation>
+    </message>
+    <message>
+        <source>There is no settings file.</source>
+        <translation>Il n&apos;y a pas de fichier de réglages.</translation>
+    </message>
+    <message>
+        <source>Restart the driver, which makes the file.</source>
+        <translation>Redémarrez le pilote, qui crée le fichier.</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be used.</source>
+        <translation>Le fichier de réglages est inutilisable.</translation>
+    </message>
+    <message>
+        <source>Move the file away and restart the driver, which makes a new one.</source>
+        <translation>Déplacez le fichier et redémarrez le pilote, qui en crée un nouveau.</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be written.</source>
+        <translation>Le fichier de réglages ne peut pas être écrit.</translation>
+    </message>
+    <message>
+        <source>Allow yourself to write the file and its folder.</source>
+        <translation>Donnez-vous le droit d&apos;écrire le fichier et son dossier.</translation>
+    </message>
+    <message>
+        <source>The disk with the settings file has no room left.</source>
+        <translation>Il n&apos;y a plus de place sur le disque du fichier de réglages.</translation>
+    </message>
+    <message>
+        <source>Delete something from this disk.</source>
+        <translation>Supprimez quelque chose de ce disque.</translation>
+    </message>
+    <message>
+        <source>The settings file can be read and written.</source>
+        <translation>Le fichier de réglages peut être lu et écrit.</translation>
+    </message>
+    <message>
+        <source>No settings have been sent yet.</source>
+        <translation>Aucun réglage n&apos;a encore été envoyé.</translation>
+    </message>
+    <message>
+        <source>The driver has not accepted the last change.</source>
+        <translation>Le pilote n&apos;a pas accepté la dernière modification.</translation>
+    </message>
+    <message>
+        <source>The driver has accepted the settings.</source>
+        <translation>Le pilote a accepté les réglages.</translation>
+    </message>
+    <message>
+        <source>The panel is not installed.</source>
+        <translation>Le panneau n&apos;est pas installé.</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt.</source>
+        <translation>Installez le paquet qvtblt.</translation>
+    </message>
+    <message>
+        <source>The panel does not fit the version of Qt: it was built for %1.</source>
+        <translation>Le panneau ne correspond pas à la version de Qt&#xa0;: il a été compilé pour la %1.</translation>
+    </message>
+    <message>
+        <source>Install the panel of the same release as the desktop.</source>
+        <translation>Installez le panneau de la même version que le bureau.</translation>
+    </message>
+    <message>
+        <source>The panel fits the version of Qt, %1.</source>
+        <translation>Le panneau correspond à la version de Qt, %1.</translation>
+    </message>
+    <message>
+        <source>There is no desktop.</source>
+        <translation>Il n&apos;y a pas de bureau.</translation>
+    </message>
+    <message>
+        <source>This desktop does not let others choose the pen&apos;s display.</source>
+        <translation>Ce bureau ne laisse pas les autres choisir l&apos;écran du stylet.</translation>
+    </message>
+    <message>
+        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
+        <translation>Choisissez l&apos;écran dans les réglages du bureau pour les tablettes.</translation>
+    </message>
+    <message>
+        <source>The pen&apos;s display can be chosen.</source>
+        <translation>L&apos;écran du stylet peut être choisi.</translation>
+    </message>
+    <message>
+        <source>The driver was not looked for.</source>
+        <translation>Le pilote n’a pas été cherché.</translation>
+    </message>
+    <message>
+        <source>The driver was not asked.</source>
+        <translation>Le pilote n’a pas été interrogé.</translation>
+    </message>
+    <message>
+        <source>Access to the tablet was not checked.</source>
+        <translation>L’accès à la tablette n’a pas été vérifié.</translation>
+    </message>
+    <message>
+        <source>Other programs were not checked.</source>
+        <translation>Les autres programmes n’ont pas été vérifiés.</translation>
+    </message>
+    <message>
+        <source>The settings file was not checked.</source>
+        <translation>Le fichier de réglages n’a pas été vérifié.</translation>
+    </message>
+    <message>
+        <source>Sending settings was not checked.</source>
+        <translation>L’envoi des réglages n’a pas été vérifié.</translation>
+    </message>
+    <message>
+        <source>The choice of the pen&apos;s display was not checked.</source>
+        <translation>Le choix de l’écran du stylet n’a pas été vérifié.</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheckDialog</name>
+    <message>
+        <source>Self-Check</source>
+        <extracomment>Title of the window that says what is wrong with tablet, driver and panel.</extracomment>
+        <translation>Autodiagnostic</translation>
+    </message>
+    <message>
+        <source>What was checked</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>Ce qui a été vérifié</translation>
+    </message>
+    <message>
+        <source>Check A&amp;gain</source>
+        <extracomment>Button of the self-check.</extracomment>
+        <translation>&amp;Vérifier de nouveau</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Report</source>
+        <extracomment>Button of the self-check: copies what was found to the clipboard.</extracomment>
+        <translation>Copier le &amp;rapport</translation>
+    </message>
+    <message>
+        <source>For whoever helps you. It contains nothing personal.</source>
+        <translation>Pour qui vous aide. Il ne contient rien de personnel.</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>Vérification…</translation>
+    </message>
+    <message>
+        <source>Nothing wrong was found.</source>
+        <translation>Aucun problème n&apos;a été trouvé.</translation>
+    </message>
+    <message>
+        <source>Something is wrong. Begin with the first problem:</source>
+        <translation>Quelque chose ne va pas. Commencez par le premier problème&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>Problème</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Correct</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>Non vérifié</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
 </context>
 </TS>

@@ -107,6 +107,15 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>前のタブレットの設定は保存されませんでした: %1</translation>
     </message>
+    <message>
+        <source>Find the &amp;Problem…</source>
+        <extracomment>Button where no tablet is found: opens the self-check.</extracomment>
+        <translation>問題を調べる(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Check the tablet, its driver and the panel</source>
+        <translation>タブレット、ドライバー、パネルを確認します</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>
@@ -889,6 +898,301 @@
         <source>C&amp;hoose</source>
         <extracomment>Button: takes the selected application.</extracomment>
         <translation>選択(&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheck</name>
+    <message>
+        <source>Log out and in again.</source>
+        <translation>ログアウトして、もう一度ログインしてください。</translation>
+    </message>
+    <message>
+        <source>Restart the driver, or log out and in again.</source>
+        <translation>ドライバーを再起動するか、ログアウトしてもう一度ログインしてください。</translation>
+    </message>
+    <message>
+        <source>Plug the tablet in again. If that does not help, log out and in again.</source>
+        <translation>タブレットを接続し直してください。それでも変わらないときは、ログアウトしてもう一度ログインしてください。</translation>
+    </message>
+    <message>
+        <source>End that program, and plug the tablet in again.</source>
+        <translation>そのプログラムを終了して、タブレットを接続し直してください。</translation>
+    </message>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>セッションバスがありません。</translation>
+    </message>
+    <message>
+        <source>Log out and in again. Without a desktop, use dbus-run-session.</source>
+        <translation>ログアウトして、もう一度ログインしてください。デスクトップがない場合は dbus-run-session を使います。</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>セッションバスが応答しません。</translation>
+    </message>
+    <message>
+        <source>The session bus answers.</source>
+        <translation>セッションバスは応答しています。</translation>
+    </message>
+    <message>
+        <source>The driver is running.</source>
+        <translation>ドライバーは動作しています。</translation>
+    </message>
+    <message>
+        <source>The driver was not running and has been started.</source>
+        <translation>ドライバーは動作していなかったため、起動しました。</translation>
+    </message>
+    <message>
+        <source>No driver is installed.</source>
+        <translation>ドライバーがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver.</source>
+        <translation>パッケージ tdsg-driver をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The driver cannot be started.</source>
+        <translation>ドライバーを起動できません。</translation>
+    </message>
+    <message>
+        <source>Log out and in again. The reason is in the journal of the session.</source>
+        <translation>ログアウトして、もう一度ログインしてください。理由はセッションのジャーナルにあります。</translation>
+    </message>
+    <message>
+        <source>The driver does not answer in time.</source>
+        <translation>ドライバーが時間内に応答しません。</translation>
+    </message>
+    <message>
+        <source>The driver answers in time.</source>
+        <translation>ドライバーは時間内に応答しています。</translation>
+    </message>
+    <message>
+        <source>The driver has a tablet of its own, such as a simulated one.</source>
+        <translation>ドライバーは、シミュレートされたものなど、独自のタブレットを使っています。</translation>
+    </message>
+    <message>
+        <source>No tablet is connected.</source>
+        <translation>タブレットが接続されていません。</translation>
+    </message>
+    <message>
+        <source>Connect the tablet, or switch it on. If it is connected, try another socket or cable.</source>
+        <translation>タブレットを接続するか、電源を入れてください。接続している場合は、別の端子やケーブルを試してください。</translation>
+    </message>
+    <message>
+        <source>A tablet is connected, but the driver does not use it: %1.</source>
+        <translation>タブレットは接続されていますが、ドライバーが使用していません: %1。</translation>
+    </message>
+    <message>
+        <source>Do what the following lines say. Otherwise, plug the tablet in again, or restart the driver.</source>
+        <translation>以下の行に従ってください。何もない場合は、タブレットを接続し直すか、ドライバーを再起動してください。</translation>
+    </message>
+    <message>
+        <source>A tablet is connected: %1.</source>
+        <translation>タブレットが接続されています: %1。</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver-access, and plug the tablet in again.</source>
+        <translation>パッケージ tdsg-driver-access をインストールして、タブレットを接続し直してください。</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet.</source>
+        <translation>タブレットを開く権限がありません。</translation>
+    </message>
+    <message>
+        <source>You may not open /dev/uinput, which the driver needs.</source>
+        <translation>ドライバーに必要な /dev/uinput を開く権限がありません。</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <translation>USB でタブレットを開く権限がないため、速度を設定できません。</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt, and plug the tablet in again.</source>
+        <translation>パッケージ qvtblt をインストールして、タブレットを接続し直してください。</translation>
+    </message>
+    <message>
+        <source>You may open the tablet.</source>
+        <translation>タブレットを開く権限があります。</translation>
+    </message>
+    <message>
+        <source>Another program has the tablet open: %1.</source>
+        <translation>別のプログラムがタブレットを開いています: %1。</translation>
+    </message>
+    <message>
+        <source>A program has taken the tablet from the system&apos;s drivers.</source>
+        <translation>あるプログラムが、システムのドライバーからタブレットを切り離しています。</translation>
+    </message>
+    <message>
+        <source>No other program has the tablet open.</source>
+        <translation>ほかのプログラムはタブレットを開いていません。</translation>
+    </message>
+    <message>
+        <source>There is no settings file.</source>
+        <translation>設定ファイルがありません。</translation>
+    </message>
+    <message>
+        <source>Restart the driver, which makes the file.</source>
+        <translation>ドライバーを再起動すると、ファイルが作成されます。</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be used.</source>
+        <translation>設定ファイルを使用できません。</translation>
+    </message>
+    <message>
+        <source>Move the file away and restart the driver, which makes a new one.</source>
+        <translation>ファイルを移動してドライバーを再起動すると、新しいファイルが作成されます。</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be written.</source>
+        <translation>設定ファイルに書き込めません。</translation>
+    </message>
+    <message>
+        <source>Allow yourself to write the file and its folder.</source>
+        <translation>ファイルとフォルダーに書き込む権限を自分に与えてください。</translation>
+    </message>
+    <message>
+        <source>The disk with the settings file has no room left.</source>
+        <translation>設定ファイルのあるディスクに空きがありません。</translation>
+    </message>
+    <message>
+        <source>Delete something from this disk.</source>
+        <translation>このディスクから何かを削除してください。</translation>
+    </message>
+    <message>
+        <source>The settings file can be read and written.</source>
+        <translation>設定ファイルの読み書きができます。</translation>
+    </message>
+    <message>
+        <source>No settings have been sent yet.</source>
+        <translation>まだ設定は送信されていません。</translation>
+    </message>
+    <message>
+        <source>The driver has not accepted the last change.</source>
+        <translation>ドライバーは最後の変更を受け付けていません。</translation>
+    </message>
+    <message>
+        <source>The driver has accepted the settings.</source>
+        <translation>ドライバーは設定を受け付けました。</translation>
+    </message>
+    <message>
+        <source>The panel is not installed.</source>
+        <translation>パネルがインストールされていません。</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt.</source>
+        <translation>パッケージ qvtblt をインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The panel does not fit the version of Qt: it was built for %1.</source>
+        <translation>パネルが Qt のバージョンに合いません: %1 用に作られています。</translation>
+    </message>
+    <message>
+        <source>Install the panel of the same release as the desktop.</source>
+        <translation>デスクトップと同じリリースのパネルをインストールしてください。</translation>
+    </message>
+    <message>
+        <source>The panel fits the version of Qt, %1.</source>
+        <translation>パネルは Qt のバージョン %1 に合っています。</translation>
+    </message>
+    <message>
+        <source>There is no desktop.</source>
+        <translation>デスクトップがありません。</translation>
+    </message>
+    <message>
+        <source>This desktop does not let others choose the pen&apos;s display.</source>
+        <translation>このデスクトップでは、ペンのディスプレイを外部から選べません。</translation>
+    </message>
+    <message>
+        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
+        <translation>デスクトップ自体のタブレット設定でディスプレイを選んでください。</translation>
+    </message>
+    <message>
+        <source>The pen&apos;s display can be chosen.</source>
+        <translation>ペンのディスプレイを選べます。</translation>
+    </message>
+    <message>
+        <source>The driver was not looked for.</source>
+        <translation>ドライバーは確認していません。</translation>
+    </message>
+    <message>
+        <source>The driver was not asked.</source>
+        <translation>ドライバーへの問い合わせはしていません。</translation>
+    </message>
+    <message>
+        <source>Access to the tablet was not checked.</source>
+        <translation>タブレットを開く権限は確認していません。</translation>
+    </message>
+    <message>
+        <source>Other programs were not checked.</source>
+        <translation>ほかのプログラムは確認していません。</translation>
+    </message>
+    <message>
+        <source>The settings file was not checked.</source>
+        <translation>設定ファイルは確認していません。</translation>
+    </message>
+    <message>
+        <source>Sending settings was not checked.</source>
+        <translation>設定の送信は確認していません。</translation>
+    </message>
+    <message>
+        <source>The choice of the pen&apos;s display was not checked.</source>
+        <translation>ペンのディスプレイの選択は確認していません。</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheckDialog</name>
+    <message>
+        <source>Self-Check</source>
+        <extracomment>Title of the window that says what is wrong with tablet, driver and panel.</extracomment>
+        <translation>自己診断</translation>
+    </message>
+    <message>
+        <source>What was checked</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>確認した項目</translation>
+    </message>
+    <message>
+        <source>Check A&amp;gain</source>
+        <extracomment>Button of the self-check.</extracomment>
+        <translation>もう一度確認(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Report</source>
+        <extracomment>Button of the self-check: copies what was found to the clipboard.</extracomment>
+        <translation>レポートをコピー(&amp;R)</translation>
+    </message>
+    <message>
+        <source>For whoever helps you. It contains nothing personal.</source>
+        <translation>助けてくれる人のためのものです。個人的な情報は含まれません。</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>確認中…</translation>
+    </message>
+    <message>
+        <source>Nothing wrong was found.</source>
+        <translation>問題は見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Something is wrong. Begin with the first problem:</source>
+        <translation>問題があります。最初の問題から始めてください:</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>問題</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未確認</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 </TS>

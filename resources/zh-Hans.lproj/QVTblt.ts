@@ -107,6 +107,15 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>上一个数位板的设置未保存：%1</translation>
     </message>
+    <message>
+        <source>Find the &amp;Problem…</source>
+        <extracomment>Button where no tablet is found: opens the self-check.</extracomment>
+        <translation>查找问题(&amp;P)…</translation>
+    </message>
+    <message>
+        <source>Check the tablet, its driver and the panel</source>
+        <translation>检查数位板、驱动程序和设置面板</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>
@@ -889,6 +898,301 @@
         <source>C&amp;hoose</source>
         <extracomment>Button: takes the selected application.</extracomment>
         <translation>选择(&amp;H)</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheck</name>
+    <message>
+        <source>Log out and in again.</source>
+        <translation>请注销后重新登录。</translation>
+    </message>
+    <message>
+        <source>Restart the driver, or log out and in again.</source>
+        <translation>请重新启动驱动程序，或注销后重新登录。</translation>
+    </message>
+    <message>
+        <source>Plug the tablet in again. If that does not help, log out and in again.</source>
+        <translation>请重新连接数位板。如果仍然无效，请注销后重新登录。</translation>
+    </message>
+    <message>
+        <source>End that program, and plug the tablet in again.</source>
+        <translation>请关闭该程序，然后重新连接数位板。</translation>
+    </message>
+    <message>
+        <source>There is no session bus.</source>
+        <translation>没有会话总线。</translation>
+    </message>
+    <message>
+        <source>Log out and in again. Without a desktop, use dbus-run-session.</source>
+        <translation>请注销后重新登录。没有桌面时，请使用 dbus-run-session。</translation>
+    </message>
+    <message>
+        <source>The session bus does not answer.</source>
+        <translation>会话总线没有响应。</translation>
+    </message>
+    <message>
+        <source>The session bus answers.</source>
+        <translation>会话总线有响应。</translation>
+    </message>
+    <message>
+        <source>The driver is running.</source>
+        <translation>驱动程序正在运行。</translation>
+    </message>
+    <message>
+        <source>The driver was not running and has been started.</source>
+        <translation>驱动程序原先没有运行，现已启动。</translation>
+    </message>
+    <message>
+        <source>No driver is installed.</source>
+        <translation>没有安装驱动程序。</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver.</source>
+        <translation>请安装软件包 tdsg-driver。</translation>
+    </message>
+    <message>
+        <source>The driver cannot be started.</source>
+        <translation>无法启动驱动程序。</translation>
+    </message>
+    <message>
+        <source>Log out and in again. The reason is in the journal of the session.</source>
+        <translation>请注销后重新登录。原因记录在会话日志中。</translation>
+    </message>
+    <message>
+        <source>The driver does not answer in time.</source>
+        <translation>驱动程序没有及时响应。</translation>
+    </message>
+    <message>
+        <source>The driver answers in time.</source>
+        <translation>驱动程序响应及时。</translation>
+    </message>
+    <message>
+        <source>The driver has a tablet of its own, such as a simulated one.</source>
+        <translation>驱动程序使用自己的数位板，例如模拟的数位板。</translation>
+    </message>
+    <message>
+        <source>No tablet is connected.</source>
+        <translation>没有连接数位板。</translation>
+    </message>
+    <message>
+        <source>Connect the tablet, or switch it on. If it is connected, try another socket or cable.</source>
+        <translation>请连接数位板或打开其电源。如果已连接，请换一个接口或一条线缆。</translation>
+    </message>
+    <message>
+        <source>A tablet is connected, but the driver does not use it: %1.</source>
+        <translation>已连接数位板，但驱动程序没有使用它：%1。</translation>
+    </message>
+    <message>
+        <source>Do what the following lines say. Otherwise, plug the tablet in again, or restart the driver.</source>
+        <translation>请按下面各行的提示操作；如果没有提示，请重新连接数位板或重新启动驱动程序。</translation>
+    </message>
+    <message>
+        <source>A tablet is connected: %1.</source>
+        <translation>已连接数位板：%1。</translation>
+    </message>
+    <message>
+        <source>Install the package tdsg-driver-access, and plug the tablet in again.</source>
+        <translation>请安装软件包 tdsg-driver-access，然后重新连接数位板。</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet.</source>
+        <translation>您没有打开数位板的权限。</translation>
+    </message>
+    <message>
+        <source>You may not open /dev/uinput, which the driver needs.</source>
+        <translation>您没有打开 /dev/uinput 的权限，而驱动程序需要它。</translation>
+    </message>
+    <message>
+        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <translation>您没有通过 USB 打开数位板的权限，因此无法设置其速度。</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt, and plug the tablet in again.</source>
+        <translation>请安装软件包 qvtblt，然后重新连接数位板。</translation>
+    </message>
+    <message>
+        <source>You may open the tablet.</source>
+        <translation>您有打开数位板的权限。</translation>
+    </message>
+    <message>
+        <source>Another program has the tablet open: %1.</source>
+        <translation>另一个程序打开了数位板：%1。</translation>
+    </message>
+    <message>
+        <source>A program has taken the tablet from the system&apos;s drivers.</source>
+        <translation>有程序从系统驱动手中占用了数位板。</translation>
+    </message>
+    <message>
+        <source>No other program has the tablet open.</source>
+        <translation>没有其他程序打开数位板。</translation>
+    </message>
+    <message>
+        <source>There is no settings file.</source>
+        <translation>没有设置文件。</translation>
+    </message>
+    <message>
+        <source>Restart the driver, which makes the file.</source>
+        <translation>请重新启动驱动程序，它会创建该文件。</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be used.</source>
+        <translation>设置文件无法使用。</translation>
+    </message>
+    <message>
+        <source>Move the file away and restart the driver, which makes a new one.</source>
+        <translation>请移走该文件并重新启动驱动程序，它会创建新文件。</translation>
+    </message>
+    <message>
+        <source>The settings file cannot be written.</source>
+        <translation>无法写入设置文件。</translation>
+    </message>
+    <message>
+        <source>Allow yourself to write the file and its folder.</source>
+        <translation>请为自己添加该文件及其文件夹的写入权限。</translation>
+    </message>
+    <message>
+        <source>The disk with the settings file has no room left.</source>
+        <translation>设置文件所在的磁盘已满。</translation>
+    </message>
+    <message>
+        <source>Delete something from this disk.</source>
+        <translation>请从该磁盘上删除一些内容。</translation>
+    </message>
+    <message>
+        <source>The settings file can be read and written.</source>
+        <translation>设置文件可以读写。</translation>
+    </message>
+    <message>
+        <source>No settings have been sent yet.</source>
+        <translation>尚未发送任何设置。</translation>
+    </message>
+    <message>
+        <source>The driver has not accepted the last change.</source>
+        <translation>驱动程序没有接受上一次更改。</translation>
+    </message>
+    <message>
+        <source>The driver has accepted the settings.</source>
+        <translation>驱动程序已接受设置。</translation>
+    </message>
+    <message>
+        <source>The panel is not installed.</source>
+        <translation>设置面板没有安装。</translation>
+    </message>
+    <message>
+        <source>Install the package qvtblt.</source>
+        <translation>请安装软件包 qvtblt。</translation>
+    </message>
+    <message>
+        <source>The panel does not fit the version of Qt: it was built for %1.</source>
+        <translation>设置面板与 Qt 版本不符：它是为 %1 构建的。</translation>
+    </message>
+    <message>
+        <source>Install the panel of the same release as the desktop.</source>
+        <translation>请安装与桌面同一发行版本的设置面板。</translation>
+    </message>
+    <message>
+        <source>The panel fits the version of Qt, %1.</source>
+        <translation>设置面板与 Qt 版本 %1 相符。</translation>
+    </message>
+    <message>
+        <source>There is no desktop.</source>
+        <translation>没有桌面。</translation>
+    </message>
+    <message>
+        <source>This desktop does not let others choose the pen&apos;s display.</source>
+        <translation>此桌面不允许其他程序选择笔所用的显示器。</translation>
+    </message>
+    <message>
+        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
+        <translation>请在桌面自身的数位板设置中选择显示器。</translation>
+    </message>
+    <message>
+        <source>The pen&apos;s display can be chosen.</source>
+        <translation>可以选择笔所用的显示器。</translation>
+    </message>
+    <message>
+        <source>The driver was not looked for.</source>
+        <translation>没有查找驱动程序。</translation>
+    </message>
+    <message>
+        <source>The driver was not asked.</source>
+        <translation>没有询问驱动程序。</translation>
+    </message>
+    <message>
+        <source>Access to the tablet was not checked.</source>
+        <translation>没有检查数位板的访问权限。</translation>
+    </message>
+    <message>
+        <source>Other programs were not checked.</source>
+        <translation>没有检查其他程序。</translation>
+    </message>
+    <message>
+        <source>The settings file was not checked.</source>
+        <translation>没有检查设置文件。</translation>
+    </message>
+    <message>
+        <source>Sending settings was not checked.</source>
+        <translation>没有检查设置的发送。</translation>
+    </message>
+    <message>
+        <source>The choice of the pen&apos;s display was not checked.</source>
+        <translation>没有检查笔所用显示器的选择。</translation>
+    </message>
+</context>
+<context>
+    <name>SelfCheckDialog</name>
+    <message>
+        <source>Self-Check</source>
+        <extracomment>Title of the window that says what is wrong with tablet, driver and panel.</extracomment>
+        <translation>自检</translation>
+    </message>
+    <message>
+        <source>What was checked</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>检查的项目</translation>
+    </message>
+    <message>
+        <source>Check A&amp;gain</source>
+        <extracomment>Button of the self-check.</extracomment>
+        <translation>重新检查(&amp;G)</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Report</source>
+        <extracomment>Button of the self-check: copies what was found to the clipboard.</extracomment>
+        <translation>复制报告(&amp;R)</translation>
+    </message>
+    <message>
+        <source>For whoever helps you. It contains nothing personal.</source>
+        <translation>供帮助您的人使用，不含任何个人信息。</translation>
+    </message>
+    <message>
+        <source>Checking…</source>
+        <translation>正在检查…</translation>
+    </message>
+    <message>
+        <source>Nothing wrong was found.</source>
+        <translation>没有发现问题。</translation>
+    </message>
+    <message>
+        <source>Something is wrong. Begin with the first problem:</source>
+        <translation>有问题。请从第一个问题开始：</translation>
+    </message>
+    <message>
+        <source>Problem</source>
+        <translation>问题</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>Not checked</source>
+        <translation>未检查</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
+        <translation>%1：%2</translation>
     </message>
 </context>
 </TS>

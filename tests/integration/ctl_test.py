@@ -41,7 +41,7 @@ class Ctl(session.Session):
 
     def test_misuse_is_told_with_exit_code_2(self):
         for words in ([], ["what"], ["status", "x"], ["check"], ["set", "Pen/Speed"], ["--what"],
-                      ["--json", "status"], ["show", "a", "b"], ["push", "now"], ["sim", "tap"],
+                      ["--json", "status"], ["show", "a", "b"], ["push", "now"], ["doctor", "x"], ["sim", "tap"],
                       ["usb-mode"], ["usb-mode", "slow"], ["sim", "tap", "1"],
                       ["sim", "tap", "1", "65536"]):
             with self.subTest(words):
@@ -63,7 +63,7 @@ class Ctl(session.Session):
         self.start_driver()
         for words in (["--help"], ["--version"], ["status"], ["show", self.config()],
                       ["show", "--json", self.config()], ["check", self.config()], ["push"],
-                      ["set", "Pen/Speed", "5"]):
+                      ["set", "Pen/Speed", "5"], ["doctor"], ["doctor", "--json"]):
             with self.subTest(words), open("/dev/full", "w") as full:
                 result = subprocess.run(
                     [str(session.BIN / "qvtbltctl"), *map(str, words)], env=self.env, text=True,
@@ -195,6 +195,63 @@ class Ctl(session.Session):
         self.assertIn("0 of 102 entries are usable", result.stdout, result)
         os.close(keyboard)
         os.close(terminal)
+
+    def doctor(self):
+        """Returns the exit code, and the status of each stage."""
+        result = self.ctl("doctor", "--json")
+        told = json.loads(result.stdout)
+        self.assertEqual(told["version"], 1)
+        for stage in told["stages"]:
+            self.assertEqual(set(stage), {"id", "status", "text", "remedy"})
+            self.assertTrue(stage["text"])
+            self.assertEqual(bool(stage["remedy"]), stage["status"] == "problem", stage)
+        return result.returncode, {stage["id"]: stage["status"] for stage in told["stages"]}
+
+    STAGES = ["bus", "driver", "answer", "tablet", "access", "holder", "file", "push", "module",
+              "mapping"]
+
+    def test_doctor_finds_nothing_wrong_with_a_simulated_tablet(self):
+        self.start_driver()
+        code, stages = self.doctor()
+        self.assertEqual(code, 0, stages)
+        self.assertEqual(list(stages), self.STAGES)
+        self.assertEqual(set(stages.values()), {"ok", "not checked"})
+        self.assertEqual(stages["push"], "not checked")
+        self.ctl("push")
+        self.assertEqual(self.doctor()[1]["push"], "ok")
+        self.assert_result(self.ctl("doctor"), 0, "ok           bus      The session bus answers.\n")
+
+    def test_doctor_says_what_is_wrong(self):
+        code, stages = self.doctor()
+        self.assertEqual((code, stages["driver"], stages["answer"]), (1, "problem", "not checked"))
+        self.assert_result(self.ctl("doctor"), 1, "problem      driver   No driver is installed.\n"
+                           "                      → Install the package tdsg-driver.\n")
+        self.start_driver()
+        self.simulator("Stall", "u", "2000")
+        self.assertEqual(self.doctor()[1]["answer"], "problem")
+        self.simulator("Stall", "u", "0")
+        session.wait_for(lambda: self.doctor()[1]["answer"] == "ok", "the end of the stall", 20)
+        self.config().write_text("broken")
+        self.assertEqual(self.doctor()[1]["file"], "problem")
+        self.config().unlink()
+        self.assertEqual(self.doctor()[1]["file"], "problem")
+        self.simulator("Detach")
+        code, stages = self.doctor()
+        self.assertEqual((code, stages["tablet"], stages["file"]), (1, "problem", "not checked"))
+
+    def test_doctor_works_without_a_bus(self):
+        self.env["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={self.folder}/none"
+        code, stages = self.doctor()
+        self.assertEqual((code, stages["bus"], stages["driver"]), (1, "problem", "not checked"))
+
+    def test_doctor_speaks_the_users_language(self):
+        self.env["LANGUAGE"] = "de"
+        self.assert_result(self.ctl("doctor"), 1, "Der Sitzungsbus antwortet.")
+
+    def test_doctors_stages_are_in_the_manual_page(self):
+        manual = (session.SOURCE / "cli/qvtbltctl.1").read_text()
+        for stage in self.STAGES:
+            self.assertRegex(manual, rf"(?m)^\.B {stage}$")
 
     def test_push_sends_the_files_record(self):
         self.assert_result(self.ctl("push"), 1, "", "the driver does not answer")

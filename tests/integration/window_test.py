@@ -107,13 +107,39 @@ class Window(desktop.Desktop):
                 self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
                 self.assertEqual(self.file_strips(), (1 - before[0], 0))
 
-    def test_without_a_tablet_there_is_only_the_label(self):
+    def test_without_a_tablet_there_is_only_the_label_and_the_self_check(self):
         self.start_driver("none")
         self.start([session.BIN / "qvtblt"])
         self.find("qvtblt", "No tablet was found", "label")
+        self.find("qvtblt", "Find the Problem…", "push button")
         for thing in self.things("qvtblt"):
             if thing["role"] in ("check box", "push button", "page tab", "combo box"):
-                self.assertFalse(thing["showing"], thing)
+                self.assertEqual(thing["showing"], thing["name"] == "Find the Problem…", thing)
+
+    def found(self):
+        """Returns the lines of the self-check."""
+        return [thing["name"] for thing in self.things("qvtblt", "--items")
+                if thing["role"] == "list item" and thing["showing"]]
+
+    def test_the_self_check_says_what_is_wrong_and_heals_itself(self):
+        driver = self.start_driver("none")
+        self.start([session.BIN / "qvtblt"])
+        self.find("qvtblt", "Find the Problem…", "push button")
+        # By keyboard alone.
+        self.xdotool("search", "--sync", "--onlyvisible", "--name", TITLE, "windowactivate",
+                     "--sync", "key", "alt+p")
+        self.find("qvtblt", "Something is wrong. Begin with the first problem:")
+        lines = session.wait_for(self.found, "the lines")
+        self.assertTrue(lines[0].startswith("OK: The session bus answers."), lines)
+        self.assertTrue(any(line.startswith("Problem: No tablet is connected.\nConnect the tablet")
+                            for line in lines), lines)
+        self.stop_driver(driver)
+        self.press("qvtblt", "Check Again", "push button")
+        session.wait_for(lambda: any("No driver is installed." in line for line in self.found()),
+                         "the missing driver")
+        self.start_driver("20737")
+        self.find("qvtblt", "Left scroll strip", "check box")
+        session.wait_for(lambda: not self.found(), "the end of the dialog")
 
     def test_the_panel_goes_on_when_the_driver_dies(self):
         driver = self.start_driver()

@@ -71,7 +71,10 @@ public:
             node.vendor, node.product);
         if (mParents.insert(input).second) {
             add("P: " + input + "\nE: SUBSYSTEM=input\nA: name=" + node.name
-                + "\\n\nA: uniq=" + node.serial + "\\n\n" + ids + "\n");
+                + "\\n\nA: uniq=" + node.serial + "\\n\n" + ids + "A: capabilities/key="
+                + words(
+                    node.codes.contains(EV_KEY) ? node.codes.at(EV_KEY) : std::vector<unsigned>())
+                + "\\n\nA: capabilities/abs=" + words(keysOf(node.axes)) + "\\n\n\n");
         }
         std::string event = input + "/event" + std::to_string(node.number);
         std::string text = "P: " + event + "\nN: input/event" + std::to_string(node.number)
@@ -91,6 +94,15 @@ public:
             << error->message;
         mHandlers.emplace_back(node.number, handler);
         umockdev_testbed_uevent(mTestbed, event.c_str(), "add");
+    }
+
+    /** Adds another device, in umockdev's form, without an event. */
+    void add(const std::string& description)
+    {
+        GError* error = nullptr;
+        EXPECT_TRUE(umockdev_testbed_add_from_string(mTestbed, description.c_str(), &error))
+            << error->message << '\n'
+            << description;
     }
 
     /** Unplugs it, with an event. The emulation allows no other node with this number. */
@@ -127,12 +139,31 @@ public:
     }
 
 private:
-    void add(const std::string& description)
+    static std::vector<unsigned> keysOf(const std::map<unsigned, input_absinfo>& axes)
     {
-        GError* error = nullptr;
-        EXPECT_TRUE(umockdev_testbed_add_from_string(mTestbed, description.c_str(), &error))
-            << error->message << '\n'
-            << description;
+        std::vector<unsigned> codes;
+        for (const auto& [code, axis] : axes) {
+            codes.push_back(code);
+        }
+        return codes;
+    }
+
+    /** A bit field as sysfs has it: words of the kernel's long, the last one first. */
+    static std::string words(const std::vector<unsigned>& bits)
+    {
+        constexpr unsigned kWord = 8 * sizeof(long);
+        std::vector<unsigned long> fields(1);
+        for (const unsigned bit : bits) {
+            fields.resize(std::max<std::size_t>(fields.size(), bit / kWord + 1));
+            fields[bit / kWord] |= 1UL << bit % kWord;
+        }
+        std::string text;
+        for (auto field = fields.rbegin(); field != fields.rend(); ++field) {
+            char digits[24];
+            std::snprintf(digits, sizeof digits, "%lx", *field);
+            text += (text.empty() ? "" : " ") + std::string(digits);
+        }
+        return text;
     }
 
     static void setBits(std::vector<std::uint8_t>& bytes, const std::vector<unsigned>& bits)
@@ -168,11 +199,7 @@ private:
                 }
                 setBits(bytes, types);
             } else if (number == kBits + EV_ABS) {
-                std::vector<unsigned> codes;
-                for (const auto& [code, axis] : node->axes) {
-                    codes.push_back(code);
-                }
-                setBits(bytes, codes);
+                setBits(bytes, keysOf(node->axes));
             } else if (number > kBits && number < kAxes) {
                 setBits(bytes, node->codes[number - kBits]);
             } else if (number >= kAxes && absolute != node->axes.end()) {

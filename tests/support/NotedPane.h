@@ -20,6 +20,7 @@ struct PaneLife {
     bool hasDevice = true;
     QByteArray settings; ///< all of them
     platform::PreferencePane::Device device = platform::PreferencePane::Device::Same;
+    platform::PreferencePane::SelfCheck selfCheck; ///< what one finds
 
     /** Returns the calls since the last take(). */
     QStringList take() { return std::exchange(calls, {}); }
@@ -64,6 +65,11 @@ public:
         mayHaveChanged();
     }
     void send() override { note("send"); }
+    void checkSelf(std::function<void(const SelfCheck& check)> done) override
+    {
+        note("check self");
+        checkDone = std::move(done);
+    }
     Device checkDevice() override
     {
         note("check");
@@ -91,6 +97,8 @@ public:
         mayHaveChanged();
     }
     using PreferencePane::tell;
+
+    std::function<void(const SelfCheck& check)> checkDone; ///< ends a self-check
 
 private:
     void note(const char* call) { mLife.calls.append(QString::fromLatin1(call)); }

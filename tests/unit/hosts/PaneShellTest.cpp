@@ -5,10 +5,15 @@
 #include "Accessible.h"
 #include "ErrorText.h"
 #include "NotedPane.h"
+#include "SelfCheckDialog.h"
 #include "Wait.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
 #include <QDialog>
+#include <QGuiApplication>
+#include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QTest>
 #include <QTimer>
@@ -62,7 +67,7 @@ protected:
         const auto buttons = mShell->findChildren<QPushButton*>();
         for (QPushButton* const button : buttons) {
             if (button->isVisible()
-                && QString(button->text()).remove(u'&') == QLatin1String(text)) {
+                && QString(button->text()).remove(u'&') == QString::fromUtf8(text)) {
                 return button;
             }
         }
@@ -410,6 +415,72 @@ TEST_P(Shell, givesTheFocusBackWhenTheLineGoes)
     mLife.take();
     mPane->tell(News::ChangeTaken);
     EXPECT_EQ(mLife.take(), calls({"did select"}));
+}
+
+namespace {
+
+platform::PreferencePane::SelfCheck foundProblem()
+{
+    using Status = platform::PreferencePane::CheckedStage::Status;
+    return {{{QStringLiteral("bus"), Status::Ok, QStringLiteral("The bus answers."), {}},
+                {QStringLiteral("driver"), Status::Problem, QStringLiteral("There is no driver."),
+                    QStringLiteral("Install one.")},
+                {QStringLiteral("answer"), Status::NotChecked, QStringLiteral("Not yet."), {}}},
+        QStringLiteral("the report")};
+}
+
+} // namespace
+
+TEST_P(Shell, findsTheProblemWhereThereIsNoTablet)
+{
+    show();
+    EXPECT_EQ(button("Find the Problem…"), nullptr);
+    leave();
+    mLife.hasDevice = false;
+    show();
+    press("Find the Problem…");
+    EXPECT_EQ(mLife.take(), calls({"check self"}));
+    auto* const dialog = mShell->findChild<SelfCheckDialog*>();
+    ASSERT_NE(dialog, nullptr);
+    const auto& list = *dialog->findChild<QListWidget*>();
+    EXPECT_EQ(list.count(), 0);
+    EXPECT_EQ(dialog->findChild<platform::NoticeLabel*>()->text(), QStringLiteral("Checking…"));
+    EXPECT_FALSE(button("Check Again")->isEnabled());
+    mPane->checkDone(foundProblem());
+    EXPECT_EQ(list.count(), 3);
+    EXPECT_EQ(list.currentRow(), 1) << "the first problem";
+    EXPECT_EQ(list.item(1)->text(), QStringLiteral("There is no driver.\nInstall one."));
+    EXPECT_EQ(list.item(1)->data(Qt::AccessibleTextRole).toString(),
+        QStringLiteral("Problem: There is no driver.\nInstall one."));
+    EXPECT_EQ(list.item(2)->data(Qt::AccessibleTextRole).toString(),
+        QStringLiteral("Not checked: Not yet."));
+    press("Copy Report");
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("the report"));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mLife.take(), calls({"check"})) << "the tablet may be there by now";
+    press("Check Again");
+    EXPECT_EQ(mLife.take(), calls({"check self"}));
+    EXPECT_EQ(list.count(), 0);
+    mPane->checkDone({});
+    EXPECT_EQ(dialog->findChild<platform::NoticeLabel*>()->text(),
+        QStringLiteral("Nothing wrong was found."));
+}
+
+TEST_P(Shell, showsThePagesInsteadOfTheProblemWhenTheTabletIsThere)
+{
+    mLife.hasDevice = false;
+    show();
+    press("Find the Problem…");
+    const QPointer<SelfCheckDialog> dialog = mShell->findChild<SelfCheckDialog*>();
+    mLife.take();
+    mLife.hasDevice = true;
+    mLife.device = Device::Other;
+    mPane->checkDone({});
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mLife.take(), calls({"check"}) + kLeaving + kComing);
+    EXPECT_TRUE(dialog.isNull() || !dialog->isVisible());
+    EXPECT_EQ(button("Find the Problem…"), nullptr);
+    mPane->checkDone(foundProblem()); // of a dialog that is gone
 }
 
 TEST_P(Shell, showsThePanesOwnButtonsNowhere)

@@ -13,7 +13,9 @@
 #include "QVKeyComboBox.h"
 #include "QVKeySetClass.h"
 #include "QVPressFit.h"
+#include "QVSelfCheck.h"
 #include "QVTabletModels.h"
+#include "SelfCheckDialog.h"
 #include "TabPage.h"
 #include "rzkBundle.h"
 
@@ -25,6 +27,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -500,6 +503,42 @@ TEST_P(Language, hasRoomForTheTextsWithoutATablet)
     EXPECT_TRUE(outlet<QLabel>("NoDevTitle").isVisible());
     EXPECT_TRUE(outlet<QLabel>("NoDevHelp").isVisible());
     expectAllFits(*mWindow);
+}
+
+TEST_P(Language, hasRoomForTheSelfCheck)
+{
+    show();
+    PaneLife life;
+    NotedPane pane(life);
+    SelfCheckDialog dialog(pane, nullptr);
+    dialog.show();
+    const QVSelfCheckFacts everythingIsWrong;
+    pane.checkDone(QVSelfCheckResult(everythingIsWrong));
+    settle();
+    expectAllFits(dialog);
+    expectMnemonicsDiffer(textsOf(dialog), 2);
+    const auto& list = *dialog.findChild<QListWidget*>();
+    EXPECT_GT(list.count(), 5);
+    for (int row = 0; row < list.count(); ++row) {
+        expectGlyphs(list.item(row)->text().remove(u'\n'));
+        EXPECT_LE(list.visualItemRect(list.item(row)).width(), list.viewport()->width());
+    }
+}
+
+TEST_P(Language, hasRoomForTheButtonWithoutATablet)
+{
+    show();
+    PaneLife life;
+    life.hasDevice = false;
+    PaneShell shell(std::make_unique<NotedPane>(life), PaneShell::Host::Window);
+    shell.willSelect();
+    shell.show();
+    settle();
+    expectGlyphs(textsOf(shell));
+    expectMnemonicsDiffer(textsOf(shell), 1);
+    for (const auto* const button : visible<QAbstractButton>(shell)) {
+        expectRoom(*button, button->text(), button->sizeHint(), button->size());
+    }
 }
 
 TEST_P(Language, hasRoomForTheTextsOfTheKeyDialog)
