@@ -39,13 +39,6 @@ constexpr std::int16_t kTurned = 180;
 /** Whether displays have begun to change; shared by all views. */
 bool DisplayConfigurationChanged = false;
 
-QString displayName(std::uint32_t index)
-{
-    const QString display = rzkBundle.localizedString(
-        QStringLiteral("Monitor"), QString(), QStringLiteral("InfoPlist"));
-    return QStringLiteral("%1 #%2").arg(display, QString::number(index + 1));
-}
-
 QVTabletArea wholeArea(const tagQVTabletInfo& info)
 {
     return {
@@ -99,6 +92,13 @@ void drawLabel(QPainter& painter, const QString& name, const Rect& miniature)
 }
 
 } // namespace
+
+QString QVDisplayName(std::uint32_t index)
+{
+    const QString display = rzkBundle.localizedString(
+        QStringLiteral("Monitor"), QString(), QStringLiteral("InfoPlist"));
+    return QStringLiteral("%1 #%2").arg(display, QString::number(index + 1));
+}
 
 QVMonitorView::QVMonitorView(QWidget* parent)
     : PaneView(parent)
@@ -203,7 +203,7 @@ void QVMonitorView::interrogateHardware()
             QStringLiteral("Monitors"), QString(), QStringLiteral("InfoPlist")));
     }
     for (std::uint32_t i = 0; i < mDspCount; ++i) {
-        items.append(displayName(i));
+        items.append(QVDisplayName(i));
         mSubMonitorRect[i] = service.bounds(mDisplays[i]);
     }
     if (!mComboBox.isNull()) {
@@ -282,7 +282,7 @@ Rect QVMonitorView::drawMiniatures(QPainter& painter) const
         painter.drawRect(QRectF(miniature.x, miniature.y, miniature.width, miniature.height));
         // On the miniature, which has the same colour in every theme.
         painter.setPen(Qt::black);
-        drawLabel(painter, displayName(i), miniature);
+        drawLabel(painter, QVDisplayName(i), miniature);
     }
     const int chosen = chosenIn(mComboBox);
     if (mDspCount == 1) {
@@ -304,7 +304,7 @@ QString QVMonitorView::spokenContents() const
         const auto number = [](double value) { return QString::number(std::lround(value)); };
         //: Read by screen readers; %1 is a display's name, %2 by %3 its size, %4, %5 its position.
         sentences.append(tr("%1: %2 by %3 points, its upper left corner at %4, %5.")
-                             .arg(displayName(i), number(display.width), number(display.height),
+                             .arg(QVDisplayName(i), number(display.width), number(display.height),
                                  number(display.x), number(display.y)));
     }
     if (chosenIn(mComboBox) >= 0) {

@@ -137,6 +137,9 @@ private:
     std::int16_t mUnknownDisplay = 0; ///< the last invalid number
 };
 
+/** A display's name in the list, such as "Display #1". @param index from 0 */
+QString QVDisplayName(std::uint32_t index);
+
 /** Clears the view's list when displays begin to change, and fills it when they have changed. */
 void DisplayRegisterReconfigurationCallback(
     platform::DisplayID display, std::uint32_t flags, void* userInfo);

@@ -18,11 +18,29 @@
 #include <QThread>
 
 #include <algorithm>
+#include <cstdint>
 #include <memory>
 #include <string_view>
 #include <utility>
+#include <vector>
 
 platform::Bundle rzkBundle;
+
+namespace {
+
+/** The monitor's maker and model, and its size, for the user. */
+QString describe(const platform::Monitor& monitor)
+{
+    const QString maker = (monitor.maker + u' ' + monitor.product).simplified();
+    const QString name = maker.isEmpty() ? monitor.connector : maker;
+    //: On a display; %1 is its maker and model, %2 and %3 its width and height.
+    return monitor.pixels.isEmpty() ? name
+                                    : QVTblt_prefPanePref::tr("%1, %2 × %3 pixels")
+                                          .arg(name, QString::number(monitor.pixels.width()),
+                                              QString::number(monitor.pixels.height()));
+}
+
+} // namespace
 
 platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bundle& bundle)
 {
@@ -126,6 +144,7 @@ void QVTblt_prefPanePref::setUpDisplayPage()
     connect(mComboBox, chosen, mMonitorView, &QVMonitorView::SelectMonitor);
     connect(mComboBoxSpeed, chosen, mMonitorView, &QVMonitorView::SelectSpeed);
     connect(mComboBoxUseMode, chosen, mMonitorView, &QVMonitorView::SelectUseMode);
+    connect(mIdentify, &QPushButton::clicked, this, &QVTblt_prefPanePref::identifyDisplays);
     connect(mDoCalibrate, &QPushButton::clicked, mMonitorView, &QVMonitorView::DoCalibrate);
     connect(
         mDefaultArea, &QPushButton::clicked, mMonitorView, &QVMonitorView::setTabletDefaultArea);
@@ -136,6 +155,29 @@ void QVTblt_prefPanePref::setUpDisplayPage()
             tell(News::ChangedByItself);
         }
     });
+}
+
+void QVTblt_prefPanePref::identifyDisplays()
+{
+    if (mSigns.areShown()) {
+        mSigns.hide();
+        return;
+    }
+    const platform::Displays& displays = platform::displays();
+    std::vector<platform::DisplaySign> signs;
+    for (const platform::DisplayID display :
+        displays.activeDisplays().value_or(std::vector<platform::DisplayID>())) {
+        const auto index = static_cast<std::uint32_t>(signs.size());
+        if (index == kQVMaxDisplays) {
+            break;
+        }
+        const QString text = describe(displays.monitor(display));
+        //: Read by screen readers; %1 is a display's name, such as "Display #1", %2 its maker and
+        //: size.
+        const QString spoken = tr("%1: %2").arg(QVDisplayName(index), text);
+        signs.push_back({display, QString::number(index + 1), text, spoken});
+    }
+    mSigns.show(signs);
 }
 
 platform::PreferencePane::Device QVTblt_prefPanePref::checkDevice()
@@ -281,6 +323,7 @@ void QVTblt_prefPanePref::didSelect()
 
 void QVTblt_prefPanePref::willUnselect()
 {
+    mSigns.hide();
     if (mainView() != nullptr) {
         // The driver must not continue to send points. A driver with another tablet has stopped,
         // and these settings are not for that tablet.

@@ -5,6 +5,7 @@
 #include "Accessible.h"
 #include "Bundle.h"
 #include "Client.h"
+#include "DisplaySigns.h"
 #include "Geometry.h"
 #include "PreferencePane.h"
 #include "QVConfigStore.h"
@@ -115,6 +116,8 @@ private:
     void showStrips();
 
     void setUpDisplayPage();
+    /** Shows on each display which one it is, or ends that. */
+    void identifyDisplays();
     void setUpKeyPage();
     void setUpPenPage();
     void restoreKeyPage();
@@ -124,6 +127,7 @@ private:
     /** A button of the tablet is down or up: marks its box. Screen readers hear it once. */
     void markButton(std::size_t slot, bool isDown);
 
+    platform::DisplaySigns mSigns;
     QTranslator mTranslator; ///< for the panel's own texts
     double mNoDevTitleX = 0; ///< of the label, from the side on which lines start
     /** The driver's answer about its tablet. */

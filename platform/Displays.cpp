@@ -112,17 +112,37 @@ public:
 
     Rect bounds(DisplayID display) const override
     {
-        const QList<QScreen*> screens = QGuiApplication::screens();
-        const auto index = static_cast<qsizetype>(display);
-        return index < screens.size() ? screenBounds(*screens[static_cast<int>(index)]) : Rect();
+        const QScreen* const found = screen(display);
+        return found == nullptr ? Rect() : screenBounds(*found);
     }
 
     bool isMain(DisplayID display) const override
     {
+        const QScreen* const found = screen(display);
+        return found != nullptr && found == QGuiApplication::primaryScreen();
+    }
+
+    Monitor monitor(DisplayID display) const override
+    {
+        const QScreen* const found = screen(display);
+        if (found == nullptr) {
+            return {};
+        }
+        Monitor monitor{
+            found->manufacturer(), found->model(), found->serialNumber(), found->name(), {}};
+        // A compositor that scales by a fraction tells Qt the next whole number.
+        if (std::abs(found->devicePixelRatio() / unitsPerPoint(*found) - 1) < 0.01) {
+            const Rect place = screenBounds(*found);
+            monitor.pixels = QSizeF(place.width, place.height).toSize();
+        }
+        return monitor;
+    }
+
+    QScreen* screen(DisplayID display) const override
+    {
         const QList<QScreen*> screens = QGuiApplication::screens();
         const auto index = static_cast<qsizetype>(display);
-        return index < screens.size()
-            && screens[static_cast<int>(index)] == QGuiApplication::primaryScreen();
+        return index < screens.size() ? screens[static_cast<int>(index)] : nullptr;
     }
 
 protected:

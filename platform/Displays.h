@@ -6,6 +6,8 @@
 
 #include <QObject>
 #include <QRect>
+#include <QSize>
+#include <QString>
 
 #include <cstdint>
 #include <optional>
@@ -32,6 +34,17 @@ inline constexpr std::uint32_t kDisplayBeginConfiguration = 1;
 /** The flag of a notification that displays have changed. */
 inline constexpr std::uint32_t kDisplaySetMode = 8;
 
+/** The monitor behind a display. What the window system does not know is empty. */
+struct Monitor {
+    QString maker{};
+    QString product{};
+    QString serial{};
+    QString connector{}; ///< such as "DP-1"
+    QSize pixels{}; ///< of the picture, however it is scaled; empty if that is not known
+
+    bool operator==(const Monitor&) const = default;
+};
+
 /** Main thread only. */
 class Displays : public QObject {
     Q_OBJECT
@@ -48,6 +61,12 @@ public:
 
     /** Whether it is the main display, whose upper left corner is the origin. */
     virtual bool isMain(DisplayID display) const = 0;
+
+    /** A display's monitor; empty for an unknown display. */
+    virtual Monitor monitor(DisplayID /*display*/) const { return {}; }
+
+    /** The display's screen; null if it has none. */
+    virtual QScreen* screen(DisplayID /*display*/) const { return nullptr; }
 
 Q_SIGNALS:
     /**

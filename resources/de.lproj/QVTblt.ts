@@ -791,6 +791,25 @@
         <translation>%1 ist gedrückt</translation>
     </message>
     <message>
+        <source>&amp;Identify displays</source>
+        <extracomment>Button: shows on each display which one it is</extracomment>
+        <translation>Bildschirmnummern &amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Shows the number of each display on the display itself, for three seconds.</source>
+        <translation>Zeigt die Nummer jedes Bildschirms drei Sekunden lang auf ihm selbst an.</translation>
+    </message>
+    <message>
+        <source>%1, %2 × %3 pixels</source>
+        <extracomment>On a display; %1 is its maker and model, %2 and %3 its width and height.</extracomment>
+        <translation>%1, %2 × %3 Pixel</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is a display&apos;s name, such as &quot;Display #1&quot;, %2 its maker and size.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>upper pen button</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>obere Stifttaste</translation>

@@ -791,6 +791,25 @@
         <translation>%1 が押されています</translation>
     </message>
     <message>
+        <source>&amp;Identify displays</source>
+        <extracomment>Button: shows on each display which one it is</extracomment>
+        <translation>ディスプレイを識別(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Shows the number of each display on the display itself, for three seconds.</source>
+        <translation>各ディスプレイの番号を、そのディスプレイ自体に 3 秒間表示します。</translation>
+    </message>
+    <message>
+        <source>%1, %2 × %3 pixels</source>
+        <extracomment>On a display; %1 is its maker and model, %2 and %3 its width and height.</extracomment>
+        <translation>%1、%2 × %3 ピクセル</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is a display&apos;s name, such as &quot;Display #1&quot;, %2 its maker and size.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
         <source>upper pen button</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>ペンの上ボタン</translation>

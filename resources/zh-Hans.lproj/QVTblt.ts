@@ -791,6 +791,25 @@
         <translation>已按下%1</translation>
     </message>
     <message>
+        <source>&amp;Identify displays</source>
+        <extracomment>Button: shows on each display which one it is</extracomment>
+        <translation>识别显示器(&amp;I)</translation>
+    </message>
+    <message>
+        <source>Shows the number of each display on the display itself, for three seconds.</source>
+        <translation>在每个显示器上显示其编号，持续三秒。</translation>
+    </message>
+    <message>
+        <source>%1, %2 × %3 pixels</source>
+        <extracomment>On a display; %1 is its maker and model, %2 and %3 its width and height.</extracomment>
+        <translation>%1，%2 × %3 像素</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is a display&apos;s name, such as &quot;Display #1&quot;, %2 its maker and size.</extracomment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
         <source>upper pen button</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>笔的上键</translation>

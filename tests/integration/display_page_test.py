@@ -3,6 +3,7 @@
 """The display page while real displays are connected, disconnected, moved and rotated."""
 
 import plistlib
+import re
 import struct
 import subprocess
 import time
@@ -95,6 +96,76 @@ class Page(displays.Displays):
         left, top = (min(place[i] for place in places) for i in (0, 1))
         right, bottom = (max(place[i] + place[i + 2] for place in places) for i in (0, 1))
         self.expect_mapped(0, (left, top, right - left, bottom - top))
+
+
+class SignsPage(Page):
+    """What the button shows on the displays."""
+
+    def signs(self):
+        """Returns left, top, width and height of each sign, by what it says."""
+        found = {}
+        for window in self.run_program("xdotool", "search", "--onlyvisible", "--name",
+                                       "^Display #").stdout.split():
+            name = self.run_program("xdotool", "getwindowname", window).stdout.strip()
+            place = dict(re.findall(r"(\w+)=(-?\d+)", self.run_program(
+                "xdotool", "getwindowgeometry", "--shell", window).stdout))
+            if name and place:
+                found[name] = tuple(int(place[key]) for key in ("X", "Y", "WIDTH", "HEIGHT"))
+        return found
+
+    def identify(self, *displays):
+        """Presses the button, and expects a sign in the middle of each of the displays. Returns
+        the numbers on them."""
+        self.press("qvtblt", "Identify displays", "push button")
+        signs = session.wait_for(
+            lambda: len(self.signs()) == len(displays) and self.signs(), "the signs")
+        numbers = []
+        for left, top, width, height in displays:
+            said = [words for words, (x, y, w, h) in signs.items()
+                    if abs(2 * x + w - 2 * left - width) < 8
+                    and abs(2 * y + h - 2 * top - height) < 8]
+            self.assertEqual(len(said), 1, signs)
+            self.assertRegex(said[0], rf"^Display #\d: .+, {width} × {height} pixels$")
+            numbers.append(int(said[0][len("Display #")]))
+        return numbers
+
+
+class Signs(SignsPage):
+    def test_each_display_says_which_number_it_has(self):
+        self.plug(1, "800x600", "1024x0")
+        self.wait_for_items(2)
+        displays = (0, 0, 1024, 768), (1024, 0, 800, 600)
+        numbers = self.identify(*displays)
+        session.wait_for(lambda: not self.signs(), "the end of the signs")
+        for number, display in zip(numbers, displays):
+            self.expect_mapped(number, display)
+
+    def test_screen_readers_hear_it(self):
+        self.press("qvtblt", "Identify displays", "push button")
+        session.wait_for(lambda: any(
+            thing["role"] == "notification" and thing["showing"]
+            and re.match(r"Display #1: .+, 1024 × 768 pixels$", thing["name"])
+            for thing in self.things("qvtblt")), "the sign")
+
+    def test_it_ends_when_pressed_again_and_with_escape(self):
+        self.press("qvtblt", "Identify displays", "push button")
+        session.wait_for(self.signs, "the sign")
+        self.press("qvtblt", "Identify displays", "push button")
+        session.wait_for(lambda: not self.signs(), "its end", 2)
+        self.press("qvtblt", "Identify displays", "push button")
+        session.wait_for(self.signs, "the sign")
+        self.xdotool("search", "--sync", "--onlyvisible", "--name", "^Quorvia Tablet$",
+                     "windowactivate", "--sync", "key", "Escape")
+        session.wait_for(lambda: not self.signs(), "its end", 2)
+
+
+class ScaledSigns(SignsPage):
+    SETTINGS = {"QT_SCALE_FACTOR": "1.5"}
+
+    def test_each_display_says_which_number_it_has_however_it_is_scaled(self):
+        self.plug(1, "800x600", "1024x0")
+        self.wait_for_items(2)
+        self.assertEqual(self.identify((0, 0, 1024, 768), (1024, 0, 800, 600)), [1, 2])
 
 
 class DisplayPage(Page):

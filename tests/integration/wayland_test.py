@@ -70,6 +70,49 @@ class WaylandCalibration(wayland.Wayland):
         self.assertEqual(struct.unpack_from("<h", self.record(), 293), (0,))
 
 
+class Signs(wayland.Wayland):
+    """What the button that identifies the displays shows on them."""
+
+    def differences(self, before):
+        """Returns for each display the box of what differs: left, top, right and bottom."""
+        boxes = []
+        for display, then in enumerate(before):
+            now = self.pixels(display)
+            points = [(x, y) for x in range(0, 1280, 8) for y in range(0, 720, 8)
+                      if now(x, y) != then(x, y)]
+            boxes.append(points and (min(x for x, _ in points), min(y for _, y in points),
+                                     max(x for x, _ in points), max(y for _, y in points)))
+        return boxes
+
+    def test_each_display_has_one_for_three_seconds(self):
+        for settings in ({}, {"QT_SCALE_FACTOR": "1.5"}):
+            with self.subTest(**settings):
+                driver = self.start_driver()
+                before = self.env
+                self.env = {**before, **settings}
+                panel = self.start([session.BIN / "qvtblt"])
+                self.env = before
+                self.press("qvtblt", "Display", "page tab")
+                self.find("qvtblt", "Identify displays", "push button")
+                pictures = [self.pixels(0), self.pixels(1)]
+                self.press("qvtblt", "Identify displays", "push button")
+                # On the second display, there is nothing but the sign, in its middle.
+                left, top, right, bottom = session.wait_for(
+                    lambda: all(self.differences(pictures)) and self.differences(pictures)[1],
+                    "the signs")
+                self.assertLess(abs(left + right - 1280), 32)
+                self.assertLess(abs(top + bottom - 720), 32)
+                self.assertGreater(bottom - top, 200)
+                said = {thing["name"] for thing in self.things("qvtblt")
+                        if thing["role"] == "notification" and thing["showing"]}
+                self.assertEqual({words[:len("Display #1:")] for words in said},
+                                 {"Display #1:", "Display #2:"})
+                session.wait_for(lambda: not self.differences(pictures)[1], "their end")
+                panel.terminate()
+                self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
+                self.stop_driver(driver)
+
+
 class ScaledByTheToolkit(wayland.Wayland):
     def test_the_second_display_is_as_large_as_to_the_compositor(self):
         for settings in ({"QT_SCALE_FACTOR": "1.5"}, {"QT_SCREEN_SCALE_FACTORS": "1;2"},

@@ -5,6 +5,8 @@
 #include "Displays.h"
 #include "Service.h"
 
+#include <QGuiApplication>
+
 #include <utility>
 #include <vector>
 
@@ -41,6 +43,17 @@ public:
 
     bool isMain(platform::DisplayID display) const override { return display == kFirstID + main; }
 
+    platform::Monitor monitor(platform::DisplayID display) const override
+    {
+        const std::size_t index = display - kFirstID;
+        return index < monitors.size() ? monitors[index] : platform::Monitor();
+    }
+
+    QScreen* screen(platform::DisplayID display) const override
+    {
+        return display == kFirstID + main ? QGuiApplication::primaryScreen() : nullptr;
+    }
+
     /** Changes the displays as the desktop does, with notifications for each before and after. */
     void change(std::vector<platform::Rect> bounds)
     {
@@ -57,6 +70,7 @@ public:
     }
 
     std::uint32_t main = 0; ///< index of the main display
+    std::vector<platform::Monitor> monitors; ///< in the order of the displays
     bool failCount = false; ///< the window system does not return the number of displays
     bool failList = false; ///< nor the list
 
