@@ -142,6 +142,7 @@ void QVTblt_prefPanePref::setUpDisplayPage()
     mMonitorScroll->viewport()->setAutoFillBackground(false);
     const auto chosen = qOverload<int>(&QComboBox::activated);
     connect(mComboBox, chosen, mMonitorView, &QVMonitorView::SelectMonitor);
+    connect(mComboBox, chosen, this, [this] { tell(News::DisplayChosen); });
     connect(mComboBoxSpeed, chosen, mMonitorView, &QVMonitorView::SelectSpeed);
     connect(mComboBoxUseMode, chosen, mMonitorView, &QVMonitorView::SelectUseMode);
     connect(mIdentify, &QPushButton::clicked, this, &QVTblt_prefPanePref::identifyDisplays);
@@ -154,6 +155,7 @@ void QVTblt_prefPanePref::setUpDisplayPage()
         if (hasDevice() && mMonitorView->updateMappedArea()) {
             tell(News::ChangedByItself);
         }
+        tell(News::DisplaysChanged);
     });
 }
 
@@ -223,6 +225,23 @@ bool QVTblt_prefPanePref::askForDevice()
 bool QVTblt_prefPanePref::hasDevice() const
 {
     return mainView() != nullptr && mHasDevice;
+}
+
+QString QVTblt_prefPanePref::deviceID() const
+{
+    return hasDevice() ? QString::fromLatin1(GetPListName()).section(u'.', 0, 0) : QString();
+}
+
+int QVTblt_prefPanePref::chosenDisplay() const
+{
+    return qvTabletInfo.Monitor.num;
+}
+
+void QVTblt_prefPanePref::chooseDisplay(int number)
+{
+    mComboBox->setCurrentIndex(number);
+    mMonitorView->SelectMonitor();
+    tell(News::DisplayChosen);
 }
 
 void QVTblt_prefPanePref::willSelect()

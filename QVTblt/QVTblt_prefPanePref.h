@@ -60,6 +60,9 @@ public:
     Device checkDevice() override;
     void checkSelf(std::function<void(const SelfCheck& check)> done) override;
     bool hasDevice() const override;
+    QString deviceID() const override;
+    int chosenDisplay() const override;
+    void chooseDisplay(int number) override;
     void send() override { PushQVTabletInfo(); }
     QByteArray settings() const override;
     void setSettings(const QByteArray& settings) override;

@@ -67,6 +67,8 @@ public:
         NotSaved, ///< they could not be; the text says why
         DeviceMayHaveChanged, ///< a driver has appeared, or has another device than before
         ChangedByItself, ///< the settings follow the displays and have not been sent since
+        DisplayChosen, ///< a display has been chosen for the device, perhaps the same again
+        DisplaysChanged, ///< there are others, or in other places
     };
     using NewsHandler = std::function<void(News news, const QString& text)>;
 
@@ -107,6 +109,14 @@ public:
 
     /** Whether the pane shows the settings of a device. */
     virtual bool hasDevice() const { return true; }
+
+    /** What the device's settings are kept under; empty without a device. */
+    virtual QString deviceID() const { return {}; }
+
+    /** The number of the display that the device is mapped to, from 1; 0 for all of them. */
+    virtual int chosenDisplay() const { return 0; }
+    /** Maps the device to a display, as if it had been chosen in the pane. */
+    virtual void chooseDisplay(int number) { static_cast<void>(number); }
 
     /** Sends all settings to the driver, changed or not. */
     virtual void send() { }

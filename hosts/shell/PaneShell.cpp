@@ -15,6 +15,7 @@
 #include <QScrollArea>
 #include <QVBoxLayout>
 
+#include <optional>
 #include <utility>
 
 PaneShell::PaneShell(std::unique_ptr<Pane> pane, Host host, QWidget* parent)
@@ -152,6 +153,7 @@ void PaneShell::willSelect()
     mIsSelected = true;
     mPane->willSelect();
     mEdits->begin();
+    mMonitor.show(*mPane);
     if (mSave != nullptr) {
         mSave->setVisible(mPane->hasDevice());
         mCancel->setVisible(mPane->hasDevice());
@@ -339,6 +341,11 @@ void PaneShell::handleNews(Pane::News news, const QString& text)
             sendAgain();
         }
         return;
+    case Pane::News::DisplayChosen:
+        mMonitor.choose(*mPane);
+        break;
+    case Pane::News::DisplaysChanged:
+        break;
     }
     showNotice();
 }
@@ -378,6 +385,12 @@ PaneShell::Notice PaneShell::notice() const
         return {tr("The tablet's driver has not accepted the last change. Is it running?"),
             //: Button: sends the settings to the driver again.
             tr("Send A&gain"), &PaneShell::sendAgain};
+    }
+    if (const std::optional<int> display = mMonitor.moved(*mPane)) {
+        //: %1 is a number in the list of displays.
+        return {tr("The monitor that you chose for the tablet is now display %1.").arg(*display),
+            //: Button: maps the tablet to the display with the number %1.
+            tr("Choose Displa&y %1").arg(*display), &PaneShell::chooseMovedMonitor};
     }
     return {};
 }
@@ -438,6 +451,13 @@ void PaneShell::sendAgain()
     case Pane::Device::Other:
         reopen();
         break;
+    }
+}
+
+void PaneShell::chooseMovedMonitor()
+{
+    if (const std::optional<int> display = mMonitor.moved(*mPane)) {
+        mPane->chooseDisplay(*display);
     }
 }
 

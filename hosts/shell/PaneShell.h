@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "MonitorMemory.h"
 #include "PreferencePane.h"
 #include "Result.h"
 
@@ -105,6 +106,7 @@ private:
     void retry();
     void saveAgain();
     void sendAgain();
+    void chooseMovedMonitor();
     void checkDeviceSoon();
     void checkDevice();
     /** Shows the pane again without leaving it, so that it saves nothing. */
@@ -124,6 +126,7 @@ private:
     bool mIsNotTaken = false; ///< the driver has not accepted the last change
     bool mWillCheckDevice = false; ///< checkDevice() will be called soon
     bool mIsUnsure = false; ///< a new driver did not say which tablet it has
+    MonitorMemory mMonitor; ///< the one that was chosen for the tablet
 
     QWidget* mBottom = nullptr; ///< the line and the buttons
     platform::NoticeLabel* mNoticeLabel = nullptr; ///< null until the first notice

@@ -116,6 +116,16 @@
         <source>Check the tablet, its driver and the panel</source>
         <translation>Tablett, Treiber und Einstellungen prüfen</translation>
     </message>
+    <message>
+        <source>The monitor that you chose for the tablet is now display %1.</source>
+        <extracomment>%1 is a number in the list of displays.</extracomment>
+        <translation>Der Bildschirm, den Sie für das Tablett gewählt haben, hat jetzt die Nummer %1.</translation>
+    </message>
+    <message>
+        <source>Choose Displa&amp;y %1</source>
+        <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
+        <translation>Bildschirm %1 &amp;wählen</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>

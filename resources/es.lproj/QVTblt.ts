@@ -116,6 +116,16 @@
         <source>Check the tablet, its driver and the panel</source>
         <translation>Comprobar la tableta, su controlador y el panel</translation>
     </message>
+    <message>
+        <source>The monitor that you chose for the tablet is now display %1.</source>
+        <extracomment>%1 is a number in the list of displays.</extracomment>
+        <translation>La pantalla que eligió para la tableta es ahora la número %1.</translation>
+    </message>
+    <message>
+        <source>Choose Displa&amp;y %1</source>
+        <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
+        <translation>&amp;Seleccionar la pantalla %1</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>

@@ -116,6 +116,16 @@
         <source>Check the tablet, its driver and the panel</source>
         <translation>Vérifier la tablette, son pilote et le panneau</translation>
     </message>
+    <message>
+        <source>The monitor that you chose for the tablet is now display %1.</source>
+        <extracomment>%1 is a number in the list of displays.</extracomment>
+        <translation>L’écran que vous avez choisi pour la tablette porte maintenant le numéro %1.</translation>
+    </message>
+    <message>
+        <source>Choose Displa&amp;y %1</source>
+        <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
+        <translation>Choi&amp;sir l’écran %1</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>

@@ -116,6 +116,16 @@
         <source>Check the tablet, its driver and the panel</source>
         <translation>タブレット、ドライバー、パネルを確認します</translation>
     </message>
+    <message>
+        <source>The monitor that you chose for the tablet is now display %1.</source>
+        <extracomment>%1 is a number in the list of displays.</extracomment>
+        <translation>タブレット用に選んだディスプレイは、現在 %1 番です。</translation>
+    </message>
+    <message>
+        <source>Choose Displa&amp;y %1</source>
+        <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
+        <translation>ディスプレイ %1 を選択(&amp;Y)</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>

@@ -116,6 +116,16 @@
         <source>Check the tablet, its driver and the panel</source>
         <translation>检查数位板、驱动程序和设置面板</translation>
     </message>
+    <message>
+        <source>The monitor that you chose for the tablet is now display %1.</source>
+        <extracomment>%1 is a number in the list of displays.</extracomment>
+        <translation>您为数位板选择的显示器现在是 %1 号。</translation>
+    </message>
+    <message>
+        <source>Choose Displa&amp;y %1</source>
+        <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
+        <translation>选择显示器 %1(&amp;Y)</translation>
+    </message>
 </context>
 <context>
     <name>QVCalibrateView</name>

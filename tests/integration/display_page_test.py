@@ -168,6 +168,21 @@ class ScaledSigns(SignsPage):
         self.assertEqual(self.identify((0, 0, 1024, 768), (1024, 0, 800, 600)), [1, 2])
 
 
+class MonitorMemory(Page):
+    def test_the_chosen_monitor_is_offered_when_it_gets_another_number(self):
+        self.plug(1, "800x600", "1024x0")
+        self.wait_for_items(2)
+        self.expect_mapped(2, (1024, 0, 800, 600))
+        self.xrandr("--output", "DUMMY1", "--primary")  # the main display comes first
+        self.find("qvtblt", "The monitor that you chose for the tablet is now display 1.")
+        self.assertNotEqual(self.mapped(), (0, 0, 800, 600), "nothing is mapped unasked")
+        self.press("qvtblt", "Choose Display 1", "push button")
+        session.wait_for(lambda: self.mapped() == (0, 0, 800, 600), "the monitor")
+        self.find("qvtblt", "Display #1", "combo box")
+        session.wait_for(lambda: not any("that you chose" in thing["name"]
+                                         for thing in self.things("qvtblt")), "the line's end")
+
+
 class DisplayPage(Page):
     def test_displays_that_come_move_and_go(self):
         self.expect_page((0, 0, 1024, 768))

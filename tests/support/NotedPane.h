@@ -21,6 +21,8 @@ struct PaneLife {
     QByteArray settings; ///< all of them
     platform::PreferencePane::Device device = platform::PreferencePane::Device::Same;
     platform::PreferencePane::SelfCheck selfCheck; ///< what one finds
+    QString deviceID;
+    int display = 0; ///< the chosen one
 
     /** Returns the calls since the last take(). */
     QStringList take() { return std::exchange(calls, {}); }
@@ -69,6 +71,14 @@ public:
     {
         note("check self");
         checkDone = std::move(done);
+    }
+    QString deviceID() const override { return mLife.deviceID; }
+    int chosenDisplay() const override { return mLife.display; }
+    void chooseDisplay(int number) override
+    {
+        note("choose display");
+        mLife.display = number;
+        tell(News::DisplayChosen);
     }
     Device checkDevice() override
     {

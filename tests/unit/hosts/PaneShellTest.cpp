@@ -4,8 +4,10 @@
 
 #include "Accessible.h"
 #include "ErrorText.h"
+#include "FakeDisplays.h"
 #include "NotedPane.h"
 #include "SelfCheckDialog.h"
+#include "TemporaryHome.h"
 #include "Wait.h"
 
 #include <QClipboard>
@@ -481,6 +483,101 @@ TEST_P(Shell, showsThePagesInsteadOfTheProblemWhenTheTabletIsThere)
     EXPECT_TRUE(dialog.isNull() || !dialog->isVisible());
     EXPECT_EQ(button("Find the Problem…"), nullptr);
     mPane->checkDone(foundProblem()); // of a dialog that is gone
+}
+
+namespace {
+
+/** Two displays, and the tablet on the second of them. */
+class ShellWithMonitors : public Shell {
+protected:
+    ShellWithMonitors()
+    {
+        mDisplays.monitors = {kLeft, kRight};
+        mLife.deviceID = QStringLiteral("7");
+        mLife.display = 2;
+    }
+
+    const platform::Monitor kLeft{QStringLiteral("Acme"), QStringLiteral("L"), {}, {}, {}};
+    const platform::Monitor kRight{QStringLiteral("Acme"), QStringLiteral("R"), {}, {}, {}};
+    const QString kMoved =
+        QStringLiteral("The monitor that you chose for the tablet is now display 1.");
+    TemporaryHome mHome;
+    FakeDisplays mDisplays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
+};
+
+INSTANTIATE_TEST_SUITE_P(InEachHost, ShellWithMonitors,
+    testing::Values(PaneShell::Host::Window, PaneShell::Host::SettingsApplication));
+
+} // namespace
+
+TEST_P(ShellWithMonitors, offersTheChosenMonitorWhenItHasAnotherNumber)
+{
+    show();
+    EXPECT_EQ(notice(), QString());
+    leave();
+    mDisplays.monitors = {kRight, kLeft};
+    show();
+    EXPECT_EQ(notice(), kMoved);
+    EXPECT_EQ(mLife.display, 2) << "nothing is mapped unasked";
+    press("Choose Display 1");
+    EXPECT_EQ(mLife.take(), calls({"choose display"}));
+    EXPECT_EQ(mLife.display, 1);
+    EXPECT_EQ(notice(), QString());
+    leave();
+    show();
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(ShellWithMonitors, noticesAtOnceThatTheDisplaysHaveChanged)
+{
+    show();
+    mDisplays.monitors = {kRight, kLeft};
+    mPane->tell(News::DisplaysChanged);
+    EXPECT_EQ(notice(), kMoved);
+    mDisplays.monitors = {kLeft, kRight};
+    mPane->tell(News::DisplaysChanged);
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(ShellWithMonitors, remembersWhatIsChosenInThePane)
+{
+    show();
+    mDisplays.monitors = {kRight, kLeft};
+    mPane->tell(News::DisplaysChanged);
+    mPane->tell(News::DisplayChosen); // the same number, but now on purpose
+    EXPECT_EQ(notice(), QString());
+    mDisplays.monitors = {kLeft, kRight};
+    mPane->tell(News::DisplaysChanged);
+    EXPECT_EQ(notice(), kMoved);
+    mLife.display = 0;
+    mPane->tell(News::DisplayChosen);
+    EXPECT_EQ(notice(), QString()) << "all displays";
+}
+
+TEST_P(ShellWithMonitors, remembersForEachTabletItsOwn)
+{
+    show();
+    leave();
+    mLife.deviceID = QStringLiteral("8");
+    mDisplays.monitors = {kRight, kLeft};
+    show();
+    EXPECT_EQ(notice(), QString());
+    leave();
+    mLife.deviceID = QStringLiteral("7");
+    show();
+    EXPECT_EQ(notice(), kMoved);
+}
+
+TEST_P(ShellWithMonitors, saysNothingWhileTheChosenMonitorIsNotThere)
+{
+    show();
+    mDisplays.monitors = {kLeft, {QStringLiteral("Other"), {}, {}, {}, {}}};
+    mPane->tell(News::DisplaysChanged);
+    EXPECT_EQ(notice(), QString());
+    mDisplays.change({{0, 0, 100, 100}});
+    mDisplays.monitors = {kRight};
+    mPane->tell(News::DisplaysChanged);
+    EXPECT_EQ(notice(), QString()) << "there is no choice";
 }
 
 TEST_P(Shell, showsThePanesOwnButtonsNowhere)
