@@ -15,8 +15,8 @@
 namespace {
 
 constexpr QLatin1String kLogin("org.freedesktop.login1");
-constexpr QLatin1String kManagerPath("/org/freedesktop/login1");
-constexpr QLatin1String kManager("org.freedesktop.login1.Manager");
+constexpr QLatin1String kLoginPath("/org/freedesktop/login1");
+constexpr QLatin1String kLoginManager("org.freedesktop.login1.Manager");
 constexpr QLatin1String kSession("org.freedesktop.login1.Session");
 constexpr QLatin1String kUser("org.freedesktop.login1.User");
 constexpr QLatin1String kProperties("org.freedesktop.DBus.Properties");
@@ -27,7 +27,7 @@ SeatSession::SeatSession(QDBusConnection bus, QObject* parent)
     : QObject(parent)
     , mBus(std::move(bus))
 {
-    mBus.connect(kLogin, kManagerPath, kManager, QStringLiteral("PrepareForSleep"), this,
+    mBus.connect(kLogin, kLoginPath, kLoginManager, QStringLiteral("PrepareForSleep"), this,
         SLOT(prepareForSleep(bool)));
     // Of every session: the user's graphical one may begin after this program.
     mBus.connect(kLogin, QString(), kProperties, QStringLiteral("PropertiesChanged"), this,
@@ -48,8 +48,8 @@ void SeatSession::announce(bool wasOurs)
 
 void SeatSession::delaySleep()
 {
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(kLogin, kManagerPath, kManager, QStringLiteral("Inhibit"));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        kLogin, kLoginPath, kLoginManager, QStringLiteral("Inhibit"));
     call << QStringLiteral("sleep") << QStringLiteral("Tablet driver")
          << QStringLiteral("Releases what the tablet has pressed") << QStringLiteral("delay");
     auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);

@@ -18,7 +18,7 @@ constexpr std::chrono::milliseconds kFirstPause{250};
 constexpr std::chrono::milliseconds kLongestPause{8000};
 /** A process that has lived as long was all right. */
 constexpr std::chrono::milliseconds kLongLife{10000};
-constexpr int kAnswerTime = 2000; ///< milliseconds
+constexpr int kEnvironmentAnswerTime = 2000; ///< milliseconds
 constexpr qint64 kMaxLine = 65536;
 
 /** Any of them leads to a desktop. */
@@ -82,7 +82,8 @@ void DisplayWatcher::begin()
         QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
     call << QStringLiteral("org.freedesktop.systemd1.Manager") << QStringLiteral("Environment");
     call.setAutoStartService(false);
-    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call, kAnswerTime), this);
+    auto* const answer =
+        new QDBusPendingCallWatcher(mBus.asyncCall(call, kEnvironmentAnswerTime), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *answer;

@@ -20,23 +20,23 @@
 namespace {
 
 constexpr QLatin1String kKWin("org.kde.KWin");
-constexpr QLatin1String kManagerPath("/org/kde/KWin/InputDevice");
-constexpr QLatin1String kManager("org.kde.KWin.InputDeviceManager");
+constexpr QLatin1String kDevicesPath("/org/kde/KWin/InputDevice");
+constexpr QLatin1String kDeviceManager("org.kde.KWin.InputDeviceManager");
 constexpr QLatin1String kDevice("org.kde.KWin.InputDevice");
-constexpr QLatin1String kProperties("org.freedesktop.DBus.Properties");
+constexpr QLatin1String kKWinProperties("org.freedesktop.DBus.Properties");
 
 constexpr QLatin1String kMapToWorkspace("mapToWorkspace");
 constexpr QLatin1String kOutputName("outputName");
 constexpr QLatin1String kOutputArea("outputArea");
 
-constexpr int kAnswerTime = 5000; ///< milliseconds
+constexpr int kKWinAnswerTime = 5000; ///< milliseconds
 
 const QRectF kAll(0, 0, 1, 1);
 
 QDBusMessage propertiesCall(const QString& path, const char* method)
 {
     QDBusMessage call =
-        QDBusMessage::createMethodCall(kKWin, path, kProperties, QLatin1String(method));
+        QDBusMessage::createMethodCall(kKWin, path, kKWinProperties, QLatin1String(method));
     call << QString(kDevice);
     call.setAutoStartService(false);
     return call;
@@ -130,7 +130,7 @@ KWinMapping::KWinMapping(QDBusConnection session, QObject* parent)
     if (!mBus.isConnected()) {
         return;
     }
-    mBus.connect(kKWin, kManagerPath, kManager, QStringLiteral("deviceAdded"), this,
+    mBus.connect(kKWin, kDevicesPath, kDeviceManager, QStringLiteral("deviceAdded"), this,
         SLOT(takeDevice(QString)));
     auto* const watcher =
         new QDBusServiceWatcher(kKWin, mBus, QDBusServiceWatcher::WatchForRegistration, this);
@@ -169,9 +169,9 @@ void KWinMapping::apply()
         mIsToAskAgain = true;
         return;
     }
-    const QString path = kManagerPath + QLatin1Char('/') + mPen;
+    const QString path = kDevicesPath + QLatin1Char('/') + mPen;
     auto* const answer = new QDBusPendingCallWatcher(
-        mBus.asyncCall(propertiesCall(path, "GetAll"), kAnswerTime), this);
+        mBus.asyncCall(propertiesCall(path, "GetAll"), kKWinAnswerTime), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [=, this] {
         answer->deleteLater();
         mIsAsking = false;
@@ -199,7 +199,8 @@ void KWinMapping::set(const QString& path, const QVariantMap& present)
     for (auto change = settings.changes.begin(); change != settings.changes.end(); ++change) {
         QDBusMessage call = propertiesCall(path, "Set");
         call << change.key() << QVariant::fromValue(QDBusVariant(change.value()));
-        auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call, kAnswerTime), this);
+        auto* const answer =
+            new QDBusPendingCallWatcher(mBus.asyncCall(call, kKWinAnswerTime), this);
         connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
             answer->deleteLater();
             watchFile(); // there was none, perhaps

@@ -100,9 +100,9 @@ Q_DECLARE_METATYPE(AuxiliaryUnit)
 
 namespace {
 
-constexpr QLatin1String kManagerName("org.freedesktop.systemd1");
-constexpr QLatin1String kManagerPath("/org/freedesktop/systemd1");
-constexpr QLatin1String kManager("org.freedesktop.systemd1.Manager");
+constexpr QLatin1String kSystemd("org.freedesktop.systemd1");
+constexpr QLatin1String kSystemdPath("/org/freedesktop/systemd1");
+constexpr QLatin1String kSystemdManager("org.freedesktop.systemd1.Manager");
 
 /** What starts an application. */
 struct StartCommand {
@@ -114,7 +114,7 @@ struct StartCommand {
 QDBusMessage startMessage(const QString& unit, const QString& path, const StartCommand& command)
 {
     QDBusMessage call = QDBusMessage::createMethodCall(
-        kManagerName, kManagerPath, kManager, QStringLiteral("StartTransientUnit"));
+        kSystemd, kSystemdPath, kSystemdManager, QStringLiteral("StartTransientUnit"));
     const auto property = [](const char* name, const QVariant& value) {
         return UnitProperty{QString::fromLatin1(name), QDBusVariant(value)};
     };
@@ -207,7 +207,7 @@ Launcher::Launcher(QDBusConnection bus, QObject* parent)
     qDBusRegisterMetaType<QList<UnitCommand>>();
     qDBusRegisterMetaType<AuxiliaryUnit>();
     qDBusRegisterMetaType<QList<AuxiliaryUnit>>();
-    mBus.connect(kManagerName, kManagerPath, kManager, QStringLiteral("JobRemoved"), this,
+    mBus.connect(kSystemd, kSystemdPath, kSystemdManager, QStringLiteral("JobRemoved"), this,
         SLOT(jobRemoved(QDBusMessage)));
 }
 
@@ -230,7 +230,7 @@ void Launcher::launch(
     mStarts[unit] = {path, failed};
     // It tells about jobs only those who ask for it.
     QDBusMessage subscribe = QDBusMessage::createMethodCall(
-        kManagerName, kManagerPath, kManager, QStringLiteral("Subscribe"));
+        kSystemd, kSystemdPath, kSystemdManager, QStringLiteral("Subscribe"));
     subscribe.setAutoStartService(false);
     mBus.asyncCall(subscribe);
     auto* const answer =

@@ -12,11 +12,11 @@
 
 namespace {
 
-constexpr QLatin1String kName("org.freedesktop.Notifications");
-constexpr QLatin1String kPath("/org/freedesktop/Notifications");
+constexpr QLatin1String kNotifications("org.freedesktop.Notifications");
+constexpr QLatin1String kNotificationsPath("/org/freedesktop/Notifications");
 
 constexpr int kShownTime = 2000; ///< milliseconds
-constexpr int kAnswerTime = 5000; ///< milliseconds
+constexpr int kNoticeAnswerTime = 5000; ///< milliseconds
 
 } // namespace
 
@@ -31,12 +31,12 @@ void Notices::show(const QString& text)
     if (!mBus.isConnected()) {
         return;
     }
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(kName, kPath, kName, QStringLiteral("Notify"));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        kNotifications, kNotificationsPath, kNotifications, QStringLiteral("Notify"));
     call << QStringLiteral("tdsg-driver") << mLast << QStringLiteral("org.quorvia.tdsg-driver")
          << text << QString() << QStringList() << QVariantMap{{QStringLiteral("transient"), true}}
          << kShownTime;
-    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call, kAnswerTime), this);
+    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call, kNoticeAnswerTime), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         const QDBusPendingReply<uint> reply = *answer;
