@@ -118,15 +118,15 @@ TEST_F(Watcher, asksTheServiceManagerWhereTheDesktopIs)
     start("say \"$WAYLAND_DISPLAY$XDG_CURRENT_DESKTOP$OTHER\" 5; read end");
     QTest::qWait(100);
     EXPECT_TRUE(mWatcher->desktop().empty()) << "there is no desktop as yet";
-    manager.environment = {QStringLiteral("OTHER=x"), QStringLiteral("WAYLAND_DISPLAY=wayland-3"),
-        QStringLiteral("XDG_CURRENT_DESKTOP=KDE")};
+    manager.environment = QStringList{QStringLiteral("OTHER=x"),
+        QStringLiteral("WAYLAND_DISPLAY=wayland-3"), QStringLiteral("XDG_CURRENT_DESKTOP=KDE")};
     EXPECT_TRUE(sees("wayland-3KDE", 5));
 }
 
 TEST_F(Watcher, prefersItsOwnDesktopUntilThatIsGone)
 {
     FakeManager manager(mBus.address());
-    manager.environment = {QStringLiteral("DISPLAY=:9")};
+    manager.environment = QStringList{QStringLiteral("DISPLAY=:9")};
     qputenv("DISPLAY", ":7");
     start("say \"$DISPLAY\" 5; while [ \"$DISPLAY\" = :7 ] && [ ! -e gone ]; do sleep 0.1; done\n"
           "[ \"$DISPLAY\" = :7 ] || read end");

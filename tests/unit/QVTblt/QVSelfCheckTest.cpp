@@ -117,7 +117,7 @@ const Case kCases[] = {
         "Other programs were not checked.", ""},
     {"holder",
         [](Facts& facts) {
-            facts.holders = {QStringLiteral("one"), QStringLiteral("two")};
+            facts.holders = QStringList{QStringLiteral("one"), QStringLiteral("two")};
         },
         Status::Problem, "Another program has the tablet open: one, two.", "End that program"},
     {"holder", [](Facts& facts) { facts.tablets[0].isClaimed = true; }, Status::Problem,
@@ -196,7 +196,7 @@ TEST(SelfCheck, reportsNothingThatIsTheUsersOwn)
              QStringLiteral("secret\nSerial: secret\x1b[31m"), QString(100000, u's')}) {
         Facts facts = goodFacts();
         facts.tablets[0].node = secret;
-        facts.holders = {secret, secret};
+        facts.holders = QStringList{secret, secret};
         const QString report = QVSelfCheckReport(facts);
         EXPECT_FALSE(report.contains(QLatin1String("secret"))) << qPrintable(report);
         EXPECT_FALSE(report.contains(QLatin1String("/home")));
