@@ -121,7 +121,7 @@ void QVTblt_prefPanePref::fitPressure()
 {
     // The dialog is destroyed with the page, if the host closes the panel meanwhile.
     const QPointer<QVPressFit> dialog =
-        new QVPressFit(qvTabletInfo.Pen.PressureThreshold, mFitPressure->window());
+        new QVPressFit(qvTabletInfo.Pen.PressureThreshold, mainView());
     if (dialog->exec() == QDialog::Accepted && !dialog.isNull()) {
         mSlider->choose(dialog->threshold() * QVPressView::kSliderSteps);
     }

@@ -13,6 +13,7 @@
 
 #include <QApplication>
 #include <QDialogButtonBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
@@ -253,6 +254,25 @@ TEST_F(LivePressure, asksAgainForASecondPressThatIsNotHarder)
         press(dialog, 0.6);
         EXPECT_EQ(dialog.threshold(), QVFittingThreshold(0.2, 0.6));
     });
+}
+
+TEST_F(LivePressure, closesWithThePanelInAHostsWindowThatStays)
+{
+    QWidget host;
+    mWindow->setParent(&host);
+    host.show();
+    QPointer<QVPressFit> dialog;
+    QTimer::singleShot(0, qApp, [this, &dialog] {
+        dialog = qobject_cast<QVPressFit*>(QApplication::activeModalWidget());
+        ASSERT_FALSE(dialog.isNull());
+        mWindow.reset();
+        EXPECT_TRUE(dialog.isNull());
+        if (!dialog.isNull()) {
+            dialog->reject();
+        }
+    });
+    outlet<QPushButton>("mFitPressure").click();
+    EXPECT_EQ(pushes().size(), 0U);
 }
 
 TEST_F(LivePressure, outlivesAPanelThatIsClosedMeanwhile)
