@@ -245,6 +245,9 @@ void QVTblt_prefPanePref::chooseDisplay(int number)
 }
 
 void QVTblt_prefPanePref::willSelect()
+    if (number < 0 || number >= mComboBox->count()) {
+        return; // the displays have changed meanwhile
+    }
 {
     mHasDevice = askForDevice();
     if (mainView() == nullptr) {

@@ -319,6 +319,20 @@ TEST_F(Pane, tellsOnceThatTheMappedAreaFollowsTheDisplays)
     EXPECT_TRUE(sameBytes(pushes().back(), qvTabletInfo));
 }
 
+TEST_F(Pane, isMappedToNoDisplayThatItsListDoesNotHave)
+{
+    show();
+    const auto before = qvTabletInfo;
+    mEvents.sent.clear();
+    for (const int number : {-1, 3, 32767}) {
+        mPane.chooseDisplay(number);
+    }
+    EXPECT_EQ(std::memcmp(&qvTabletInfo, &before, sizeof before), 0);
+    EXPECT_EQ(pushes().size(), 0U);
+    mPane.chooseDisplay(2);
+    EXPECT_EQ(+qvTabletInfo.Monitor.num, 2);
+}
+
 TEST_F(Pane, putsTheFocusOnMSoft)
 {
     show();
