@@ -66,23 +66,46 @@ std::optional<int> findMonitor(const Monitor& remembered, const std::vector<Moni
                                    : std::optional(static_cast<int>(found - monitors.begin()) + 1);
 }
 
-void MonitorMemory::show(const platform::PreferencePane& pane)
+void MonitorMemory::show(const platform::PreferencePane& pane, bool isLoaded)
 {
     load(pane.deviceID());
-    if (!mChosen && pane.chosenDisplay() > 0) {
+    mNumber = pane.chosenDisplay();
+    if (isLoaded && !mChosen && mNumber > 0) {
         choose(pane);
     }
+    mShownNumber = mNumber;
+    mShown = mChosen;
+}
+
+bool MonitorMemory::note(const platform::PreferencePane& pane)
+{
+    const int number = pane.chosenDisplay();
+    if (number == mNumber) {
+        return false;
+    }
+    if (number == mShownNumber && mShown) {
+        mNumber = number;
+        mChosen = mShown;
+        save(pane.deviceID());
+    } else {
+        choose(pane);
+    }
+    return true;
 }
 
 void MonitorMemory::choose(const platform::PreferencePane& pane)
 {
+    mNumber = pane.chosenDisplay();
     const std::vector<Monitor> monitors = currentMonitors();
-    const auto chosen = static_cast<std::size_t>(pane.chosenDisplay());
+    const auto chosen = static_cast<std::size_t>(mNumber); // a negative one is too large
     // With a single one, there is no choice.
     if (pane.deviceID().isEmpty() || monitors.size() < 2 || chosen > monitors.size()) {
         return;
     }
     mChosen = chosen == 0 ? std::nullopt : std::optional(monitors[chosen - 1]);
+    if (mNumber == mShownNumber) {
+        mShown = mChosen;
+    }
     save(pane.deviceID());
 }
 

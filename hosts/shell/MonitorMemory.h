@@ -25,8 +25,21 @@ std::optional<int> findMonitor(
  */
 class MonitorMemory {
 public:
-    /** The device's settings are shown: what they name is remembered, if nothing was before. */
-    void show(const platform::PreferencePane& pane);
+    /**
+     * The device is shown. What its settings name is remembered, if nothing was before.
+     *
+     * @param isLoaded whether the pane has the device's own settings
+     */
+    void show(const platform::PreferencePane& pane, bool isLoaded = true);
+
+    /**
+     * The settings may have changed: if they name another display, remembers its monitor. If they
+     * are back at the display of the showing's beginning, as after an undo, remembers what was
+     * remembered then.
+     *
+     * @return whether they name another display
+     */
+    bool note(const platform::PreferencePane& pane);
 
     /** A display was chosen for the device: remembers its monitor, or none if all were chosen. */
     void choose(const platform::PreferencePane& pane);
@@ -42,4 +55,7 @@ private:
     void save(const QString& device) const;
 
     std::optional<platform::Monitor> mChosen;
+    int mNumber = 0; ///< the display that the settings last named
+    std::optional<platform::Monitor> mShown; ///< mChosen when the showing began
+    int mShownNumber = 0; ///< mNumber then
 };

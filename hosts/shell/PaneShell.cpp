@@ -124,6 +124,9 @@ void PaneShell::setChangeHandler(std::function<void()> handler)
 {
     mPane->setChangeHandler([this, handler = std::move(handler)] {
         mEdits->note();
+        if (mIsSelected && mPane->hasDevice() && mMonitor.note(*mPane)) {
+            showNotice();
+        }
         if (handler) {
             handler();
         }
@@ -153,7 +156,7 @@ void PaneShell::willSelect()
     mIsSelected = true;
     mPane->willSelect();
     mEdits->begin();
-    mMonitor.show(*mPane);
+    mMonitor.show(*mPane, mNotLoaded.isEmpty());
     if (mSave != nullptr) {
         mSave->setVisible(mPane->hasDevice());
         mCancel->setVisible(mPane->hasDevice());

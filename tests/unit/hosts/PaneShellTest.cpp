@@ -554,6 +554,40 @@ TEST_P(ShellWithMonitors, remembersWhatIsChosenInThePane)
     EXPECT_EQ(notice(), QString()) << "all displays";
 }
 
+TEST_P(ShellWithMonitors, remembersWhatUndoAndCancelGoBackTo)
+{
+    show();
+    mLife.display = 1;
+    mPane->tell(News::DisplayChosen);
+    mLife.display = 2;
+    mPane->edit(); // as an undo does
+    leave();
+    show();
+    EXPECT_EQ(notice(), QString());
+    mDisplays.monitors = {kRight, kLeft};
+    mPane->tell(News::DisplaysChanged);
+    EXPECT_EQ(notice(), kMoved);
+    mPane->edit();
+    EXPECT_EQ(notice(), kMoved) << "another setting was edited";
+    press("Choose Display 1");
+    EXPECT_EQ(notice(), QString());
+    mLife.display = 2;
+    mPane->edit();
+    EXPECT_EQ(notice(), kMoved);
+}
+
+TEST_P(ShellWithMonitors, remembersNothingOfSettingsThatAreNotTheTablets)
+{
+    mLife.canLoad = false;
+    mLife.display = 1;
+    show();
+    leave();
+    mLife.canLoad = true;
+    mLife.display = 2;
+    show();
+    EXPECT_EQ(notice(), QString());
+}
+
 TEST_P(ShellWithMonitors, remembersForEachTabletItsOwn)
 {
     show();
