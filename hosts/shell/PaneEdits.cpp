@@ -75,8 +75,17 @@ PaneEdits::PaneEdits(platform::PreferencePane& pane, QWidget& shell)
     };
     prepare(*mUndo, "Ctrl+Z");
     prepare(*mRedo, "Ctrl+Shift+Z");
-    connect(mUndo, &QAction::triggered, &mStack, &QUndoStack::undo);
-    connect(mRedo, &QAction::triggered, &mStack, &QUndoStack::redo);
+    const auto step = [this](void (QUndoStack::*way)()) {
+        return [this, way] {
+            // Otherwise, the step would be lost: the pane takes no settings while an edit is
+            // unfinished.
+            if (!mPane.settings().isEmpty()) {
+                (mStack.*way)();
+            }
+        };
+    };
+    connect(mUndo, &QAction::triggered, this, step(&QUndoStack::undo));
+    connect(mRedo, &QAction::triggered, this, step(&QUndoStack::redo));
     connect(&mStack, &QUndoStack::indexChanged, this, &PaneEdits::updateActions);
     updateActions();
     makeMenu(*mPane.mainView());
@@ -125,7 +134,7 @@ void PaneEdits::begin()
 
 void PaneEdits::note()
 {
-    const QByteArray settings = mIsStepping ? QByteArray() : mPane.settings();
+    const QByteArray settings = mIsPassing ? QByteArray() : mPane.settings();
     if (settings.isEmpty() || settings == mLast) {
         return;
     }
@@ -136,11 +145,18 @@ void PaneEdits::note()
     }
 }
 
+void PaneEdits::passOver(const std::function<void()>& act)
+{
+    const QScopedValueRollback passing(mIsPassing, true);
+    act();
+    if (const QByteArray settings = mPane.settings(); !settings.isEmpty()) {
+        mLast = settings;
+    }
+}
+
 void PaneEdits::setSettings(const QByteArray& settings)
 {
-    const QScopedValueRollback stepping(mIsStepping, true);
-    mPane.setSettings(settings);
-    mLast = mPane.settings();
+    passOver([&] { mPane.setSettings(settings); });
 }
 
 bool PaneEdits::eventFilter(QObject* watched, QEvent* event)

@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QUndoStack>
 
+#include <functional>
+
 class QAction;
 
 /**
@@ -30,6 +32,8 @@ public:
     void begin();
     /** Takes note of an edit, if the settings differ from what they were. */
     void note();
+    /** Does something that changes the settings, but is not an edit. */
+    void passOver(const std::function<void()>& act);
 
     bool eventFilter(QObject* watched, QEvent* event) override;
 
@@ -45,7 +49,7 @@ private:
     QAction* mUndo;
     QAction* mRedo;
     QByteArray mLast; ///< the settings after the last edit
-    bool mIsStepping = false; ///< the change is that of an undo or a redo
+    bool mIsPassing = false; ///< the change is not an edit
     int mPresses = 0; ///< how often something was pressed
     bool mIsPressed = false; ///< the last of these lasts
 };

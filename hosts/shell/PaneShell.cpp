@@ -291,7 +291,8 @@ int PaneShell::askAboutUnsaved(const platform::Error& error, bool canStay)
 
 void PaneShell::save()
 {
-    mPane->save();
+    // What a save makes of the settings is no edit of the user's.
+    mEdits->passOver([this] { mPane->save(); });
 }
 
 void PaneShell::cancel()

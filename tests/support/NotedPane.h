@@ -19,6 +19,7 @@ struct PaneLife {
     bool canLoad = true;
     bool hasDevice = true;
     QByteArray settings; ///< all of them
+    QByteArray savedAs; ///< what saving makes of them; empty if it leaves them
     platform::PreferencePane::Device device = platform::PreferencePane::Device::Same;
     platform::PreferencePane::SelfCheck selfCheck; ///< what one finds
     QString deviceID;
@@ -56,6 +57,9 @@ public:
     void save() override
     {
         note("save");
+        if (!mLife.savedAs.isEmpty()) {
+            mLife.settings = mLife.savedAs;
+        }
         write();
         mayHaveChanged();
     }

@@ -118,6 +118,34 @@ TEST_P(Edits, outliveASaveButNotTheShowing)
     EXPECT_EQ(items(), texts({"Undo, disabled", "Redo, disabled"}));
 }
 
+TEST_P(Edits, areNeitherUndoneNorRedoneWhileOneIsUnfinished)
+{
+    edit("a1");
+    edit("b1");
+    undo();
+    mLife.take();
+    mLife.settings = "";
+    undo();
+    redo();
+    EXPECT_EQ(mLife.take(), QStringList());
+    EXPECT_EQ(items(), texts({"Undo: a", "Redo: b1"}));
+    mLife.settings = "a1";
+    undo();
+    EXPECT_EQ(mLife.take(), texts({"set a0"}));
+}
+
+TEST_P(Edits, areNotWhatASaveWritesOtherwise)
+{
+    edit("a1");
+    mLife.savedAs = "a1 in its usual form";
+    mShell->save();
+    EXPECT_EQ(items(), texts({"Undo: a", "Redo, disabled"}));
+    undo();
+    edit("b1");
+    undo();
+    EXPECT_EQ(mLife.take(), texts({"save", "set a0", "set a0"}));
+}
+
 TEST_P(Edits, areAHundredAtMost)
 {
     for (int i = 1; i <= 150; ++i) {
