@@ -186,7 +186,7 @@ Finding checkHolder(const Facts& facts)
                        "SelfCheck", "A program has taken the tablet from the system's drivers.")},
             kEndProgram);
     }
-    return good({QT_TRANSLATE_NOOP("SelfCheck", "No other program has the tablet open.")});
+    return good({QT_TRANSLATE_NOOP("SelfCheck", "None of your programs has the tablet open.")});
 }
 
 Finding checkFile(const Facts& facts)

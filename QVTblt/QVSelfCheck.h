@@ -45,7 +45,7 @@ struct QVSelfCheckFacts {
     bool mayMakeDevices = false; ///< /dev/uinput may be opened
     bool hasPenRule = false; ///< 70-tdsg-driver-access.rules is installed
     bool hasUsbRule = false; ///< 60-quorvia-tablet.rules is
-    QStringList holders; ///< names of programs, other than the driver, that have a tablet open
+    QStringList holders; ///< names of the user's programs, but the driver, that have a tablet open
 
     enum class File : std::uint8_t { Missing, Unusable, NotWritable, NoRoom, Good };
     File file = File::Missing;
@@ -102,7 +102,9 @@ struct QVSelfCheckInput {
 /**
  * Gathers the facts. Starts a driver if none is running; otherwise, changes nothing: devices are
  * neither opened nor claimed. Blocks for some hundredths of a second, or several seconds if the bus
- * or the driver hangs. May be called on any thread.
+ * or the driver hangs. May be called on any thread; on another than the main one,
+ * QThread::requestInterruption() has it return within the time that is given to the bus, unless a
+ * disk does not answer.
  */
 QVSelfCheckFacts QVGatherFacts(const QVSelfCheckInput& input);
 

@@ -12,6 +12,7 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -19,13 +20,17 @@
 #include <QLibraryInfo>
 #include <QPluginLoader>
 #include <QScopeGuard>
+#include <QThread>
 #include <QVersionNumber>
 
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <climits>
 #include <cstring>
+#include <dirent.h>
 #include <linux/input.h>
+#include <memory>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -51,9 +56,21 @@ QDBusMessage busCall(const char* method, const QString& name)
     return call;
 }
 
+/** Whether the program quits meanwhile. */
+bool isInterrupted()
+{
+    return QThread::currentThread()->isInterruptionRequested();
+}
+
+/** Waits for the answer, unless interrupted. */
 QDBusMessage send(QDBusConnection& bus, const QDBusMessage& call, std::chrono::milliseconds limit)
 {
-    return bus.call(call, QDBus::Block, static_cast<int>(limit.count()));
+    constexpr unsigned long kMoment = 2; // milliseconds
+    const QDBusPendingCall pending = bus.asyncCall(call, static_cast<int>(limit.count()));
+    while (!pending.isFinished() && !isInterrupted()) {
+        QThread::msleep(kMoment);
+    }
+    return pending.reply();
 }
 
 bool isOwned(QDBusConnection& bus, const QString& name)
@@ -134,13 +151,17 @@ std::optional<bool> hasTakenSettings(QDBusConnection& bus, const QString& name)
 
 // Devices -----------------------------------------------------------------------------------------
 
-/** A small file of sysfs without its line's end; empty if there is none. */
-QString attribute(const QString& path)
+/** A small file of the kernel's without its line's end; empty if there is none. */
+QByteArray contents(const QString& path)
 {
     QFile file(path);
     constexpr qint64 kLongest = 4096;
-    return file.open(QIODevice::ReadOnly) ? QString::fromLatin1(file.read(kLongest)).trimmed()
-                                          : QString();
+    return file.open(QIODevice::ReadOnly) ? file.read(kLongest).trimmed() : QByteArray();
+}
+
+QString attribute(const QString& path)
+{
+    return QString::fromLatin1(contents(path));
 }
 
 std::uint16_t hexAttribute(const QString& path)
@@ -164,15 +185,30 @@ bool hasBit(const QString& words, unsigned bit)
         && (list.value(static_cast<int>(index)).toULongLong(nullptr, 16) >> bit % kWord & 1U) != 0;
 }
 
+/** The folder of the input device with that event node, which has the node's folder in it. */
+QString inputDevice(const QString& name)
+{
+    const QFileInfo node(QStringLiteral("/sys/class/input/") + name);
+    return QFileInfo(node.canonicalFilePath()).path();
+}
+
+std::uint16_t vendorOf(const QString& inputDevice)
+{
+    return hexAttribute(inputDevice + QStringLiteral("/id/vendor"));
+}
+
+std::uint16_t productOf(const QString& inputDevice)
+{
+    return hexAttribute(inputDevice + QStringLiteral("/id/product"));
+}
+
 /** The event nodes with a pen, except those that programs make. */
 void findPens(std::vector<QVConnectedTablet>& tablets)
 {
     const QDir inputs(QStringLiteral("/sys/class/input"));
     const QStringList names = inputs.entryList({QStringLiteral("event*")}, QDir::Dirs);
     for (const QString& name : names) {
-        // The event node is in the folder of its input device.
-        const QString device =
-            QFileInfo(QFileInfo(inputs.filePath(name)).canonicalFilePath()).path();
+        const QString device = inputDevice(name);
         const bool isPen =
             hasBit(attribute(device + QStringLiteral("/capabilities/key")), BTN_TOOL_PEN)
             && hasBit(attribute(device + QStringLiteral("/capabilities/abs")), ABS_X);
@@ -180,8 +216,7 @@ void findPens(std::vector<QVConnectedTablet>& tablets)
             continue;
         }
         const QString node = QStringLiteral("/dev/input/") + name;
-        tablets.push_back({hexAttribute(device + QStringLiteral("/id/vendor")),
-            hexAttribute(device + QStringLiteral("/id/product")), node, true, mayOpen(node, R_OK)});
+        tablets.push_back({vendorOf(device), productOf(device), node, true, mayOpen(node, R_OK)});
     }
 }
 
@@ -209,19 +244,73 @@ void findUsbDevices(std::vector<QVConnectedTablet>& tablets)
     }
 }
 
-/** A process's name, which it may have chosen. */
-QString processName(const QString& process)
+/** A process's name, which it may have chosen; the kernel keeps the first 15 bytes of it. */
+QString processName(const std::string& process)
 {
-    QString name = attribute(process + QStringLiteral("/comm"));
+    QString name = QString::fromUtf8(contents(QString::fromStdString(process + "/comm")));
     for (QChar& character : name) {
-        character = character.isPrint() ? character : QChar(QLatin1Char(' '));
+        const bool isSeen = character.isPrint() || character.isSurrogate();
+        character = isSeen ? character : QChar(QLatin1Char(' '));
     }
     return name.simplified();
 }
 
+/** The names in a folder. Unlike QDir, does not look at the files: a disk may not answer. */
+std::vector<std::string> namesIn(const std::string& folder)
+{
+    std::vector<std::string> names;
+    const std::unique_ptr<DIR, int (*)(DIR*)> stream(::opendir(folder.c_str()), &::closedir);
+    if (stream == nullptr) {
+        return names;
+    }
+    while (const dirent* const entry = ::readdir(stream.get())) {
+        names.emplace_back(&entry->d_name[0]);
+    }
+    return names;
+}
+
+QString linkTarget(const std::string& link)
+{
+    std::array<char, PATH_MAX> target{};
+    const ssize_t size = ::readlink(link.c_str(), target.data(), target.size());
+    return size < 0 ? QString()
+                    : QFile::decodeName(QByteArray(target.data(), static_cast<int>(size)));
+}
+
+/** Whether a process has a tablet open, and hardly any other input device. */
+bool isHolder(const std::string& process, const std::vector<QVConnectedTablet>& tablets)
+{
+    bool hasTablet = false;
+    const std::string folder = process + "/fd/";
+    for (const std::string& entry : namesIn(folder)) {
+        const QString file = linkTarget(folder + entry);
+        if (!file.contains(QLatin1String("/dev/"))) {
+            continue;
+        }
+        if (std::ranges::any_of(tablets,
+                [&](const QVConnectedTablet& tablet) { return file.endsWith(tablet.node); })) {
+            hasTablet = true;
+            continue;
+        }
+        if (!file.contains(QLatin1String("/input/event"))) {
+            continue;
+        }
+        // A tablet has other nodes besides that of its pen, such as that of its keys.
+        const QString device = inputDevice(file.section(QLatin1Char('/'), -1));
+        const std::uint16_t vendor = vendorOf(device);
+        const std::uint16_t product = productOf(device);
+        if (std::ranges::none_of(tablets, [&](const QVConnectedTablet& tablet) {
+                return tablet.vendor == vendor && tablet.product == product;
+            })) {
+            return false;
+        }
+    }
+    return hasTablet;
+}
+
 /**
- * The user's programs that have one of the tablets open. A desktop does not count: it has every
- * event device open, and others as well.
+ * The user's programs that have one of the tablets open; the files of others' programs cannot be
+ * seen. A desktop does not count: it has every event device open, and others as well.
  */
 QStringList findHolders(const std::vector<QVConnectedTablet>& tablets, const QString& driver)
 {
@@ -230,33 +319,17 @@ QStringList findHolders(const std::vector<QVConnectedTablet>& tablets, const QSt
     }
     constexpr int kMostNames = 3;
     QStringList names;
-    const QDir processes(QStringLiteral("/proc"));
-    const QStringList numbers =
-        processes.entryList({QStringLiteral("[0-9]*")}, QDir::Dirs | QDir::Readable);
-    const QString own = QString::number(::getpid());
-    for (const QString& number : numbers) {
-        const QString process = processes.filePath(number);
+    const std::array others{std::to_string(::getpid()), driver.toStdString()};
+    for (const std::string& number : namesIn("/proc")) {
+        if (isInterrupted() || names.size() == kMostNames) {
+            break;
+        }
+        const std::string process = "/proc/" + number;
         struct stat status { };
-        if (number == own || number == driver
-            || ::stat(QFile::encodeName(process).constData(), &status) != 0
-            || status.st_uid != ::getuid()) {
-            continue;
-        }
-        const QDir files(process + QStringLiteral("/fd"));
-        bool hasTablet = false;
-        bool hasOthers = false;
-        const QStringList entries = files.entryList(QDir::System | QDir::Files);
-        for (const QString& entry : entries) {
-            const QString file = QFile::symLinkTarget(files.filePath(entry));
-            if (!file.contains(QLatin1String("/dev/"))) {
-                continue;
-            }
-            const bool isTablet = std::ranges::any_of(tablets,
-                [&](const QVConnectedTablet& tablet) { return file.endsWith(tablet.node); });
-            hasTablet = hasTablet || isTablet;
-            hasOthers = hasOthers || (!isTablet && file.contains(QLatin1String("/input/event")));
-        }
-        if (hasTablet && !hasOthers && names.size() < kMostNames) {
+        const bool isUsers = number.find_first_not_of("0123456789") == std::string::npos
+            && std::ranges::find(others, number) == others.end()
+            && ::stat(process.c_str(), &status) == 0 && status.st_uid == ::getuid();
+        if (isUsers && isHolder(process, tablets)) {
             names.append(processName(process));
         }
     }

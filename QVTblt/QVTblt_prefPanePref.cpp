@@ -119,7 +119,8 @@ void QVTblt_prefPanePref::setUpPenPage()
 
 void QVTblt_prefPanePref::fitPressure()
 {
-    // The dialog is destroyed with the page, if the host closes the panel meanwhile.
+    // The dialog is destroyed with the main view, if the host closes the panel meanwhile. The
+    // host's window may outlive both.
     const QPointer<QVPressFit> dialog =
         new QVPressFit(qvTabletInfo.Pen.PressureThreshold, mainView());
     if (dialog->exec() == QDialog::Accepted && !dialog.isNull()) {
@@ -207,8 +208,13 @@ void QVTblt_prefPanePref::checkSelf(std::function<void(const SelfCheck& check)> 
     connect(thread, &QThread::finished, this,
         [facts, done = std::move(done)] { done(QVSelfCheckResult(*facts)); });
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
-    // It uses D-Bus, which must not end before it.
-    connect(qApp, &QCoreApplication::aboutToQuit, thread, [thread] { thread->wait(); });
+    // It uses D-Bus, which must not end before it. Interrupted, it stops doing so within the limit.
+    // It may still wait for a disk that does not answer, with nothing but what it owns.
+    connect(qApp, &QCoreApplication::aboutToQuit, thread, [thread] {
+        constexpr unsigned long kLimit = 3000; // milliseconds; a bus has 2000 of them
+        thread->requestInterruption();
+        thread->wait(kLimit);
+    });
     thread->start();
 }
 
@@ -239,15 +245,15 @@ int QVTblt_prefPanePref::chosenDisplay() const
 
 void QVTblt_prefPanePref::chooseDisplay(int number)
 {
+    if (number < 0 || number >= mComboBox->count()) {
+        return; // the displays have changed meanwhile
+    }
     mComboBox->setCurrentIndex(number);
     mMonitorView->SelectMonitor();
     tell(News::DisplayChosen);
 }
 
 void QVTblt_prefPanePref::willSelect()
-    if (number < 0 || number >= mComboBox->count()) {
-        return; // the displays have changed meanwhile
-    }
 {
     mHasDevice = askForDevice();
     if (mainView() == nullptr) {

@@ -1052,8 +1052,8 @@
         <translation>Ein Programm hat den Treibern des Systems das Tablett weggenommen.</translation>
     </message>
     <message>
-        <source>No other program has the tablet open.</source>
-        <translation>Kein anderes Programm hat das Tablett geöffnet.</translation>
+        <source>None of your programs has the tablet open.</source>
+        <translation>Keines Ihrer Programme hat das Tablett geöffnet.</translation>
     </message>
     <message>
         <source>There is no settings file.</source>

@@ -1052,8 +1052,8 @@
         <translation>Un programa ha quitado la tableta a los controladores del sistema.</translation>
     </message>
     <message>
-        <source>No other program has the tablet open.</source>
-        <translation>Ningún otro programa tiene abierta la tableta.</translation>
+        <source>None of your programs has the tablet open.</source>
+        <translation>Ninguno de sus programas tiene abierta la tableta.</translation>
     </message>
     <message>
         <source>There is no settings file.</source>

@@ -1052,8 +1052,8 @@
         <translation>Un programme a pris la tablette aux pilotes du système.</translation>
     </message>
     <message>
-        <source>No other program has the tablet open.</source>
-        <translation>Aucun autre programme n&apos;a ouvert la tablette.</translation>
+        <source>None of your programs has the tablet open.</source>
+        <translation>Aucun de vos programmes n&apos;a ouvert la tablette.</translation>
     </message>
     <message>
         <source>There is no settings file.</source>

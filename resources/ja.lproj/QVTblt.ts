@@ -1052,8 +1052,8 @@
         <translation>あるプログラムが、システムのドライバーからタブレットを切り離しています。</translation>
     </message>
     <message>
-        <source>No other program has the tablet open.</source>
-        <translation>ほかのプログラムはタブレットを開いていません。</translation>
+        <source>None of your programs has the tablet open.</source>
+        <translation>お使いのプログラムはどれもタブレットを開いていません。</translation>
     </message>
     <message>
         <source>There is no settings file.</source>

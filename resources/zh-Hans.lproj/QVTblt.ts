@@ -1052,8 +1052,8 @@
         <translation>有程序从系统驱动手中占用了数位板。</translation>
     </message>
     <message>
-        <source>No other program has the tablet open.</source>
-        <translation>没有其他程序打开数位板。</translation>
+        <source>None of your programs has the tablet open.</source>
+        <translation>您的程序都没有打开数位板。</translation>
     </message>
     <message>
         <source>There is no settings file.</source>

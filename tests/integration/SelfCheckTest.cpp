@@ -13,10 +13,12 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QTest>
+#include <QThread>
 
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <memory>
 
 using Facts = QVSelfCheckFacts;
 
@@ -130,28 +132,33 @@ TEST_F(SelfCheckFacts, listTheMakersDevicesOnUsbAndWhoHasThem)
 TEST_F(SelfCheckFacts, nameAProgramThatHasTheTabletOpenButNoDesktop)
 {
     // Plain files: an emulated node would be open as a terminal.
-    const auto add = [this](const std::string& number, const char* keys) {
+    const auto add = [this](const std::string& number, const char* vendor, const char* keys) {
         const std::string input = "/devices/pci0000:00/input/input" + number;
-        mTablets.add("P: " + input + "\nE: SUBSYSTEM=input\nA: capabilities/key=" + keys
+        mTablets.add("P: " + input + "\nE: SUBSYSTEM=input\nA: id/vendor=" + vendor
+            + "\\n\nA: id/product=0042\\n\nA: capabilities/key=" + keys
             + "\\n\nA: capabilities/abs=3\\n\n\n");
         mTablets.add("P: " + input + "/event" + number + "\nN: input/event" + number
             + "=00\nE: SUBSYSTEM=input\n\n");
     };
-    add("1", "1 0 0 0 0 0");
-    add("2", "40000000");
+    add("1", "1234", "1 0 0 0 0 0");
+    add("2", "5678", "40000000");
+    add("3", "1234", "100 0 0 0 0"); // the tablet's own keys
     ASSERT_EQ(gather().tablets.size(), 1U);
-    const auto start = [](QProcess& process, const char* files) {
+    // A shell, which waits for its input, with a name of which the kernel keeps 15 bytes.
+    const auto start = [](QProcess& process, const char* name, const char* files) {
         process.start(QStringLiteral("sh"),
             {QStringLiteral("-c"),
-                QStringLiteral("exec tail -f /dev/null %1").arg(QLatin1String(files))});
+                QStringLiteral("exec %2 && printf '%1' > /proc/$$/comm && read line")
+                    .arg(QLatin1String(name), QLatin1String(files))});
         EXPECT_TRUE(process.waitForStarted());
     };
     QProcess desktop;
-    start(desktop, "3</dev/input/event1 4</dev/input/event2");
+    start(desktop, "desktop", "3</dev/input/event1 4</dev/input/event2");
     QProcess holder;
-    start(holder, "3</dev/input/event1");
-    EXPECT_TRUE(QTest::qWaitFor(
-        [] { return gather().holders == QStringList{QStringLiteral("tail")}; }, 10000))
+    start(holder, "gr\\303\\266\\303\\237er-\\360\\237\\226\\212-\\303\\266",
+        "3</dev/input/event1 4</dev/input/event3");
+    const QStringList names{QStringLiteral("gr\u00f6\u00dfer-\U0001F58A-\ufffd")};
+    EXPECT_TRUE(QTest::qWaitFor([&] { return gather().holders == names; }, 10000))
         << qPrintable(gather().holders.join(u' '));
     holder.kill();
     holder.waitForFinished();
@@ -182,6 +189,24 @@ TEST(SelfCheckOfTheDriver, startsItAndLooksAtItsFile)
     EXPECT_EQ(QVGatherFacts(QVSelfCheckInput()).file, Facts::File::Good);
     EXPECT_TRUE(QFile::remove(file));
     EXPECT_EQ(QVGatherFacts(QVSelfCheckInput()).file, Facts::File::Missing);
+}
+
+TEST(SelfCheckOfTheDriver, isInterruptedWhileAProgramQuits)
+{
+    const TemporaryHome home;
+    const EmulatedTablets tablets;
+    writeFile(home.path() + QStringLiteral("/driver.service"),
+        "[D-BUS Service]\nName=org.quorvia.AppleEvents.TdSg\nExec=/bin/sleep 10\n");
+    const PrivateBus bus(home.path());
+    const std::unique_ptr<QThread> thread(
+        QThread::create([] { static_cast<void>(QVGatherFacts(QVSelfCheckInput())); }));
+    thread->start();
+    EXPECT_FALSE(thread->wait(500)) << "the driver never gets its name";
+    QElapsedTimer timer;
+    timer.start();
+    thread->requestInterruption();
+    EXPECT_TRUE(thread->wait(20000));
+    EXPECT_LT(timer.elapsed(), 1000);
 }
 
 TEST(SelfCheckOfTheModule, comparesItsQtWithThePrograms)

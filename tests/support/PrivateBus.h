@@ -17,11 +17,17 @@ public:
     enum class Activation { Off, On };
 
     explicit PrivateBus(Activation activation = Activation::Off)
+        : PrivateBus(
+            activation == Activation::On ? QStringLiteral(QVTBLT_STAGE_SERVICES) : QString())
+    {
+    }
+    /** @param services the folder with what it starts on demand; empty for nothing */
+    explicit PrivateBus(const QString& services)
         : mBefore(qgetenv("DBUS_SESSION_BUS_ADDRESS"))
     {
-        const QString services = activation == Activation::On
-            ? QStringLiteral("<servicedir>" QVTBLT_STAGE_SERVICES "</servicedir>")
-            : QString();
+        const QString folder = services.isEmpty()
+            ? QString()
+            : QStringLiteral("<servicedir>%1</servicedir>").arg(services);
         QFile file(mFolder.filePath(QStringLiteral("bus.conf")));
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write(
@@ -30,7 +36,7 @@ public:
                            "<allow receive_sender=\"*\"/><allow own=\"*\"/></policy>"
                            "<limit name=\"max_replies_per_connection\">50000</limit>"
                            "</busconfig>")
-                .arg(mFolder.path(), services)
+                .arg(mFolder.path(), folder)
                 .toUtf8());
         file.close();
         start();

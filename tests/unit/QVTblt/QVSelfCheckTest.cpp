@@ -113,6 +113,8 @@ const Case kCases[] = {
         },
         Status::Problem, "You may not open the tablet over USB, so its speed cannot be set.",
         "Install the package qvtblt,"},
+    {"holder", [](Facts& /*facts*/) {}, Status::Ok, "None of your programs has the tablet open.",
+        ""},
     {"holder", [](Facts& facts) { facts.tablets.clear(); }, Status::NotChecked,
         "Other programs were not checked.", ""},
     {"holder",
