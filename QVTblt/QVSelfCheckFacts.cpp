@@ -13,6 +13,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -43,6 +44,7 @@ namespace {
 
 constexpr std::chrono::milliseconds kBusLimit{2000};
 constexpr std::chrono::milliseconds kStartLimit{5000};
+constexpr std::chrono::milliseconds kReadyLimit{2000}; ///< for a driver that has just been started
 constexpr std::chrono::milliseconds kQueryLimit{
     std::int64_t{kQVDriverTimeOut} * 1000 / platform::kTicksPerSecond};
 
@@ -113,7 +115,7 @@ platform::AERecord configQuery()
     return query;
 }
 
-std::optional<std::int32_t> askDriver(QDBusConnection& bus, const QString& name)
+std::optional<std::int32_t> askOnce(QDBusConnection& bus, const QString& name)
 {
     using namespace platform;
     QDBusMessage call = QDBusMessage::createMethodCall(name, QLatin1String(wire::kObjectPath),
@@ -136,6 +138,23 @@ std::optional<std::int32_t> askDriver(QDBusConnection& bus, const QString& name)
     }
     std::memcpy(&value, bytes->constData(), sizeof value);
     return value;
+}
+
+/** Asks the driver for its tablet, again for a while if it has just been started. */
+std::optional<std::int32_t> askDriver(QDBusConnection& bus, const QString& name, const Facts& facts)
+{
+    constexpr unsigned long kPause = 50; // milliseconds
+    // It may own its name before it can answer, and answer before it has taken the tablet.
+    const QDeadlineTimer deadline(
+        facts.driver == Facts::Driver::Started ? kReadyLimit : std::chrono::milliseconds(0));
+    for (;;) {
+        const std::optional<std::int32_t> answer = askOnce(bus, name);
+        const bool isReady = answer && (*answer != 0 || facts.tablets.empty());
+        if (isReady || deadline.hasExpired() || isInterrupted()) {
+            return answer;
+        }
+        QThread::msleep(kPause);
+    }
 }
 
 /** Whether the driver has ever received settings; nothing if it does not say. */
@@ -441,7 +460,7 @@ QVSelfCheckFacts QVGatherFacts(const QVSelfCheckInput& input)
             facts.bus = Facts::Bus::Answers;
             const QString driver = platform::wire::busName(kQVDriverSignature);
             facts.driver = findDriver(bus, driver);
-            facts.answer = askDriver(bus, driver);
+            facts.answer = askDriver(bus, driver, facts);
             driverProcess = send(bus, busCall("GetConnectionUnixProcessID", driver), kBusLimit)
                                 .arguments()
                                 .value(0)

@@ -3,7 +3,9 @@
 
 // What the self-check finds: with a real bus, and devices as the kernel describes them.
 
+#include "AppleEventWire.h"
 #include "EmulatedTablets.h"
+#include "Peer.h"
 #include "PrivateBus.h"
 #include "QVSelfCheck.h"
 #include "SampleConfig.h"
@@ -17,8 +19,10 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <csignal>
 #include <memory>
+#include <thread>
 
 using Facts = QVSelfCheckFacts;
 
@@ -189,6 +193,37 @@ TEST(SelfCheckOfTheDriver, startsItAndLooksAtItsFile)
     EXPECT_EQ(QVGatherFacts(QVSelfCheckInput()).file, Facts::File::Good);
     EXPECT_TRUE(QFile::remove(file));
     EXPECT_EQ(QVGatherFacts(QVSelfCheckInput()).file, Facts::File::Missing);
+}
+
+TEST(SelfCheckOfTheDriver, givesOneThatItHasStartedTimeToBeReady)
+{
+    const TemporaryHome home;
+    EmulatedTablets tablets;
+    tablets.plug(pen(1));
+    writeFile(home.path() + QStringLiteral("/driver.service"),
+        "[D-BUS Service]\nName=org.quorvia.AppleEvents.TdSg\nExec=/bin/sleep 10\n");
+    const PrivateBus bus(home.path());
+    Peer driver(bus);
+    driver.answer = [&driver](const QDBusMessage& call) {
+        const std::size_t calls = driver.calls().size();
+        if (calls < 4) {
+            return call.createErrorReply(QDBusError::UnknownObject, QStringLiteral("not yet"));
+        }
+        const std::int32_t number = calls < 7 ? 0 : 20737;
+        const QByteArray bytes(reinterpret_cast<const char*>(&number), sizeof number);
+        return call.createReply(platform::wire::encode(
+            {{platform::keyDirectObject, {platform::typeLongInteger, bytes}}}));
+    };
+    // It has its name before it answers, and answers before it has the tablet.
+    QDBusConnection connection = driver.connection();
+    std::thread owner([&connection] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(200));
+        connection.registerService(QStringLiteral("org.quorvia.AppleEvents.TdSg"));
+    });
+    const Facts facts = QVGatherFacts(QVSelfCheckInput());
+    owner.join();
+    EXPECT_EQ(facts.driver, Facts::Driver::Started);
+    EXPECT_EQ(facts.answer, 20737);
 }
 
 TEST(SelfCheckOfTheDriver, isInterruptedWhileAProgramQuits)
