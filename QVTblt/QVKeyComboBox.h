@@ -55,6 +55,12 @@ public:
      */
     void showApplication(const QString& path, const QString& name, const QIcon& icon);
 
+    /** Whether the item shows that path, with the application's icon and its name. */
+    bool showsApplication(const QString& path) const
+    {
+        return !mApplication.isEmpty() && itemText(Application) == path;
+    }
+
     /** Resets all items to their initial texts, and selects the first. */
     void resetItems();
 

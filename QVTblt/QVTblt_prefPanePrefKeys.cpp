@@ -73,6 +73,10 @@ void showApplication(QVKeyComboBox& box, const QString& path)
         box.replaceItem(QVKeyComboBox::Application, path);
         return;
     }
+    if (box.showsApplication(path)) {
+        box.setCurrentIndex(QVKeyComboBox::Application);
+        return; // without reading its files again
+    }
     const platform::Application application = platform::applicationAt(path);
     box.showApplication(path, application.name, platform::iconOf(application));
 }

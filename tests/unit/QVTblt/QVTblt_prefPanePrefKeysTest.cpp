@@ -940,6 +940,24 @@ TEST_F(KeyPage, showsAnApplicationsNameAndIconBesideItsPath)
     EXPECT_EQ(box(3).accessibleDescription(), QStringLiteral("Draw & Paint"));
 }
 
+TEST_F(KeyPage, readsAnApplicationOnceForAllShowings)
+{
+    const QString path = mHome.path() + QStringLiteral("/draw.desktop");
+    writeFile(path, "[Desktop Entry]\nType=Application\nName=Draw\nExec=true\n");
+    show();
+    mPanel.path = path;
+    choose(box(3), 5);
+    leave();
+    ASSERT_TRUE(QFile::remove(path));
+    show();
+    EXPECT_EQ(box(3).currentText(), path);
+    EXPECT_EQ(box(3).accessibleDescription(), QStringLiteral("Draw"));
+    choose(box(3), 0);
+    qvTabletInfo.Key.SubKey[3].Valid = kQVApplication;
+    mPane.InitSingleComboBoxWithKey(&box(3), 3);
+    EXPECT_EQ(box(3).currentIndex(), 5);
+}
+
 TEST_F(KeyPage, aShorterPathLeavesNothingOfALongerOne)
 {
     show();
