@@ -138,12 +138,18 @@ QIcon generalIcon()
 QIcon iconFromFile(const QString& file)
 {
     constexpr qint64 kMostBytes = 512 * 1024;
+    constexpr qint64 kMostDrawingBytes = 128 * 1024;
     constexpr int kMostPixels = 1024; // on each side
     const QFileInfo info(file);
     if (!info.isFile() || info.size() > kMostBytes) {
         return {};
     }
     QImageReader reader(file);
+    // A drawing may take far longer than its size suggests, a packed one in particular.
+    const QByteArray format = reader.format();
+    if (format == "svgz" || (format == "svg" && info.size() > kMostDrawingBytes)) {
+        return {};
+    }
     const QSize size = reader.size();
     if (!size.isValid() || size.width() > kMostPixels || size.height() > kMostPixels) {
         return {};
@@ -179,8 +185,11 @@ std::vector<Application> installedApplications()
 
 Application applicationAt(const QString& path)
 {
-    const bool isEntry = path.endsWith(QLatin1String(".desktop"));
-    if (isEntry && QFileInfo(path).isFile() && DesktopEntries::instance().isLoaded()) {
+    constexpr qint64 kMostBytes = 1024 * 1024; // the user waits; real entries have some thousands
+    const QFileInfo file(path);
+    const bool isEntry =
+        path.endsWith(QLatin1String(".desktop")) && file.isFile() && file.size() <= kMostBytes;
+    if (isEntry && DesktopEntries::instance().isLoaded()) {
         const DesktopEntries& entries = DesktopEntries::instance();
         const DesktopEntries::Object entry = entries.fromFile(QFile::encodeName(path).constData());
         if (entry != nullptr) {
@@ -199,8 +208,11 @@ Application applicationAt(const QString& path)
 
 QIcon iconOf(const Application& application)
 {
-    const QIcon icon = QDir::isAbsolutePath(application.icon) ? iconFromFile(application.icon)
-                                                              : QIcon::fromTheme(application.icon);
+    const QString& name = application.icon;
+    // The name in a theme is part of a path there.
+    const QIcon icon = QDir::isAbsolutePath(name) ? iconFromFile(name)
+        : name.contains(u'/')                     ? QIcon()
+                                                  : QIcon::fromTheme(name);
     return icon.isNull() ? generalIcon() : icon;
 }
 

@@ -8,10 +8,13 @@
 
 #include "TemporaryHome.h"
 
+#include <QIcon>
 #include <QImage>
+#include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
+#include <QProcess>
 #include <QPushButton>
 #include <QTest>
 
@@ -54,6 +57,17 @@ protected:
             [this](const QString& path) { return path == mRefused ? kTooLong : QString(); },
             [this](QWidget* /*parent*/) { return mOtherFile; });
         mChooser->show();
+    }
+
+    QString file(const char* name) const { return mHome.path() + u'/' + QString::fromLatin1(name); }
+
+    /** Whether an application with that icon has a blue one. */
+    static bool isBlue(const QString& icon)
+    {
+        platform::Application application;
+        application.icon = icon;
+        const QPixmap picture = platform::iconOf(application).pixmap(16);
+        return !picture.isNull() && picture.toImage().pixelColor(8, 8) == Qt::blue;
     }
 
     QListView& list() { return *mChooser->findChild<QListView*>(); }
@@ -247,6 +261,50 @@ TEST_F(Chooser, listsTwoThousandOfWhichSomeAreHostile)
     EXPECT_TRUE(all.contains(QStringLiteral("!1 lines")));
     QTest::keyClicks(&search(), QStringLiteral("application 1989"));
     EXPECT_EQ(rows(), texts({"Application 1989"}));
+}
+
+TEST_F(Chooser, readsNoEntryThatIsTooLargeToBeOne)
+{
+    const QString draw =
+        install(QStringLiteral("d"), "Draw", '#' + QByteArray(2 * 1024 * 1024, 'x'));
+    EXPECT_EQ(platform::applicationAt(draw).name, QStringLiteral("d"));
+}
+
+TEST_F(Chooser, drawsNoDrawingThatMayTakeLong)
+{
+    if (!QImageReader::supportedImageFormats().contains("svg")) {
+        GTEST_SKIP() << "this Qt draws none";
+    }
+    const QByteArray drawing = "<svg xmlns='http://www.w3.org/2000/svg' width='32' height='32'>"
+                               "<rect width='32' height='32' fill='#00f'/>";
+    const QByteArray end = "</svg>";
+    writeFile(file("icon.svg"), drawing + end);
+    writeFile(file("large.svg"), drawing + "<!--" + QByteArray(300000, 'x') + "-->" + end);
+    QProcess gzip;
+    gzip.start(QStringLiteral("gzip"), {QStringLiteral("--keep"), file("icon.svg")});
+    ASSERT_TRUE(gzip.waitForFinished());
+    ASSERT_TRUE(QFile::copy(file("icon.svg.gz"), file("icon.svgz")));
+    ASSERT_TRUE(QFile::rename(file("icon.svg.gz"), file("packed.svg")));
+    EXPECT_TRUE(isBlue(file("icon.svg")));
+    EXPECT_FALSE(isBlue(file("large.svg")));
+    EXPECT_FALSE(isBlue(file("icon.svgz")));
+    EXPECT_FALSE(isBlue(file("packed.svg")));
+}
+
+TEST_F(Chooser, looksForAnIconsNameInTheThemeOnly)
+{
+    const QString theme = file("icons/hicolor");
+    ASSERT_TRUE(QDir().mkpath(theme + QStringLiteral("/32x32/apps")));
+    writeFile(theme + QStringLiteral("/index.theme"),
+        "[Icon Theme]\nName=hicolor\nDirectories=32x32/apps\n[32x32/apps]\nSize=32\n");
+    QImage blue(32, 32, QImage::Format_RGB32);
+    blue.fill(Qt::blue);
+    ASSERT_TRUE(blue.save(theme + QStringLiteral("/32x32/apps/draw.png")));
+    ASSERT_TRUE(blue.save(file("outside.png")));
+    QIcon::setThemeSearchPaths({file("icons")});
+    QIcon::setThemeName(QStringLiteral("hicolor"));
+    EXPECT_TRUE(isBlue(QStringLiteral("draw")));
+    EXPECT_FALSE(isBlue(QStringLiteral("../../../../outside")));
 }
 
 TEST_F(Chooser, tellsAnApplicationsNameFromItsEntryOrItsFile)
