@@ -258,10 +258,10 @@ Finding checkMapping(const Facts& facts)
     case Facts::Desktop::None:
         return unchecked(QT_TRANSLATE_NOOP("SelfCheck", "There is no desktop."));
     case Facts::Desktop::OtherWayland:
-        return bad({QT_TRANSLATE_NOOP(
-                       "SelfCheck", "This desktop does not let others choose the pen's display.")},
-            QT_TRANSLATE_NOOP(
-                "SelfCheck", "Choose the display in the desktop's own settings for tablets."));
+        // No such desktop says how it maps the pen.
+        return unchecked(QT_TRANSLATE_NOOP("SelfCheck",
+            "The pen's display can be chosen if the desktop's own settings map the pen to all "
+            "displays."));
     case Facts::Desktop::X11:
     case Facts::Desktop::KWin:
         break;

@@ -1128,12 +1128,8 @@
         <translation>Es gibt keine Arbeitsfläche.</translation>
     </message>
     <message>
-        <source>This desktop does not let others choose the pen&apos;s display.</source>
-        <translation>Diese Arbeitsfläche lässt andere den Bildschirm des Stifts nicht wählen.</translation>
-    </message>
-    <message>
-        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
-        <translation>Wählen Sie den Bildschirm in den Tablett-Einstellungen der Arbeitsfläche.</translation>
+        <source>The pen&apos;s display can be chosen if the desktop&apos;s own settings map the pen to all displays.</source>
+        <translation>Der Bildschirm des Stifts lässt sich wählen, wenn die Einstellungen der Arbeitsfläche den Stift allen Bildschirmen zuordnen.</translation>
     </message>
     <message>
         <source>The pen&apos;s display can be chosen.</source>

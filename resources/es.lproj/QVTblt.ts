@@ -1128,12 +1128,8 @@
         <translation>No hay escritorio.</translation>
     </message>
     <message>
-        <source>This desktop does not let others choose the pen&apos;s display.</source>
-        <translation>Este escritorio no deja que otros elijan la pantalla del lápiz.</translation>
-    </message>
-    <message>
-        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
-        <translation>Elija la pantalla en los ajustes de tabletas del propio escritorio.</translation>
+        <source>The pen&apos;s display can be chosen if the desktop&apos;s own settings map the pen to all displays.</source>
+        <translation>La pantalla del lápiz se puede elegir si los ajustes del propio escritorio asignan el lápiz a todas las pantallas.</translation>
     </message>
     <message>
         <source>The pen&apos;s display can be chosen.</source>

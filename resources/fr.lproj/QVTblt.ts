@@ -1128,12 +1128,8 @@
         <translation>Il n&apos;y a pas de bureau.</translation>
     </message>
     <message>
-        <source>This desktop does not let others choose the pen&apos;s display.</source>
-        <translation>Ce bureau ne laisse pas les autres choisir l&apos;écran du stylet.</translation>
-    </message>
-    <message>
-        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
-        <translation>Choisissez l&apos;écran dans les réglages du bureau pour les tablettes.</translation>
+        <source>The pen&apos;s display can be chosen if the desktop&apos;s own settings map the pen to all displays.</source>
+        <translation>L&apos;écran du stylet peut être choisi si les réglages du bureau associent le stylet à tous les écrans.</translation>
     </message>
     <message>
         <source>The pen&apos;s display can be chosen.</source>

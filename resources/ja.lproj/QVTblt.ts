@@ -1128,12 +1128,8 @@
         <translation>デスクトップがありません。</translation>
     </message>
     <message>
-        <source>This desktop does not let others choose the pen&apos;s display.</source>
-        <translation>このデスクトップでは、ペンのディスプレイを外部から選べません。</translation>
-    </message>
-    <message>
-        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
-        <translation>デスクトップ自体のタブレット設定でディスプレイを選んでください。</translation>
+        <source>The pen&apos;s display can be chosen if the desktop&apos;s own settings map the pen to all displays.</source>
+        <translation>デスクトップ自体の設定でペンがすべてのディスプレイに割り当てられていれば、ペンのディスプレイを選べます。</translation>
     </message>
     <message>
         <source>The pen&apos;s display can be chosen.</source>

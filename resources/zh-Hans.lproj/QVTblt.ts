@@ -1128,12 +1128,8 @@
         <translation>没有桌面。</translation>
     </message>
     <message>
-        <source>This desktop does not let others choose the pen&apos;s display.</source>
-        <translation>此桌面不允许其他程序选择笔所用的显示器。</translation>
-    </message>
-    <message>
-        <source>Choose the display in the desktop&apos;s own settings for tablets.</source>
-        <translation>请在桌面自身的数位板设置中选择显示器。</translation>
+        <source>The pen&apos;s display can be chosen if the desktop&apos;s own settings map the pen to all displays.</source>
+        <translation>如果桌面自身的设置把笔映射到所有显示器，就可以选择笔所用的显示器。</translation>
     </message>
     <message>
         <source>The pen&apos;s display can be chosen.</source>
