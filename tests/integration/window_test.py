@@ -117,9 +117,12 @@ class Window(desktop.Desktop):
                 self.assertEqual(thing["showing"], thing["name"] == "Find the Problem…", thing)
 
     def found(self):
-        """Returns the lines of the self-check."""
-        return [thing["name"] for thing in self.things("qvtblt", "--items")
-                if thing["role"] == "list item" and thing["showing"]]
+        """Returns the lines of the self-check. Qt 5 says that those of closed lists show, too."""
+        things = self.things("qvtblt", "--items")
+        lists = [thing["path"] for thing in things if thing["name"] == "What was checked"]
+        return [thing["name"] for thing in things
+                if thing["role"] == "list item" and thing["showing"]
+                and thing["path"][:-1] in lists]
 
     def test_the_self_check_says_what_is_wrong_and_heals_itself(self):
         driver = self.start_driver("none")
