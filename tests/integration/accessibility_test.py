@@ -122,6 +122,31 @@ class Tree(desktop.Desktop):
         self.expect_no_faults("qvtblt", 4, "frame", "label")
         self.assertTrue(hint["focusable"])
 
+    def test_the_self_check(self):
+        self.start_panel("none")
+        self.press("qvtblt", "Find the Problem…", "push button")
+        self.find("qvtblt", "Self-Check", "dialog")
+        self.find("qvtblt", "Something is wrong. Begin with the first problem:")
+        self.find("qvtblt", "What was checked", "list")
+        self.expect_no_faults("qvtblt", 15, "dialog", "list", "list item", "push button")
+
+    def test_fitting_the_pressure(self):
+        self.start_panel()
+        self.press("qvtblt", "Pen", "page tab")
+        self.press("qvtblt", "Fit to My Hand…", "push button")
+        self.find("qvtblt", "Pad to press on")
+        self.find("qvtblt", "Press on the pad as lightly as you ever do, and lift the pen.")
+        self.expect_no_faults("qvtblt", 20, "dialog", "push button")
+
+    def test_choosing_an_application(self):
+        self.start_panel()
+        box = self.find("qvtblt", "Express key 4", "combo box")
+        self.click(box)
+        self.click(self.find("qvtblt", "Open an application…", "list item", inside=box["path"]))
+        self.find("qvtblt", "Search for an application", "text")
+        self.find("qvtblt", "Applications", "list")
+        self.expect_no_faults("qvtblt", 20, "dialog", "list", "text", "push button")
+
     def test_the_key_dialog(self):
         self.start_panel()
         self.find("qvtblt", "Express key 3", "combo box")
