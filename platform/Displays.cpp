@@ -180,6 +180,8 @@ private:
     void watch(QScreen* screen) const
     {
         connect(screen, &QScreen::geometryChanged, this, &ScreenDisplays::noteChange);
+        // A display that is turned upside down keeps its geometry.
+        connect(screen, &QScreen::orientationChanged, this, &ScreenDisplays::noteChange);
     }
     void noteChange()
     {

@@ -69,6 +69,16 @@ TEST(Displays, tellOfAChangeAgainForWhoBeganToListenDuringIt)
     EXPECT_EQ(told, (std::vector{kBegin, kBegin, kBegin}));
 }
 
+TEST(Displays, tellOfOneThatIsTurnedUpsideDown)
+{
+    std::vector<std::uint32_t> told;
+    const QObject listener;
+    QObject::connect(&platform::displays(), &platform::Displays::reconfigured, &listener,
+        [&told](platform::DisplayID, std::uint32_t flags) { told.push_back(flags); });
+    Q_EMIT QGuiApplication::primaryScreen()->orientationChanged(Qt::InvertedLandscapeOrientation);
+    EXPECT_EQ(told, std::vector{kBegin});
+}
+
 TEST(Displays, tellOnceOfTheBeginningAndOnceWhenAllHaveComeToRest)
 {
     std::vector<std::uint32_t> told;
