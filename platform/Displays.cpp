@@ -179,6 +179,11 @@ private:
     }
     void watch(QScreen* screen) const
     {
+#if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
+        // Without it, Qt 5 tells of no change, and keeps the first orientation.
+        screen->setOrientationUpdateMask(Qt::LandscapeOrientation | Qt::PortraitOrientation
+            | Qt::InvertedLandscapeOrientation | Qt::InvertedPortraitOrientation);
+#endif
         connect(screen, &QScreen::geometryChanged, this, &ScreenDisplays::noteChange);
         // A display that is turned upside down keeps its geometry.
         connect(screen, &QScreen::orientationChanged, this, &ScreenDisplays::noteChange);
