@@ -10,6 +10,7 @@
 #include <QSocketNotifier>
 #include <QTimer>
 
+#include <algorithm>
 #include <array>
 #include <chrono>
 #include <cstdio>
@@ -21,18 +22,17 @@ namespace {
 /** While displays change, so that the pen follows before all have settled. */
 constexpr std::chrono::milliseconds kInterval{50};
 
-int turnsOf(const QScreen& screen)
+/** Whether the panel itself is higher than wide, however the desktop has rotated it. */
+bool isUpright(const QScreen& screen)
 {
-    switch (screen.orientation()) {
-    case Qt::PortraitOrientation:
-        return 1;
-    case Qt::InvertedLandscapeOrientation:
-        return 2;
-    case Qt::InvertedPortraitOrientation:
-        return 3;
-    default:
-        return 0;
+    // On X11, the physical size is rotated, too, and the orientation is the rotation.
+    if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        return false;
     }
+    // For a panel that does not tell its size, Qt makes one up from the rotated picture.
+    constexpr double kMadeUp = 25.4 / 100; // millimetres per point
+    const QSizeF panel = screen.physicalSize();
+    return panel.height() > panel.width() && panel != kMadeUp * QSizeF(screen.geometry().size());
 }
 
 Desktop desktopNow()
@@ -44,7 +44,7 @@ Desktop desktopNow()
         // With all displays off, Qt makes up one without a size.
         if (bounds.width > 0 && bounds.height > 0) {
             desktop.push_back({screen->name(), {bounds.x, bounds.y, bounds.width, bounds.height},
-                turnsOf(*screen)});
+                turnsOf(screen->orientation(), isUpright(*screen))});
         }
     }
     return desktop;
@@ -78,6 +78,17 @@ void endQuietly(QtMsgType type, const QMessageLogContext& context, const QString
 }
 
 } // namespace
+
+int turnsOf(Qt::ScreenOrientation orientation, bool isUpright)
+{
+    constexpr std::array kTurned{Qt::LandscapeOrientation, Qt::PortraitOrientation,
+        Qt::InvertedLandscapeOrientation, Qt::InvertedPortraitOrientation};
+    const auto* const turned = std::ranges::find(kTurned, orientation);
+    if (turned == kTurned.end()) {
+        return 0;
+    }
+    return static_cast<int>(turned - kTurned.begin() + (isUpright ? 3 : 0)) % 4;
+}
 
 int reportDisplays(int argc, char** argv)
 {

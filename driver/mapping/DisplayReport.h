@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <Qt>
+
 /**
  * Has an application object with a connection to the window system, and prints a line of
  * Mapping.h for the displays, now and after each change, until standard input is closed. Runs in a
@@ -10,3 +12,11 @@
  * @return the exit code of the process
  */
 int reportDisplays(int argc, char** argv);
+
+/**
+ * Quarter turns by which the desktop has rotated a display.
+ *
+ * @param orientation as Qt has it, which takes an upright panel's own position for a rotation
+ * @param isUpright whether the panel itself is higher than wide
+ */
+int turnsOf(Qt::ScreenOrientation orientation, bool isUpright);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Mapping.h"
 
+#include "DisplayReport.h"
 #include "KWinMapping.h"
 
 #include <gtest/gtest.h>
@@ -149,6 +150,18 @@ TEST(Mapping, aLineThatMakesNoSenseIsNone)
     EXPECT_TRUE(isNone(withWidth("\"9\"")));
     EXPECT_TRUE(isNone(withWidth("9", "4")));
     EXPECT_TRUE(isNone(toLine(Desktop(65, display({0, 0, 9, 9})))));
+}
+
+TEST(Mapping, aPanelsOwnPositionIsNoRotation)
+{
+    EXPECT_EQ(turnsOf(Qt::LandscapeOrientation, false), 0);
+    EXPECT_EQ(turnsOf(Qt::PortraitOrientation, false), 1);
+    EXPECT_EQ(turnsOf(Qt::InvertedLandscapeOrientation, false), 2);
+    EXPECT_EQ(turnsOf(Qt::InvertedPortraitOrientation, false), 3);
+    EXPECT_EQ(turnsOf(Qt::PortraitOrientation, true), 0);
+    EXPECT_EQ(turnsOf(Qt::InvertedLandscapeOrientation, true), 1);
+    EXPECT_EQ(turnsOf(Qt::LandscapeOrientation, true), 3);
+    EXPECT_EQ(turnsOf(Qt::PrimaryOrientation, true), 0) << "unknown";
 }
 
 TEST(KWinSettings, ofKWin6AreTheWorkspace)
