@@ -113,9 +113,7 @@ void DisplayWatcher::launch(const std::optional<QStringList>& variables)
         std::ranges::for_each(kOtherVariables, take);
     }
     if (!hasDisplay(environment)) {
-        if (variables) {
-            tryAgainLater(); // there is no desktop as yet
-        }
+        tryAgainLater(); // there is no desktop as yet
         return;
     }
     mProcess = std::make_unique<QProcess>();

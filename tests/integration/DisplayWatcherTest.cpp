@@ -146,3 +146,12 @@ TEST_F(Watcher, knowsNothingOnceItIsStopped)
     mWatcher->start();
     EXPECT_TRUE(sees("DP-1", 10));
 }
+
+TEST_F(Watcher, asksAgainAfterTheServiceManagerHasNotAnswered)
+{
+    start("say \"$DISPLAY\" 5; read end");
+    QTest::qWait(100);
+    FakeManager manager(mBus.address());
+    manager.environment = QStringList{QStringLiteral("DISPLAY=:3")};
+    EXPECT_TRUE(sees(":3", 5));
+}
