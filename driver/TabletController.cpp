@@ -88,7 +88,9 @@ TabletController::TabletController(
         Q_EMIT changed();
     });
     connect(&mDisplays, &DisplayWatcher::changed, this, [this] {
-        mDetour.reset(); // the display may be gone
+        if (mDetour && !displayAt(mDisplays.desktop(), mDetour->to)) {
+            mDetour.reset(); // that display is gone, or elsewhere
+        }
         mKWin.setDesktop(mDisplays.desktop());
         publish();
     });

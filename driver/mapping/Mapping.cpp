@@ -58,16 +58,22 @@ QRectF boundsOf(const Desktop& desktop)
     return all;
 }
 
+std::optional<std::size_t> displayAt(const Desktop& desktop, const QRectF& area)
+{
+    const auto covered = std::ranges::find_if(
+        desktop, [&](const DesktopDisplay& display) { return isAbout(area, display.bounds); });
+    return covered == desktop.end()
+        ? std::nullopt
+        : std::optional(static_cast<std::size_t>(covered - desktop.begin()));
+}
+
 std::optional<std::size_t> displayAfter(const Desktop& desktop, const QRectF& area)
 {
     if (desktop.empty()) {
         return std::nullopt;
     }
-    const auto covered = std::ranges::find_if(
-        desktop, [&](const DesktopDisplay& display) { return isAbout(area, display.bounds); });
-    return covered == desktop.end()
-        ? 0
-        : static_cast<std::size_t>(covered - desktop.begin() + 1) % desktop.size();
+    const std::optional<std::size_t> covered = displayAt(desktop, area);
+    return covered ? (*covered + 1) % desktop.size() : 0;
 }
 
 QByteArray toLine(const Desktop& desktop)

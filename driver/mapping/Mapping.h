@@ -35,6 +35,9 @@ using Desktop = std::vector<DesktopDisplay>;
 /** The rectangle around all displays; empty without any. */
 QRectF boundsOf(const Desktop& desktop);
 
+/** The display that an area covers, of whole points or not; nothing if it is not one display's. */
+std::optional<std::size_t> displayAt(const Desktop& desktop, const QRectF& area);
+
 /**
  * The display after the one that an area covers, and after the last one the first; also the first
  * for an area that is not one display's. Nothing without displays.

@@ -107,6 +107,16 @@ TEST(Mapping, withoutADesktopOrAnAreaOnItTheTabletReachesAllOfIt)
     EXPECT_EQ(targetOf({200, 0, 100, 100}, {0, 0, 100, 100}), all) << "its display is gone";
 }
 
+TEST(Mapping, aDisplayIsFoundByItsBoundsWhateverElseChanges)
+{
+    EXPECT_EQ(displayAt(kThree, {1920, 0, 1536, 864}), 2U);
+    EXPECT_EQ(displayAt({kThree[2], kThree[0]}, {1920, 0, 1536, 864}), 0U);
+    EXPECT_EQ(displayAt({display({0, 0, 1920.5, 1080})}, {0, 0, 1920, 1080}), 0U);
+    EXPECT_FALSE(displayAt({kThree[0], kThree[1]}, {1920, 0, 1536, 864}));
+    EXPECT_FALSE(displayAt(kThree, boundsOf(kThree)));
+    EXPECT_FALSE(displayAt({}, {0, 0, 1920, 1080}));
+}
+
 TEST(Mapping, theNextDisplayIsThatAfterTheOneInUse)
 {
     EXPECT_EQ(displayAfter(kThree, {0, 0, 1920, 1080}), 1U);
