@@ -185,6 +185,8 @@ void KWinMapping::apply()
         } else if (reply.error().type() == QDBusError::NoReply
             || reply.error().type() == QDBusError::Timeout) {
             apply(); // it is busy
+        } else {
+            setTurns(0); // it is gone, or does not know the pen as yet
         }
     });
 }
@@ -207,7 +209,12 @@ void KWinMapping::set(const QString& path, const QVariantMap& present)
         });
     }
     watchFile();
-    if (std::exchange(mTurns, settings.turns) != settings.turns) {
+    setTurns(settings.turns);
+}
+
+void KWinMapping::setTurns(int turns)
+{
+    if (std::exchange(mTurns, turns) != turns) {
         Q_EMIT changed();
     }
 }

@@ -55,6 +55,7 @@ private Q_SLOTS:
 private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     void apply();
     void set(const QString& path, const QVariantMap& present);
+    void setTurns(int turns);
     /** Watches the file in which KWin keeps the settings of its devices: it sends no signal. */
     void watchFile();
 

@@ -219,6 +219,17 @@ TEST_F(KWin, followsTheDisplays)
         kPatience));
 }
 
+TEST_F(KWin, turnsNothingAnyMoreOnceItIsGone)
+{
+    startKWin();
+    KWinMapping& mapping = startDriver();
+    mapping.setDesktop({{QStringLiteral("DP-3"), {0, 0, 500, 1000}, 1}});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return mapping.turns() == 1; }, kPatience));
+    mKWin.reset();
+    mapping.setDesktop({{QStringLiteral("DP-3"), {0, 0, 1000, 500}, 0}});
+    EXPECT_TRUE(QTest::qWaitFor([&] { return mapping.turns() == 0; }, kPatience));
+}
+
 TEST_F(KWin, isToldNothingOfAnotherDevice)
 {
     startKWin6();
