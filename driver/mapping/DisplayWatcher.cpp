@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -26,6 +27,17 @@ constexpr std::array kDisplayVariables{"WAYLAND_DISPLAY", "DISPLAY"};
 /** What Qt chooses its connection to the desktop by, besides. */
 constexpr std::array kOtherVariables{
     "XAUTHORITY", "XDG_CURRENT_DESKTOP", "XDG_SESSION_TYPE", "QT_QPA_PLATFORM"};
+
+/** @param variables as name=value */
+QProcessEnvironment environmentOf(const QStringList& variables)
+{
+    QProcessEnvironment environment;
+    for (const QString& variable : variables) {
+        const auto equals = variable.indexOf(QLatin1Char('='));
+        environment.insert(variable.left(equals), variable.mid(equals + 1));
+    }
+    return environment;
+}
 
 bool hasDisplay(const QProcessEnvironment& environment)
 {
@@ -74,7 +86,7 @@ void DisplayWatcher::stop()
 void DisplayWatcher::begin()
 {
     if (!mBus.isConnected()) {
-        launch(std::nullopt);
+        launch({});
         return;
     }
     QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.systemd1"),
@@ -87,26 +99,26 @@ void DisplayWatcher::begin()
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *answer;
-        launch(
-            reply.isValid() ? std::optional(reply.value().variant().toStringList()) : std::nullopt);
+        launch(reply.isValid() ? reply.value().variant().toStringList() : QStringList());
     });
 }
 
-void DisplayWatcher::launch(const std::optional<QStringList>& variables)
+void DisplayWatcher::launch(const QStringList& variables)
 {
     if (!mIsWatching || mProcess != nullptr) {
         return;
     }
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    const QProcessEnvironment desktop = environmentOf(variables);
     // A desktop that has been started again may have another name. A driver that was started by
     // hand on a desktop of its own stays there.
-    if (variables && (!hasDisplay(environment) || mHasFailed)) {
+    if (hasDisplay(desktop) && (!hasDisplay(environment) || mHasFailed)) {
         const auto take = [&](const char* name) {
-            const QString begin = QLatin1String(name) + QLatin1Char('=');
-            const auto found = std::ranges::find_if(
-                *variables, [&](const QString& entry) { return entry.startsWith(begin); });
-            if (found != variables->end()) {
-                environment.insert(QLatin1String(name), found->mid(begin.size()));
+            const QLatin1String variable(name);
+            if (desktop.contains(variable)) {
+                environment.insert(variable, desktop.value(variable));
+            } else {
+                environment.remove(variable); // it led to the desktop before
             }
         };
         std::ranges::for_each(kDisplayVariables, take);

@@ -14,7 +14,6 @@
 
 #include <chrono>
 #include <memory>
-#include <optional>
 
 /**
  * Knows the displays of the user's desktop. A connection to the window system takes its process
@@ -45,8 +44,8 @@ Q_SIGNALS:
 
 private:
     void begin();
-    /** @param variables of the desktop, as name=value; nothing if nobody knows any */
-    void launch(const std::optional<QStringList>& variables);
+    /** @param variables of the desktop, as name=value; none if nobody knows any */
+    void launch(const QStringList& variables);
     void read();
     void tryAgainLater();
 

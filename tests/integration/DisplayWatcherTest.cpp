@@ -155,3 +155,21 @@ TEST_F(Watcher, asksAgainAfterTheServiceManagerHasNotAnswered)
     manager.environment = QStringList{QStringLiteral("DISPLAY=:3")};
     EXPECT_TRUE(sees(":3", 5));
 }
+
+TEST_F(Watcher, takesNothingAlongFromADesktopThatIsGone)
+{
+    FakeManager manager(mBus.address());
+    manager.environment = QStringList{QStringLiteral("DISPLAY=:9")};
+    qputenv("WAYLAND_DISPLAY", "wayland-7");
+    start("[ \"$WAYLAND_DISPLAY\" ] && exit 1; say \"$DISPLAY\" 5; read end");
+    EXPECT_TRUE(sees(":9", 5));
+}
+
+TEST_F(Watcher, staysOnItsOwnDesktopIfTheServiceManagerKnowsNone)
+{
+    const FakeManager manager(mBus.address());
+    qputenv("DISPLAY", ":7");
+    start("echo x >> starts; say \"$DISPLAY\" $(wc -l < starts); [ $(wc -l < starts) = 3 ] && read "
+          "end");
+    EXPECT_TRUE(sees(":7", 3));
+}
