@@ -275,12 +275,17 @@ void TabletRelay::release()
         return;
     }
     mCommands.clear();
-    mButtons.releaseAll(mCommands);
-    mPad.forget();
+    // For all pipelines, the pen leaves, so that nothing of a stroke is left for the next one.
     PenFrame gone;
     gone.time = mPenDecoder.last().time;
+    const PenPipeline::Result result = mPen.next(gone, mSettings.take(), mButtons, mCommands);
+    mButtons.releaseAll(mCommands);
+    mPad.forget();
     // A device that takes nothing any more has nothing pressed, either.
-    static_cast<void>(mPenWriter.write(gone));
+    static_cast<void>(mPenWriter.write(result.pen));
+    if (result.report) {
+        tell({.kind = RelayNote::Kind::Report, .report = *result.report});
+    }
     mIsGrabbed = false;
     obey(mCommands);
     grab(false);

@@ -382,6 +382,35 @@ TEST_F(TabletRelayTest, lettingGoReleasesEverything)
     EXPECT_FALSE(next<RelayNote>(notes, 0));
 }
 
+TEST_F(TabletRelayTest, nothingOfAStrokeOutlivesLettingGo)
+{
+    start();
+    sendPen(1, 10);
+    frameOf(virtualPen);
+    relay->setActive(false);
+    frameOf(virtualPen);
+    expectNote(RelayNote::Kind::Released);
+    settings.target = {0, 0, 0.5, 1};
+    exchange->publish(settings);
+    relay->setActive(true);
+    sendPen(1, 0, false);
+    expectNote(RelayNote::Kind::Grabbed);
+    sendPen(1, 10);
+    Frame stroke = frameOf(virtualPen);
+    EXPECT_EQ((stroke[{EV_KEY, BTN_TOUCH}]), 1) << "not a part of the one before";
+}
+
+TEST_F(TabletRelayTest, lettingGoLiftsThePenThatCalibrates)
+{
+    settings.isCalibrating = true;
+    start();
+    sendPen(100, 10);
+    EXPECT_EQ(expectNote(RelayNote::Kind::Report).report.key, 1U);
+    relay->setActive(false);
+    EXPECT_EQ(expectNote(RelayNote::Kind::Report).report.key, 0U);
+    expectNote(RelayNote::Kind::Released);
+}
+
 TEST_F(TabletRelayTest, unpluggingInAStrokeReleasesEverything)
 {
     settings.buttons[0] = {kQVKeyCombination, kQVLeftButton, {KEY_A, 0, 0}, 1};
