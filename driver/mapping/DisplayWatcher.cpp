@@ -53,7 +53,6 @@ DisplayWatcher::DisplayWatcher(QDBusConnection session, QString program, QObject
     , mProgram(std::move(program))
 {
     mPause.setSingleShot(true);
-    mPause.setInterval(kFirstPause);
     connect(&mPause, &QTimer::timeout, this, &DisplayWatcher::begin);
 }
 
@@ -65,7 +64,7 @@ DisplayWatcher::~DisplayWatcher()
 void DisplayWatcher::start()
 {
     if (!std::exchange(mIsWatching, true)) {
-        mPause.setInterval(kFirstPause);
+        mNextPause = kFirstPause;
         begin();
     }
 }
@@ -164,8 +163,9 @@ void DisplayWatcher::read()
 void DisplayWatcher::tryAgainLater()
 {
     if (mSinceLaunch.isValid() && mSinceLaunch.hasExpired(kLongLife.count())) {
-        mPause.setInterval(kFirstPause);
+        mNextPause = kFirstPause;
     }
-    mPause.start();
-    mPause.setInterval(std::min(2 * mPause.intervalAsDuration(), kLongestPause));
+    mSinceLaunch.invalidate(); // it counts once
+    mPause.start(mNextPause);
+    mNextPause = std::min(2 * mNextPause, kLongestPause);
 }

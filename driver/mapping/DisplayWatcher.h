@@ -52,7 +52,8 @@ private:
     QDBusConnection mBus;
     QString mProgram;
     std::unique_ptr<QProcess> mProcess;
-    QTimer mPause;
+    QTimer mPause{this};
+    std::chrono::milliseconds mNextPause{};
     QElapsedTimer mSinceLaunch;
     bool mIsWatching = false;
     bool mHasFailed = false; ///< with the environment of this process

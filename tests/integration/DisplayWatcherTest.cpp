@@ -14,10 +14,12 @@
 #include <QDBusVirtualObject>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -172,4 +174,16 @@ TEST_F(Watcher, staysOnItsOwnDesktopIfTheServiceManagerKnowsNone)
     start("echo x >> starts; say \"$DISPLAY\" $(wc -l < starts); [ $(wc -l < starts) = 3 ] && read "
           "end");
     EXPECT_TRUE(sees(":7", 3));
+}
+
+TEST_F(Watcher, pausesLongerOnlyAfterAFirstPause)
+{
+    qputenv("DISPLAY", ":7");
+    start("exit 1");
+    const auto& pause = *mWatcher->findChild<QTimer*>();
+    std::vector<int> pauses;
+    QObject::connect(
+        &pause, &QTimer::timeout, &*mWatcher, [&] { pauses.push_back(pause.interval()); });
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pauses.size() == 2; }, kPatience));
+    EXPECT_EQ(pauses, (std::vector{250, 500}));
 }
