@@ -126,8 +126,9 @@ QVTabletList TabletController::list() const
 {
     QVTabletList list;
     for (const Tablet& tablet : tablets()) {
-        QVariantMap entries = describeTablet(tablet);
         const bool isInUse = mTablet && tablet.device == mTablet->device;
+        QVariantMap entries = isInUse && mOpen != nullptr ? describeTablet(tablet, mOpen->nodes)
+                                                          : describeTablet(tablet);
         entries.insert(QStringLiteral("inUse"), isInUse);
         if (isInUse && !mProblem.isEmpty()) {
             entries.insert(QStringLiteral("problem"), mProblem);

@@ -39,6 +39,15 @@ Error openError(const Tablet& tablet, const QString& node, int error)
                      .arg(tablet.name, node, qt_error_string(error))};
 }
 
+/** What is known of a tablet that is not open. */
+QVariantMap entriesOf(const Tablet& tablet, const QString& problem)
+{
+    return {{QStringLiteral("id"), tablet.id()}, {QStringLiteral("name"), tablet.name},
+        {QStringLiteral("vendor"), QVariant::fromValue(tablet.vendor)},
+        {QStringLiteral("product"), QVariant::fromValue(tablet.product)},
+        {QStringLiteral("node"), tablet.penNode}, {QStringLiteral("problem"), problem}};
+}
+
 double millimetres(const Axis& axis)
 {
     return axis.resolution > 0 ? static_cast<double>(axis.range()) / axis.resolution : 0;
@@ -71,23 +80,21 @@ Result<TabletNodes> TabletNodes::open(const Tablet& tablet)
 
 QVariantMap describeTablet(const Tablet& tablet)
 {
-    QVariantMap entries{{QStringLiteral("id"), tablet.id()}, {QStringLiteral("name"), tablet.name},
-        {QStringLiteral("vendor"), QVariant::fromValue(tablet.vendor)},
-        {QStringLiteral("product"), QVariant::fromValue(tablet.product)},
-        {QStringLiteral("node"), tablet.penNode}, {QStringLiteral("problem"), QString()}};
     const Result<TabletNodes> nodes = TabletNodes::open(tablet);
-    if (!nodes) {
-        entries.insert(QStringLiteral("problem"), nodes.error().text);
-        return entries;
-    }
-    const PenDescription& pen = nodes->pen;
+    return nodes ? describeTablet(tablet, *nodes) : entriesOf(tablet, nodes.error().text);
+}
+
+QVariantMap describeTablet(const Tablet& tablet, const TabletNodes& nodes)
+{
+    QVariantMap entries = entriesOf(tablet, QString());
+    const PenDescription& pen = nodes.pen;
     entries.insert(QStringLiteral("width"), millimetres(pen.x));
     entries.insert(QStringLiteral("height"), millimetres(pen.y));
     const std::int32_t levels = pen.pressure ? pen.pressure->range() + 1 : 0;
     entries.insert(QStringLiteral("pressureLevels"), static_cast<uint>(levels));
     entries.insert(QStringLiteral("tilt"), pen.tiltX.has_value());
     entries.insert(QStringLiteral("eraser"), pen.hasEraser);
-    entries.insert(QStringLiteral("keys"), static_cast<uint>(nodes->pad.keys.size()));
-    entries.insert(QStringLiteral("strips"), static_cast<uint>(nodes->pad.strips.size()));
+    entries.insert(QStringLiteral("keys"), static_cast<uint>(nodes.pad.keys.size()));
+    entries.insert(QStringLiteral("strips"), static_cast<uint>(nodes.pad.strips.size()));
     return entries;
 }

@@ -27,3 +27,5 @@ struct TabletNodes {
 
 /** The entries of a tablet for the list of docs/driver-protocol.md, except "inUse". */
 QVariantMap describeTablet(const Tablet& tablet);
+/** The same of a tablet that is open, without opening it once more. */
+QVariantMap describeTablet(const Tablet& tablet, const TabletNodes& nodes);

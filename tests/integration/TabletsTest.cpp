@@ -176,6 +176,20 @@ TEST_F(Tablets, areDescribed)
         "eraser, 4 keys, 1 strip or ring\n");
 }
 
+TEST_F(Tablets, thatAreOpenAreDescribedWithoutOpeningThem)
+{
+    mBus.plug(pen());
+    mBus.plug(pad());
+    const TabletMonitor monitor;
+    ASSERT_EQ(monitor.tablets().size(), 1U);
+    const Tablet& tablet = monitor.tablets()[0];
+    const QVariantMap entries = describeTablet(tablet);
+    const platform::Result<TabletNodes> nodes = TabletNodes::open(tablet);
+    ASSERT_TRUE(nodes);
+    mBus.removeFile(1);
+    EXPECT_EQ(describeTablet(tablet, *nodes), entries);
+}
+
 TEST_F(Tablets, thatAreUnpluggedWhileTheyAreOpenedSaySo)
 {
     mBus.plug(pen());
