@@ -8,6 +8,7 @@
 #include <chrono>
 #include <linux/input.h>
 #include <map>
+#include <set>
 #include <utility>
 
 namespace {
@@ -17,6 +18,8 @@ namespace {
  * whose keys come later is made without them.
  */
 constexpr std::chrono::milliseconds kSettle{250};
+/** How long it may take if udev has yet to look at a node of it. */
+constexpr std::chrono::milliseconds kLongestSettle{2000};
 
 using Device = std::unique_ptr<udev_device, decltype(&udev_device_unref)>;
 
@@ -142,11 +145,11 @@ void TabletMonitor::enumerate()
     const std::unique_ptr<udev_enumerate, decltype(&udev_enumerate_unref)> search(
         udev_enumerate_new(mUdev.get()), &udev_enumerate_unref);
     udev_enumerate_add_match_subsystem(search.get(), "input");
-    udev_enumerate_add_match_property(search.get(), "ID_INPUT_TABLET", "1");
     udev_enumerate_scan_devices(search.get());
 
     std::vector<Tablet> found;
     std::map<QString, QString> pads; // by their physical device
+    std::set<QString> unsettled; // physical devices with a node that udev has yet to look at
     for (udev_list_entry* entry = udev_enumerate_get_list_entry(search.get()); entry != nullptr;
          entry = udev_list_entry_get_next(entry)) {
         const Device device(
@@ -160,8 +163,16 @@ void TabletMonitor::enumerate()
         const char* const file = udev_device_get_devnode(node);
         if (file == nullptr
             || !QString::fromUtf8(udev_device_get_sysname(node)).startsWith(QLatin1String("event"))
-            || path.contains(QLatin1String("/devices/virtual/input/"))
-            || isSet(node, "ID_INPUT_TOUCHSCREEN") || isSet(node, "ID_INPUT_TOUCHPAD")
+            || path.contains(QLatin1String("/devices/virtual/input/"))) {
+            continue;
+        }
+        if (!isSet(node, "ID_INPUT_TABLET")) {
+            if (udev_device_get_is_initialized(node) == 0) {
+                unsettled.insert(physicalDevice(node));
+            }
+            continue;
+        }
+        if (isSet(node, "ID_INPUT_TOUCHSCREEN") || isSet(node, "ID_INPUT_TOUCHPAD")
             || isSet(node, "ID_INPUT_KEYBOARD")) {
             continue;
         }
@@ -175,6 +186,20 @@ void TabletMonitor::enumerate()
             found.push_back({physical, nameOf(node), idOf(node, "id/vendor"),
                 idOf(node, "id/product"), serialOf(node), QString::fromUtf8(file), QString()});
         }
+    }
+    const auto mustWait = [&](const Tablet& tablet) {
+        return unsettled.contains(tablet.device)
+            && std::ranges::find(mTablets, tablet.device, &Tablet::device) == mTablets.end();
+    };
+    if (std::ranges::none_of(found, mustWait)
+        || (mSinceWaiting.isValid() && mSinceWaiting.hasExpired(kLongestSettle.count()))) {
+        mSinceWaiting.invalidate();
+    } else {
+        if (!mSinceWaiting.isValid()) {
+            mSinceWaiting.start();
+        }
+        std::erase_if(found, mustWait);
+        mEnumerateSoon.start();
     }
     for (Tablet& tablet : found) {
         if (const auto pad = pads.find(tablet.device); pad != pads.end()) {

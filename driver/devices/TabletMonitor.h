@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QSocketNotifier>
 #include <QString>
@@ -51,5 +52,6 @@ private:
     std::unique_ptr<udev_monitor, decltype(&udev_monitor_unref)> mMonitor;
     std::unique_ptr<QSocketNotifier> mNotifier;
     QTimer mEnumerateSoon; ///< the nodes of a device come one after the other
+    QElapsedTimer mSinceWaiting; ///< for nodes that udev has yet to look at
     std::vector<Tablet> mTablets;
 };

@@ -118,6 +118,36 @@ TEST_F(Tablets, haveThePadOnAnotherOfTheirInterfaces)
     EXPECT_EQ(monitor.tablets()[1].padNode, QString());
 }
 
+TEST_F(Tablets, waitForAPadThatUdevHasYetToLookAt)
+{
+    EmulatedNode keys = pad();
+    keys.properties.clear();
+    mBus.plug(keys);
+    mBus.plug(pen());
+    const TabletMonitor monitor;
+    EXPECT_EQ(ids(monitor.tablets()), Words()) << "its file would have no keys";
+    QTest::qWait(500);
+    EXPECT_EQ(ids(monitor.tablets()), Words());
+    mBus.identify(2, {"ID_INPUT_TABLET", "ID_INPUT_TABLET_PAD"});
+    ASSERT_TRUE(waitFor([&] { return monitor.tablets().size() == 1; }));
+    EXPECT_EQ(monitor.tablets()[0].padNode, QStringLiteral("/dev/input/event2"));
+}
+
+TEST_F(Tablets, doNotWaitForAnotherDevicesNodeNorForEver)
+{
+    EmulatedNode other = pad(2, "/devices/pci0000:00/usb1/1-2");
+    other.properties.clear();
+    mBus.plug(other);
+    mBus.plug(pen());
+    const TabletMonitor monitor;
+    EXPECT_EQ(ids(monitor.tablets()), Words{"1234:0042"});
+    EmulatedNode second = pen(3, "/devices/pci0000:00/usb1/1-2");
+    second.product = 0x0043;
+    mBus.plug(second);
+    ASSERT_TRUE(waitFor([&] { return monitor.tablets().size() == 2; }));
+    EXPECT_EQ(monitor.tablets()[1].padNode, QString());
+}
+
 TEST_F(Tablets, areNeitherTouchscreensNorTouchpadsNorVirtual)
 {
     EmulatedNode screen = pen(1);

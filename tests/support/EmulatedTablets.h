@@ -96,6 +96,16 @@ public:
         umockdev_testbed_uevent(mTestbed, event.c_str(), "add");
     }
 
+    /** udev has looked at a node that was plugged in without properties. */
+    void identify(int number, const std::vector<std::string>& properties)
+    {
+        const std::string& event = mEvents.at(number);
+        for (const std::string& property : properties) {
+            umockdev_testbed_set_property(mTestbed, event.c_str(), property.c_str(), "1");
+        }
+        umockdev_testbed_uevent(mTestbed, event.c_str(), "add");
+    }
+
     /** Adds another device, in umockdev's form, without an event. */
     void add(const std::string& description)
     {
