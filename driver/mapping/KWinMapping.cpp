@@ -110,6 +110,8 @@ KWinSettings kwinSettings(const QVariantMap& present, const Desktop& desktop)
     // The panel has settings for these, or none; twice would be wrong.
     want(QLatin1String("leftHanded"), false);
     want(QLatin1String("orientationDBus"), 0);
+    want(QLatin1String("rotation"), 0U);
+    want(QLatin1String("tabletToolIsRelative"), false);
     want(QLatin1String("inputArea"), kAll);
     want(QLatin1String("pressureRangeMin"), 0.0);
     want(QLatin1String("pressureRangeMax"), 1.0);

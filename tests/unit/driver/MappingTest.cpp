@@ -35,6 +35,8 @@ QVariantMap kwin6(bool isMapped = false)
     present.insert(QStringLiteral("mapToWorkspace"), isMapped);
     present.insert(QStringLiteral("inputArea"), QRectF(0, 0, 1, 1));
     present.insert(QStringLiteral("orientationDBus"), 0);
+    present.insert(QStringLiteral("rotation"), 0U);
+    present.insert(QStringLiteral("tabletToolIsRelative"), false);
     present.insert(QStringLiteral("pressureRangeMin"), 0.0);
     present.insert(QStringLiteral("pressureRangeMax"), 1.0);
     present.insert(QStringLiteral("pressureCurve"), QStringLiteral("0,0;1,1;"));
@@ -188,6 +190,7 @@ TEST(KWinSettings, takeBackWhatThePanelHasSettingsFor)
     const QVariantMap plain = kwin6(true);
     for (const auto& [name, value] :
         QVariantMap{{QStringLiteral("leftHanded"), true}, {QStringLiteral("orientationDBus"), 2},
+            {QStringLiteral("rotation"), 180U}, {QStringLiteral("tabletToolIsRelative"), true},
             {QStringLiteral("outputArea"), QRectF(0, 0, 0.5, 1)},
             {QStringLiteral("inputArea"), QRectF(0.1, 0, 0.9, 1)},
             {QStringLiteral("pressureRangeMin"), 0.2}, {QStringLiteral("pressureRangeMax"), 0.8},
