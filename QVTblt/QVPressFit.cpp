@@ -23,6 +23,8 @@ namespace {
 
 constexpr int kStraight = 100; ///< the threshold of the straight line
 constexpr int kHeaviest = 200;
+constexpr double kDotRadius = 5; ///< of the dot on the curve, in pixels
+constexpr double kDotReach = kDotRadius + 1; ///< with its ring
 
 /**
  * The pressure that a tablet event tells; 0 when the pen is lifted, nothing for other events. A pen
@@ -320,23 +322,25 @@ QPointF QVPressDot::place() const
     // The driver has applied the curve.
     const int threshold = GetqvTabletInfo()->Pen.PressureThreshold;
     const double own = QVPressResponse(mPressure, kHeaviest - threshold);
-    return {own * width(), (1 - mPressure) * height()};
+    // All of it is seen at the ends, too.
+    const auto inside = [](double middle, int size) {
+        return std::clamp(middle, kDotReach, std::max(size - kDotReach, kDotReach));
+    };
+    return {inside(own * width(), width()), inside((1 - mPressure) * height(), height())};
 }
 
 QRect QVPressDot::dot() const
 {
-    constexpr double kReach = 7; // of the dot with its ring
-    return QRectF(place() - QPointF(kReach, kReach), QSizeF(2 * kReach, 2 * kReach))
-        .toAlignedRect();
+    const QPointF reach(kDotReach, kDotReach);
+    return QRectF(place() - reach, place() + reach).toAlignedRect();
 }
 
 void QVPressDot::paintEvent(QPaintEvent* /*event*/)
 {
-    constexpr double kRadius = 5;
     // The curve is black on light grey in every theme.
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(Qt::white, 2));
     painter.setBrush(Qt::red);
-    painter.drawEllipse(place(), kRadius, kRadius);
+    painter.drawEllipse(place(), kDotRadius, kDotRadius);
 }

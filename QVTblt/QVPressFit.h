@@ -79,7 +79,7 @@ public:
     /** The pressure that programs receive, 0 to 1; 0 while the pen does not
      * press. */
     double pressure() const { return mPressure; }
-    /** The dot's middle, in pixels from the upper left corner. */
+    /** The dot's middle, in pixels from the upper left corner: on the curve, but at its ends. */
     QPointF place() const;
 
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -181,6 +181,31 @@ TEST_F(LivePressure, theDotIsAboveTheCurveAndLeavesItAsItIs)
     EXPECT_EQ(canvas.grab().toImage(), before);
 }
 
+TEST_F(LivePressure, theDotIsWholeAtTheEndsToo)
+{
+    auto& canvas = outlet<QWidget>("pressCanvas");
+    auto& pad = outlet<QVDrawView>("mDrawView");
+    const auto redPixels = [&](double pressure) {
+        PenInput pen(pad, 7);
+        pen.press(pad.rect().center(), pressure);
+        PenInput::deliver();
+        const QImage image = canvas.grab().toImage();
+        pen.release(pad.rect().center());
+        PenInput::deliver();
+        int count = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                count += image.pixelColor(x, y) == QColor(Qt::red) ? 1 : 0;
+            }
+        }
+        return count;
+    };
+    const int whole = redPixels(0.5);
+    EXPECT_GT(whole, 30);
+    EXPECT_NEAR(redPixels(1), whole, 5);
+    EXPECT_NEAR(redPixels(0.001), whole, 5);
+}
+
 TEST_F(LivePressure, aPenThatHoversHasNoDot)
 {
     auto& pad = outlet<QVDrawView>("mDrawView");
