@@ -10,6 +10,7 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -57,6 +58,9 @@ SelfCheckDialog::SelfCheckDialog(platform::PreferencePane& pane, QWidget* parent
     layout->addWidget(mStages, 1);
     layout->addWidget(buttons);
     mStages->setFocus();
+    // Otherwise, Qt makes it as low as the layout allows, since the text wraps.
+    constexpr double kMostOfScreen = 0.9;
+    resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
     check();
 }
 
@@ -104,9 +108,7 @@ void SelfCheckDialog::add(const Stage& stage)
     const bool isProblem = stage.status == Status::Problem;
     auto* const item = new QListWidgetItem(
         stage.remedy.isEmpty() ? stage.text : stage.text + u'\n' + stage.remedy, mStages);
-    if (stage.status == Status::NotChecked) {
-        item->setForeground(palette().brush(QPalette::Disabled, QPalette::Text));
-    } else {
+    if (stage.status != Status::NotChecked) {
         item->setIcon(style()->standardIcon(pictureOf(stage.status), nullptr, this));
     }
     QFont font = mStages->font();

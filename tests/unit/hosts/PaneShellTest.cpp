@@ -450,6 +450,7 @@ TEST_P(Shell, findsTheProblemWhereThereIsNoTablet)
     EXPECT_FALSE(button("Check Again")->isEnabled());
     mPane->checkDone(foundProblem());
     EXPECT_EQ(list.count(), 3);
+    EXPECT_GT(list.height(), 20 * list.fontMetrics().lineSpacing()) << "room for most stages";
     EXPECT_EQ(list.currentRow(), 1) << "the first problem";
     EXPECT_EQ(list.item(1)->text(), QStringLiteral("There is no driver.\nInstall one."));
     EXPECT_EQ(list.item(1)->data(Qt::AccessibleTextRole).toString(),
