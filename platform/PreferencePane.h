@@ -105,6 +105,7 @@ public:
      * and calls the function later, on the main thread, unless the pane is destroyed before. By
      * default, there is nothing to check.
      */
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): others keep it
     virtual void checkSelf(std::function<void(const SelfCheck& check)> done) { done({}); }
 
     /** Whether the pane shows the settings of a device. */
