@@ -33,6 +33,7 @@ public:
         setScreen(screen);
         setGeometry(screen->geometry());
         setFlags(Qt::FramelessWindowHint);
+        connect(screen, &QScreen::geometryChanged, this, &Sheet::tell);
         showFullScreen();
     }
 
@@ -65,10 +66,11 @@ protected:
 private:
     void tell() const
     {
-        if (isExposed()) {
-            print({{QStringLiteral("shown"), screen()->name()}, {QStringLiteral("width"), width()},
-                {QStringLiteral("height"), height()},
-                {QStringLiteral("scale"), devicePixelRatio()}});
+        const QRect bounds = screen()->geometry();
+        if (isExposed() && size() == bounds.size()) {
+            print({{QStringLiteral("shown"), screen()->name()},
+                {QStringLiteral("bounds"),
+                    QJsonArray{bounds.x(), bounds.y(), bounds.width(), bounds.height()}}});
         }
     }
 };
@@ -81,8 +83,10 @@ int main(int argc, char* argv[])
     std::map<const QScreen*, std::unique_ptr<Sheet>> sheets;
     const auto cover = [&](QScreen* screen) { sheets[screen] = std::make_unique<Sheet>(screen); };
     QObject::connect(qGuiApp, &QGuiApplication::screenAdded, qGuiApp, cover);
-    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, qGuiApp,
-        [&](QScreen* screen) { sheets.erase(screen); });
+    QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, qGuiApp, [&](QScreen* screen) {
+        print({{QStringLiteral("gone"), screen->name()}});
+        sheets.erase(screen);
+    });
     const QList<QScreen*> screens = QGuiApplication::screens();
     for (QScreen* const screen : screens) {
         cover(screen);

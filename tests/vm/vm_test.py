@@ -11,18 +11,21 @@ import sys
 
 HERE = pathlib.Path(__file__).resolve().parent
 SOURCE = HERE.parent.parent
-STAGE = SOURCE / "build/qt6/stage"
-VARIABLES = {
-    "PYTHONPATH": SOURCE / "tests/support",
-    "QVTBLT_STAGE": STAGE,
-    "QVTBLT_STAGE_BIN": STAGE / "bin",
-    "QVTBLT_STAGE_SERVICES": STAGE / "share/dbus-1/services",
-}
 
 
-def command(*options):
-    """Returns the beginning of a command that runs a script in the virtual machine."""
-    settings = [f"{name}={os.environ.get(name, value)}" for name, value in VARIABLES.items()]
+def command(*options, source=SOURCE, preset="qt6"):
+    """Returns the beginning of a command that runs a script in the virtual machine, where the source tree
+    may be somewhere else."""
+    stage = source / "build" / preset / "stage"
+    variables = {
+        "PYTHONPATH": source / "tests/support",
+        "QVTBLT_STAGE": stage,
+        "QVTBLT_STAGE_BIN": stage / "bin",
+        "QVTBLT_STAGE_SERVICES": stage / "share/dbus-1/services",
+    }
+    if source == SOURCE:
+        variables |= {name: os.environ[name] for name in variables if name in os.environ}
+    settings = [f"{name}={value}" for name, value in variables.items()]
     return [HERE / "boot", *options, "env", *settings, sys.executable, "-B"]
 
 
