@@ -7,7 +7,7 @@ the environment says otherwise, and prints how far the pen is from where the rec
 Usage: desktop_test.py [--all] [--page] [DESKTOP ...]
   DESKTOP: kwin5, kwin6 (with the files of Debian 13), sway, xorg; without, kwin5, or with --all each
   --all: all arrangements of the displays, and what takes long
-  --page: writes docs/mapping.md, with --all and without a desktop
+  --page: writes docs/mapping.md with --all, if each desktop is as it should be
 """
 
 import argparse
@@ -30,7 +30,7 @@ DESKTOPS = {
 RESULT = "result: "
 SKIPPED = 77
 PAGE = SOURCE / "docs/mapping.md"
-PAGE_BEGIN = "<!-- The rest is written by tests/vm/desktop_test.py --all --page. -->\n"
+PAGE_BEGIN = "<!-- The rest is written by tests/vm/desktop_test.py --all --page DESKTOP .... -->\n"
 
 
 def debian13():
