@@ -454,7 +454,10 @@ class Sway(Desktop):
             x += round(WIDTH / abs(scale))
         if len(scales) == 1:
             words.append(f"output {SECOND} disable")
-        self.run("swaymsg", "; ".join(words))
+        # It waits for the answer for three seconds only, which may be too short here. Whether it was done
+        # is to be seen in the windows.
+        subprocess.run(["swaymsg", "; ".join(words)], env=self.env, capture_output=True, check=False,
+                       timeout=PATIENCE)
 
 
 DESKTOPS = {"kwin5": KWin5, "kwin6": KWin6, "sway": Sway, "xorg": Xorg}
