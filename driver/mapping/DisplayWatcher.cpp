@@ -124,7 +124,7 @@ void DisplayWatcher::launch(const QStringList& variables)
         std::ranges::for_each(kOtherVariables, take);
     }
     if (!hasDisplay(environment)) {
-        tryAgainLater(); // there is no desktop as yet
+        tryAgainLater(); // there is no desktop yet
         return;
     }
     mProcess = std::make_unique<QProcess>();

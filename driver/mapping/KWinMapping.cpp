@@ -134,9 +134,12 @@ KWinMapping::KWinMapping(QDBusConnection session, QObject* parent)
     }
     mBus.connect(kKWin, kDevicesPath, kDeviceManager, QStringLiteral("deviceAdded"), this,
         SLOT(takeDevice(QString)));
-    auto* const watcher =
-        new QDBusServiceWatcher(kKWin, mBus, QDBusServiceWatcher::WatchForRegistration, this);
+    auto* const watcher = new QDBusServiceWatcher(kKWin, mBus,
+        QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration,
+        this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &KWinMapping::apply);
+    // The next desktop may have the same displays, so that nothing else tells.
+    connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] { setTurns(0); });
     connect(&mFile, &QFileSystemWatcher::fileChanged, this, [this] {
         watchFile(); // before it changes once more
         apply();
@@ -188,7 +191,7 @@ void KWinMapping::apply()
             || reply.error().type() == QDBusError::Timeout) {
             apply(); // it is busy
         } else {
-            setTurns(0); // it is gone, or does not know the pen as yet
+            setTurns(0); // it is gone, or does not know the pen yet
         }
     });
 }
