@@ -80,7 +80,8 @@ public:
     const QString& chosenTablet() const { return mState.chosen; }
     void setChosenTablet(const QString& id);
 
-    /** Whether the user wants a word on the screen when a button changes where the pen is. */
+    /** Whether the user wants a short notice on the screen when a button changes where the pen is.
+     */
     bool showsNotices() const { return mState.showsNotices; }
     void setShowsNotices(bool areShown);
 

@@ -88,7 +88,7 @@ private:
     void obey(const RelayNote& note);
     /** Maps the tablet to the next display, until the area of the settings changes. */
     void goToNextDisplay();
-    /** Shows a word on the screen, if the user wants that. */
+    /** Shows a short notice on the screen, if the user wants that. */
     void notice(const QString& text);
     /** The area of the desktop that the settings map the tablet to. */
     QRectF settingsArea() const;

@@ -62,7 +62,7 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     QVTabletList Tablets() const { return mList(); }
     /** Uses a tablet from now on; an error if none with that ID is plugged in. */
     void Use(const QString& id);
-    /** Whether a word on the screen tells when a button changes where the pen is. */
+    /** Whether a short notice on the screen tells when a button changes where the pen is. */
     void ShowNotices(bool areShown) { mNotices(areShown); }
 
 Q_SIGNALS:

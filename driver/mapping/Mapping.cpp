@@ -73,7 +73,15 @@ std::optional<std::size_t> displayAfter(const Desktop& desktop, const QRectF& ar
         return std::nullopt;
     }
     const std::optional<std::size_t> covered = displayAt(desktop, area);
-    return covered ? (*covered + 1) % desktop.size() : 0;
+    if (!covered) {
+        return 0;
+    }
+    // One that shows the same as another, at the same place, is no other place for the pen.
+    std::size_t next = (*covered + 1) % desktop.size();
+    while (next != *covered && desktop[next].bounds == desktop[*covered].bounds) {
+        next = (next + 1) % desktop.size();
+    }
+    return next;
 }
 
 QByteArray toLine(const Desktop& desktop)

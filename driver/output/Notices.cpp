@@ -31,6 +31,10 @@ void Notices::show(const QString& text)
     if (!mBus.isConnected()) {
         return;
     }
+    if (std::exchange(mIsAsking, true)) {
+        mNext = text; // the number of the one that it replaces is not known yet
+        return;
+    }
     QDBusMessage call = QDBusMessage::createMethodCall(
         kNotifications, kNotificationsPath, kNotifications, QStringLiteral("Notify"));
     call << QStringLiteral("tdsg-driver") << mLast << QStringLiteral("org.quorvia.tdsg-driver")
@@ -41,5 +45,9 @@ void Notices::show(const QString& text)
         answer->deleteLater();
         const QDBusPendingReply<uint> reply = *answer;
         mLast = reply.isValid() ? reply.value() : 0;
+        mIsAsking = false;
+        if (const QString next = std::exchange(mNext, {}); !next.isEmpty()) {
+            show(next);
+        }
     });
 }

@@ -6,7 +6,7 @@
 #include <QObject>
 #include <QString>
 
-/** Shows the user a word on the screen for a moment; each takes the place of the one before. */
+/** Shows the user a short notice on the screen; each takes the place of the one before. */
 class Notices final : public QObject {
     Q_OBJECT
 
@@ -19,4 +19,6 @@ public:
 private:
     QDBusConnection mBus;
     uint mLast = 0; ///< the desktop's number of the last one
+    bool mIsAsking = false; ///< the desktop has not yet said the number
+    QString mNext; ///< to be shown then; empty for none
 };
