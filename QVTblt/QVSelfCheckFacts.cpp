@@ -72,7 +72,8 @@ QDBusMessage send(QDBusConnection& bus, const QDBusMessage& call, std::chrono::m
     while (!pending.isFinished() && !isInterrupted()) {
         QThread::msleep(kMoment);
     }
-    return pending.reply();
+    // The bus's thread may be writing a reply that has not come.
+    return pending.isFinished() ? pending.reply() : QDBusMessage();
 }
 
 bool isOwned(QDBusConnection& bus, const QString& name)
