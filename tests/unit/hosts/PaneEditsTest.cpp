@@ -28,7 +28,8 @@ protected:
         mShell->willSelect();
         mShell->show();
         mShell->didSelect();
-        QApplication::setActiveWindow(mShell.get());
+        mShell->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(mShell.get()));
         box().setFocus();
         mLife.take();
     }
