@@ -212,14 +212,15 @@ class Ctl(session.Session):
 
     def test_doctor_finds_nothing_wrong_with_a_simulated_tablet(self):
         self.start_driver()
-        code, stages = self.doctor()
-        self.assertEqual(code, 0, stages)
+        # A query has a quarter of a second, in which a busy machine may do something else.
+        stages = session.wait_for(
+            lambda: (found := self.doctor())[0] == 0 and found[1], "a good result")
         self.assertEqual(list(stages), self.STAGES)
         self.assertEqual(set(stages.values()), {"ok", "not checked"})
         self.assertEqual(stages["push"], "not checked")
         self.ctl("push")
-        self.assertEqual(self.doctor()[1]["push"], "ok")
-        self.assert_result(self.ctl("doctor"), 0, "ok           bus      The session bus answers.\n")
+        session.wait_for(lambda: self.doctor()[1]["push"] == "ok", "the push")
+        self.assertIn("ok           bus      The session bus answers.\n", self.ctl("doctor").stdout)
 
     def test_doctor_says_what_is_wrong(self):
         code, stages = self.doctor()

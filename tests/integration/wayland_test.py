@@ -95,16 +95,14 @@ class Signs(wayland.Wayland):
                 self.press("qvtblt", "Display", "page tab")
                 self.find("qvtblt", "Identify displays", "push button")
                 pictures = [self.pixels(0), self.pixels(1)]
-                self.press("qvtblt", "Identify displays", "push button")
+                said, boxes = self.identify_displays(
+                    lambda: all(boxes := self.differences(pictures))
+                    and len(said := self.signs_said()) == 2 and (said, boxes), "the signs")
                 # On the second display, there is nothing but the sign, in its middle.
-                left, top, right, bottom = session.wait_for(
-                    lambda: all(self.differences(pictures)) and self.differences(pictures)[1],
-                    "the signs")
+                left, top, right, bottom = boxes[1]
                 self.assertLess(abs(left + right - 1280), 32)
                 self.assertLess(abs(top + bottom - 720), 32)
                 self.assertGreater(bottom - top, 200)
-                said = {thing["name"] for thing in self.things("qvtblt")
-                        if thing["role"] == "notification" and thing["showing"]}
                 self.assertEqual({words[:len("Display #1:")] for words in said},
                                  {"Display #1:", "Display #2:"})
                 session.wait_for(lambda: not self.differences(pictures)[1], "their end")

@@ -8,6 +8,7 @@ import os
 import pathlib
 import re
 import subprocess
+import time
 
 import session
 
@@ -80,6 +81,25 @@ class Desktop(session.Session):
             lambda: self.things(application, *options, "--find", name, role or "", "--inside",
                                 json.dumps(inside)),
             f"{role or 'thing'} '{name}' of {application}")
+
+    def identify_displays(self, look, what):
+        """Has the panel identify the displays, and returns what look() returns while the signs are
+        there; they go after three seconds, so that a slow machine may need another look."""
+        def attempt():
+            begin = time.monotonic()
+            self.press("qvtblt", "Identify displays", "push button")
+            while time.monotonic() < begin + 2.5:
+                if seen := look():
+                    return seen
+            session.wait_for(lambda: not self.signs_said(), "the end of the signs")
+            return None
+        return session.wait_for(attempt, what)
+
+    def signs_said(self):
+        """Returns what screen readers hear of the signs on the displays."""
+        return {thing["name"] for thing in self.things("qvtblt")
+                if thing["role"] == "notification" and thing["showing"]
+                and thing["name"].startswith("Display #")}
 
     def xdotool(self, *words):
         result = self.run_program("xdotool", *words)

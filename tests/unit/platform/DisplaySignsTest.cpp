@@ -70,7 +70,7 @@ TEST_F(Signs, goAfterThreeSeconds)
     timer.start();
     show();
     EXPECT_TRUE(QTest::qWaitFor([] { return sign() == nullptr; }, kPatience));
-    EXPECT_GE(timer.elapsed(), 2900);
+    EXPECT_GE(timer.elapsed(), 2800); // Qt lets its timers be 5 % early
     EXPECT_FALSE(mSigns.areShown());
 }
 
