@@ -36,15 +36,16 @@ PAGE_BEGIN = "<!-- The rest is written by tests/vm/desktop_test.py --all --page 
 def debian13():
     """Builds in Debian 13; returns its root, or nothing where that is not possible."""
     script = SOURCE / "tests/debian13"
+    root = subprocess.run([script, "--path"], stdout=subprocess.PIPE, text=True, check=False)
+    if root.returncode != 0:
+        return None
     result = subprocess.run(
         [script, "bash", "-c", "cmake --preset qt6-unity && "
          "cmake --build --preset qt6-unity --target tdsg-driver pen-log"],
         stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False)
     if result.returncode != 0:
-        print(result.stdout)
-        return None
-    return subprocess.run([script, "--path"], stdout=subprocess.PIPE, text=True,
-                          check=True).stdout.strip()
+        sys.exit(result.stdout)
+    return root.stdout.strip()
 
 
 def run(desktop, everything):
@@ -98,7 +99,7 @@ def main():
     parser.add_argument("--page", action="store_true")
     parser.add_argument("desktops", nargs="*", metavar="DESKTOP")
     arguments = parser.parse_args()
-    text = []
+    sections = {}
     worst = 0
     for desktop in arguments.desktops or (DESKTOPS if arguments.all else ["kwin5"]):
         results, status = run(desktop, arguments.all)
@@ -108,13 +109,17 @@ def main():
         pixels, levels = (max(result[key] for result in results) for key in ("pixels", "levels"))
         if pixels > 1 or levels > 1:
             worst = 1
-        text += ["", f"## {DESKTOPS[desktop]}", "",
-                 f"At most {pixels:.2f} pixels and {levels:.2f} pressure levels, in "
-                 f"{9 * len(results)} touches.", "", *table(results)]
-    print(*text, sep="\n")
+        sections[DESKTOPS[desktop]] = "\n".join(
+            ["", f"At most {pixels:.2f} pixels and {levels:.2f} pressure levels.", "",
+             *table(results), ""])
+    print(*(f"\n## {title}\n{text}" for title, text in sections.items()), sep="")
     if arguments.page and worst == 0:
-        begin = PAGE.read_text().partition(PAGE_BEGIN)[0]
-        PAGE.write_text(begin + PAGE_BEGIN + "\n".join(text) + "\n")
+        # Desktops that were not measured now keep what they had.
+        begin, _, rest = PAGE.read_text().partition(PAGE_BEGIN)
+        before = dict(part.split("\n", 1) for part in rest.split("\n## ")[1:])
+        parts = {title: sections.get(title, before.get(title)) for title in DESKTOPS.values()}
+        PAGE.write_text(begin + PAGE_BEGIN + "".join(
+            f"\n## {title}\n{text.rstrip()}\n" for title, text in parts.items() if text))
     return worst
 
 
