@@ -784,12 +784,17 @@ class CalibrationInThePanel(desktop.Desktop):
         self.addCleanup(pen.close)
         for x, y, across, down in ((self.LEFT, self.TOP, 50, 50),
                                    (self.RIGHT, self.BOTTOM, 1230, 850)):
-            self.tablet.pen(*turn(x, y))
-            self.tablet.away()
-            pen.wait_for("BTN_TOOL_PEN", 0)
-            self.assertEqual((pen.state["ABS_X"], pen.state["ABS_Y"]),
-                             (round(across * 4 * 48000 / 1280), round(down * 4 * 30000 / 900)))
-            pen.take()
+            def touch(place=turn(x, y)):
+                pen.take()
+                self.tablet.pen(*place)
+                self.tablet.away()
+                pen.wait_for("BTN_TOOL_PEN", 0)
+                return pen.state["ABS_X"], pen.state["ABS_Y"]
+            # The area ends at the beginning of its last points, as soon as the display is known.
+            place = (round(across / 1280 * (1280 - 0.9) * 4 * 48000 / 1280),
+                     round(down / 900 * (900 - 0.9) * 4 * 30000 / 900))
+            wait_for(lambda touch=touch, place=place: all(
+                abs(is_ - goal) <= 1 for is_, goal in zip(touch(), place)), f"the pen at {place}")
 
     def test_puts_the_pen_where_the_crosses_were_also_on_a_turned_tablet(self):
         self.calibrate(lambda x, y: (x, y))
@@ -954,6 +959,10 @@ class Costs(guest.TestCase):
         self.assertLess(sizes[1] - sizes[0], self.MOST_MEMORY)
 
     def test_sleeps_while_nothing_happens(self):
+        # Without a desktop, it looks for one now and then.
+        self.addCleanup(Displays.begin_anew)
+        Displays.begin_anew(DISPLAY=":9", QT_QPA_PLATFORM="offscreen")
+
         def wakings():
             return [re.findall(r"ctxt_switches:\t(\d+)", (task / "status").read_text())
                     for task in pathlib.Path(f"/proc/{self.world.driver.process.pid}/task").iterdir()]
