@@ -28,8 +28,8 @@ constexpr auto kEndProgram =
 
 /** The result of a stage, to be put together with its ID. */
 struct Finding {
-    Status status;
-    QVStageText text;
+    Status status = Status::NotChecked;
+    QVStageText text = {};
     const char* remedy = "";
 };
 
@@ -336,7 +336,7 @@ QString QVStageText::shown() const
 
 QString QVStageText::reported() const
 {
-    const QString text = QString::fromLatin1(source);
+    QString text = QString::fromLatin1(source);
     if (word.isEmpty()) {
         return text;
     }

@@ -78,9 +78,9 @@ struct QVStageText {
 struct QVStage {
     using Status = platform::PreferencePane::CheckedStage::Status;
 
-    const char* id; ///< does not change between versions
-    Status status;
-    QVStageText text;
+    const char* id = ""; ///< does not change between versions
+    Status status = Status::NotChecked;
+    QVStageText text = {};
     const char* remedy = ""; ///< what to do, in English; empty if nothing is to be done
 };
 

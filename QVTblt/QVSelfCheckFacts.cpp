@@ -283,6 +283,7 @@ std::vector<std::string> namesIn(const std::string& folder)
     if (stream == nullptr) {
         return names;
     }
+    // NOLINTNEXTLINE(concurrency-mt-unsafe): nobody else has the stream
     while (const dirent* const entry = ::readdir(stream.get())) {
         names.emplace_back(&entry->d_name[0]);
     }

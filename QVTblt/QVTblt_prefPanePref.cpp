@@ -65,10 +65,10 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
     relay(platform::kSourceChangedNotification, News::DeviceMayHaveChanged);
     relay(platform::kEventTakenNotification, News::ChangeTaken);
     relay(platform::kEventNotTakenNotification, News::ChangeNotTaken);
-    for (const auto& [name, isTaken] : {std::pair(platform::kEventTakenNotification, true),
-             {platform::kEventNotTakenNotification, false}}) {
-        platform::notifications().addObserver(*this, name,
-            [this, isTaken = isTaken](const platform::Notification&) { mIsPushTaken = isTaken; });
+    for (const bool isTaken : {true, false}) {
+        platform::notifications().addObserver(*this,
+            isTaken ? platform::kEventTakenNotification : platform::kEventNotTakenNotification,
+            [this, isTaken](const platform::Notification&) { mIsPushTaken = isTaken; });
     }
     relay(kConfigLoadedNotification, News::Loaded);
     relay(kConfigNotLoadedNotification, News::NotLoaded);

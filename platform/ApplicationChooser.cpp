@@ -44,7 +44,7 @@ QString recentFile()
 
 QStringList recentPaths()
 {
-    constexpr qint64 kMostBytes = 64 * 1024;
+    constexpr qint64 kMostBytes = 64L * 1024;
     QFile file(recentFile());
     if (!file.open(QIODevice::ReadOnly)) {
         return {};

@@ -120,9 +120,9 @@ void DisplaySigns::hide()
 bool DisplaySigns::eventFilter(QObject* object, QEvent* event)
 {
     const QEvent::Type type = event->type();
-    if ((type != QEvent::KeyPress && type != QEvent::ShortcutOverride)
-        || static_cast<QKeyEvent*>(event)->key()
-            != Qt::Key_Escape) { // NOLINT(*-downcast): its type
+    const bool isKey = type == QEvent::KeyPress || type == QEvent::ShortcutOverride;
+    // NOLINTNEXTLINE(*-downcast): by its type
+    if (!isKey || static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) {
         return QObject::eventFilter(object, event);
     }
     event->accept(); // a shortcut is not to be triggered by it

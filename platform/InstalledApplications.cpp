@@ -56,6 +56,7 @@ private:
     DesktopEntries()
         : mLibrary(QStringLiteral("gio-2.0"), 0)
     {
+        // NOLINTNEXTLINE(*-prefer-member-initializer): the functions are set here, too
         mIsLoaded = find(all, "g_app_info_get_all") && find(isShown, "g_app_info_should_show")
             && find(name, "g_app_info_get_name") && find(description, "g_app_info_get_description")
             && find(path, "g_desktop_app_info_get_filename")
@@ -89,8 +90,10 @@ bool turnsText(QChar character)
 QString oneLine(const QString& text)
 {
     constexpr int kLongest = 100;
+    constexpr int kLongestRead = 400; // much of it may be spaces
     QString line;
-    for (const QChar character : text.left(4 * kLongest).simplified()) {
+    const QString read = text.left(kLongestRead).simplified();
+    for (const QChar character : read) {
         if (character.category() != QChar::Other_Control && !turnsText(character)) {
             line += character;
         }
@@ -137,8 +140,8 @@ QIcon generalIcon()
 /** Reads an icon's file, unless its size or that of its picture is not that of an icon. */
 QIcon iconFromFile(const QString& file)
 {
-    constexpr qint64 kMostBytes = 512 * 1024;
-    constexpr qint64 kMostDrawingBytes = 128 * 1024;
+    constexpr qint64 kMostBytes = 512L * 1024;
+    constexpr qint64 kMostDrawingBytes = 128L * 1024;
     constexpr int kMostPixels = 1024; // on each side
     const QFileInfo info(file);
     if (!info.isFile() || info.size() > kMostBytes) {
@@ -185,7 +188,7 @@ std::vector<Application> installedApplications()
 
 Application applicationAt(const QString& path)
 {
-    constexpr qint64 kMostBytes = 1024 * 1024; // the user waits; real entries have some thousands
+    constexpr qint64 kMostBytes = 1024L * 1024; // the user waits; real entries have some thousands
     const QFileInfo file(path);
     const bool isEntry =
         path.endsWith(QLatin1String(".desktop")) && file.isFile() && file.size() <= kMostBytes;

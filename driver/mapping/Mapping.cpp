@@ -101,7 +101,7 @@ std::optional<Desktop> desktopFrom(const QByteArray& line)
         return std::nullopt;
     }
     Desktop desktop;
-    for (const QJsonValue display : displays) {
+    for (const auto& display : displays) {
         const std::optional<DesktopDisplay> read = displayFrom(display.toObject());
         if (!read) {
             return std::nullopt;

@@ -126,7 +126,7 @@ class KeyPage(desktop.Desktop):
         self.wait_for_slot(2, (6, 0, ""))
         self.choose("Express key 4", "Go to the next display")
         self.wait_for_slot(3, (4, 0, ""))
-        self.click(self.find("qvtblt", "Edit", "push button"))
+        self.click(self.find("qvtblt", "Edit"))
         self.xdotool("key", "Down", "Return")  # the first item of the menu
         session.wait_for(lambda: self.slot(3)[0] != 4, "the undo")
         self.xdotool("key", "ctrl+z")
