@@ -332,6 +332,7 @@ void PaneShell::handleNews(Pane::News news, const QString& text)
         break;
     case Pane::News::Saved:
         mNotSaved.clear();
+        mNotKept.clear(); // the user has gone on with this tablet
         mNotLoaded.clear(); // the file now matches the pages
         break;
     case Pane::News::NotSaved:

@@ -199,6 +199,9 @@ TEST_P(Shell, saysThatTheFormerTabletsChangesAreLost)
     QCoreApplication::processEvents();
     EXPECT_EQ(notice(),
         QStringLiteral("The previous tablet's settings were not saved: the disk is full"));
+    mLife.canSave = true;
+    mShell->save();
+    EXPECT_EQ(notice(), QString()) << "the user has gone on with this tablet";
     EXPECT_EQ(button("Try Again"), nullptr) << "there is nothing left to save";
     leave();
     show();
