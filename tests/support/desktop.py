@@ -33,9 +33,14 @@ class Desktop(session.Session):
         """Starts the X server and the window manager."""
         self.start_x_server()
         self.start(["openbox"], stdout=subprocess.DEVNULL)
-        session.wait_for(
-            lambda: "_NET_SUPPORTING_WM_CHECK(WINDOW)" in self.run_program(
-                "xprop", "-root", "_NET_SUPPORTING_WM_CHECK").stdout, "the window manager")
+        # A window that is shown while it starts is never mapped, so it has to do something first.
+        session.wait_for(self.manages_windows, "the window manager")
+
+    def manages_windows(self):
+        """Whether the window manager does what it is told: to have a single desktop."""
+        self.run_program("wmctrl", "-n", "1")
+        return self.run_program(
+            "xprop", "-root", "_NET_NUMBER_OF_DESKTOPS").stdout.strip().endswith("= 1")
 
     def start_x_server(self):
         read, write = os.pipe()
