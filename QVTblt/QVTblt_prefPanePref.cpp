@@ -28,16 +28,18 @@ platform::Bundle rzkBundle;
 
 namespace {
 
-/** The monitor's maker and model, and its size, for the user. */
-QString describe(const platform::Monitor& monitor)
+/** A display's maker and model, and its size, for the user. */
+QString describe(platform::DisplayID display)
 {
+    const platform::Monitor monitor = platform::displays().monitor(display);
+    const QSize pixels = platform::displays().pixels(display);
     const QString maker = (monitor.maker + u' ' + monitor.product).simplified();
     const QString name = maker.isEmpty() ? monitor.connector : maker;
     //: On a display; %1 is its maker and model, %2 and %3 its width and height.
-    return monitor.pixels.isEmpty() ? name
-                                    : QVTblt_prefPanePref::tr("%1, %2 × %3 pixels")
-                                          .arg(name, QString::number(monitor.pixels.width()),
-                                              QString::number(monitor.pixels.height()));
+    return pixels.isEmpty()
+        ? name
+        : QVTblt_prefPanePref::tr("%1, %2 × %3 pixels")
+              .arg(name, QString::number(pixels.width()), QString::number(pixels.height()));
 }
 
 } // namespace
@@ -174,7 +176,7 @@ void QVTblt_prefPanePref::identifyDisplays()
         if (index == kQVMaxDisplays) {
             break;
         }
-        const QString text = describe(displays.monitor(display));
+        const QString text = describe(display);
         //: Read by screen readers; %1 is a display's name, such as "Display #1", %2 its maker and
         //: size.
         const QString spoken = tr("%1: %2").arg(QVDisplayName(index), text);

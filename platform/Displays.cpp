@@ -3,6 +3,7 @@
 #include "Displays.h"
 
 #include "Service.h"
+#include "WaylandOutputs.h"
 
 #include <QGuiApplication>
 #include <QMetaMethod>
@@ -128,14 +129,21 @@ public:
         if (found == nullptr) {
             return {};
         }
-        Monitor monitor{
-            found->manufacturer(), found->model(), found->serialNumber(), found->name(), {}};
+        return {found->manufacturer(), found->model(), found->serialNumber(), found->name()};
+    }
+
+    QSize pixels(DisplayID display) const override
+    {
+        const QScreen* const found = screen(display);
+        if (found == nullptr) {
+            return {};
+        }
         // A compositor that scales by a fraction tells Qt the next whole number.
         if (std::abs(found->devicePixelRatio() / unitsPerPoint(*found) - 1) < 0.01) {
             const Rect place = screenBounds(*found);
-            monitor.pixels = QSizeF(place.width, place.height).toSize();
+            return QSizeF(place.width, place.height).toSize();
         }
-        return monitor;
+        return waylandOutputPixels(found->name());
     }
 
     QScreen* screen(DisplayID display) const override

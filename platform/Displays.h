@@ -40,7 +40,6 @@ struct Monitor {
     QString product{};
     QString serial{};
     QString connector{}; ///< such as "DP-1"
-    QSize pixels{}; ///< of the picture, however it is scaled; empty if that is not known
 
     bool operator==(const Monitor&) const = default;
 };
@@ -64,6 +63,12 @@ public:
 
     /** A display's monitor; empty for an unknown display. */
     virtual Monitor monitor(DisplayID /*display*/) const { return {}; }
+
+    /**
+     * How many pixels a display's picture has, however it is scaled; empty if that is not known.
+     * Where only the compositor knows, blocks for its answer.
+     */
+    virtual QSize pixels(DisplayID /*display*/) const { return {}; }
 
     /** The display's screen; null if it has none. */
     virtual QScreen* screen(DisplayID /*display*/) const { return nullptr; }

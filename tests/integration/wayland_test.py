@@ -1,6 +1,7 @@
 # SPDX-FileCopyrightText: 2026 The QVTblt developers
 # SPDX-License-Identifier: MIT
-"""A complete calibration on the second display of a Wayland desktop."""
+"""The panel on a Wayland desktop with two displays: a calibration on the second one, the signs that
+tell which display is which, and scaled displays."""
 
 import plistlib
 import struct
@@ -76,39 +77,51 @@ class Signs(wayland.Wayland):
     def differences(self, before):
         """Returns for each display the box of what differs: left, top, right and bottom."""
         boxes = []
+        width, height = self.display_size()
         for display, then in enumerate(before):
             now = self.pixels(display)
-            points = [(x, y) for x in range(0, 1280, 8) for y in range(0, 720, 8)
+            points = [(x, y) for x in range(0, width, 8) for y in range(0, height, 8)
                       if now(x, y) != then(x, y)]
             boxes.append(points and (min(x for x, _ in points), min(y for _, y in points),
                                      max(x for x, _ in points), max(y for _, y in points)))
         return boxes
 
+    def check_signs(self, **settings):
+        driver = self.start_driver()
+        before = self.env
+        self.env = {**before, **settings}
+        panel = self.start([session.BIN / "qvtblt"])
+        self.env = before
+        self.press("qvtblt", "Display", "page tab")
+        self.find("qvtblt", "Identify displays", "push button")
+        pictures = [self.pixels(0), self.pixels(1)]
+        said, boxes = self.identify_displays(
+            lambda: all(boxes := self.differences(pictures))
+            and len(said := self.signs_said()) == 2 and (said, boxes), "the signs")
+        # On the second display, there is nothing but the sign, in its middle.
+        left, top, right, bottom = boxes[1]
+        width, height = self.display_size()
+        self.assertLess(abs(left + right - width), 32)
+        self.assertLess(abs(top + bottom - height), 32)
+        self.assertGreater(bottom - top, 200)
+        self.assertEqual({words[:len("Display #1:")] for words in said},
+                         {"Display #1:", "Display #2:"})
+        for words in said:
+            self.assertIn(f"{width} × {height} pixels", words)
+        session.wait_for(lambda: not self.differences(pictures)[1], "their end")
+        panel.terminate()
+        self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
+        self.stop_driver(driver)
+
     def test_each_display_has_one_for_three_seconds(self):
         for settings in ({}, {"QT_SCALE_FACTOR": "1.5"}):
             with self.subTest(**settings):
-                driver = self.start_driver()
-                before = self.env
-                self.env = {**before, **settings}
-                panel = self.start([session.BIN / "qvtblt"])
-                self.env = before
-                self.press("qvtblt", "Display", "page tab")
-                self.find("qvtblt", "Identify displays", "push button")
-                pictures = [self.pixels(0), self.pixels(1)]
-                said, boxes = self.identify_displays(
-                    lambda: all(boxes := self.differences(pictures))
-                    and len(said := self.signs_said()) == 2 and (said, boxes), "the signs")
-                # On the second display, there is nothing but the sign, in its middle.
-                left, top, right, bottom = boxes[1]
-                self.assertLess(abs(left + right - 1280), 32)
-                self.assertLess(abs(top + bottom - 720), 32)
-                self.assertGreater(bottom - top, 200)
-                self.assertEqual({words[:len("Display #1:")] for words in said},
-                                 {"Display #1:", "Display #2:"})
-                session.wait_for(lambda: not self.differences(pictures)[1], "their end")
-                panel.terminate()
-                self.assertEqual(panel.wait(timeout=session.PATIENCE), 0)
-                self.stop_driver(driver)
+                self.check_signs(**settings)
+
+
+class ScaledSigns(Signs):
+    SCREEN = "3840x1080x24"
+    SCALE = 1.5
 
 
 class ScaledByTheToolkit(wayland.Wayland):

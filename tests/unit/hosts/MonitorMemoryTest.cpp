@@ -17,7 +17,7 @@ namespace {
 Monitor monitor(const char* product, const char* serial, const char* connector)
 {
     return {QStringLiteral("Acme"), QString::fromLatin1(product), QString::fromLatin1(serial),
-        QString::fromLatin1(connector), {}};
+        QString::fromLatin1(connector)};
 }
 
 struct Case {
@@ -47,10 +47,10 @@ const Case kCases[] = {
         {monitor("A", "1", "DP-2"), monitor("A", "1", "DP-1")}, 1},
     {"twins, both on other connectors", monitor("A", "", "DP-3"),
         {monitor("A", "", "DP-1"), monitor("A", "", "DP-2")}, {}},
-    {"monitors that say nothing of themselves", {{}, {}, {}, QStringLiteral("DP-2"), {}},
-        {{{}, {}, {}, QStringLiteral("DP-1"), {}}, {{}, {}, {}, QStringLiteral("DP-2"), {}}}, 2},
+    {"monitors that say nothing of themselves", {{}, {}, {}, QStringLiteral("DP-2")},
+        {{{}, {}, {}, QStringLiteral("DP-1")}, {{}, {}, {}, QStringLiteral("DP-2")}}, 2},
     {"another maker's with the same serial number",
-        {QStringLiteral("Other"), QStringLiteral("A"), QStringLiteral("1"), {}, {}},
+        {QStringLiteral("Other"), QStringLiteral("A"), QStringLiteral("1"), {}},
         {monitor("A", "1", "DP-1")}, {}},
 };
 
@@ -68,7 +68,7 @@ TEST(MonitorMemory, keepsWhateverAMonitorCallsItself)
     const TemporaryHome home;
     FakeDisplays displays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
     const Monitor odd{QStringLiteral("[x]\n7-offscreen/maker=\"y\";%"), QString(5000, u'p'),
-        QStringLiteral("\u00e9\u4e2d\x01"), QStringLiteral("DP-1, DP-2"), {}};
+        QStringLiteral("\u00e9\u4e2d\x01"), QStringLiteral("DP-1, DP-2")};
     displays.monitors = {monitor("A", "1", "DP-1"), odd};
     PaneLife life;
     life.deviceID = QStringLiteral("7");

@@ -501,8 +501,8 @@ protected:
         mLife.display = 2;
     }
 
-    const platform::Monitor kLeft{QStringLiteral("Acme"), QStringLiteral("L"), {}, {}, {}};
-    const platform::Monitor kRight{QStringLiteral("Acme"), QStringLiteral("R"), {}, {}, {}};
+    const platform::Monitor kLeft{QStringLiteral("Acme"), QStringLiteral("L"), {}, {}};
+    const platform::Monitor kRight{QStringLiteral("Acme"), QStringLiteral("R"), {}, {}};
     const QString kMoved =
         QStringLiteral("The monitor that you chose for the tablet is now display 1.");
     TemporaryHome mHome;
@@ -609,7 +609,7 @@ TEST_P(ShellWithMonitors, remembersForEachTabletItsOwn)
 TEST_P(ShellWithMonitors, saysNothingWhileTheChosenMonitorIsNotThere)
 {
     show();
-    mDisplays.monitors = {kLeft, {QStringLiteral("Other"), {}, {}, {}, {}}};
+    mDisplays.monitors = {kLeft, {QStringLiteral("Other"), {}, {}, {}}};
     mPane->tell(News::DisplaysChanged);
     EXPECT_EQ(notice(), QString());
     mDisplays.change({{0, 0, 100, 100}});
