@@ -3,6 +3,7 @@
 #include "DriverState.h"
 
 #include "FileSaving.h"
+#include "HomeFolder.h"
 
 #include <QDir>
 #include <QFile>
@@ -27,11 +28,7 @@ constexpr QLatin1String kNotices("notices");
 
 QString statePath()
 {
-    QString folder = qEnvironmentVariable("XDG_STATE_HOME");
-    if (QDir::isRelativePath(folder)) {
-        folder = QDir::home().filePath(QStringLiteral(".local/state"));
-    }
-    return folder + QStringLiteral("/tdsg-driver/state.json");
+    return platform::userStateFolder() + QStringLiteral("/tdsg-driver/state.json");
 }
 
 /** Returns an integer that fits the type, or nothing. */

@@ -3,6 +3,7 @@
 #include "ApplicationChooser.h"
 
 #include "Accessible.h"
+#include "HomeFolder.h"
 
 #include <QAbstractListModel>
 #include <QDialogButtonBox>
@@ -35,11 +36,7 @@ constexpr int kMostRecent = 8;
 
 QString recentFile()
 {
-    QString folder = qEnvironmentVariable("XDG_STATE_HOME");
-    if (QDir::isRelativePath(folder)) {
-        folder = QDir::home().filePath(QStringLiteral(".local/state"));
-    }
-    return folder + QStringLiteral("/qvtblt/applications");
+    return userStateFolder() + QStringLiteral("/qvtblt/applications");
 }
 
 QStringList recentPaths()

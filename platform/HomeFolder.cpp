@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "HomeFolder.h"
 
+#include <QDir>
+
 #include <cstdlib>
 #include <pwd.h>
 #include <unistd.h>
@@ -21,6 +23,13 @@ std::string homeFolder()
     return user == nullptr || user->pw_dir == nullptr ? std::string() : user->pw_dir;
 }
 
+/** The folder in a variable, or the default below the home folder. */
+QString folderIn(const char* variable, const char* fallback)
+{
+    const QString folder = qEnvironmentVariable(variable);
+    return QDir::isAbsolutePath(folder) ? folder : QDir::home().filePath(QLatin1String(fallback));
+}
+
 } // namespace
 
 std::string expandTilde(std::string_view path)
@@ -28,6 +37,16 @@ std::string expandTilde(std::string_view path)
     const bool isHome = path == "~" || path.starts_with("~/");
     const std::string home = isHome ? homeFolder() : std::string();
     return home.empty() ? std::string(path) : home + std::string(path.substr(1));
+}
+
+QString userDataFolder()
+{
+    return folderIn("XDG_DATA_HOME", ".local/share");
+}
+
+QString userStateFolder()
+{
+    return folderIn("XDG_STATE_HOME", ".local/state");
 }
 
 } // namespace platform

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QString>
+
 #include <string>
 #include <string_view>
 
@@ -13,5 +15,12 @@ namespace platform {
  * is returned unchanged.
  */
 std::string expandTilde(std::string_view path);
+
+/**
+ * The folders for a user's data and for a program's state, by the XDG Base Directory Specification:
+ * XDG_DATA_HOME and XDG_STATE_HOME where they are absolute, or their defaults.
+ */
+QString userDataFolder();
+QString userStateFolder();
 
 } // namespace platform

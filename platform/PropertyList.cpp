@@ -177,6 +177,20 @@ Dictionary Dictionary::dictionary(const char* key) const
     return Dictionary(findDictionary(mNode, key));
 }
 
+std::vector<std::string> Dictionary::strings(const char* key) const
+{
+    std::vector<std::string> strings;
+    const PropertyListNode* const array = mNode == nullptr ? nullptr : mNode->find(key);
+    if (array != nullptr && array->kind == Kind::Array) {
+        for (const PropertyListNode& part : array->parts) {
+            if (part.kind == Kind::String) {
+                strings.push_back(part.text);
+            }
+        }
+    }
+    return strings;
+}
+
 std::vector<std::string> Dictionary::keys() const
 {
     std::vector<std::string> keys;
@@ -228,6 +242,17 @@ void MutableDictionary::setBoolean(const char* key, bool value) const
 void MutableDictionary::setString(const char* key, const std::string& value) const
 {
     put(mNode, key, Kind::String, value);
+}
+
+void MutableDictionary::setStrings(const char* key, const std::vector<std::string>& values) const
+{
+    if (PropertyListNode* const array = put(mNode, key, Kind::Array)) {
+        for (const std::string& value : values) {
+            PropertyListNode& part = array->parts.emplace_back();
+            part.kind = Kind::String;
+            part.text = value;
+        }
+    }
 }
 
 MutableDictionary MutableDictionary::addDictionary(const char* key) const

@@ -90,6 +90,9 @@ public:
     /** The dictionary for the key; a null handle if there is none. */
     Dictionary dictionary(const char* key) const;
 
+    /** The strings (UTF-8) of an array, without what else is in it; empty if there is no array. */
+    std::vector<std::string> strings(const char* key) const;
+
     /** The keys in file order. */
     std::vector<std::string> keys() const;
 
@@ -113,6 +116,9 @@ public:
     void setInteger(const char* key, std::int64_t value) const;
     void setBoolean(const char* key, bool value) const;
     void setString(const char* key, const std::string& value) const;
+
+    /** Sets the key to an array of strings. */
+    void setStrings(const char* key, const std::vector<std::string>& values) const;
 
     /** Sets the key to an empty dictionary and returns a handle to it. */
     MutableDictionary addDictionary(const char* key) const;

@@ -2,7 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "MonitorMemory.h"
 
-#include <QDir>
+#include "HomeFolder.h"
+
 #include <QGuiApplication>
 #include <QSettings>
 
@@ -37,11 +38,7 @@ std::vector<Monitor> currentMonitors()
 
 QString statePath()
 {
-    QString folder = qEnvironmentVariable("XDG_STATE_HOME");
-    if (QDir::isRelativePath(folder)) {
-        folder = QDir::home().filePath(QStringLiteral(".local/state"));
-    }
-    return folder + QStringLiteral("/qvtblt/monitors.ini");
+    return platform::userStateFolder() + QStringLiteral("/qvtblt/monitors.ini");
 }
 
 /** The device's group in the file. */

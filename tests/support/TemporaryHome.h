@@ -18,6 +18,7 @@ public:
     {
         EXPECT_TRUE(mFolder.isValid());
         qputenv("HOME", QFile::encodeName(mFolder.path()));
+        qunsetenv("XDG_DATA_HOME");
         qunsetenv("XDG_STATE_HOME");
     }
     ~TemporaryHome() { qputenv("HOME", mBefore); }
