@@ -94,6 +94,28 @@ bool PushQVTabletInfo()
     return ConnectToDriver(GetqvTabletInfo(), kQVRecordSize);
 }
 
+platform::Result<> QVPushAndWait()
+{
+    if (!PushQVTabletInfo()) {
+        return platform::Error{QStringLiteral("the record could not be sent")};
+    }
+    const platform::OSErr error = platform::events().finishSends();
+    if (error != platform::noErr) {
+        return platform::Error{
+            QStringLiteral("the driver did not accept the record (error %1)").arg(error)};
+    }
+    return {};
+}
+
+void QVSendReportSpeed()
+{
+    const std::int16_t speed = GetqvTabletInfo()->Monitor.Speed;
+    if (speed == kQVSpeedFast || speed == kQVSpeedNormal) {
+        controlUSBDev(speed == kQVSpeedFast ? kQVReportFast : kQVReportNormal,
+            QVProductID(*GetqvTabletInfo()));
+    }
+}
+
 bool controlUSBDev(std::uint8_t flag, std::uint16_t productID)
 {
     return requestReportMode(flag, productID).isSearched;

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Result.h"
 #include "Usb.h"
 
 #include <QLatin1String>
@@ -35,6 +36,9 @@ bool ConnectToDriver(const void* record, std::int32_t length);
 /** Calls ConnectToDriver() with the complete record. */
 bool PushQVTabletInfo();
 
+/** PushQVTabletInfo() for callers that want to know whether the driver has accepted the record. */
+platform::Result<> QVPushAndWait();
+
 // The tablet itself, over USB -----------------------------------------------------------------
 
 /** The report mode's flag: fast is 1, normal is 0. */
@@ -61,6 +65,9 @@ struct ReportModeOutcome {
     std::optional<platform::IOReturn> opened;
     std::optional<platform::IOReturn> requested;
 };
+
+/** Has the tablet of the record use the record's report speed, by controlUSBDev(). */
+void QVSendReportSpeed();
 
 /** Like controlUSBDev(), but returns the outcome of the request. */
 ReportModeOutcome requestReportMode(std::uint8_t flag, std::uint16_t productID);

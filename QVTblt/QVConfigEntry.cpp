@@ -25,6 +25,23 @@ void store(Value value, const QVEntry& entry, tagQVTabletInfo& record)
     std::memcpy(reinterpret_cast<std::byte*>(&record) + entry.offset, &value, sizeof value);
 }
 
+/** The size of a field, in bytes. */
+std::size_t sizeOf(QVFieldType type)
+{
+    switch (type) {
+    case QVFieldType::Boolean:
+        return sizeof(std::uint8_t);
+    case QVFieldType::Int16:
+    case QVFieldType::UInt16:
+        return sizeof(std::int16_t);
+    case QVFieldType::UInt32:
+        return sizeof(std::uint32_t);
+    case QVFieldType::String:
+        break;
+    }
+    return kQVStringSize;
+}
+
 bool isAscii(std::string_view text)
 {
     // Unsigned, since char is signed only on some machines.
@@ -159,6 +176,19 @@ std::string QVFieldText(const QVEntry& entry, const tagQVTabletInfo& record)
         return std::to_string(QVFieldNumber(entry, record));
     }
     return std::string(QVText(load<QVString>(entry, record)));
+}
+
+bool QVIsSameField(const QVEntry& entry, const tagQVTabletInfo& one, const tagQVTabletInfo& other)
+{
+    return entry.type == QVFieldType::String
+        ? QVFieldText(entry, one) == QVFieldText(entry, other)
+        : QVFieldNumber(entry, one) == QVFieldNumber(entry, other);
+}
+
+void QVCopyField(const QVEntry& entry, const tagQVTabletInfo& from, tagQVTabletInfo& to)
+{
+    std::memcpy(reinterpret_cast<std::byte*>(&to) + entry.offset,
+        reinterpret_cast<const std::byte*>(&from) + entry.offset, sizeOf(entry.type));
 }
 
 const char* QVKindName(platform::EntryKind kind)

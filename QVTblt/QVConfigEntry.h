@@ -66,5 +66,11 @@ std::int64_t QVFieldNumber(const QVEntry& entry, const tagQVTabletInfo& record);
 /** The value in an entry's field: a string's bytes before its NUL, or a number in decimal. */
 std::string QVFieldText(const QVEntry& entry, const tagQVTabletInfo& record);
 
+/** Whether an entry's field has the same value in two records; a string counts up to its NUL. */
+bool QVIsSameField(const QVEntry& entry, const tagQVTabletInfo& one, const tagQVTabletInfo& other);
+
+/** Copies an entry's field from one record to another, with every byte of a string. */
+void QVCopyField(const QVEntry& entry, const tagQVTabletInfo& from, tagQVTabletInfo& to);
+
 /** The name of an entry's kind for messages: "a string", "an array". */
 const char* QVKindName(platform::EntryKind kind);

@@ -49,13 +49,21 @@ void readEntries(
 }
 
 void writeEntries(const platform::MutableDictionary& dictionary, const char* name,
-    std::span<const QVEntry> entries)
+    std::span<const QVEntry> entries, const tagQVTabletInfo& record)
 {
     for (const QVEntry& entry : entries) {
-        if (!QVWriteEntry(dictionary, entry, qvTabletInfo)) {
+        if (!QVWriteEntry(dictionary, entry, record)) {
             qCWarning(
                 lcStore, "kept the old %s of %s: the new one cannot be written", entry.key, name);
         }
+    }
+}
+
+void writeSlot(
+    std::int32_t i, const platform::MutableDictionary& object, const tagQVTabletInfo& record)
+{
+    if (const char* const slot = slotKey(i)) {
+        writeEntries(object, slot, QVEntriesOf(kQVKeySection, slot), record);
     }
 }
 
@@ -141,6 +149,16 @@ platform::Result<platform::PropertyList> QVConfigStore::loadTabletsRecord()
     return list;
 }
 
+platform::Result<platform::PropertyList> QVConfigStore::loadAttachedTablet()
+{
+    if (!rzkgetQVDevice()) {
+        return platform::Error{*GetPListName() == '\0'
+                ? QStringLiteral("the driver does not answer")
+                : QStringLiteral("no tablet is attached")};
+    }
+    return loadTabletsRecord();
+}
+
 void QVConfigStore::WriteQVConfigPlist()
 {
     const platform::Result<> named = checkName();
@@ -155,10 +173,7 @@ void QVConfigStore::WriteQVConfigPlist()
 bool QVConfigStore::hasUnsavedFields() const
 {
     return std::ranges::any_of(kQVEntries, [this](const QVEntry& entry) {
-        return QVIsChosen(entry)
-            && (entry.type == QVFieldType::String
-                    ? QVFieldText(entry, qvTabletInfo) != QVFieldText(entry, mInFile)
-                    : QVFieldNumber(entry, qvTabletInfo) != QVFieldNumber(entry, mInFile));
+        return QVIsChosen(entry) && !QVIsSameField(entry, qvTabletInfo, mInFile);
     });
 }
 
@@ -181,7 +196,7 @@ platform::Result<platform::PropertyList> QVConfigStore::loadRecord(
     return list;
 }
 
-platform::Result<> QVConfigStore::saveRecord(const std::string& path)
+platform::Result<> QVConfigStore::saveRecord(const std::string& path, const tagQVTabletInfo& record)
 {
     platform::Result<platform::PropertyList> list = platform::PropertyList::load(path);
     if (!list) {
@@ -192,15 +207,39 @@ platform::Result<> QVConfigStore::saveRecord(const std::string& path)
         if (!section->saved || !dictionary.exists()) {
             continue;
         }
-        writeEntries(dictionary, section->key, QVEntriesOf(*section));
+        writeEntries(dictionary, section->key, QVEntriesOf(*section), record);
         for (std::int32_t slot = 0; section->hasSlots && slot < kSlots; ++slot) {
             const platform::MutableDictionary object = dictionary.dictionary(slotKey(slot));
             if (object.exists()) {
-                SetSubKeyInfo(slot, object);
+                writeSlot(slot, object, record);
             }
         }
     }
     return list->save(path);
+}
+
+platform::Result<> QVConfigStore::saveEntries(std::span<const QVEntry* const> entries)
+{
+    platform::Result<platform::PropertyList> list = platform::PropertyList::load(configPath());
+    if (!list) {
+        return list.error();
+    }
+    for (const QVEntry* const entry : entries) {
+        // The panel does not add dictionaries.
+        const platform::MutableDictionary dictionary = QVEntryDictionary(list->root(), *entry);
+        if (!dictionary.exists()) {
+            return platform::Error{QStringLiteral("the tablet's file has no dictionary for %1")
+                                       .arg(QString::fromStdString(QVEntryPath(*entry)))};
+        }
+        QVWriteEntry(dictionary, *entry, qvTabletInfo);
+    }
+    platform::Result<> saved = list->save(configPath());
+    if (saved) {
+        for (const QVEntry* const entry : entries) {
+            QVCopyField(*entry, qvTabletInfo, mInFile);
+        }
+    }
+    return saved;
 }
 
 void QVConfigStore::GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object)
@@ -212,7 +251,5 @@ void QVConfigStore::GetSubKeyInfo(std::int32_t i, const platform::Dictionary& ob
 
 void QVConfigStore::SetSubKeyInfo(std::int32_t i, const platform::MutableDictionary& object)
 {
-    if (const char* const slot = slotKey(i)) {
-        writeEntries(object, slot, QVEntriesOf(kQVKeySection, slot));
-    }
+    writeSlot(i, object, qvTabletInfo);
 }

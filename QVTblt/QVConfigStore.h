@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <cstdint>
+#include <span>
 #include <string>
 
 /**
@@ -69,12 +70,19 @@ public:
      */
     platform::Result<platform::PropertyList> loadTabletsRecord();
 
+    /** Asks the driver for the attached tablet, and loads its file like loadTabletsRecord(). */
+    platform::Result<platform::PropertyList> loadAttachedTablet();
+
     /** The same for any configuration file, ignoring the displays. */
     platform::Result<platform::PropertyList> loadRecord(const std::string& path,
         platform::PropertyListSource source = platform::PropertyListSource::RegularFile);
 
-    /** Saves the record's sections to any existing configuration file. */
-    platform::Result<> saveRecord(const std::string& path);
+    /** Saves a record's sections to any existing configuration file. */
+    platform::Result<> saveRecord(
+        const std::string& path, const tagQVTabletInfo& record = qvTabletInfo);
+
+    /** Saves these entries of the record to the tablet's file, and no others. */
+    platform::Result<> saveEntries(std::span<const QVEntry* const> entries);
 
     /** The tablet's name in the file loaded last; empty if it has none. */
     QString tabletName() const { return mTabletName; }

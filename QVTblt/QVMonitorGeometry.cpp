@@ -50,6 +50,21 @@ void QVSetMappedArea(tagQVTabletInfo& info, const Rect& area)
     info.Monitor.Height = field(area.height);
 }
 
+bool QVMapChosenDisplay(tagQVTabletInfo& info, std::span<const Rect> displays)
+{
+    const std::int16_t num = displays.size() == 1 ? std::int16_t{0} : info.Monitor.num;
+    if (num == 0) {
+        QVSetMappedArea(info, QVBoundingRect(displays));
+        return true;
+    }
+    const auto chosen = static_cast<std::size_t>(num) - 1; // of a negative one, too large
+    if (chosen >= displays.size()) {
+        return false;
+    }
+    QVSetMappedArea(info, displays[chosen]);
+    return true;
+}
+
 void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)
 {
     info.Monitor.cTabletXmin = area.xmin;

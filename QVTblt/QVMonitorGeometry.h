@@ -49,6 +49,14 @@ struct QVTabletArea {
 /** Stores the screen area that the tablet is mapped to: of each whole number, the low 16 bits. */
 void QVSetMappedArea(tagQVTabletInfo& info, const platform::Rect& area);
 
+/**
+ * Stores the mapped area of the chosen display, or of all: of the only one, whatever the choice is.
+ *
+ * @param displays their rectangles, in order; at least one
+ * @return false, with the area unchanged, if there is no display with that number
+ */
+bool QVMapChosenDisplay(tagQVTabletInfo& info, std::span<const platform::Rect> displays);
+
 /** Stores the used part of the tablet. */
 void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area);
 

@@ -32,8 +32,6 @@ constexpr double kPictureRight = kQVPictureArea.x + kQVPictureArea.width;
 constexpr double kPictureBottom = kQVPictureArea.y;
 constexpr double kPictureTop = kQVPictureArea.y + kQVPictureArea.height;
 
-constexpr std::int16_t kFast = 180;
-constexpr std::int16_t kNormal = 220;
 constexpr std::int16_t kTurned = 180;
 
 /** Whether displays have begun to change; shared by all views. */
@@ -268,7 +266,7 @@ void QVMonitorView::updateLists()
         }
     };
     select(mComboBoxUseMode, pQVInfo->Monitor.rotationFlag, kTurned, 0);
-    select(mComboBoxSpeed, pQVInfo->Monitor.Speed, kFast, kNormal);
+    select(mComboBoxSpeed, pQVInfo->Monitor.Speed, kQVSpeedFast, kQVSpeedNormal);
 }
 
 Rect QVMonitorView::drawMiniatures(QPainter& painter) const
@@ -372,18 +370,10 @@ void QVMonitorView::SelectSpeed()
 {
     const int chosen = chosenIn(mComboBoxSpeed);
     if (chosen == 0 || chosen == 1) {
-        pQVInfo->Monitor.Speed = chosen == 0 ? kFast : kNormal;
-        sendSpeed();
+        pQVInfo->Monitor.Speed = chosen == 0 ? kQVSpeedFast : kQVSpeedNormal;
+        QVSendReportSpeed();
     }
     PushQVTabletInfo();
-}
-
-void QVMonitorView::sendSpeed() const
-{
-    const std::int16_t speed = pQVInfo->Monitor.Speed;
-    if (speed == kFast || speed == kNormal) {
-        controlUSBDev(speed == kFast ? kQVReportFast : kQVReportNormal, QVProductID(*pQVInfo));
-    }
 }
 
 void QVMonitorView::SelectUseMode()

@@ -67,8 +67,6 @@ public:
      */
     void endCalibration(bool pushes = true);
     bool isCalibrating() const { return !mCalibration.isNull(); }
-    /** Sends the record's report mode to the tablet itself, over USB. */
-    void sendSpeed() const;
     /** Uses the part of the tablet with the proportions of the mapped area. */
     void AutoCalibrate();
 

@@ -7,6 +7,7 @@
 #include "Notifications.h"
 #include "QVDriverProtocol.h"
 #include "QVNSView.h"
+#include "QVPaneProfiles.h"
 #include "QVSelfCheck.h"
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
@@ -44,6 +45,9 @@ QString describe(platform::DisplayID display)
 
 } // namespace
 
+QVTblt_prefPanePref::QVTblt_prefPanePref() = default;
+QVTblt_prefPanePref::~QVTblt_prefPanePref() = default;
+
 platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bundle& bundle)
 {
     platform::PreferencePane* const pane = PreferencePane::initWithBundle(bundle);
@@ -62,8 +66,11 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
             }
         });
     platform::events().acceptEventsFrom(kQVDriverSignature);
-    platform::notifications().addObserver(*this, kRecordPushedNotification,
-        [this](const platform::Notification&) { mayHaveChanged(); });
+    platform::notifications().addObserver(
+        *this, kRecordPushedNotification, [this](const platform::Notification&) {
+            mayHaveChanged();
+            mProfiles->noteEdit();
+        });
     relay(platform::kSourceChangedNotification, News::DeviceMayHaveChanged);
     relay(platform::kEventTakenNotification, News::ChangeTaken);
     relay(platform::kEventNotTakenNotification, News::ChangeNotTaken);
@@ -76,7 +83,30 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
     relay(kConfigNotLoadedNotification, News::NotLoaded);
     relay(kConfigSavedNotification, News::Saved);
     relay(kConfigNotSavedNotification, News::NotSaved);
+    makeProfiles();
     return pane;
+}
+
+void QVTblt_prefPanePref::makeProfiles()
+{
+    mProfiles = std::make_unique<QVPaneProfiles>(*this,
+        QVPaneProfiles::Panel{
+            .hasDevice = [this] { return hasDevice(); },
+            .isCalibrating = [this] { return hasDevice() && mMonitorView->isCalibrating(); },
+            .show = [this] { showSettings(); },
+            .tell =
+                [this](bool isOther) {
+                    if (isOther) {
+                        tell(News::SettingsReplaced);
+                    }
+                    mayHaveChanged();
+                },
+        });
+}
+
+platform::PaneProfiles* QVTblt_prefPanePref::profiles()
+{
+    return mProfiles.get();
 }
 
 void QVTblt_prefPanePref::relay(QLatin1String name, News news)
@@ -153,7 +183,10 @@ void QVTblt_prefPanePref::setUpDisplayPage()
     connect(
         mDefaultArea, &QPushButton::clicked, mMonitorView, &QVMonitorView::setTabletDefaultArea);
     connect(mAutoCalibrate, &QPushButton::clicked, mMonitorView, &QVMonitorView::AutoCalibrate);
-    connect(mMonitorView, &QVMonitorView::calibrationEnded, this, [this] { mayHaveChanged(); });
+    connect(mMonitorView, &QVMonitorView::calibrationEnded, this, [this] {
+        mayHaveChanged();
+        mProfiles->noteEdit();
+    });
     connect(mMonitorView, &QVMonitorView::displaysChanged, this, [this] {
         if (hasDevice() && mMonitorView->updateMappedArea()) {
             tell(News::ChangedByItself);
@@ -279,6 +312,7 @@ void QVTblt_prefPanePref::willSelect()
         restoreKeyPage();
     }
     InitComboBoxWithKey();
+    mProfiles->enter();
 }
 
 void QVTblt_prefPanePref::showModel()
@@ -360,6 +394,7 @@ void QVTblt_prefPanePref::willUnselect()
         mMonitorView->endCalibration(!mAnswer);
     }
     WriteQVConfigPlist();
+    mProfiles->leave();
 }
 
 void QVTblt_prefPanePref::didUnselect()

@@ -24,6 +24,7 @@
 
 class QVKeyComboBox;
 class QVKeySetClass;
+class QVPaneProfiles;
 
 namespace platform {
 struct Event;
@@ -41,6 +42,9 @@ class QVTblt_prefPanePref final : public platform::PreferencePane,
     Q_OBJECT
 
 public:
+    QVTblt_prefPanePref();
+    ~QVTblt_prefPanePref() override;
+
     platform::PreferencePane* initWithBundle(const platform::Bundle& bundle) override;
 
     /** Asks the driver for a tablet, for up to a quarter of a second, and sets up the pages. */
@@ -67,6 +71,7 @@ public:
     QByteArray settings() const override;
     void setSettings(const QByteArray& settings) override;
     QString nameOfEdit(const QByteArray& before, const QByteArray& after) const override;
+    platform::PaneProfiles* profiles() override;
 
     /** Saves the record to its file and pushes it. */
     void SaveSet();
@@ -117,6 +122,9 @@ private:
     [[nodiscard]] bool askForDevice();
     void takeScrollBoxes();
     void showStrips();
+    /** Shows the record on the pages. */
+    void showSettings();
+    void makeProfiles();
 
     void setUpDisplayPage();
     /** Shows on each display which one it is, or ends that. */
@@ -130,6 +138,7 @@ private:
     /** A button of the tablet is down or up: marks its box. Screen readers hear it once. */
     void markButton(std::size_t slot, bool isDown);
 
+    std::unique_ptr<QVPaneProfiles> mProfiles;
     platform::DisplaySigns mSigns;
     QTranslator mTranslator; ///< for the panel's own texts
     double mNoDevTitleX = 0; ///< of the label, from the side on which lines start

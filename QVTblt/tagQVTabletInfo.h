@@ -50,6 +50,10 @@ enum QVMouseButton : std::int16_t {
     kQVMiddleButton = 3,
 };
 
+/** Report speeds: the values of Monitor's Speed. */
+inline constexpr std::int16_t kQVSpeedFast = 180;
+inline constexpr std::int16_t kQVSpeedNormal = 220;
+
 /** A NUL-terminated ASCII string in a field of fixed size. */
 using QVString = std::array<char, kQVStringSize>;
 
@@ -83,7 +87,7 @@ struct tagQVTabletInfoPen {
 /** How the tablet is mapped to the screen. The spelling is intended. */
 struct tagQVTabletInfoMonitior {
     std::int16_t num; ///< chosen entry of the display list, from 0
-    std::int16_t Speed; ///< report mode: 180 or 220
+    std::int16_t Speed; ///< report mode: kQVSpeedFast or kQVSpeedNormal
     std::int16_t rotationFlag; ///< degrees: 180 or 0
     std::int16_t disableFlag; ///< 1 while a calibration collects points
     std::int16_t XOrg; ///< mapped screen area, in points

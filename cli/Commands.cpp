@@ -7,9 +7,13 @@
 #include "Bundle.h"
 #include "Client.h"
 #include "Doctor.h"
+#include "Follow.h"
+#include "Profile.h"
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
 #include "QVDriverProtocol.h"
+#include "QVEntryText.h"
+#include "QVPanelObject.h"
 #include "QVSelfCheck.h"
 #include "QVTabletList.h"
 #include "QVTabletModels.h"
@@ -39,12 +43,6 @@ using platform::Result;
 
 namespace {
 
-int fail(const QString& why)
-{
-    std::fprintf(stderr, "qvtbltctl: %s\n", qUtf8Printable(why));
-    return kExitBad;
-}
-
 /** The name of the tablet whose file is loaded. */
 QString modelName(const QVConfigStore& store)
 {
@@ -53,29 +51,6 @@ QString modelName(const QVConfigStore& store)
     const QString name = model == nullptr ? store.tabletName() : QString::fromUtf8(model->name);
     return QStringLiteral("%1 (product %2)")
         .arg(name.isEmpty() ? QStringLiteral("unknown model") : name, QString::number(productID));
-}
-
-/** Finds the tablet and loads its file. @return the file's contents */
-Result<platform::PropertyList> loadTablet(QVConfigStore& store)
-{
-    if (!rzkgetQVDevice()) {
-        return Error{*GetPListName() == '\0' ? QStringLiteral("the driver does not answer")
-                                             : QStringLiteral("no tablet is attached")};
-    }
-    return store.loadTabletsRecord();
-}
-
-/** Pushes the record and waits until the driver has accepted it. */
-Result<> pushRecord()
-{
-    if (!PushQVTabletInfo()) {
-        return Error{QStringLiteral("the record could not be sent")};
-    }
-    const platform::OSErr error = platform::events().finishSends();
-    if (error != platform::noErr) {
-        return Error{QStringLiteral("the driver did not accept the record (error %1)").arg(error)};
-    }
-    return {};
 }
 
 QDBusMessage driverCall(const char* path, const char* interface, const char* method)
@@ -164,8 +139,8 @@ int runCheck(const Arguments& arguments)
 int runPush(const Arguments& /*none*/)
 {
     QVConfigStore store;
-    const auto list = loadTablet(store);
-    const Result<> pushed = list ? pushRecord() : list.error();
+    const auto list = store.loadAttachedTablet();
+    const Result<> pushed = list ? QVPushAndWait() : list.error();
     if (!pushed) {
         return fail(pushed.error().text);
     }
@@ -174,6 +149,26 @@ int runPush(const Arguments& /*none*/)
 }
 
 /** Sets one entry of the tablet's file, pushes the record and saves the file. */
+Result<> setInFile(const QVEntry& entry, const QString& value)
+{
+    QVConfigStore store;
+    const auto list = store.loadAttachedTablet();
+    if (!list) {
+        return list.error();
+    }
+    // The panel does not add dictionaries.
+    if (!QVEntryDictionary(list->root(), entry).exists()) {
+        return Error{QStringLiteral("the tablet's file has no dictionary for %1")
+                         .arg(QString::fromStdString(QVEntryPath(entry)))};
+    }
+    if (Result<> set = setEntry(*GetqvTabletInfo(), entry, value); !set) {
+        return set;
+    }
+    const Result<> pushed = QVPushAndWait();
+    return pushed ? store.saveRecord(QVConfigStore::configPath()) : pushed;
+}
+
+/** Sets one entry, here or in the panel that holds the settings, which would lose it otherwise. */
 int runSet(const Arguments& arguments)
 {
     const QString& entry = arguments.operands[0];
@@ -185,23 +180,15 @@ int runSet(const Arguments& arguments)
                 : QStringLiteral("there is no entry %1; 'show' lists them all").arg(entry));
         return kExitUsage;
     }
-    QVConfigStore store;
-    const auto list = loadTablet(store);
-    if (!list) {
-        return fail(list.error().text);
-    }
-    // The panel does not add dictionaries.
-    if (!QVEntryDictionary(list->root(), *found).exists()) {
-        return fail(QStringLiteral("the tablet's file has no dictionary for %1").arg(entry));
-    }
-    if (const Result<> set = setEntry(*GetqvTabletInfo(), *found, value); !set) {
-        fail(set.error().text);
+    tagQVTabletInfo other{};
+    if (const Result<> fits = setEntry(other, *found, value); !fits) {
+        fail(fits.error().text);
         return kExitUsage;
     }
-    const Result<> pushed = pushRecord();
-    const Result<> saved = pushed ? store.saveRecord(QVConfigStore::configPath()) : pushed;
-    if (!saved) {
-        return fail(saved.error().text);
+    const auto asked = QVAskPanel(
+        QDBusConnection::sessionBus(), QStringLiteral("Set"), QVariantList{entry, value});
+    if (const Result<> set = asked ? *asked : setInFile(*found, value); !set) {
+        return fail(set.error().text);
     }
     std::printf("set %s to %s\n", qUtf8Printable(entry), qUtf8Printable(value));
     return kExitGood;
@@ -216,7 +203,7 @@ int runUsbMode(const Arguments& arguments)
         return usageError(QStringLiteral("there is no report mode '%1'").arg(mode));
     }
     QVConfigStore store;
-    if (const auto list = loadTablet(store); !list) {
+    if (const auto list = store.loadAttachedTablet(); !list) {
         return fail(list.error().text + QStringLiteral(", so the tablet is not known"));
     }
     const auto productID = QVProductID(*GetqvTabletInfo());
@@ -322,16 +309,29 @@ int runDoctor(const Arguments& arguments)
     return hasProblem ? kExitBad : kExitGood;
 }
 
-constexpr std::array<Command, 9> kCommands{{
-    {"status", 0, 0, false, runStatus},
-    {"doctor", 0, 0, false, runDoctor},
-    {"show", 0, 1, false, runShow},
-    {"check", 1, 1, false, runCheck},
-    {"push", 0, 0, true, runPush},
-    {"set", 2, 2, true, runSet},
-    {"usb-mode", 1, 1, false, runUsbMode},
-    {"tablet", 1, 2, false, runTablet},
-    {"sim", 3, 3, false, runSim},
+bool always(const Arguments& /*any*/)
+{
+    return true;
+}
+
+bool never(const Arguments& /*any*/)
+{
+    return false;
+}
+
+constexpr std::array<Command, 12> kCommands{{
+    {"status", 0, 0, never, runStatus},
+    {"doctor", 0, 0, never, runDoctor},
+    {"show", 0, 1, never, runShow},
+    {"check", 1, 1, never, runCheck},
+    {"push", 0, 0, always, runPush},
+    {"set", 2, 2, always, runSet},
+    {"profile", 1, 3, profileNeedsDisplays, runProfile},
+    {"follow", 0, 0, never, runFollow},
+    {"mapped-area", 1, 1, always, runMappedArea},
+    {"usb-mode", 1, 1, never, runUsbMode},
+    {"tablet", 1, 2, never, runTablet},
+    {"sim", 3, 3, never, runSim},
 }};
 
 } // namespace
@@ -341,6 +341,12 @@ const Command* findCommand(const QString& name)
     const auto* const command = std::ranges::find_if(
         kCommands, [&](const Command& one) { return name == QLatin1String(one.name); });
     return command == kCommands.end() ? nullptr : command;
+}
+
+int fail(const QString& why)
+{
+    std::fprintf(stderr, "qvtbltctl: %s\n", qUtf8Printable(why));
+    return kExitBad;
 }
 
 int usageError(const QString& why)

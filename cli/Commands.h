@@ -19,13 +19,17 @@ struct Command {
     const char* name;
     int least; ///< number of operands
     int most;
-    bool needsDisplays; ///< it pushes the tablet's file, which depends on them
+    /** Whether it pushes the tablet's file, which depends on the displays. */
+    bool (*needsDisplays)(const Arguments& arguments);
     /** Writes its output to standard output and errors to standard error. @return the exit code */
     int (*run)(const Arguments& arguments);
 };
 
 /** The command with that name; null if there is none. */
 const Command* findCommand(const QString& name);
+
+/** Reports why a command has failed. @return the exit code */
+int fail(const QString& why);
 
 /** Reports that the command line is not valid. @return the exit code */
 int usageError(const QString& why);

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 #include "Commands.h"
-#include "RecordText.h"
+#include "QVEntryText.h"
 #include "Result.h"
 
 #include <QCoreApplication>
@@ -29,6 +29,21 @@ Commands:
   push                send the settings in the tablet's file to the driver
   set ENTRY VALUE     change a setting, for example 'set Pen/PressureThreshold 120':
                       send it to the driver and save the tablet's file
+  profile list [--json]
+                      print the tablet's profiles, each with the applications that it
+                      is for; * marks the current one
+  profile use NAME    use the settings of a profile
+  profile next        use the next profile
+  profile save NAME   keep the current settings as a profile
+  profile delete NAME
+  profile rename NAME NEWNAME
+                      delete a profile, or give it another name
+  profile import FILE
+                      keep a profile from somebody else, and print what it does; keys
+                      that would start applications do nothing
+  profile export NAME FILE
+                      write a profile into a new file, for others
+  follow              use the profile for the application in front, until it is ended
   usb-mode fast|normal
                       set the report speed of the tablet over USB
   tablet list [--json]
@@ -45,7 +60,7 @@ Options:
   -v, --version       print the version
 
 Exit code: 0 on success; 1 if there is no driver, no tablet or no usable file, doctor has found a
-problem, or the output cannot be written; 2 if the command is not valid.
+problem, the output cannot be written, or another thing has failed; 2 if the command is not valid.
 )";
 
 /** Checks what follows a command. */
@@ -53,10 +68,10 @@ platform::Result<> checkArguments(const Command& command, const Arguments& argum
 {
     const QString name = QString::fromLatin1(command.name);
     const auto count = arguments.operands.size();
-    constexpr std::array kWithJson{"doctor", "show", "tablet"};
+    constexpr std::array kWithJson{"doctor", "profile", "show", "tablet"};
     if (arguments.asJson && std::ranges::find(kWithJson, name.toStdString()) == kWithJson.end()) {
         return platform::Error{
-            QStringLiteral("--json can only be used with doctor, show and tablet")};
+            QStringLiteral("--json can only be used with doctor, profile, show and tablet")};
     }
     if (count < command.least) {
         return platform::Error{QStringLiteral("missing operand after '%1'")
@@ -151,6 +166,6 @@ int main(int argc, char* argv[])
         return usageError(usage.error().text);
     }
     int nameAlone = 1; // operands are not Qt options
-    const auto application = makeApplication(nameAlone, argv, command->needsDisplays);
+    const auto application = makeApplication(nameAlone, argv, command->needsDisplays(arguments));
     return finish(command->run(arguments));
 }

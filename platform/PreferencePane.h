@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <QtPlugin>
 
@@ -18,6 +19,72 @@
 #include <vector>
 
 namespace platform {
+
+/**
+ * Sets of settings for different kinds of work that a pane keeps for its device: its profiles.
+ * Their names are unique. A function that returns a text returns why it has failed, for the user;
+ * empty on success.
+ */
+class PaneProfiles {
+public:
+    struct Profile {
+        QString name;
+        /** What it is for: the names of desktop entries, without ".desktop". */
+        QStringList applications;
+    };
+
+    /** A button that would start an application. */
+    struct Start {
+        QString button;
+        QString path;
+    };
+
+    /** What is in a file from somebody else, and what it would do. */
+    struct Import {
+        QString error; ///< why the file cannot be used; empty if it can
+        QString name; ///< what the profile will be called
+        QStringList changes; ///< what it sets otherwise than it is now
+        QStringList leftOut; ///< what does not fit the device
+        QStringList applications; ///< what it is for
+        std::vector<Start> starts; ///< have no action unless allowed
+        std::shared_ptr<const void> contents; ///< for the pane
+    };
+
+    using Done = std::function<void(const QString& error)>;
+
+    virtual ~PaneProfiles() = default;
+
+    /** In the order in which they are to be shown. */
+    virtual std::vector<Profile> list() const = 0;
+    /** The one that was used last; empty if there is none. */
+    virtual QString current() const = 0;
+    /** Makes a profile's settings the device's. @param done is called then, perhaps at once */
+    virtual void use(const QString& name, Done done) = 0;
+
+    /** Keeps the current settings under a name, also in the place of a profile that has it. */
+    virtual QString save(const QString& name) = 0;
+    virtual QString rename(const QString& name, const QString& newName) = 0;
+    virtual QString duplicate(const QString& name, const QString& newName) = 0;
+    virtual QString remove(const QString& name) = 0;
+    virtual QString setApplications(const QString& name, const QStringList& applications) = 0;
+
+    /** Writes a profile into a file for others. */
+    virtual QString exportTo(const QString& name, const QString& file) = 0;
+    /** Reads a file once, and keeps nothing of it. */
+    virtual Import readImport(const QString& file) = 0;
+    /**
+     * Keeps what was read as a profile.
+     *
+     * @param allowed for each of its starts, whether the button may start the application
+     */
+    virtual QString keepImport(const Import& import, const std::vector<bool>& allowed) = 0;
+
+    /** Why a text cannot be a profile's name; empty if it can. */
+    virtual QString faultOf(const QString& name) const = 0;
+
+    /** Sets the function to call, on the main thread, when the list or current() has changed. */
+    virtual void setChangeHandler(std::function<void()> handler) = 0;
+};
 
 /**
  * A settings pane that a host shows in its window. The host calls, on the main thread:
@@ -69,6 +136,7 @@ public:
         ChangedByItself, ///< the settings follow the displays and have not been sent since
         DisplayChosen, ///< a display has been chosen for the device, perhaps the same again
         DisplaysChanged, ///< there are others, or in other places
+        SettingsReplaced, ///< by those of a profile: earlier ones cannot be gone back to
     };
     using NewsHandler = std::function<void(News news, const QString& text)>;
 
@@ -148,6 +216,9 @@ public:
         static_cast<void>(after);
         return {};
     }
+    /** The device's profiles; null if the pane has none. */
+    virtual PaneProfiles* profiles() { return nullptr; }
+
     /**
      * Sets the function to call, on the main thread, when the result of hasChanges() or settings()
      * may have changed.
@@ -197,4 +268,4 @@ public:
 
 } // namespace platform
 
-Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/4")
+Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/5")

@@ -1,0 +1,198 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVPanelObject.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+
+#include <utility>
+
+using platform::Error;
+using platform::Result;
+
+namespace {
+
+constexpr QLatin1String kBusService("org.freedesktop.DBus");
+constexpr QLatin1String kBusPath("/org/freedesktop/DBus");
+
+constexpr QLatin1String kFailed("org.quorvia.TabletPanel1.Error.Failed");
+
+/** Flags of a request for a name, and its answers; D-Bus Specification, "RequestName". */
+constexpr std::uint32_t kAllowReplacement = 1;
+constexpr std::uint32_t kReplaceExisting = 2;
+constexpr std::uint32_t kPrimaryOwner = 1;
+constexpr std::uint32_t kInQueue = 2;
+
+constexpr int kReleaseTime = 250; ///< milliseconds
+/** Changing the tablet's report speed may take four seconds. */
+constexpr int kAnswerTime = 10000; ///< milliseconds
+
+QDBusMessage busCall(const char* method)
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(kBusService, kBusPath, kBusService, QLatin1String(method));
+    call << QString(kQVPanelService);
+    return call;
+}
+
+} // namespace
+
+QVPanelObject::QVPanelObject(QVProfileSwitch& own, Kind kind, QDBusConnection bus)
+    : mOwn(own)
+    , mBus(std::move(bus))
+{
+    qDBusRegisterMetaType<QVStringMap>();
+    mBus.registerObject(
+        kQVPanelPath, this, QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals);
+    mBus.connect(kBusService, kBusPath, kBusService, QStringLiteral("NameAcquired"), this,
+        SLOT(noteAcquired(QString)));
+    mBus.connect(kBusService, kBusPath, kBusService, QStringLiteral("NameLost"), this,
+        SLOT(noteLost(QString)));
+    QDBusMessage request = busCall("RequestName");
+    request << (kind == Kind::Panel ? kReplaceExisting : kAllowReplacement);
+    mRequest = new QDBusPendingCallWatcher(mBus.asyncCall(request), this);
+    connect(mRequest, &QDBusPendingCallWatcher::finished, this, [this] {
+        const QDBusPendingReply<std::uint32_t> reply = *mRequest;
+        std::exchange(mRequest, nullptr)->deleteLater();
+        if (reply.isValid() && reply.value() == kPrimaryOwner) {
+            setRole(Role::Owner);
+        } else if (reply.isValid() && reply.value() == kInQueue) {
+            setRole(Role::Second);
+        }
+    });
+}
+
+QVPanelObject::~QVPanelObject()
+{
+    // Before the connection, in which a pending call must not be left.
+    delete mRequest;
+    mBus.unregisterObject(kQVPanelPath);
+    // Waits, so that what was sent before has arrived when another one gets the name.
+    mBus.call(busCall("ReleaseName"), QDBus::Block, kReleaseTime);
+}
+
+void QVPanelObject::setRole(Role role)
+{
+    if (std::exchange(mRole, role) != role && mRoleHandler) {
+        mRoleHandler();
+    }
+}
+
+void QVPanelObject::noteAcquired(const QString& name)
+{
+    if (name == kQVPanelService) {
+        setRole(Role::Owner);
+    }
+}
+
+void QVPanelObject::noteLost(const QString& name)
+{
+    if (name == kQVPanelService) {
+        setRole(Role::Second);
+    }
+}
+
+void QVPanelObject::tellChanged()
+{
+    if (!isOwner()) {
+        return;
+    }
+    // Qt hands a signal that is emitted to another thread, so that it might come too late.
+    const auto send = [this](const char* name, const QVariantList& arguments) {
+        QDBusMessage signal =
+            QDBusMessage::createSignal(kQVPanelPath, kQVPanelInterface, QLatin1String(name));
+        signal.setArguments(arguments);
+        mBus.send(signal);
+    };
+    const Result<QByteArray> record = mOwn.record();
+    if (record && mHasSeconds && *record != mLastTold) {
+        mLastTold = *record;
+        send("SettingsChanged", {*record});
+    }
+    send("Changed", {});
+}
+
+void QVPanelObject::answer(const Result<>& result)
+{
+    if (!result && calledFromDBus()) {
+        sendErrorReply(kFailed, result.error().text);
+    }
+}
+
+QStringList QVPanelObject::Profiles()
+{
+    const Result<QStringList> names = mOwn.names();
+    answer(names ? Result<>() : names.error());
+    return names.value_or(QStringList());
+}
+
+QString QVPanelObject::Current()
+{
+    const Result<QString> name = mOwn.current();
+    answer(name ? Result<>() : name.error());
+    return name.value_or(QString());
+}
+
+void QVPanelObject::Use(const QString& name)
+{
+    answer(mOwn.use(name));
+}
+
+QString QVPanelObject::UseNext()
+{
+    const Result<QString> name = mOwn.useNext();
+    answer(name ? Result<>() : name.error());
+    return name.value_or(QString());
+}
+
+void QVPanelObject::Set(const QString& entry, const QString& value)
+{
+    answer(mOwn.set(entry, value));
+}
+
+void QVPanelObject::Edit(const QMap<QString, QString>& values)
+{
+    answer(mOwn.edit(values));
+}
+
+void QVPanelObject::Follow(const QStringList& names)
+{
+    answer(mOwn.useFor(names));
+}
+
+void QVPanelObject::Save(const QString& name)
+{
+    answer(mOwn.save(name));
+}
+
+QByteArray QVPanelObject::Settings()
+{
+    mHasSeconds = true;
+    const Result<QByteArray> record = mOwn.record();
+    answer(record ? Result<>() : record.error());
+    return record.value_or(QByteArray());
+}
+
+std::optional<Result<>> QVAskPanel(
+    const QDBusConnection& bus, const QString& method, const QVariantList& arguments)
+{
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(kQVPanelService, kQVPanelPath, kQVPanelInterface, method);
+    call.setArguments(arguments);
+    call.setAutoStartService(false);
+    const QDBusMessage reply = bus.call(call, QDBus::Block, kAnswerTime);
+    if (reply.type() != QDBusMessage::ErrorMessage) {
+        return Result<>();
+    }
+    // The bus calls it so where it must not start the owner.
+    constexpr QLatin1String kNoOwner("org.freedesktop.DBus.Error.NameHasNoOwner");
+    const QDBusError::ErrorType error = QDBusError(reply).type();
+    if (reply.errorName() == kNoOwner || error == QDBusError::ServiceUnknown
+        || error == QDBusError::Disconnected) {
+        return std::nullopt;
+    }
+    return Error{reply.errorMessage()};
+}

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "QVProfileSwitch.h"
+#include "Result.h"
+
+#include <QDBusConnection>
+#include <QDBusContext>
+#include <QLatin1String>
+#include <QMap>
+#include <QObject>
+#include <QString>
+#include <QStringList>
+#include <QVariantList>
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <utility>
+
+class QDBusPendingCallWatcher;
+
+/** The name on the session bus of who holds the tablet's settings, and its object. */
+inline constexpr QLatin1String kQVPanelService("org.quorvia.TabletPanel");
+inline constexpr QLatin1String kQVPanelPath("/org/quorvia/TabletPanel");
+inline constexpr QLatin1String kQVPanelInterface("org.quorvia.TabletPanel1");
+
+using QVStringMap = QMap<QString, QString>;
+
+/**
+ * The tablet's settings on the bus, for other programs and for further panels, so that there is one
+ * place where they change. The public slots and signals are exported, as org.quorvia.TabletPanel1.
+ *
+ * Several programs want the name: it goes to the panel that was there first, then to the next one,
+ * and to a program that follows applications only while there is no panel.
+ */
+class QVPanelObject final : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.quorvia.TabletPanel1")
+
+public:
+    enum class Kind : std::uint8_t {
+        Panel,
+        Follower, ///< leaves the name to a panel
+    };
+
+    /** Exports the object and asks for the name. @param own does what is asked of the owner */
+    QVPanelObject(QVProfileSwitch& own, Kind kind, QDBusConnection bus);
+    /** Gives up the name, after all that was sent before. */
+    ~QVPanelObject() override;
+
+    /** Whether this has the name. */
+    bool isOwner() const { return mRole == Role::Owner; }
+    /** Whether somebody else has it. Neither holds before the bus has answered. */
+    bool isSecond() const { return mRole == Role::Second; }
+
+    /** Sets the function to call when this has the name from now on, or somebody else has. */
+    void setRoleHandler(std::function<void()> handler) { mRoleHandler = std::move(handler); }
+
+    /** Tells others what the settings are now, if this has the name. */
+    void tellChanged();
+
+public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
+    QStringList Profiles();
+    QString Current();
+    /** Uses a profile. */
+    void Use(const QString& name);
+    /** Uses the profile after the current one. @return its name */
+    QString UseNext();
+    /** Changes one entry, such as "Pen/Speed", and saves it. */
+    void Set(const QString& entry, const QString& value);
+    /** Changes entries without saving them, all or none. */
+    void Edit(const QMap<QString, QString>& values); // by this name, the bus finds its type
+    /** Uses the profile for an application that has come to the front, or the user's own. */
+    void Follow(const QStringList& names);
+    /** Keeps the current settings as a profile. */
+    void Save(const QString& name);
+    /** The record: 5077 bytes. */
+    QByteArray Settings();
+
+Q_SIGNALS: // never emitted, but declared for those who ask what there is
+    /** The settings, the profiles or the current one may have changed. */
+    void Changed();
+    /** The record has changed; sent once somebody has asked for Settings(). */
+    void SettingsChanged(const QByteArray& record);
+
+private Q_SLOTS:
+    void noteAcquired(const QString& name);
+    void noteLost(const QString& name);
+
+private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
+    enum class Role : std::uint8_t { Unknown, Owner, Second };
+
+    void answer(const platform::Result<>& result);
+    void setRole(Role role);
+
+    QVProfileSwitch& mOwn;
+    QDBusConnection mBus;
+    std::function<void()> mRoleHandler;
+    QDBusPendingCallWatcher* mRequest = nullptr; ///< for the name
+    Role mRole = Role::Unknown;
+    bool mHasSeconds = false; ///< somebody follows the record
+    QByteArray mLastTold; ///< the record
+};
+
+/**
+ * Has the owner of the panel's name do something, and waits for it.
+ *
+ * @return nothing if nobody owns the name
+ */
+std::optional<platform::Result<>> QVAskPanel(
+    const QDBusConnection& bus, const QString& method, const QVariantList& arguments);

@@ -1,0 +1,328 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVProfileSwitch.h"
+
+#include "Client.h"
+#include "Displays.h"
+#include "QVConfigEntry.h"
+#include "QVConfigStore.h"
+#include "QVEntryText.h"
+#include "QVMonitorGeometry.h"
+#include "rzkApplication.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <iterator>
+#include <optional>
+#include <utility>
+#include <vector>
+
+using platform::Error;
+using platform::Result;
+
+namespace {
+
+/** The context of the translations. */
+struct SwitchTexts {
+    Q_DECLARE_TR_FUNCTIONS(QVProfileSwitch)
+};
+
+constexpr QLatin1String kDisplayEntry("Monitor/num");
+
+/** Whether the record has all settings of a profile that the user chooses. */
+bool isLike(const QVProfile& profile)
+{
+    for (std::size_t i = 0; i < kQVEntries.size(); ++i) {
+        const QVEntry& entry = kQVEntries[i];
+        if (profile.present.test(i) && QVIsChosen(entry)
+            && !QVIsSameField(entry, profile.settings, qvTabletInfo)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+/** The name for the settings before a profile is used. */
+QString nameBefore(const QString& name)
+{
+    //: The name of a profile with what was set before the profile %1 was used.
+    const QString before = SwitchTexts::tr("Before %1");
+    QString shortened = name;
+    while (before.arg(shortened).toUcs4().size() > kQVProfileNameSize) {
+        shortened.chop(std::as_const(shortened).back().isLowSurrogate() ? 2 : 1);
+    }
+    return before.arg(shortened);
+}
+
+bool contains(const std::vector<QVProfileFolder::Item>& profiles, const QString& name)
+{
+    return std::ranges::find(profiles, name, &QVProfileFolder::Item::name) != profiles.end();
+}
+
+/** Whether a profile is for an application with one of these names. */
+bool isFor(const QVProfileFolder::Item& profile, const QStringList& names)
+{
+    return std::ranges::any_of(profile.applications, [&](const QString& application) {
+        return names.contains(application, Qt::CaseInsensitive);
+    });
+}
+
+} // namespace
+
+QVProfileFolder QVProfileSwitch::folder() const
+{
+    return QVProfileFolder(QVProductID(qvTabletInfo));
+}
+
+Result<> QVProfileSwitch::attach()
+{
+    if (const auto list = mStore.loadAttachedTablet(); !list) {
+        return list.error();
+    }
+    return {};
+}
+
+Result<> QVProfileSwitch::push()
+{
+    return QVPushAndWait();
+}
+
+void QVProfileSwitch::map()
+{
+    const platform::Displays& displays = platform::displays();
+    const auto active = displays.activeDisplays();
+    if (!active || active->empty()) {
+        return;
+    }
+    std::vector<platform::Rect> bounds;
+    std::ranges::transform(*active, std::back_inserter(bounds),
+        [&](platform::DisplayID display) { return displays.bounds(display); });
+    QVMapChosenDisplay(qvTabletInfo, bounds);
+}
+
+Result<QStringList> QVProfileSwitch::names()
+{
+    if (const Result<> attached = attach(); !attached) {
+        return attached.error();
+    }
+    QStringList names;
+    const std::vector<QVProfileFolder::Item> profiles = folder().list();
+    for (const QVProfileFolder::Item& profile : profiles) {
+        names.append(profile.name);
+    }
+    return names;
+}
+
+Result<QString> QVProfileSwitch::current()
+{
+    const Result<QStringList> all = names();
+    if (!all) {
+        return all.error();
+    }
+    const QString current = QVProfileChoice::load(QVProductID(qvTabletInfo)).current;
+    return all->contains(current) ? current : QString();
+}
+
+Result<> QVProfileSwitch::begin()
+{
+    Result<> attached = attach();
+    return attached ? mayChange() : attached;
+}
+
+Result<> QVProfileSwitch::use(const QString& name, QVChooser chooser)
+{
+    const Result<> begun = begin();
+    return begun ? put(name, chooser) : begun;
+}
+
+/** Puts a profile's settings in the place of the current ones. */
+Result<> QVProfileSwitch::put(const QString& name, QVChooser chooser)
+{
+    const std::uint16_t product = QVProductID(qvTabletInfo);
+    const Result<QVProfile> profile = folder().load(name);
+    if (!profile) {
+        return profile.error();
+    }
+    QVProfileChoice choice = QVProfileChoice::load(product);
+    if (const Result<> kept = keepEdits(*profile, choice.current); !kept) {
+        return kept;
+    }
+    tagQVTabletInfo wanted = qvTabletInfo;
+    QVApplyProfile(*profile, wanted);
+    const std::int16_t speed = qvTabletInfo.Monitor.Speed;
+    if (const Result<> saved = mStore.saveRecord(QVConfigStore::configPath(), wanted); !saved) {
+        return saved;
+    }
+    if (const auto loaded = mStore.loadTabletsRecord(); !loaded) {
+        return loaded.error();
+    }
+    map();
+    show();
+    if (qvTabletInfo.Monitor.Speed != speed) {
+        QVSendReportSpeed();
+    }
+    Result<> pushed = push();
+    // What the driver has comes first: the hand may be on the tablet.
+    choice.current = name;
+    if (chooser == QVChooser::User) {
+        choice.chosen = name;
+    }
+    choice.save(product);
+    changed(true);
+    return pushed;
+}
+
+/** Keeps what the user would lose, unless some profile has it. */
+Result<> QVProfileSwitch::keepEdits(const QVProfile& next, const QString& current)
+{
+    if (isLike(next)) {
+        return {};
+    }
+    const QVProfileFolder profiles = folder();
+    const Result<QVProfile> last = profiles.load(current);
+    if (last ? isLike(*last) : !mStore.hasUnsavedFields()) {
+        return {};
+    }
+    return profiles.save(QVProfileOf(qvTabletInfo, nameBefore(next.name)));
+}
+
+Result<QString> QVProfileSwitch::useNext()
+{
+    if (const Result<> begun = begin(); !begun) {
+        return begun.error();
+    }
+    const std::vector<QVProfileFolder::Item> profiles = folder().list();
+    if (profiles.empty()) {
+        return Error{SwitchTexts::tr("There are no profiles.")};
+    }
+    const QString current = QVProfileChoice::load(QVProductID(qvTabletInfo)).current;
+    const auto found = std::ranges::find(profiles, current, &QVProfileFolder::Item::name);
+    const bool isLast = found == profiles.end() || std::next(found) == profiles.end();
+    const QString name = (isLast ? profiles.begin() : std::next(found))->name;
+    if (const Result<> used = put(name, QVChooser::User); !used) {
+        return used.error();
+    }
+    return name;
+}
+
+Result<> QVProfileSwitch::useFor(const QStringList& names)
+{
+    if (const Result<> begun = begin(); !begun) {
+        return begun;
+    }
+    const std::uint16_t product = QVProductID(qvTabletInfo);
+    const std::vector<QVProfileFolder::Item> profiles = folder().list();
+    QVProfileChoice choice = QVProfileChoice::load(product);
+    const bool hasChosen = contains(profiles, choice.chosen);
+    const auto found = std::ranges::find_if(
+        profiles, [&](const QVProfileFolder::Item& profile) { return isFor(profile, names); });
+    const QString wanted = found != profiles.end() ? found->name
+        : hasChosen                                ? choice.chosen
+                                                   : QString();
+    if (wanted.isEmpty() || wanted == choice.current) {
+        return {};
+    }
+    if (!hasChosen) {
+        //: The name of a profile with the settings of a user who had no profiles for them.
+        const QString name = folder().freeName(SwitchTexts::tr("Default"));
+        if (const Result<> kept = folder().save(QVProfileOf(qvTabletInfo, name)); !kept) {
+            return kept;
+        }
+        choice = {name, name};
+        choice.save(product);
+    }
+    return put(wanted, QVChooser::Application);
+}
+
+Result<> QVProfileSwitch::set(const QString& entry, const QString& value)
+{
+    if (const Result<> changed = change({{entry, value}}); !changed) {
+        return changed;
+    }
+    const QVEntry* const found = findEntry(entry);
+    const Result<> saved = mStore.saveEntries({&found, 1});
+    // What the driver has is what the panel shows, even if it could not be saved.
+    changed(false);
+    return saved;
+}
+
+Result<> QVProfileSwitch::edit(const QMap<QString, QString>& values)
+{
+    Result<> edited = change(values);
+    if (edited) {
+        changed(false);
+    }
+    return edited;
+}
+
+/** Changes entries of the record, all or none, and pushes it. */
+Result<> QVProfileSwitch::change(const QMap<QString, QString>& values)
+{
+    if (const Result<> begun = begin(); !begun) {
+        return begun;
+    }
+    tagQVTabletInfo record = qvTabletInfo;
+    for (auto value = values.begin(); value != values.end(); ++value) {
+        const QVEntry* const entry = findEntry(value.key());
+        if (entry == nullptr || !entry->section->saved) {
+            return Error{entry != nullptr
+                    ? QStringLiteral("%1 describes the tablet and cannot be set").arg(value.key())
+                    : QStringLiteral("there is no entry %1").arg(value.key())};
+        }
+        if (const Result<> set = setEntry(record, *entry, value.value()); !set) {
+            return set;
+        }
+    }
+    qvTabletInfo = record;
+    if (values.contains(kDisplayEntry)) {
+        map();
+    }
+    show();
+    return push();
+}
+
+Result<> QVProfileSwitch::save(const QString& name)
+{
+    if (const Result<> begun = begin(); !begun) {
+        return begun;
+    }
+    QVProfile profile = QVProfileOf(qvTabletInfo, name);
+    if (const Result<QVProfile> former = folder().load(name)) {
+        profile.applications = former->applications;
+    }
+    Result<> saved = folder().save(profile);
+    if (saved) {
+        QVProfileChoice{name, name}.save(QVProductID(qvTabletInfo));
+        changed(false);
+    }
+    return saved;
+}
+
+Result<> QVProfileSwitch::rename(const QString& name, const QString& newName)
+{
+    if (const Result<> attached = attach(); !attached) {
+        return attached;
+    }
+    Result<> renamed = folder().rename(name, newName);
+    if (renamed) {
+        const std::uint16_t product = QVProductID(qvTabletInfo);
+        QVProfileChoice choice = QVProfileChoice::load(product);
+        for (QString* const one : {&choice.current, &choice.chosen}) {
+            if (*one == name) {
+                *one = newName;
+            }
+        }
+        choice.save(product);
+        changed(false);
+    }
+    return renamed;
+}
+
+Result<QByteArray> QVProfileSwitch::record()
+{
+    if (const Result<> attached = attach(); !attached) {
+        return attached.error();
+    }
+    return QByteArray(reinterpret_cast<const char*>(&qvTabletInfo), kQVRecordSize);
+}

@@ -1,0 +1,17 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Commands.h"
+
+#include <QString>
+
+/** Lists, uses and keeps the tablet's profiles, and exchanges them with others. */
+int runProfile(const Arguments& arguments);
+
+/** Whether that pushes settings, which depend on the displays. */
+bool profileNeedsDisplays(const Arguments& arguments);
+
+/** A text from somebody else, with a mark for each character that might do something to a terminal.
+ */
+QString harmless(const QString& text);

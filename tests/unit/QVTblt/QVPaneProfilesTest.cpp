@@ -1,0 +1,315 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+
+// The panel's profiles: what the pages show, what is refused, and what others are told.
+
+#include "QVPaneProfiles.h"
+
+#include "PaneTest.h"
+#include "PrivateBus.h"
+#include "QVKeyComboBox.h"
+#include "QVMonitorView.h"
+#include "QVPressView.h"
+#include "QVProfileFolder.h"
+#include "Wait.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusPendingCall>
+#include <QDBusReply>
+#include <QSlider>
+#include <QTabWidget>
+#include <QTest>
+
+#include <algorithm>
+#include <array>
+#include <cstring>
+#include <functional>
+#include <vector>
+
+namespace {
+
+using Pane = platform::PreferencePane;
+
+bool waitFor(const std::function<bool()>& condition)
+{
+    return QTest::qWaitFor(condition, kPatience);
+}
+
+class PanelProfiles : public PaneTest {
+protected:
+    void SetUp() override
+    {
+        PaneTest::SetUp();
+        show();
+        outlet<QTabWidget>("tabView").setCurrentIndex(1); // the pen page
+        mEvents.sent.clear();
+        tagQVTabletInfo record = qvTabletInfo;
+        record.Pen.PressureThreshold = 50;
+        record.Key.SubKey[2].Valid = kQVPauseTablet;
+        ASSERT_TRUE(QVProfileFolder(2).save(QVProfileOf(record, mName)));
+        mPane.setNewsHandler([this](Pane::News news, const QString&) { mNews.push_back(news); });
+    }
+
+    /** Uses a profile. @return why it could not be; empty on success */
+    QString use(const QString& name)
+    {
+        QString why = QStringLiteral("no answer");
+        mPane.profiles()->use(name, [&](const QString& error) { why = error; });
+        return why;
+    }
+
+    /** As drawn. */
+    int shownPressure() { return outlet<QSlider>("mSlider").value() / QVPressView::kSliderSteps; }
+
+    const QString mName = QStringLiteral("Painting");
+    std::vector<Pane::News> mNews;
+};
+
+/** Hears what a panel tells. */
+class Ear final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit Ear(QDBusConnection bus)
+    {
+        bus.connect(kQVPanelService, kQVPanelPath, kQVPanelInterface, QStringLiteral("Changed"),
+            this, SLOT(noteChange()));
+        bus.connect(kQVPanelService, kQVPanelPath, kQVPanelInterface,
+            QStringLiteral("SettingsChanged"), this, SLOT(noteRecord(QByteArray)));
+    }
+
+    int changes = 0;
+    std::vector<int> pressures;
+
+private Q_SLOTS:
+    void noteChange() { ++changes; }
+    void noteRecord(const QByteArray& bytes)
+    {
+        tagQVTabletInfo record{};
+        ASSERT_EQ(bytes.size(), kQVRecordSize);
+        std::memcpy(&record, bytes.constData(), sizeof record);
+        pressures.push_back(record.Pen.PressureThreshold);
+    }
+};
+
+/** With a bus, on which others ask the panel. */
+class PanelOnBus : public PanelProfiles {
+protected:
+    void SetUp() override
+    {
+        PanelProfiles::SetUp();
+        ASSERT_TRUE(waitFor([&] { return mOwned(); }));
+    }
+    ~PanelOnBus() override { QDBusConnection::disconnectFromBus(mClient.name()); }
+
+    bool mOwned()
+    {
+        const QDBusReply<bool> isOwned = mClient.interface()->isServiceRegistered(kQVPanelService);
+        return isOwned.value();
+    }
+
+    /** Calls the panel without blocking it, which is in this process. */
+    QDBusMessage ask(const char* method, const QVariantList& arguments = {})
+    {
+        QDBusMessage call = QDBusMessage::createMethodCall(
+            kQVPanelService, kQVPanelPath, kQVPanelInterface, QLatin1String(method));
+        call.setArguments(arguments);
+        const QDBusPendingCall pending = mClient.asyncCall(call);
+        EXPECT_TRUE(waitFor([&] { return pending.isFinished(); })) << method;
+        return pending.reply();
+    }
+
+    PrivateBus mBus;
+    QDBusConnection mClient =
+        QDBusConnection::connectToBus(mBus.address(), QStringLiteral("client"));
+};
+
+} // namespace
+
+TEST_F(PanelProfiles, areShownOnThePagesOnceUsed)
+{
+    EXPECT_EQ(use(mName), QString());
+    EXPECT_EQ(qvTabletInfo.Pen.PressureThreshold, 50);
+    EXPECT_TRUE(waitFor([&] { return shownPressure() == 50; }));
+    EXPECT_EQ(outlet<QVKeyComboBox>("mKey1_3").currentIndex(), QVKeyComboBox::PauseTablet);
+    EXPECT_EQ(recordInFile().Key.SubKey[2].Valid, kQVPauseTablet);
+    ASSERT_EQ(pushes().size(), 1U);
+    EXPECT_EQ(pushes()[0].Pen.PressureThreshold, 50);
+    EXPECT_EQ(mPane.profiles()->current(), mName);
+    EXPECT_FALSE(mPane.hasChanges());
+    EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 1);
+}
+
+TEST_F(PanelProfiles, keepUnsavedEditsFirst)
+{
+    qvTabletInfo.Pen.PressureThreshold = 77;
+    EXPECT_EQ(use(mName), QString());
+    const auto before = QVProfileFolder(2).load(QStringLiteral("Before Painting"));
+    ASSERT_TRUE(before);
+    EXPECT_EQ(before->settings.Pen.PressureThreshold, 77);
+    EXPECT_EQ(mPane.profiles()->list().size(), 2U);
+}
+
+TEST_F(PanelProfiles, areRefusedDuringACalibration)
+{
+    outlet<QComboBox>("mComboBox").setCurrentIndex(1);
+    auto& view = outlet<QVMonitorView>("mMonitorView");
+    view.SelectMonitor();
+    view.DoCalibrate();
+    ASSERT_TRUE(view.isCalibrating());
+    EXPECT_EQ(use(mName), QStringLiteral("The tablet is being calibrated. Finish that first."));
+    EXPECT_NE(qvTabletInfo.Pen.PressureThreshold, 50);
+    view.endCalibration();
+    EXPECT_TRUE(waitFor([&] { return !view.isCalibrating(); }));
+    EXPECT_EQ(use(mName), QString());
+}
+
+TEST_F(PanelProfiles, areRefusedWithoutATablet)
+{
+    leave();
+    mEvents.answer(0);
+    show();
+    EXPECT_EQ(use(mName), QStringLiteral("No tablet is attached."));
+    EXPECT_TRUE(mPane.profiles()->list().empty());
+}
+
+TEST_F(PanelProfiles, leaveFileAndPagesAloneIfTheFileCannotBeWritten)
+{
+    QFile::remove(mHome.configFile(7));
+    QDir().mkdir(mHome.configFile(7));
+    EXPECT_TRUE(use(mName).startsWith(QStringLiteral("cannot read ")));
+    EXPECT_NE(qvTabletInfo.Pen.PressureThreshold, 50);
+    EXPECT_TRUE(pushes().empty());
+    EXPECT_EQ(mPane.profiles()->current(), QString());
+}
+
+TEST_F(PanelProfiles, areManagedForTheShell)
+{
+    platform::PaneProfiles& profiles = *mPane.profiles();
+    int changes = 0;
+    profiles.setChangeHandler([&] { ++changes; });
+    const QString second = QStringLiteral("Second");
+    EXPECT_EQ(profiles.save(second), QString());
+    EXPECT_EQ(profiles.current(), second);
+    EXPECT_EQ(profiles.setApplications(second, {QStringLiteral("paint")}), QString());
+    EXPECT_EQ(profiles.duplicate(second, QStringLiteral("Third")), QString());
+    EXPECT_NE(profiles.duplicate(second, QStringLiteral("Third")), QString());
+    EXPECT_EQ(profiles.rename(second, QStringLiteral("2")), QString());
+    EXPECT_EQ(profiles.current(), QStringLiteral("2"));
+    EXPECT_EQ(profiles.remove(QStringLiteral("Third")), QString());
+    const auto list = profiles.list();
+    ASSERT_EQ(list.size(), 2U);
+    EXPECT_EQ(list[0].applications, QStringList{QStringLiteral("paint")});
+    EXPECT_GE(changes, 5);
+    EXPECT_NE(profiles.faultOf(QString()), QString());
+    profiles.setChangeHandler(nullptr);
+}
+
+TEST_F(PanelProfiles, areExchangedWithoutTrust)
+{
+    platform::PaneProfiles& profiles = *mPane.profiles();
+    const QString file = mHome.path() + QStringLiteral("/theirs.plist");
+    tagQVTabletInfo record = qvTabletInfo;
+    record.Basic.KeyNum = 16;
+    qvTabletInfo.Basic.KeyNum = 16;
+    record.Key.SubKey[1].Valid = kQVApplication;
+    ASSERT_TRUE(QVProfileFolder(2).save(QVProfileOf(record, QStringLiteral("Mine"))));
+    ASSERT_EQ(profiles.exportTo(QStringLiteral("Mine"), file), QString());
+
+    const auto import = profiles.readImport(file);
+    EXPECT_EQ(import.error, QString());
+    EXPECT_EQ(import.name, QStringLiteral("Mine 2"));
+    ASSERT_EQ(import.starts.size(), 1U);
+    EXPECT_EQ(import.starts[0].path, QStringLiteral("/app/1"));
+    writeFile(file, "rubbish"); // it has been read
+    EXPECT_EQ(profiles.keepImport(import, {false}), QString());
+    EXPECT_EQ(QVProfileFolder(2).load(QStringLiteral("Mine 2"))->settings.Key.SubKey[1].Valid,
+        kQVNoAction);
+    EXPECT_EQ(profiles.keepImport(import, {true}), QString());
+    EXPECT_EQ(QVProfileFolder(2).load(QStringLiteral("Mine 2 2"))->settings.Key.SubKey[1].Valid,
+        kQVApplication);
+    const auto refused = profiles.readImport(file);
+    EXPECT_TRUE(refused.error.startsWith(QStringLiteral("cannot use ")));
+    EXPECT_EQ(profiles.keepImport(refused, {}), refused.error);
+}
+
+TEST_F(PanelOnBus, doesWhatOthersAsk)
+{
+    EXPECT_EQ(ask("Profiles").arguments().value(0).toStringList(), QStringList{mName});
+    EXPECT_EQ(ask("Use", {mName}).errorMessage(), QString());
+    EXPECT_TRUE(waitFor([&] { return shownPressure() == 50; }));
+    EXPECT_EQ(ask("Current").arguments().value(0).toString(), mName);
+    EXPECT_EQ(ask("Use", {QStringLiteral("x")}).errorMessage(),
+        QString::fromUtf8("There is no profile “x”."));
+    EXPECT_EQ(ask("Settings").arguments().value(0).toByteArray().size(), 5077);
+}
+
+TEST_F(PanelOnBus, takesASettingFromOthersBesideItsOwnEdits)
+{
+    qvTabletInfo.Pen.Speed = 99; // an edit that is not saved
+    ASSERT_EQ(
+        ask("Set", {QStringLiteral("Pen/PressureThreshold"), QStringLiteral("40")}).errorMessage(),
+        QString());
+    EXPECT_TRUE(waitFor([&] { return shownPressure() == 40; }));
+    EXPECT_EQ(recordInFile().Pen.PressureThreshold, 40);
+    EXPECT_EQ(recordInFile().Pen.Speed, 13) << "the panel's edit is not saved with it";
+    EXPECT_TRUE(mPane.hasChanges());
+    EXPECT_EQ(pushes().back().Pen.Speed, 99);
+    mPane.cancel();
+    EXPECT_EQ(qvTabletInfo.Pen.PressureThreshold, 40) << "Cancel goes back to what is saved";
+}
+
+TEST_F(PanelOnBus, tellsOthersOfEdits)
+{
+    Ear ear(mClient);
+    qvTabletInfo.Pen.PressureThreshold = 32;
+    mPane.send();
+    EXPECT_TRUE(waitFor([&] { return ear.changes > 0; }));
+    EXPECT_TRUE(ear.pressures.empty()) << "nobody has asked for the record";
+
+    ask("Settings");
+    for (const std::int16_t pressure : std::array<std::int16_t, 3>{33, 34, 35}) {
+        qvTabletInfo.Pen.PressureThreshold = pressure;
+        mPane.send();
+    }
+    EXPECT_TRUE(waitFor([&] { return !ear.pressures.empty(); }));
+    EXPECT_EQ(ear.pressures, std::vector<int>{35}) << "the last of those that come together";
+
+    const QVStringMap values{{QStringLiteral("Pen/PressureThreshold"), QStringLiteral("36")}};
+    EXPECT_EQ(ask("Edit", {QVariant::fromValue(values)}).errorMessage(), QString());
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.back() == 36; }));
+    EXPECT_TRUE(mPane.hasChanges());
+
+    mPane.cancel();
+    leave();
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.back() == 12; }))
+        << "what is discarded, before the name is given up";
+}
+
+TEST_F(PanelOnBus, givesUpItsNameWhenItIsLeft)
+{
+    leave();
+    EXPECT_TRUE(waitFor([&] { return !mOwned(); }));
+    show();
+    EXPECT_TRUE(waitFor([&] { return mOwned(); }));
+    leave();
+    show();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(mOwned()) << "left for a moment only, as by Cancel";
+}
+
+TEST_F(PanelOnBus, takesTheNameFromAFollowerAndGivesItBack)
+{
+    leave();
+    ASSERT_TRUE(waitFor([&] { return !mOwned(); }));
+    QVConfigStore store;
+    QVProfileSwitch own(store);
+    QVPanelObject follower(own, QVPanelObject::Kind::Follower, mClient);
+    ASSERT_TRUE(waitFor([&] { return follower.isOwner(); }));
+    show();
+    EXPECT_TRUE(waitFor([&] { return !follower.isOwner(); }));
+    leave();
+    EXPECT_TRUE(waitFor([&] { return follower.isOwner(); }));
+}
+
+#include "QVPaneProfilesTest.moc"

@@ -1,0 +1,239 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "QVProfileSwitch.h"
+
+#include "FakeDisplays.h"
+#include "FakeEvents.h"
+#include "QVConfigStore.h"
+#include "QVDriverProtocol.h"
+#include "SampleConfig.h"
+#include "TemporaryHome.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstring>
+#include <utility>
+#include <vector>
+
+namespace {
+
+/** A driver with the sample's tablet, and no panel. */
+class Switch : public testing::Test {
+protected:
+    Switch()
+    {
+        qvTabletInfo = {};
+        writeFile(mHome.configFile(7), sampleConfig());
+        mEvents.answer(7);
+    }
+
+    /** Makes a profile from the sample with another pressure. */
+    void make(const QString& name, std::int16_t pressure, const QStringList& applications = {})
+    {
+        tagQVTabletInfo record = sampleRecord();
+        record.Pen.PressureThreshold = pressure;
+        QVProfile profile = QVProfileOf(record, name);
+        profile.applications = applications;
+        ASSERT_TRUE(QVProfileFolder(2).save(profile));
+    }
+
+    /** The pressures pushed since the last call. */
+    std::vector<int> pushes()
+    {
+        std::vector<int> pressures;
+        for (const FakeEvents::Sent& sent : mEvents.sent) {
+            if (sent.event.eventID == kQVSettingsEvent) {
+                tagQVTabletInfo record{};
+                std::memcpy(&record, sent.event.parameters.front().desc.bytes()->constData(),
+                    sizeof record);
+                pressures.push_back(record.Pen.PressureThreshold);
+            }
+        }
+        mEvents.sent.clear();
+        return pressures;
+    }
+
+    tagQVTabletInfo inFile()
+    {
+        const tagQVTabletInfo before = qvTabletInfo;
+        EXPECT_TRUE(QVConfigStore().loadRecord(mHome.configFile(7).toStdString()));
+        return std::exchange(qvTabletInfo, before);
+    }
+
+    QStringList names() { return mSwitch.names().value_or(QStringList()); }
+
+    static QString text(const platform::Result<>& result)
+    {
+        return result ? QString() : result.error().text;
+    }
+
+    TemporaryHome mHome;
+    FakeEvents mEvents;
+    FakeDisplays mDisplays{{{0, 0, 100, 100}, {100, 0, 200, 100}}};
+    QVConfigStore mStore;
+    QVProfileSwitch mSwitch{mStore};
+};
+
+const QString kA = QStringLiteral("A");
+const QString kB = QStringLiteral("B");
+
+} // namespace
+
+TEST_F(Switch, putsAProfileIntoTheFileAndPushesItOnce)
+{
+    make(kA, 50);
+    ASSERT_TRUE(mSwitch.use(kA));
+    EXPECT_EQ(pushes(), std::vector<int>{50});
+    tagQVTabletInfo expected = sampleRecord();
+    expected.Pen.PressureThreshold = 50;
+    EXPECT_TRUE(sameBytes(inFile(), expected)) << "also the tablet's own entries";
+    EXPECT_EQ(*mSwitch.current(), kA);
+    EXPECT_EQ(QVProfileChoice::load(2).chosen, kA);
+    EXPECT_EQ(names(), QStringList{kA});
+}
+
+TEST_F(Switch, saysWhyItCannot)
+{
+    EXPECT_EQ(text(mSwitch.use(kA)), QString::fromUtf8("There is no profile “A”."));
+    make(kA, 50);
+    mEvents.answer(0);
+    EXPECT_EQ(text(mSwitch.use(kA)), QStringLiteral("no tablet is attached"));
+    mEvents.answer(7);
+    QFile::remove(mHome.configFile(7));
+    EXPECT_TRUE(text(mSwitch.use(kA)).startsWith(QStringLiteral("cannot read ")));
+    EXPECT_EQ(pushes(), std::vector<int>{});
+    EXPECT_FALSE(mSwitch.current());
+}
+
+TEST_F(Switch, keepsWhatNoProfileHas)
+{
+    make(kA, 50);
+    make(kB, 60);
+    ASSERT_TRUE(mSwitch.use(kA));
+    ASSERT_TRUE(mSwitch.use(kB));
+    ASSERT_TRUE(mSwitch.use(kA));
+    EXPECT_EQ(names(), (QStringList{kA, kB})) << "nothing was edited";
+    ASSERT_TRUE(mSwitch.set(QStringLiteral("Pen/PressureThreshold"), QStringLiteral("55")));
+    ASSERT_TRUE(mSwitch.use(kB));
+    const QString before = QStringLiteral("Before B");
+    EXPECT_EQ(names(), (QStringList{kA, kB, before}));
+    EXPECT_EQ(QVProfileFolder(2).load(before)->settings.Pen.PressureThreshold, 55);
+    ASSERT_TRUE(mSwitch.use(before));
+    EXPECT_EQ(inFile().Pen.PressureThreshold, 55);
+}
+
+TEST_F(Switch, keepsANameWithinItsLimit)
+{
+    QString name;
+    for (int i = 0; i < 32; ++i) {
+        name += QString::fromUtf8("🖊x");
+    }
+    make(name, 50);
+    make(kA, 60);
+    ASSERT_TRUE(mSwitch.use(kA));
+    ASSERT_TRUE(mSwitch.set(QStringLiteral("Pen/PressureThreshold"), QStringLiteral("55")));
+    ASSERT_TRUE(mSwitch.use(name));
+    const QStringList all = names();
+    const auto before = std::ranges::find_if(
+        all, [](const QString& one) { return one.startsWith(QStringLiteral("Before ")); });
+    ASSERT_NE(before, all.end());
+    EXPECT_EQ(before->toUcs4().size(), 64);
+}
+
+TEST_F(Switch, goesRoundWithNext)
+{
+    EXPECT_EQ(mSwitch.useNext().error().text, QStringLiteral("There are no profiles."));
+    make(kB, 60);
+    make(kA, 50);
+    EXPECT_EQ(*mSwitch.useNext(), kA);
+    EXPECT_EQ(*mSwitch.useNext(), kB);
+    EXPECT_EQ(*mSwitch.useNext(), kA);
+    EXPECT_EQ(pushes(), (std::vector<int>{50, 60, 50}));
+}
+
+TEST_F(Switch, followsTheApplicationInFront)
+{
+    make(kA, 50, {QStringLiteral("org.example.Paint")});
+    make(kB, 60, {QStringLiteral("cad"), QStringLiteral("org.example.paint")});
+    const QStringList paint{QStringLiteral("org.example.PAINT")};
+    const QStringList cad{QStringLiteral("x"), QStringLiteral("CAD")};
+    const QStringList other{QStringLiteral("browser")};
+
+    ASSERT_TRUE(mSwitch.useFor(other));
+    EXPECT_EQ(pushes(), std::vector<int>{}) << "there is nothing to go back to";
+    ASSERT_TRUE(mSwitch.useFor(paint));
+    EXPECT_EQ(*mSwitch.current(), kA);
+    ASSERT_TRUE(mSwitch.useFor(paint));
+    EXPECT_EQ(pushes(), std::vector<int>{50}) << "one push for each change";
+    ASSERT_TRUE(mSwitch.useFor(cad));
+    EXPECT_EQ(*mSwitch.current(), kB);
+    ASSERT_TRUE(mSwitch.useFor(other));
+    EXPECT_EQ(*mSwitch.current(), QStringLiteral("Default"));
+    EXPECT_EQ(pushes(), (std::vector<int>{60, 12})) << "the settings that were there at first";
+
+    ASSERT_TRUE(mSwitch.use(kB));
+    ASSERT_TRUE(mSwitch.useFor(paint));
+    ASSERT_TRUE(mSwitch.useFor(other));
+    EXPECT_EQ(*mSwitch.current(), kB) << "the user's own choice";
+    EXPECT_EQ(names(), (QStringList{kA, kB, QStringLiteral("Default")}));
+}
+
+TEST_F(Switch, changesOneEntryOfTheFile)
+{
+    ASSERT_TRUE(mSwitch.set(QStringLiteral("Key/Key3/Valid"), QStringLiteral("6")));
+    tagQVTabletInfo expected = sampleRecord();
+    expected.Key.SubKey[3].Valid = 6;
+    EXPECT_TRUE(sameBytes(inFile(), expected));
+    EXPECT_EQ(pushes().size(), 1U);
+    EXPECT_EQ(text(mSwitch.set(QStringLiteral("Key/Key3"), QStringLiteral("6"))),
+        QStringLiteral("there is no entry Key/Key3"));
+    EXPECT_EQ(text(mSwitch.set(QStringLiteral("Tablet/KeyNum"), QStringLiteral("6"))),
+        QStringLiteral("Tablet/KeyNum describes the tablet and cannot be set"));
+    EXPECT_EQ(text(mSwitch.set(QStringLiteral("Pen/Speed"), QStringLiteral("x"))),
+        QStringLiteral("'x' is not a number"));
+    EXPECT_TRUE(pushes().empty());
+}
+
+TEST_F(Switch, changesAllEntriesOrNone)
+{
+    const QString pressure = QStringLiteral("Pen/PressureThreshold");
+    EXPECT_FALSE(mSwitch.edit({{pressure, QStringLiteral("5")}, {kA, QStringLiteral("5")}}));
+    EXPECT_EQ(qvTabletInfo.Pen.PressureThreshold, 12);
+    EXPECT_TRUE(pushes().empty());
+    ASSERT_TRUE(mSwitch.edit(
+        {{pressure, QStringLiteral("5")}, {QStringLiteral("Pen/Speed"), QStringLiteral("6")}}));
+    EXPECT_EQ(qvTabletInfo.Pen.PressureThreshold, 5);
+    EXPECT_EQ(qvTabletInfo.Pen.Speed, 6);
+    EXPECT_EQ(pushes(), std::vector<int>{5});
+    EXPECT_TRUE(sameBytes(inFile(), sampleRecord())) << "it is not saved";
+}
+
+TEST_F(Switch, mapsTheChosenDisplayAsItIsNow)
+{
+    tagQVTabletInfo record = sampleRecord();
+    record.Monitor.num = 2;
+    ASSERT_TRUE(QVProfileFolder(2).save(QVProfileOf(record, kA)));
+    ASSERT_TRUE(mSwitch.use(kA));
+    EXPECT_EQ(qvTabletInfo.Monitor.XOrg, 100);
+    EXPECT_EQ(qvTabletInfo.Monitor.Width, 200);
+    ASSERT_TRUE(mSwitch.set(QStringLiteral("Monitor/num"), QStringLiteral("0")));
+    EXPECT_EQ(qvTabletInfo.Monitor.Width, 300);
+    ASSERT_TRUE(mSwitch.set(QStringLiteral("Monitor/num"), QStringLiteral("3")));
+    EXPECT_EQ(qvTabletInfo.Monitor.num, 3);
+}
+
+TEST_F(Switch, savesTheSettingsWithTheApplicationsOfTheProfile)
+{
+    make(kA, 50, {QStringLiteral("paint")});
+    ASSERT_TRUE(mSwitch.save(kA));
+    EXPECT_EQ(QVProfileFolder(2).load(kA)->settings.Pen.PressureThreshold, 12);
+    EXPECT_EQ(QVProfileFolder(2).load(kA)->applications, QStringList{QStringLiteral("paint")});
+    EXPECT_EQ(*mSwitch.current(), kA);
+    ASSERT_TRUE(mSwitch.rename(kA, kB));
+    EXPECT_EQ(*mSwitch.current(), kB);
+    EXPECT_EQ(QVProfileChoice::load(2).chosen, kB);
+    EXPECT_FALSE(mSwitch.save(QString()));
+}
