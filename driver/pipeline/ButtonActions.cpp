@@ -81,6 +81,16 @@ void ButtonActions::release(std::size_t slot, Commands& commands)
     }
 }
 
+void ButtonActions::endLostPause(const TabletSettings& settings, Commands& commands)
+{
+    if (mIsPaused
+        && std::ranges::find(settings.buttons, kQVPauseTablet, &ButtonAssignment::action)
+            == settings.buttons.end()) {
+        mIsPaused = false;
+        commands.add(Command::Kind::Pause, 0);
+    }
+}
+
 void ButtonActions::releaseAll(Commands& commands)
 {
     for (std::size_t slot = 0; slot < kQVSlotCount; ++slot) {

@@ -20,6 +20,9 @@ public:
     /** A button is down or up now; does nothing if it already was. */
     void set(std::size_t slot, bool isDown, const TabletSettings& settings, Commands& commands);
 
+    /** Ends a pause that no button could end any longer, since the settings have changed. */
+    void endLostPause(const TabletSettings& settings, Commands& commands);
+
     /** Releases everything. */
     void releaseAll(Commands& commands);
 

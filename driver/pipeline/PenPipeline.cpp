@@ -70,6 +70,7 @@ PenPipeline::PenPipeline(const PenAxes& tablet, const PenAxes& virtualPen)
 PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSettings& settings,
     ButtonActions& buttons, Commands& commands)
 {
+    buttons.endLostPause(settings, commands);
     const bool isNear = frame.tool != PenTool::None;
     const auto setButton = [&](std::size_t slot, PenButton bit) {
         // While the pen is ignored, a button of it can still end that.

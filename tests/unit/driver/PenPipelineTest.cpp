@@ -300,6 +300,37 @@ TEST_F(PenPipelineTest, aButtonIsReleasedWhenThePenLeaves)
     EXPECT_EQ(commands.all()[0], (Command{Command::Kind::KeyUp, KEY_A}));
 }
 
+TEST_F(PenPipelineTest, whatAButtonHoldsIsReleasedAfterTheSettingChanged)
+{
+    assign(kQVLowerPenSlot, kQVKeyCombination);
+    settings.buttons[kQVLowerPenSlot].keyCodes[0] = KEY_A;
+    settings.buttons[kQVLowerPenSlot].keyCount = 1;
+    assign(kQVUpperPenSlot, kQVMouseButton, kQVLeftButton);
+    EXPECT_TRUE(next(holding(kPenLower | kPenUpper)).pen.isTouching);
+    assign(kQVLowerPenSlot, kQVNoAction);
+    assign(kQVUpperPenSlot, kQVMouseButton, kQVBackButton);
+    EXPECT_TRUE(next(holding(kPenLower | kPenUpper)).pen.isTouching);
+    const PenFrame released = next(holding(0)).pen;
+    EXPECT_FALSE(released.isTouching);
+    EXPECT_EQ(released.buttons, 0);
+    ASSERT_EQ(commands.all().size(), 1U);
+    EXPECT_EQ(commands.all()[0], (Command{Command::Kind::KeyUp, KEY_A}));
+}
+
+TEST_F(PenPipelineTest, aPauseEndsWhereNoButtonCouldEndItAnyLonger)
+{
+    assign(kQVLowerPenSlot, kQVPauseTablet);
+    next(holding(kPenLower));
+    next(holding(0));
+    assign(kQVLowerPenSlot, kQVNoAction);
+    assign(3, kQVPauseTablet);
+    EXPECT_EQ(next(at(1, 1)).pen.tool, PenTool::None);
+    assign(3, kQVNoAction);
+    EXPECT_EQ(next(at(1, 1)).pen.tool, PenTool::Tip);
+    ASSERT_EQ(commands.all().size(), 1U);
+    EXPECT_EQ(commands.all()[0], (Command{Command::Kind::Pause, 0}));
+}
+
 TEST_F(PenPipelineTest, finePositioningMovesAQuarterFromWhereItBegan)
 {
     assign(kQVLowerPenSlot, kQVFinePositioning);
