@@ -4,6 +4,7 @@
 
 #include "Accessible.h"
 #include "PaneEdits.h"
+#include "ProfileBar.h"
 #include "SelfCheckDialog.h"
 
 #include <QApplication>
@@ -25,6 +26,9 @@ PaneShell::PaneShell(std::unique_ptr<Pane> pane, Host host, QWidget* parent)
 {
     QWidget* contents = mPane->loadMainView();
     setWindowTitle(contents->windowTitle());
+    // Before the pane is put in, since Tab goes in this order, but with the pane's translations.
+    // NOLINTNEXTLINE(*-prefer-member-initializer)
+    mProfiles = new ProfileBar(*mPane, this);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
@@ -36,6 +40,7 @@ PaneShell::PaneShell(std::unique_ptr<Pane> pane, Host host, QWidget* parent)
         scroll->setWidget(contents);
         contents = scroll;
     }
+    layout->addWidget(mProfiles);
     layout->addWidget(contents, 1);
     layout->addWidget(mBottom);
     auto* const bottom = new QHBoxLayout(mBottom);
@@ -54,6 +59,7 @@ PaneShell::PaneShell(std::unique_ptr<Pane> pane, Host host, QWidget* parent)
 
 PaneShell::~PaneShell()
 {
+    mProfiles->leavePane();
     mPane->setNewsHandler(nullptr);
     mPane->setChangeHandler(nullptr);
 }
@@ -143,6 +149,11 @@ QWidget& PaneShell::view() const
     return *mPane->mainView();
 }
 
+int PaneShell::topHeight() const
+{
+    return mPane->profiles() == nullptr ? 0 : mProfiles->sizeHint().height();
+}
+
 int PaneShell::bottomHeight() const
 {
     return mBottom->sizeHint().height();
@@ -157,6 +168,7 @@ void PaneShell::willSelect()
     mPane->willSelect();
     mEdits->begin();
     mMonitor.show(*mPane, mNotLoaded.isEmpty());
+    mProfiles->showDevice();
     if (mSave != nullptr) {
         mSave->setVisible(mPane->hasDevice());
         mCancel->setVisible(mPane->hasDevice());
@@ -350,6 +362,18 @@ void PaneShell::handleNews(Pane::News news, const QString& text)
         mMonitor.choose(*mPane);
         break;
     case Pane::News::DisplaysChanged:
+        break;
+    case Pane::News::SettingsReplaced:
+        if (!mIsSelected) {
+            return;
+        }
+        // The file has been saved and loaded.
+        mNotSaved.clear();
+        mNotKept.clear();
+        mNotLoaded.clear();
+        mEdits->begin();
+        mMonitor.note(*mPane); // the profile may be for another display
+        mMonitor.show(*mPane);
         break;
     }
     showNotice();

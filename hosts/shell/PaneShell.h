@@ -13,6 +13,7 @@
 #include <memory>
 
 class PaneEdits;
+class ProfileBar;
 class QPushButton;
 
 namespace platform {
@@ -20,8 +21,8 @@ class NoticeLabel;
 }
 
 /**
- * What every host puts around the pane: a line that reports a problem, with a button that fixes it,
- * and, in our own window, scroll bars and the buttons Save and Cancel.
+ * What every host puts around the pane: a row with its profiles, a line that reports a problem,
+ * with a button that fixes it, and, in our own window, scroll bars and the buttons Save and Cancel.
  *
  * The pane itself reports no failures and retries nothing. The shell listens to its news, and
  * leaves and reshows the pane when the driver has another tablet, or when the user goes back to the
@@ -53,6 +54,8 @@ public:
     /** The pane's main view. */
     QWidget& view() const;
 
+    /** The height of the row above the pane, in pixels; 0 if the pane has no profiles. */
+    int topHeight() const;
     /** The height of the line and the buttons below the pane, in pixels. */
     int bottomHeight() const;
 
@@ -128,6 +131,7 @@ private:
     bool mIsUnsure = false; ///< a new driver did not say which tablet it has
     MonitorMemory mMonitor; ///< the one that was chosen for the tablet
 
+    ProfileBar* mProfiles = nullptr; ///< above the pane
     QWidget* mBottom = nullptr; ///< the line and the buttons
     platform::NoticeLabel* mNoticeLabel = nullptr; ///< null until the first notice
     QPushButton* mRetry = nullptr;

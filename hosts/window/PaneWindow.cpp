@@ -28,7 +28,7 @@ QSize PaneWindow::naturalSize() const
 {
     const QWidget& view = mShell->view();
     const QSize contents = view.size().expandedTo(view.sizeHint());
-    return {contents.width(), contents.height() + mShell->bottomHeight()};
+    return {contents.width(), mShell->topHeight() + contents.height() + mShell->bottomHeight()};
 }
 
 QSize PaneWindow::roomOnScreen() const
@@ -85,8 +85,8 @@ QStringList PaneWindow::render(const QString& folder)
     const auto save = [&](const QString& name) {
         const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
         // Unlike a screen, a picture has room for everything.
-        resize(naturalSize().expandedTo(
-            mShell->view().minimumSizeHint() + QSize(0, mShell->bottomHeight())));
+        resize(naturalSize().expandedTo(mShell->view().minimumSizeHint()
+            + QSize(0, mShell->topHeight() + mShell->bottomHeight())));
         // A hidden window is laid out only for its picture. Each round of posted events removes one
         // scroll bar that is not needed.
         for (int bar = 0; bar < 2; ++bar) {

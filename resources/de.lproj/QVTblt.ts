@@ -2,6 +2,266 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="de" sourcelanguage="en">
 <context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>Linke Maustaste</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>Rechte Maustaste</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>Mittlere Maustaste</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <extracomment>The mouse button that goes back, as in a browser.</extracomment>
+        <translation>Maustaste „Zurück“</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <extracomment>Action of a tablet key: it does nothing.</extracomment>
+        <translation>Keine Aktion</translation>
+    </message>
+    <message>
+        <source>Open an application (unknown path)</source>
+        <extracomment>Action of a tablet key.</extracomment>
+        <translation>Eine Anwendung öffnen (Pfad unbekannt)</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <extracomment>Action of a tablet key; %1 is the path of an application.</extracomment>
+        <translation>%1 öffnen</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <extracomment>Action of a tablet key: a key combination without keys.</extracomment>
+        <translation>Keine Tasten drücken</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
+        <translation>%1 drücken</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
+        <translation>Zum nächsten Bildschirm</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <extracomment>Action of a tablet key: slows the pointer down while the key is held.</extracomment>
+        <translation>Feinführung (halten)</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
+        <translation>Tablett anhalten</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <extracomment>Action of a scroll strip.</extracomment>
+        <translation>Keine Aktion: Der Streifen ist aus</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <extracomment>Action of a scroll strip; %1 is 1 to 10.</extracomment>
+        <translation>Mit Tempo %1 rollen</translation>
+    </message>
+</context>
+<context>
+    <name>ApplicationsDialog</name>
+    <message>
+        <source>Applications of the Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Anwendungen des Profils</translation>
+    </message>
+    <message>
+        <source>With “Follow Applications”, the profile “%1” is used while one of these applications is in front:</source>
+        <extracomment>%1 is the name of a profile; the quotation marks are those of the menu item.</extracomment>
+        <translation>Mit „Anwendungen folgen“ wird das Profil „%1“ verwendet, solange eine dieser Anwendungen vorn ist:</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>Anwendungen</translation>
+    </message>
+    <message>
+        <source>A&amp;dd…</source>
+        <extracomment>Button: chooses another application for the list.</extracomment>
+        <translation>&amp;Hinzufügen …</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <extracomment>Button: takes the selected application out of the list.</extracomment>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <extracomment>Button: takes the list of applications.</extracomment>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>EntryName</name>
+    <message>
+        <source>upper pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>obere Stifttaste</translation>
+    </message>
+    <message>
+        <source>lower pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>untere Stifttaste</translation>
+    </message>
+    <message>
+        <source>key %1</source>
+        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
+        <translation>Taste %1</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>left scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>linker Rollstreifen</translation>
+    </message>
+    <message>
+        <source>right scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>rechter Rollstreifen</translation>
+    </message>
+    <message>
+        <source>scroll speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>Rolltempo</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
+        <translation>Bildschirm</translation>
+    </message>
+    <message>
+        <source>report speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>Meldegeschwindigkeit</translation>
+    </message>
+    <message>
+        <source>orientation</source>
+        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>area of the tablet</source>
+        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
+        <translation>Fläche des Tabletts</translation>
+    </message>
+</context>
+<context>
+    <name>FollowService</name>
+    <message>
+        <source>Your session has no bus that answers.</source>
+        <translation>Ihre Sitzung hat keinen Bus, der antwortet.</translation>
+    </message>
+    <message>
+        <source>Your session has no systemd user manager, which would start the service.</source>
+        <translation>Ihre Sitzung hat keine systemd-Benutzerverwaltung, die den Dienst starten würde.</translation>
+    </message>
+    <message>
+        <source>The service %1 is not installed.</source>
+        <extracomment>%1 is the name of a service of systemd.</extracomment>
+        <translation>Der Dienst %1 ist nicht installiert.</translation>
+    </message>
+    <message>
+        <source>The service %1 cannot be turned on: it is %2.</source>
+        <extracomment>%1 is the name of a service of systemd, %2 one of systemd&apos;s words, such as &quot;masked&quot;.</extracomment>
+        <translation>Der Dienst %1 lässt sich nicht einschalten: Er ist %2.</translation>
+    </message>
+    <message>
+        <source>“Follow Applications” was not changed: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
+        <translation>„Anwendungen folgen“ wurde nicht geändert: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Import Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Profil importieren</translation>
+    </message>
+    <message>
+        <source>What is in the profile</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>Was im Profil steht</translation>
+    </message>
+    <message>
+        <source>It sets everything as it is now.</source>
+        <translation>Es stellt alles so ein, wie es jetzt ist.</translation>
+    </message>
+    <message>
+        <source>It changes:</source>
+        <translation>Es ändert:</translation>
+    </message>
+    <message>
+        <source>It leaves out, since it does not fit your tablet:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>Es lässt weg, weil es nicht zu Ihrem Tablett passt:</translation>
+    </message>
+    <message>
+        <source>It is for these applications:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>Es ist für diese Anwendungen:</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <extracomment>Button: keeps what is in the file as a profile.</extracomment>
+        <translation>&amp;Importieren</translation>
+    </message>
+    <message>
+        <source>The profile will be in the list as “%1”. It is not used yet.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>Das Profil steht dann als „%1“ in der Liste. Verwendet wird es noch nicht.</translation>
+    </message>
+    <message>
+        <source>Some of its buttons would start an application. Allow only what you know and trust; the others do nothing.</source>
+        <translation>Einige seiner Tasten würden eine Anwendung starten. Erlauben Sie nur, was Sie kennen und wem Sie vertrauen; die anderen tun nichts.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Let this button start it</source>
+        <extracomment>Check box: a button of the tablet may start the application whose path is above.</extracomment>
+        <translation>Diese Taste darf sie starten</translation>
+    </message>
+    <message>
+        <source>%1: let this button start %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1: Diese Taste darf %2 starten</translation>
+    </message>
+</context>
+<context>
     <name>OpenPanel</name>
     <message>
         <source>Applications</source>
@@ -125,6 +385,170 @@
         <source>Choose Displa&amp;y %1</source>
         <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
         <translation>Bildschirm %1 &amp;wählen</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileBar</name>
+    <message>
+        <source>None</source>
+        <extracomment>Item of the list of profiles, while the settings are those of none.</extracomment>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <extracomment>Label of the list of profiles; a profile is a set of all settings of the tablet.</extracomment>
+        <translation>Pro&amp;fil:</translation>
+    </message>
+    <message>
+        <source>Each profile has all settings of the tablet for one kind of work.</source>
+        <extracomment>Describes the list of profiles.</extracomment>
+        <translation>Jedes Profil enthält alle Einstellungen des Tabletts für eine Art von Arbeit.</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <extracomment>Button: saves the current settings as a profile, and asks for its name.</extracomment>
+        <translation>Spei&amp;chern unter …</translation>
+    </message>
+    <message>
+        <source>Save the current settings as a profile</source>
+        <translation>Die jetzigen Einstellungen als Profil speichern</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <extracomment>Button beside the list of profiles: opens a menu with what else can be done with them.</extracomment>
+        <translation>Mehr</translation>
+    </message>
+    <message>
+        <source>Manage the profiles</source>
+        <translation>Die Profile verwalten</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <extracomment>Menu item: gives the current profile another name.</extracomment>
+        <translation>&amp;Umbenennen …</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate…</source>
+        <extracomment>Menu item: makes a copy of the current profile.</extracomment>
+        <translation>&amp;Duplizieren …</translation>
+    </message>
+    <message>
+        <source>D&amp;elete…</source>
+        <extracomment>Menu item: deletes the current profile.</extracomment>
+        <translation>&amp;Löschen …</translation>
+    </message>
+    <message>
+        <source>&amp;Applications…</source>
+        <extracomment>Menu item: which applications the current profile is for.</extracomment>
+        <translation>&amp;Anwendungen …</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <extracomment>Menu item: takes a profile from a file.</extracomment>
+        <translation>&amp;Importieren …</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <extracomment>Menu item: writes the current profile into a file.</extracomment>
+        <translation>&amp;Exportieren …</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications</source>
+        <extracomment>Menu item with a check mark: profiles change with the application in front.</extracomment>
+        <translation>Anwendungen &amp;folgen</translation>
+    </message>
+    <message>
+        <source>Use a profile while one of its applications is in front</source>
+        <extracomment>Describes the menu item &quot;Follow Applications&quot;.</extracomment>
+        <translation>Ein Profil verwenden, solange eine seiner Anwendungen vorn ist</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Profil speichern</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <extracomment>Button: saves the settings under the name.</extracomment>
+        <translation>&amp;Speichern</translation>
+    </message>
+    <message>
+        <source>There is a profile “%1” already. Replace it with the current settings?</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>Es gibt schon ein Profil „%1“. Soll es durch die jetzigen Einstellungen ersetzt werden?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <extracomment>Button: a profile that is there is replaced.</extracomment>
+        <translation>&amp;Ersetzen</translation>
+    </message>
+    <message>
+        <source>Rename Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Profil umbenennen</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <extracomment>Button: gives the profile the name.</extracomment>
+        <translation>&amp;Umbenennen</translation>
+    </message>
+    <message>
+        <source>Duplicate Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Profil duplizieren</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <extracomment>Button: makes a copy of the profile with the name.</extracomment>
+        <translation>&amp;Duplizieren</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”? The tablet keeps its settings.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>Soll das Profil „%1“ gelöscht werden? Das Tablett behält seine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <extracomment>Button: deletes a profile.</extracomment>
+        <translation>&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>Choose a Profile to Import</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Profil zum Importieren auswählen</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>Export Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Profil exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button of a question: does nothing.</extracomment>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <extracomment>Label of the field for a profile&apos;s name.</extracomment>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>&amp;Abbrechen</translation>
     </message>
 </context>
 <context>
@@ -332,6 +756,17 @@
     </message>
 </context>
 <context>
+    <name>QVPaneProfiles</name>
+    <message>
+        <source>No tablet is attached.</source>
+        <translation>Es ist kein Tablett angeschlossen.</translation>
+    </message>
+    <message>
+        <source>The tablet is being calibrated. Finish that first.</source>
+        <translation>Das Tablett wird gerade kalibriert. Schließen Sie das zuerst ab.</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -450,6 +885,66 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>Schwelle %1 von 200. Programme erhalten bei einem Viertel des vollen Drucks %2 % davon, bei der Hälfte %3 % und bei drei Vierteln %4 %.</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfile</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Ein Profil braucht einen Namen.</translation>
+    </message>
+    <message>
+        <source>The name is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>Der Name ist länger als %1 Zeichen.</translation>
+    </message>
+    <message>
+        <source>The name contains characters that cannot be shown.</source>
+        <translation>Der Name enthält Zeichen, die nicht angezeigt werden können.</translation>
+    </message>
+    <message>
+        <source>It is not a profile.</source>
+        <translation>Das ist kein Profil.</translation>
+    </message>
+    <message>
+        <source>It is a profile of another version.</source>
+        <translation>Das ist ein Profil einer anderen Version.</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileFolder</name>
+    <message>
+        <source>There is no profile “%1”.</source>
+        <translation>Es gibt kein Profil „%1“.</translation>
+    </message>
+    <message>
+        <source>There is already a profile “%1”.</source>
+        <translation>Es gibt schon ein Profil „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileImport</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>What an imported profile sets: %1 is a button, such as &quot;key 3&quot;, %2 its action.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileSwitch</name>
+    <message>
+        <source>Before %1</source>
+        <extracomment>The name of a profile with what was set before the profile %1 was used.</extracomment>
+        <translation>Vor %1</translation>
+    </message>
+    <message>
+        <source>There are no profiles.</source>
+        <translation>Es gibt keine Profile.</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <extracomment>The name of a profile with the settings of a user who had no profiles for them.</extracomment>
+        <translation>Standard</translation>
     </message>
 </context>
 <context>
@@ -692,7 +1187,7 @@
         <translation>Bildet das ganze Tablett auf den gewählten Teil der Arbeitsfläche ab.</translation>
     </message>
     <message>
-        <source>Keep &amp;proportions</source>
+        <source>Keep propor&amp;tions</source>
         <extracomment>Button: the tablet gets the proportions of the display, so that circles stay round</extracomment>
         <translation>&amp;Proportionen wahren</translation>
     </message>
@@ -767,7 +1262,7 @@
     </message>
     <message>
         <source>&amp;Opacity follows pressure</source>
-        <translation>Deckkra&amp;ft folgt dem Druck</translation>
+        <translation>&amp;Deckkraft folgt dem Druck</translation>
     </message>
     <message>
         <source>Clea&amp;r</source>
@@ -820,61 +1315,6 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>upper pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>obere Stifttaste</translation>
-    </message>
-    <message>
-        <source>lower pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>untere Stifttaste</translation>
-    </message>
-    <message>
-        <source>key %1</source>
-        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
-        <translation>Taste %1</translation>
-    </message>
-    <message>
-        <source>pressure</source>
-        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
-        <translation>Druck</translation>
-    </message>
-    <message>
-        <source>left scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>linker Rollstreifen</translation>
-    </message>
-    <message>
-        <source>right scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>rechter Rollstreifen</translation>
-    </message>
-    <message>
-        <source>scroll speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>Rolltempo</translation>
-    </message>
-    <message>
-        <source>display</source>
-        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
-        <translation>Bildschirm</translation>
-    </message>
-    <message>
-        <source>report speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>Meldegeschwindigkeit</translation>
-    </message>
-    <message>
-        <source>orientation</source>
-        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
-        <translation>Ausrichtung</translation>
-    </message>
-    <message>
-        <source>area of the tablet</source>
-        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
-        <translation>Fläche des Tabletts</translation>
-    </message>
-    <message>
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>mehrere Einstellungen</translation>
@@ -887,46 +1327,6 @@
     <message>
         <source>Press once lightly and once hard to find the curve that fits.</source>
         <translation>Einmal leicht und einmal fest drücken, um die passende Kurve zu finden.</translation>
-    </message>
-</context>
-<context>
-    <name>platform::ApplicationChooser</name>
-    <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>Anwendung auswählen</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
-        <translation>Suchen</translation>
-    </message>
-    <message>
-        <source>Search for an application</source>
-        <translation>Nach einer Anwendung suchen</translation>
-    </message>
-    <message>
-        <source>Applications</source>
-        <translation>Anwendungen</translation>
-    </message>
-    <message>
-        <source>No application matches the search.</source>
-        <translation>Keine Anwendung passt zur Suche.</translation>
-    </message>
-    <message>
-        <source>&amp;Other File…</source>
-        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
-        <translation>Andere &amp;Datei …</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
-        <translation>&amp;Abbrechen</translation>
-    </message>
-    <message>
-        <source>C&amp;hoose</source>
-        <extracomment>Button: takes the selected application.</extracomment>
-        <translation>Aus&amp;wählen</translation>
     </message>
 </context>
 <context>
@@ -1218,6 +1618,46 @@
         <source>%1: %2</source>
         <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Anwendung auswählen</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>Nach einer Anwendung suchen</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Anwendungen</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>Keine Anwendung passt zur Suche.</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>Andere &amp;Datei …</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>Aus&amp;wählen</translation>
     </message>
 </context>
 </TS>

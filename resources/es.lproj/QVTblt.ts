@@ -2,6 +2,266 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es" sourcelanguage="en">
 <context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>Botón izquierdo del ratón</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>Botón derecho del ratón</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>Botón central del ratón</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <extracomment>The mouse button that goes back, as in a browser.</extracomment>
+        <translation>Botón Atrás del ratón</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <extracomment>Action of a tablet key: it does nothing.</extracomment>
+        <translation>Ninguna acción</translation>
+    </message>
+    <message>
+        <source>Open an application (unknown path)</source>
+        <extracomment>Action of a tablet key.</extracomment>
+        <translation>Abrir una aplicación (ruta desconocida)</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <extracomment>Action of a tablet key; %1 is the path of an application.</extracomment>
+        <translation>Abrir %1</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <extracomment>Action of a tablet key: a key combination without keys.</extracomment>
+        <translation>No pulsar ninguna tecla</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
+        <translation>Pulsar %1</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
+        <translation>Ir a la pantalla siguiente</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <extracomment>Action of a tablet key: slows the pointer down while the key is held.</extracomment>
+        <translation>Precisión (mantener)</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
+        <translation>Pausar la tableta</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <extracomment>Action of a scroll strip.</extracomment>
+        <translation>Ninguna acción: la banda está desactivada</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <extracomment>Action of a scroll strip; %1 is 1 to 10.</extracomment>
+        <translation>Desplazar a velocidad %1</translation>
+    </message>
+</context>
+<context>
+    <name>ApplicationsDialog</name>
+    <message>
+        <source>Applications of the Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Aplicaciones del perfil</translation>
+    </message>
+    <message>
+        <source>With “Follow Applications”, the profile “%1” is used while one of these applications is in front:</source>
+        <extracomment>%1 is the name of a profile; the quotation marks are those of the menu item.</extracomment>
+        <translation>Con «Seguir a las aplicaciones», el perfil «%1» se usa mientras una de estas aplicaciones está en primer plano:</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>Aplicaciones</translation>
+    </message>
+    <message>
+        <source>A&amp;dd…</source>
+        <extracomment>Button: chooses another application for the list.</extracomment>
+        <translation>Aña&amp;dir…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <extracomment>Button: takes the selected application out of the list.</extracomment>
+        <translation>&amp;Quitar</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <extracomment>Button: takes the list of applications.</extracomment>
+        <translation>&amp;Aceptar</translation>
+    </message>
+</context>
+<context>
+    <name>EntryName</name>
+    <message>
+        <source>upper pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>botón superior del lápiz</translation>
+    </message>
+    <message>
+        <source>lower pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>botón inferior del lápiz</translation>
+    </message>
+    <message>
+        <source>key %1</source>
+        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
+        <translation>tecla %1</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
+        <translation>presión</translation>
+    </message>
+    <message>
+        <source>left scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>banda táctil izquierda</translation>
+    </message>
+    <message>
+        <source>right scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>banda táctil derecha</translation>
+    </message>
+    <message>
+        <source>scroll speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>velocidad de desplazamiento</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
+        <translation>pantalla</translation>
+    </message>
+    <message>
+        <source>report speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>velocidad de envío</translation>
+    </message>
+    <message>
+        <source>orientation</source>
+        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
+        <translation>orientación</translation>
+    </message>
+    <message>
+        <source>area of the tablet</source>
+        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
+        <translation>área de la tableta</translation>
+    </message>
+</context>
+<context>
+    <name>FollowService</name>
+    <message>
+        <source>Your session has no bus that answers.</source>
+        <translation>Su sesión no tiene ningún bus que responda.</translation>
+    </message>
+    <message>
+        <source>Your session has no systemd user manager, which would start the service.</source>
+        <translation>Su sesión no tiene un gestor de usuario de systemd, que iniciaría el servicio.</translation>
+    </message>
+    <message>
+        <source>The service %1 is not installed.</source>
+        <extracomment>%1 is the name of a service of systemd.</extracomment>
+        <translation>El servicio %1 no está instalado.</translation>
+    </message>
+    <message>
+        <source>The service %1 cannot be turned on: it is %2.</source>
+        <extracomment>%1 is the name of a service of systemd, %2 one of systemd&apos;s words, such as &quot;masked&quot;.</extracomment>
+        <translation>No se puede activar el servicio %1: está %2.</translation>
+    </message>
+    <message>
+        <source>“Follow Applications” was not changed: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
+        <translation>«Seguir a las aplicaciones» no se ha cambiado: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Import Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Importar un perfil</translation>
+    </message>
+    <message>
+        <source>What is in the profile</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>Lo que contiene el perfil</translation>
+    </message>
+    <message>
+        <source>It sets everything as it is now.</source>
+        <translation>Lo deja todo como está ahora.</translation>
+    </message>
+    <message>
+        <source>It changes:</source>
+        <translation>Cambia:</translation>
+    </message>
+    <message>
+        <source>It leaves out, since it does not fit your tablet:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>Omite, porque no es para su tableta:</translation>
+    </message>
+    <message>
+        <source>It is for these applications:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>Es para estas aplicaciones:</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <extracomment>Button: keeps what is in the file as a profile.</extracomment>
+        <translation>&amp;Importar</translation>
+    </message>
+    <message>
+        <source>The profile will be in the list as “%1”. It is not used yet.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>El perfil estará en la lista como «%1». Aún no se usa.</translation>
+    </message>
+    <message>
+        <source>Some of its buttons would start an application. Allow only what you know and trust; the others do nothing.</source>
+        <translation>Algunos de sus botones iniciarían una aplicación. Permita solo lo que conozca y en lo que confíe; los demás no hacen nada.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Let this button start it</source>
+        <extracomment>Check box: a button of the tablet may start the application whose path is above.</extracomment>
+        <translation>Permitir que este botón la inicie</translation>
+    </message>
+    <message>
+        <source>%1: let this button start %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1: permitir que este botón inicie %2</translation>
+    </message>
+</context>
+<context>
     <name>OpenPanel</name>
     <message>
         <source>Applications</source>
@@ -125,6 +385,170 @@
         <source>Choose Displa&amp;y %1</source>
         <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
         <translation>&amp;Seleccionar la pantalla %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileBar</name>
+    <message>
+        <source>None</source>
+        <extracomment>Item of the list of profiles, while the settings are those of none.</extracomment>
+        <translation>Ninguno</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <extracomment>Label of the list of profiles; a profile is a set of all settings of the tablet.</extracomment>
+        <translation>Per&amp;fil:</translation>
+    </message>
+    <message>
+        <source>Each profile has all settings of the tablet for one kind of work.</source>
+        <extracomment>Describes the list of profiles.</extracomment>
+        <translation>Cada perfil tiene todos los ajustes de la tableta para un tipo de trabajo.</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <extracomment>Button: saves the current settings as a profile, and asks for its name.</extracomment>
+        <translation>Guardar co&amp;mo…</translation>
+    </message>
+    <message>
+        <source>Save the current settings as a profile</source>
+        <translation>Guardar los ajustes actuales como perfil</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <extracomment>Button beside the list of profiles: opens a menu with what else can be done with them.</extracomment>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Manage the profiles</source>
+        <translation>Gestionar los perfiles</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <extracomment>Menu item: gives the current profile another name.</extracomment>
+        <translation>Cambiar &amp;nombre…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate…</source>
+        <extracomment>Menu item: makes a copy of the current profile.</extracomment>
+        <translation>&amp;Duplicar…</translation>
+    </message>
+    <message>
+        <source>D&amp;elete…</source>
+        <extracomment>Menu item: deletes the current profile.</extracomment>
+        <translation>&amp;Eliminar…</translation>
+    </message>
+    <message>
+        <source>&amp;Applications…</source>
+        <extracomment>Menu item: which applications the current profile is for.</extracomment>
+        <translation>&amp;Aplicaciones…</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <extracomment>Menu item: takes a profile from a file.</extracomment>
+        <translation>&amp;Importar…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <extracomment>Menu item: writes the current profile into a file.</extracomment>
+        <translation>E&amp;xportar…</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications</source>
+        <extracomment>Menu item with a check mark: profiles change with the application in front.</extracomment>
+        <translation>&amp;Seguir a las aplicaciones</translation>
+    </message>
+    <message>
+        <source>Use a profile while one of its applications is in front</source>
+        <extracomment>Describes the menu item &quot;Follow Applications&quot;.</extracomment>
+        <translation>Usar un perfil mientras una de sus aplicaciones está en primer plano</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Guardar el perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <extracomment>Button: saves the settings under the name.</extracomment>
+        <translation>&amp;Guardar</translation>
+    </message>
+    <message>
+        <source>There is a profile “%1” already. Replace it with the current settings?</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>Ya hay un perfil «%1». ¿Sustituirlo por los ajustes actuales?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <extracomment>Button: a profile that is there is replaced.</extracomment>
+        <translation>&amp;Sustituir</translation>
+    </message>
+    <message>
+        <source>Rename Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Cambiar el nombre del perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <extracomment>Button: gives the profile the name.</extracomment>
+        <translation>C&amp;ambiar</translation>
+    </message>
+    <message>
+        <source>Duplicate Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Duplicar el perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <extracomment>Button: makes a copy of the profile with the name.</extracomment>
+        <translation>&amp;Duplicar</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”? The tablet keeps its settings.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>¿Eliminar el perfil «%1»? La tableta conserva sus ajustes.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <extracomment>Button: deletes a profile.</extracomment>
+        <translation>&amp;Eliminar</translation>
+    </message>
+    <message>
+        <source>Choose a Profile to Import</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Elegir un perfil para importar</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>Perfiles</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>Todos los archivos</translation>
+    </message>
+    <message>
+        <source>Export Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Exportar el perfil</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button of a question: does nothing.</extracomment>
+        <translation>&amp;Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <extracomment>Label of the field for a profile&apos;s name.</extracomment>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>&amp;Cancelar</translation>
     </message>
 </context>
 <context>
@@ -332,6 +756,17 @@
     </message>
 </context>
 <context>
+    <name>QVPaneProfiles</name>
+    <message>
+        <source>No tablet is attached.</source>
+        <translation>No hay ninguna tableta conectada.</translation>
+    </message>
+    <message>
+        <source>The tablet is being calibrated. Finish that first.</source>
+        <translation>La tableta se está calibrando. Termine primero la calibración.</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -450,6 +885,66 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>Umbral %1 de 200. Los programas reciben el %2&#xa0;% de la presión máxima a un cuarto de ella, el %3&#xa0;% a la mitad y el %4&#xa0;% a tres cuartos.</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfile</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Un perfil necesita un nombre.</translation>
+    </message>
+    <message>
+        <source>The name is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>El nombre tiene más de %1 caracteres.</translation>
+    </message>
+    <message>
+        <source>The name contains characters that cannot be shown.</source>
+        <translation>El nombre contiene caracteres que no se pueden mostrar.</translation>
+    </message>
+    <message>
+        <source>It is not a profile.</source>
+        <translation>No es un perfil.</translation>
+    </message>
+    <message>
+        <source>It is a profile of another version.</source>
+        <translation>Es un perfil de otra versión.</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileFolder</name>
+    <message>
+        <source>There is no profile “%1”.</source>
+        <translation>No hay ningún perfil «%1».</translation>
+    </message>
+    <message>
+        <source>There is already a profile “%1”.</source>
+        <translation>Ya hay un perfil «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileImport</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>What an imported profile sets: %1 is a button, such as &quot;key 3&quot;, %2 its action.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileSwitch</name>
+    <message>
+        <source>Before %1</source>
+        <extracomment>The name of a profile with what was set before the profile %1 was used.</extracomment>
+        <translation>Antes de %1</translation>
+    </message>
+    <message>
+        <source>There are no profiles.</source>
+        <translation>No hay perfiles.</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <extracomment>The name of a profile with the settings of a user who had no profiles for them.</extracomment>
+        <translation>Predeterminado</translation>
     </message>
 </context>
 <context>
@@ -747,9 +1242,9 @@
         <translation>Toda la tableta abarca la parte elegida del escritorio.</translation>
     </message>
     <message>
-        <source>Keep &amp;proportions</source>
+        <source>Keep propor&amp;tions</source>
         <extracomment>Button: the tablet gets the proportions of the display, so that circles stay round</extracomment>
-        <translation>&amp;Mantener las proporciones</translation>
+        <translation>Ma&amp;ntener las proporciones</translation>
     </message>
     <message>
         <source>Leaves a strip of the tablet unused, so that circles stay round.</source>
@@ -820,61 +1315,6 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>upper pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>botón superior del lápiz</translation>
-    </message>
-    <message>
-        <source>lower pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>botón inferior del lápiz</translation>
-    </message>
-    <message>
-        <source>key %1</source>
-        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
-        <translation>tecla %1</translation>
-    </message>
-    <message>
-        <source>pressure</source>
-        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
-        <translation>presión</translation>
-    </message>
-    <message>
-        <source>left scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>banda táctil izquierda</translation>
-    </message>
-    <message>
-        <source>right scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>banda táctil derecha</translation>
-    </message>
-    <message>
-        <source>scroll speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>velocidad de desplazamiento</translation>
-    </message>
-    <message>
-        <source>display</source>
-        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
-        <translation>pantalla</translation>
-    </message>
-    <message>
-        <source>report speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>velocidad de envío</translation>
-    </message>
-    <message>
-        <source>orientation</source>
-        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
-        <translation>orientación</translation>
-    </message>
-    <message>
-        <source>area of the tablet</source>
-        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
-        <translation>área de la tableta</translation>
-    </message>
-    <message>
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>varios ajustes</translation>
@@ -887,46 +1327,6 @@
     <message>
         <source>Press once lightly and once hard to find the curve that fits.</source>
         <translation>Presione una vez suavemente y otra con fuerza para encontrar la curva adecuada.</translation>
-    </message>
-</context>
-<context>
-    <name>platform::ApplicationChooser</name>
-    <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>Elegir una aplicación</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
-        <translation>Buscar</translation>
-    </message>
-    <message>
-        <source>Search for an application</source>
-        <translation>Buscar una aplicación</translation>
-    </message>
-    <message>
-        <source>Applications</source>
-        <translation>Aplicaciones</translation>
-    </message>
-    <message>
-        <source>No application matches the search.</source>
-        <translation>Ninguna aplicación coincide con la búsqueda.</translation>
-    </message>
-    <message>
-        <source>&amp;Other File…</source>
-        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
-        <translation>&amp;Otro archivo…</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
-        <translation>&amp;Cancelar</translation>
-    </message>
-    <message>
-        <source>C&amp;hoose</source>
-        <extracomment>Button: takes the selected application.</extracomment>
-        <translation>&amp;Elegir</translation>
     </message>
 </context>
 <context>
@@ -1218,6 +1618,46 @@
         <source>%1: %2</source>
         <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Elegir una aplicación</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>Buscar una aplicación</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Aplicaciones</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>Ninguna aplicación coincide con la búsqueda.</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>&amp;Otro archivo…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>&amp;Elegir</translation>
     </message>
 </context>
 </TS>

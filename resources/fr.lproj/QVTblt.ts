@@ -2,6 +2,266 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="fr" sourcelanguage="en">
 <context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>Souris&#xa0;: bouton gauche</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>Souris&#xa0;: bouton droit</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>Souris&#xa0;: bouton central</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <extracomment>The mouse button that goes back, as in a browser.</extracomment>
+        <translation>Souris&#xa0;: bouton Précédent</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <extracomment>Action of a tablet key: it does nothing.</extracomment>
+        <translation>Aucune action</translation>
+    </message>
+    <message>
+        <source>Open an application (unknown path)</source>
+        <extracomment>Action of a tablet key.</extracomment>
+        <translation>Ouvrir une application (chemin inconnu)</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <extracomment>Action of a tablet key; %1 is the path of an application.</extracomment>
+        <translation>Ouvrir %1</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <extracomment>Action of a tablet key: a key combination without keys.</extracomment>
+        <translation>N’appuyer sur aucune touche</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
+        <translation>Appuyer sur %1</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
+        <translation>Passer à l’écran suivant</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <extracomment>Action of a tablet key: slows the pointer down while the key is held.</extracomment>
+        <translation>Précision (maintenir)</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
+        <translation>Suspendre la tablette</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <extracomment>Action of a scroll strip.</extracomment>
+        <translation>Aucune action&#xa0;: la bande est désactivée</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <extracomment>Action of a scroll strip; %1 is 1 to 10.</extracomment>
+        <translation>Défiler à la vitesse %1</translation>
+    </message>
+</context>
+<context>
+    <name>ApplicationsDialog</name>
+    <message>
+        <source>Applications of the Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Applications du profil</translation>
+    </message>
+    <message>
+        <source>With “Follow Applications”, the profile “%1” is used while one of these applications is in front:</source>
+        <extracomment>%1 is the name of a profile; the quotation marks are those of the menu item.</extracomment>
+        <translation>Avec «&#xa0;Suivre les applications&#xa0;», le profil «&#xa0;%1&#xa0;» est utilisé tant qu’une de ces applications est au premier plan&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <source>A&amp;dd…</source>
+        <extracomment>Button: chooses another application for the list.</extracomment>
+        <translation>A&amp;jouter…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <extracomment>Button: takes the selected application out of the list.</extracomment>
+        <translation>&amp;Retirer</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <extracomment>Button: takes the list of applications.</extracomment>
+        <translation>&amp;OK</translation>
+    </message>
+</context>
+<context>
+    <name>EntryName</name>
+    <message>
+        <source>upper pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>bouton haut du stylet</translation>
+    </message>
+    <message>
+        <source>lower pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>bouton bas du stylet</translation>
+    </message>
+    <message>
+        <source>key %1</source>
+        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
+        <translation>touche %1</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
+        <translation>pression</translation>
+    </message>
+    <message>
+        <source>left scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>bande tactile gauche</translation>
+    </message>
+    <message>
+        <source>right scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>bande tactile droite</translation>
+    </message>
+    <message>
+        <source>scroll speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>vitesse de défilement</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
+        <translation>écran</translation>
+    </message>
+    <message>
+        <source>report speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>vitesse d’envoi</translation>
+    </message>
+    <message>
+        <source>orientation</source>
+        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
+        <translation>orientation</translation>
+    </message>
+    <message>
+        <source>area of the tablet</source>
+        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
+        <translation>zone de la tablette</translation>
+    </message>
+</context>
+<context>
+    <name>FollowService</name>
+    <message>
+        <source>Your session has no bus that answers.</source>
+        <translation>Votre session n’a pas de bus qui réponde.</translation>
+    </message>
+    <message>
+        <source>Your session has no systemd user manager, which would start the service.</source>
+        <translation>Votre session n’a pas de gestionnaire d’utilisateur systemd, qui lancerait le service.</translation>
+    </message>
+    <message>
+        <source>The service %1 is not installed.</source>
+        <extracomment>%1 is the name of a service of systemd.</extracomment>
+        <translation>Le service %1 n’est pas installé.</translation>
+    </message>
+    <message>
+        <source>The service %1 cannot be turned on: it is %2.</source>
+        <extracomment>%1 is the name of a service of systemd, %2 one of systemd&apos;s words, such as &quot;masked&quot;.</extracomment>
+        <translation>Le service %1 ne peut pas être activé&#xa0;: il est %2.</translation>
+    </message>
+    <message>
+        <source>“Follow Applications” was not changed: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
+        <translation>«&#xa0;Suivre les applications&#xa0;» n’a pas été modifié&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Import Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Importer un profil</translation>
+    </message>
+    <message>
+        <source>What is in the profile</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>Ce que contient le profil</translation>
+    </message>
+    <message>
+        <source>It sets everything as it is now.</source>
+        <translation>Il règle tout comme c’est maintenant.</translation>
+    </message>
+    <message>
+        <source>It changes:</source>
+        <translation>Il modifie&#xa0;:</translation>
+    </message>
+    <message>
+        <source>It leaves out, since it does not fit your tablet:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>Il laisse de côté, car cela ne convient pas à votre tablette&#xa0;:</translation>
+    </message>
+    <message>
+        <source>It is for these applications:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>Il est destiné à ces applications&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <extracomment>Button: keeps what is in the file as a profile.</extracomment>
+        <translation>&amp;Importer</translation>
+    </message>
+    <message>
+        <source>The profile will be in the list as “%1”. It is not used yet.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>Le profil sera dans la liste sous le nom «&#xa0;%1&#xa0;». Il n’est pas encore utilisé.</translation>
+    </message>
+    <message>
+        <source>Some of its buttons would start an application. Allow only what you know and trust; the others do nothing.</source>
+        <translation>Certains de ses boutons lanceraient une application. N’autorisez que ce que vous connaissez et à quoi vous faites confiance&#xa0;; les autres ne font rien.</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Let this button start it</source>
+        <extracomment>Check box: a button of the tablet may start the application whose path is above.</extracomment>
+        <translation>Laisser ce bouton la lancer</translation>
+    </message>
+    <message>
+        <source>%1: let this button start %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1&#xa0;: laisser ce bouton lancer %2</translation>
+    </message>
+</context>
+<context>
     <name>OpenPanel</name>
     <message>
         <source>Applications</source>
@@ -125,6 +385,170 @@
         <source>Choose Displa&amp;y %1</source>
         <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
         <translation>Choi&amp;sir l’écran %1</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileBar</name>
+    <message>
+        <source>None</source>
+        <extracomment>Item of the list of profiles, while the settings are those of none.</extracomment>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <extracomment>Label of the list of profiles; a profile is a set of all settings of the tablet.</extracomment>
+        <translation>&amp;Profil&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Each profile has all settings of the tablet for one kind of work.</source>
+        <extracomment>Describes the list of profiles.</extracomment>
+        <translation>Chaque profil contient tous les réglages de la tablette pour un type de travail.</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <extracomment>Button: saves the current settings as a profile, and asks for its name.</extracomment>
+        <translation>Enregistrer so&amp;us…</translation>
+    </message>
+    <message>
+        <source>Save the current settings as a profile</source>
+        <translation>Enregistrer les réglages actuels comme profil</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <extracomment>Button beside the list of profiles: opens a menu with what else can be done with them.</extracomment>
+        <translation>Plus</translation>
+    </message>
+    <message>
+        <source>Manage the profiles</source>
+        <translation>Gérer les profils</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <extracomment>Menu item: gives the current profile another name.</extracomment>
+        <translation>&amp;Renommer…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate…</source>
+        <extracomment>Menu item: makes a copy of the current profile.</extracomment>
+        <translation>&amp;Dupliquer…</translation>
+    </message>
+    <message>
+        <source>D&amp;elete…</source>
+        <extracomment>Menu item: deletes the current profile.</extracomment>
+        <translation>&amp;Supprimer…</translation>
+    </message>
+    <message>
+        <source>&amp;Applications…</source>
+        <extracomment>Menu item: which applications the current profile is for.</extracomment>
+        <translation>&amp;Applications…</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <extracomment>Menu item: takes a profile from a file.</extracomment>
+        <translation>&amp;Importer…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <extracomment>Menu item: writes the current profile into a file.</extracomment>
+        <translation>E&amp;xporter…</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications</source>
+        <extracomment>Menu item with a check mark: profiles change with the application in front.</extracomment>
+        <translation>Suivre &amp;les applications</translation>
+    </message>
+    <message>
+        <source>Use a profile while one of its applications is in front</source>
+        <extracomment>Describes the menu item &quot;Follow Applications&quot;.</extracomment>
+        <translation>Utiliser un profil tant qu’une de ses applications est au premier plan</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Enregistrer le profil</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <extracomment>Button: saves the settings under the name.</extracomment>
+        <translation>&amp;Enregistrer</translation>
+    </message>
+    <message>
+        <source>There is a profile “%1” already. Replace it with the current settings?</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>Il y a déjà un profil «&#xa0;%1&#xa0;». Le remplacer par les réglages actuels&#xa0;?</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <extracomment>Button: a profile that is there is replaced.</extracomment>
+        <translation>&amp;Remplacer</translation>
+    </message>
+    <message>
+        <source>Rename Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Renommer le profil</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <extracomment>Button: gives the profile the name.</extracomment>
+        <translation>&amp;Renommer</translation>
+    </message>
+    <message>
+        <source>Duplicate Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Dupliquer le profil</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <extracomment>Button: makes a copy of the profile with the name.</extracomment>
+        <translation>&amp;Dupliquer</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”? The tablet keeps its settings.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>Supprimer le profil «&#xa0;%1&#xa0;»&#xa0;? La tablette garde ses réglages.</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <extracomment>Button: deletes a profile.</extracomment>
+        <translation>&amp;Supprimer</translation>
+    </message>
+    <message>
+        <source>Choose a Profile to Import</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Choisir un profil à importer</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>Profils</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>Export Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Exporter le profil</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button of a question: does nothing.</extracomment>
+        <translation>&amp;Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <extracomment>Label of the field for a profile&apos;s name.</extracomment>
+        <translation>&amp;Nom&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>&amp;Annuler</translation>
     </message>
 </context>
 <context>
@@ -332,6 +756,17 @@
     </message>
 </context>
 <context>
+    <name>QVPaneProfiles</name>
+    <message>
+        <source>No tablet is attached.</source>
+        <translation>Aucune tablette n’est branchée.</translation>
+    </message>
+    <message>
+        <source>The tablet is being calibrated. Finish that first.</source>
+        <translation>La tablette est en cours de calibrage. Terminez-le d’abord.</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -450,6 +885,66 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>Seuil %1 sur 200. Les programmes reçoivent %2&#xa0;% de la pression maximale à un quart de celle-ci, %3&#xa0;% à la moitié et %4&#xa0;% aux trois quarts.</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfile</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>Un profil a besoin d’un nom.</translation>
+    </message>
+    <message>
+        <source>The name is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>Le nom dépasse %1 caractères.</translation>
+    </message>
+    <message>
+        <source>The name contains characters that cannot be shown.</source>
+        <translation>Le nom contient des caractères qui ne peuvent pas être affichés.</translation>
+    </message>
+    <message>
+        <source>It is not a profile.</source>
+        <translation>Ce n’est pas un profil.</translation>
+    </message>
+    <message>
+        <source>It is a profile of another version.</source>
+        <translation>C’est un profil d’une autre version.</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileFolder</name>
+    <message>
+        <source>There is no profile “%1”.</source>
+        <translation>Il n’y a pas de profil «&#xa0;%1&#xa0;».</translation>
+    </message>
+    <message>
+        <source>There is already a profile “%1”.</source>
+        <translation>Il y a déjà un profil «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileImport</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>What an imported profile sets: %1 is a button, such as &quot;key 3&quot;, %2 its action.</extracomment>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileSwitch</name>
+    <message>
+        <source>Before %1</source>
+        <extracomment>The name of a profile with what was set before the profile %1 was used.</extracomment>
+        <translation>Avant %1</translation>
+    </message>
+    <message>
+        <source>There are no profiles.</source>
+        <translation>Il n’y a pas de profils.</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <extracomment>The name of a profile with the settings of a user who had no profiles for them.</extracomment>
+        <translation>Par défaut</translation>
     </message>
 </context>
 <context>
@@ -646,7 +1141,7 @@
     </message>
     <message>
         <source>&amp;Width follows pressure</source>
-        <translation>É&amp;paisseur selon la pression</translation>
+        <translation>Épa&amp;isseur selon la pression</translation>
     </message>
     <message>
         <source>&amp;Opacity follows pressure</source>
@@ -740,14 +1235,14 @@
     <message>
         <source>Use the &amp;whole tablet</source>
         <extracomment>Button; its corners become those of the display</extracomment>
-        <translation>&amp;Utiliser toute la tablette</translation>
+        <translation>Utiliser toute &amp;la tablette</translation>
     </message>
     <message>
         <source>Maps the whole tablet to the chosen part of the desktop.</source>
         <translation>Toute la tablette couvre la partie choisie du bureau.</translation>
     </message>
     <message>
-        <source>Keep &amp;proportions</source>
+        <source>Keep propor&amp;tions</source>
         <extracomment>Button: the tablet gets the proportions of the display, so that circles stay round</extracomment>
         <translation>&amp;Garder les proportions</translation>
     </message>
@@ -820,61 +1315,6 @@
         <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
-        <source>upper pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>bouton haut du stylet</translation>
-    </message>
-    <message>
-        <source>lower pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>bouton bas du stylet</translation>
-    </message>
-    <message>
-        <source>key %1</source>
-        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
-        <translation>touche %1</translation>
-    </message>
-    <message>
-        <source>pressure</source>
-        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
-        <translation>pression</translation>
-    </message>
-    <message>
-        <source>left scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>bande tactile gauche</translation>
-    </message>
-    <message>
-        <source>right scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>bande tactile droite</translation>
-    </message>
-    <message>
-        <source>scroll speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>vitesse de défilement</translation>
-    </message>
-    <message>
-        <source>display</source>
-        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
-        <translation>écran</translation>
-    </message>
-    <message>
-        <source>report speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>vitesse d’envoi</translation>
-    </message>
-    <message>
-        <source>orientation</source>
-        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
-        <translation>orientation</translation>
-    </message>
-    <message>
-        <source>area of the tablet</source>
-        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
-        <translation>zone de la tablette</translation>
-    </message>
-    <message>
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>plusieurs réglages</translation>
@@ -887,46 +1327,6 @@
     <message>
         <source>Press once lightly and once hard to find the curve that fits.</source>
         <translation>Appuyez une fois légèrement et une fois fort pour trouver la courbe qui convient.</translation>
-    </message>
-</context>
-<context>
-    <name>platform::ApplicationChooser</name>
-    <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>Choisir une application</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
-        <translation>Rechercher</translation>
-    </message>
-    <message>
-        <source>Search for an application</source>
-        <translation>Rechercher une application</translation>
-    </message>
-    <message>
-        <source>Applications</source>
-        <translation>Applications</translation>
-    </message>
-    <message>
-        <source>No application matches the search.</source>
-        <translation>Aucune application ne correspond à la recherche.</translation>
-    </message>
-    <message>
-        <source>&amp;Other File…</source>
-        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
-        <translation>A&amp;utre fichier…</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
-        <translation>&amp;Annuler</translation>
-    </message>
-    <message>
-        <source>C&amp;hoose</source>
-        <extracomment>Button: takes the selected application.</extracomment>
-        <translation>C&amp;hoisir</translation>
     </message>
 </context>
 <context>
@@ -1218,6 +1618,46 @@
         <source>%1: %2</source>
         <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>Choisir une application</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>Rechercher une application</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>Applications</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>Aucune application ne correspond à la recherche.</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>A&amp;utre fichier…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>C&amp;hoisir</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,266 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="ja" sourcelanguage="en">
 <context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>マウスの左ボタン</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>マウスの右ボタン</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>マウスの中ボタン</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <extracomment>The mouse button that goes back, as in a browser.</extracomment>
+        <translation>マウスの「戻る」ボタン</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <extracomment>Action of a tablet key: it does nothing.</extracomment>
+        <translation>何もしない</translation>
+    </message>
+    <message>
+        <source>Open an application (unknown path)</source>
+        <extracomment>Action of a tablet key.</extracomment>
+        <translation>アプリケーションを開く (パスは不明)</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <extracomment>Action of a tablet key; %1 is the path of an application.</extracomment>
+        <translation>%1 を開く</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <extracomment>Action of a tablet key: a key combination without keys.</extracomment>
+        <translation>どのキーも押さない</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
+        <translation>%1 を押す</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
+        <translation>次のディスプレイへ移動</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <extracomment>Action of a tablet key: slows the pointer down while the key is held.</extracomment>
+        <translation>押している間は精密操作</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
+        <translation>タブレットを一時停止</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <extracomment>Action of a scroll strip.</extracomment>
+        <translation>何もしない: ストリップはオフです</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <extracomment>Action of a scroll strip; %1 is 1 to 10.</extracomment>
+        <translation>速度 %1 でスクロール</translation>
+    </message>
+</context>
+<context>
+    <name>ApplicationsDialog</name>
+    <message>
+        <source>Applications of the Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>プロファイルのアプリケーション</translation>
+    </message>
+    <message>
+        <source>With “Follow Applications”, the profile “%1” is used while one of these applications is in front:</source>
+        <extracomment>%1 is the name of a profile; the quotation marks are those of the menu item.</extracomment>
+        <translation>「アプリケーションに追従」がオンの場合、次のアプリケーションのどれかが最前面にある間、プロファイル「%1」が使用されます:</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>A&amp;dd…</source>
+        <extracomment>Button: chooses another application for the list.</extracomment>
+        <translation>追加(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <extracomment>Button: takes the selected application out of the list.</extracomment>
+        <translation>削除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <extracomment>Button: takes the list of applications.</extracomment>
+        <translation>OK(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>EntryName</name>
+    <message>
+        <source>upper pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>ペンの上ボタン</translation>
+    </message>
+    <message>
+        <source>lower pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>ペンの下ボタン</translation>
+    </message>
+    <message>
+        <source>key %1</source>
+        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
+        <translation>キー %1</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
+        <translation>筆圧</translation>
+    </message>
+    <message>
+        <source>left scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>左スクロールストリップ</translation>
+    </message>
+    <message>
+        <source>right scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>右スクロールストリップ</translation>
+    </message>
+    <message>
+        <source>scroll speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>スクロール速度</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
+        <translation>ディスプレイ</translation>
+    </message>
+    <message>
+        <source>report speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>送信速度</translation>
+    </message>
+    <message>
+        <source>orientation</source>
+        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
+        <translation>向き</translation>
+    </message>
+    <message>
+        <source>area of the tablet</source>
+        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
+        <translation>タブレットの領域</translation>
+    </message>
+</context>
+<context>
+    <name>FollowService</name>
+    <message>
+        <source>Your session has no bus that answers.</source>
+        <translation>応答するセッションバスがありません。</translation>
+    </message>
+    <message>
+        <source>Your session has no systemd user manager, which would start the service.</source>
+        <translation>サービスを起動する systemd のユーザーマネージャーがセッションにありません。</translation>
+    </message>
+    <message>
+        <source>The service %1 is not installed.</source>
+        <extracomment>%1 is the name of a service of systemd.</extracomment>
+        <translation>サービス %1 がインストールされていません。</translation>
+    </message>
+    <message>
+        <source>The service %1 cannot be turned on: it is %2.</source>
+        <extracomment>%1 is the name of a service of systemd, %2 one of systemd&apos;s words, such as &quot;masked&quot;.</extracomment>
+        <translation>サービス %1 を有効にできません。状態: %2</translation>
+    </message>
+    <message>
+        <source>“Follow Applications” was not changed: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
+        <translation>「アプリケーションに追従」は変更されませんでした: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Import Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>プロファイルのインポート</translation>
+    </message>
+    <message>
+        <source>What is in the profile</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>プロファイルの内容</translation>
+    </message>
+    <message>
+        <source>It sets everything as it is now.</source>
+        <translation>すべて現在と同じ設定です。</translation>
+    </message>
+    <message>
+        <source>It changes:</source>
+        <translation>変更される設定:</translation>
+    </message>
+    <message>
+        <source>It leaves out, since it does not fit your tablet:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>お使いのタブレットに合わないため除かれる設定:</translation>
+    </message>
+    <message>
+        <source>It is for these applications:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>対象のアプリケーション:</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <extracomment>Button: keeps what is in the file as a profile.</extracomment>
+        <translation>インポート(&amp;I)</translation>
+    </message>
+    <message>
+        <source>The profile will be in the list as “%1”. It is not used yet.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>プロファイルは「%1」として一覧に追加されます。まだ使用はされません。</translation>
+    </message>
+    <message>
+        <source>Some of its buttons would start an application. Allow only what you know and trust; the others do nothing.</source>
+        <translation>アプリケーションを起動するボタンがあります。知っていて信頼できるものだけを許可してください。ほかのボタンは何もしません。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Let this button start it</source>
+        <extracomment>Check box: a button of the tablet may start the application whose path is above.</extracomment>
+        <translation>このボタンでの起動を許可する</translation>
+    </message>
+    <message>
+        <source>%1: let this button start %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1: このボタンでの %2 の起動を許可する</translation>
+    </message>
+</context>
+<context>
     <name>OpenPanel</name>
     <message>
         <source>Applications</source>
@@ -125,6 +385,170 @@
         <source>Choose Displa&amp;y %1</source>
         <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
         <translation>ディスプレイ %1 を選択(&amp;Y)</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileBar</name>
+    <message>
+        <source>None</source>
+        <extracomment>Item of the list of profiles, while the settings are those of none.</extracomment>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <extracomment>Label of the list of profiles; a profile is a set of all settings of the tablet.</extracomment>
+        <translation>プロファイル(&amp;P):</translation>
+    </message>
+    <message>
+        <source>Each profile has all settings of the tablet for one kind of work.</source>
+        <extracomment>Describes the list of profiles.</extracomment>
+        <translation>各プロファイルには、ある作業のためのタブレットの設定がすべて入っています。</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <extracomment>Button: saves the current settings as a profile, and asks for its name.</extracomment>
+        <translation>名前を付けて保存(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>Save the current settings as a profile</source>
+        <translation>現在の設定をプロファイルとして保存します</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <extracomment>Button beside the list of profiles: opens a menu with what else can be done with them.</extracomment>
+        <translation>その他</translation>
+    </message>
+    <message>
+        <source>Manage the profiles</source>
+        <translation>プロファイルを管理します</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <extracomment>Menu item: gives the current profile another name.</extracomment>
+        <translation>名前を変更(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate…</source>
+        <extracomment>Menu item: makes a copy of the current profile.</extracomment>
+        <translation>複製(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>D&amp;elete…</source>
+        <extracomment>Menu item: deletes the current profile.</extracomment>
+        <translation>削除(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Applications…</source>
+        <extracomment>Menu item: which applications the current profile is for.</extracomment>
+        <translation>アプリケーション(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <extracomment>Menu item: takes a profile from a file.</extracomment>
+        <translation>インポート(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <extracomment>Menu item: writes the current profile into a file.</extracomment>
+        <translation>エクスポート(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications</source>
+        <extracomment>Menu item with a check mark: profiles change with the application in front.</extracomment>
+        <translation>アプリケーションに追従(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Use a profile while one of its applications is in front</source>
+        <extracomment>Describes the menu item &quot;Follow Applications&quot;.</extracomment>
+        <translation>プロファイルのアプリケーションが最前面にある間、そのプロファイルを使用します</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>プロファイルの保存</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <extracomment>Button: saves the settings under the name.</extracomment>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>There is a profile “%1” already. Replace it with the current settings?</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>プロファイル「%1」はすでにあります。現在の設定で置き換えますか？</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <extracomment>Button: a profile that is there is replaced.</extracomment>
+        <translation>置き換え(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Rename Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>プロファイルの名前の変更</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <extracomment>Button: gives the profile the name.</extracomment>
+        <translation>変更(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Duplicate Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>プロファイルの複製</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <extracomment>Button: makes a copy of the profile with the name.</extracomment>
+        <translation>複製(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”? The tablet keeps its settings.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>プロファイル「%1」を削除しますか？タブレットの設定はそのまま残ります。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <extracomment>Button: deletes a profile.</extracomment>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Choose a Profile to Import</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>インポートするプロファイルの選択</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>Export Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>プロファイルのエクスポート</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button of a question: does nothing.</extracomment>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <extracomment>Label of the field for a profile&apos;s name.</extracomment>
+        <translation>名前(&amp;N):</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>キャンセル(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -332,6 +756,17 @@
     </message>
 </context>
 <context>
+    <name>QVPaneProfiles</name>
+    <message>
+        <source>No tablet is attached.</source>
+        <translation>タブレットが接続されていません。</translation>
+    </message>
+    <message>
+        <source>The tablet is being calibrated. Finish that first.</source>
+        <translation>タブレットのキャリブレーション中です。先に完了してください。</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -450,6 +885,66 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>しきい値は 200 のうち %1 です。最大筆圧でプログラムが受け取る値に対して、4 分の 1 の筆圧では %2%、半分では %3%、4 分の 3 では %4% を受け取ります。</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfile</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>プロファイルには名前が必要です。</translation>
+    </message>
+    <message>
+        <source>The name is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>名前が %1 文字を超えています。</translation>
+    </message>
+    <message>
+        <source>The name contains characters that cannot be shown.</source>
+        <translation>表示できない文字が名前に含まれています。</translation>
+    </message>
+    <message>
+        <source>It is not a profile.</source>
+        <translation>プロファイルではありません。</translation>
+    </message>
+    <message>
+        <source>It is a profile of another version.</source>
+        <translation>別のバージョンのプロファイルです。</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileFolder</name>
+    <message>
+        <source>There is no profile “%1”.</source>
+        <translation>プロファイル「%1」はありません。</translation>
+    </message>
+    <message>
+        <source>There is already a profile “%1”.</source>
+        <translation>プロファイル「%1」はすでにあります。</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileImport</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>What an imported profile sets: %1 is a button, such as &quot;key 3&quot;, %2 its action.</extracomment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileSwitch</name>
+    <message>
+        <source>Before %1</source>
+        <extracomment>The name of a profile with what was set before the profile %1 was used.</extracomment>
+        <translation>%1 の前</translation>
+    </message>
+    <message>
+        <source>There are no profiles.</source>
+        <translation>プロファイルがありません。</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <extracomment>The name of a profile with the settings of a user who had no profiles for them.</extracomment>
+        <translation>標準</translation>
     </message>
 </context>
 <context>
@@ -747,9 +1242,9 @@
         <translation>操作面全体で、選択したデスクトップの範囲を操作します。</translation>
     </message>
     <message>
-        <source>Keep &amp;proportions</source>
+        <source>Keep propor&amp;tions</source>
         <extracomment>Button: the tablet gets the proportions of the display, so that circles stay round</extracomment>
-        <translation>縦横比を維持(&amp;P)</translation>
+        <translation>縦横比を維持(&amp;T)</translation>
     </message>
     <message>
         <source>Leaves a strip of the tablet unused, so that circles stay round.</source>
@@ -820,61 +1315,6 @@
         <translation>%1: %2</translation>
     </message>
     <message>
-        <source>upper pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>ペンの上ボタン</translation>
-    </message>
-    <message>
-        <source>lower pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>ペンの下ボタン</translation>
-    </message>
-    <message>
-        <source>key %1</source>
-        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
-        <translation>キー %1</translation>
-    </message>
-    <message>
-        <source>pressure</source>
-        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
-        <translation>筆圧</translation>
-    </message>
-    <message>
-        <source>left scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>左スクロールストリップ</translation>
-    </message>
-    <message>
-        <source>right scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>右スクロールストリップ</translation>
-    </message>
-    <message>
-        <source>scroll speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>スクロール速度</translation>
-    </message>
-    <message>
-        <source>display</source>
-        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
-        <translation>ディスプレイ</translation>
-    </message>
-    <message>
-        <source>report speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>送信速度</translation>
-    </message>
-    <message>
-        <source>orientation</source>
-        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
-        <translation>向き</translation>
-    </message>
-    <message>
-        <source>area of the tablet</source>
-        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
-        <translation>タブレットの領域</translation>
-    </message>
-    <message>
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>複数の設定</translation>
@@ -887,46 +1327,6 @@
     <message>
         <source>Press once lightly and once hard to find the curve that fits.</source>
         <translation>一度軽く、一度強く押して、合う筆圧カーブを見つけます。</translation>
-    </message>
-</context>
-<context>
-    <name>platform::ApplicationChooser</name>
-    <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>アプリケーションの選択</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
-        <translation>検索</translation>
-    </message>
-    <message>
-        <source>Search for an application</source>
-        <translation>アプリケーションを検索</translation>
-    </message>
-    <message>
-        <source>Applications</source>
-        <translation>アプリケーション</translation>
-    </message>
-    <message>
-        <source>No application matches the search.</source>
-        <translation>検索に一致するアプリケーションがありません。</translation>
-    </message>
-    <message>
-        <source>&amp;Other File…</source>
-        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
-        <translation>その他のファイル(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
-        <translation>キャンセル(&amp;C)</translation>
-    </message>
-    <message>
-        <source>C&amp;hoose</source>
-        <extracomment>Button: takes the selected application.</extracomment>
-        <translation>選択(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -1218,6 +1618,46 @@
         <source>%1: %2</source>
         <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
         <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>アプリケーションの選択</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>アプリケーションを検索</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>アプリケーション</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>検索に一致するアプリケーションがありません。</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>その他のファイル(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>選択(&amp;H)</translation>
     </message>
 </context>
 </TS>

@@ -2,6 +2,266 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en">
 <context>
+    <name>ActionText</name>
+    <message>
+        <source>Left mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>鼠标左键</translation>
+    </message>
+    <message>
+        <source>Right mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>鼠标右键</translation>
+    </message>
+    <message>
+        <source>Middle mouse button</source>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <translation>鼠标中键</translation>
+    </message>
+    <message>
+        <source>Back mouse button</source>
+        <extracomment>The mouse button that goes back, as in a browser.</extracomment>
+        <translation>鼠标后退键</translation>
+    </message>
+    <message>
+        <source>No action</source>
+        <extracomment>Action of a tablet key: it does nothing.</extracomment>
+        <translation>无操作</translation>
+    </message>
+    <message>
+        <source>Open an application (unknown path)</source>
+        <extracomment>Action of a tablet key.</extracomment>
+        <translation>打开应用程序（路径未知）</translation>
+    </message>
+    <message>
+        <source>Open %1</source>
+        <extracomment>Action of a tablet key; %1 is the path of an application.</extracomment>
+        <translation>打开 %1</translation>
+    </message>
+    <message>
+        <source>Press no keys</source>
+        <extracomment>Action of a tablet key: a key combination without keys.</extracomment>
+        <translation>不按任何键</translation>
+    </message>
+    <message>
+        <source>Press %1</source>
+        <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
+        <translation>按下 %1</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
+        <translation>切换到下一个显示器</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <extracomment>Action of a tablet key: slows the pointer down while the key is held.</extracomment>
+        <translation>按住时精细移动</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
+        <translation>暂停数位板</translation>
+    </message>
+    <message>
+        <source>No action: the strip is off</source>
+        <extracomment>Action of a scroll strip.</extracomment>
+        <translation>无操作：触控条已关闭</translation>
+    </message>
+    <message>
+        <source>Scroll at speed %1</source>
+        <extracomment>Action of a scroll strip; %1 is 1 to 10.</extracomment>
+        <translation>以速度 %1 滚动</translation>
+    </message>
+</context>
+<context>
+    <name>ApplicationsDialog</name>
+    <message>
+        <source>Applications of the Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>配置方案的应用程序</translation>
+    </message>
+    <message>
+        <source>With “Follow Applications”, the profile “%1” is used while one of these applications is in front:</source>
+        <extracomment>%1 is the name of a profile; the quotation marks are those of the menu item.</extracomment>
+        <translation>启用“跟随应用程序”后，当以下某个应用程序位于最前面时使用配置方案“%1”：</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>应用程序</translation>
+    </message>
+    <message>
+        <source>A&amp;dd…</source>
+        <extracomment>Button: chooses another application for the list.</extracomment>
+        <translation>添加(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>&amp;Remove</source>
+        <extracomment>Button: takes the selected application out of the list.</extracomment>
+        <translation>移除(&amp;R)</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;OK</source>
+        <extracomment>Button: takes the list of applications.</extracomment>
+        <translation>确定(&amp;O)</translation>
+    </message>
+</context>
+<context>
+    <name>EntryName</name>
+    <message>
+        <source>upper pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>笔的上键</translation>
+    </message>
+    <message>
+        <source>lower pen button</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>笔的下键</translation>
+    </message>
+    <message>
+        <source>key %1</source>
+        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
+        <translation>快捷键 %1</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
+        <translation>压感</translation>
+    </message>
+    <message>
+        <source>left scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>左滚动触控条</translation>
+    </message>
+    <message>
+        <source>right scroll strip</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>右滚动触控条</translation>
+    </message>
+    <message>
+        <source>scroll speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>滚动速度</translation>
+    </message>
+    <message>
+        <source>display</source>
+        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
+        <translation>显示器</translation>
+    </message>
+    <message>
+        <source>report speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>报告速度</translation>
+    </message>
+    <message>
+        <source>orientation</source>
+        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
+        <translation>方向</translation>
+    </message>
+    <message>
+        <source>area of the tablet</source>
+        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
+        <translation>数位板区域</translation>
+    </message>
+</context>
+<context>
+    <name>FollowService</name>
+    <message>
+        <source>Your session has no bus that answers.</source>
+        <translation>您的会话没有响应的总线。</translation>
+    </message>
+    <message>
+        <source>Your session has no systemd user manager, which would start the service.</source>
+        <translation>您的会话没有用于启动该服务的 systemd 用户管理器。</translation>
+    </message>
+    <message>
+        <source>The service %1 is not installed.</source>
+        <extracomment>%1 is the name of a service of systemd.</extracomment>
+        <translation>服务 %1 未安装。</translation>
+    </message>
+    <message>
+        <source>The service %1 cannot be turned on: it is %2.</source>
+        <extracomment>%1 is the name of a service of systemd, %2 one of systemd&apos;s words, such as &quot;masked&quot;.</extracomment>
+        <translation>无法启用服务 %1：其状态为 %2。</translation>
+    </message>
+    <message>
+        <source>“Follow Applications” was not changed: %1</source>
+        <extracomment>%1 is the reason, in English.</extracomment>
+        <translation>“跟随应用程序”未更改：%1</translation>
+    </message>
+</context>
+<context>
+    <name>ImportDialog</name>
+    <message>
+        <source>Import Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>导入配置方案</translation>
+    </message>
+    <message>
+        <source>What is in the profile</source>
+        <extracomment>Name of the list, for screen readers.</extracomment>
+        <translation>配置方案的内容</translation>
+    </message>
+    <message>
+        <source>It sets everything as it is now.</source>
+        <translation>它的设置与当前完全相同。</translation>
+    </message>
+    <message>
+        <source>It changes:</source>
+        <translation>它会更改：</translation>
+    </message>
+    <message>
+        <source>It leaves out, since it does not fit your tablet:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>由于不适合您的数位板而略去：</translation>
+    </message>
+    <message>
+        <source>It is for these applications:</source>
+        <extracomment>Heading of a list.</extracomment>
+        <translation>它用于以下应用程序：</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <extracomment>Button: keeps what is in the file as a profile.</extracomment>
+        <translation>导入(&amp;I)</translation>
+    </message>
+    <message>
+        <source>The profile will be in the list as “%1”. It is not used yet.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>配置方案将以“%1”列出，暂不使用。</translation>
+    </message>
+    <message>
+        <source>Some of its buttons would start an application. Allow only what you know and trust; the others do nothing.</source>
+        <translation>其中一些按键会启动应用程序。请只允许您了解并信任的，其他按键不执行任何操作。</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>Let this button start it</source>
+        <extracomment>Check box: a button of the tablet may start the application whose path is above.</extracomment>
+        <translation>允许此按键启动它</translation>
+    </message>
+    <message>
+        <source>%1: let this button start %2</source>
+        <extracomment>Read by screen readers; %1 is a button of the tablet, %2 the path of an application.</extracomment>
+        <translation>%1：允许此按键启动 %2</translation>
+    </message>
+</context>
+<context>
     <name>OpenPanel</name>
     <message>
         <source>Applications</source>
@@ -125,6 +385,170 @@
         <source>Choose Displa&amp;y %1</source>
         <extracomment>Button: maps the tablet to the display with the number %1.</extracomment>
         <translation>选择显示器 %1(&amp;Y)</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileBar</name>
+    <message>
+        <source>None</source>
+        <extracomment>Item of the list of profiles, while the settings are those of none.</extracomment>
+        <translation>无</translation>
+    </message>
+    <message>
+        <source>&amp;Profile:</source>
+        <extracomment>Label of the list of profiles; a profile is a set of all settings of the tablet.</extracomment>
+        <translation>配置方案(&amp;P)：</translation>
+    </message>
+    <message>
+        <source>Each profile has all settings of the tablet for one kind of work.</source>
+        <extracomment>Describes the list of profiles.</extracomment>
+        <translation>每个配置方案包含数位板用于一类工作的全部设置。</translation>
+    </message>
+    <message>
+        <source>Save &amp;as…</source>
+        <extracomment>Button: saves the current settings as a profile, and asks for its name.</extracomment>
+        <translation>另存为(&amp;N)…</translation>
+    </message>
+    <message>
+        <source>Save the current settings as a profile</source>
+        <translation>将当前的设置保存为配置方案</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <extracomment>Button beside the list of profiles: opens a menu with what else can be done with them.</extracomment>
+        <translation>更多</translation>
+    </message>
+    <message>
+        <source>Manage the profiles</source>
+        <translation>管理配置方案</translation>
+    </message>
+    <message>
+        <source>&amp;Rename…</source>
+        <extracomment>Menu item: gives the current profile another name.</extracomment>
+        <translation>重命名(&amp;R)…</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate…</source>
+        <extracomment>Menu item: makes a copy of the current profile.</extracomment>
+        <translation>复制(&amp;D)…</translation>
+    </message>
+    <message>
+        <source>D&amp;elete…</source>
+        <extracomment>Menu item: deletes the current profile.</extracomment>
+        <translation>删除(&amp;E)…</translation>
+    </message>
+    <message>
+        <source>&amp;Applications…</source>
+        <extracomment>Menu item: which applications the current profile is for.</extracomment>
+        <translation>应用程序(&amp;A)…</translation>
+    </message>
+    <message>
+        <source>&amp;Import…</source>
+        <extracomment>Menu item: takes a profile from a file.</extracomment>
+        <translation>导入(&amp;I)…</translation>
+    </message>
+    <message>
+        <source>E&amp;xport…</source>
+        <extracomment>Menu item: writes the current profile into a file.</extracomment>
+        <translation>导出(&amp;X)…</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications</source>
+        <extracomment>Menu item with a check mark: profiles change with the application in front.</extracomment>
+        <translation>跟随应用程序(&amp;F)</translation>
+    </message>
+    <message>
+        <source>Use a profile while one of its applications is in front</source>
+        <extracomment>Describes the menu item &quot;Follow Applications&quot;.</extracomment>
+        <translation>当配置方案的某个应用程序位于最前面时使用该配置方案</translation>
+    </message>
+    <message>
+        <source>Save Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>保存配置方案</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <extracomment>Button: saves the settings under the name.</extracomment>
+        <translation>保存(&amp;S)</translation>
+    </message>
+    <message>
+        <source>There is a profile “%1” already. Replace it with the current settings?</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>已有配置方案“%1”。要用当前的设置替换它吗？</translation>
+    </message>
+    <message>
+        <source>&amp;Replace</source>
+        <extracomment>Button: a profile that is there is replaced.</extracomment>
+        <translation>替换(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Rename Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>重命名配置方案</translation>
+    </message>
+    <message>
+        <source>&amp;Rename</source>
+        <extracomment>Button: gives the profile the name.</extracomment>
+        <translation>重命名(&amp;R)</translation>
+    </message>
+    <message>
+        <source>Duplicate Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>复制配置方案</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <extracomment>Button: makes a copy of the profile with the name.</extracomment>
+        <translation>复制(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Delete the profile “%1”? The tablet keeps its settings.</source>
+        <extracomment>%1 is the name of a profile.</extracomment>
+        <translation>要删除配置方案“%1”吗？数位板的设置保持不变。</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <extracomment>Button: deletes a profile.</extracomment>
+        <translation>删除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Choose a Profile to Import</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>选择要导入的配置方案</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>配置方案</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <extracomment>Kind of files in the dialog for choosing a profile.</extracomment>
+        <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>Export Profile</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>导出配置方案</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button of a question: does nothing.</extracomment>
+        <translation>取消(&amp;C)</translation>
+    </message>
+</context>
+<context>
+    <name>ProfileNameDialog</name>
+    <message>
+        <source>&amp;Name:</source>
+        <extracomment>Label of the field for a profile&apos;s name.</extracomment>
+        <translation>名称(&amp;N)：</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: closes the dialog, and changes nothing.</extracomment>
+        <translation>取消(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -332,6 +756,17 @@
     </message>
 </context>
 <context>
+    <name>QVPaneProfiles</name>
+    <message>
+        <source>No tablet is attached.</source>
+        <translation>没有连接数位板。</translation>
+    </message>
+    <message>
+        <source>The tablet is being calibrated. Finish that first.</source>
+        <translation>数位板正在校准。请先完成校准。</translation>
+    </message>
+</context>
+<context>
     <name>QVPenStats</name>
     <message>
         <source>Pressure %1 %</source>
@@ -450,6 +885,66 @@
         <source>Threshold %1 of 200. Programs receive %2 % of the full pressure at a quarter of it, %3 % at half and %4 % at three quarters.</source>
         <extracomment>Read by screen readers for the pressure curve; %2 to %4 are percentages.</extracomment>
         <translation>阈值 %1，共 200。与压力最大时程序收到的值相比，压力为四分之一时收到 %2%，一半时收到 %3%，四分之三时收到 %4%。</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfile</name>
+    <message>
+        <source>A profile needs a name.</source>
+        <translation>配置方案需要名称。</translation>
+    </message>
+    <message>
+        <source>The name is longer than %1 characters.</source>
+        <extracomment>%1 is a number of characters.</extracomment>
+        <translation>名称超过 %1 个字符。</translation>
+    </message>
+    <message>
+        <source>The name contains characters that cannot be shown.</source>
+        <translation>名称包含无法显示的字符。</translation>
+    </message>
+    <message>
+        <source>It is not a profile.</source>
+        <translation>这不是配置方案。</translation>
+    </message>
+    <message>
+        <source>It is a profile of another version.</source>
+        <translation>这是其他版本的配置方案。</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileFolder</name>
+    <message>
+        <source>There is no profile “%1”.</source>
+        <translation>没有配置方案“%1”。</translation>
+    </message>
+    <message>
+        <source>There is already a profile “%1”.</source>
+        <translation>已有配置方案“%1”。</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileImport</name>
+    <message>
+        <source>%1: %2</source>
+        <extracomment>What an imported profile sets: %1 is a button, such as &quot;key 3&quot;, %2 its action.</extracomment>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>QVProfileSwitch</name>
+    <message>
+        <source>Before %1</source>
+        <extracomment>The name of a profile with what was set before the profile %1 was used.</extracomment>
+        <translation>%1 之前</translation>
+    </message>
+    <message>
+        <source>There are no profiles.</source>
+        <translation>没有配置方案。</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <extracomment>The name of a profile with the settings of a user who had no profiles for them.</extracomment>
+        <translation>默认</translation>
     </message>
 </context>
 <context>
@@ -747,9 +1242,9 @@
         <translation>整个板面对应所选的桌面区域。</translation>
     </message>
     <message>
-        <source>Keep &amp;proportions</source>
+        <source>Keep propor&amp;tions</source>
         <extracomment>Button: the tablet gets the proportions of the display, so that circles stay round</extracomment>
-        <translation>保持比例(&amp;P)</translation>
+        <translation>保持比例(&amp;T)</translation>
     </message>
     <message>
         <source>Leaves a strip of the tablet unused, so that circles stay round.</source>
@@ -820,61 +1315,6 @@
         <translation>%1：%2</translation>
     </message>
     <message>
-        <source>upper pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>笔的上键</translation>
-    </message>
-    <message>
-        <source>lower pen button</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>笔的下键</translation>
-    </message>
-    <message>
-        <source>key %1</source>
-        <extracomment>After &quot;Undo:&quot;; %1 is the number of an express key.</extracomment>
-        <translation>快捷键 %1</translation>
-    </message>
-    <message>
-        <source>pressure</source>
-        <extracomment>After &quot;Undo:&quot;: the pressure curve.</extracomment>
-        <translation>压感</translation>
-    </message>
-    <message>
-        <source>left scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>左滚动触控条</translation>
-    </message>
-    <message>
-        <source>right scroll strip</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>右滚动触控条</translation>
-    </message>
-    <message>
-        <source>scroll speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>滚动速度</translation>
-    </message>
-    <message>
-        <source>display</source>
-        <extracomment>After &quot;Undo:&quot;: the display that the tablet is mapped to.</extracomment>
-        <translation>显示器</translation>
-    </message>
-    <message>
-        <source>report speed</source>
-        <extracomment>After &quot;Undo:&quot;.</extracomment>
-        <translation>报告速度</translation>
-    </message>
-    <message>
-        <source>orientation</source>
-        <extracomment>After &quot;Undo:&quot;: how the tablet lies on the desk.</extracomment>
-        <translation>方向</translation>
-    </message>
-    <message>
-        <source>area of the tablet</source>
-        <extracomment>After &quot;Undo:&quot;: the part of the tablet that is in use.</extracomment>
-        <translation>数位板区域</translation>
-    </message>
-    <message>
         <source>several settings</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>多项设置</translation>
@@ -887,46 +1327,6 @@
     <message>
         <source>Press once lightly and once hard to find the curve that fits.</source>
         <translation>轻按一次、重按一次，以找到合适的压感曲线。</translation>
-    </message>
-</context>
-<context>
-    <name>platform::ApplicationChooser</name>
-    <message>
-        <source>Choose an application</source>
-        <extracomment>Title of the dialog.</extracomment>
-        <translation>选择应用程序</translation>
-    </message>
-    <message>
-        <source>Search</source>
-        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
-        <translation>搜索</translation>
-    </message>
-    <message>
-        <source>Search for an application</source>
-        <translation>搜索应用程序</translation>
-    </message>
-    <message>
-        <source>Applications</source>
-        <translation>应用程序</translation>
-    </message>
-    <message>
-        <source>No application matches the search.</source>
-        <translation>没有与搜索匹配的应用程序。</translation>
-    </message>
-    <message>
-        <source>&amp;Other File…</source>
-        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
-        <translation>其他文件(&amp;O)…</translation>
-    </message>
-    <message>
-        <source>&amp;Cancel</source>
-        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
-        <translation>取消(&amp;C)</translation>
-    </message>
-    <message>
-        <source>C&amp;hoose</source>
-        <extracomment>Button: takes the selected application.</extracomment>
-        <translation>选择(&amp;H)</translation>
     </message>
 </context>
 <context>
@@ -1218,6 +1618,46 @@
         <source>%1: %2</source>
         <extracomment>Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.</extracomment>
         <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
+    <name>platform::ApplicationChooser</name>
+    <message>
+        <source>Choose an application</source>
+        <extracomment>Title of the dialog.</extracomment>
+        <translation>选择应用程序</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <extracomment>Shown in the empty search field above the list of applications.</extracomment>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Search for an application</source>
+        <translation>搜索应用程序</translation>
+    </message>
+    <message>
+        <source>Applications</source>
+        <translation>应用程序</translation>
+    </message>
+    <message>
+        <source>No application matches the search.</source>
+        <translation>没有与搜索匹配的应用程序。</translation>
+    </message>
+    <message>
+        <source>&amp;Other File…</source>
+        <extracomment>Button: choose a file that is not in the list of applications.</extracomment>
+        <translation>其他文件(&amp;O)…</translation>
+    </message>
+    <message>
+        <source>&amp;Cancel</source>
+        <extracomment>Button: leaves the dialog without choosing an application.</extracomment>
+        <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>C&amp;hoose</source>
+        <extracomment>Button: takes the selected application.</extracomment>
+        <translation>选择(&amp;H)</translation>
     </message>
 </context>
 </TS>

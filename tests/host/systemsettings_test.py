@@ -246,6 +246,56 @@ class SystemSettings(host.Host):
         self.assertFalse(self.file_strip())
         self.assertFalse(self.driver_strip())
 
+    def profile(self, *arguments):
+        result = self.ctl("profile", *arguments)
+        self.assertEqual(result.returncode, 0, result.stderr)
+
+    def chosen_profile(self):
+        """Returns what the list of profiles shows."""
+        return next((thing["name"] for thing in self.things(APPLICATION)
+                     if thing["showing"] and "Profile:" in thing["labels"]), None)
+
+    def test_follows_a_profile_that_the_command_line_uses(self):
+        self.start_driver_with_log()
+        self.profile("save", "Strip on")
+        self.assertEqual(self.ctl("set", "Key/Scrollbar0", "1").returncode, 0)
+        self.profile("save", "Strip off")
+        self.start_at_the_module()
+        session.wait_for(lambda: self.chosen_profile() == "Strip off", "the profile")
+        self.assertFalse(self.find(APPLICATION, host.STRIP, "check box")["checked"])
+        before = self.pushes()
+        self.profile("use", "Strip on")
+        self.assertTrue(self.driver_strip())
+        self.assertTrue(self.file_strip())
+        session.wait_for(lambda: self.chosen_profile() == "Strip on", "the other profile")
+        session.wait_for(lambda: self.find(APPLICATION, host.STRIP)["checked"], "the check box")
+        self.assertEqual(self.pushes(), before + 1)
+        # Nor is anything left to apply, or to undo.
+        self.wait_for_button(APPLICATION, "Apply", False)
+        self.xdotool("key", "ctrl+z")
+        self.edit(APPLICATION)
+        self.wait_for_button(APPLICATION, "Apply", True)
+        self.assertFalse(self.driver_strip())
+        self.assertEqual(self.pushes(), before + 2)
+
+    def test_uses_a_profile_from_the_list(self):
+        self.start_driver_with_log()
+        self.profile("save", "Strip on")
+        self.assertEqual(self.ctl("set", "Key/Scrollbar0", "1").returncode, 0)
+        self.profile("save", "Strip off")
+        self.start_at_the_module()
+        box = session.wait_for(lambda: next(
+            (thing for thing in self.things(APPLICATION) if "Profile:" in thing["labels"]), None),
+            "the list")
+        self.click(box)
+        self.find(APPLICATION, "Strip on", "list item", inside=box["path"])
+        self.xdotool("key", "Down", "Return")
+        session.wait_for(self.driver_strip, "the driver")
+        session.wait_for(lambda: self.find(APPLICATION, host.STRIP)["checked"], "the check box")
+        self.assertEqual(self.chosen_profile(), "Strip on")
+        self.assertTrue(self.file_strip())
+        self.wait_for_button(APPLICATION, "Apply", False)
+
     def test_closing_system_settings_leaves_the_pane(self):
         self.start_driver_with_log()
         settings = self.start_at_the_module()

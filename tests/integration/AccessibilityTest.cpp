@@ -5,11 +5,14 @@
 // contrast.
 
 #include "ApplicationChooser.h"
+#include "ApplicationsDialog.h"
 #include "Contrast.h"
+#include "ImportDialog.h"
 #include "LayoutModels.h"
 #include "NotedPane.h"
 #include "PaneShell.h"
 #include "PaneTest.h"
+#include "ProfileNameDialog.h"
 #include "QVCalibrateWin.h"
 #include "QVDrawView.h"
 #include "QVKeyComboBox.h"
@@ -403,8 +406,13 @@ TEST_F(Accessibility, readsOutWhatHasGoneWrong)
     shell.willSelect();
     shell.show();
     activate(shell);
-    const auto buttons = shell.findChildren<QPushButton*>();
-    ASSERT_EQ(buttons.size(), 2);
+    std::vector<const QPushButton*> buttons;
+    for (const QPushButton* const button : shell.findChildren<QPushButton*>()) {
+        if (button->isVisible()) {
+            buttons.push_back(button);
+        }
+    }
+    ASSERT_EQ(buttons.size(), 2U);
     const QRect save = placeOf(*buttons[1]);
     pane.tell(News::ChangeNotTaken);
     auto& notice = *shell.findChild<platform::NoticeLabel*>();
@@ -424,6 +432,48 @@ TEST_F(Accessibility, readsOutWhatHasGoneWrong)
     pane.tell(News::ChangeTaken);
     EXPECT_FALSE(notice.isVisible());
     EXPECT_EQ(placeOf(*buttons[1]), save);
+}
+
+TEST_F(Accessibility, saysWhatIsInTheRowOfProfiles)
+{
+    PaneLife life;
+    life.hasProfiles = true;
+    for (const QString& profile : {QString(), QStringLiteral("Painting")}) {
+        life.profiles = {{QStringLiteral("Painting"), {}}};
+        life.profile = profile;
+        PaneShell shell(std::make_unique<NotedPane>(life), PaneShell::Host::Window);
+        shell.willSelect();
+        shell.show();
+        activate(shell);
+        expectNoFaults(shell, 8);
+        expectTabVisitsAllInOrder(shell);
+        auto& list = *shell.findChild<QComboBox*>();
+        EXPECT_EQ(textOf(accessible(list), QAccessible::Name),
+            profile.isEmpty() ? "None" : profile.toStdString());
+        EXPECT_EQ(
+            contents(list), "Each profile has all settings of the tablet for one kind of work.");
+    }
+}
+
+TEST_F(Accessibility, saysWhatIsInTheDialogsOfProfiles)
+{
+    const QStringList words{QStringLiteral("A"), QStringLiteral("B")};
+    ProfileNameDialog name(
+        QStringLiteral("Name"), QStringLiteral("Use"), QString(),
+        [](const QString& /*name*/) { return QStringLiteral("That is no name."); }, nullptr);
+    ApplicationsDialog applications(QStringLiteral("A"), words, nullptr);
+    platform::PaneProfiles::Import import;
+    import.changes = words;
+    import.starts = {{words[0], words[1]}, { words[1], words[0] }};
+    ImportDialog importDialog(import, nullptr);
+    for (QDialog* const dialog :
+        std::initializer_list<QDialog*>{&name, &applications, &importDialog}) {
+        SCOPED_TRACE(dialog->windowTitle().toStdString());
+        dialog->show();
+        activate(*dialog);
+        expectNoFaults(*dialog, 5);
+        expectTabVisitsAllInOrder(*dialog);
+    }
 }
 
 TEST_F(Accessibility, saysTheCurveInWords)

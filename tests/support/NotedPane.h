@@ -8,7 +8,12 @@
 #include <QStringList>
 #include <QVBoxLayout>
 
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
 #include <utility>
+#include <vector>
 
 /** What a host has done with its pane; outlives the pane. */
 struct PaneLife {
@@ -24,6 +29,11 @@ struct PaneLife {
     platform::PreferencePane::SelfCheck selfCheck; ///< what one finds
     QString deviceID;
     int display = 0; ///< the chosen one
+    bool hasProfiles = false;
+    std::vector<platform::PaneProfiles::Profile> profiles;
+    QString profile; ///< the current one
+    QString profileFault; ///< why nothing can be done with profiles; empty if it can
+    platform::PaneProfiles::Import import; ///< what is in any file
 
     /** Returns the calls since the last take(). */
     QStringList take() { return std::exchange(calls, {}); }
@@ -32,11 +42,124 @@ struct PaneLife {
 inline const QStringList kComing{QStringLiteral("will select"), QStringLiteral("did select")};
 inline const QStringList kLeaving{QStringLiteral("will unselect"), QStringLiteral("did unselect")};
 
+/** Profiles that record their calls. They cannot be called "bad". */
+class NotedProfiles final : public platform::PaneProfiles {
+public:
+    explicit NotedProfiles(PaneLife& life)
+        : mLife(life)
+    {
+    }
+
+    std::vector<Profile> list() const override { return mLife.profiles; }
+    QString current() const override { return mLife.profile; }
+    void use(const QString& name, Done done) override
+    {
+        note({QStringLiteral("use"), name});
+        useDone = [this, name, done](const QString& fault) {
+            if (fault.isEmpty()) {
+                mLife.profile = name;
+                change();
+            }
+            done(fault);
+        };
+    }
+    QString save(const QString& name) override
+    {
+        return act({QStringLiteral("save"), name}, [this, &name] {
+            if (find(name) == mLife.profiles.end()) {
+                mLife.profiles.push_back({name, {}});
+            }
+            mLife.profile = name;
+        });
+    }
+    QString rename(const QString& name, const QString& newName) override
+    {
+        return act({QStringLiteral("rename"), name, newName}, [&] {
+            find(name)->name = newName;
+            mLife.profile = newName;
+        });
+    }
+    QString duplicate(const QString& name, const QString& newName) override
+    {
+        return act({QStringLiteral("duplicate"), name, newName}, [&] {
+            mLife.profiles.push_back({newName, find(name)->applications});
+        });
+    }
+    QString remove(const QString& name) override
+    {
+        return act({QStringLiteral("remove"), name}, [&] {
+            mLife.profiles.erase(find(name));
+            mLife.profile.clear();
+        });
+    }
+    QString setApplications(const QString& name, const QStringList& applications) override
+    {
+        return act(QStringList{QStringLiteral("set applications"), name} + applications,
+            [&] { find(name)->applications = applications; });
+    }
+    QString exportTo(const QString& name, const QString& file) override
+    {
+        return act({QStringLiteral("export"), name, file}, [] {});
+    }
+    Import readImport(const QString& file) override
+    {
+        note({QStringLiteral("read"), file});
+        return mLife.import;
+    }
+    QString keepImport(const Import& import, const std::vector<bool>& allowed) override
+    {
+        QString flags;
+        for (const bool isAllowed : allowed) {
+            flags += isAllowed ? u'+' : u'-';
+        }
+        EXPECT_EQ(import.contents, mLife.import.contents);
+        return act({QStringLiteral("import"), import.name, flags}, [&] {
+            mLife.profiles.push_back({import.name, import.applications});
+        });
+    }
+    QString faultOf(const QString& name) const override
+    {
+        return name == QLatin1String("bad") ? QStringLiteral("That is no name.") : QString();
+    }
+    void setChangeHandler(std::function<void()> handler) override { mChanged = std::move(handler); }
+
+    /** Tells that the list or the current profile has changed. */
+    void change() const
+    {
+        if (mChanged) {
+            mChanged();
+        }
+    }
+    bool isListenedTo() const { return mChanged != nullptr; }
+
+    Done useDone; ///< ends the last use()
+
+private:
+    std::vector<Profile>::iterator find(const QString& name)
+    {
+        return std::ranges::find(mLife.profiles, name, &Profile::name);
+    }
+    void note(const QStringList& words) { mLife.calls.append(words.join(u' ')); }
+    QString act(const QStringList& words, const std::function<void()>& how)
+    {
+        note(words);
+        if (mLife.profileFault.isEmpty()) {
+            how();
+            change();
+        }
+        return mLife.profileFault;
+    }
+
+    PaneLife& mLife;
+    std::function<void()> mChanged;
+};
+
 /** A pane that records its calls and sends the news that belongs to them. */
 class NotedPane final : public platform::PreferencePane {
 public:
     explicit NotedPane(PaneLife& life)
-        : mLife(life)
+        : noted(life)
+        , mLife(life)
     {
     }
 
@@ -103,6 +226,7 @@ public:
     }
     bool hasDevice() const override { return mLife.hasDevice; }
     bool hasChanges() const override { return mLife.hasChanges; }
+    platform::PaneProfiles* profiles() override { return mLife.hasProfiles ? &noted : nullptr; }
     void setButtonsShown(bool shown) override { note(shown ? "buttons shown" : "buttons hidden"); }
 
     void edit()
@@ -113,6 +237,7 @@ public:
     using PreferencePane::tell;
 
     std::function<void(const SelfCheck& check)> checkDone; ///< ends a self-check
+    NotedProfiles noted;
 
 private:
     void note(const char* call) { mLife.calls.append(QString::fromLatin1(call)); }

@@ -580,6 +580,34 @@ TEST_P(ShellWithMonitors, remembersWhatUndoAndCancelGoBackTo)
     EXPECT_EQ(notice(), kMoved);
 }
 
+TEST_P(ShellWithMonitors, saysNothingOfTheFormerMonitorWhenAProfileNamesAnother)
+{
+    show();
+    mLife.display = 1;
+    mPane->tell(News::SettingsReplaced);
+    EXPECT_EQ(notice(), QString());
+    mDisplays.monitors = {kRight, kLeft};
+    mPane->tell(News::DisplaysChanged);
+    EXPECT_EQ(
+        notice(), QStringLiteral("The monitor that you chose for the tablet is now display 2."));
+    mPane->tell(News::SettingsReplaced); // for the same display
+    EXPECT_NE(notice(), QString());
+}
+
+TEST_P(Shell, forgetsWhatWentWrongWithSettingsThatAProfileReplaces)
+{
+    mLife.canLoad = false;
+    show();
+    EXPECT_NE(notice(), QString());
+    mPane->tell(News::SettingsReplaced);
+    EXPECT_EQ(notice(), QString());
+    mLife.canSave = false;
+    mShell->save();
+    EXPECT_NE(notice(), QString());
+    mPane->tell(News::SettingsReplaced);
+    EXPECT_EQ(notice(), QString());
+}
+
 TEST_P(ShellWithMonitors, remembersNothingOfSettingsThatAreNotTheTablets)
 {
     mLife.canLoad = false;

@@ -6,10 +6,14 @@
 
 #include "Accessible.h"
 #include "ApplicationChooser.h"
+#include "ApplicationsDialog.h"
 #include "Geometry.h"
+#include "ImportDialog.h"
 #include "NotedPane.h"
 #include "PaneShell.h"
 #include "PaneTest.h"
+#include "ProfileBar.h"
+#include "ProfileNameDialog.h"
 #include "QVKeyComboBox.h"
 #include "QVKeySetClass.h"
 #include "QVPressFit.h"
@@ -28,12 +32,15 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
 #include <QRegularExpression>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QTabWidget>
 #include <QTextLayout>
+#include <QToolButton>
 
 #include <cmath>
 #include <functional>
@@ -393,11 +400,15 @@ TEST_P(Language, showsEachPageInTheRoomThatSystemSettingsLeaves)
     }
     mPane.setButtonsShown(false);
     show();
+    PaneLife life;
+    life.hasProfiles = true;
+    const PaneShell shell(std::make_unique<NotedPane>(life), PaneShell::Host::SettingsApplication);
     const auto hiddenBy = [](const QScrollArea& area) {
         return std::pair(
             area.horizontalScrollBar()->maximum(), area.verticalScrollBar()->maximum());
     };
-    mArea.resize(659, 562); // of a window of 930 by 650
+    // Of a window of 930 by 650, below the profiles.
+    mArea.resize(659, 562 - shell.topHeight());
     auto& tabs = outlet<QTabWidget>("tabView");
     for (int page = 0; page < tabs.count(); ++page) {
         tabs.setCurrentIndex(page);
@@ -406,9 +417,11 @@ TEST_P(Language, showsEachPageInTheRoomThatSystemSettingsLeaves)
     }
     tabs.setCurrentWidget(&outlet<QWidget>("displayPage"));
     settle();
+    // The picture, which is blank there, gives what the profiles take.
     const auto& picture = outlet<QScrollArea>("mMonitorScroll");
-    EXPECT_EQ(hiddenBy(picture), std::pair(0, 0));
-    EXPECT_GE(picture.viewport()->height(), outlet<QWidget>("mMonitorView").height());
+    constexpr int kBlank = 20;
+    EXPECT_EQ(hiddenBy(picture).first, 0);
+    EXPECT_LE(hiddenBy(picture).second, kBlank);
     // With less room, only the picture scrolls.
     mArea.resize(659, 440);
     settle();
@@ -450,6 +463,7 @@ TEST_P(Language, hasRoomForWhatGoesWrong)
     for (const PaneShell::Host host :
         {PaneShell::Host::Window, PaneShell::Host::SettingsApplication}) {
         PaneLife life;
+        life.hasProfiles = true;
         auto pane = std::make_unique<NotedPane>(life);
         NotedPane& noted = *pane;
         PaneShell shell(std::move(pane), host);
@@ -495,6 +509,92 @@ TEST_P(Language, hasRoomInTheDialogThatFitsThePressure)
     expectAllFits(dialog);
     expectGlyphs(textsOf(dialog));
     expectMnemonicsDiffer(textsOf(dialog), 3);
+}
+
+TEST_P(Language, hasRoomForTheProfiles)
+{
+    show();
+    PaneLife life;
+    life.hasProfiles = true;
+    PaneShell shell(std::make_unique<NotedPane>(life), PaneShell::Host::Window);
+    shell.willSelect();
+    shell.show();
+    shell.resize(shell.minimumSizeHint());
+    settle();
+    auto& bar = *shell.findChild<ProfileBar*>();
+    expectAllFits(bar);
+    expectGlyphs(textsOf(bar));
+    EXPECT_LE(bar.width(), mInterfaceFile.width());
+    QStringList items;
+    const auto actions = bar.findChild<QToolButton*>()->menu()->actions();
+    for (const QAction* const action : actions) {
+        items.append(action->text());
+    }
+    expectMnemonicsDiffer(items, 7);
+    items.removeAll(QString());
+    expectGlyphs(items);
+}
+
+TEST_P(Language, hasRoomInTheDialogsOfProfiles)
+{
+    show();
+    PaneLife life;
+    life.hasProfiles = true;
+    life.profiles = {{QStringLiteral("A"), {}}};
+    life.profile = QStringLiteral("A");
+    PaneShell shell(std::make_unique<NotedPane>(life), PaneShell::Host::Window);
+    shell.willSelect();
+    shell.show();
+    settle();
+    auto& bar = *shell.findChild<ProfileBar*>();
+    const auto lookAtDialog = [](int letters) {
+        auto* const dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        ASSERT_NE(dialog, nullptr);
+        settle();
+        expectAllFits(*dialog);
+        expectGlyphs(textsOf(*dialog));
+        expectMnemonicsDiffer(textsOf(*dialog), letters);
+    };
+    const auto close = [] {
+        while (QWidget* const dialog = QApplication::activeModalWidget()) {
+            dialog->close();
+        }
+    };
+    bar.findChild<QPushButton*>()->click();
+    lookAtDialog(3);
+    Q_EMIT qobject_cast<ProfileNameDialog*>(QApplication::activeModalWidget())
+        ->chosen(QStringLiteral("A"));
+    lookAtDialog(2); // the question whether to replace it
+    close();
+    const auto actions = bar.findChild<QToolButton*>()->menu()->actions();
+    for (const auto& [item, letters] :
+        {std::pair(0, 3), std::pair(1, 3), std::pair(2, 2), std::pair(3, 4)}) {
+        actions[item]->trigger();
+        lookAtDialog(letters);
+        close();
+    }
+}
+
+TEST_P(Language, hasRoomForAnImport)
+{
+    show();
+    platform::PaneProfiles::Import import;
+    import.name = QString(64, u'W');
+    import.changes = QStringList{QStringLiteral("A")};
+    import.leftOut = import.changes;
+    import.applications = import.changes;
+    import.starts = {{ QStringLiteral("1"), QStringLiteral("/usr/bin/true") }};
+    ImportDialog dialog(import, nullptr);
+    dialog.show();
+    settle();
+    expectAllFits(dialog);
+    expectMnemonicsDiffer(textsOf(dialog), 2);
+    const auto& list = *dialog.findChild<QListWidget*>();
+    for (int row = 0; row < list.count(); ++row) {
+        expectGlyphs(list.item(row)->text());
+        EXPECT_LE(list.visualItemRect(list.item(row)).width(), list.viewport()->width());
+    }
+    expectGlyphs(dialog.findChild<QCheckBox*>()->text());
 }
 
 TEST_P(Language, hasRoomForTheTextsWithoutATablet)
@@ -580,8 +680,9 @@ TEST_P(Language, reachesNoTwoControlsOfAPageWithTheSameLetter)
 {
     show();
     constexpr int kTabs = 3;
-    constexpr int kButtons = 2;
+    constexpr int kButtons = 4; // with those of the profiles
     PaneLife life;
+    life.hasProfiles = true;
     PaneShell shell(std::make_unique<NotedPane>(life), PaneShell::Host::Window);
     shell.willSelect();
     shell.show();

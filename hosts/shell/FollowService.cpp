@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "FollowService.h"
+
+#include "LivingBus.h"
+
+#include <QDBusError>
+#include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
+#include <QStringList>
+
+#include <chrono>
+#include <utility>
+
+namespace {
+
+constexpr QLatin1String kSystemd("org.freedesktop.systemd1");
+constexpr QLatin1String kSystemdPath("/org/freedesktop/systemd1");
+constexpr QLatin1String kSystemdManager("org.freedesktop.systemd1.Manager");
+constexpr QLatin1String kFollowUnit("qvtblt-follow.service");
+constexpr int kSystemdAnswerTime = 10000; ///< milliseconds
+constexpr std::chrono::milliseconds kBusTime(100);
+
+/** Whether nobody has got the call. */
+bool isUnheard(const QDBusMessage& reply)
+{
+    switch (QDBusError(reply).type()) {
+    case QDBusError::ServiceUnknown:
+    case QDBusError::NoServer:
+    case QDBusError::NoReply:
+    case QDBusError::TimedOut:
+    case QDBusError::Timeout:
+    case QDBusError::Disconnected:
+        return true;
+    default:
+        // Sent where the service must not be started; it has no type of its own.
+        return reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner");
+    }
+}
+
+} // namespace
+
+FollowService::FollowService(QObject* parent)
+    : QObject(parent)
+    , mConnection(QStringLiteral("qvtblt-follow-%1").arg(reinterpret_cast<quintptr>(this)))
+    , mBus(mConnection) // not connected yet: that takes time, and most users never need it
+{
+}
+
+FollowService::~FollowService()
+{
+    QDBusConnection::disconnectFromBus(mConnection);
+}
+
+bool FollowService::connectToBus()
+{
+    if (mBus.isConnected()) {
+        return true;
+    }
+    // Connecting to a bus that hangs would take half a minute.
+    if (!platform::sessionBusAnswers(kBusTime)) {
+        return false;
+    }
+    QDBusConnection::disconnectFromBus(mConnection); // it may have been lost
+    mBus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, mConnection);
+    return mBus.isConnected();
+}
+
+void FollowService::call(const char* method, const QVariantList& arguments, Next next)
+{
+    QDBusMessage message = QDBusMessage::createMethodCall(
+        kSystemd, kSystemdPath, kSystemdManager, QLatin1String(method));
+    message.setArguments(arguments);
+    message.setAutoStartService(false);
+    auto* const watcher =
+        new QDBusPendingCallWatcher(mBus.asyncCall(message, kSystemdAnswerTime), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+        [watcher, next = std::move(next)](QDBusPendingCallWatcher* /*answered*/) {
+            watcher->deleteLater();
+            next(watcher->reply());
+        });
+}
+
+void FollowService::refresh()
+{
+    if (mIsBusy) {
+        return; // the state is asked for at the end
+    }
+    if (!connectToBus()) {
+        become(std::nullopt, tr("Your session has no bus that answers."));
+        return;
+    }
+    mIsBusy = true;
+    call("GetUnitFileState", {QString(kFollowUnit)},
+        [this](const QDBusMessage& reply) { takeState(reply); });
+}
+
+void FollowService::takeState(const QDBusMessage& reply)
+{
+    mIsBusy = false;
+    const QString state = reply.arguments().value(0).toString();
+    if (isUnheard(reply)) {
+        become(std::nullopt,
+            tr("Your session has no systemd user manager, which would start the service."));
+    } else if (reply.type() == QDBusMessage::ErrorMessage) {
+        //: %1 is the name of a service of systemd.
+        become(std::nullopt, tr("The service %1 is not installed.").arg(kFollowUnit));
+    } else if (state.startsWith(QLatin1String("enabled"))) {
+        become(true, {});
+    } else if (state == QLatin1String("disabled")) {
+        become(false, {});
+    } else {
+        //: %1 is the name of a service of systemd, %2 one of systemd's words, such as "masked".
+        become(std::nullopt,
+            tr("The service %1 cannot be turned on: it is %2.").arg(kFollowUnit, state));
+    }
+}
+
+void FollowService::set(bool isOn)
+{
+    if (mIsBusy || !connectToBus()) {
+        refresh();
+        return;
+    }
+    mIsBusy = true;
+    const QStringList units{kFollowUnit};
+    const auto reload = [this, isOn](const QDBusMessage& reply) {
+        if (!goesOn(reply)) {
+            return;
+        }
+        call("Reload", {}, [this, isOn](const QDBusMessage& reloaded) {
+            if (!goesOn(reloaded)) {
+                return;
+            }
+            const QVariantList job{QString(kFollowUnit), QStringLiteral("replace")};
+            call(isOn ? "StartUnit" : "StopUnit", job, [this, isOn](const QDBusMessage& done) {
+                // What does not run need not be stopped.
+                const bool isGone = !isOn
+                    && done.errorName() == QLatin1String("org.freedesktop.systemd1.NoSuchUnit");
+                if (isGone || goesOn(done)) {
+                    finish();
+                }
+            });
+        });
+    };
+    // For all sessions, not only until the next start of the computer, and nothing by force.
+    if (isOn) {
+        call("EnableUnitFiles", {units, false, false}, reload);
+    } else {
+        call("DisableUnitFiles", {units, false}, reload);
+    }
+}
+
+bool FollowService::goesOn(const QDBusMessage& reply)
+{
+    if (reply.type() != QDBusMessage::ErrorMessage) {
+        return true;
+    }
+    finish();
+    //: %1 is the reason, in English.
+    Q_EMIT failed(tr("“Follow Applications” was not changed: %1").arg(reply.errorMessage()));
+    return false;
+}
+
+void FollowService::finish()
+{
+    mIsBusy = false;
+    refresh();
+}
+
+void FollowService::become(std::optional<bool> isOn, const QString& fault)
+{
+    mIsOn = isOn;
+    mFault = fault;
+    Q_EMIT changed();
+}

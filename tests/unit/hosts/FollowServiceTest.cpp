@@ -1,0 +1,210 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "FollowService.h"
+
+#include "FakeSystemd.h"
+#include "PrivateBus.h"
+#include "Wait.h"
+
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace {
+
+class Follow : public testing::Test {
+protected:
+    Follow()
+    {
+        QObject::connect(&mService, &FollowService::changed, [this] { ++mChanges; });
+        QObject::connect(
+            &mService, &FollowService::failed, [this](const QString& text) { mFailure = text; });
+    }
+
+    FakeSystemd& startSystemd() { return mSystemd.emplace(mBus.address()); }
+
+    /** Does something, and waits until the service says that it may have changed. */
+    template <class Act>
+    void andWait(const Act& act)
+    {
+        const int before = mChanges;
+        act();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return mChanges > before; }, kPatience));
+    }
+    void refresh()
+    {
+        andWait([this] { mService.refresh(); });
+    }
+    void set(bool isOn)
+    {
+        andWait([&] { mService.set(isOn); });
+    }
+
+    PrivateBus mBus;
+    std::optional<FakeSystemd> mSystemd;
+    FollowService mService;
+    int mChanges = 0;
+    QString mFailure;
+};
+
+const QString kAsked = QStringLiteral("GetUnitFileState s qvtblt-follow.service");
+
+} // namespace
+
+TEST_F(Follow, knowsNothingUntilItIsAsked)
+{
+    const FakeSystemd& systemd = startSystemd();
+    EXPECT_EQ(mService.isOn(), std::nullopt);
+    EXPECT_EQ(mService.fault(), QString());
+    EXPECT_EQ(systemd.calls, QStringList());
+}
+
+TEST_F(Follow, saysWhetherTheServiceIsStartedWithTheSession)
+{
+    FakeSystemd& systemd = startSystemd();
+    refresh();
+    EXPECT_EQ(mService.isOn(), false);
+    systemd.state = QStringLiteral("enabled");
+    refresh();
+    EXPECT_EQ(mService.isOn(), true);
+    EXPECT_EQ(mService.fault(), QString());
+    EXPECT_EQ(systemd.calls, (QStringList{kAsked, kAsked}));
+}
+
+TEST_F(Follow, turnsTheServiceOnForAllSessionsAndStartsIt)
+{
+    const FakeSystemd& systemd = startSystemd();
+    set(true);
+    EXPECT_EQ(mService.isOn(), true);
+    EXPECT_EQ(systemd.calls,
+        (QStringList{QStringLiteral("EnableUnitFiles asbb qvtblt-follow.service false false"),
+            QStringLiteral("Reload "), QStringLiteral("StartUnit ss qvtblt-follow.service replace"),
+            kAsked}));
+    EXPECT_EQ(mFailure, QString());
+}
+
+TEST_F(Follow, turnsTheServiceOffForAllSessionsAndStopsIt)
+{
+    FakeSystemd& systemd = startSystemd();
+    systemd.state = QStringLiteral("enabled");
+    set(false);
+    EXPECT_EQ(mService.isOn(), false);
+    EXPECT_EQ(systemd.calls,
+        (QStringList{QStringLiteral("DisableUnitFiles asb qvtblt-follow.service false"),
+            QStringLiteral("Reload "), QStringLiteral("StopUnit ss qvtblt-follow.service replace"),
+            kAsked}));
+}
+
+TEST_F(Follow, needsNoServiceThatRunsToTurnItOff)
+{
+    FakeSystemd& systemd = startSystemd();
+    systemd.state = QStringLiteral("enabled");
+    systemd.failing = QStringLiteral("StopUnit");
+    systemd.errorName = QStringLiteral("org.freedesktop.systemd1.NoSuchUnit");
+    set(false);
+    EXPECT_EQ(mService.isOn(), false);
+    EXPECT_EQ(mFailure, QString());
+}
+
+TEST_F(Follow, saysWhyTheServiceWasNotTurnedOnAndWhatItIsThen)
+{
+    FakeSystemd& systemd = startSystemd();
+    for (const char* const method : {"EnableUnitFiles", "Reload", "StartUnit"}) {
+        SCOPED_TRACE(method);
+        systemd.state = QStringLiteral("disabled");
+        systemd.failing = QString::fromLatin1(method);
+        mFailure.clear();
+        set(true);
+        EXPECT_EQ(
+            mFailure, QStringLiteral("“Follow Applications” was not changed: It does not work."));
+        EXPECT_EQ(mService.isOn(), systemd.state == QStringLiteral("enabled"));
+    }
+}
+
+TEST_F(Follow, saysThatThereIsNoServiceManager)
+{
+    refresh();
+    EXPECT_EQ(mService.isOn(), std::nullopt);
+    EXPECT_EQ(mService.fault(),
+        QStringLiteral("Your session has no systemd user manager, which would start the service."));
+    startSystemd();
+    refresh();
+    EXPECT_EQ(mService.isOn(), false) << "it has come meanwhile";
+    EXPECT_EQ(mService.fault(), QString());
+}
+
+TEST_F(Follow, saysThatTheServiceIsNotInstalled)
+{
+    FakeSystemd& systemd = startSystemd();
+    systemd.failing = QStringLiteral("GetUnitFileState");
+    refresh();
+    EXPECT_EQ(mService.isOn(), std::nullopt);
+    EXPECT_EQ(
+        mService.fault(), QStringLiteral("The service qvtblt-follow.service is not installed."));
+}
+
+TEST_F(Follow, saysThatTheServiceCannotBeTurnedOn)
+{
+    FakeSystemd& systemd = startSystemd();
+    systemd.state = QStringLiteral("masked");
+    refresh();
+    EXPECT_EQ(mService.isOn(), std::nullopt);
+    EXPECT_EQ(mService.fault(),
+        QStringLiteral("The service qvtblt-follow.service cannot be turned on: it is masked."));
+}
+
+TEST_F(Follow, findsABusThatHasComeBack)
+{
+    startSystemd();
+    refresh();
+    mSystemd.reset();
+    mBus.stop();
+    // The connection may take notice a little later.
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] {
+            refresh();
+            return mService.fault() == QStringLiteral("Your session has no bus that answers.");
+        },
+        kPatience));
+    EXPECT_EQ(mService.isOn(), std::nullopt);
+    mBus.start();
+    startSystemd();
+    refresh();
+    EXPECT_EQ(mService.isOn(), false);
+}
+
+TEST_F(Follow, neverHasTheBusStartAServiceManager)
+{
+    // What a bus would start runs long enough to be seen.
+    QTemporaryDir folder;
+    const QString mark = folder.filePath(QStringLiteral("started"));
+    QFile file(folder.filePath(QStringLiteral("org.freedesktop.systemd1.service")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QStringLiteral("[D-BUS Service]\nName=org.freedesktop.systemd1\n"
+                              "Exec=/usr/bin/touch %1\n")
+                   .arg(mark)
+                   .toUtf8());
+    file.close();
+    const PrivateBus bus(folder.path());
+    FollowService service;
+    bool isAnswered = false;
+    QObject::connect(&service, &FollowService::changed, [&] { isAnswered = true; });
+    service.refresh();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isAnswered; }, kPatience));
+    EXPECT_EQ(service.isOn(), std::nullopt);
+    EXPECT_FALSE(QFile::exists(mark));
+}
+
+TEST_F(Follow, mayEndBeforeTheAnswer)
+{
+    const FakeSystemd& systemd = startSystemd();
+    {
+        FollowService service;
+        service.set(true);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !systemd.calls.isEmpty(); }, kPatience));
+    }
+    refresh();
+    EXPECT_EQ(mService.isOn(), true) << "what was asked for has been done";
+}

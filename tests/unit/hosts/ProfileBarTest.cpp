@@ -1,0 +1,649 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#include "ProfileBar.h"
+
+#include "ApplicationsDialog.h"
+#include "FakeSystemd.h"
+#include "FollowService.h"
+#include "ImportDialog.h"
+#include "NotedPane.h"
+#include "PaneShell.h"
+#include "PrivateBus.h"
+#include "ProfileNameDialog.h"
+#include "TemporaryHome.h"
+#include "Wait.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QTest>
+#include <QToolButton>
+#include <QWheelEvent>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace {
+
+using News = platform::PreferencePane::News;
+
+class Bar : public testing::Test {
+protected:
+    Bar()
+    {
+        QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs);
+        mLife.hasProfiles = true;
+        mLife.profiles = {{QStringLiteral("Modelling"), {}},
+            {QStringLiteral("Painting"), {QStringLiteral("org.example.Paint")}},
+            {QStringLiteral("R&D <b>"), {}}};
+        mLife.profile = QStringLiteral("Painting");
+        mLife.settings = "a1";
+        auto pane = std::make_unique<NotedPane>(mLife);
+        mPane = pane.get();
+        mShell = std::make_unique<PaneShell>(std::move(pane), PaneShell::Host::Window);
+    }
+
+    void show()
+    {
+        mShell->willSelect();
+        mShell->show();
+        mShell->didSelect();
+        mLife.take();
+    }
+    void reopen()
+    {
+        mPane->tell(News::DeviceMayHaveChanged);
+        mLife.device = platform::PreferencePane::Device::Other;
+        QCoreApplication::processEvents();
+        mLife.take();
+    }
+
+    ProfileBar& bar() { return *mShell->findChild<ProfileBar*>(); }
+    QComboBox& list() { return *bar().findChild<QComboBox*>(); }
+    QStringList names()
+    {
+        QStringList names;
+        for (int i = 0; i < list().count(); ++i) {
+            names.append(list().itemText(i));
+        }
+        return names;
+    }
+    /** Chooses an item as a user does. */
+    void choose(const char* name)
+    {
+        list().setFocus();
+        list().showPopup();
+        const int index = list().findText(QString::fromUtf8(name));
+        ASSERT_GE(index, 0) << name;
+        list().view()->setCurrentIndex(list().model()->index(index, 0));
+        QTest::keyClick(list().view(), Qt::Key_Return);
+    }
+
+    QAction* action(const char* text)
+    {
+        const auto actions = bar().findChild<QToolButton*>()->menu()->actions();
+        for (QAction* const action : actions) {
+            if (QString(action->text()).remove(u'&') == QString::fromUtf8(text)) {
+                return action;
+            }
+        }
+        ADD_FAILURE() << "there is no item " << text;
+        return nullptr;
+    }
+    void trigger(const char* text)
+    {
+        mLife.take();
+        action(text)->trigger();
+    }
+    QStringList disabled()
+    {
+        QStringList texts;
+        const auto actions = bar().findChild<QToolButton*>()->menu()->actions();
+        for (const QAction* const action : actions) {
+            if (!action->isEnabled() && !action->isSeparator()) {
+                texts.append(QString(action->text()).remove(u'&'));
+            }
+        }
+        return texts;
+    }
+
+    /** The dialog of that kind that is open; null if there is none. */
+    template <class Dialog>
+    Dialog* dialog()
+    {
+        return qobject_cast<Dialog*>(QApplication::activeModalWidget());
+    }
+    static void press(QDialog& dialog, const char* text)
+    {
+        const auto buttons = dialog.findChildren<QPushButton*>();
+        for (QPushButton* const button : buttons) {
+            if (QString(button->text()).remove(u'&') == QString::fromUtf8(text)) {
+                EXPECT_TRUE(button->isEnabled()) << text;
+                button->click();
+                return;
+            }
+        }
+        ADD_FAILURE() << "there is no button " << text;
+    }
+    static QPushButton* defaultButton(const QDialog& dialog)
+    {
+        const auto buttons = dialog.findChildren<QPushButton*>();
+        for (QPushButton* const button : buttons) {
+            if (button->isDefault()) {
+                return button;
+            }
+        }
+        return nullptr;
+    }
+    /** Expects an alert with that text, and closes it. */
+    void expectTold(const char* text)
+    {
+        auto* const message = dialog<QMessageBox>();
+        ASSERT_NE(message, nullptr) << text;
+        EXPECT_EQ(message->text(), QString::fromUtf8(text));
+        EXPECT_EQ(message->textFormat(), Qt::PlainText);
+        message->reject();
+    }
+    QPushButton& saveAs() { return *bar().findChild<QPushButton*>(); }
+
+    TemporaryHome mHome;
+    PaneLife mLife;
+    NotedPane* mPane = nullptr;
+    std::unique_ptr<PaneShell> mShell;
+};
+
+QStringList calls(std::initializer_list<const char*> names)
+{
+    QStringList list;
+    for (const char* const name : names) {
+        list.append(QString::fromUtf8(name));
+    }
+    return list;
+}
+
+} // namespace
+
+// The list ----------------------------------------------------------------------------------------
+
+TEST_F(Bar, showsTheProfilesAndWhichOneIsCurrent)
+{
+    show();
+    EXPECT_TRUE(bar().isVisible());
+    EXPECT_EQ(names(), calls({"Modelling", "Painting", "R&D <b>"}));
+    EXPECT_EQ(list().currentText(), QStringLiteral("Painting"));
+}
+
+TEST_F(Bar, isOnlyThereWithADeviceThatHasProfiles)
+{
+    mLife.hasDevice = false;
+    show();
+    EXPECT_FALSE(bar().isVisible());
+    mLife.hasDevice = true;
+    reopen();
+    EXPECT_TRUE(bar().isVisible());
+    EXPECT_EQ(mShell->topHeight(), bar().height());
+    mLife.hasProfiles = false;
+    reopen();
+    EXPECT_FALSE(bar().isVisible());
+    EXPECT_EQ(mShell->topHeight(), 0);
+}
+
+TEST_F(Bar, saysNoneWhileTheSettingsAreThoseOfNoProfile)
+{
+    mLife.profile.clear();
+    show();
+    EXPECT_EQ(names(), calls({"None", "Modelling", "Painting", "R&D <b>"}));
+    EXPECT_EQ(list().currentIndex(), 0);
+    choose("None");
+    EXPECT_EQ(mLife.take(), QStringList());
+    choose("Modelling");
+    EXPECT_EQ(mLife.take(), calls({"use Modelling"}));
+    mPane->noted.useDone({});
+    EXPECT_EQ(names(), calls({"Modelling", "Painting", "R&D <b>"}));
+    EXPECT_EQ(list().currentText(), QStringLiteral("Modelling"));
+}
+
+TEST_F(Bar, usesAProfileThatIsCalledNone)
+{
+    mLife.profile.clear();
+    mLife.profiles = {{QStringLiteral("None"), {}}};
+    show();
+    ASSERT_EQ(list().count(), 2);
+    list().setFocus();
+    QTest::keyClick(&list(), Qt::Key_Down); // opens the list, and goes to the second item
+    QTest::keyClick(list().view(), Qt::Key_Return);
+    EXPECT_EQ(mLife.take(), calls({"use None"}));
+}
+
+TEST_F(Bar, followsWhatOthersDo)
+{
+    show();
+    mLife.profiles.erase(mLife.profiles.begin());
+    mLife.profile = QStringLiteral("R&D <b>");
+    mPane->noted.change();
+    EXPECT_EQ(names(), calls({"Painting", "R&D <b>"}));
+    EXPECT_EQ(list().currentText(), QStringLiteral("R&D <b>"));
+    EXPECT_EQ(mLife.take(), QStringList()) << "nothing is used again";
+}
+
+TEST_F(Bar, leavesTheOpenListAsItIsWhenNothingInItHasChanged)
+{
+    show();
+    list().setFocus();
+    list().showPopup();
+    const int row = list().findText(QStringLiteral("R&D <b>"));
+    list().view()->setCurrentIndex(list().model()->index(row, 0));
+    mPane->noted.change();
+    EXPECT_TRUE(list().view()->isVisible());
+    EXPECT_EQ(list().view()->currentIndex().row(), row);
+    QTest::keyClick(list().view(), Qt::Key_Return);
+    EXPECT_EQ(mLife.take(), calls({"use R&D <b>"}));
+}
+
+TEST_F(Bar, goesBackToTheCurrentProfileWhenAnotherCannotBeUsed)
+{
+    show();
+    choose("Modelling");
+    EXPECT_EQ(mLife.take(), calls({"use Modelling"}));
+    mPane->noted.useDone(QStringLiteral("A <b>calibration</b> runs."));
+    EXPECT_EQ(list().currentText(), QStringLiteral("Painting"));
+    expectTold("A <b>calibration</b> runs.");
+}
+
+TEST_F(Bar, usesTheCurrentProfileAgain)
+{
+    show();
+    choose("Painting");
+    EXPECT_EQ(mLife.take(), calls({"use Painting"}));
+}
+
+TEST_F(Bar, choosesNothingByTheWheelOrByAKeyOnTheClosedList)
+{
+    show();
+    list().setFocus();
+    const QPoint place(5, 5);
+    QWheelEvent wheel(place, list().mapToGlobal(place), QPoint(), QPoint(0, -120), Qt::NoButton,
+        Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&list(), &wheel);
+    for (const Qt::Key key : {Qt::Key_Down, Qt::Key_End, Qt::Key_M, Qt::Key_Space}) {
+        QTest::keyClick(&list(), key);
+        EXPECT_TRUE(list().view()->isVisible()) << key;
+        QTest::keyClick(list().view(), Qt::Key_Escape);
+        EXPECT_EQ(list().currentText(), QStringLiteral("Painting")) << key;
+    }
+    EXPECT_EQ(mLife.take(), QStringList());
+}
+
+TEST_F(Bar, keepsTheFocusWhenAProfileIsUsed)
+{
+    show();
+    mShell->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mShell.get(), kPatience));
+    choose("Modelling");
+    mPane->noted.useDone({});
+    mPane->tell(News::SettingsReplaced);
+    EXPECT_EQ(QApplication::focusWidget(), &list());
+}
+
+TEST_F(Bar, elidesALongNameAndShowsAllOfItOnRequest)
+{
+    const QString longName = QString(64, u'W');
+    mLife.profiles = {{longName, {}}};
+    mLife.profile = longName;
+    show();
+    const int width = bar().minimumSizeHint().width();
+    EXPECT_LT(width, 700);
+    EXPECT_EQ(list().itemText(0), longName);
+    const QImage elided = list().grab().toImage();
+    list().setItemText(0, QString(63, u'W') + u'X');
+    EXPECT_EQ(list().grab().toImage(), elided) << "its end is not drawn";
+    list().showPopup();
+    EXPECT_GT(list().view()->width(), list().width()) << "where there is room";
+}
+
+// Saving ------------------------------------------------------------------------------------------
+
+TEST_F(Bar, savesUnderTheNameOfTheCurrentProfileAfterAQuestion)
+{
+    show();
+    saveAs().click();
+    auto* const dialog = this->dialog<ProfileNameDialog>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), QStringLiteral("Painting"));
+    press(*dialog, "Save");
+    auto* question = this->dialog<QMessageBox>();
+    ASSERT_NE(question, nullptr);
+    EXPECT_EQ(question->text(),
+        QStringLiteral(
+            "There is a profile “Painting” already. Replace it with the current settings?"));
+    EXPECT_EQ(QString(defaultButton(*question)->text()).remove(u'&'), QStringLiteral("Cancel"));
+    QTest::keyClick(question, Qt::Key_Escape);
+    EXPECT_EQ(mLife.take(), QStringList());
+    ASSERT_EQ(this->dialog<ProfileNameDialog>(), dialog) << "for another name";
+    press(*dialog, "Save");
+    question = this->dialog<QMessageBox>();
+    ASSERT_NE(question, nullptr);
+    press(*question, "Replace");
+    EXPECT_EQ(mLife.take(), calls({"save Painting"}));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Bar, savesUnderANewNameAtOnce)
+{
+    mLife.profile.clear();
+    show();
+    saveAs().click();
+    auto* const dialog = this->dialog<ProfileNameDialog>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), QString());
+    QTest::keyClicks(dialog->findChild<QLineEdit*>(), QStringLiteral("Sketching"));
+    QTest::keyClick(dialog, Qt::Key_Return);
+    EXPECT_EQ(mLife.take(), calls({"save Sketching"}));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(list().currentText(), QStringLiteral("Sketching"));
+}
+
+TEST_F(Bar, takesNoNameThatCannotBeOneAndSaysWhy)
+{
+    show();
+    saveAs().click();
+    auto* const dialog = this->dialog<ProfileNameDialog>();
+    ASSERT_NE(dialog, nullptr);
+    auto& line = *dialog->findChild<QLineEdit*>();
+    const auto says = [dialog](const char* text) {
+        const auto labels = dialog->findChildren<QLabel*>();
+        return std::ranges::any_of(labels, [text](const QLabel* label) {
+            return label->isVisible() && label->text() == QString::fromUtf8(text);
+        });
+    };
+    EXPECT_FALSE(says("That is no name."));
+    line.setText(QStringLiteral("bad"));
+    EXPECT_TRUE(says("That is no name."));
+    EXPECT_FALSE(defaultButton(*dialog)->isEnabled());
+    QTest::keyClick(&line, Qt::Key_Return);
+    EXPECT_EQ(mLife.take(), QStringList());
+    line.setText(QStringLiteral("good"));
+    EXPECT_FALSE(says("That is no name."));
+    EXPECT_TRUE(defaultButton(*dialog)->isEnabled());
+    mLife.profileFault = QStringLiteral("The disk is full.");
+    QTest::keyClick(&line, Qt::Key_Return);
+    EXPECT_EQ(mLife.take(), calls({"save good"}));
+    EXPECT_TRUE(dialog->isVisible()) << "for another attempt";
+    EXPECT_TRUE(says("The disk is full."));
+    mLife.profileFault.clear();
+    QTest::keyClick(&line, Qt::Key_Return);
+    EXPECT_EQ(mLife.take(), calls({"save good"}));
+    EXPECT_FALSE(dialog->isVisible());
+}
+
+// The menu ----------------------------------------------------------------------------------------
+
+TEST_F(Bar, offersNothingOfTheCurrentProfileWithoutOne)
+{
+    show();
+    EXPECT_EQ(disabled(), calls({"Follow Applications"})) << "while that is unknown";
+    mLife.profile.clear();
+    mPane->noted.change();
+    EXPECT_EQ(disabled(),
+        calls({"Rename…", "Duplicate…", "Delete…", "Applications…", "Export…",
+            "Follow Applications"}));
+}
+
+TEST_F(Bar, renamesTheCurrentProfile)
+{
+    show();
+    trigger("Rename…");
+    auto* const dialog = this->dialog<ProfileNameDialog>();
+    ASSERT_NE(dialog, nullptr);
+    auto& line = *dialog->findChild<QLineEdit*>();
+    EXPECT_EQ(line.text(), QStringLiteral("Painting"));
+    EXPECT_EQ(line.selectedText(), QStringLiteral("Painting"));
+    QTest::keyClicks(&line, QStringLiteral("Ink & wash"));
+    press(*dialog, "Rename");
+    EXPECT_EQ(mLife.take(), calls({"rename Painting Ink & wash"}));
+    EXPECT_EQ(list().currentText(), QStringLiteral("Ink & wash"));
+    trigger("Rename…");
+    press(*this->dialog<ProfileNameDialog>(), "Rename");
+    EXPECT_EQ(mLife.take(), QStringList()) << "it has that name";
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Bar, duplicatesTheCurrentProfileUnderAFreeName)
+{
+    mLife.profiles.push_back({QStringLiteral("Painting 2"), {}});
+    show();
+    trigger("Duplicate…");
+    auto* const dialog = this->dialog<ProfileNameDialog>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), QStringLiteral("Painting 3"));
+    press(*dialog, "Duplicate");
+    EXPECT_EQ(mLife.take(), calls({"duplicate Painting Painting 3"}));
+    EXPECT_EQ(list().currentText(), QStringLiteral("Painting"));
+}
+
+TEST_F(Bar, deletesTheCurrentProfileOnlyOnPurpose)
+{
+    show();
+    trigger("Delete…");
+    auto* question = dialog<QMessageBox>();
+    ASSERT_NE(question, nullptr);
+    EXPECT_EQ(question->text(),
+        QStringLiteral("Delete the profile “Painting”? The tablet keeps its settings."));
+    QTest::keyClick(question, Qt::Key_Return);
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    EXPECT_EQ(mLife.take(), QStringList()) << "by default, it is kept";
+    trigger("Delete…");
+    question = dialog<QMessageBox>();
+    ASSERT_NE(question, nullptr);
+    press(*question, "Delete");
+    EXPECT_EQ(mLife.take(), calls({"remove Painting"}));
+    EXPECT_EQ(names(), calls({"None", "Modelling", "R&D <b>"}));
+}
+
+TEST_F(Bar, saysWhyAProfileWasNotDeleted)
+{
+    show();
+    mLife.profileFault = QStringLiteral("The folder is locked.");
+    trigger("Delete…");
+    ASSERT_NE(dialog<QMessageBox>(), nullptr);
+    press(*dialog<QMessageBox>(), "Delete");
+    expectTold("The folder is locked.");
+}
+
+TEST_F(Bar, exportsTheCurrentProfileToTheChosenFile)
+{
+    mLife.profiles = {{QStringLiteral("Ink/wash"), {}}};
+    mLife.profile = QStringLiteral("Ink/wash");
+    show();
+    trigger("Export…");
+    auto* const dialog = this->dialog<QFileDialog>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptSave);
+    EXPECT_EQ(
+        QFileInfo(dialog->selectedFiles().value(0)).fileName(), QStringLiteral("Ink-wash.plist"));
+    const QString file = mHome.path() + QStringLiteral("/mine.plist");
+    mLife.profileFault = QStringLiteral("The disk is full.");
+    Q_EMIT dialog->fileSelected(file);
+    dialog->reject();
+    EXPECT_EQ(mLife.take(), QStringList{QStringLiteral("export Ink/wash ") + file});
+    expectTold("The disk is full.");
+}
+
+TEST_F(Bar, importsWhatTheUserHasSeen)
+{
+    mLife.import.name = QStringLiteral("Theirs");
+    mLife.import.starts = {{QStringLiteral("Express key 1"), QStringLiteral("/a")},
+        {QStringLiteral("Express key 2"), QStringLiteral("/b")}};
+    mLife.import.contents = std::make_shared<int>(1);
+    show();
+    const QString file = mHome.path() + QStringLiteral("/theirs.plist");
+    const auto open = [&] {
+        trigger("Import…");
+        auto* const dialog = this->dialog<QFileDialog>();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFile);
+        dialog->reject();
+        Q_EMIT dialog->fileSelected(file);
+    };
+    open();
+    EXPECT_EQ(mLife.take(), QStringList{QStringLiteral("read ") + file});
+    ASSERT_NE(dialog<ImportDialog>(), nullptr);
+    press(*dialog<ImportDialog>(), "Cancel");
+    EXPECT_EQ(mLife.take(), QStringList());
+    open();
+    mLife.take();
+    auto* const dialog = this->dialog<ImportDialog>();
+    ASSERT_NE(dialog, nullptr);
+    const auto boxes = dialog->findChildren<QCheckBox*>();
+    ASSERT_EQ(boxes.size(), 2);
+    boxes[1]->click();
+    press(*dialog, "Import");
+    EXPECT_EQ(mLife.take(), calls({"import Theirs -+"}));
+    EXPECT_TRUE(names().contains(QStringLiteral("Theirs")));
+    EXPECT_EQ(list().currentText(), QStringLiteral("Painting")) << "it is only listed";
+}
+
+TEST_F(Bar, saysWhyAFileCannotBeImported)
+{
+    mLife.import.error = QStringLiteral("This is no profile.");
+    show();
+    trigger("Import…");
+    auto* const dialog = this->dialog<QFileDialog>();
+    ASSERT_NE(dialog, nullptr);
+    dialog->reject();
+    Q_EMIT dialog->fileSelected(QStringLiteral("/theirs.plist"));
+    expectTold("This is no profile.");
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+TEST_F(Bar, changesWhatTheProfileIsFor)
+{
+    show();
+    trigger("Applications…");
+    auto* const dialog = this->dialog<ApplicationsDialog>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(dialog->applications(), calls({"org.example.Paint"}));
+    press(*dialog, "Remove");
+    press(*dialog, "OK");
+    EXPECT_EQ(mLife.take(), calls({"set applications Painting"}));
+}
+
+TEST_F(Bar, saysWhyProfilesCannotFollowApplications)
+{
+    const PrivateBus bus; // without a service manager
+    show();
+    QAction& follow = *action("Follow Applications");
+    EXPECT_TRUE(follow.isCheckable());
+    QMenu& menu = *bar().findChild<QToolButton*>()->menu();
+    Q_EMIT menu.aboutToShow();
+    const QString fault =
+        QStringLiteral("Your session has no systemd user manager, which would start the service.");
+    EXPECT_TRUE(QTest::qWaitFor([&] { return follow.toolTip() == fault; }, kPatience));
+    EXPECT_FALSE(follow.isEnabled());
+    EXPECT_TRUE(menu.toolTipsVisible());
+}
+
+TEST_F(Bar, hasProfilesFollowApplicationsWhenTheUserSaysSo)
+{
+    const PrivateBus bus;
+    FakeSystemd systemd(bus.address());
+    show();
+    QAction& follow = *action("Follow Applications");
+    int changes = 0;
+    QObject::connect(
+        bar().findChild<FollowService*>(), &FollowService::changed, [&changes] { ++changes; });
+    const auto andWait = [&](const auto& act) {
+        const int before = changes;
+        act();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return changes > before; }, kPatience));
+    };
+    andWait([this] { Q_EMIT bar().findChild<QToolButton*>()->menu()->aboutToShow(); });
+    EXPECT_TRUE(follow.isEnabled());
+    EXPECT_FALSE(follow.isChecked());
+    EXPECT_EQ(follow.toolTip(),
+        QStringLiteral("Use a profile while one of its applications is in front"));
+    andWait([&] { follow.trigger(); });
+    EXPECT_EQ(systemd.state, QStringLiteral("enabled"));
+    EXPECT_TRUE(follow.isChecked());
+    andWait([&] { follow.trigger(); });
+    EXPECT_EQ(systemd.state, QStringLiteral("disabled"));
+    EXPECT_FALSE(follow.isChecked());
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    systemd.failing = QStringLiteral("EnableUnitFiles");
+    andWait([&] { follow.trigger(); });
+    EXPECT_FALSE(follow.isChecked());
+    expectTold("“Follow Applications” was not changed: It does not work.");
+}
+
+// Around it ---------------------------------------------------------------------------------------
+
+TEST_F(Bar, beginsTheEditsAnewWhenAProfileIsUsed)
+{
+    show();
+    mLife.settings = "a2";
+    mPane->edit();
+    const auto undo = [this] {
+        const auto actions = mShell->actions();
+        return *std::ranges::find_if(actions, [](const QAction* candidate) {
+            return candidate->shortcut() == QKeySequence(QStringLiteral("Ctrl+Z"));
+        });
+    };
+    EXPECT_TRUE(undo()->isEnabled());
+    mLife.settings = "b1";
+    mPane->edit();
+    mPane->tell(News::SettingsReplaced);
+    EXPECT_FALSE(undo()->isEnabled());
+    mLife.settings = "b2";
+    mPane->edit();
+    undo()->trigger();
+    EXPECT_EQ(mLife.settings, "b1");
+}
+
+TEST_F(Bar, closesItsDialogsWhenTheTabletIsAnother)
+{
+    show();
+    saveAs().click();
+    const QPointer<ProfileNameDialog> dialog = this->dialog<ProfileNameDialog>();
+    ASSERT_FALSE(dialog.isNull());
+    press(*dialog, "Save");
+    const QPointer<QMessageBox> question = this->dialog<QMessageBox>();
+    ASSERT_FALSE(question.isNull());
+    reopen();
+    EXPECT_TRUE(dialog.isNull() || !dialog->isVisible());
+    EXPECT_TRUE(question.isNull() || !question->isVisible());
+}
+
+TEST_F(Bar, mayGoWhileItsDialogIsOpenAndAProfileIsChosen)
+{
+    show();
+    choose("Modelling");
+    const auto done = mPane->noted.useDone;
+    saveAs().click();
+    const QPointer<ProfileNameDialog> dialog = this->dialog<ProfileNameDialog>();
+    ASSERT_FALSE(dialog.isNull());
+    mShell.reset();
+    EXPECT_TRUE(dialog.isNull());
+}
+
+TEST_F(Bar, isBeforeThePaneForTheTabKey)
+{
+    show();
+    mShell->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(mShell.get(), kPatience));
+    list().setFocus();
+    QTest::keyClick(&list(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &saveAs());
+    QTest::keyClick(&saveAs(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), bar().findChild<QToolButton*>());
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), mShell->view().findChild<QCheckBox*>());
+}
