@@ -94,7 +94,8 @@ class Contents(unittest.TestCase):
     def test_desktop_entries_and_metadata_are_valid(self):
         entries = sorted(self.usr.glob("share/applications/*"))
         self.assertEqual([entry.name for entry in entries],
-                         ["org.quorvia.qvtblt.desktop", "org.quorvia.tdsg-driver.desktop"])
+                         ["org.quorvia.next-profile.desktop", "org.quorvia.qvtblt.desktop",
+                          "org.quorvia.tdsg-driver.desktop"])
         for entry in entries:
             self.assertEqual(run("desktop-file-validate", entry), "")
             icon = re.search(r"^Icon=(.*)$", entry.read_text(), re.MULTILINE)[1]
@@ -116,12 +117,21 @@ class Contents(unittest.TestCase):
         for key, other in (("Exec", "ExecStart"), ("Name", "BusName")):
             value = re.search(rf"^{key}=(.*)$", service, re.MULTILINE)[1]
             self.assertIn(f"\n{other}={value}\n", text)
+        self.check_unit(unit)
+
+    def test_the_followers_unit_is_valid(self):
+        self.assertIn("follow", self.check_unit("qvtblt-follow.service"))
+
+    def check_unit(self, unit):
+        """Checks a unit, and returns what it says."""
+        text = (self.usr / "lib/systemd/user" / unit).read_text()
         # The program is not installed here, so check the unit with the unpacked one.
         copy = self.unpacked / unit
         copy.write_text(text.replace("ExecStart=", f"ExecStart={self.unpacked}"))
         said = run("systemd-analyze", "--user", "--man=no", "verify", copy,
                    env=os.environ | {"XDG_RUNTIME_DIR": str(self.unpacked)})
         self.assertNotIn(unit, said)
+        return text
 
     def test_the_virtual_pens_quirks_are_valid(self):
         run("libinput", "quirks", "validate", "--data-dir", self.usr / "share/libinput")
@@ -139,7 +149,7 @@ class Contents(unittest.TestCase):
             with self.subTest(program=program):
                 text = self.manual(program)
                 self.assertNotRegex(text, "warning|can't")
-                told = set(re.findall(r"(?<![\w-])--[\w-]+", text)) - {"--user", "--json"}
+                told = set(re.findall(r"(?<![\w-])--[\w-]+", text)) - {"--user", "--json", "--now"}
                 self.assertEqual(told, self.options(program))
 
     def complete(self, line):
@@ -166,6 +176,10 @@ class Contents(unittest.TestCase):
                          set(commands))
         self.assertEqual(self.complete("qvtbltctl usb-mode f"), {"fast"})
         self.assertEqual(self.complete("qvtbltctl sim "), {"tap"})
+        self.assertEqual(self.complete("qvtbltctl profile "),
+                         {"delete", "export", "import", "list", "next", "rename", "save", "use"})
+        self.assertEqual(self.complete("qvtbltctl profile import us"), {"usr"})
+        self.assertEqual(self.complete("qvtbltctl profile list --"), {"--json"})
         self.assertEqual(self.complete("qvtbltctl check us"), {"usr"})
         self.assertEqual(self.complete("qvtbltctl show u"), {"usr"})
         self.assertEqual(self.complete("qvtbltctl show --"), {"--json"})
