@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <type_traits>
 #include <vector>
 
 /**
@@ -13,6 +14,7 @@
  * it, so that a slowdown of the machine affects both. The counters hold the medians in microseconds
  * and their ratio.
  *
+ * @param work its end is when it returns, or the time that it returns
  * @param rest called untimed after each, to let pending work finish
  */
 template <class Work, class Floor, class Rest>
@@ -22,9 +24,14 @@ void timePaired(benchmark::State& state, const Work& work, const Floor& floor, c
     std::vector<double> floored;
     const auto time = [&](const auto& piece, std::vector<double>& times) {
         const auto start = std::chrono::steady_clock::now();
-        piece();
-        const std::chrono::duration<double, std::micro> passed =
-            std::chrono::steady_clock::now() - start;
+        auto end = start;
+        if constexpr (std::is_void_v<decltype(piece())>) {
+            piece();
+            end = std::chrono::steady_clock::now();
+        } else {
+            end = piece();
+        }
+        const std::chrono::duration<double, std::micro> passed = end - start;
         times.push_back(passed.count());
         rest();
         return passed.count() * 1e-6;
