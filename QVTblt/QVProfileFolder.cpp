@@ -261,7 +261,11 @@ QString QVProfileFolder::freeName(const QString& name) const
     QString free = name;
     for (int number = 2; std::ranges::find(items, free, &Item::name) != items.end(); ++number) {
         const QString suffix = QStringLiteral(" %1").arg(number);
-        free = name.left(kQVProfileNameSize - static_cast<int>(suffix.size())) + suffix;
+        free = name;
+        while ((free + suffix).toUcs4().size() > kQVProfileNameSize) {
+            free.chop(std::as_const(free).back().isLowSurrogate() ? 2 : 1);
+        }
+        free += suffix;
     }
     return free;
 }

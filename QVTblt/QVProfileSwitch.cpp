@@ -98,6 +98,7 @@ void QVProfileSwitch::map()
     std::vector<platform::Rect> bounds;
     std::ranges::transform(*active, std::back_inserter(bounds),
         [&](platform::DisplayID display) { return displays.bounds(display); });
+    bounds.resize(std::min<std::size_t>(bounds.size(), kQVMaxDisplays));
     QVMapChosenDisplay(qvTabletInfo, bounds);
 }
 
@@ -148,27 +149,29 @@ Result<> QVProfileSwitch::put(const QString& name, QVChooser chooser)
     if (const Result<> kept = keepEdits(*profile, choice.current); !kept) {
         return kept;
     }
-    tagQVTabletInfo wanted = qvTabletInfo;
-    QVApplyProfile(*profile, wanted);
-    const std::int16_t speed = qvTabletInfo.Monitor.Speed;
-    if (const Result<> saved = mStore.saveRecord(QVConfigStore::configPath(), wanted); !saved) {
+    const tagQVTabletInfo before = qvTabletInfo;
+    QVApplyProfile(*profile, qvTabletInfo);
+    map(); // the displays may be others than when the profile was made
+    if (const Result<> saved = mStore.saveRecord(QVConfigStore::configPath()); !saved) {
+        qvTabletInfo = before;
         return saved;
     }
     if (const auto loaded = mStore.loadTabletsRecord(); !loaded) {
         return loaded.error();
     }
-    map();
     show();
-    if (qvTabletInfo.Monitor.Speed != speed) {
+    // What the driver has comes first: the hand may be on the tablet.
+    Result<> pushed = push();
+    if (pushed) { // otherwise, it can be tried again
+        choice.current = name;
+        if (chooser == QVChooser::User) {
+            choice.chosen = name;
+        }
+        choice.save(product);
+    }
+    if (qvTabletInfo.Monitor.Speed != before.Monitor.Speed) {
         QVSendReportSpeed();
     }
-    Result<> pushed = push();
-    // What the driver has comes first: the hand may be on the tablet.
-    choice.current = name;
-    if (chooser == QVChooser::User) {
-        choice.chosen = name;
-    }
-    choice.save(product);
     changed(true);
     return pushed;
 }
@@ -180,11 +183,18 @@ Result<> QVProfileSwitch::keepEdits(const QVProfile& next, const QString& curren
         return {};
     }
     const QVProfileFolder profiles = folder();
-    const Result<QVProfile> last = profiles.load(current);
-    if (last ? isLike(*last) : !mStore.hasUnsavedFields()) {
+    const auto has = [&profiles](const QString& name) {
+        const Result<QVProfile> profile = profiles.load(name);
+        return profile && isLike(*profile);
+    };
+    if (has(current)) {
+        return {}; // mostly so, and quick to find out
+    }
+    const std::vector<QVProfileFolder::Item> all = profiles.list();
+    if (std::ranges::any_of(all, has, &QVProfileFolder::Item::name)) {
         return {};
     }
-    return profiles.save(QVProfileOf(qvTabletInfo, nameBefore(next.name)));
+    return profiles.saveNew(QVProfileOf(qvTabletInfo, profiles.freeName(nameBefore(next.name))));
 }
 
 Result<QString> QVProfileSwitch::useNext()
@@ -293,10 +303,30 @@ Result<> QVProfileSwitch::save(const QString& name)
     }
     Result<> saved = folder().save(profile);
     if (saved) {
-        QVProfileChoice{name, name}.save(QVProductID(qvTabletInfo));
+        const std::uint16_t product = QVProductID(qvTabletInfo);
+        QVProfileChoice choice = QVProfileChoice::load(product);
+        // What is used for the application in front is not the user's own choice.
+        if (choice.chosen == choice.current || !folder().load(choice.chosen)) {
+            choice.chosen = name;
+        }
+        choice.current = name;
+        choice.save(product);
         changed(false);
     }
     return saved;
+}
+
+Result<> QVProfileSwitch::remove(const QString& name)
+{
+    if (const Result<> attached = attach(); !attached) {
+        return attached;
+    }
+    Result<> removed = folder().remove(name);
+    if (removed) {
+        replaceInChoice(name, QString());
+        changed(false);
+    }
+    return removed;
 }
 
 Result<> QVProfileSwitch::rename(const QString& name, const QString& newName)
@@ -306,17 +336,22 @@ Result<> QVProfileSwitch::rename(const QString& name, const QString& newName)
     }
     Result<> renamed = folder().rename(name, newName);
     if (renamed) {
-        const std::uint16_t product = QVProductID(qvTabletInfo);
-        QVProfileChoice choice = QVProfileChoice::load(product);
-        for (QString* const one : {&choice.current, &choice.chosen}) {
-            if (*one == name) {
-                *one = newName;
-            }
-        }
-        choice.save(product);
+        replaceInChoice(name, newName);
         changed(false);
     }
     return renamed;
+}
+
+void QVProfileSwitch::replaceInChoice(const QString& name, const QString& newName)
+{
+    const std::uint16_t product = QVProductID(qvTabletInfo);
+    QVProfileChoice choice = QVProfileChoice::load(product);
+    for (QString* const one : {&choice.current, &choice.chosen}) {
+        if (*one == name) {
+            *one = newName;
+        }
+    }
+    choice.save(product);
 }
 
 Result<QByteArray> QVProfileSwitch::record()

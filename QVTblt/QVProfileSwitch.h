@@ -65,6 +65,7 @@ public:
     platform::Result<> save(const QString& name);
     /** Gives a profile another name, also where it is the current one. */
     platform::Result<> rename(const QString& name, const QString& newName);
+    platform::Result<> remove(const QString& name);
 
     /** The record as it is now. */
     platform::Result<QByteArray> record();
@@ -91,11 +92,14 @@ protected:
     /** The profiles of the tablet of the record. */
     QVProfileFolder folder() const;
 
+    QVConfigStore& store() const { return mStore; }
+
 private:
     platform::Result<> begin();
     platform::Result<> put(const QString& name, QVChooser chooser);
     platform::Result<> keepEdits(const QVProfile& next, const QString& current);
     platform::Result<> change(const QMap<QString, QString>& values);
+    static void replaceInChoice(const QString& name, const QString& newName);
 
     QVConfigStore& mStore;
 };

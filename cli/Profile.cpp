@@ -129,9 +129,8 @@ int saveProfile(const QStringList& operands, bool /*asJson*/)
 
 int deleteProfile(const QStringList& operands, bool /*asJson*/)
 {
-    const Result<QVProfileFolder> folder = profilesOfTablet();
-    const Result<> removed = folder ? folder->remove(operands[0]) : folder.error();
-    return finish(removed, "deleted", operands[0]);
+    QVConfigStore store;
+    return finish(QVProfileSwitch(store).remove(operands[0]), "deleted", operands[0]);
 }
 
 int renameProfile(const QStringList& operands, bool /*asJson*/)

@@ -92,7 +92,33 @@ TEST_F(Switch, putsAProfileIntoTheFileAndPushesItOnce)
     EXPECT_TRUE(sameBytes(inFile(), expected)) << "also the tablet's own entries";
     EXPECT_EQ(*mSwitch.current(), kA);
     EXPECT_EQ(QVProfileChoice::load(2).chosen, kA);
-    EXPECT_EQ(names(), QStringList{kA});
+}
+
+TEST_F(Switch, keepsTheSettingsOfAUserWhoHadNoProfiles)
+{
+    make(kA, 50);
+    ASSERT_TRUE(mSwitch.use(kA));
+    const QString before = QStringLiteral("Before A");
+    EXPECT_EQ(names(), (QStringList{kA, before}));
+    EXPECT_EQ(QVProfileFolder(2).load(before)->settings.Pen.PressureThreshold, 12);
+    ASSERT_TRUE(mSwitch.use(before));
+    ASSERT_TRUE(mSwitch.use(kA));
+    EXPECT_EQ(names(), (QStringList{kA, before})) << "it is kept already";
+}
+
+TEST_F(Switch, canBeTriedAgainWhenTheDriverHasNotAcceptedIt)
+{
+    make(kA, 50, {QStringLiteral("paint")});
+    mEvents.onSend = [this] {
+        // The query is the first.
+        mEvents.sendResult = mEvents.sent.empty() ? platform::noErr : platform::errAETimeout;
+    };
+    EXPECT_FALSE(mSwitch.useFor({QStringLiteral("paint")}));
+    EXPECT_NE(QVProfileChoice::load(2).current, kA);
+    mEvents.onSend = nullptr;
+    mEvents.sendResult = platform::noErr;
+    EXPECT_TRUE(mSwitch.useFor({QStringLiteral("paint")}));
+    EXPECT_EQ(*mSwitch.current(), kA);
 }
 
 TEST_F(Switch, saysWhyItCannot)
@@ -110,7 +136,7 @@ TEST_F(Switch, saysWhyItCannot)
 
 TEST_F(Switch, keepsWhatNoProfileHas)
 {
-    make(kA, 50);
+    make(kA, 12);
     make(kB, 60);
     ASSERT_TRUE(mSwitch.use(kA));
     ASSERT_TRUE(mSwitch.use(kB));
@@ -123,6 +149,9 @@ TEST_F(Switch, keepsWhatNoProfileHas)
     EXPECT_EQ(QVProfileFolder(2).load(before)->settings.Pen.PressureThreshold, 55);
     ASSERT_TRUE(mSwitch.use(before));
     EXPECT_EQ(inFile().Pen.PressureThreshold, 55);
+    ASSERT_TRUE(mSwitch.set(QStringLiteral("Pen/PressureThreshold"), QStringLiteral("56")));
+    ASSERT_TRUE(mSwitch.use(kB));
+    EXPECT_EQ(names(), (QStringList{kA, kB, before, QStringLiteral("Before B 2")}));
 }
 
 TEST_F(Switch, keepsANameWithinItsLimit)
@@ -132,7 +161,7 @@ TEST_F(Switch, keepsANameWithinItsLimit)
         name += QString::fromUtf8("🖊x");
     }
     make(name, 50);
-    make(kA, 60);
+    make(kA, 12);
     ASSERT_TRUE(mSwitch.use(kA));
     ASSERT_TRUE(mSwitch.set(QStringLiteral("Pen/PressureThreshold"), QStringLiteral("55")));
     ASSERT_TRUE(mSwitch.use(name));
@@ -146,12 +175,12 @@ TEST_F(Switch, keepsANameWithinItsLimit)
 TEST_F(Switch, goesRoundWithNext)
 {
     EXPECT_EQ(mSwitch.useNext().error().text, QStringLiteral("There are no profiles."));
-    make(kB, 60);
+    make(kB, 12);
     make(kA, 50);
     EXPECT_EQ(*mSwitch.useNext(), kA);
     EXPECT_EQ(*mSwitch.useNext(), kB);
     EXPECT_EQ(*mSwitch.useNext(), kA);
-    EXPECT_EQ(pushes(), (std::vector<int>{50, 60, 50}));
+    EXPECT_EQ(pushes(), (std::vector<int>{50, 12, 50}));
 }
 
 TEST_F(Switch, followsTheApplicationInFront)
@@ -219,6 +248,7 @@ TEST_F(Switch, mapsTheChosenDisplayAsItIsNow)
     ASSERT_TRUE(mSwitch.use(kA));
     EXPECT_EQ(qvTabletInfo.Monitor.XOrg, 100);
     EXPECT_EQ(qvTabletInfo.Monitor.Width, 200);
+    EXPECT_EQ(inFile().Monitor.Width, 200);
     ASSERT_TRUE(mSwitch.set(QStringLiteral("Monitor/num"), QStringLiteral("0")));
     EXPECT_EQ(qvTabletInfo.Monitor.Width, 300);
     ASSERT_TRUE(mSwitch.set(QStringLiteral("Monitor/num"), QStringLiteral("3")));
@@ -236,4 +266,17 @@ TEST_F(Switch, savesTheSettingsWithTheApplicationsOfTheProfile)
     EXPECT_EQ(*mSwitch.current(), kB);
     EXPECT_EQ(QVProfileChoice::load(2).chosen, kB);
     EXPECT_FALSE(mSwitch.save(QString()));
+    ASSERT_TRUE(mSwitch.remove(kB));
+    EXPECT_EQ(QVProfileChoice::load(2).current, QString());
+    EXPECT_FALSE(mSwitch.remove(kB));
+}
+
+TEST_F(Switch, savesWhatAnApplicationUsesWithoutMakingItTheUsersChoice)
+{
+    make(kA, 50, {QStringLiteral("paint")});
+    make(kB, 12);
+    ASSERT_TRUE(mSwitch.use(kB));
+    ASSERT_TRUE(mSwitch.useFor({QStringLiteral("paint")}));
+    ASSERT_TRUE(mSwitch.save(kA));
+    EXPECT_EQ(QVProfileChoice::load(2).chosen, kB);
 }
