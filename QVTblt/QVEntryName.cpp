@@ -37,6 +37,9 @@ QString QVEntryName(const QVEntry& entry)
     case offsetof(tagQVTabletInfo, Pen.PressureThreshold):
         //: After "Undo:": the pressure curve.
         return EntryName::tr("pressure");
+    case offsetof(tagQVTabletInfo, Pen.Speed):
+        //: After "Undo:".
+        return EntryName::tr("pen speed");
     case offsetof(tagQVTabletInfo, Key.Scrollbar0):
         //: After "Undo:".
         return EntryName::tr("left scroll strip");

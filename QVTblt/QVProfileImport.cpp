@@ -93,10 +93,34 @@ bool isArea(const QVEntry& entry)
         && std::string_view(entry.key).starts_with("cTablet");
 }
 
-bool isSaneArea(const tagQVTabletInfo& settings)
+/** Whether all of a profile's used area is on the tablet of the record. */
+bool hasArea(const QVProfile& profile, const tagQVTabletInfo& record)
 {
-    return settings.Monitor.cTabletXmin < settings.Monitor.cTabletXmax
-        && settings.Monitor.cTabletYmin < settings.Monitor.cTabletYmax;
+    const auto& area = profile.settings.Monitor;
+    bool isWhole = area.cTabletXmin < area.cTabletXmax && area.cTabletYmin < area.cTabletYmax;
+    for (std::size_t i = 0; i < kQVEntries.size(); ++i) {
+        if (isArea(kQVEntries[i])) {
+            isWhole = isWhole && profile.present.test(i)
+                && isSensible(kQVEntries[i], profile.settings, record);
+        }
+    }
+    return isWhole;
+}
+
+/** A text that says what it is: without what turns its direction, or cannot be seen. */
+QString plain(QString text)
+{
+    for (QChar& character : text) {
+        constexpr QChar kNonJoiner(0x200C);
+        constexpr QChar kJoiner(0x200D);
+        const QChar::Category category = character.category();
+        if (category == QChar::Separator_Line || category == QChar::Separator_Paragraph
+            || (category == QChar::Other_Format && character != kNonJoiner
+                && character != kJoiner)) {
+            character = QChar::ReplacementCharacter;
+        }
+    }
+    return text;
 }
 
 void note(QStringList& list, const QString& line)
@@ -136,19 +160,21 @@ Result<QVProfileImport> QVImport(const platform::PropertyList& list, const tagQV
         return read.error();
     }
     QVProfileImport import;
-    import.profile = QVProfileOf(record, read->name);
-    import.profile.applications = read->applications;
+    import.profile = QVProfileOf(record, plain(read->name));
+    for (const QString& application : read->applications) {
+        import.profile.applications.append(plain(application));
+    }
     tagQVTabletInfo& settings = import.profile.settings;
-    const bool isOtherProduct = read->productID != QVProductID(record);
+    const bool takesArea = read->productID == QVProductID(record) && hasArea(*read, record);
 
     for (std::size_t i = 0; i < kQVEntries.size(); ++i) {
         const QVEntry& entry = kQVEntries[i];
-        // What the file does not have stays, and paths are taken only when they are allowed.
-        if (!read->present.test(i) || entry.type == QVFieldType::String) {
+        // What the file does not have stays, and paths are taken only when they are allowed. The
+        // mapped area follows from the chosen display.
+        if (!read->present.test(i) || entry.type == QVFieldType::String || !QVIsChosen(entry)) {
             continue;
         }
-        const bool fits = hasPlaceFor(entry, record) && !(isOtherProduct && isArea(entry))
-            && (!isArea(entry) || isSaneArea(read->settings));
+        const bool fits = hasPlaceFor(entry, record) && (takesArea || !isArea(entry));
         if (fits && isSensible(entry, read->settings, record)) {
             QVCopyField(entry, read->settings, settings);
         } else if (QVFieldNumber(entry, read->settings) != 0) {

@@ -135,6 +135,11 @@
         <translation>Druck</translation>
     </message>
     <message>
+        <source>pen speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>Stiftgeschwindigkeit</translation>
+    </message>
+    <message>
         <source>left scroll strip</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>linker Rollstreifen</translation>

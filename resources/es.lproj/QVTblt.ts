@@ -135,6 +135,11 @@
         <translation>presión</translation>
     </message>
     <message>
+        <source>pen speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>velocidad del lápiz</translation>
+    </message>
+    <message>
         <source>left scroll strip</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>banda táctil izquierda</translation>

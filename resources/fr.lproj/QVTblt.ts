@@ -135,6 +135,11 @@
         <translation>pression</translation>
     </message>
     <message>
+        <source>pen speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>vitesse du stylet</translation>
+    </message>
+    <message>
         <source>left scroll strip</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>bande tactile gauche</translation>

@@ -135,6 +135,11 @@
         <translation>筆圧</translation>
     </message>
     <message>
+        <source>pen speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>ペンの速度</translation>
+    </message>
+    <message>
         <source>left scroll strip</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>左スクロールストリップ</translation>

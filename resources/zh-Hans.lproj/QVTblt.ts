@@ -135,6 +135,11 @@
         <translation>压感</translation>
     </message>
     <message>
+        <source>pen speed</source>
+        <extracomment>After &quot;Undo:&quot;.</extracomment>
+        <translation>笔的速度</translation>
+    </message>
+    <message>
         <source>left scroll strip</source>
         <extracomment>After &quot;Undo:&quot;.</extracomment>
         <translation>左滚动触控条</translation>

@@ -58,6 +58,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     }
     require(record.Monitor.cTabletXmax <= 20320 && record.Monitor.cTabletYmax <= 12700,
         "the area is on the tablet");
+    require(record.Monitor.cTabletXmin < record.Monitor.cTabletXmax
+            && record.Monitor.cTabletYmin < record.Monitor.cTabletYmax,
+        "the area has a size");
 
     // What is kept is read again as it was.
     for (const QVProfileImport::Start& start : import->starts) {

@@ -160,6 +160,41 @@ TEST(ProfileImport, takesNoValueThatThePanelCannotSet)
     EXPECT_EQ(read.leftOut.size(), 10);
 }
 
+TEST(ProfileImport, takesAnAreaAsAWholeOrNotAtAll)
+{
+    tagQVTabletInfo own = ownRecord();
+    own.Monitor.cTabletXmax = 1000;
+    tagQVTabletInfo theirs = ownRecord();
+    theirs.Monitor.cTabletXmin = 5000;
+    theirs.Monitor.cTabletXmax = 65000;
+    const QVProfileImport read = import(theirs, own);
+    EXPECT_EQ(read.profile.settings.Monitor.cTabletXmin, 0);
+    EXPECT_EQ(read.profile.settings.Monitor.cTabletXmax, 1000);
+}
+
+TEST(ProfileImport, takesNoPlaceOnTheDesktop)
+{
+    tagQVTabletInfo theirs = ownRecord();
+    theirs.Monitor.num = 3;
+    theirs.Monitor.XOrg = -5;
+    theirs.Monitor.Width = -1;
+    const tagQVTabletInfo record = applied(import(theirs));
+    EXPECT_EQ(record.Monitor.num, 3);
+    EXPECT_EQ(record.Monitor.XOrg, 0);
+    EXPECT_EQ(record.Monitor.Width, 0);
+}
+
+TEST(ProfileImport, hasANameThatShowsWhatItIs)
+{
+    const QString name = QString::fromUtf8("a\u202Eb\u200D");
+    QVProfile profile = QVProfileOf(ownRecord(), name);
+    profile.applications = QStringList{QString::fromUtf8("c\u2028d")};
+    const auto read = QVImport(QVWriteProfile(profile), ownRecord());
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->profile.name, QString::fromUtf8("a\uFFFDb\u200D"));
+    EXPECT_EQ(read->profile.applications, QStringList{QString::fromUtf8("c\uFFFDd")});
+}
+
 TEST(ProfileImport, takesNoAreaWithoutASize)
 {
     tagQVTabletInfo theirs = ownRecord();
