@@ -177,6 +177,15 @@ bool QVConfigStore::hasUnsavedFields() const
     });
 }
 
+void QVConfigStore::noteSaved()
+{
+    const tagQVTabletInfo record = qvTabletInfo;
+    if (loadRecord(configPath())) {
+        mInFile = qvTabletInfo;
+    }
+    qvTabletInfo = record;
+}
+
 platform::Result<platform::PropertyList> QVConfigStore::loadRecord(
     const std::string& path, platform::PropertyListSource source)
 {

@@ -51,6 +51,9 @@ public:
      */
     bool hasUnsavedFields() const;
 
+    /** Takes note of what is in the tablet's file now, if others may have saved it. */
+    void noteSaved();
+
     /** Copies a slot's dictionary to slot i of the record; does nothing unless i is 0 to 17. */
     void GetSubKeyInfo(std::int32_t i, const platform::Dictionary& object);
 

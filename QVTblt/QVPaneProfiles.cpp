@@ -5,6 +5,7 @@
 #include "Client.h"
 #include "LivingBus.h"
 #include "QVConfigEntry.h"
+#include "QVConfigStore.h"
 #include "QVEntryText.h"
 #include "QVProfileImport.h"
 #include "rzkApplication.h"
@@ -57,7 +58,6 @@ QVPaneProfiles::QVPaneProfiles(QVConfigStore& store, Panel panel)
         }
     });
     connect(&mFiles, &QFileSystemWatcher::directoryChanged, this, &QVPaneProfiles::tellListChanged);
-    connect(&mFiles, &QFileSystemWatcher::fileChanged, this, &QVPaneProfiles::tellListChanged);
 }
 
 QVPaneProfiles::~QVPaneProfiles()
@@ -74,6 +74,8 @@ void QVPaneProfiles::enter()
 {
     mIsShown = true;
     mShared = qvTabletInfo;
+    mProfile = current();
+    QDir().mkpath(folder().path()); // so that it can be watched
     mJoinOrPart.start(0);
     takeRole();
     tellListChanged();
@@ -159,6 +161,7 @@ void QVPaneProfiles::call(const char* method, const QVariantList& arguments,
 void QVPaneProfiles::noteEdit()
 {
     if (isSecond()) {
+        merge(); // what has come during a calibration
         sendEdits();
     } else if (mObject && !mTellSoon.isActive()) {
         mTellSoon.start(0); // many edits may follow, as while a slider is dragged
@@ -231,11 +234,15 @@ void QVPaneProfiles::merge()
         }
     }
     mShared = others;
+    const bool isOther = std::exchange(mProfile, current()) != mProfile;
     if (isChanged) {
+        store().noteSaved(); // by the owner, perhaps
         mPanel.show();
-        mPanel.tell(false);
+        mPanel.tell(isOther);
     }
-    tellListChanged();
+    if (isOther) {
+        tellListChanged();
+    }
     sendEdits();
 }
 
@@ -266,11 +273,6 @@ Result<> QVPaneProfiles::push()
 void QVPaneProfiles::show()
 {
     mPanel.show();
-}
-
-void QVPaneProfiles::map()
-{
-    // Showing does that.
 }
 
 void QVPaneProfiles::changed(bool isOther)
@@ -317,7 +319,8 @@ std::vector<platform::PaneProfiles::Profile> QVPaneProfiles::list() const
 
 QString QVPaneProfiles::current() const
 {
-    return QVProfileChoice::load(QVProductID(qvTabletInfo)).current;
+    const QString name = QVProfileChoice::load(QVProductID(qvTabletInfo)).current;
+    return !name.isEmpty() && folder().load(name) ? name : QString();
 }
 
 void QVPaneProfiles::use(const QString& name, Done done)
@@ -356,9 +359,7 @@ QString QVPaneProfiles::duplicate(const QString& name, const QString& newName)
 
 QString QVPaneProfiles::remove(const QString& name)
 {
-    const QString why = whyNot(folder().remove(name));
-    tellListChanged();
-    return why;
+    return whyNot(QVProfileSwitch::remove(name));
 }
 
 QString QVPaneProfiles::setApplications(const QString& name, const QStringList& applications)

@@ -70,7 +70,6 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     platform::Result<> mayChange() override;
     platform::Result<> push() override;
     void show() override;
-    void map() override;
     void changed(bool isOther) override;
 
     bool isSecond() const { return mObject && mObject->isSecond(); }
@@ -94,6 +93,7 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     std::optional<QDBusConnection> mBus;
     std::unique_ptr<QVPanelObject> mObject; ///< null without a bus, and while the panel is hidden
     tagQVTabletInfo mShared{}; ///< the record as far as the owner has it or has been sent it
+    QString mProfile; ///< the current one, as last shown
     QByteArray mTaken; ///< the owner's record, to be taken over; empty if there is none
     int mPending = 0; ///< calls with edits that have not been answered
 };

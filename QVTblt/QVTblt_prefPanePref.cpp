@@ -394,11 +394,11 @@ void QVTblt_prefPanePref::willUnselect()
         mMonitorView->endCalibration(!mAnswer);
     }
     WriteQVConfigPlist();
-    mProfiles->leave();
 }
 
 void QVTblt_prefPanePref::didUnselect()
 {
+    mProfiles->leave();
     if (mainView() == nullptr) {
         return;
     }

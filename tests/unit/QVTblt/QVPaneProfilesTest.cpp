@@ -286,6 +286,13 @@ TEST_F(PanelOnBus, tellsOthersOfEdits)
         << "what is discarded, before the name is given up";
 }
 
+TEST_F(PanelOnBus, keepsItsNameWhenItIsNotLeftAfterAll)
+{
+    mPane.willUnselect();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(mOwned()) << "the settings could not be saved, and the user stays";
+}
+
 TEST_F(PanelOnBus, givesUpItsNameWhenItIsLeft)
 {
     leave();
