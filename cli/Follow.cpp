@@ -42,8 +42,7 @@ namespace {
 /** Its owner is the process that follows. */
 constexpr QLatin1String kFollowerService("org.quorvia.TabletFollower");
 
-/** While windows come and go, so that no profile is used for one that is in front just in passing.
- */
+/** So that a window that is in front only for a moment does not change the profile. */
 constexpr std::chrono::milliseconds kRestOfWindows{150};
 constexpr int kAreaTime = 3000; ///< milliseconds
 constexpr int kBusAnswerTime = 1000; ///< milliseconds

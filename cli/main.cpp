@@ -39,7 +39,7 @@ Commands:
   profile rename NAME NEWNAME
                       delete a profile, or give it another name
   profile import FILE
-                      keep a profile from somebody else, and print what it does; keys
+                      import a profile, and print what it would change; keys
                       that would start applications do nothing
   profile export NAME FILE
                       write a profile into a new file, for others
@@ -60,7 +60,7 @@ Options:
   -v, --version       print the version
 
 Exit code: 0 on success; 1 if there is no driver, no tablet or no usable file, doctor has found a
-problem, the output cannot be written, or another thing has failed; 2 if the command is not valid.
+problem, the output cannot be written, or something else failed; 2 if the command is not valid.
 )";
 
 /** Checks what follows a command. */

@@ -136,7 +136,7 @@ public:
         ChangedByItself, ///< the settings follow the displays and have not been sent since
         DisplayChosen, ///< a display has been chosen for the device, perhaps the same again
         DisplaysChanged, ///< there are others, or in other places
-        SettingsReplaced, ///< by those of a profile: earlier ones cannot be gone back to
+        SettingsReplaced, ///< by those of a profile: there is no way back to earlier ones
     };
     using NewsHandler = std::function<void(News news, const QString& text)>;
 
