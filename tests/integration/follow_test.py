@@ -36,9 +36,9 @@ class Following(desktop.Desktop):
         """Makes a profile for each application, and one that is nobody's, which is the current."""
         for application in (*APPLICATIONS, ""):
             self.assertEqual(
-                self.ctl("set", "Pen/PressureThreshold", CURVES[application]).returncode, 0)
+                self.patient_ctl("set", "Pen/PressureThreshold", CURVES[application]).returncode, 0)
             self.assertEqual(
-                self.ctl("profile", "save", application or "My own").returncode, 0)
+                self.patient_ctl("profile", "save", application or "My own").returncode, 0)
         for file in (self.home / ".local/share/qvtblt/profiles/20737").iterdir():
             profile = plistlib.loads(file.read_bytes())
             if profile["Name"] in APPLICATIONS:
@@ -73,7 +73,7 @@ class Following(desktop.Desktop):
         session.wait_for(lambda: self.curve() == curve, f"the profile with {curve}")
 
     def current(self):
-        lines = self.ctl("profile", "list").stdout.splitlines()
+        lines = self.patient_ctl("profile", "list").stdout.splitlines()
         return [line[2:].split("\t")[0] for line in lines if line.startswith("* ")]
 
     def refuse(self, why):
@@ -154,8 +154,8 @@ class OnKWin(Following):
         # All of it was the user's, and nothing had to be kept.
         self.assertEqual(len(list((self.home / ".local/share/qvtblt/profiles/20737").iterdir())), 4)
         # Its object is for other programs, too, as long as there is no panel.
-        self.assertEqual(self.ctl("set", "Pen/Speed", "3").returncode, 0)
-        self.assertEqual(self.ctl("profile", "use", "org.test.two").returncode, 0)
+        self.assertEqual(self.patient_ctl("set", "Pen/Speed", "3").returncode, 0)
+        self.assertEqual(self.patient_ctl("profile", "use", "org.test.two").returncode, 0)
         self.wait_for_curve(20)
         self.activate("org.test.other")
         self.activate("org.test.one")

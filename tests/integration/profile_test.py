@@ -33,12 +33,12 @@ class Profiles(session.Session):
 
     def profile(self, *words):
         """Runs a command that has to succeed, and returns what it prints."""
-        result = self.ctl("profile", *words)
+        result = self.patient_ctl("profile", *words)
         self.assertEqual(result.returncode, 0, result)
         return result.stdout
 
     def set(self, entry, value):
-        self.assert_result(self.ctl("set", entry, value), 0)
+        self.assert_result(self.patient_ctl("set", entry, value), 0)
 
     def settings(self):
         return plistlib.loads(self.config().read_bytes())
@@ -97,7 +97,7 @@ class Profiles(session.Session):
                       ["rename", "Light", "Heavy"], ["export", "None", self.folder / "x"],
                       ["import", "/nowhere"]):
             with self.subTest(words):
-                result = self.ctl("profile", *words)
+                result = self.patient_ctl("profile", *words)
                 self.assertEqual((result.returncode, result.stdout), (1, ""))
                 self.assertTrue(result.stderr)
         self.assertEqual(self.config().read_bytes(), before)
@@ -107,7 +107,7 @@ class Profiles(session.Session):
 
     def test_next_without_profiles_says_so(self):
         self.start_driver()
-        self.assertEqual(self.ctl("profile", "next").returncode, 1)
+        self.assertEqual(self.patient_ctl("profile", "next").returncode, 1)
 
     def test_saves_uses_and_lists_them(self):
         self.start_driver()
@@ -167,7 +167,7 @@ class Profiles(session.Session):
         file = self.folder / "light for others.plist"
         self.assertEqual(self.profile("export", "Light", file), "exported Light\n")
         whole = file.read_bytes()
-        self.assert_result(self.ctl("profile", "export", "Heavy", file), 1, "", "File exists")
+        self.assert_result(self.patient_ctl("profile", "export", "Heavy", file), 1, "", "File exists")
         self.assertEqual(file.read_bytes(), whole)
         said = self.profile("import", file)
         self.assertTrue(said.startswith("imported Light 2\n"), said)
@@ -208,7 +208,7 @@ class Profiles(session.Session):
         for contents in (b"", b"nonsense", plistlib.dumps({}), self.config().read_bytes(),
                          plistlib.dumps({"FormatVersion": 2, "Name": "x", "ProductID": 20737})):
             file.write_bytes(contents)
-            result = self.ctl("profile", "import", file)
+            result = self.patient_ctl("profile", "import", file)
             self.assertEqual((result.returncode, result.stdout), (1, ""), contents)
             self.assertTrue(result.stderr)
         self.assertEqual(self.profile("list"), "* Heavy\n  Light\n")
@@ -359,46 +359,46 @@ class BesidePanels(desktop.Desktop):
 
     def prepare(self):
         self.start_driver()
-        self.assertEqual(self.ctl("set", "Monitor/cTabletXmax", PART).returncode, 0)
+        self.assertEqual(self.patient_ctl("set", "Monitor/cTabletXmax", PART).returncode, 0)
         self.assertEqual(self.in_file(), (0, PART))
 
     def test_what_is_set_is_in_the_panel_and_not_lost_at_its_next_edit(self):
         self.prepare()
         panel = self.start_panel()
-        result = self.ctl("set", "Monitor/cTabletXmax", "15000")
+        result = self.patient_ctl("set", "Monitor/cTabletXmax", "15000")
         self.assertEqual((result.returncode, result.stdout), (0, "set Monitor/cTabletXmax to 15000\n"))
         self.assert_saved((0, 15000))
         self.turn_strip(panel)
         self.wait_for(self.in_driver, (1, 15000))
         # What is saved is what was set; the panel's edit is still the user's to save.
-        self.assertEqual(self.ctl("set", "Monitor/cTabletXmax", "14000").returncode, 0)
+        self.assertEqual(self.patient_ctl("set", "Monitor/cTabletXmax", "14000").returncode, 0)
         self.wait_for(self.in_driver, (1, 14000))
         self.assertEqual(self.in_file(), (0, 14000))
         self.press_in(panel, "Save", "push button")
         self.assert_saved((1, 14000))
         for entry, value, code in (("Pen/Speed", "fast", 2), ("Pen/Speeed", "1", 2)):
-            self.assertEqual(self.ctl("set", entry, value).returncode, code)
+            self.assertEqual(self.patient_ctl("set", entry, value).returncode, code)
 
     def test_profiles_go_through_the_panel(self):
         self.prepare()
-        self.ctl("profile", "save", "On")
-        self.ctl("set", "Key/Scrollbar0", "1")
-        self.ctl("profile", "save", "Off")
+        self.patient_ctl("profile", "save", "On")
+        self.patient_ctl("set", "Key/Scrollbar0", "1")
+        self.patient_ctl("profile", "save", "Off")
         panel = self.start_panel()
         self.assertFalse(self.is_strip_on(panel))
-        self.assertEqual(self.ctl("profile", "use", "On").stdout, "using On\n")
+        self.assertEqual(self.patient_ctl("profile", "use", "On").stdout, "using On\n")
         self.assert_saved((0, PART))
         session.wait_for(lambda: self.is_strip_on(panel), "the box")
-        self.assertEqual(self.ctl("profile", "next").stdout, "using Off\n")
+        self.assertEqual(self.patient_ctl("profile", "next").stdout, "using Off\n")
         self.assert_saved((1, PART))
         session.wait_for(lambda: not self.is_strip_on(panel), "the box")
-        result = self.ctl("profile", "use", "None")
+        result = self.patient_ctl("profile", "use", "None")
         self.assertEqual((result.returncode, result.stdout), (1, ""))
         self.assertIn("None", result.stderr)
         # What is not saved, either, is in the profile.
         self.use_whole_tablet(panel)
         self.wait_for(self.in_driver, (1, WHOLE))
-        self.assertEqual(self.ctl("profile", "save", "All of it").returncode, 0)
+        self.assertEqual(self.patient_ctl("profile", "save", "All of it").returncode, 0)
         file, = profiles_folder(self).glob("all-of-it*")
         self.assertEqual(plistlib.loads(file.read_bytes())["Monitor"]["cTabletXmax"], WHOLE)
 
@@ -442,7 +442,7 @@ class BesidePanels(desktop.Desktop):
         self.assert_saved((1, PART))
         # The second one has the settings now.
         session.wait_for(lambda: self.pids_of_panels() == [str(second.pid)], "the name")
-        self.assertEqual(self.ctl("set", "Monitor/cTabletXmax", "15000").returncode, 0)
+        self.assertEqual(self.patient_ctl("set", "Monitor/cTabletXmax", "15000").returncode, 0)
         self.wait_for(self.in_owner, (1, 15000))
         self.close(second)
         self.assert_saved((1, 15000))

@@ -129,12 +129,12 @@ protected:
 TEST_F(PanelProfiles, areShownOnThePagesOnceUsed)
 {
     EXPECT_EQ(use(mName), QString());
-    EXPECT_EQ(qvTabletInfo.Pen.PressureThreshold, 50);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 50);
     EXPECT_TRUE(waitFor([&] { return shownPressure() == 50; }));
     EXPECT_EQ(outlet<QVKeyComboBox>("mKey1_3").currentIndex(), QVKeyComboBox::PauseTablet);
-    EXPECT_EQ(recordInFile().Key.SubKey[2].Valid, kQVPauseTablet);
+    EXPECT_EQ(+recordInFile().Key.SubKey[2].Valid, kQVPauseTablet);
     ASSERT_EQ(pushes().size(), 1U);
-    EXPECT_EQ(pushes()[0].Pen.PressureThreshold, 50);
+    EXPECT_EQ(+pushes()[0].Pen.PressureThreshold, 50);
     EXPECT_EQ(mPane.profiles()->current(), mName);
     EXPECT_FALSE(mPane.hasChanges());
     EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 1);
@@ -146,7 +146,7 @@ TEST_F(PanelProfiles, keepUnsavedEditsFirst)
     EXPECT_EQ(use(mName), QString());
     const auto before = QVProfileFolder(2).load(QStringLiteral("Before Painting"));
     ASSERT_TRUE(before);
-    EXPECT_EQ(before->settings.Pen.PressureThreshold, 77);
+    EXPECT_EQ(+before->settings.Pen.PressureThreshold, 77);
     EXPECT_EQ(mPane.profiles()->list().size(), 2U);
 }
 
@@ -158,7 +158,7 @@ TEST_F(PanelProfiles, areRefusedDuringACalibration)
     view.DoCalibrate();
     ASSERT_TRUE(view.isCalibrating());
     EXPECT_EQ(use(mName), QStringLiteral("The tablet is being calibrated. Finish that first."));
-    EXPECT_NE(qvTabletInfo.Pen.PressureThreshold, 50);
+    EXPECT_NE(+qvTabletInfo.Pen.PressureThreshold, 50);
     view.endCalibration();
     EXPECT_TRUE(waitFor([&] { return !view.isCalibrating(); }));
     EXPECT_EQ(use(mName), QString());
@@ -178,7 +178,7 @@ TEST_F(PanelProfiles, leaveFileAndPagesAloneIfTheFileCannotBeWritten)
     QFile::remove(mHome.configFile(7));
     QDir().mkdir(mHome.configFile(7));
     EXPECT_TRUE(use(mName).startsWith(QStringLiteral("cannot read ")));
-    EXPECT_NE(qvTabletInfo.Pen.PressureThreshold, 50);
+    EXPECT_NE(+qvTabletInfo.Pen.PressureThreshold, 50);
     EXPECT_TRUE(pushes().empty());
     EXPECT_EQ(mPane.profiles()->current(), QString());
 }
@@ -223,10 +223,10 @@ TEST_F(PanelProfiles, areExchangedWithoutTrust)
     EXPECT_EQ(import.starts[0].path, QStringLiteral("/app/1"));
     writeFile(file, "rubbish"); // it has been read
     EXPECT_EQ(profiles.keepImport(import, {false}), QString());
-    EXPECT_EQ(QVProfileFolder(2).load(QStringLiteral("Mine 2"))->settings.Key.SubKey[1].Valid,
+    EXPECT_EQ(+QVProfileFolder(2).load(QStringLiteral("Mine 2"))->settings.Key.SubKey[1].Valid,
         kQVNoAction);
     EXPECT_EQ(profiles.keepImport(import, {true}), QString());
-    EXPECT_EQ(QVProfileFolder(2).load(QStringLiteral("Mine 2 2"))->settings.Key.SubKey[1].Valid,
+    EXPECT_EQ(+QVProfileFolder(2).load(QStringLiteral("Mine 2 2"))->settings.Key.SubKey[1].Valid,
         kQVApplication);
     const auto refused = profiles.readImport(file);
     EXPECT_TRUE(refused.error.startsWith(QStringLiteral("cannot use ")));
@@ -251,12 +251,12 @@ TEST_F(PanelOnBus, takesASettingFromOthersBesideItsOwnEdits)
         ask("Set", {QStringLiteral("Pen/PressureThreshold"), QStringLiteral("40")}).errorMessage(),
         QString());
     EXPECT_TRUE(waitFor([&] { return shownPressure() == 40; }));
-    EXPECT_EQ(recordInFile().Pen.PressureThreshold, 40);
-    EXPECT_EQ(recordInFile().Pen.Speed, 13) << "the panel's edit is not saved with it";
+    EXPECT_EQ(+recordInFile().Pen.PressureThreshold, 40);
+    EXPECT_EQ(+recordInFile().Pen.Speed, 13) << "the panel's edit is not saved with it";
     EXPECT_TRUE(mPane.hasChanges());
-    EXPECT_EQ(pushes().back().Pen.Speed, 99);
+    EXPECT_EQ(+pushes().back().Pen.Speed, 99);
     mPane.cancel();
-    EXPECT_EQ(qvTabletInfo.Pen.PressureThreshold, 40) << "Cancel goes back to what is saved";
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 40) << "Cancel goes back to what is saved";
 }
 
 TEST_F(PanelOnBus, tellsOthersOfEdits)

@@ -70,9 +70,9 @@ TEST(ProfileImport, takesWhatFits)
             QStringLiteral("area of the tablet")}));
     EXPECT_TRUE(read.profile.present.any());
     const tagQVTabletInfo record = applied(read);
-    EXPECT_EQ(record.Pen.PressureThreshold, 30);
-    EXPECT_EQ(record.Key.SubKey[2].Mouse, kQVBackButton);
-    EXPECT_EQ(record.Monitor.cTabletXmax, 5000);
+    EXPECT_EQ(+record.Pen.PressureThreshold, 30);
+    EXPECT_EQ(+record.Key.SubKey[2].Mouse, kQVBackButton);
+    EXPECT_EQ(+record.Monitor.cTabletXmax, 5000);
 }
 
 TEST(ProfileImport, startsNoApplicationUnlessAllowed)
@@ -94,15 +94,15 @@ TEST(ProfileImport, startsNoApplicationUnlessAllowed)
     EXPECT_EQ(read.starts[1].path, QStringLiteral("/home/stranger/evil"));
     const auto& keys = read.profile.settings.Key.SubKey;
     for (const std::size_t slot : {std::size_t{0}, std::size_t{1}, kQVUpperPenSlot}) {
-        EXPECT_EQ(keys[slot].Valid, kQVNoAction) << slot;
+        EXPECT_EQ(+keys[slot].Valid, kQVNoAction) << slot;
     }
     EXPECT_EQ(QVText(keys[1].App), "/own/dormant");
     EXPECT_EQ(QVText(keys[3].App), "") << "a path that no key starts yet";
 
     QVAllowStart(read, read.starts[0]);
-    EXPECT_EQ(keys[0].Valid, kQVApplication);
+    EXPECT_EQ(+keys[0].Valid, kQVApplication);
     EXPECT_EQ(QVText(keys[0].App), "/usr/bin/good");
-    EXPECT_EQ(keys[1].Valid, kQVNoAction);
+    EXPECT_EQ(+keys[1].Valid, kQVNoAction);
 }
 
 TEST(ProfileImport, ofAnotherTabletNamesWhatDoesNotFit)
@@ -124,9 +124,9 @@ TEST(ProfileImport, ofAnotherTabletNamesWhatDoesNotFit)
             QStringLiteral("area of the tablet")}));
     EXPECT_TRUE(read.starts.empty()) << "of a key that the tablet does not have";
     const tagQVTabletInfo record = applied(read);
-    EXPECT_EQ(record.Key.SubKey[3].Valid, kQVMouseButton);
-    EXPECT_EQ(record.Key.SubKey[4].Valid, kQVNoAction);
-    EXPECT_EQ(record.Monitor.cTabletXmax, 10000);
+    EXPECT_EQ(+record.Key.SubKey[3].Valid, kQVMouseButton);
+    EXPECT_EQ(+record.Key.SubKey[4].Valid, kQVNoAction);
+    EXPECT_EQ(+record.Monitor.cTabletXmax, 10000);
 }
 
 TEST(ProfileImport, takesNoValueThatThePanelCannotSet)
@@ -147,16 +147,16 @@ TEST(ProfileImport, takesNoValueThatThePanelCannotSet)
     tagQVTabletInfo record = ownRecord();
     QVApplyProfile(read.profile, record);
     const tagQVTabletInfo own = ownRecord();
-    EXPECT_EQ(QVProfileOf(record, {}).settings.Pen.PressureThreshold, own.Pen.PressureThreshold);
-    EXPECT_EQ(record.Monitor.num, 0);
-    EXPECT_EQ(record.Monitor.rotationFlag, 0);
-    EXPECT_EQ(record.Monitor.Speed, 220);
-    EXPECT_EQ(record.Monitor.cTabletXmax, 10000);
-    EXPECT_EQ(record.Key.ScrollSpeed, 5);
-    EXPECT_EQ(record.Key.Scrollbar0, 0);
-    EXPECT_EQ(record.Key.SubKey[0].Valid, 0);
-    EXPECT_EQ(record.Key.SubKey[1].Mouse, 0);
-    EXPECT_EQ(record.Key.SubKey[2].Key, 0U);
+    EXPECT_EQ(+record.Pen.PressureThreshold, +own.Pen.PressureThreshold);
+    EXPECT_EQ(+record.Monitor.num, 0);
+    EXPECT_EQ(+record.Monitor.rotationFlag, 0);
+    EXPECT_EQ(+record.Monitor.Speed, 220);
+    EXPECT_EQ(+record.Monitor.cTabletXmax, 10000);
+    EXPECT_EQ(+record.Key.ScrollSpeed, 5);
+    EXPECT_EQ(+record.Key.Scrollbar0, 0);
+    EXPECT_EQ(+record.Key.SubKey[0].Valid, 0);
+    EXPECT_EQ(+record.Key.SubKey[1].Mouse, 0);
+    EXPECT_EQ(+record.Key.SubKey[2].Key, 0U);
     EXPECT_EQ(read.leftOut.size(), 10);
 }
 
@@ -168,8 +168,8 @@ TEST(ProfileImport, takesAnAreaAsAWholeOrNotAtAll)
     theirs.Monitor.cTabletXmin = 5000;
     theirs.Monitor.cTabletXmax = 65000;
     const QVProfileImport read = import(theirs, own);
-    EXPECT_EQ(read.profile.settings.Monitor.cTabletXmin, 0);
-    EXPECT_EQ(read.profile.settings.Monitor.cTabletXmax, 1000);
+    EXPECT_EQ(+read.profile.settings.Monitor.cTabletXmin, 0);
+    EXPECT_EQ(+read.profile.settings.Monitor.cTabletXmax, 1000);
 }
 
 TEST(ProfileImport, takesNoPlaceOnTheDesktop)
@@ -179,9 +179,9 @@ TEST(ProfileImport, takesNoPlaceOnTheDesktop)
     theirs.Monitor.XOrg = -5;
     theirs.Monitor.Width = -1;
     const tagQVTabletInfo record = applied(import(theirs));
-    EXPECT_EQ(record.Monitor.num, 3);
-    EXPECT_EQ(record.Monitor.XOrg, 0);
-    EXPECT_EQ(record.Monitor.Width, 0);
+    EXPECT_EQ(+record.Monitor.num, 3);
+    EXPECT_EQ(+record.Monitor.XOrg, 0);
+    EXPECT_EQ(+record.Monitor.Width, 0);
 }
 
 TEST(ProfileImport, hasANameThatShowsWhatItIs)
@@ -201,8 +201,8 @@ TEST(ProfileImport, takesNoAreaWithoutASize)
     theirs.Monitor.cTabletXmin = 5000;
     theirs.Monitor.cTabletXmax = 5000;
     const tagQVTabletInfo record = applied(import(theirs));
-    EXPECT_EQ(record.Monitor.cTabletXmin, 0);
-    EXPECT_EQ(record.Monitor.cTabletXmax, 10000);
+    EXPECT_EQ(+record.Monitor.cTabletXmin, 0);
+    EXPECT_EQ(+record.Monitor.cTabletXmax, 10000);
 }
 
 TEST(ProfileImport, refusesWhatIsNoProfile)

@@ -100,7 +100,7 @@ TEST_F(Switch, keepsTheSettingsOfAUserWhoHadNoProfiles)
     ASSERT_TRUE(mSwitch.use(kA));
     const QString before = QStringLiteral("Before A");
     EXPECT_EQ(names(), (QStringList{kA, before}));
-    EXPECT_EQ(QVProfileFolder(2).load(before)->settings.Pen.PressureThreshold, 12);
+    EXPECT_EQ(+QVProfileFolder(2).load(before)->settings.Pen.PressureThreshold, 12);
     ASSERT_TRUE(mSwitch.use(before));
     ASSERT_TRUE(mSwitch.use(kA));
     EXPECT_EQ(names(), (QStringList{kA, before})) << "it is kept already";
@@ -146,9 +146,9 @@ TEST_F(Switch, keepsWhatNoProfileHas)
     ASSERT_TRUE(mSwitch.use(kB));
     const QString before = QStringLiteral("Before B");
     EXPECT_EQ(names(), (QStringList{kA, kB, before}));
-    EXPECT_EQ(QVProfileFolder(2).load(before)->settings.Pen.PressureThreshold, 55);
+    EXPECT_EQ(+QVProfileFolder(2).load(before)->settings.Pen.PressureThreshold, 55);
     ASSERT_TRUE(mSwitch.use(before));
-    EXPECT_EQ(inFile().Pen.PressureThreshold, 55);
+    EXPECT_EQ(+inFile().Pen.PressureThreshold, 55);
     ASSERT_TRUE(mSwitch.set(QStringLiteral("Pen/PressureThreshold"), QStringLiteral("56")));
     ASSERT_TRUE(mSwitch.use(kB));
     EXPECT_EQ(names(), (QStringList{kA, kB, before, QStringLiteral("Before B 2")}));
@@ -230,12 +230,12 @@ TEST_F(Switch, changesAllEntriesOrNone)
 {
     const QString pressure = QStringLiteral("Pen/PressureThreshold");
     EXPECT_FALSE(mSwitch.edit({{pressure, QStringLiteral("5")}, {kA, QStringLiteral("5")}}));
-    EXPECT_EQ(qvTabletInfo.Pen.PressureThreshold, 12);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 12);
     EXPECT_TRUE(pushes().empty());
     ASSERT_TRUE(mSwitch.edit(
         {{pressure, QStringLiteral("5")}, {QStringLiteral("Pen/Speed"), QStringLiteral("6")}}));
-    EXPECT_EQ(qvTabletInfo.Pen.PressureThreshold, 5);
-    EXPECT_EQ(qvTabletInfo.Pen.Speed, 6);
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 5);
+    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 6);
     EXPECT_EQ(pushes(), std::vector<int>{5});
     EXPECT_TRUE(sameBytes(inFile(), sampleRecord())) << "it is not saved";
 }
@@ -246,20 +246,20 @@ TEST_F(Switch, mapsTheChosenDisplayAsItIsNow)
     record.Monitor.num = 2;
     ASSERT_TRUE(QVProfileFolder(2).save(QVProfileOf(record, kA)));
     ASSERT_TRUE(mSwitch.use(kA));
-    EXPECT_EQ(qvTabletInfo.Monitor.XOrg, 100);
-    EXPECT_EQ(qvTabletInfo.Monitor.Width, 200);
-    EXPECT_EQ(inFile().Monitor.Width, 200);
+    EXPECT_EQ(+qvTabletInfo.Monitor.XOrg, 100);
+    EXPECT_EQ(+qvTabletInfo.Monitor.Width, 200);
+    EXPECT_EQ(+inFile().Monitor.Width, 200);
     ASSERT_TRUE(mSwitch.set(QStringLiteral("Monitor/num"), QStringLiteral("0")));
-    EXPECT_EQ(qvTabletInfo.Monitor.Width, 300);
+    EXPECT_EQ(+qvTabletInfo.Monitor.Width, 300);
     ASSERT_TRUE(mSwitch.set(QStringLiteral("Monitor/num"), QStringLiteral("3")));
-    EXPECT_EQ(qvTabletInfo.Monitor.num, 3);
+    EXPECT_EQ(+qvTabletInfo.Monitor.num, 3);
 }
 
 TEST_F(Switch, savesTheSettingsWithTheApplicationsOfTheProfile)
 {
     make(kA, 50, {QStringLiteral("paint")});
     ASSERT_TRUE(mSwitch.save(kA));
-    EXPECT_EQ(QVProfileFolder(2).load(kA)->settings.Pen.PressureThreshold, 12);
+    EXPECT_EQ(+QVProfileFolder(2).load(kA)->settings.Pen.PressureThreshold, 12);
     EXPECT_EQ(QVProfileFolder(2).load(kA)->applications, QStringList{QStringLiteral("paint")});
     EXPECT_EQ(*mSwitch.current(), kA);
     ASSERT_TRUE(mSwitch.rename(kA, kB));

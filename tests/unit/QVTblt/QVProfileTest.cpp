@@ -84,9 +84,9 @@ TEST(Profile, keepsTheValuesOfEntriesThatItsFileLacks)
     tagQVTabletInfo record{};
     record.Pen = {150, 3};
     QVApplyProfile(*read, record);
-    EXPECT_EQ(record.Pen.PressureThreshold, 150);
-    EXPECT_EQ(record.Pen.Speed, 3);
-    EXPECT_EQ(record.Monitor.num, 14);
+    EXPECT_EQ(+record.Pen.PressureThreshold, 150);
+    EXPECT_EQ(+record.Pen.Speed, 3);
+    EXPECT_EQ(+record.Monitor.num, 14);
 }
 
 TEST(Profile, isNotReadFromAnythingElse)
@@ -178,11 +178,11 @@ TEST_F(Profiles, whoseFileNamesAgreeAreKeptApart)
     QVProfile other = sample(QStringLiteral("a?"));
     other.settings.Pen.Speed = 77;
     ASSERT_TRUE(mFolder.save(other));
-    EXPECT_EQ(mFolder.load(QStringLiteral("A!"))->settings.Pen.Speed, 13);
-    EXPECT_EQ(mFolder.load(QStringLiteral("a?"))->settings.Pen.Speed, 77);
+    EXPECT_EQ(+mFolder.load(QStringLiteral("A!"))->settings.Pen.Speed, 13);
+    EXPECT_EQ(+mFolder.load(QStringLiteral("a?"))->settings.Pen.Speed, 77);
     other.settings.Pen.Speed = 78;
     ASSERT_TRUE(mFolder.save(other));
-    EXPECT_EQ(mFolder.load(QStringLiteral("a?"))->settings.Pen.Speed, 78);
+    EXPECT_EQ(+mFolder.load(QStringLiteral("a?"))->settings.Pen.Speed, 78);
     EXPECT_EQ(namesIn(mFolder).size(), 2);
 }
 
