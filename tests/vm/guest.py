@@ -291,8 +291,8 @@ class World:
         self.nodes = {}
         if self.tablet:
             self.tablet.unplug()
-        wait_for(lambda: not any(map(Node.find, (PEN, KEYBOARD, POINTER, "Test Tablet"))),
-                 "the end of the devices")
+        wait_for(lambda: not any(map(Node.find, (PEN, KEYBOARD, POINTER, "Test Tablet")))
+                 and not self.known_to_libinput(), "the end of the devices")
 
     def start_driver(self, **env):
         self.driver = Program([session.BIN / "tdsg-driver"], self.env | env)
@@ -318,6 +318,21 @@ class World:
         for node in self.nodes.values():
             node.close()
         self.nodes = {name: Node(name) for name in (PEN, KEYBOARD, POINTER)}
+        # It would miss what happens before it has opened them.
+        devices = {os.path.basename(node.path): name for name, node in self.nodes.items()}
+        wait_for(lambda: self.known_to_libinput() == devices, "libinput to have the devices")
+
+    def known_to_libinput(self):
+        """Returns the names of the virtual devices that libinput has, by those of their nodes."""
+        names = {}
+        for line in self.libinput.lines:
+            if found := re.match(rf"[- ](event\d+)\s+DEVICE_(\w+)\s+({PEN}|{KEYBOARD}|{POINTER})\s", line):
+                node, event, name = found.groups()
+                if event == "ADDED":
+                    names[node] = name
+                else:
+                    names.pop(node, None)
+        return names
 
     def call(self, path, interface, method, arguments=None, bus=None):
         return (bus or self.bus).call_sync(
