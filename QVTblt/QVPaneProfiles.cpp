@@ -352,7 +352,7 @@ QString QVPaneProfiles::duplicate(const QString& name, const QString& newName)
     }
     profile->name = newName;
     profile->applications.clear(); // an application has one profile
-    const QString why = whyNot(folder().saveNew(*profile));
+    QString why = whyNot(folder().saveNew(*profile));
     tellListChanged();
     return why;
 }
@@ -369,7 +369,7 @@ QString QVPaneProfiles::setApplications(const QString& name, const QStringList& 
         return profile.error().text;
     }
     profile->applications = applications;
-    const QString why = whyNot(folder().save(*profile));
+    QString why = whyNot(folder().save(*profile));
     tellListChanged();
     return why;
 }
@@ -416,7 +416,7 @@ QString QVPaneProfiles::keepImport(const Import& import, const std::vector<bool>
         }
     }
     kept.profile.name = folder().freeName(kept.profile.name);
-    const QString why = whyNot(folder().saveNew(kept.profile));
+    QString why = whyNot(folder().saveNew(kept.profile));
     tellListChanged();
     return why;
 }

@@ -208,7 +208,7 @@ Result<> QVProfileFolder::checkNew(const QString& name) const
 
 Result<> QVProfileFolder::saveNew(const QVProfile& profile) const
 {
-    if (const Result<> checked = checkNew(profile.name); !checked) {
+    if (Result<> checked = checkNew(profile.name); !checked) {
         return checked;
     }
     QDir().mkpath(mPath); // a failure shows when the file is created
@@ -233,7 +233,7 @@ Result<> QVProfileFolder::rename(const QString& name, const QString& newName) co
     if (newName == name) {
         return {};
     }
-    if (const Result<> checked = checkNew(newName); !checked) {
+    if (Result<> checked = checkNew(newName); !checked) {
         return checked;
     }
     // In the same file, so that there is no moment without the profile, or with two.

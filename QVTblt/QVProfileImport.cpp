@@ -133,7 +133,7 @@ void note(QStringList& list, const QString& line)
 /** What the import sets an entry to, for the user. */
 QString changeOf(const QVEntry& entry, const tagQVTabletInfo& settings)
 {
-    const QString name = QVEntryName(entry);
+    QString name = QVEntryName(entry);
     if (entry.slot == nullptr) {
         return name;
     }

@@ -146,13 +146,13 @@ Result<> QVProfileSwitch::put(const QString& name, QVChooser chooser)
         return profile.error();
     }
     QVProfileChoice choice = QVProfileChoice::load(product);
-    if (const Result<> kept = keepEdits(*profile, choice.current); !kept) {
+    if (Result<> kept = keepEdits(*profile, choice.current); !kept) {
         return kept;
     }
     const tagQVTabletInfo before = qvTabletInfo;
     QVApplyProfile(*profile, qvTabletInfo);
     map(); // the displays may be others than when the profile was made
-    if (const Result<> saved = mStore.saveRecord(QVConfigStore::configPath()); !saved) {
+    if (Result<> saved = mStore.saveRecord(QVConfigStore::configPath()); !saved) {
         qvTabletInfo = before;
         return saved;
     }
@@ -218,7 +218,7 @@ Result<QString> QVProfileSwitch::useNext()
 
 Result<> QVProfileSwitch::useFor(const QStringList& names)
 {
-    if (const Result<> begun = begin(); !begun) {
+    if (Result<> begun = begin(); !begun) {
         return begun;
     }
     const std::uint16_t product = QVProductID(qvTabletInfo);
@@ -236,7 +236,7 @@ Result<> QVProfileSwitch::useFor(const QStringList& names)
     if (!hasChosen) {
         //: The name of a profile with the settings of a user who had no profiles for them.
         const QString name = folder().freeName(SwitchTexts::tr("Default"));
-        if (const Result<> kept = folder().save(QVProfileOf(qvTabletInfo, name)); !kept) {
+        if (Result<> kept = folder().save(QVProfileOf(qvTabletInfo, name)); !kept) {
             return kept;
         }
         choice = {name, name};
@@ -247,11 +247,11 @@ Result<> QVProfileSwitch::useFor(const QStringList& names)
 
 Result<> QVProfileSwitch::set(const QString& entry, const QString& value)
 {
-    if (const Result<> changed = change({{entry, value}}); !changed) {
+    if (Result<> changed = change({{entry, value}}); !changed) {
         return changed;
     }
     const QVEntry* const found = findEntry(entry);
-    const Result<> saved = mStore.saveEntries({&found, 1});
+    Result<> saved = mStore.saveEntries({&found, 1});
     // What the driver has is what the panel shows, even if it could not be saved.
     changed(false);
     return saved;
@@ -269,7 +269,7 @@ Result<> QVProfileSwitch::edit(const QMap<QString, QString>& values)
 /** Changes entries of the record, all or none, and pushes it. */
 Result<> QVProfileSwitch::change(const QMap<QString, QString>& values)
 {
-    if (const Result<> begun = begin(); !begun) {
+    if (Result<> begun = begin(); !begun) {
         return begun;
     }
     tagQVTabletInfo record = qvTabletInfo;
@@ -280,7 +280,7 @@ Result<> QVProfileSwitch::change(const QMap<QString, QString>& values)
                     ? QStringLiteral("%1 describes the tablet and cannot be set").arg(value.key())
                     : QStringLiteral("there is no entry %1").arg(value.key())};
         }
-        if (const Result<> set = setEntry(record, *entry, value.value()); !set) {
+        if (Result<> set = setEntry(record, *entry, value.value()); !set) {
             return set;
         }
     }
@@ -294,7 +294,7 @@ Result<> QVProfileSwitch::change(const QMap<QString, QString>& values)
 
 Result<> QVProfileSwitch::save(const QString& name)
 {
-    if (const Result<> begun = begin(); !begun) {
+    if (Result<> begun = begin(); !begun) {
         return begun;
     }
     QVProfile profile = QVProfileOf(qvTabletInfo, name);
@@ -318,7 +318,7 @@ Result<> QVProfileSwitch::save(const QString& name)
 
 Result<> QVProfileSwitch::remove(const QString& name)
 {
-    if (const Result<> attached = attach(); !attached) {
+    if (Result<> attached = attach(); !attached) {
         return attached;
     }
     Result<> removed = folder().remove(name);
@@ -331,7 +331,7 @@ Result<> QVProfileSwitch::remove(const QString& name)
 
 Result<> QVProfileSwitch::rename(const QString& name, const QString& newName)
 {
-    if (const Result<> attached = attach(); !attached) {
+    if (Result<> attached = attach(); !attached) {
         return attached;
     }
     Result<> renamed = folder().rename(name, newName);
