@@ -33,7 +33,10 @@ public:
     {
     }
     virtual ~QVProfileSwitch() = default;
-    Q_DISABLE_COPY_MOVE(QVProfileSwitch)
+    QVProfileSwitch(const QVProfileSwitch&) = delete;
+    QVProfileSwitch& operator=(const QVProfileSwitch&) = delete;
+    QVProfileSwitch(QVProfileSwitch&&) = delete;
+    QVProfileSwitch& operator=(QVProfileSwitch&&) = delete;
 
     /** The names of the attached tablet's profiles, in their order; empty without a tablet. */
     platform::Result<QStringList> names();
