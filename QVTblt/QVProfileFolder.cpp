@@ -68,7 +68,7 @@ QString entryPath(const QString& profile)
               .arg(file.dir().dirName(), file.completeBaseName());
 }
 
-/** An argument of a desktop entry's Exec, quoted as its specification says. */
+/** An argument for Exec, quoted by the rules of the Desktop Entry Specification. */
 QString quotedArgument(const QString& text)
 {
     QString quoted;
