@@ -49,21 +49,13 @@ void readEntries(
 }
 
 void writeEntries(const platform::MutableDictionary& dictionary, const char* name,
-    std::span<const QVEntry> entries, const tagQVTabletInfo& record)
+    std::span<const QVEntry> entries)
 {
     for (const QVEntry& entry : entries) {
-        if (!QVWriteEntry(dictionary, entry, record)) {
+        if (!QVWriteEntry(dictionary, entry, qvTabletInfo)) {
             qCWarning(
                 lcStore, "kept the old %s of %s: the new one cannot be written", entry.key, name);
         }
-    }
-}
-
-void writeSlot(
-    std::int32_t i, const platform::MutableDictionary& object, const tagQVTabletInfo& record)
-{
-    if (const char* const slot = slotKey(i)) {
-        writeEntries(object, slot, QVEntriesOf(kQVKeySection, slot), record);
     }
 }
 
@@ -205,7 +197,7 @@ platform::Result<platform::PropertyList> QVConfigStore::loadRecord(
     return list;
 }
 
-platform::Result<> QVConfigStore::saveRecord(const std::string& path, const tagQVTabletInfo& record)
+platform::Result<> QVConfigStore::saveRecord(const std::string& path)
 {
     platform::Result<platform::PropertyList> list = platform::PropertyList::load(path);
     if (!list) {
@@ -216,37 +208,33 @@ platform::Result<> QVConfigStore::saveRecord(const std::string& path, const tagQ
         if (!section->saved || !dictionary.exists()) {
             continue;
         }
-        writeEntries(dictionary, section->key, QVEntriesOf(*section), record);
+        writeEntries(dictionary, section->key, QVEntriesOf(*section));
         for (std::int32_t slot = 0; section->hasSlots && slot < kSlots; ++slot) {
             const platform::MutableDictionary object = dictionary.dictionary(slotKey(slot));
             if (object.exists()) {
-                writeSlot(slot, object, record);
+                SetSubKeyInfo(slot, object);
             }
         }
     }
     return list->save(path);
 }
 
-platform::Result<> QVConfigStore::saveEntries(std::span<const QVEntry* const> entries)
+platform::Result<> QVConfigStore::saveEntry(const QVEntry& entry)
 {
     platform::Result<platform::PropertyList> list = platform::PropertyList::load(configPath());
     if (!list) {
         return list.error();
     }
-    for (const QVEntry* const entry : entries) {
-        // The panel does not add dictionaries.
-        const platform::MutableDictionary dictionary = QVEntryDictionary(list->root(), *entry);
-        if (!dictionary.exists()) {
-            return platform::Error{QStringLiteral("the tablet's file has no dictionary for %1")
-                                       .arg(QString::fromStdString(QVEntryPath(*entry)))};
-        }
-        QVWriteEntry(dictionary, *entry, qvTabletInfo);
+    // The panel does not add dictionaries.
+    const platform::MutableDictionary dictionary = QVEntryDictionary(list->root(), entry);
+    if (!dictionary.exists()) {
+        return platform::Error{QStringLiteral("the tablet's file has no dictionary for %1")
+                                   .arg(QString::fromStdString(QVEntryPath(entry)))};
     }
+    QVWriteEntry(dictionary, entry, qvTabletInfo);
     platform::Result<> saved = list->save(configPath());
     if (saved) {
-        for (const QVEntry* const entry : entries) {
-            QVCopyField(*entry, qvTabletInfo, mInFile);
-        }
+        QVCopyField(entry, qvTabletInfo, mInFile);
     }
     return saved;
 }
@@ -260,5 +248,7 @@ void QVConfigStore::GetSubKeyInfo(std::int32_t i, const platform::Dictionary& ob
 
 void QVConfigStore::SetSubKeyInfo(std::int32_t i, const platform::MutableDictionary& object)
 {
-    writeSlot(i, object, qvTabletInfo);
+    if (const char* const slot = slotKey(i)) {
+        writeEntries(object, slot, QVEntriesOf(kQVKeySection, slot));
+    }
 }

@@ -10,7 +10,6 @@
 #include <QString>
 
 #include <cstdint>
-#include <span>
 #include <string>
 
 /**
@@ -80,12 +79,11 @@ public:
     platform::Result<platform::PropertyList> loadRecord(const std::string& path,
         platform::PropertyListSource source = platform::PropertyListSource::RegularFile);
 
-    /** Saves a record's sections to any existing configuration file. */
-    platform::Result<> saveRecord(
-        const std::string& path, const tagQVTabletInfo& record = qvTabletInfo);
+    /** Saves the record's sections to any existing configuration file. */
+    platform::Result<> saveRecord(const std::string& path);
 
-    /** Saves these entries of the record to the tablet's file, and no others. */
-    platform::Result<> saveEntries(std::span<const QVEntry* const> entries);
+    /** Saves one entry of the record to the tablet's file, and no other. */
+    platform::Result<> saveEntry(const QVEntry& entry);
 
     /** The tablet's name in the file loaded last; empty if it has none. */
     QString tabletName() const { return mTabletName; }

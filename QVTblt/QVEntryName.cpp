@@ -4,9 +4,7 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
 #include <cstddef>
-#include <string_view>
 
 namespace {
 
@@ -20,8 +18,7 @@ struct EntryName {
 QString QVEntryName(const QVEntry& entry)
 {
     if (entry.slot != nullptr) {
-        const auto slot = static_cast<std::size_t>(
-            std::ranges::find(kQVSlotKeys, std::string_view(entry.slot)) - kQVSlotKeys.begin());
+        const std::size_t slot = QVSlotOf(entry);
         if (slot == kQVUpperPenSlot) {
             //: After "Undo:".
             return EntryName::tr("upper pen button");

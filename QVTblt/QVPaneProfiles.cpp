@@ -16,7 +16,6 @@
 #include <QDBusPendingReply>
 #include <QDir>
 #include <QFile>
-#include <QFileInfo>
 
 #include <chrono>
 #include <cstring>

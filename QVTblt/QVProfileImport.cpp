@@ -15,13 +15,6 @@ using platform::Result;
 
 namespace {
 
-/** The slot of a button's entry. */
-std::size_t slotOf(const QVEntry& entry)
-{
-    return static_cast<std::size_t>(
-        std::ranges::find(kQVSlotKeys, std::string_view(entry.slot)) - kQVSlotKeys.begin());
-}
-
 /** Whether a value is one that the panel itself could set, for the tablet of the record. */
 bool isSensible(
     const QVEntry& entry, const tagQVTabletInfo& settings, const tagQVTabletInfo& record)
@@ -71,7 +64,7 @@ bool isSensible(
 bool hasPlaceFor(const QVEntry& entry, const tagQVTabletInfo& record)
 {
     if (entry.slot != nullptr) {
-        const std::size_t slot = slotOf(entry);
+        const std::size_t slot = QVSlotOf(entry);
         return slot >= kQVUpperPenSlot
             || static_cast<std::int64_t>(slot) < std::int64_t{record.Basic.KeyNum};
     }
@@ -139,7 +132,7 @@ QString changeOf(const QVEntry& entry, const tagQVTabletInfo& settings)
     }
     //: What an imported profile sets: %1 is a button, such as "key 3", %2 its action.
     return QCoreApplication::translate("QVProfileImport", "%1: %2")
-        .arg(name, actionText(settings.Key.SubKey[slotOf(entry)]));
+        .arg(name, actionText(settings.Key.SubKey[QVSlotOf(entry)]));
 }
 
 } // namespace

@@ -250,8 +250,7 @@ Result<> QVProfileSwitch::set(const QString& entry, const QString& value)
     if (Result<> changed = change({{entry, value}}); !changed) {
         return changed;
     }
-    const QVEntry* const found = findEntry(entry);
-    Result<> saved = mStore.saveEntries({&found, 1});
+    Result<> saved = mStore.saveEntry(*findEntry(entry));
     // What the driver has is what the panel shows, even if it could not be saved.
     changed(false);
     return saved;

@@ -122,6 +122,13 @@ constexpr bool QVIsChosen(const QVEntry& entry)
     return entry.section->saved && std::ranges::find(kNotChosen, entry.offset) == kNotChosen.end();
 }
 
+/** The slot that an entry with a slot's key belongs to. */
+constexpr std::size_t QVSlotOf(const QVEntry& entry)
+{
+    return static_cast<std::size_t>(
+        std::ranges::find(kQVSlotKeys, std::string_view(entry.slot)) - kQVSlotKeys.begin());
+}
+
 /** The entries of a section's own dictionary or, with a slot's key, of that slot's. */
 constexpr std::span<const QVEntry> QVEntriesOf(const QVSection& section, const char* slot = nullptr)
 {

@@ -3,6 +3,7 @@
 #include "RecordText.h"
 
 #include "QVConfigEntry.h"
+#include "QVEntryText.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -13,7 +14,7 @@ QJsonValue jsonValue(const QVEntry& entry, const tagQVTabletInfo& record)
 {
     switch (entry.type) {
     case QVFieldType::String:
-        return QString::fromLatin1(QVFieldText(entry, record).c_str());
+        return entryValue(record, entry);
     case QVFieldType::Boolean:
         return QVFieldNumber(entry, record) != 0;
     default:
@@ -29,7 +30,7 @@ QString recordTable(const tagQVTabletInfo& record)
     QString table;
     for (const QVEntry& entry : kQVEntries) {
         const QString path = QString::fromStdString(QVEntryPath(entry));
-        const QString value = QString::fromLatin1(QVFieldText(entry, record).c_str());
+        const QString value = entryValue(record, entry);
         table += (value.isEmpty() ? path : path.leftJustified(kColumn) + value) + QLatin1Char('\n');
     }
     return table;
