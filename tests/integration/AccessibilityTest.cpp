@@ -240,10 +240,12 @@ void expectTabVisitsAllInOrder(QWidget& window)
 {
     const std::set<const QWidget*> stops = stopsOf(window);
     ASSERT_GE(stops.size(), 2U);
-    // From the uppermost one, wherever the focus was.
-    const QWidget* const first = *std::ranges::min_element(stops, {}, [](const QWidget* stop) {
-        return std::pair(placeOf(*stop).center().y(), placeOf(*stop).left());
+    // From the one that all others follow, wherever the focus was.
+    const auto first = std::ranges::find_if(stops, [&stops](const QWidget* stop) {
+        return std::ranges::all_of(
+            stops, [stop](const QWidget* other) { return isNext(*stop, *other); });
     });
+    ASSERT_NE(first, stops.end());
     auto there = tabAround(window, Qt::Key_Tab, stops.size());
     const QWidget* const begun = there.front();
     EXPECT_EQ(std::set(there.begin(), there.end()), stops) << "each exactly once";
@@ -251,7 +253,7 @@ void expectTabVisitsAllInOrder(QWidget& window)
     auto back = tabAround(window, Qt::Key_Backtab, stops.size());
     std::ranges::reverse(back);
     EXPECT_EQ(back, there);
-    std::rotate(there.begin(), std::ranges::find(there, first), there.end());
+    std::rotate(there.begin(), std::ranges::find(there, *first), there.end());
     for (std::size_t i = 0; i + 1 < there.size(); ++i) {
         EXPECT_TRUE(isNext(*there[i], *there[i + 1]))
             << there[i]->objectName().toStdString() << " to "
