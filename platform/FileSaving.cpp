@@ -8,6 +8,8 @@
 
 #include <cerrno>
 #include <cstddef>
+#include <cstdio>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -43,6 +45,14 @@ Result<> writeThrough(QFileDevice& file, std::string_view bytes)
     return {};
 }
 
+/** Never replaces a file that was created meanwhile. @return false with errno on failure */
+bool moveWithoutReplacing(const char* from, const char* to)
+{
+    // Some file systems, as those of memory cards, know no links; others, as NFS, not this flag.
+    return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0
+        || (errno == EINVAL && ::linkat(AT_FDCWD, from, AT_FDCWD, to, 0) == 0);
+}
+
 } // namespace
 
 Result<> replaceFile(const QString& path, std::string_view bytes)
@@ -66,14 +76,12 @@ Result<> createFile(const QString& path, std::string_view bytes)
     if (!file.open()) {
         return Error{file.errorString()};
     }
-    if (Result<> written = writeThrough(file, bytes); !written) {
-        return written;
+    if (Result<> done = writeThrough(file, bytes); !done) {
+        return done;
     }
-    // A link, unlike a rename, never replaces a file that was created meanwhile.
+    const QByteArray written = QFile::encodeName(file.fileName());
     if (::fchmod(file.handle(), S_IRUSR | S_IWUSR) != 0
-        || ::link(
-               QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData())
-            != 0) {
+        || !moveWithoutReplacing(written.constData(), QFile::encodeName(path).constData())) {
         return systemError();
     }
     return {};

@@ -18,16 +18,22 @@
 #include <clocale>
 #include <cmath>
 #include <csignal>
+#include <cstddef>
 #include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <limits>
+#include <linux/filter.h>
+#include <linux/seccomp.h>
 #include <malloc.h>
 #include <memory>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <system_error>
 #include <unistd.h>
+#include <vector>
 
 using namespace platform;
 
@@ -38,6 +44,39 @@ PropertyList parsed(const QByteArray& entries)
     auto list = PropertyList::parse(plist("<dict>" + entries + "</dict>").toStdString());
     EXPECT_TRUE(list) << errorText(list);
     return list ? std::move(*list) : PropertyList();
+}
+
+/** Saves a file where there is none, and then does not replace it. */
+void expectOneNewFile(const QString& folder)
+{
+    const QString path = folder + QStringLiteral("/new.plist");
+    PropertyList list;
+    list.root().addDictionary("Pen").setInteger("Speed", -7);
+    ASSERT_EQ(errorText(list.saveNew(path.toStdString())), "");
+    const QByteArray bytes = readFile(path);
+    EXPECT_TRUE(bytes.contains("<integer>-7</integer>"));
+    list.root().setString("other", "text");
+    EXPECT_FALSE(list.saveNew(path.toStdString()));
+    EXPECT_EQ(readFile(path), bytes);
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden).size(), 1);
+}
+
+constexpr sock_filter take(std::size_t place)
+{
+    return {BPF_LD | BPF_W | BPF_ABS, 0, 0, static_cast<std::uint32_t>(place)};
+}
+
+constexpr sock_filter end(std::uint32_t how)
+{
+    return {BPF_RET | BPF_K, 0, 0, how};
+}
+
+/** Has this decide on all further system calls of this process. */
+bool filterCalls(std::vector<sock_filter> filter)
+{
+    const sock_fprog program{static_cast<std::uint16_t>(filter.size()), filter.data()};
+    return ::prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0
+        && ::syscall(SYS_seccomp, SECCOMP_SET_MODE_FILTER, 0, &program) == 0;
 }
 
 /** The error for a file with these bytes. */
@@ -559,16 +598,7 @@ TEST(PropertyList, aPipeIsReadWhereThatIsAskedFor)
 TEST(PropertyList, aNewFileIsWrittenOnlyWhereThereIsNone)
 {
     const TemporaryHome home;
-    const QString path = home.path() + QStringLiteral("/new.plist");
-    PropertyList list;
-    list.root().addDictionary("Pen").setInteger("Speed", -7);
-    ASSERT_EQ(errorText(list.saveNew(path.toStdString())), "");
-    const QByteArray bytes = readFile(path);
-    EXPECT_TRUE(bytes.contains("<integer>-7</integer>"));
-    list.root().setString("other", "text");
-    EXPECT_FALSE(list.saveNew(path.toStdString()));
-    EXPECT_EQ(readFile(path), bytes);
-    EXPECT_EQ(QDir(home.path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
+    expectOneNewFile(home.path());
 }
 
 TEST(PropertyList, setsReplacesAndAddsEntries)
@@ -715,6 +745,36 @@ TEST(PropertyList, aNewFileIsItsOwnersAlone)
     struct stat status { };
     ASSERT_EQ(::stat(path.c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 07777U, 0600U);
+}
+
+TEST(PropertyList, aNewFileNeedsNoLinks)
+{
+    // As on a memory card with FAT.
+    const TemporaryHome home;
+    ASSERT_TRUE(filterCalls({
+        take(offsetof(seccomp_data, nr)),
+        {BPF_JMP | BPF_JEQ | BPF_K, 5, 0, SYS_linkat},
+        {BPF_JMP | BPF_JEQ | BPF_K, 0, 2, SYS_openat},
+        take(offsetof(seccomp_data, args) + 2 * sizeof(std::uint64_t)), // the flags
+        {BPF_JMP | BPF_JSET | BPF_K, 1, 0, O_TMPFILE & ~O_DIRECTORY},
+        end(SECCOMP_RET_ALLOW),
+        end(SECCOMP_RET_ERRNO | EOPNOTSUPP),
+        end(SECCOMP_RET_ERRNO | EPERM),
+    }));
+    expectOneNewFile(home.path());
+}
+
+TEST(PropertyList, aNewFileNeedsOnlyLinks)
+{
+    // As over NFS.
+    const TemporaryHome home;
+    ASSERT_TRUE(filterCalls({
+        take(offsetof(seccomp_data, nr)),
+        {BPF_JMP | BPF_JEQ | BPF_K, 1, 0, SYS_renameat2},
+        end(SECCOMP_RET_ALLOW),
+        end(SECCOMP_RET_ERRNO | EINVAL),
+    }));
+    expectOneNewFile(home.path());
 }
 
 TEST(PropertyList, saysWhyANewFileCannotBeMade)
