@@ -4,6 +4,7 @@
 
 #include "LivingBus.h"
 
+#include <QDBusArgument>
 #include <QDBusError>
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
@@ -45,6 +46,9 @@ FollowService::FollowService(QObject* parent)
     , mConnection(QStringLiteral("qvtblt-follow-%1").arg(reinterpret_cast<quintptr>(this)))
     , mBus(mConnection) // not connected yet: that takes time, and most users never need it
 {
+    mJob.setSingleShot(true);
+    mJob.setInterval(kSystemdAnswerTime);
+    connect(&mJob, &QTimer::timeout, this, &FollowService::finish);
 }
 
 FollowService::~FollowService()
@@ -63,6 +67,8 @@ bool FollowService::connectToBus()
     }
     QDBusConnection::disconnectFromBus(mConnection); // it may have been lost
     mBus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, mConnection);
+    mBus.connect(kSystemd, kSystemdPath, kSystemdManager, QStringLiteral("JobRemoved"), this,
+        SLOT(noteJob(quint32, QDBusObjectPath, QString)));
     return mBus.isConnected();
 }
 
@@ -106,13 +112,51 @@ void FollowService::takeState(const QDBusMessage& reply)
         //: %1 is the name of a service of systemd.
         become(std::nullopt, tr("The service %1 is not installed.").arg(kFollowUnit));
     } else if (state.startsWith(QLatin1String("enabled"))) {
-        become(true, {});
+        askWhetherItRuns();
     } else if (state == QLatin1String("disabled")) {
         become(false, {});
     } else {
         //: %1 is the name of a service of systemd, %2 one of systemd's words, such as "masked".
         become(std::nullopt,
             tr("The service %1 cannot be turned on: it is %2.").arg(kFollowUnit, state));
+    }
+}
+
+void FollowService::askWhetherItRuns()
+{
+    mIsBusy = true;
+    call("ListUnitsByNames", {QStringList{kFollowUnit}}, [this](const QDBusMessage& reply) {
+        mIsBusy = false;
+        // The unit's state is the fourth of its ten values: "inactive" and "failed" have ended.
+        QString state;
+        if (const auto units = reply.arguments().value(0).value<QDBusArgument>();
+            units.currentType() == QDBusArgument::ArrayType) {
+            QString name;
+            QString description;
+            QString loaded;
+            units.beginArray();
+            units.beginStructure();
+            units >> name >> description >> loaded >> state;
+        }
+        const bool hasEnded =
+            state == QLatin1String("inactive") || state == QLatin1String("failed");
+        const bool isStarting = std::exchange(mIsStarting, false);
+        //: The words in quotation marks are a command.
+        const QString fault = tr("Profiles do not follow applications now: the service has ended. "
+                                 "The reason is in what “systemctl --user status qvtblt-follow” "
+                                 "prints.");
+        become(true, hasEnded ? fault : QString());
+        if (hasEnded && isStarting) {
+            Q_EMIT failed(fault);
+        }
+    });
+}
+
+void FollowService::noteJob(quint32 /*number*/, const QDBusObjectPath& /*job*/, const QString& unit)
+{
+    if (mJob.isActive() && unit == kFollowUnit) {
+        mJob.stop();
+        finish();
     }
 }
 
@@ -135,14 +179,18 @@ void FollowService::set(bool isOn)
             const QVariantList job{QString(kFollowUnit), QStringLiteral("replace")};
             call(isOn ? "StartUnit" : "StopUnit", job, [this, isOn](const QDBusMessage& done) {
                 // What does not run need not be stopped.
-                const bool isGone = !isOn
-                    && done.errorName() == QLatin1String("org.freedesktop.systemd1.NoSuchUnit");
-                if (isGone || goesOn(done)) {
+                if (!isOn
+                    && done.errorName() == QLatin1String("org.freedesktop.systemd1.NoSuchUnit")) {
                     finish();
+                } else if (goesOn(done)) {
+                    mIsStarting = isOn;
+                    mJob.start(); // until it has started or stopped
                 }
             });
         });
     };
+    // So that it sends signals.
+    call("Subscribe", {}, [](const QDBusMessage& /*answer*/) {});
     // For all sessions, not only until the next start of the computer, and nothing by force.
     if (isOn) {
         call("EnableUnitFiles", {units, false, false}, reload);

@@ -4,8 +4,10 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusObjectPath>
 #include <QObject>
 #include <QString>
+#include <QTimer>
 #include <QVariantList>
 
 #include <functional>
@@ -13,9 +15,9 @@
 
 /**
  * The user's service that has the profiles follow the application in front, qvtblt-follow.service:
- * whether the user's systemd starts it with each session, and turning that on and off. Asks systemd
- * over the session bus, without ever waiting for an answer, and does not have the bus start it.
- * Main thread only.
+ * whether the user's systemd starts it with each session, whether it runs, and turning it on and
+ * off. Asks systemd over the session bus, without ever waiting for an answer, and does not have the
+ * bus start it. Main thread only.
  */
 class FollowService final : public QObject {
     Q_OBJECT
@@ -27,26 +29,36 @@ public:
     /** Asks for the state; changed() follows, soon or at once. */
     void refresh();
 
-    /** Turns the service on or off, now and for all further sessions; then changed() follows. */
+    /**
+     * Turns the service on or off, now and for all further sessions; once it has started or ended,
+     * changed() follows.
+     */
     void set(bool isOn);
 
     /** Whether the service is on; nothing while that is unknown, and where it cannot be changed. */
     std::optional<bool> isOn() const { return mIsOn; }
 
-    /** Why it cannot be changed, for the user; empty if it can, and while that is unknown. */
+    /**
+     * For the user: why it cannot be changed, or, where it is on, that it has ended. Empty if it
+     * works, and while that is unknown.
+     */
     QString fault() const { return mFault; }
 
 Q_SIGNALS:
     void changed();
-    /** set() has failed; the text is for the user. */
+    /** set() has failed, or has started what has ended again; the text is for the user. */
     void failed(const QString& text);
 
-private:
+private Q_SLOTS:
+    void noteJob(quint32 number, const QDBusObjectPath& job, const QString& unit);
+
+private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     using Next = std::function<void(const QDBusMessage& reply)>;
 
     bool connectToBus();
     void call(const char* method, const QVariantList& arguments, Next next);
     void takeState(const QDBusMessage& reply);
+    void askWhetherItRuns();
     /** Ends set(), unless there is another step to do after it. @return whether there is */
     bool goesOn(const QDBusMessage& reply);
     void finish();
@@ -56,5 +68,7 @@ private:
     QDBusConnection mBus;
     std::optional<bool> mIsOn;
     QString mFault;
+    QTimer mJob; ///< systemd starts or stops the service
+    bool mIsStarting = false; ///< set() has asked for that, and the state has not come yet
     bool mIsBusy = false; ///< an answer is awaited
 };

@@ -238,8 +238,7 @@ void ProfileBar::makeMenu()
     //: Menu item: writes the current profile into a file.
     mOfCurrent.push_back(add(tr("E&xport…"), &ProfileBar::askWhereToExport));
     menu->addSeparator();
-    //: Menu item with a check mark: profiles change with the application in front.
-    mFollowAction = menu->addAction(tr("&Follow Applications"));
+    mFollowAction = menu->addAction(QString());
     mFollowAction->setCheckable(true);
     connect(mFollowAction, &QAction::triggered, mFollow, &FollowService::set);
     connect(mFollow, &FollowService::changed, this, &ProfileBar::updateFollow);
@@ -254,6 +253,12 @@ void ProfileBar::updateFollow()
     const std::optional<bool> isOn = mFollow->isOn();
     mFollowAction->setEnabled(isOn.has_value());
     mFollowAction->setChecked(isOn.value_or(false));
+    //: Menu item with a check mark: profiles change with the application in front.
+    const QString name = tr("&Follow Applications");
+    //: The same menu item, where the service that does it is on, but has ended.
+    const QString nameOfEnded = tr("&Follow Applications (not running)");
+    mFollowAction->setText(
+        isOn.value_or(false) && !mFollow->fault().isEmpty() ? nameOfEnded : name);
     const QString text = mFollow->fault().isEmpty()
         //: Describes the menu item "Follow Applications".
         ? tr("Use a profile while one of its applications is in front")

@@ -200,6 +200,11 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>„Anwendungen folgen“ wurde nicht geändert: %1</translation>
     </message>
+    <message>
+        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <extracomment>The words in quotation marks are a command.</extracomment>
+        <translation>Profile folgen den Anwendungen jetzt nicht: Der Dienst ist beendet. Den Grund nennt die Ausgabe von „systemctl --user status qvtblt-follow“.</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -541,6 +546,11 @@
         <source>&amp;Cancel</source>
         <extracomment>Button of a question: does nothing.</extracomment>
         <translation>&amp;Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications (not running)</source>
+        <extracomment>The same menu item, where the service that does it is on, but has ended.</extracomment>
+        <translation>Anwendungen &amp;folgen (läuft nicht)</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,11 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>«Seguir a las aplicaciones» no se ha cambiado: %1</translation>
     </message>
+    <message>
+        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <extracomment>The words in quotation marks are a command.</extracomment>
+        <translation>Los perfiles no siguen ahora a las aplicaciones: el servicio ha terminado. El motivo está en lo que muestra «systemctl --user status qvtblt-follow».</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -541,6 +546,11 @@
         <source>&amp;Cancel</source>
         <extracomment>Button of a question: does nothing.</extracomment>
         <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications (not running)</source>
+        <extracomment>The same menu item, where the service that does it is on, but has ended.</extracomment>
+        <translation>&amp;Seguir a las aplicaciones (no en ejecución)</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,11 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>«&#xa0;Suivre les applications&#xa0;» n’a pas été modifié&#xa0;: %1</translation>
     </message>
+    <message>
+        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <extracomment>The words in quotation marks are a command.</extracomment>
+        <translation>Les profils ne suivent plus les applications : le service s’est arrêté. La raison se trouve dans ce qu’affiche « systemctl --user status qvtblt-follow ».</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -541,6 +546,11 @@
         <source>&amp;Cancel</source>
         <extracomment>Button of a question: does nothing.</extracomment>
         <translation>&amp;Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications (not running)</source>
+        <extracomment>The same menu item, where the service that does it is on, but has ended.</extracomment>
+        <translation>Suivre &amp;les applications (arrêté)</translation>
     </message>
 </context>
 <context>

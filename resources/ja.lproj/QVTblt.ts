@@ -200,6 +200,11 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>「アプリケーションに追従」は変更されませんでした: %1</translation>
     </message>
+    <message>
+        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <extracomment>The words in quotation marks are a command.</extracomment>
+        <translation>プロファイルは現在アプリケーションに追従していません。サービスが終了しています。理由は「systemctl --user status qvtblt-follow」の出力にあります。</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -541,6 +546,11 @@
         <source>&amp;Cancel</source>
         <extracomment>Button of a question: does nothing.</extracomment>
         <translation>キャンセル(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications (not running)</source>
+        <extracomment>The same menu item, where the service that does it is on, but has ended.</extracomment>
+        <translation>アプリケーションに追従（実行されていません）(&amp;F)</translation>
     </message>
 </context>
 <context>

@@ -200,6 +200,11 @@
         <extracomment>%1 is the reason, in English.</extracomment>
         <translation>“跟随应用程序”未更改：%1</translation>
     </message>
+    <message>
+        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <extracomment>The words in quotation marks are a command.</extracomment>
+        <translation>配置方案现在不会跟随应用程序切换：服务已结束。原因见“systemctl --user status qvtblt-follow”的输出。</translation>
+    </message>
 </context>
 <context>
     <name>ImportDialog</name>
@@ -541,6 +546,11 @@
         <source>&amp;Cancel</source>
         <extracomment>Button of a question: does nothing.</extracomment>
         <translation>取消(&amp;C)</translation>
+    </message>
+    <message>
+        <source>&amp;Follow Applications (not running)</source>
+        <extracomment>The same menu item, where the service that does it is on, but has ended.</extracomment>
+        <translation>跟随应用程序（未运行）(&amp;F)</translation>
     </message>
 </context>
 <context>

@@ -49,7 +49,9 @@ protected:
     QString mFailure;
 };
 
+const QString kSubscribed = QStringLiteral("Subscribe ");
 const QString kAsked = QStringLiteral("GetUnitFileState s qvtblt-follow.service");
+const QString kListed = QStringLiteral("ListUnitsByNames as qvtblt-follow.service");
 
 } // namespace
 
@@ -70,7 +72,7 @@ TEST_F(Follow, saysWhetherTheServiceIsStartedWithTheSession)
     refresh();
     EXPECT_EQ(mService.isOn(), true);
     EXPECT_EQ(mService.fault(), QString());
-    EXPECT_EQ(systemd.calls, (QStringList{kAsked, kAsked}));
+    EXPECT_EQ(systemd.calls, (QStringList{kAsked, kAsked, kListed}));
 }
 
 TEST_F(Follow, turnsTheServiceOnForAllSessionsAndStartsIt)
@@ -79,10 +81,33 @@ TEST_F(Follow, turnsTheServiceOnForAllSessionsAndStartsIt)
     set(true);
     EXPECT_EQ(mService.isOn(), true);
     EXPECT_EQ(systemd.calls,
-        (QStringList{QStringLiteral("EnableUnitFiles asbb qvtblt-follow.service false false"),
+        (QStringList{kSubscribed,
+            QStringLiteral("EnableUnitFiles asbb qvtblt-follow.service false false"),
             QStringLiteral("Reload "), QStringLiteral("StartUnit ss qvtblt-follow.service replace"),
-            kAsked}));
+            kAsked, kListed}));
+    EXPECT_EQ(mService.fault(), QString());
     EXPECT_EQ(mFailure, QString());
+}
+
+TEST_F(Follow, saysThatTheServiceHasEnded)
+{
+    const QString fault = QStringLiteral(
+        "Profiles do not follow applications now: the service has ended. The reason is in what "
+        "“systemctl --user status qvtblt-follow” prints.");
+    FakeSystemd& systemd = startSystemd();
+    systemd.activeState = QStringLiteral("failed");
+    set(true);
+    EXPECT_EQ(mService.isOn(), true) << "another desktop may tell what this one does not";
+    EXPECT_EQ(mService.fault(), fault);
+    EXPECT_EQ(mFailure, fault);
+    mFailure.clear();
+    systemd.activeState = QStringLiteral("inactive");
+    refresh();
+    EXPECT_EQ(mService.fault(), fault);
+    EXPECT_EQ(mFailure, QString()) << "the user has just opened a menu";
+    systemd.activeState = QStringLiteral("activating");
+    refresh();
+    EXPECT_EQ(mService.fault(), QString());
 }
 
 TEST_F(Follow, turnsTheServiceOffForAllSessionsAndStopsIt)
@@ -92,7 +117,8 @@ TEST_F(Follow, turnsTheServiceOffForAllSessionsAndStopsIt)
     set(false);
     EXPECT_EQ(mService.isOn(), false);
     EXPECT_EQ(systemd.calls,
-        (QStringList{QStringLiteral("DisableUnitFiles asb qvtblt-follow.service false"),
+        (QStringList{kSubscribed,
+            QStringLiteral("DisableUnitFiles asb qvtblt-follow.service false"),
             QStringLiteral("Reload "), QStringLiteral("StopUnit ss qvtblt-follow.service replace"),
             kAsked}));
 }

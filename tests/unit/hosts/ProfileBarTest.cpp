@@ -578,6 +578,14 @@ TEST_F(Bar, hasProfilesFollowApplicationsWhenTheUserSaysSo)
     EXPECT_EQ(systemd.state, QStringLiteral("disabled"));
     EXPECT_FALSE(follow.isChecked());
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+    systemd.activeState = QStringLiteral("failed");
+    andWait([&] { follow.trigger(); });
+    EXPECT_TRUE(follow.isChecked());
+    EXPECT_EQ(follow.text(), QStringLiteral("&Follow Applications (not running)"));
+    EXPECT_EQ(follow.whatsThis(), bar().findChild<FollowService*>()->fault());
+    expectTold(qUtf8Printable(bar().findChild<FollowService*>()->fault()));
+    andWait([&] { follow.trigger(); });
+    EXPECT_EQ(follow.text(), QStringLiteral("&Follow Applications"));
     systemd.failing = QStringLiteral("EnableUnitFiles");
     andWait([&] { follow.trigger(); });
     EXPECT_FALSE(follow.isChecked());
