@@ -413,7 +413,12 @@ void QVMonitorView::CreateCalibrateWin(const Rect& rect)
         mCalibration->removeAndClose(); // one at a time: the driver's reports go to the newest
     }
     mCalibration = new QVCalibrateWin(rect, window()); // the window owns it and closes it
-    connect(mCalibration, &QObject::destroyed, this, &QVMonitorView::calibrationEnded);
+    connect(mCalibration, &QObject::destroyed, this, [this](const QObject* window) {
+        if (mCalibration == window) {
+            mCalibration.clear(); // the pointer of a widget still has it at this point
+        }
+        Q_EMIT calibrationEnded();
+    });
 }
 
 void QVMonitorView::DoCalibrate()

@@ -104,6 +104,8 @@ void QVPaneProfiles::join()
         mBus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
         mBus->connect(kQVPanelService, kQVPanelPath, kQVPanelInterface,
             QStringLiteral("SettingsChanged"), this, SLOT(takeSettings(QByteArray)));
+        mBus->connect(kQVPanelService, kQVPanelPath, kQVPanelInterface, QStringLiteral("Saved"),
+            this, SLOT(takeSaved()));
     }
     if (!mBus->isConnected()) {
         return;
@@ -111,10 +113,14 @@ void QVPaneProfiles::join()
     mObject = std::make_unique<QVPanelObject>(
         static_cast<QVProfileSwitch&>(*this), QVPanelObject::Kind::Panel, *mBus);
     mObject->setRoleHandler([this] { takeRole(); });
+    mObject->setSavedHandler([this] { compareWithFile(); });
 }
 
 void QVPaneProfiles::part()
 {
+    if (std::exchange(mIsCalibrationTold, false) && isSecond()) {
+        mBus->send(QVPanelCall("NoteCalibration", {false}));
+    }
     // Calls must not be left in a connection that is closed.
     qDeleteAll(findChildren<QDBusPendingCallWatcher*>(QString(), Qt::FindDirectChildrenOnly));
     mPending = 0;
@@ -131,6 +137,8 @@ void QVPaneProfiles::takeRole()
     if (!isSecond()) {
         return; // the record stays as it is: it has what a former owner last told
     }
+    mIsCalibrationTold = false; // the owner may be another one
+    tellCalibration();
     // What has been loaded is the file, which may lack the owner's edits.
     call("Settings", {}, [this](const QDBusPendingCallWatcher& answered) {
         const QDBusPendingReply<QByteArray> reply = answered;
@@ -143,11 +151,8 @@ void QVPaneProfiles::takeRole()
 void QVPaneProfiles::call(const char* method, const QVariantList& arguments,
     std::function<void(const QDBusPendingCallWatcher& reply)> done)
 {
-    QDBusMessage message = QDBusMessage::createMethodCall(
-        kQVPanelService, kQVPanelPath, kQVPanelInterface, QLatin1String(method));
-    message.setArguments(arguments);
-    message.setAutoStartService(false);
-    auto* const watcher = new QDBusPendingCallWatcher(mBus->asyncCall(message), this);
+    auto* const watcher =
+        new QDBusPendingCallWatcher(mBus->asyncCall(QVPanelCall(method, arguments)), this);
     connect(watcher, &QDBusPendingCallWatcher::finished, this,
         [done = std::move(done)](QDBusPendingCallWatcher* answered) {
             answered->deleteLater();
@@ -160,11 +165,42 @@ void QVPaneProfiles::call(const char* method, const QVariantList& arguments,
 void QVPaneProfiles::noteEdit()
 {
     if (isSecond()) {
+        tellCalibration(); // before the edits that it has made
         merge(); // what has come during a calibration
         sendEdits();
     } else if (mObject && !mTellSoon.isActive()) {
         mTellSoon.start(0); // many edits may follow, as while a slider is dragged
     }
+}
+
+void QVPaneProfiles::tellCalibration()
+{
+    const bool isCalibrating = mPanel.isCalibrating();
+    if (std::exchange(mIsCalibrationTold, isCalibrating) != isCalibrating) {
+        mBus->send(QVPanelCall("NoteCalibration", {isCalibrating}));
+    }
+}
+
+void QVPaneProfiles::noteSaved()
+{
+    if (isSecond()) {
+        mBus->send(QVPanelCall("NoteSaved"));
+    } else if (mObject) {
+        mObject->tellSaved();
+    }
+}
+
+void QVPaneProfiles::takeSaved()
+{
+    if (isSecond() && mPanel.hasDevice()) {
+        compareWithFile();
+    }
+}
+
+void QVPaneProfiles::compareWithFile()
+{
+    store().noteSaved();
+    mPanel.tell(false);
 }
 
 /** Sends the owner what it does not have. */
@@ -257,7 +293,7 @@ Result<> QVPaneProfiles::attach()
 
 Result<> QVPaneProfiles::mayChange()
 {
-    if (mPanel.isCalibrating()) {
+    if (mPanel.isCalibrating() || (mObject && mObject->isCalibratedByOther())) {
         return Error{tr("The tablet is being calibrated. Finish that first.")};
     }
     return {};
@@ -279,6 +315,9 @@ void QVPaneProfiles::changed(bool isOther)
     mPanel.tell(isOther);
     if (mObject) {
         mObject->tellChanged();
+        if (isOther) {
+            mObject->tellSaved();
+        }
     }
     tellListChanged();
 }

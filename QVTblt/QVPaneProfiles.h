@@ -45,8 +45,10 @@ public:
     void enter();
     /** It is shown no more, and its settings are saved. */
     void leave();
-    /** The record may have been edited. */
+    /** The record may have been edited, or a calibration has begun or ended. */
     void noteEdit();
+    /** The panel has saved the settings. */
+    void noteSaved();
 
     std::vector<Profile> list() const override;
     QString current() const override;
@@ -64,6 +66,7 @@ public:
 
 private Q_SLOTS:
     void takeSettings(const QByteArray& record);
+    void takeSaved();
 
 private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     platform::Result<> attach() override;
@@ -76,7 +79,9 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     void join();
     void part();
     void takeRole();
+    void compareWithFile();
     void sendEdits();
+    void tellCalibration();
     void merge();
     void tellListChanged();
     /** Calls a method of the panel that owns the name. */
@@ -96,4 +101,5 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     QString mProfile; ///< the current one, as last shown
     QByteArray mTaken; ///< the owner's record, to be taken over; empty if there is none
     int mPending = 0; ///< calls with edits that have not been answered
+    bool mIsCalibrationTold = false; ///< the owner knows that this panel calibrates
 };

@@ -7,6 +7,7 @@
 #include <QDBusMetaType>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QThread>
 
 #include <utility>
 
@@ -27,6 +28,7 @@ constexpr std::uint32_t kPrimaryOwner = 1;
 constexpr std::uint32_t kInQueue = 2;
 
 constexpr int kReleaseTime = 250; ///< milliseconds
+constexpr int kReleasePause = 5; ///< milliseconds
 /** Changing the tablet's report speed may take four seconds. */
 constexpr int kAnswerTime = 10000; ///< milliseconds
 
@@ -38,10 +40,16 @@ QDBusMessage busCall(const char* method)
     return call;
 }
 
+bool isWithoutObject(const QDBusMessage& reply)
+{
+    return QDBusError(reply).type() == QDBusError::UnknownObject;
+}
+
 } // namespace
 
 QVPanelObject::QVPanelObject(QVProfileSwitch& own, Kind kind, QDBusConnection bus)
     : mOwn(own)
+    , mKind(kind)
     , mBus(std::move(bus))
 {
     qDBusRegisterMetaType<QVStringMap>();
@@ -51,8 +59,24 @@ QVPanelObject::QVPanelObject(QVProfileSwitch& own, Kind kind, QDBusConnection bu
         SLOT(noteAcquired(QString)));
     mBus.connect(kBusService, kBusPath, kBusService, QStringLiteral("NameLost"), this,
         SLOT(noteLost(QString)));
+    mCalibrating.setConnection(mBus);
+    mCalibrating.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
+    connect(&mCalibrating, &QDBusServiceWatcher::serviceUnregistered, &mCalibrating,
+        &QDBusServiceWatcher::removeWatchedService);
+    auto* const owners = new QDBusServiceWatcher(
+        kQVPanelService, mBus, QDBusServiceWatcher::WatchForOwnerChange, this);
+    connect(owners, &QDBusServiceWatcher::serviceOwnerChanged, this,
+        [this](const QString& /*name*/, const QString& /*before*/, const QString& owner) {
+            noteOwner(owner);
+        });
+    requestName();
+}
+
+void QVPanelObject::requestName()
+{
+    delete mRequest;
     QDBusMessage request = busCall("RequestName");
-    request << (kind == Kind::Panel ? kReplaceExisting : kAllowReplacement);
+    request << (mKind == Kind::Panel ? kReplaceExisting : kAllowReplacement);
     mRequest = new QDBusPendingCallWatcher(mBus.asyncCall(request), this);
     connect(mRequest, &QDBusPendingCallWatcher::finished, this, [this] {
         const QDBusPendingReply<std::uint32_t> reply = *mRequest;
@@ -81,6 +105,20 @@ void QVPanelObject::setRole(Role role)
     }
 }
 
+/** The name has another owner: perhaps a follower that was in the queue before this panel. */
+void QVPanelObject::noteOwner(const QString& owner)
+{
+    if (mRole != Role::Second || owner.isEmpty() || owner == mBus.baseService()) {
+        return;
+    }
+    if (mKind == Kind::Panel) {
+        requestName();
+    }
+    if (mRoleHandler) {
+        mRoleHandler();
+    }
+}
+
 void QVPanelObject::noteAcquired(const QString& name)
 {
     if (name == kQVPanelService) {
@@ -100,19 +138,28 @@ void QVPanelObject::tellChanged()
     if (!isOwner()) {
         return;
     }
-    // Qt hands a signal that is emitted to another thread, so that it might come too late.
-    const auto send = [this](const char* name, const QVariantList& arguments) {
-        QDBusMessage signal =
-            QDBusMessage::createSignal(kQVPanelPath, kQVPanelInterface, QLatin1String(name));
-        signal.setArguments(arguments);
-        mBus.send(signal);
-    };
     const Result<QByteArray> record = mOwn.record();
     if (record && mHasSeconds && *record != mLastTold) {
         mLastTold = *record;
         send("SettingsChanged", {*record});
     }
-    send("Changed", {});
+    send("Changed");
+}
+
+void QVPanelObject::tellSaved()
+{
+    if (isOwner()) {
+        send("Saved");
+    }
+}
+
+/** Sends a signal. One that is emitted is handed to another thread, and might come too late. */
+void QVPanelObject::send(const char* signal, const QVariantList& arguments)
+{
+    QDBusMessage message =
+        QDBusMessage::createSignal(kQVPanelPath, kQVPanelInterface, QLatin1String(signal));
+    message.setArguments(arguments);
+    mBus.send(message);
 }
 
 void QVPanelObject::answer(const Result<>& result)
@@ -176,14 +223,43 @@ QByteArray QVPanelObject::Settings()
     return record.value_or(QByteArray());
 }
 
-std::optional<Result<>> QVAskPanel(
-    const QDBusConnection& bus, const QString& method, const QVariantList& arguments)
+void QVPanelObject::NoteCalibration(bool isOn)
 {
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(kQVPanelService, kQVPanelPath, kQVPanelInterface, method);
+    const QString caller = message().service();
+    if (isOn) {
+        mCalibrating.addWatchedService(caller);
+    } else {
+        mCalibrating.removeWatchedService(caller);
+    }
+}
+
+void QVPanelObject::NoteSaved()
+{
+    if (mSavedHandler) {
+        mSavedHandler();
+    }
+    tellSaved();
+}
+
+QDBusMessage QVPanelCall(const char* method, const QVariantList& arguments)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        kQVPanelService, kQVPanelPath, kQVPanelInterface, QLatin1String(method));
     call.setArguments(arguments);
     call.setAutoStartService(false);
-    const QDBusMessage reply = bus.call(call, QDBus::Block, kAnswerTime);
+    return call;
+}
+
+std::optional<Result<>> QVAskPanel(
+    const QDBusConnection& bus, const char* method, const QVariantList& arguments)
+{
+    const QDBusMessage call = QVPanelCall(method, arguments);
+    QDBusMessage reply = bus.call(call, QDBus::Block, kAnswerTime);
+    // A panel that is left gives up its object before its name.
+    for (int time = 0; time < kReleaseTime && isWithoutObject(reply); time += kReleasePause) {
+        QThread::msleep(kReleasePause);
+        reply = bus.call(call, QDBus::Block, kAnswerTime);
+    }
     if (reply.type() != QDBusMessage::ErrorMessage) {
         return Result<>();
     }
@@ -191,7 +267,7 @@ std::optional<Result<>> QVAskPanel(
     constexpr QLatin1String kNoOwner("org.freedesktop.DBus.Error.NameHasNoOwner");
     const QDBusError::ErrorType error = QDBusError(reply).type();
     if (reply.errorName() == kNoOwner || error == QDBusError::ServiceUnknown
-        || error == QDBusError::Disconnected) {
+        || error == QDBusError::Disconnected || isWithoutObject(reply)) {
         return std::nullopt;
     }
     return Error{reply.errorMessage()};

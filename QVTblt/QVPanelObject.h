@@ -7,6 +7,7 @@
 
 #include <QDBusConnection>
 #include <QDBusContext>
+#include <QDBusServiceWatcher>
 #include <QLatin1String>
 #include <QMap>
 #include <QObject>
@@ -58,8 +59,16 @@ public:
     /** Sets the function to call when this has the name from now on, or somebody else has. */
     void setRoleHandler(std::function<void()> handler) { mRoleHandler = std::move(handler); }
 
+    /** Sets the function to call when another program says that it has saved the settings. */
+    void setSavedHandler(std::function<void()> handler) { mSavedHandler = std::move(handler); }
+
+    /** Whether another program calibrates the tablet. */
+    bool isCalibratedByOther() const { return !mCalibrating.watchedServices().isEmpty(); }
+
     /** Tells others what the settings are now, if this has the name. */
     void tellChanged();
+    /** Tells others that the settings have been saved, if this has the name. */
+    void tellSaved();
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     QStringList Profiles();
@@ -78,12 +87,18 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     void Save(const QString& name);
     /** The record: 5077 bytes. */
     QByteArray Settings();
+    /** The caller's panel calibrates, during which nothing may be changed, or has ended that. */
+    void NoteCalibration(bool isOn);
+    /** The caller has saved the settings. */
+    void NoteSaved();
 
 Q_SIGNALS: // never emitted, but declared for those who ask what there is
     /** The settings, the profiles or the current one may have changed. */
     void Changed();
     /** The record has changed; sent once somebody has asked for Settings(). */
     void SettingsChanged(const QByteArray& record);
+    /** The settings have been saved. */
+    void Saved();
 
 private Q_SLOTS:
     void noteAcquired(const QString& name);
@@ -93,16 +108,25 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     enum class Role : std::uint8_t { Unknown, Owner, Second };
 
     void answer(const platform::Result<>& result);
+    void requestName();
     void setRole(Role role);
+    void noteOwner(const QString& owner);
+    void send(const char* signal, const QVariantList& arguments = {});
 
     QVProfileSwitch& mOwn;
+    Kind mKind;
     QDBusConnection mBus;
     std::function<void()> mRoleHandler;
+    std::function<void()> mSavedHandler;
     QDBusPendingCallWatcher* mRequest = nullptr; ///< for the name
+    QDBusServiceWatcher mCalibrating; ///< watches those who calibrate, by their unique names
     Role mRole = Role::Unknown;
     bool mHasSeconds = false; ///< somebody follows the record
     QByteArray mLastTold; ///< the record
 };
+
+/** A call of a method of whoever owns the panel's name, which the bus must not start. */
+QDBusMessage QVPanelCall(const char* method, const QVariantList& arguments = {});
 
 /**
  * Has the owner of the panel's name do something, and waits for it.
@@ -110,4 +134,4 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
  * @return nothing if nobody owns the name
  */
 std::optional<platform::Result<>> QVAskPanel(
-    const QDBusConnection& bus, const QString& method, const QVariantList& arguments);
+    const QDBusConnection& bus, const char* method, const QVariantList& arguments = {});

@@ -83,6 +83,8 @@ platform::PreferencePane* QVTblt_prefPanePref::initWithBundle(const platform::Bu
     relay(kConfigNotLoadedNotification, News::NotLoaded);
     relay(kConfigSavedNotification, News::Saved);
     relay(kConfigNotSavedNotification, News::NotSaved);
+    platform::notifications().addObserver(*this, kConfigSavedNotification,
+        [this](const platform::Notification&) { mProfiles->noteSaved(); });
     makeProfiles();
     return pane;
 }

@@ -185,8 +185,7 @@ int runSet(const Arguments& arguments)
         fail(fits.error().text);
         return kExitUsage;
     }
-    const auto asked = QVAskPanel(
-        QDBusConnection::sessionBus(), QStringLiteral("Set"), QVariantList{entry, value});
+    const auto asked = QVAskPanel(QDBusConnection::sessionBus(), "Set", {entry, value});
     if (const Result<> set = asked ? *asked : setInFile(*found, value); !set) {
         return fail(set.error().text);
     }

@@ -120,6 +120,7 @@ public:
         mBus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
             QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
             SLOT(endWithoutBus()));
+        mFront.start();
         mRest.start();
     }
 
@@ -147,7 +148,7 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
         if (owner.isEmpty() || owner == mBus.baseService()) {
             done = mProfiles.useFor(names);
         } else {
-            done = QVAskPanel(mBus, QStringLiteral("Follow"), QVariantList() << QVariant(names));
+            done = QVAskPanel(mBus, "Follow", {QVariant(names)});
         }
         mHasFailed = !done || !*done;
         if (done) {
@@ -235,16 +236,17 @@ int runFollow(const Arguments& /*none*/)
     if (!bus.isConnected()) {
         return fail(QStringLiteral("cannot follow: there is no session bus"));
     }
+    const Result<std::unique_ptr<FrontWindow>> front = makeFrontWindow(bus);
+    if (!front) {
+        return fail(front.error().text);
+    }
+    // Who waits for the name learns that it works.
     const auto asked = bus.interface()->registerService(
         kFollowerService, QDBusConnectionInterface::DontQueueService);
     if (asked.value() != QDBusConnectionInterface::ServiceRegistered) {
         return fail(asked.isValid()
                 ? QStringLiteral("another process follows the application in front already")
                 : asked.error().message());
-    }
-    const Result<std::unique_ptr<FrontWindow>> front = makeFrontWindow(bus);
-    if (!front) {
-        return fail(front.error().text);
     }
     Follower follower(bus, **front);
     return QCoreApplication::exec();

@@ -20,6 +20,9 @@ class FrontWindow : public QObject {
     Q_OBJECT
 
 public:
+    /** Has changed() tell of what comes to the front from now on. */
+    virtual void start() { }
+
     /** The application in front; nothing if there is none, or only a part of the desktop. */
     virtual std::optional<FrontApplication> application() = 0;
 

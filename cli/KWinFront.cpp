@@ -68,6 +68,10 @@ KWinFront::KWinFront(QDBusConnection bus)
     : mBus(std::move(bus))
     , mScript(scriptFolder() + QStringLiteral("/qvtbltctl-XXXXXX.js"))
 {
+}
+
+void KWinFront::start()
+{
     if (mScript.open()) {
         mScript.write(QString::fromLatin1(kScriptText)
                           .arg(mBus.baseService(), kFrontPath, kFrontInterface)

@@ -28,6 +28,9 @@ public:
     explicit KWinFront(QDBusConnection bus);
     ~KWinFront() override;
 
+    /** Puts the script into KWin. */
+    void start() override;
+
     std::optional<FrontApplication> application() override { return mApplication; }
 
     // For the script, and nobody else.

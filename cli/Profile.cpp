@@ -44,7 +44,7 @@ Result<QVProfileFolder> profilesOfTablet()
 template <class Here>
 Result<> throughPanel(const char* method, const QVariantList& operands, const Here& here)
 {
-    const auto asked = QVAskPanel(QDBusConnection::sessionBus(), QLatin1String(method), operands);
+    const auto asked = QVAskPanel(QDBusConnection::sessionBus(), method, operands);
     return asked ? *asked : here();
 }
 
@@ -104,8 +104,7 @@ int useProfile(const QStringList& operands, bool /*asJson*/)
 
 int useNextProfile(const QStringList& /*none*/, bool /*asJson*/)
 {
-    const auto asked =
-        QVAskPanel(QDBusConnection::sessionBus(), QStringLiteral("UseNext"), QVariantList());
+    const auto asked = QVAskPanel(QDBusConnection::sessionBus(), "UseNext");
     QVConfigStore store;
     QVProfileSwitch profiles(store);
     const Result<QString> next = !asked ? profiles.useNext()

@@ -24,6 +24,7 @@
 #include <array>
 #include <cstring>
 #include <functional>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -76,13 +77,17 @@ public:
             this, SLOT(noteChange()));
         bus.connect(kQVPanelService, kQVPanelPath, kQVPanelInterface,
             QStringLiteral("SettingsChanged"), this, SLOT(noteRecord(QByteArray)));
+        bus.connect(kQVPanelService, kQVPanelPath, kQVPanelInterface, QStringLiteral("Saved"), this,
+            SLOT(noteSave()));
     }
 
     int changes = 0;
+    int saves = 0;
     std::vector<int> pressures;
 
 private Q_SLOTS:
     void noteChange() { ++changes; }
+    void noteSave() { ++saves; }
     void noteRecord(const QByteArray& bytes)
     {
         tagQVTabletInfo record{};
@@ -122,6 +127,68 @@ protected:
     PrivateBus mBus;
     QDBusConnection mClient =
         QDBusConnection::connectToBus(mBus.address(), QStringLiteral("client"));
+};
+
+/** Beside another panel, which was there first. */
+class SecondPanel : public PanelOnBus {
+protected:
+    void SetUp() override
+    {
+        PanelOnBus::SetUp();
+        leave();
+        ASSERT_TRUE(waitFor([&] { return !mOwned(); }));
+        mFirst.emplace(mTheirs, QVPanelObject::Kind::Panel, mClient);
+        ASSERT_TRUE(waitFor([&] { return mFirst->isOwner(); }));
+        show();
+        ASSERT_TRUE(waitFor([&] { return mTheirs.asks > 0; })) << "for their settings";
+    }
+    void TearDown() override
+    {
+        leave();
+        mFirst.reset();
+    }
+
+    /** Those that have or want the name, the owner first. */
+    QStringList queue()
+    {
+        QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+            QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+            QStringLiteral("ListQueuedOwners"));
+        call << QString(kQVPanelService);
+        return QDBusReply<QStringList>(mClient.call(call)).value();
+    }
+
+    QVMonitorView& calibrate()
+    {
+        outlet<QComboBox>("mComboBox").setCurrentIndex(1);
+        auto& view = outlet<QVMonitorView>("mMonitorView");
+        view.SelectMonitor();
+        view.DoCalibrate();
+        EXPECT_TRUE(view.isCalibrating());
+        return view;
+    }
+
+    /** The other one's settings, which are always there. */
+    class Theirs final : public QVProfileSwitch {
+    public:
+        using QVProfileSwitch::QVProfileSwitch;
+
+        int asks = 0;
+        int edits = 0;
+
+    protected:
+        platform::Result<> attach() override
+        {
+            ++asks;
+            return {};
+        }
+        platform::Result<> push() override { return {}; }
+        void changed(bool /*isOther*/) override { ++edits; }
+    };
+
+    QVConfigStore mStore;
+    Theirs mTheirs{mStore};
+    std::optional<QVPanelObject> mFirst;
 };
 
 } // namespace
@@ -284,6 +351,128 @@ TEST_F(PanelOnBus, tellsOthersOfEdits)
     leave();
     EXPECT_TRUE(waitFor([&] { return ear.pressures.back() == 12; }))
         << "what is discarded, before the name is given up";
+}
+
+TEST_F(PanelOnBus, changesNothingWhileAnotherCalibrates)
+{
+    const QString fault = QStringLiteral("The tablet is being calibrated. Finish that first.");
+    ask("NoteCalibration", {true});
+    EXPECT_EQ(ask("Use", {mName}).errorMessage(), fault);
+    EXPECT_EQ(use(mName), fault);
+    EXPECT_EQ(ask("Set", {QStringLiteral("Pen/Speed"), QStringLiteral("4")}).errorMessage(), fault);
+    EXPECT_TRUE(pushes().empty());
+    ask("NoteCalibration", {false});
+    EXPECT_EQ(use(mName), QString());
+}
+
+TEST_F(PanelOnBus, forgetsTheCalibrationOfOneThatHasLeftTheBus)
+{
+    const QString name = QStringLiteral("guest");
+    QDBusConnection guest = QDBusConnection::connectToBus(mBus.address(), name);
+    const QDBusPendingCall told = guest.asyncCall(QVPanelCall("NoteCalibration", {true}));
+    ASSERT_TRUE(waitFor([&] { return told.isFinished(); }));
+    EXPECT_NE(use(mName), QString());
+    QDBusConnection::disconnectFromBus(name);
+    guest = QDBusConnection(QString()); // the last reference closes it
+    EXPECT_TRUE(waitFor([&] { return use(mName).isEmpty(); }));
+}
+
+TEST_F(PanelOnBus, knowsWhatAnotherHasSaved)
+{
+    Ear ear(mClient);
+    qvTabletInfo.Pen.PressureThreshold = 32;
+    EXPECT_TRUE(mPane.hasChanges());
+    ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString()));
+    ask("NoteSaved");
+    EXPECT_FALSE(mPane.hasChanges());
+    EXPECT_TRUE(waitFor([&] { return ear.saves == 1; })) << "a third panel";
+    qvTabletInfo.Pen.PressureThreshold = 33;
+    mPane.save();
+    EXPECT_TRUE(waitFor([&] { return ear.saves == 2; }));
+}
+
+TEST_F(SecondPanel, saysThatItCalibrates)
+{
+    QVMonitorView& view = calibrate();
+    EXPECT_TRUE(waitFor([&] { return mFirst->isCalibratedByOther(); }));
+    view.endCalibration();
+    EXPECT_TRUE(waitFor([&] { return !mFirst->isCalibratedByOther(); }));
+    calibrate();
+    EXPECT_TRUE(waitFor([&] { return mFirst->isCalibratedByOther(); }));
+    leave();
+    EXPECT_TRUE(waitFor([&] { return !mFirst->isCalibratedByOther(); }));
+}
+
+TEST_F(SecondPanel, sendsTheAreaThatItHasCalibrated)
+{
+    QVMonitorView& view = calibrate();
+    qvTabletInfo.Monitor.cTabletXmax = 4321;
+    EXPECT_EQ(mTheirs.edits, 0);
+    view.endCalibration();
+    EXPECT_TRUE(waitFor([&] { return mTheirs.edits > 0; }));
+}
+
+TEST_F(SecondPanel, saysThatItHasSaved)
+{
+    bool isSaved = false;
+    mFirst->setSavedHandler([&] { isSaved = true; });
+    mPane.save();
+    EXPECT_TRUE(waitFor([&] { return isSaved; }));
+}
+
+TEST_F(SecondPanel, knowsWhatTheFirstHasSaved)
+{
+    qvTabletInfo.Pen.PressureThreshold = 32;
+    EXPECT_TRUE(mPane.hasChanges());
+    ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString()));
+    mFirst->tellSaved();
+    EXPECT_TRUE(waitFor([&] { return !mPane.hasChanges(); }));
+}
+
+TEST_F(SecondPanel, comesBeforeAFollowerThatWasThereEarlier)
+{
+    QDBusConnection bus = QDBusConnection::connectToBus(mBus.address(), QStringLiteral("follower"));
+    QDBusMessage request = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("RequestName"));
+    constexpr uint kAllowReplacement = 1;
+    constexpr uint kBeforeOthers = 2;
+    request << QString(kQVPanelService) << (kAllowReplacement | kBeforeOthers);
+    bus.call(request);
+    const QStringList before = queue();
+    ASSERT_EQ(before.indexOf(bus.baseService()), 1);
+    mFirst.reset();
+    EXPECT_TRUE(waitFor([&] { return queue().value(0) == before.value(2); }))
+        << queue().join(u' ').toStdString();
+    QDBusConnection::disconnectFromBus(bus.name());
+}
+
+TEST_F(SecondPanel, asksTheNextOwnerForItsSettings)
+{
+    QDBusConnection bus = QDBusConnection::connectToBus(mBus.address(), QStringLiteral("next"));
+    QVPanelObject next(mTheirs, QVPanelObject::Kind::Panel, bus);
+    ASSERT_TRUE(waitFor([&] { return queue().value(1) == bus.baseService(); }))
+        << "the bus has it before this panel";
+    ASSERT_TRUE(waitFor([&] { return next.isSecond(); }));
+    const Ear ear(bus);
+    mFirst.reset();
+    ASSERT_TRUE(waitFor([&] { return next.isOwner(); }));
+    EXPECT_TRUE(waitFor([&] {
+        next.tellChanged();
+        return !ear.pressures.empty(); // somebody has asked for them
+    }));
+    QDBusConnection::disconnectFromBus(bus.name());
+}
+
+TEST_F(SecondPanel, countsNoOwnerThatHasNoSuchObject)
+{
+    leave();
+    mFirst.reset();
+    ASSERT_TRUE(waitFor([&] { return !mOwned(); }));
+    QDBusConnection bus = QDBusConnection::connectToBus(mBus.address(), QStringLiteral("empty"));
+    ASSERT_TRUE(bus.registerService(kQVPanelService));
+    EXPECT_FALSE(QVAskPanel(mClient, "Use", {mName}).has_value()) << "a panel about to end";
+    QDBusConnection::disconnectFromBus(bus.name());
 }
 
 TEST_F(PanelOnBus, keepsItsNameWhenItIsNotLeftAfterAll)
