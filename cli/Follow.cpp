@@ -231,7 +231,8 @@ Result<std::unique_ptr<FrontWindow>> makeFrontWindow(const QDBusConnection& bus)
 int runFollow(const Arguments& /*none*/)
 {
     const platform::UnixSignals signals({SIGTERM, SIGINT, SIGHUP});
-    QObject::connect(&signals, &platform::UnixSignals::received, qApp, &QCoreApplication::quit);
+    QObject::connect(&signals, &platform::UnixSignals::received, QCoreApplication::instance(),
+        &QCoreApplication::quit);
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
         return fail(QStringLiteral("cannot follow: there is no session bus"));
