@@ -61,7 +61,7 @@ QVPaneProfiles::QVPaneProfiles(QVConfigStore& store, Panel panel)
 
 QVPaneProfiles::~QVPaneProfiles()
 {
-    part();
+    part(); // with all that the connection sends signals to, since it closes in another thread
     if (mBus) {
         QDBusConnection::disconnectFromBus(mBus->name());
     }
@@ -102,10 +102,6 @@ void QVPaneProfiles::join()
             QStringLiteral("org.quorvia.TabletPanel-%1").arg(reinterpret_cast<quintptr>(this));
         QDBusConnection::disconnectFromBus(name);
         mBus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, name);
-        mBus->connect(kQVPanelService, kQVPanelPath, kQVPanelInterface,
-            QStringLiteral("SettingsChanged"), this, SLOT(takeSettings(QByteArray)));
-        mBus->connect(kQVPanelService, kQVPanelPath, kQVPanelInterface, QStringLiteral("Saved"),
-            this, SLOT(takeSaved()));
     }
     if (!mBus->isConnected()) {
         return;
@@ -113,7 +109,8 @@ void QVPaneProfiles::join()
     mObject = std::make_unique<QVPanelObject>(
         static_cast<QVProfileSwitch&>(*this), QVPanelObject::Kind::Panel, *mBus);
     mObject->setRoleHandler([this] { takeRole(); });
-    mObject->setSavedHandler([this] { compareWithFile(); });
+    mObject->setSavedHandler([this] { takeSaved(); });
+    mObject->setSettingsHandler([this](const QByteArray& record) { takeSettings(record); });
 }
 
 void QVPaneProfiles::part()
@@ -192,15 +189,10 @@ void QVPaneProfiles::noteSaved()
 
 void QVPaneProfiles::takeSaved()
 {
-    if (isSecond() && mPanel.hasDevice()) {
-        compareWithFile();
+    if (mPanel.hasDevice()) {
+        store().noteSaved();
+        mPanel.tell(false);
     }
-}
-
-void QVPaneProfiles::compareWithFile()
-{
-    store().noteSaved();
-    mPanel.tell(false);
 }
 
 /** Sends the owner what it does not have. */
@@ -241,7 +233,7 @@ void QVPaneProfiles::sendEdits()
 
 void QVPaneProfiles::takeSettings(const QByteArray& record)
 {
-    if (isSecond() && record.size() == kQVRecordSize) {
+    if (record.size() == kQVRecordSize) {
         mTaken = record;
         merge();
     }

@@ -64,11 +64,7 @@ public:
     QString faultOf(const QString& name) const override;
     void setChangeHandler(std::function<void()> handler) override;
 
-private Q_SLOTS:
-    void takeSettings(const QByteArray& record);
-    void takeSaved();
-
-private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
+private:
     platform::Result<> attach() override;
     platform::Result<> mayChange() override;
     platform::Result<> push() override;
@@ -79,7 +75,8 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     void join();
     void part();
     void takeRole();
-    void compareWithFile();
+    void takeSettings(const QByteArray& record);
+    void takeSaved();
     void sendEdits();
     void tellCalibration();
     void merge();

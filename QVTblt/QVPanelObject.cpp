@@ -59,6 +59,12 @@ QVPanelObject::QVPanelObject(QVProfileSwitch& own, Kind kind, QDBusConnection bu
         SLOT(noteAcquired(QString)));
     mBus.connect(kBusService, kBusPath, kBusService, QStringLiteral("NameLost"), this,
         SLOT(noteLost(QString)));
+    const auto hear = [this](const char* signal, const char* slot) {
+        mBus.connect(
+            kQVPanelService, kQVPanelPath, kQVPanelInterface, QLatin1String(signal), this, slot);
+    };
+    hear("SettingsChanged", SLOT(takeSettings(QByteArray)));
+    hear("Saved", SLOT(takeSaved()));
     mCalibrating.setConnection(mBus);
     mCalibrating.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
     connect(&mCalibrating, &QDBusServiceWatcher::serviceUnregistered, &mCalibrating,
@@ -130,6 +136,20 @@ void QVPanelObject::noteLost(const QString& name)
 {
     if (name == kQVPanelService) {
         setRole(Role::Second);
+    }
+}
+
+void QVPanelObject::takeSettings(const QByteArray& record)
+{
+    if (isSecond() && mSettingsHandler) {
+        mSettingsHandler(record);
+    }
+}
+
+void QVPanelObject::takeSaved()
+{
+    if (isSecond() && mSavedHandler) {
+        mSavedHandler();
     }
 }
 

@@ -59,8 +59,14 @@ public:
     /** Sets the function to call when this has the name from now on, or somebody else has. */
     void setRoleHandler(std::function<void()> handler) { mRoleHandler = std::move(handler); }
 
-    /** Sets the function to call when another program says that it has saved the settings. */
+    /** Sets the function to call when another program has saved the settings. */
     void setSavedHandler(std::function<void()> handler) { mSavedHandler = std::move(handler); }
+
+    /** Sets the function to call when the owner, which is not this, tells of another record. */
+    void setSettingsHandler(std::function<void(const QByteArray& record)> handler)
+    {
+        mSettingsHandler = std::move(handler);
+    }
 
     /** Whether another program calibrates the tablet. */
     bool isCalibratedByOther() const { return !mCalibrating.watchedServices().isEmpty(); }
@@ -103,6 +109,8 @@ Q_SIGNALS: // never emitted, but declared for those who ask what there is
 private Q_SLOTS:
     void noteAcquired(const QString& name);
     void noteLost(const QString& name);
+    void takeSettings(const QByteArray& record);
+    void takeSaved();
 
 private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     enum class Role : std::uint8_t { Unknown, Owner, Second };
@@ -118,6 +126,7 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     QDBusConnection mBus;
     std::function<void()> mRoleHandler;
     std::function<void()> mSavedHandler;
+    std::function<void(const QByteArray& record)> mSettingsHandler;
     QDBusPendingCallWatcher* mRequest = nullptr; ///< for the name
     QDBusServiceWatcher mCalibrating; ///< watches those who calibrate, by their unique names
     Role mRole = Role::Unknown;

@@ -184,12 +184,22 @@ public:
                     noteChange();
                 }
             });
-        mConnection->connect(wire::busName(*mSource), QLatin1String(wire::kObjectPath),
+        hear(&QDBusConnection::connect);
+    }
+
+    using Change = bool (QDBusConnection::*)(const QString& service, const QString& path,
+        const QString& interface, const QString& name, QObject* receiver, const char* slot);
+
+    /** Begins or ends to receive the source's signals. */
+    void hear(Change change)
+    {
+        const QString service = wire::busName(*mSource);
+        (*mConnection.*change)(service, QLatin1String(wire::kObjectPath),
             QLatin1String(wire::kInterface), QLatin1String(wire::kChangedSignal), this,
             SLOT(noteChange()));
         if (const auto& [object, interface, name] = mSignal; !name.isEmpty()) {
-            mConnection->connect(wire::busName(*mSource), object, interface, name, this,
-                SLOT(noteSignal(QDBusMessage)));
+            (*mConnection.*change)(
+                service, object, interface, name, this, SLOT(noteSignal(QDBusMessage)));
         }
     }
 
@@ -233,6 +243,10 @@ private:
     {
         mWatcher.reset();
         if (mConnection) {
+            // It closes in another thread, which must not find this object while that ends.
+            if (mSource) {
+                hear(&QDBusConnection::disconnect);
+            }
             mConnection->unregisterObject(QLatin1String(wire::kObjectPath));
             mConnection.reset();
             QDBusConnection::disconnectFromBus(mName);

@@ -53,6 +53,9 @@ FollowService::FollowService(QObject* parent)
 
 FollowService::~FollowService()
 {
+    // The connection closes in another thread, which must not find these while they end.
+    qDeleteAll(findChildren<QDBusPendingCallWatcher*>(QString(), Qt::FindDirectChildrenOnly));
+    hearOfJobs(&QDBusConnection::disconnect);
     QDBusConnection::disconnectFromBus(mConnection);
 }
 
@@ -67,9 +70,14 @@ bool FollowService::connectToBus()
     }
     QDBusConnection::disconnectFromBus(mConnection); // it may have been lost
     mBus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, mConnection);
-    mBus.connect(kSystemd, kSystemdPath, kSystemdManager, QStringLiteral("JobRemoved"), this,
-        SLOT(noteJob(quint32, QDBusObjectPath, QString)));
+    hearOfJobs(&QDBusConnection::connect);
     return mBus.isConnected();
+}
+
+void FollowService::hearOfJobs(Change change)
+{
+    (mBus.*change)(kSystemd, kSystemdPath, kSystemdManager, QStringLiteral("JobRemoved"), this,
+        SLOT(noteJob(quint32, QDBusObjectPath, QString)));
 }
 
 void FollowService::call(const char* method, const QVariantList& arguments, Next next)

@@ -55,7 +55,12 @@ private Q_SLOTS:
 private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     using Next = std::function<void(const QDBusMessage& reply)>;
 
+    using Change = bool (QDBusConnection::*)(const QString& service, const QString& path,
+        const QString& interface, const QString& name, QObject* receiver, const char* slot);
+
     bool connectToBus();
+    /** Begins or ends to receive what becomes of systemd's jobs. */
+    void hearOfJobs(Change change);
     void call(const char* method, const QVariantList& arguments, Next next);
     void takeState(const QDBusMessage& reply);
     void askWhetherItRuns();
