@@ -94,6 +94,11 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     activateWindow();
 }
 
+QVCalibrateWin::~QVCalibrateWin()
+{
+    Q_EMIT ended();
+}
+
 bool QVCalibrateWin::endCalibration(bool pushes)
 {
     if (mMainWindow.isNull() || mCalibrateWin.isNull()

@@ -26,6 +26,7 @@ public:
      * @param mainWindow the window that shows the panel
      */
     QVCalibrateWin(const platform::Rect& contentRect, QWidget* mainWindow);
+    ~QVCalibrateWin() override;
 
     /** Sets the window that Escape closes: this one. */
     void sethCalibrateWin(QWidget* window) { mCalibrateWin = window; }
@@ -45,6 +46,10 @@ public:
     void tabletProximity(const std::shared_ptr<const platform::Event>& event) override;
 
     QVCalibrateView& view() { return *mView; }
+
+Q_SIGNALS:
+    /** The window is about to be destroyed. */
+    void ended();
 
 protected:
     /** However the window is closed, the driver must not continue to send points. */

@@ -413,9 +413,9 @@ void QVMonitorView::CreateCalibrateWin(const Rect& rect)
         mCalibration->removeAndClose(); // one at a time: the driver's reports go to the newest
     }
     mCalibration = new QVCalibrateWin(rect, window()); // the window owns it and closes it
-    connect(mCalibration, &QObject::destroyed, this, [this](const QObject* window) {
+    connect(mCalibration, &QVCalibrateWin::ended, this, [this, window = mCalibration.data()] {
         if (mCalibration == window) {
-            mCalibration.clear(); // the pointer of a widget still has it at this point
+            mCalibration.clear();
         }
         Q_EMIT calibrationEnded();
     });

@@ -44,6 +44,9 @@ constexpr QLatin1String kFollowerService("org.quorvia.TabletFollower");
 
 /** So that a window that is in front only for a moment does not change the profile. */
 constexpr std::chrono::milliseconds kRestOfWindows{150};
+/** A driver that is busy may not answer in time; without one, its arrival tells. */
+constexpr std::chrono::milliseconds kFirstPause{1000};
+constexpr int kMostTries = 6;
 constexpr int kAreaTime = 3000; ///< milliseconds
 constexpr int kBusAnswerTime = 1000; ///< milliseconds
 
@@ -120,6 +123,8 @@ public:
         mBus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
             QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
             SLOT(endWithoutBus()));
+        mAgain.setSingleShot(true);
+        connect(&mAgain, &QTimer::timeout, this, &Follower::follow);
         mFront.start();
         mRest.start();
     }
@@ -128,6 +133,7 @@ private Q_SLOTS:
     void tryAgain()
     {
         if (mHasFailed) {
+            mTries = 0;
             mRest.start();
         }
     }
@@ -151,6 +157,11 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
             done = QVAskPanel(mBus, "Follow", {QVariant(names)});
         }
         mHasFailed = !done || !*done;
+        if (!mHasFailed) {
+            mTries = 0;
+        } else if (++mTries < kMostTries) {
+            mAgain.start(kFirstPause * (1 << (mTries - 1)));
+        }
         if (done) {
             tell(*done);
         }
@@ -200,6 +211,8 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     QVPanelObject mPanel;
     WindowClasses mClasses;
     QTimer mRest;
+    QTimer mAgain; ///< after a failure, with pauses that become longer
+    int mTries = 0; ///< that have failed
     bool mHasFailed = false;
     QString mWhy;
 };

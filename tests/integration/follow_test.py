@@ -133,7 +133,7 @@ class OnKWin(Following):
 
     def prepare(self):
         """Starts all and brings the first application to the front."""
-        self.start_driver()
+        self.driver = self.start_driver()
         self.make_profiles()
         self.start_windows(*APPLICATIONS, "org.test.other")
         follower = self.start_follower()
@@ -257,6 +257,16 @@ class OnKWin(Following):
         code, said = self.stop(follower)
         self.assertEqual(code, 0)
         self.assertNotIn("does not answer", said)
+
+    def test_tries_again_when_the_driver_was_busy(self):
+        follower = self.prepare()
+        self.driver.send_signal(signal.SIGSTOP)
+        self.activate("org.test.two")
+        said = ""
+        while not said.startswith("qvtbltctl:"):
+            said = session.read_line(follower.stderr, "what is wrong")
+        self.driver.send_signal(signal.SIGCONT)
+        self.wait_for_curve(20)
 
     def test_a_thousand_changes_lose_nothing_and_push_no_more_than_they_have_to(self):
         self.prepare()

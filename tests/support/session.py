@@ -145,24 +145,26 @@ class Session(unittest.TestCase):
         self.assertTrue(bus.stdout.readline())
 
     def start(self, command, **options):
-        """Starts a program, which is ended with its children at the end of the test. Its standard
-        error is shown if the test fails, unless the test reads it."""
+        """Starts a program, which is ended with its children at the end of the test. If the test
+        fails, its standard error is shown, as far as the test has not read it."""
         options.setdefault("text", True)
         log = tempfile.TemporaryFile("w+", errors="replace")
         options.setdefault("stderr", log)
         program = subprocess.Popen([str(word) for word in command], env=self.env,
                                    start_new_session=True, **options)
         self.addCleanup(self.read_log, program, log)
-        self.addCleanup(self.end, program)
+        self.addCleanup(self.end, program, log)
         return program
 
     @staticmethod
-    def end(program):
+    def end(program, log=None):
         try:
             os.killpg(program.pid, signal.SIGKILL)
         except ProcessLookupError:
             pass  # all of them have ended
-        program.communicate()
+        _, unread = program.communicate()
+        if log is not None:
+            log.write(unread or "")
 
     def read_log(self, program, log):
         with log:
