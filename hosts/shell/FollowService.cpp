@@ -77,7 +77,7 @@ bool FollowService::connectToBus()
 void FollowService::hearOfJobs(Change change)
 {
     (mBus.*change)(kSystemd, kSystemdPath, kSystemdManager, QStringLiteral("JobRemoved"), this,
-        SLOT(noteJob(quint32, QDBusObjectPath, QString)));
+        SLOT(noteJob(QDBusMessage)));
 }
 
 void FollowService::call(const char* method, const QVariantList& arguments, Next next)
@@ -160,9 +160,10 @@ void FollowService::askWhetherItRuns()
     });
 }
 
-void FollowService::noteJob(quint32 /*number*/, const QDBusObjectPath& /*job*/, const QString& unit)
+void FollowService::noteJob(const QDBusMessage& removed)
 {
-    if (mJob.isActive() && unit == kFollowUnit) {
+    // The job's number and path, its unit, and the result.
+    if (mJob.isActive() && removed.arguments().value(2) == QString(kFollowUnit)) {
         mJob.stop();
         finish();
     }

@@ -4,7 +4,6 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusObjectPath>
 #include <QObject>
 #include <QString>
 #include <QTimer>
@@ -50,7 +49,7 @@ Q_SIGNALS:
     void failed(const QString& text);
 
 private Q_SLOTS:
-    void noteJob(quint32 number, const QDBusObjectPath& job, const QString& unit);
+    void noteJob(const QDBusMessage& removed);
 
 private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     using Next = std::function<void(const QDBusMessage& reply)>;
