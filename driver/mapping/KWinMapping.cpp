@@ -32,6 +32,8 @@ constexpr QLatin1String kOutputArea("outputArea");
 constexpr int kKWinAnswerTime = 5000; ///< milliseconds
 
 const QRectF kAll(0, 0, 1, 1);
+// KWin cuts products with sides to whole pixels.
+constexpr double kLittle = 1e-6;
 
 QDBusMessage propertiesCall(const QString& path, const char* method)
 {
@@ -70,8 +72,6 @@ QRectF areaOf(const QRectF& all, const DesktopDisplay& display)
     const double right = (one.right() - all.right()) / one.width();
     const double top = (all.top() - one.top()) / one.height();
     const double bottom = (one.bottom() - all.bottom()) / one.height();
-    // KWin cuts the products to whole pixels.
-    constexpr double kLittle = 1e-6;
     const double width = all.width() / one.width() + kLittle;
     const double height = all.height() / one.height() + kLittle;
     switch (display.turns) {
@@ -84,6 +84,17 @@ QRectF areaOf(const QRectF& all, const DesktopDisplay& display)
     default:
         return {left, top, width, height};
     }
+}
+
+/** All displays, in parts of what KWin 6 takes for them: that is one point less across and down. */
+QRectF areaOfAll(const Desktop& desktop)
+{
+    const QRectF all = boundsOf(desktop);
+    if (all.width() <= 1 || all.height() <= 1) {
+        return kAll;
+    }
+    return {0, 0, all.width() / (all.width() - 1) + kLittle,
+        all.height() / (all.height() - 1) + kLittle};
 }
 
 } // namespace
@@ -99,7 +110,7 @@ KWinSettings kwinSettings(const QVariantMap& present, const Desktop& desktop)
     };
     if (present.contains(kMapToWorkspace)) {
         want(kMapToWorkspace, true);
-        want(kOutputArea, kAll);
+        want(kOutputArea, areaOfAll(desktop));
     } else if (!desktop.empty()) {
         const auto upright = std::ranges::find(desktop, 0, &DesktopDisplay::turns);
         const DesktopDisplay& display = upright == desktop.end() ? desktop.front() : *upright;

@@ -377,8 +377,8 @@ class KWin(Desktop):
         self.start()
         self.open_windows()
         self.learn()
-        event = self.touch(*self.place_of(self.bounds[SECOND][0], 0), 4000)
-        if event["display"] != SECOND or event["x"] > 1 or event["y"] > 1:
+        event = self.touch(*self.place_of(self.bounds[SECOND][0] + 2, 2), 4000)
+        if event["display"] != SECOND or abs(event["x"] - 2) > 1 or abs(event["y"] - 2) > 1:
             raise AssertionError(f"after KWin was started again, the pen is at {event}")
         say("KWin was started again")
 

@@ -44,6 +44,15 @@ QVariantMap kwin6(bool isMapped = false)
     return present;
 }
 
+/** What KWin 6 has for kThree in the end. */
+QVariantMap mapped6()
+{
+    QVariantMap present = kwin6(true);
+    present.insert(QStringLiteral("outputArea"),
+        kwinSettings(present, kThree).changes.value(QStringLiteral("outputArea")));
+    return present;
+}
+
 /**
  * Where KWin 5 puts a place of the pen's range that the pipeline has given it: turned, then on the
  * area of the output before its rotation, then rotated with the output.
@@ -178,16 +187,24 @@ TEST(Mapping, aPanelsOwnPositionIsNoRotation)
 
 TEST(KWinSettings, ofKWin6AreTheWorkspace)
 {
-    EXPECT_EQ(kwinSettings(kwin6(), kThree).changes,
-        (QVariantMap{{QStringLiteral("mapToWorkspace"), true}}));
-    EXPECT_TRUE(kwinSettings(kwin6(true), {}).changes.isEmpty());
+    const QVariantMap changes = kwinSettings(kwin6(), kThree).changes;
+    EXPECT_EQ(changes.keys(),
+        (QStringList{QStringLiteral("mapToWorkspace"), QStringLiteral("outputArea")}));
+    EXPECT_EQ(changes.value(QStringLiteral("mapToWorkspace")), true);
+    // KWin 6 takes the workspace for one point less, and cuts the product to whole points.
+    const QRectF area = changes.value(QStringLiteral("outputArea")).toRectF();
+    EXPECT_EQ(area.topLeft(), QPointF());
+    EXPECT_EQ(static_cast<std::uint32_t>((4736 - 1) * area.width()), 4736U);
+    EXPECT_EQ(static_cast<std::uint32_t>((1280 - 1) * area.height()), 1280U);
+    EXPECT_TRUE(kwinSettings(mapped6(), kThree).changes.isEmpty());
+    EXPECT_TRUE(kwinSettings(kwin6(true), {}).changes.isEmpty()) << "it does not know how large";
     EXPECT_EQ(kwinSettings(kwin6(), {display({0, 0, 1080, 1920}, 1)}).turns, 0)
         << "it does not turn the pen with a display";
 }
 
 TEST(KWinSettings, takeBackWhatThePanelHasSettingsFor)
 {
-    const QVariantMap plain = kwin6(true);
+    const QVariantMap plain = mapped6();
     for (const auto& [name, value] :
         QVariantMap{{QStringLiteral("leftHanded"), true}, {QStringLiteral("orientationDBus"), 2},
             {QStringLiteral("rotation"), 180U}, {QStringLiteral("tabletToolIsRelative"), true},
