@@ -362,6 +362,24 @@ class TheKeys(guest.TestCase):
         self.assertEqual(self.take(), (down_and_up("KEY_LEFTCTRL", "KEY_Z"), []))
         self.assertEqual(self.click(0), ([], [[("BTN_RIGHT", 1)], [("BTN_RIGHT", 0)]]))
 
+    def test_obey_a_profile_at_once_and_let_go_of_what_the_last_one_pressed(self):
+        def ctl(*words):
+            # It takes a driver that is slow to answer for none, and here they all are.
+            wait_for(lambda: self.world.run(session.BIN / "qvtbltctl", *words).returncode == 0,
+                     "qvtbltctl")
+        last = f"Key/Key{guest.Record.LAST}"  # as in the record that the tests push
+        ctl("set", f"{last}/Valid", "3")
+        ctl("set", f"{last}/Key", str(int.from_bytes((111, 0, 0, 1), "little")))
+        ctl("set", "Key/Key0/Valid", "1")
+        for name, button in (("Middle", "3"), ("Right", "1")):
+            ctl("set", "Key/Key0/Mouse", button)
+            ctl("profile", "save", name)
+        self.press(0)
+        ctl("profile", "use", "Middle")
+        self.press()
+        self.assertEqual(self.take(), ([], [[("BTN_RIGHT", 1)], [("BTN_RIGHT", 0)]]))
+        self.assertEqual(self.click(0), ([], [[("BTN_MIDDLE", 1)], [("BTN_MIDDLE", 0)]]))
+
     def test_hold_a_key_until_the_last_of_them_lets_go(self):
         self.record.combination(0, CONTROL).combination(1, CONTROL, 6)
         self.push()
