@@ -109,7 +109,10 @@ public:
         mRest.setSingleShot(true);
         mRest.setInterval(kRestOfWindows);
         connect(&mRest, &QTimer::timeout, this, &Follower::follow);
-        connect(&mFront, &FrontWindow::changed, &mRest, qOverload<>(&QTimer::start));
+        connect(&mFront, &FrontWindow::changed, this, [this] {
+            mTries = 0;
+            mRest.start();
+        });
         connect(&mFront, &FrontWindow::lost, this, &Follower::endFor);
         mPanel.setRoleHandler([this] { tryAgain(); });
         // A driver or a tablet that was not there before.
@@ -120,6 +123,9 @@ public:
         mBus.connect(driver, QLatin1String(platform::wire::kObjectPath),
             QLatin1String(platform::wire::kInterface),
             QLatin1String(platform::wire::kChangedSignal), this, SLOT(tryAgain()));
+        // A panel that has ended a calibration.
+        mBus.connect(kQVPanelService, kQVPanelPath, kQVPanelInterface, QStringLiteral("Changed"),
+            this, SLOT(tryAgain()));
         mBus.connect(QString(), QStringLiteral("/org/freedesktop/DBus/Local"),
             QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"), this,
             SLOT(endWithoutBus()));
@@ -143,6 +149,7 @@ private Q_SLOTS:
 private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     void follow()
     {
+        mAgain.stop();
         const std::optional<FrontApplication> application = mFront.application();
         if (!application || isPanel(*application)) {
             return;
