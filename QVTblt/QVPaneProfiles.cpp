@@ -165,6 +165,9 @@ void QVPaneProfiles::noteEdit()
         tellCalibration(); // before the edits that it has made
         merge(); // what has come during a calibration
         sendEdits();
+    } else if (std::exchange(mIsCalibrationTold, mPanel.isCalibrating()) && !mIsCalibrationTold
+        && mObject) {
+        mObject->tellAnew();
     } else if (mObject && !mTellSoon.isActive()) {
         mTellSoon.start(0); // many edits may follow, as while a slider is dragged
     }

@@ -67,8 +67,8 @@ QVPanelObject::QVPanelObject(QVProfileSwitch& own, Kind kind, QDBusConnection bu
     hear("Saved", SLOT(takeSaved()));
     mCalibrating.setConnection(mBus);
     mCalibrating.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
-    connect(&mCalibrating, &QDBusServiceWatcher::serviceUnregistered, &mCalibrating,
-        &QDBusServiceWatcher::removeWatchedService);
+    connect(&mCalibrating, &QDBusServiceWatcher::serviceUnregistered, this,
+        &QVPanelObject::endCalibration);
     auto* const owners = new QDBusServiceWatcher(
         kQVPanelService, mBus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(owners, &QDBusServiceWatcher::serviceOwnerChanged, this,
@@ -90,7 +90,11 @@ void QVPanelObject::requestName()
         if (reply.isValid() && reply.value() == kPrimaryOwner) {
             setRole(Role::Owner);
         } else if (reply.isValid() && reply.value() == kInQueue) {
-            setRole(Role::Second);
+            // It may have been second before, to another owner.
+            mRole = Role::Second;
+            if (mRoleHandler) {
+                mRoleHandler();
+            }
         }
     });
 }
@@ -117,12 +121,7 @@ void QVPanelObject::noteOwner(const QString& owner)
     if (mRole != Role::Second || owner.isEmpty() || owner == mBus.baseService()) {
         return;
     }
-    if (mKind == Kind::Panel) {
-        requestName();
-    }
-    if (mRoleHandler) {
-        mRoleHandler();
-    }
+    requestName();
 }
 
 void QVPanelObject::noteAcquired(const QString& name)
@@ -164,6 +163,12 @@ void QVPanelObject::tellChanged()
         send("SettingsChanged", {*record});
     }
     send("Changed");
+}
+
+void QVPanelObject::tellAnew()
+{
+    mLastTold.clear();
+    tellChanged();
 }
 
 void QVPanelObject::tellSaved()
@@ -246,10 +251,18 @@ QByteArray QVPanelObject::Settings()
 void QVPanelObject::NoteCalibration(bool isOn)
 {
     const QString caller = message().service();
-    if (isOn) {
+    if (!isOn) {
+        endCalibration(caller);
+    } else if (caller != mBus.baseService()) { // which may have become the owner meanwhile
         mCalibrating.addWatchedService(caller);
-    } else {
-        mCalibrating.removeWatchedService(caller);
+    }
+}
+
+void QVPanelObject::endCalibration(const QString& caller)
+{
+    mCalibrating.removeWatchedService(caller);
+    if (!isCalibratedByOther()) {
+        tellAnew();
     }
 }
 

@@ -73,6 +73,8 @@ public:
 
     /** Tells others what the settings are now, if this has the name. */
     void tellChanged();
+    /** The same, also if the record has not changed, for edits that have been refused meanwhile. */
+    void tellAnew();
     /** Tells others that the settings have been saved, if this has the name. */
     void tellSaved();
 
@@ -119,6 +121,7 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     void requestName();
     void setRole(Role role);
     void noteOwner(const QString& owner);
+    void endCalibration(const QString& caller);
     void send(const char* signal, const QVariantList& arguments = {});
 
     QVProfileSwitch& mOwn;

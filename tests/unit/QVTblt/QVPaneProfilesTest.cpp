@@ -377,6 +377,31 @@ TEST_F(PanelOnBus, forgetsTheCalibrationOfOneThatHasLeftTheBus)
     EXPECT_TRUE(waitFor([&] { return use(mName).isEmpty(); }));
 }
 
+TEST_F(PanelOnBus, tellsItsSettingsAnewWhenACalibrationHasEnded)
+{
+    Ear ear(mClient);
+    ask("Settings");
+    ask("NoteCalibration", {true});
+    EXPECT_TRUE(ear.pressures.empty());
+    ask("NoteCalibration", {false});
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 1; }))
+        << "others send again what has been refused";
+    outlet<QComboBox>("mComboBox").setCurrentIndex(1);
+    auto& view = outlet<QVMonitorView>("mMonitorView");
+    view.SelectMonitor();
+    view.DoCalibrate();
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 2; })) << "a calibration has begun";
+    view.endCalibration();
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() > 2; }));
+}
+
+TEST_F(SecondPanel, takesNoOwnerForAnotherThatCalibrates)
+{
+    // What a second panel has told the owner reaches itself where it has become the owner.
+    ask("NoteCalibration", {true});
+    EXPECT_FALSE(mFirst->isCalibratedByOther());
+}
+
 TEST_F(PanelOnBus, knowsWhatAnotherHasSaved)
 {
     Ear ear(mClient);
