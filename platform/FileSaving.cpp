@@ -50,7 +50,7 @@ bool moveWithoutReplacing(const char* from, const char* to)
 {
     // Some file systems, as those of memory cards, know no links; others, as NFS, not this flag.
     return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0
-        || (errno == EINVAL && ::linkat(AT_FDCWD, from, AT_FDCWD, to, 0) == 0);
+        || (errno != EEXIST && ::linkat(AT_FDCWD, from, AT_FDCWD, to, 0) == 0);
 }
 
 } // namespace
