@@ -112,6 +112,7 @@ void FollowService::refresh()
 void FollowService::takeState(const QDBusMessage& reply)
 {
     mIsBusy = false;
+    const bool isStarting = std::exchange(mIsStarting, false);
     const QString state = reply.arguments().value(0).toString();
     if (isUnheard(reply)) {
         become(std::nullopt,
@@ -120,7 +121,7 @@ void FollowService::takeState(const QDBusMessage& reply)
         //: %1 is the name of a service of systemd.
         become(std::nullopt, tr("The service %1 is not installed.").arg(kFollowUnit));
     } else if (state.startsWith(QLatin1String("enabled"))) {
-        askWhetherItRuns();
+        askWhetherItRuns(isStarting);
     } else if (state == QLatin1String("disabled")) {
         become(false, {});
     } else {
@@ -130,34 +131,35 @@ void FollowService::takeState(const QDBusMessage& reply)
     }
 }
 
-void FollowService::askWhetherItRuns()
+void FollowService::askWhetherItRuns(bool isStarting)
 {
     mIsBusy = true;
-    call("ListUnitsByNames", {QStringList{kFollowUnit}}, [this](const QDBusMessage& reply) {
-        mIsBusy = false;
-        // The unit's state is the fourth of its ten values: "inactive" and "failed" have ended.
-        QString state;
-        if (const auto units = reply.arguments().value(0).value<QDBusArgument>();
-            units.currentType() == QDBusArgument::ArrayType) {
-            QString name;
-            QString description;
-            QString loaded;
-            units.beginArray();
-            units.beginStructure();
-            units >> name >> description >> loaded >> state;
-        }
-        const bool hasEnded =
-            state == QLatin1String("inactive") || state == QLatin1String("failed");
-        const bool isStarting = std::exchange(mIsStarting, false);
-        //: The words in quotation marks are a command.
-        const QString fault = tr("Profiles do not follow applications now: the service has ended. "
-                                 "The reason is in what “systemctl --user status qvtblt-follow” "
-                                 "prints.");
-        become(true, hasEnded ? fault : QString());
-        if (hasEnded && isStarting) {
-            Q_EMIT failed(fault);
-        }
-    });
+    call("ListUnitsByNames", {QStringList{kFollowUnit}},
+        [this, isStarting](const QDBusMessage& reply) {
+            mIsBusy = false;
+            // The unit's state is the fourth of its ten values: "inactive" and "failed" have ended.
+            QString state;
+            if (const auto units = reply.arguments().value(0).value<QDBusArgument>();
+                units.currentType() == QDBusArgument::ArrayType) {
+                QString name;
+                QString description;
+                QString loaded;
+                units.beginArray();
+                units.beginStructure();
+                units >> name >> description >> loaded >> state;
+            }
+            const bool hasEnded =
+                state == QLatin1String("inactive") || state == QLatin1String("failed");
+            //: The words in quotation marks are a command.
+            const QString fault =
+                tr("Profiles do not follow applications now: the service does not "
+                   "run. What “systemctl --user status qvtblt-follow” prints may "
+                   "say why.");
+            become(true, hasEnded ? fault : QString());
+            if (hasEnded && isStarting) {
+                Q_EMIT failed(fault);
+            }
+        });
 }
 
 void FollowService::noteJob(const QDBusMessage& removed)

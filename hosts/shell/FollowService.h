@@ -62,7 +62,7 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     void hearOfJobs(Change change);
     void call(const char* method, const QVariantList& arguments, Next next);
     void takeState(const QDBusMessage& reply);
-    void askWhetherItRuns();
+    void askWhetherItRuns(bool isStarting);
     /** Ends set(), unless there is another step to do after it. @return whether there is */
     bool goesOn(const QDBusMessage& reply);
     void finish();

@@ -201,9 +201,9 @@
         <translation>„Anwendungen folgen“ wurde nicht geändert: %1</translation>
     </message>
     <message>
-        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <source>Profiles do not follow applications now: the service does not run. What “systemctl --user status qvtblt-follow” prints may say why.</source>
         <extracomment>The words in quotation marks are a command.</extracomment>
-        <translation>Profile folgen den Anwendungen jetzt nicht: Der Dienst ist beendet. Den Grund nennt die Ausgabe von „systemctl --user status qvtblt-follow“.</translation>
+        <translation>Profile folgen den Anwendungen jetzt nicht: Der Dienst läuft nicht. Die Ausgabe von „systemctl --user status qvtblt-follow“ sagt vielleicht, warum.</translation>
     </message>
 </context>
 <context>

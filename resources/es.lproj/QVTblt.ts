@@ -201,9 +201,9 @@
         <translation>«Seguir a las aplicaciones» no se ha cambiado: %1</translation>
     </message>
     <message>
-        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <source>Profiles do not follow applications now: the service does not run. What “systemctl --user status qvtblt-follow” prints may say why.</source>
         <extracomment>The words in quotation marks are a command.</extracomment>
-        <translation>Los perfiles no siguen ahora a las aplicaciones: el servicio ha terminado. El motivo está en lo que muestra «systemctl --user status qvtblt-follow».</translation>
+        <translation>Los perfiles no siguen ahora a las aplicaciones: el servicio no está en ejecución. Lo que muestra «systemctl --user status qvtblt-follow» puede indicar el motivo.</translation>
     </message>
 </context>
 <context>

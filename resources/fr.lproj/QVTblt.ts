@@ -201,9 +201,9 @@
         <translation>«&#xa0;Suivre les applications&#xa0;» n’a pas été modifié&#xa0;: %1</translation>
     </message>
     <message>
-        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <source>Profiles do not follow applications now: the service does not run. What “systemctl --user status qvtblt-follow” prints may say why.</source>
         <extracomment>The words in quotation marks are a command.</extracomment>
-        <translation>Les profils ne suivent plus les applications : le service s’est arrêté. La raison se trouve dans ce qu’affiche « systemctl --user status qvtblt-follow ».</translation>
+        <translation>Les profils ne suivent pas les applications pour le moment : le service ne fonctionne pas. Ce qu’affiche « systemctl --user status qvtblt-follow » peut en donner la raison.</translation>
     </message>
 </context>
 <context>

@@ -201,9 +201,9 @@
         <translation>「アプリケーションに追従」は変更されませんでした: %1</translation>
     </message>
     <message>
-        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <source>Profiles do not follow applications now: the service does not run. What “systemctl --user status qvtblt-follow” prints may say why.</source>
         <extracomment>The words in quotation marks are a command.</extracomment>
-        <translation>プロファイルは現在アプリケーションに追従していません。サービスが終了しています。理由は「systemctl --user status qvtblt-follow」の出力にあります。</translation>
+        <translation>プロファイルは現在アプリケーションに追従していません。サービスが実行されていません。「systemctl --user status qvtblt-follow」の出力に理由が表示されることがあります。</translation>
     </message>
 </context>
 <context>

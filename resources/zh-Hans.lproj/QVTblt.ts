@@ -201,9 +201,9 @@
         <translation>“跟随应用程序”未更改：%1</translation>
     </message>
     <message>
-        <source>Profiles do not follow applications now: the service has ended. The reason is in what “systemctl --user status qvtblt-follow” prints.</source>
+        <source>Profiles do not follow applications now: the service does not run. What “systemctl --user status qvtblt-follow” prints may say why.</source>
         <extracomment>The words in quotation marks are a command.</extracomment>
-        <translation>配置方案现在不会跟随应用程序切换：服务已结束。原因见“systemctl --user status qvtblt-follow”的输出。</translation>
+        <translation>配置方案现在不会跟随应用程序切换：服务未在运行。“systemctl --user status qvtblt-follow”的输出可能会说明原因。</translation>
     </message>
 </context>
 <context>

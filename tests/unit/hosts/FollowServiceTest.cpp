@@ -92,8 +92,8 @@ TEST_F(Follow, turnsTheServiceOnForAllSessionsAndStartsIt)
 TEST_F(Follow, saysThatTheServiceHasEnded)
 {
     const QString fault = QStringLiteral(
-        "Profiles do not follow applications now: the service has ended. The reason is in what "
-        "“systemctl --user status qvtblt-follow” prints.");
+        "Profiles do not follow applications now: the service does not run. What “systemctl --user "
+        "status qvtblt-follow” prints may say why.");
     FakeSystemd& systemd = startSystemd();
     systemd.activeState = QStringLiteral("failed");
     set(true);
