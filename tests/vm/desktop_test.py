@@ -42,8 +42,8 @@ def debian13():
     if root.returncode != 0:
         return None
     result = subprocess.run(
-        [script, "bash", "-c", "cmake --preset qt6-unity && "
-         "cmake --build --preset qt6-unity --target tdsg-driver pen-log"],
+        [script, "bash", "-c", "cmake --preset qt6-host && "
+         "cmake --build --preset qt6-host --target tdsg-driver pen-log"],
         stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True, check=False)
     if result.returncode != 0:
         sys.exit(result.stdout)
@@ -59,7 +59,7 @@ def run(desktop, everything):
         if not root:
             return [], SKIPPED
         options += ["--root", root]
-        where = {"source": pathlib.Path("/srv/qvtblt"), "preset": "qt6-unity"}
+        where = {"source": pathlib.Path("/srv/qvtblt"), "preset": "qt6-host"}
     tests = where["source"] / "tests/vm"
     log = where["source"] / "build" / where["preset"] / "tests/vm/pen-log"
     results = []
