@@ -25,11 +25,11 @@ void timePaired(benchmark::State& state, const Work& work, const Floor& floor, c
     const auto time = [&](const auto& piece, std::vector<double>& times) {
         const auto start = std::chrono::steady_clock::now();
         auto end = start;
-        if constexpr (std::is_void_v<decltype(piece())>) {
+        if constexpr (std::is_same_v<decltype(piece()), decltype(end)>) {
+            end = piece();
+        } else {
             piece();
             end = std::chrono::steady_clock::now();
-        } else {
-            end = piece();
         }
         const std::chrono::duration<double, std::micro> passed = end - start;
         times.push_back(passed.count());
