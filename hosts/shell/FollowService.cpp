@@ -147,6 +147,8 @@ void FollowService::askWhetherItRuns(bool isStarting)
                 units.beginArray();
                 units.beginStructure();
                 units >> name >> description >> loaded >> state;
+                units.endStructure();
+                units.endArray(); // otherwise, Qt keeps both
             }
             const bool hasEnded =
                 state == QLatin1String("inactive") || state == QLatin1String("failed");
