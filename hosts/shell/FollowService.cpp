@@ -145,10 +145,12 @@ void FollowService::askWhetherItRuns(bool isStarting)
                 QString description;
                 QString loaded;
                 units.beginArray();
-                units.beginStructure();
-                units >> name >> description >> loaded >> state;
-                units.endStructure();
-                units.endArray(); // otherwise, Qt keeps both
+                if (!units.atEnd()) {
+                    units.beginStructure();
+                    units >> name >> description >> loaded >> state;
+                    units.endStructure();
+                }
+                units.endArray(); // otherwise, Qt keeps what has begun
             }
             const bool hasEnded =
                 state == QLatin1String("inactive") || state == QLatin1String("failed");
