@@ -16,7 +16,6 @@
 
 /** A unit in the answer of ListUnitsByNames. */
 struct FakeUnit {
-    QString name;
     QString state; ///< such as "active"
 };
 Q_DECLARE_METATYPE(FakeUnit)
@@ -25,7 +24,7 @@ inline QDBusArgument& operator<<(QDBusArgument& argument, const FakeUnit& unit)
 {
     const QDBusObjectPath path(QStringLiteral("/"));
     argument.beginStructure();
-    argument << unit.name << QString() << QStringLiteral("loaded") << unit.state << QString()
+    argument << QString() << QString() << QStringLiteral("loaded") << unit.state << QString()
              << QString() << path << 0U << QString() << path;
     argument.endStructure();
     return argument;
@@ -75,7 +74,7 @@ public:
         } else if (call.member() == QLatin1String("DisableUnitFiles")) {
             state = QStringLiteral("disabled");
         } else if (call.member() == QLatin1String("ListUnitsByNames")) {
-            results.append(QVariant::fromValue(QList<FakeUnit>{{QString(), activeState}}));
+            results.append(QVariant::fromValue(QList<FakeUnit>{{activeState}}));
         }
         bus.send(call.createReply(results));
         if (call.member() == QLatin1String("StartUnit")

@@ -59,6 +59,17 @@ protected:
         return why;
     }
 
+    /** Begins to calibrate the first display. */
+    QVMonitorView& calibrate()
+    {
+        outlet<QComboBox>("mComboBox").setCurrentIndex(1);
+        auto& view = outlet<QVMonitorView>("mMonitorView");
+        view.SelectMonitor();
+        view.DoCalibrate();
+        EXPECT_TRUE(view.isCalibrating());
+        return view;
+    }
+
     /** As drawn. */
     int shownPressure() { return outlet<QSlider>("mSlider").value() / QVPressView::kSliderSteps; }
 
@@ -158,16 +169,6 @@ protected:
         return QDBusReply<QStringList>(mClient.call(call)).value();
     }
 
-    QVMonitorView& calibrate()
-    {
-        outlet<QComboBox>("mComboBox").setCurrentIndex(1);
-        auto& view = outlet<QVMonitorView>("mMonitorView");
-        view.SelectMonitor();
-        view.DoCalibrate();
-        EXPECT_TRUE(view.isCalibrating());
-        return view;
-    }
-
     /** The other one's settings, which are always there. */
     class Theirs final : public QVProfileSwitch {
     public:
@@ -219,11 +220,7 @@ TEST_F(PanelProfiles, keepUnsavedEditsFirst)
 
 TEST_F(PanelProfiles, areRefusedDuringACalibration)
 {
-    outlet<QComboBox>("mComboBox").setCurrentIndex(1);
-    auto& view = outlet<QVMonitorView>("mMonitorView");
-    view.SelectMonitor();
-    view.DoCalibrate();
-    ASSERT_TRUE(view.isCalibrating());
+    QVMonitorView& view = calibrate();
     EXPECT_EQ(use(mName), QStringLiteral("The tablet is being calibrated. Finish that first."));
     EXPECT_NE(+qvTabletInfo.Pen.PressureThreshold, 50);
     view.endCalibration();
@@ -386,10 +383,7 @@ TEST_F(PanelOnBus, tellsItsSettingsAnewWhenACalibrationHasEnded)
     ask("NoteCalibration", {false});
     EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 1; }))
         << "others send again what has been refused";
-    outlet<QComboBox>("mComboBox").setCurrentIndex(1);
-    auto& view = outlet<QVMonitorView>("mMonitorView");
-    view.SelectMonitor();
-    view.DoCalibrate();
+    QVMonitorView& view = calibrate();
     EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 2; })) << "a calibration has begun";
     view.endCalibration();
     EXPECT_TRUE(waitFor([&] { return ear.pressures.size() > 2; }));
