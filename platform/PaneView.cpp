@@ -6,7 +6,6 @@
 
 #include <QCoreApplication>
 #include <QEvent>
-#include <QPainterPath>
 #include <QScopedValueRollback>
 
 #include <algorithm>
@@ -112,7 +111,8 @@ void PaneView::updateStore()
         mFocus.reset();
         mStore = QPixmap(pixels);
         mStore.setDevicePixelRatio(density);
-        mStore.fill(Qt::transparent);
+        // Without an alpha channel, it is painted faster.
+        mStore.fill(testAttribute(Qt::WA_OpaquePaintEvent) ? Qt::black : Qt::transparent);
         QPainter painter(&mStore);
         beginPoints(painter);
         const QScopedValueRollback drawing(mIsDrawing, true);
@@ -174,11 +174,13 @@ void drawFocusFrame(QPainter& painter, const QRect& rect, const QPalette& palett
 
 void frameRect(QPainter& painter, const Rect& rect)
 {
-    QPainterPath frame;
-    frame.addRect(toQRect(rect));
-    frame.addRect(toQRect(
-        {rect.x + 1, rect.y + 1, std::max(0.0, rect.width - 2), std::max(0.0, rect.height - 2)}));
-    painter.fillPath(frame, Qt::black); // the area between the two, by the odd-even rule
+    // Four rectangles are filled faster than the path between two.
+    const double wide = std::min(1.0, rect.width);
+    const double high = std::min(1.0, rect.height);
+    painter.fillRect(QRectF(rect.x, rect.y, rect.width, high), Qt::black);
+    painter.fillRect(QRectF(rect.x, rect.y + rect.height - high, rect.width, high), Qt::black);
+    painter.fillRect(QRectF(rect.x, rect.y, wide, rect.height), Qt::black);
+    painter.fillRect(QRectF(rect.x + rect.width - wide, rect.y, wide, rect.height), Qt::black);
 }
 
 void drawText(QPainter& painter, const QString& text, double x, double y)
