@@ -32,11 +32,12 @@ constexpr int kReleasePause = 5; ///< milliseconds
 /** Changing the tablet's report speed may take four seconds. */
 constexpr int kAnswerTime = 10000; ///< milliseconds
 
-QDBusMessage busCall(const char* method)
+/** A call of a method of the bus about a name. */
+QDBusMessage busCall(const char* method, const QString& name = kQVPanelService)
 {
     QDBusMessage call =
         QDBusMessage::createMethodCall(kBusService, kBusPath, kBusService, QLatin1String(method));
-    call << QString(kQVPanelService);
+    call << name;
     return call;
 }
 
@@ -101,8 +102,8 @@ void QVPanelObject::requestName()
 
 QVPanelObject::~QVPanelObject()
 {
-    // Before the connection, in which a pending call must not be left.
-    delete mRequest;
+    // Before the connection, in which no pending call must be left.
+    qDeleteAll(findChildren<QDBusPendingCallWatcher*>());
     mBus.unregisterObject(kQVPanelPath);
     // Waits, so that what was sent before has arrived when another one gets the name.
     mBus.call(busCall("ReleaseName"), QDBus::Block, kReleaseTime);
@@ -255,6 +256,16 @@ void QVPanelObject::NoteCalibration(bool isOn)
         endCalibration(caller);
     } else if (caller != mBus.baseService()) { // which may have become the owner meanwhile
         mCalibrating.addWatchedService(caller);
+        // It may have left the bus before it was watched.
+        auto* const question =
+            new QDBusPendingCallWatcher(mBus.asyncCall(busCall("NameHasOwner", caller)), this);
+        connect(question, &QDBusPendingCallWatcher::finished, this, [this, question, caller] {
+            question->deleteLater();
+            const QDBusPendingReply<bool> hasOwner = *question;
+            if (hasOwner.isValid() && !hasOwner.value()) {
+                endCalibration(caller);
+            }
+        });
     }
 }
 

@@ -374,6 +374,22 @@ TEST_F(PanelOnBus, forgetsTheCalibrationOfOneThatHasLeftTheBus)
     EXPECT_TRUE(waitFor([&] { return use(mName).isEmpty(); }));
 }
 
+TEST_F(PanelOnBus, forgetsTheCalibrationOfOneThatLeftTheBusBeforeItWasHeard)
+{
+    const QString name = QStringLiteral("guest");
+    QDBusConnection guest = QDBusConnection::connectToBus(mBus.address(), name);
+    const QString guestName = guest.baseService();
+    // Without the event loop, which would let the panel hear of it.
+    guest.send(QVPanelCall("NoteCalibration", {true}));
+    guest.call(QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/"), QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetId")));
+    QDBusConnection::disconnectFromBus(name);
+    guest = QDBusConnection(QString()); // the last reference closes it
+    while (mClient.interface()->isServiceRegistered(guestName)) { }
+    ask("Settings"); // what came before has been heard then
+    EXPECT_TRUE(waitFor([&] { return use(mName).isEmpty(); }));
+}
+
 TEST_F(PanelOnBus, tellsItsSettingsAnewWhenACalibrationHasEnded)
 {
     Ear ear(mClient);
