@@ -52,6 +52,10 @@ void QVSetMappedArea(tagQVTabletInfo& info, const Rect& area)
 
 bool QVMapChosenDisplay(tagQVTabletInfo& info, std::span<const Rect> displays)
 {
+    if (displays.empty()) {
+        return false;
+    }
+    displays = displays.first(std::min<std::size_t>(displays.size(), kQVMaxDisplays));
     const std::int16_t num = displays.size() == 1 ? std::int16_t{0} : info.Monitor.num;
     if (num == 0) {
         QVSetMappedArea(info, QVBoundingRect(displays));

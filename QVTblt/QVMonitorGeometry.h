@@ -52,8 +52,8 @@ void QVSetMappedArea(tagQVTabletInfo& info, const platform::Rect& area);
 /**
  * Stores the mapped area of the chosen display, or of all: of the only one, whatever the choice is.
  *
- * @param displays their rectangles, in order; at least one
- * @return false, with the area unchanged, if there is no display with that number
+ * @param displays their rectangles, in order; only as many count as the panel supports
+ * @return false, with the area unchanged, if there is no display with that number, or none at all
  */
 bool QVMapChosenDisplay(tagQVTabletInfo& info, std::span<const platform::Rect> displays);
 

@@ -13,7 +13,6 @@
 #include <QCoreApplication>
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -90,16 +89,7 @@ Result<> QVProfileSwitch::push()
 
 void QVProfileSwitch::map()
 {
-    const platform::Displays& displays = platform::displays();
-    const auto active = displays.activeDisplays();
-    if (!active || active->empty()) {
-        return;
-    }
-    std::vector<platform::Rect> bounds;
-    std::ranges::transform(*active, std::back_inserter(bounds),
-        [&](platform::DisplayID display) { return displays.bounds(display); });
-    bounds.resize(std::min<std::size_t>(bounds.size(), kQVMaxDisplays));
-    QVMapChosenDisplay(qvTabletInfo, bounds);
+    QVMapChosenDisplay(qvTabletInfo, platform::displays().activeBounds());
 }
 
 Result<QStringList> QVProfileSwitch::names()

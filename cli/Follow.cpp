@@ -29,7 +29,6 @@
 #include <chrono>
 #include <csignal>
 #include <cstdio>
-#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -280,16 +279,9 @@ int runMappedArea(const Arguments& arguments)
     if (!isNumber) {
         return usageError(QStringLiteral("'%1' is not a number").arg(arguments.operands[0]));
     }
-    const platform::Displays& displays = platform::displays();
-    std::vector<Rect> bounds;
-    if (const auto active = displays.activeDisplays()) {
-        std::ranges::transform(*active, std::back_inserter(bounds),
-            [&](platform::DisplayID display) { return displays.bounds(display); });
-    }
-    bounds.resize(std::min<std::size_t>(bounds.size(), kQVMaxDisplays));
     tagQVTabletInfo record{};
     record.Monitor.num = number;
-    if (bounds.empty() || !QVMapChosenDisplay(record, bounds)) {
+    if (!QVMapChosenDisplay(record, platform::displays().activeBounds())) {
         return fail(QStringLiteral("there is no display %1").arg(number));
     }
     const auto& area = record.Monitor;

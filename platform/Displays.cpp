@@ -256,6 +256,15 @@ QRect windowGeometry(const Rect& part)
         scaled(part.width), scaled(part.height)};
 }
 
+std::vector<Rect> Displays::activeBounds() const
+{
+    std::vector<Rect> all;
+    for (const DisplayID display : activeDisplays().value_or(std::vector<DisplayID>())) {
+        all.push_back(bounds(display));
+    }
+    return all;
+}
+
 Displays& displays()
 {
     return currentService<Displays, ScreenDisplays>();

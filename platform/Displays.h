@@ -58,6 +58,9 @@ public:
     /** A display's rectangle in global display coordinates; empty for an unknown display. */
     virtual Rect bounds(DisplayID display) const = 0;
 
+    /** The rectangles of the active displays; none if the window system does not know them. */
+    std::vector<Rect> activeBounds() const;
+
     /** Whether it is the main display, whose upper left corner is the origin. */
     virtual bool isMain(DisplayID display) const = 0;
 

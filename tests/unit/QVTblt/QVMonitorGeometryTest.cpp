@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <optional>
+#include <span>
 
 using platform::Rect;
 
@@ -159,4 +161,31 @@ TEST(MappedArea, isStoredInWholePointsByTheirLow16Bits)
     EXPECT_EQ(+record.Monitor.YOrg, 37);
     EXPECT_EQ(+record.Monitor.Width, -32768);
     EXPECT_EQ(+record.Monitor.Height, 1);
+}
+
+TEST(MappedArea, isThatOfTheChosenDisplayOrOfAll)
+{
+    const std::array displays{Rect{0, 0, 100, 50}, Rect{100, 0, 80, 60}, Rect{180, 0, 20, 20},
+        Rect{200, 0, 30, 30}, Rect{230, 0, 40, 40}};
+    tagQVTabletInfo record{};
+    const auto map = [&](int number, std::size_t count) -> std::optional<Rect> {
+        record = {};
+        record.Monitor.num = static_cast<std::int16_t>(number);
+        if (!QVMapChosenDisplay(record, std::span(displays).first(count))) {
+            EXPECT_EQ(+record.Monitor.Width, 0) << "changed all the same";
+            return std::nullopt;
+        }
+        const auto& area = record.Monitor;
+        return Rect{double(area.XOrg), double(area.YOrg), double(area.Width), double(area.Height)};
+    };
+    EXPECT_EQ(map(0, 2), (Rect{0, 0, 180, 60}));
+    EXPECT_EQ(map(1, 2), displays[0]);
+    EXPECT_EQ(map(2, 2), displays[1]);
+    EXPECT_EQ(map(3, 2), std::nullopt);
+    EXPECT_EQ(map(-1, 2), std::nullopt);
+    EXPECT_EQ(map(7, 1), displays[0]) << "the only one, whatever is chosen";
+    EXPECT_EQ(map(0, 0), std::nullopt) << "without displays";
+    EXPECT_EQ(map(0, 5), (Rect{0, 0, 230, 60})) << "the panel supports four";
+    EXPECT_EQ(map(4, 5), displays[3]);
+    EXPECT_EQ(map(5, 5), std::nullopt);
 }
