@@ -277,7 +277,7 @@ protected:
     }
     void showPage(const char* name)
     {
-        outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>(name));
+        PaneTest::showPage(name);
         if (auto* const view = mWindow->findChild<QVMonitorView*>(); view->isVisible()) {
             view->grab(); // drawing updates its lists
         }

@@ -10,6 +10,8 @@
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
 
+#include <QTabWidget>
+
 #include <gtest/gtest.h>
 
 #include <memory>
@@ -42,6 +44,20 @@ protected:
         mPane.willSelect();
         mWindow->show();
         mPane.didSelect();
+    }
+
+    /** Shows a page of the pane: "keyPage", "penPage" or "displayPage". */
+    void showPage(const char* name)
+    {
+        outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>(name));
+    }
+
+    /** Uses the font size at which a point of the layout is a pixel. */
+    void layOutInPixels()
+    {
+        QFont font = mWindow->font();
+        font.setPixelSize(13);
+        mWindow->setFont(font);
     }
 
     /** Leaves it as a host does. */

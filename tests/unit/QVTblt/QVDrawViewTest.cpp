@@ -63,7 +63,7 @@ protected:
     {
         PaneTest::SetUp();
         show();
-        outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
+        showPage("penPage");
         pad().setFixedSize(kPad);
         PenInput::deliver();
         platform::notifications().addObserver(

@@ -37,7 +37,7 @@ protected:
         mDisplays.change({kFullHD, kRight});
         PaneTest::SetUp();
         show();
-        outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("displayPage"));
+        showPage("displayPage");
         qvTabletInfo.Basic.TabletXmin = 0;
         qvTabletInfo.Basic.TabletXmax = 10000;
         qvTabletInfo.Basic.TabletYmin = 0;

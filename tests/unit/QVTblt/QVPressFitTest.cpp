@@ -15,7 +15,6 @@
 #include <QDialogButtonBox>
 #include <QPointer>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QTest>
 #include <QTimer>
 
@@ -29,11 +28,9 @@ protected:
     void SetUp() override
     {
         PaneTest::SetUp();
-        QFont font = mWindow->font();
-        font.setPixelSize(13); // the size at which a point is a pixel
-        mWindow->setFont(font);
+        layOutInPixels();
         show();
-        outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
+        showPage("penPage");
         setThreshold(100);
     }
 

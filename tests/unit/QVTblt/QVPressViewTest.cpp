@@ -37,11 +37,9 @@ protected:
     void SetUp() override
     {
         PaneTest::SetUp();
-        QFont font = mWindow->font();
-        font.setPixelSize(13); // the size at which a point is a pixel
-        mWindow->setFont(font);
+        layOutInPixels();
         show();
-        outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
+        showPage("penPage");
         mEvents.sent.clear();
     }
 

@@ -11,7 +11,6 @@
 
 #include <QCheckBox>
 #include <QSlider>
-#include <QTabWidget>
 
 #include <cstring>
 #include <functional>
@@ -64,7 +63,7 @@ TEST_F(Settings, goBackToWhatTheyWereAreShownAndPushedOnce)
     EXPECT_EQ(strip.isChecked(), isOn);
     ASSERT_EQ(pushes().size(), 1U);
     EXPECT_EQ(std::memcmp(&pushes().back(), &qvTabletInfo, sizeof qvTabletInfo), 0);
-    outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
+    showPage("penPage");
     outlet<QVPressView>("mPressView").grab();
     EXPECT_EQ(outlet<QSlider>("mSlider").value(), record.Pen.PressureThreshold * 10);
 }

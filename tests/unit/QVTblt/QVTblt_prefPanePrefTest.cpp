@@ -304,7 +304,7 @@ TEST_F(Pane, tellsOnceThatTheMappedAreaFollowsTheDisplays)
     second.replace("<key>num</key><integer>14</integer>", "<key>num</key><integer>2</integer>");
     writeFile(mHome.configFile(7), second);
     show();
-    outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("displayPage"));
+    showPage("displayPage");
     mWindow->grab();
     mNews.clear();
     mDisplays.change({{0, 0, 100, 100}, {100, 0, 100, 100}});
@@ -533,7 +533,7 @@ TEST_F(Pane, hasNoChangesWhereAllItsPagesWereOnlyLookedAt)
 TEST_F(Pane, cancelAsksForNoRedraw)
 {
     show();
-    outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
+    showPage("penPage");
     outlet<QSlider>("mSlider").setValue(700);
     const QImage edited = outlet<QWidget>("mPressView").grab().toImage();
     mPane.CancelSet();

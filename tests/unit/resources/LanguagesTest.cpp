@@ -832,7 +832,7 @@ TEST_F(RightToLeft, leavesTheCurvesNamesAtItsAxes)
 {
     turn();
     show();
-    outlet<QTabWidget>("tabView").setCurrentWidget(&outlet<QWidget>("penPage"));
+    showPage("penPage");
     settle();
     const auto side = [this](const char* name) {
         const auto& label = outlet<QLabel>(name);
