@@ -56,8 +56,7 @@ double QVPressResponse(double pressure, int threshold)
     if (threshold >= kStraight) {
         return pressure * (linear + s * pressure);
     }
-    // The positive solution g of s g^2 + (1 - s) g = p, in the form without
-    // cancellation.
+    // The positive solution g of s g^2 + (1 - s) g = p, in the form without cancellation.
     const double root = std::sqrt(linear * linear + 4 * s * pressure);
     return pressure > 0 ? 2 * pressure / (linear + root) : 0;
 }
@@ -66,16 +65,14 @@ int QVFittingThreshold(double lightest, double hardest)
 {
     constexpr double kHalf = 0.5;
     const double m = std::clamp((lightest + hardest) / 2, 0.0, 1.0);
-    // Below the half, m = h (1 - s + s h) with h = 1/2; above it, h = m (1 - s +
-    // s m).
+    // Below the half, m = h (1 - s + s h) with h = 1/2; above it, h = m (1 - s + s m).
     const double s = m < kHalf ? (m - kHalf) / (kHalf * kHalf)
         : m < 1                ? (m - kHalf) / (m * (1 - m))
                                : 1;
     return static_cast<int>(std::lround(kStraight * (1 + std::clamp(s, -1.0, 1.0))));
 }
 
-// The dialog
-// --------------------------------------------------------------------------------------
+// The dialog --------------------------------------------------------------------------------------
 
 /** Where the user presses; tells the greatest pressure of each press. */
 class QVPressFit::Pad final : public QWidget, public platform::Accessible {
@@ -283,8 +280,7 @@ void QVPressFit::takePress(double pressure)
     }
 }
 
-// The dot
-// -----------------------------------------------------------------------------------------
+// The dot -----------------------------------------------------------------------------------------
 
 QVPressDot::QVPressDot(QWidget* parent)
     : QWidget(parent)
