@@ -3,8 +3,10 @@
 #include "SeatSession.h"
 
 #include <QDBusArgument>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
@@ -20,6 +22,14 @@ constexpr QLatin1String kLoginManager("org.freedesktop.login1.Manager");
 constexpr QLatin1String kSession("org.freedesktop.login1.Session");
 constexpr QLatin1String kUser("org.freedesktop.login1.User");
 constexpr QLatin1String kProperties("org.freedesktop.DBus.Properties");
+
+/** Whether logind has not answered: it is busy, or is being restarted. */
+bool isUnanswered(const QDBusPendingCall& call)
+{
+    const QDBusError::ErrorType error = call.error().type();
+    return error == QDBusError::NoReply || error == QDBusError::Timeout
+        || error == QDBusError::TimedOut;
+}
 
 } // namespace
 
@@ -76,6 +86,10 @@ void SeatSession::ask()
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *answer;
+        if (isUnanswered(reply)) {
+            ask();
+            return;
+        }
         if (!reply.isValid()) {
             take({}); // there is no logind, or it does not know this user
             return;
@@ -97,6 +111,10 @@ void SeatSession::ask()
         connect(all, &QDBusPendingCallWatcher::finished, this, [this, all] {
             all->deleteLater();
             const QDBusPendingReply<QVariantMap> values = *all;
+            if (isUnanswered(values)) {
+                ask();
+                return;
+            }
             // A session that has just ended is followed by another one, or by none.
             take(
                 values.isValid() ? values.value() : QVariantMap{{QStringLiteral("Active"), false}});

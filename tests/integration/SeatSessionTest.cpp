@@ -75,6 +75,12 @@ public:
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override
     {
+        const bool isQuestion = call.member().startsWith(QLatin1String("Get"));
+        if (isQuestion && call.member() == unanswered) {
+            unanswered.clear();
+            bus.send(call.createErrorReply(QDBusError::NoReply, QStringLiteral("restarting")));
+            return true;
+        }
         if (call.member() == QLatin1String("Get")) {
             QDBusArgument value;
             value.beginStructure();
@@ -103,6 +109,7 @@ public:
 
     QVariantMap session{{QStringLiteral("Active"), true}, {QStringLiteral("LockedHint"), false}};
     QString display = QStringLiteral("2");
+    QString unanswered; ///< the next call of this method gets no answer
     std::optional<Pipe> delay; ///< at its end once the last one who delays the sleep has closed it
 
 private:
@@ -191,6 +198,26 @@ TEST_F(Seat, isNotOursInASessionThatIsLockedAtTheStart)
     start();
     QTest::qWait(100);
     EXPECT_FALSE(mSession->isOurs());
+}
+
+TEST_F(Seat, asksAgainWhatLogindHasNotAnswered)
+{
+    for (const char* const method : {"Get", "GetAll"}) {
+        FakeLogin login(mBus.address());
+        login.unanswered = QLatin1String(method);
+        start();
+        EXPECT_TRUE(becomes(true)) << method;
+        EXPECT_EQ(login.unanswered, QString()) << method;
+        login.set("LockedHint", true);
+        EXPECT_TRUE(becomes(false)) << method;
+        login.unanswered = QLatin1String(method);
+        login.set("Active", true);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return login.unanswered.isEmpty(); }, kPatience));
+        QTest::qWait(100);
+        EXPECT_FALSE(mSession->isOurs()) << "it is still locked; " << method;
+        mSession.reset();
+        QDBusConnection::disconnectFromBus(QStringLiteral("driver"));
+    }
 }
 
 TEST_F(Seat, isNotOursWithoutASession)
