@@ -72,12 +72,14 @@ KWinFront::KWinFront(QDBusConnection bus)
 
 void KWinFront::start()
 {
-    if (mScript.open()) {
-        mScript.write(QString::fromLatin1(kScriptText)
-                          .arg(mBus.baseService(), kFrontPath, kFrontInterface)
-                          .toUtf8());
-        mScript.close();
+    const QByteArray script = QString::fromLatin1(kScriptText)
+                                  .arg(mBus.baseService(), kFrontPath, kFrontInterface)
+                                  .toUtf8();
+    if (!mScript.open() || mScript.write(script) != script.size() || !mScript.flush()) {
+        std::fprintf(stderr, "qvtbltctl: cannot write the script for KWin: %s\n",
+            qUtf8Printable(mScript.errorString()));
     }
+    mScript.close();
     mBus.registerObject(kFrontPath, this, QDBusConnection::ExportScriptableSlots);
     mPause.setSingleShot(true);
     connect(&mPause, &QTimer::timeout, this, &KWinFront::check);
