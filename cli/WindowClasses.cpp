@@ -41,9 +41,13 @@ QStringList entriesWithClass(const QString& windowClass)
 
 QStringList WindowClasses::entriesFor(const QStringList& classes)
 {
+    constexpr int kMostClasses = 256;
     QStringList names;
     for (const QString& windowClass : classes) {
         if (!mKnown.contains(windowClass)) {
+            if (mKnown.size() >= kMostClasses) {
+                mKnown.clear();
+            }
             mKnown.insert(windowClass, entriesWithClass(windowClass));
         }
         names += mKnown.value(windowClass);

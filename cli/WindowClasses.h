@@ -16,7 +16,7 @@ public:
     QStringList entriesFor(const QStringList& classes);
 
 private:
-    /** By class. An application that is installed later has a class that is not yet here. */
+    /** By class. Forgotten when there are many, since any program can name a class. */
     QHash<QString, QStringList> mKnown;
 };
 
