@@ -230,6 +230,9 @@ int runTablet(const Arguments& arguments)
         return usageError(isList ? QStringLiteral("extra operand '%1'").arg(arguments.operands[1])
                                  : QStringLiteral("missing operand after '%1'").arg(what));
     }
+    if (arguments.asJson && !isList) {
+        return usageError(QStringLiteral("--json can only be used with tablet list"));
+    }
     QVRegisterTabletList();
     QDBusMessage call = driverCall(kQVTabletPath, kQVTabletInterface,
         isList      ? "Tablets"
