@@ -34,7 +34,7 @@ QString QVTabletListText(const QVTabletList& tablets)
             facts += entry("tilt").toBool() ? QStringLiteral("tilt") : QStringLiteral("no tilt");
             facts +=
                 entry("eraser").toBool() ? QStringLiteral("eraser") : QStringLiteral("no eraser");
-            facts += number("keys", "keys");
+            facts += entry("keys").toUInt() == 1 ? QStringLiteral("1 key") : number("keys", "keys");
             facts += entry("strips").toUInt() == 1 ? QStringLiteral("1 strip or ring")
                                                    : number("strips", "strips or rings");
         }
