@@ -127,10 +127,12 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
     mTarget = settings.target;
     mDesktopTurns = settings.desktopTurns;
 
+    // A stroke that began finely ends finely, or it would jump when the button is let go.
+    const bool isFine =
+        buttons.isFine() || (mAnchor.has_value() && mLast.isTouching && frame.isTouching);
     const TabletRect& area = settings.area;
-    const Point target =
-        fine({partOf(units.x, area.left, area.right), partOf(units.y, area.top, area.bottom)},
-            buttons.isFine());
+    const Point target = fine(
+        {partOf(units.x, area.left, area.right), partOf(units.y, area.top, area.bottom)}, isFine);
     PenFrame pen = frame;
     const TabletRect& goal = settings.target;
     double x = between(goal.left, goal.right, target.x);

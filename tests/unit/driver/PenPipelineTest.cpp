@@ -345,6 +345,24 @@ TEST_F(PenPipelineTest, finePositioningMovesAQuarterFromWhereItBegan)
     EXPECT_EQ(next(at(14000, 6000)).pen.x, 56000);
 }
 
+TEST_F(PenPipelineTest, aStrokeDoesNotJumpWhenFinePositioningEnds)
+{
+    assign(kQVLowerPenSlot, kQVFinePositioning);
+    PenFrame frame = pressed(300);
+    frame.x = frame.y = 10000;
+    frame.buttons = kPenLower;
+    EXPECT_EQ(next(frame).pen.x, 40000);
+    frame.x = 14000;
+    EXPECT_EQ(next(frame).pen.x, 44000);
+    frame.buttons = 0;
+    const PenPipeline::Result released = next(frame);
+    EXPECT_EQ(released.pen.x, 44000);
+    EXPECT_FALSE(released.lift) << "the stroke goes on";
+    frame.x = 14400;
+    EXPECT_EQ(next(frame).pen.x, 44400) << "finely to its end";
+    EXPECT_EQ(next(at(14400, 10000)).pen.x, 57600);
+}
+
 TEST_F(PenPipelineTest, aPausedPenIsOutOfReachUntilTheButtonIsPressedAgain)
 {
     assign(kQVLowerPenSlot, kQVPauseTablet);
