@@ -390,8 +390,8 @@ QRectF TabletController::area() const
 
 TabletSettings TabletController::settings() const
 {
-    TabletSettings settings = decodeSettings(mDriver.settings(),
-        targetOf(area(), boundsOf(mDisplays.desktop())), mDriver.isCalibrating());
+    TabletSettings settings = decodeSettings(
+        mDriver.settings(), targetOf(area(), mDisplays.desktop()), mDriver.isCalibrating());
     settings.desktopTurns = mKWin.turns();
     return settings;
 }

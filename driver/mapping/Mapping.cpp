@@ -111,11 +111,16 @@ std::optional<Desktop> desktopFrom(const QByteArray& line)
     return desktop;
 }
 
-TabletRect targetOf(const QRectF& area, const QRectF& covered)
+TabletRect targetOf(const QRectF& area, const Desktop& desktop)
 {
-    if (area.isEmpty() || covered.isEmpty()) {
-        return {0, 0, 1, 1};
+    constexpr TabletRect kAll{0, 0, 1, 1};
+    const auto isOn = [&](const DesktopDisplay& display) {
+        return display.bounds.intersects(area);
+    };
+    if (area.isEmpty() || std::ranges::none_of(desktop, isOn)) {
+        return kAll;
     }
+    const QRectF covered = boundsOf(desktop);
     // KWin 5 rounds places to whole points before it looks for a window, so that the last half of
     // the last point is off the display, and a pen there is nowhere. The rest is for displays with
     // a fractional scale, whose size it rounds, too.
@@ -125,6 +130,5 @@ TabletRect targetOf(const QRectF& area, const QRectF& covered)
     const QRectF reached = area & covered;
     const TabletRect target{across(reached.left()), down(reached.top()),
         across(reached.right() - kLast), down(reached.bottom() - kLast)};
-    // An area on a display that is gone.
-    return target.width() > 0 && target.height() > 0 ? target : TabletRect{0, 0, 1, 1};
+    return target.width() > 0 && target.height() > 0 ? target : kAll;
 }

@@ -52,8 +52,9 @@ std::optional<Desktop> desktopFrom(const QByteArray& line);
 
 /**
  * The part of the virtual pen's range that points at an area of the desktop, up to the beginning of
- * its last points, each side from 0 to 1. Without a known desktop, all of it.
+ * its last points, each side from 0 to 1. All of it if the desktop is not known, or if the area is
+ * on no display, such as that of a display that is gone.
  *
- * @param covered what the whole range covers
+ * @param desktop what the whole range covers
  */
-TabletRect targetOf(const QRectF& area, const QRectF& covered);
+TabletRect targetOf(const QRectF& area, const Desktop& desktop);

@@ -99,7 +99,7 @@ TEST(Mapping, anAreaIsAPartOfTheRange)
     const QRectF all(-1000, 0, 2000, 1000);
     // In points: the area up to the beginning of its last ones.
     const auto target = [&](const QRectF& area) {
-        const TabletRect part = targetOf(area, all);
+        const TabletRect part = targetOf(area, {display(all)});
         return QRectF(QPointF(all.left() + part.left * all.width(), part.top * all.height()),
             QPointF(all.left() + part.right * all.width() + 0.9, part.bottom * all.height() + 0.9));
     };
@@ -114,8 +114,11 @@ TEST(Mapping, withoutADesktopOrAnAreaOnItTheTabletReachesAllOfIt)
 {
     const TabletRect all{0, 0, 1, 1};
     EXPECT_EQ(targetOf({0, 0, 100, 100}, {}), all);
-    EXPECT_EQ(targetOf({}, {0, 0, 100, 100}), all);
-    EXPECT_EQ(targetOf({200, 0, 100, 100}, {0, 0, 100, 100}), all) << "its display is gone";
+    const Desktop desktop{display({0, 0, 100, 100}), display({200, 0, 100, 100})};
+    EXPECT_EQ(targetOf({}, desktop), all);
+    EXPECT_EQ(targetOf({300, 0, 100, 100}, desktop), all) << "its display is gone";
+    EXPECT_EQ(targetOf({100, 0, 100, 100}, desktop), all) << "it was between those that are left";
+    EXPECT_NE(targetOf({50, 0, 100, 100}, desktop), all) << "half of it is on a display";
 }
 
 TEST(Mapping, aDisplayIsFoundByItsBoundsWhateverElseChanges)
