@@ -96,7 +96,12 @@ TabletController::TabletController(
     });
     connect(&mKWin, &KWinMapping::changed, this, &TabletController::publish);
     connect(&driver, &Driver::settingsChanged, this, &TabletController::publish);
-    connect(&driver, &Driver::calibratingChanged, this, &TabletController::publish);
+    connect(&driver, &Driver::calibratingChanged, this, [this](bool isCalibrating) {
+        if (isCalibrating) {
+            mDetour.reset(); // what is calibrated is the display that the panel has
+        }
+        publish();
+    });
     choose();
 }
 

@@ -646,6 +646,15 @@ class Displays(guest.TestCase):
         self.push(XOrg=-1000, Width=2000)
         self.assertEqual(self.place(0, 0), (0, 0))
 
+    def test_a_calibration_is_for_the_one_that_the_record_says(self):
+        self.click(0)
+        wait_for(lambda: self.place(0, 0) == (96001, 0), "the next display")
+        self.push(disableFlag=1)
+        self.world.wait_for_state("calibrating")
+        self.push(disableFlag=0)
+        self.world.wait_for_state("attached")
+        self.assertEqual(self.place(0, 0), (0, 0))
+
     def test_a_stroke_ends_where_it_is_when_the_pen_goes_to_another(self):
         self.tablet.pen(24000, 15000, pressure=4000)
         self.pen.wait_for("BTN_TOUCH", 1)
