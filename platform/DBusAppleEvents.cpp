@@ -59,11 +59,10 @@ OSErr errorCode(const QDBusMessage& error)
     if (name.startsWith(QLatin1String("org.freedesktop.DBus.Error.Spawn."))) {
         return procNotFound; // the bus has tried to start it
     }
-    switch (QDBusError(error).type()) {
-    case QDBusError::NoReply:
-    case QDBusError::Timeout:
-    case QDBusError::TimedOut:
+    if (isUnanswered(QDBusError(error))) {
         return errAETimeout;
+    }
+    switch (QDBusError(error).type()) {
     case QDBusError::ServiceUnknown:
         return procNotFound;
     case QDBusError::Disconnected:

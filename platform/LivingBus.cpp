@@ -102,4 +102,16 @@ bool sessionBusAnswers(std::chrono::milliseconds limit)
     return true;
 }
 
+bool isUnanswered(const QDBusError& error)
+{
+    switch (error.type()) {
+    case QDBusError::NoReply:
+    case QDBusError::Timeout:
+    case QDBusError::TimedOut:
+        return true;
+    default:
+        return false;
+    }
+}
+
 } // namespace platform

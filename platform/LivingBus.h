@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDBusError>
+
 #include <chrono>
 
 namespace platform {
@@ -18,5 +20,8 @@ namespace platform {
  *     connecting then fails at once, or if its address is not a Unix socket
  */
 bool sessionBusAnswers(std::chrono::milliseconds limit);
+
+/** Whether the receiver has not answered: it is busy, or has left the bus before. */
+bool isUnanswered(const QDBusError& error);
 
 } // namespace platform

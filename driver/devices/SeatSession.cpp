@@ -2,11 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "SeatSession.h"
 
+#include "LivingBus.h"
+
 #include <QDBusArgument>
-#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
-#include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
@@ -22,14 +22,6 @@ constexpr QLatin1String kLoginManager("org.freedesktop.login1.Manager");
 constexpr QLatin1String kSession("org.freedesktop.login1.Session");
 constexpr QLatin1String kUser("org.freedesktop.login1.User");
 constexpr QLatin1String kProperties("org.freedesktop.DBus.Properties");
-
-/** Whether logind has not answered: it is busy, or is being restarted. */
-bool isUnanswered(const QDBusPendingCall& call)
-{
-    const QDBusError::ErrorType error = call.error().type();
-    return error == QDBusError::NoReply || error == QDBusError::Timeout
-        || error == QDBusError::TimedOut;
-}
 
 } // namespace
 
@@ -86,7 +78,7 @@ void SeatSession::ask()
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
         answer->deleteLater();
         const QDBusPendingReply<QDBusVariant> reply = *answer;
-        if (isUnanswered(reply)) {
+        if (platform::isUnanswered(reply.error())) {
             ask();
             return;
         }
@@ -111,7 +103,7 @@ void SeatSession::ask()
         connect(all, &QDBusPendingCallWatcher::finished, this, [this, all] {
             all->deleteLater();
             const QDBusPendingReply<QVariantMap> values = *all;
-            if (isUnanswered(values)) {
+            if (platform::isUnanswered(values.error())) {
                 ask();
                 return;
             }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KWinMapping.h"
 
+#include "LivingBus.h"
 #include "VirtualDevices.h"
 
 #include <QDBusArgument>
@@ -198,8 +199,7 @@ void KWinMapping::apply()
         const QDBusPendingReply<QVariantMap> reply = *answer;
         if (reply.isValid()) {
             set(path, reply.value());
-        } else if (reply.error().type() == QDBusError::NoReply
-            || reply.error().type() == QDBusError::Timeout) {
+        } else if (platform::isUnanswered(reply.error())) {
             apply(); // it is busy
         } else {
             setTurns(0); // it is gone, or does not know the pen yet
