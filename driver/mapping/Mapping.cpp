@@ -113,12 +113,12 @@ std::optional<Desktop> desktopFrom(const QByteArray& line)
 
 TabletRect targetOf(const QRectF& area, const Desktop& desktop)
 {
-    constexpr TabletRect kAll{0, 0, 1, 1};
+    constexpr TabletRect kWholeDesktop{0, 0, 1, 1};
     const auto isOn = [&](const DesktopDisplay& display) {
         return display.bounds.intersects(area);
     };
     if (area.isEmpty() || std::ranges::none_of(desktop, isOn)) {
-        return kAll;
+        return kWholeDesktop;
     }
     const QRectF covered = boundsOf(desktop);
     // KWin 5 rounds places to whole points before it looks for a window, so that the last half of
@@ -130,5 +130,5 @@ TabletRect targetOf(const QRectF& area, const Desktop& desktop)
     const QRectF reached = area & covered;
     const TabletRect target{across(reached.left()), down(reached.top()),
         across(reached.right() - kLast), down(reached.bottom() - kLast)};
-    return target.width() > 0 && target.height() > 0 ? target : kAll;
+    return target.width() > 0 && target.height() > 0 ? target : kWholeDesktop;
 }
