@@ -16,7 +16,7 @@
 namespace {
 
 constexpr std::chrono::milliseconds kFirstPause{250};
-constexpr std::chrono::milliseconds kLongestPause{8000};
+constexpr std::chrono::milliseconds kLongestPause{2000};
 /** A process that has lived as long was all right. */
 constexpr std::chrono::milliseconds kLongLife{10000};
 constexpr int kEnvironmentAnswerTime = 2000; ///< milliseconds

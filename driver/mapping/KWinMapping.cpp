@@ -87,7 +87,7 @@ QRectF areaOf(const QRectF& all, const DesktopDisplay& display)
     }
 }
 
-/** All displays, in parts of what KWin 6 takes for them: that is one point less across and down. */
+/** All displays, in parts of what KWin 6 takes for their size, one point less across and down. */
 QRectF areaOfAll(const Desktop& desktop)
 {
     const QRectF all = boundsOf(desktop);
@@ -103,7 +103,7 @@ QRectF areaOfAll(const Desktop& desktop)
 KWinSettings kwinSettings(const QVariantMap& present, const Desktop& desktop)
 {
     KWinSettings settings;
-    // Only what this KWin has, and what is otherwise.
+    // Only properties that this KWin has, and whose values differ.
     const auto want = [&](QLatin1String name, const QVariant& value) {
         if (present.contains(name) && !isSame(present.value(name), value)) {
             settings.changes.insert(name, value);
@@ -150,8 +150,9 @@ KWinMapping::KWinMapping(QDBusConnection session, QObject* parent)
         QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration,
         this);
     connect(watcher, &QDBusServiceWatcher::serviceRegistered, this, &KWinMapping::apply);
-    // The next desktop may have the same displays, so that nothing else tells.
+    // The next desktop may have the same displays, so that nothing else would report it.
     connect(watcher, &QDBusServiceWatcher::serviceUnregistered, this, [this] { setTurns(0); });
+    connect(&mFile, &QFileSystemWatcher::directoryChanged, this, &KWinMapping::watchFile);
     connect(&mFile, &QFileSystemWatcher::fileChanged, this, [this] {
         watchFile(); // before it changes once more
         apply();
@@ -219,10 +220,8 @@ void KWinMapping::set(const QString& path, const QVariantMap& present)
         call << change.key() << QVariant::fromValue(QDBusVariant(change.value()));
         auto* const answer =
             new QDBusPendingCallWatcher(mBus.asyncCall(call, kKWinAnswerTime), this);
-        connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
-            answer->deleteLater();
-            watchFile(); // there was none, perhaps
-        });
+        connect(answer, &QDBusPendingCallWatcher::finished, answer,
+            &QDBusPendingCallWatcher::deleteLater);
     }
     watchFile();
     setTurns(settings.turns);
@@ -237,10 +236,16 @@ void KWinMapping::setTurns(int turns)
 
 void KWinMapping::watchFile()
 {
-    const QString file = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation)
-        + QStringLiteral("/kcminputrc");
-    // A file that was replaced is no longer watched.
-    if (mFile.files().isEmpty() && QFile::exists(file) && mFile.addPath(file)) {
+    const QString folder = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    const QString file = folder + QStringLiteral("/kcminputrc");
+    // A file that was replaced or deleted is no longer watched.
+    if (!mFile.files().isEmpty()) {
+        return;
+    }
+    if (QFile::exists(file) && mFile.addPath(file)) {
+        mFile.removePath(folder);
         apply(); // it may have changed before
+    } else {
+        mFile.addPath(folder);
     }
 }

@@ -56,7 +56,10 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     void apply();
     void set(const QString& path, const QVariantMap& present);
     void setTurns(int turns);
-    /** Watches the file in which KWin keeps the settings of its devices: it sends no signal. */
+    /**
+     * Watches the file in which KWin keeps the settings of its devices, since it sends no signal;
+     * while there is none, its folder.
+     */
     void watchFile();
 
     QDBusConnection mBus;

@@ -39,12 +39,14 @@ public:
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override
     {
+        ++calls;
         EXPECT_EQ(call.arguments().value(1).toString(), QStringLiteral("Environment"));
         bus.send(call.createReply(QVariant::fromValue(QDBusVariant(environment))));
         return true;
     }
 
     QStringList environment;
+    int calls = 0;
 
 private:
     QDBusConnection mBus;
@@ -88,6 +90,9 @@ protected:
             kPatience);
     }
 
+    /** Runs from one try to the next. */
+    const QTimer& pause() const { return *mWatcher->findChild<QTimer*>(); }
+
     QTemporaryDir mFolder;
     PrivateBus mBus;
     std::optional<DisplayWatcher> mWatcher;
@@ -98,13 +103,12 @@ protected:
 TEST_F(Watcher, followsWhatItIsTold)
 {
     qputenv("DISPLAY", ":7");
-    start("say DP-1 10; say DP-1 20; echo '[]'; echo nonsense; read end");
-    int changes = 0;
-    QObject::connect(&*mWatcher, &DisplayWatcher::changed, &*mWatcher, [&] { ++changes; });
-    EXPECT_TRUE(sees("DP-1", 20));
-    EXPECT_EQ(changes, 2);
-    QTest::qWait(100);
-    EXPECT_TRUE(sees("DP-1", 20)) << "what makes no sense changes nothing";
+    start("say DP-1 10; say DP-1 20; echo '[]'; echo nonsense; say DP-1 20; say DP-1 30; read end");
+    std::vector<double> widths;
+    QObject::connect(&*mWatcher, &DisplayWatcher::changed, &*mWatcher,
+        [&] { widths.push_back(mWatcher->desktop().at(0).bounds.width()); });
+    EXPECT_TRUE(sees("DP-1", 30));
+    EXPECT_EQ(widths, (std::vector{10.0, 20.0, 30.0})) << "what makes no sense changes nothing";
 }
 
 TEST_F(Watcher, beginsAnewWhenTheProcessEnds)
@@ -118,7 +122,7 @@ TEST_F(Watcher, asksTheServiceManagerWhereTheDesktopIs)
 {
     FakeManager manager(mBus.address());
     start("say \"$WAYLAND_DISPLAY$XDG_CURRENT_DESKTOP$OTHER\" 5; read end");
-    QTest::qWait(100);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return manager.calls == 2; }, kPatience));
     EXPECT_TRUE(mWatcher->desktop().empty()) << "there is no desktop as yet";
     manager.environment = QStringList{QStringLiteral("OTHER=x"),
         QStringLiteral("WAYLAND_DISPLAY=wayland-3"), QStringLiteral("XDG_CURRENT_DESKTOP=KDE")};
@@ -152,7 +156,7 @@ TEST_F(Watcher, knowsNothingOnceItIsStopped)
 TEST_F(Watcher, asksAgainAfterTheServiceManagerHasNotAnswered)
 {
     start("say \"$DISPLAY\" 5; read end");
-    QTest::qWait(100);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return pause().isActive(); }, kPatience));
     FakeManager manager(mBus.address());
     manager.environment = QStringList{QStringLiteral("DISPLAY=:3")};
     EXPECT_TRUE(sees(":3", 5));
@@ -180,10 +184,9 @@ TEST_F(Watcher, pausesLongerOnlyAfterAFirstPause)
 {
     qputenv("DISPLAY", ":7");
     start("exit 1");
-    const auto& pause = *mWatcher->findChild<QTimer*>();
     std::vector<int> pauses;
     QObject::connect(
-        &pause, &QTimer::timeout, &*mWatcher, [&] { pauses.push_back(pause.interval()); });
+        &pause(), &QTimer::timeout, &*mWatcher, [&] { pauses.push_back(pause().interval()); });
     EXPECT_TRUE(QTest::qWaitFor([&] { return pauses.size() == 2; }, kPatience));
     EXPECT_EQ(pauses, (std::vector{250, 500}));
 }

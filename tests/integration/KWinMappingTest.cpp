@@ -13,6 +13,7 @@
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QDir>
@@ -64,6 +65,7 @@ public:
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& bus) override
     {
+        ++calls;
         if (!mHasDevice || call.path() != kManagerPath + QLatin1Char('/') + kNode) {
             return false;
         }
@@ -84,6 +86,7 @@ public:
     QVariantMap properties{{QStringLiteral("name"), QString::fromLatin1(kVirtualPenName)},
         {QStringLiteral("outputName"), QString()},
         {QStringLiteral("outputArea"), QRectF(0, 0, 1, 1)}};
+    int calls = 0; ///< with or without an answer
     int sets = 0;
 
 private:
@@ -131,6 +134,20 @@ protected:
         return QTest::qWaitFor([&] { return isMapped(); }, kPatience);
     }
 
+    /** Waits until the driver has an answer to each of its calls. */
+    void expectAnswers() const
+    {
+        EXPECT_TRUE(QTest::qWaitFor(
+            [&] { return mMapping->findChildren<QDBusPendingCallWatcher*>().isEmpty(); },
+            kPatience));
+    }
+    void expectQuestionsAlone() const
+    {
+        expectAnswers();
+        EXPECT_GT(mKWin->calls, 0);
+        EXPECT_EQ(mKWin->sets, 0);
+    }
+
     TemporaryHome mHome;
     PrivateBus mBus;
     std::optional<FakeKWin> mKWin;
@@ -158,8 +175,7 @@ TEST_F(KWin, isToldOfAPenThatItSeesLater)
 {
     startKWin(false);
     startDriver();
-    QTest::qWait(100);
-    EXPECT_FALSE(isMapped());
+    expectQuestionsAlone();
     mKWin->addDevice();
     EXPECT_TRUE(becomesMapped());
 }
@@ -167,7 +183,7 @@ TEST_F(KWin, isToldOfAPenThatItSeesLater)
 TEST_F(KWin, isToldAgainWhenItHasBeenStartedAgain)
 {
     startDriver();
-    QTest::qWait(100);
+    expectAnswers();
     for (int times = 0; times < 2; ++times) {
         startKWin();
         EXPECT_TRUE(becomesMapped());
@@ -192,6 +208,19 @@ TEST_F(KWin, isToldAgainWhenTheUserHasChangedIt)
         kPatience));
 }
 
+TEST_F(KWin, isToldAgainWhenItsFileWasDeleted)
+{
+    startKWin();
+    startDriver();
+    EXPECT_TRUE(becomesMapped());
+    expectAnswers();
+    EXPECT_TRUE(QFile::remove(mHome.path() + QStringLiteral("/.config/kcminputrc")));
+    for (int times = 0; times < 2; ++times) {
+        mKWin->set(QStringLiteral("outputArea"), QRectF(0, 0, 0.5, 0.5));
+        EXPECT_TRUE(becomesMapped());
+    }
+}
+
 TEST_F(KWin, isToldNothingThatItHasAlready)
 {
     startKWin6();
@@ -199,8 +228,7 @@ TEST_F(KWin, isToldNothingThatItHasAlready)
     mKWin->properties.insert(
         QStringLiteral("outputArea"), QRectF(0, 0, 1500.0 / 1499 + 1e-6, 500.0 / 499 + 1e-6));
     startDriver();
-    QTest::qWait(200);
-    EXPECT_EQ(mKWin->sets, 0);
+    expectQuestionsAlone();
 }
 
 TEST_F(KWin, followsTheDisplays)
@@ -235,8 +263,7 @@ TEST_F(KWin, isToldNothingOfAnotherDevice)
     startKWin6();
     mKWin->properties.insert(QStringLiteral("name"), QStringLiteral("Acme Pen"));
     startDriver();
-    QTest::qWait(200);
-    EXPECT_EQ(mKWin->sets, 0);
+    expectQuestionsAlone();
 }
 
 TEST_F(KWin, isNotMissedWithoutABus)
