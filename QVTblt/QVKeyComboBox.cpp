@@ -3,9 +3,7 @@
 #include "QVKeyComboBox.h"
 
 #include <QAbstractItemView>
-#include <QCoreApplication>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QListView>
 #include <QStyleOptionComboBox>
 #include <QStylePainter>
@@ -131,25 +129,11 @@ int textWidth(const QStyleOptionComboBox& option, const QWidget* box)
     return fieldOf(option, box).width() - missingMargin(option, box) - icon - kMargins;
 }
 
-bool isPrintable(const QKeyEvent& event)
-{
-    return !event.text().isEmpty() && event.text().at(0).isPrint();
-}
-
-/** Whether the key would normally choose another item of a closed box at once. */
-bool wouldChoose(const QKeyEvent& event)
-{
-    constexpr std::array<int, 6> kMoves{
-        Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
-    return std::ranges::find(kMoves, event.key()) != kMoves.end() || isPrintable(event);
-}
-
 } // namespace
 
 QVKeyComboBox::QVKeyComboBox(QWidget* parent)
-    : QComboBox(parent)
+    : MenuComboBox(parent)
 {
-    setFocusPolicy(Qt::StrongFocus);
     setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
     setItemDelegate(new ItemDelegate(this));
     if (auto* const list = qobject_cast<QListView*>(view())) {
@@ -208,29 +192,6 @@ void QVKeyComboBox::setMarked(bool isMarked)
         mIsMarked = isMarked;
         update();
     }
-}
-
-void QVKeyComboBox::keyPressEvent(QKeyEvent* event)
-{
-    if (!wouldChoose(*event)) {
-        QComboBox::keyPressEvent(event);
-        return;
-    }
-    constexpr auto kShortcut = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-    if (isPrintable(*event) && (event->modifiers() & kShortcut) != 0) {
-        event->ignore(); // it is not a shortcut
-        return;
-    }
-    showPopup();
-    if (event->key() != Qt::Key_Space) {
-        // In the open list, the key moves the selection, which Return then chooses.
-        QCoreApplication::sendEvent(view(), event);
-    }
-}
-
-void QVKeyComboBox::wheelEvent(QWheelEvent* event)
-{
-    event->ignore();
 }
 
 void QVKeyComboBox::paintEvent(QPaintEvent* event)

@@ -2,17 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QComboBox>
+#include "MenuComboBox.h"
 
 /**
  * The list of one button's actions. The number of its slot is its property "tag".
  *
- * The list works like a menu: neither the wheel nor a key on the closed list chooses anything,
- * since every choice takes effect at once and some open a window. Two items show what the user has
+ * Two items show what the user has
  * chosen through them; if their text does not fit, the tooltip shows all of it. A path is elided at
  * its beginning, since its end names the program, keys in their middle.
  */
-class QVKeyComboBox final : public QComboBox {
+class QVKeyComboBox final : public platform::MenuComboBox {
     Q_OBJECT
 
 public:
@@ -65,8 +64,6 @@ public:
     void resetItems();
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void wheelEvent(QWheelEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     bool event(QEvent* event) override;
 

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Profile.h"
 
+#include "LiteralText.h"
 #include "QVConfigStore.h"
 #include "QVPanelObject.h"
 #include "QVProfile.h"
@@ -21,6 +22,7 @@
 #include <array>
 #include <cstdio>
 
+using platform::literalText;
 using platform::Result;
 
 namespace {
@@ -54,7 +56,7 @@ int finish(const Result<>& done, const char* what, const QString& name)
     if (!done) {
         return fail(done.error().text);
     }
-    std::printf("%s %s\n", what, qUtf8Printable(harmless(name)));
+    std::printf("%s %s\n", what, qUtf8Printable(literalText(name)));
     return kExitGood;
 }
 
@@ -77,9 +79,10 @@ int listProfiles(const QStringList& /*none*/, bool asJson)
     const std::vector<QVProfileFolder::Item> profiles = folder->list();
     for (const QVProfileFolder::Item& profile : profiles) {
         const bool isCurrent = profile.name == current;
-        lines += QLatin1String(isCurrent ? "* " : "  ") + harmless(profile.name);
+        lines += QLatin1String(isCurrent ? "* " : "  ") + literalText(profile.name);
         if (!profile.applications.isEmpty()) {
-            lines += QLatin1Char('\t') + harmless(profile.applications.join(QLatin1String(", ")));
+            lines +=
+                QLatin1Char('\t') + literalText(profile.applications.join(QLatin1String(", ")));
         }
         lines += QLatin1Char('\n');
         array.append(QJsonObject{{QStringLiteral("name"), profile.name},
@@ -149,7 +152,7 @@ void printLines(const char* heading, const QStringList& lines)
         std::printf("%s\n", heading);
     }
     for (const QString& line : lines) {
-        std::printf("  %s\n", qUtf8Printable(harmless(line)));
+        std::printf("  %s\n", qUtf8Printable(literalText(line)));
     }
 }
 
@@ -169,8 +172,8 @@ int importProfile(const QStringList& operands, bool /*asJson*/)
     if (const Result<> saved = folder->saveNew(import->profile); !saved) {
         return fail(saved.error().text);
     }
-    std::printf("imported %s\n", qUtf8Printable(harmless(name)));
-    printLines("It sets, other than now:", import->changes);
+    std::printf("imported %s\n", qUtf8Printable(literalText(name)));
+    printLines("It would change:", import->changes);
     printLines("Left out, since it does not fit this tablet:", import->leftOut);
     printLines("It is used for:", import->profile.applications);
     QStringList starts;
@@ -228,7 +231,7 @@ int runProfile(const Arguments& arguments)
     const QStringList operands = arguments.operands.mid(1);
     const ProfileAction* const action = findProfileAction(name);
     if (action == nullptr) {
-        return usageError(QStringLiteral("a profile cannot '%1'").arg(name));
+        return usageError(QStringLiteral("there is no command 'profile %1'").arg(name));
     }
     if (operands.size() < action->operands) {
         return usageError(
@@ -247,22 +250,4 @@ bool profileNeedsDisplays(const Arguments& arguments)
 {
     const ProfileAction* const action = findProfileAction(arguments.operands[0]);
     return action != nullptr && action->needsDisplays;
-}
-
-QString harmless(const QString& text)
-{
-    QString result = text;
-    for (QChar& character : result) {
-        switch (character.category()) {
-        case QChar::Other_Control:
-        case QChar::Other_Format: // changes the direction, for instance
-        case QChar::Separator_Line:
-        case QChar::Separator_Paragraph:
-            character = QChar::ReplacementCharacter;
-            break;
-        default:
-            break;
-        }
-    }
-    return result;
 }

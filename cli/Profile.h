@@ -11,7 +11,3 @@ int runProfile(const Arguments& arguments);
 
 /** Whether that pushes settings, which depend on the displays. */
 bool profileNeedsDisplays(const Arguments& arguments);
-
-/** A text from somebody else, with a mark for each character that might do something to a terminal.
- */
-QString harmless(const QString& text);

@@ -3,6 +3,7 @@
 #include "ImportDialog.h"
 
 #include "ApplicationsDialog.h"
+#include "LiteralText.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -15,20 +16,9 @@
 
 #include <utility>
 
-namespace {
+using platform::literalText;
 
-/** The text without what would change the place or the direction of other characters. */
-QString literalText(QString text)
-{
-    for (QChar& character : text) {
-        const QChar::Category category = character.category();
-        if (category == QChar::Other_Control || category == QChar::Other_Format
-            || category == QChar::Separator_Line || category == QChar::Separator_Paragraph) {
-            character = QChar::ReplacementCharacter;
-        }
-    }
-    return text;
-}
+namespace {
 
 /** A path that a label can wrap after each character, so that all of it is shown. */
 QString wrappable(const QString& path)

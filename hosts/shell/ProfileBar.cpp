@@ -5,6 +5,7 @@
 #include "ApplicationsDialog.h"
 #include "FollowService.h"
 #include "ImportDialog.h"
+#include "MenuComboBox.h"
 #include "ProfileNameDialog.h"
 
 #include <QAbstractItemView>
@@ -55,15 +56,14 @@ QString literalToolTip(const QString& text)
  * The list of the profiles. Neither the wheel nor a key on the closed list chooses anything, since
  * a choice replaces all settings at once. A long name is elided.
  */
-class ProfileBar::List final : public QComboBox {
+class ProfileBar::List final : public platform::MenuComboBox {
 public:
     explicit List(QWidget* parent)
-        : QComboBox(parent)
+        : MenuComboBox(parent)
     {
         constexpr int kColumns = 24;
         setMinimumContentsLength(kColumns);
         setSizeAdjustPolicy(AdjustToMinimumContentsLengthWithIcon);
-        setFocusPolicy(Qt::StrongFocus);
     }
 
     /** Shows the names, and which of them is current; a first item stands for none. */
@@ -102,28 +102,6 @@ public:
     }
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        constexpr std::array<int, 6> kMoves{
-            Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
-        constexpr auto kShortcut = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
-        const bool isText = !event->text().isEmpty() && event->text().at(0).isPrint();
-        const bool isMove = std::ranges::find(kMoves, event->key()) != kMoves.end();
-        if (isText && (event->modifiers() & kShortcut) != 0) {
-            event->ignore();
-        } else if (isText || isMove) {
-            showPopup();
-            if (event->key() != Qt::Key_Space) {
-                // In the open list, the key moves the selection, which Return then chooses.
-                QCoreApplication::sendEvent(view(), event);
-            }
-        } else {
-            QComboBox::keyPressEvent(event);
-        }
-    }
-
-    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
-
     void paintEvent(QPaintEvent* event) override
     {
         static_cast<void>(event);

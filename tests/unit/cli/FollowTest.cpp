@@ -61,12 +61,4 @@ TEST(FollowedArea, isNoneWhereTheLineIsAnother)
     }
 }
 
-TEST(HarmlessText, hasNothingThatMovesACursorOrTurnsADirection)
-{
-    EXPECT_EQ(harmless(QStringLiteral("a\x1b[2J\tb\u202e\u2028c")),
-        QStringLiteral("a\ufffd[2J\ufffdb\ufffd\ufffdc"));
-    EXPECT_EQ(harmless(QStringLiteral("Zeichnen ✏️ 描く")),
-        QStringLiteral("Zeichnen ✏️ 描く"));
-}
-
 } // namespace

@@ -1,0 +1,15 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QString>
+
+namespace platform {
+
+/**
+ * A text from somebody else, such as a name in a file, to be shown in a window or on a terminal:
+ * replaces each character that could move or turn others, or control the terminal, by U+FFFD.
+ */
+QString literalText(QString text);
+
+} // namespace platform
