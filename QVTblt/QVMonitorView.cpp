@@ -32,8 +32,6 @@ constexpr double kPictureRight = kQVPictureArea.x + kQVPictureArea.width;
 constexpr double kPictureBottom = kQVPictureArea.y;
 constexpr double kPictureTop = kQVPictureArea.y + kQVPictureArea.height;
 
-constexpr std::int16_t kTurned = 180;
-
 /** Whether displays have begun to change; shared by all views. */
 bool DisplayConfigurationChanged = false;
 
@@ -265,7 +263,7 @@ void QVMonitorView::updateLists()
             list->setCurrentIndex(value == first ? 0 : 1);
         }
     };
-    select(mComboBoxUseMode, pQVInfo->Monitor.rotationFlag, kTurned, 0);
+    select(mComboBoxUseMode, pQVInfo->Monitor.rotationFlag, kQVTurned, 0);
     select(mComboBoxSpeed, pQVInfo->Monitor.Speed, kQVSpeedFast, kQVSpeedNormal);
 }
 
@@ -380,7 +378,7 @@ void QVMonitorView::SelectUseMode()
 {
     const int chosen = chosenIn(mComboBoxUseMode);
     if (chosen == 0 || chosen == 1) {
-        pQVInfo->Monitor.rotationFlag = chosen == 0 ? kTurned : std::int16_t{0};
+        pQVInfo->Monitor.rotationFlag = chosen == 0 ? kQVTurned : std::int16_t{0};
     }
     PushQVTabletInfo();
 }

@@ -27,3 +27,11 @@ int QVPressHeight(int threshold, int j);
 
 /** The curve's points: index and height, except (0, 0) as the first and (200, 200) as the last. */
 std::array<QVPoint, kQVCurvePoints> QVPressCurve(int threshold);
+
+/**
+ * What programs receive for a pressure, both 0 to 1: the curve without the view's steps, as the
+ * driver applies it. With s = |threshold - 100| / 100, at most 1, it is p (1 - s + s p) above 100,
+ * and below it the inverse of that. It maps 0 to 0 and 1 to 1, and is monotone. The response to
+ * the threshold 200 - t is the inverse of that to t.
+ */
+double QVPressResponse(double pressure, int threshold);

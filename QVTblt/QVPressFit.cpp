@@ -3,6 +3,7 @@
 #include "QVPressFit.h"
 
 #include "Accessible.h"
+#include "QVPressCurve.h"
 #include "rzkApplication.h"
 
 #include <QDialogButtonBox>
@@ -21,14 +22,12 @@
 
 namespace {
 
-constexpr int kStraight = 100; ///< the threshold of the straight line
-constexpr int kHeaviest = 200;
 constexpr double kDotRadius = 5; ///< of the dot on the curve, in pixels
 constexpr double kDotReach = kDotRadius + 1; ///< with its ring
 
 /**
- * The pressure that a tablet event tells; 0 when the pen is lifted, nothing for other events. A pen
- * that hovers may tell the pressure of its last touch.
+ * The pressure in a tablet event; 0 when the pen is lifted, nothing for other events. A pen
+ * that hovers may report the pressure of its last touch.
  */
 std::optional<double> pressureOf(const QEvent& event)
 {
@@ -48,19 +47,6 @@ std::optional<double> pressureOf(const QEvent& event)
 
 } // namespace
 
-double QVPressResponse(double pressure, int threshold)
-{
-    const double s =
-        std::min(1.0, std::abs(threshold - kStraight) / static_cast<double>(kStraight));
-    const double linear = 1 - s;
-    if (threshold >= kStraight) {
-        return pressure * (linear + s * pressure);
-    }
-    // The positive solution g of s g^2 + (1 - s) g = p, in the form without cancellation.
-    const double root = std::sqrt(linear * linear + 4 * s * pressure);
-    return pressure > 0 ? 2 * pressure / (linear + root) : 0;
-}
-
 int QVFittingThreshold(double lightest, double hardest)
 {
     constexpr double kHalf = 0.5;
@@ -69,12 +55,12 @@ int QVFittingThreshold(double lightest, double hardest)
     const double s = m < kHalf ? (m - kHalf) / (kHalf * kHalf)
         : m < 1                ? (m - kHalf) / (m * (1 - m))
                                : 1;
-    return static_cast<int>(std::lround(kStraight * (1 + std::clamp(s, -1.0, 1.0))));
+    return static_cast<int>(std::lround(kQVStraightThreshold * (1 + std::clamp(s, -1.0, 1.0))));
 }
 
 // The dialog --------------------------------------------------------------------------------------
 
-/** Where the user presses; tells the greatest pressure of each press. */
+/** Where the user presses; reports the greatest pressure of each press. */
 class QVPressFit::Pad final : public QWidget, public platform::Accessible {
 public:
     Pad(std::function<void(double)> told, QWidget* parent)
@@ -265,7 +251,7 @@ void QVPressFit::takePress(double pressure)
 {
     constexpr double kLeastDifference = 0.05;
     // The driver has applied the present curve.
-    const double own = QVPressResponse(pressure, kHeaviest - mPresent);
+    const double own = QVPressResponse(pressure, kQVHighestThreshold - mPresent);
     if (own <= 0 || mStep == Step::Done) {
         return;
     }
@@ -317,7 +303,7 @@ QPointF QVPressDot::place() const
 {
     // The driver has applied the curve.
     const int threshold = GetqvTabletInfo()->Pen.PressureThreshold;
-    const double own = QVPressResponse(mPressure, kHeaviest - threshold);
+    const double own = QVPressResponse(mPressure, kQVHighestThreshold - threshold);
     // All of it is seen at the ends, too.
     const auto inside = [](double middle, int size) {
         return std::clamp(middle, kDotReach, std::max(size - kDotReach, kDotReach));

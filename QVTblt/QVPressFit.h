@@ -14,14 +14,6 @@ class NoticeLabel;
 }
 
 /**
- * What programs receive for a pressure, both 0 to 1, as the driver applies a
- * threshold of 0 to 200. With s = |threshold - 100| / 100, it is p (1 - s + s
- * p) above 100, and below it the inverse of that. So the response to the
- * threshold 200 - t is the inverse of that to t.
- */
-double QVPressResponse(double pressure, int threshold);
-
-/**
  * The threshold that fits a hand: the pressure in the middle of its lightest
  * and its hardest one gives half of the full effect. A threshold bends the
  * curve at one place only, so this is all that it can fit.

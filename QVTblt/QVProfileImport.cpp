@@ -5,7 +5,9 @@
 #include "ActionText.h"
 #include "QVConfigEntry.h"
 #include "QVEntryName.h"
+#include "QVMonitorGeometry.h"
 #include "QVSlotPath.h"
+#include "hid_usb_2_adb_keymap_char.h"
 
 #include <algorithm>
 #include <iterator>
@@ -23,30 +25,25 @@ bool isSensible(
                             std::int64_t most) { return value >= least && value <= most; };
     const std::string_view key(entry.key);
     if (entry.slot != nullptr) {
-        constexpr std::int64_t kMostKeys = 3;
         const std::int64_t keys = QVFieldNumber(entry, settings) >> 24U;
         return key == "Valid" ? isFrom(kQVNoAction, kQVPauseTablet)
             : key == "Mouse"  ? isFrom(kQVLeftButton, kQVMiddleButton)
-            : key == "Key"    ? keys <= kMostKeys
+            : key == "Key"    ? keys <= kQVMaxKeys
                               : true;
     }
     const auto& all = record.Basic;
-    constexpr std::int64_t kHeaviest = 200;
-    constexpr std::int64_t kFastest = 10;
-    constexpr std::int64_t kMostDisplays = 4;
-    constexpr std::int64_t kUpsideDown = 180;
     switch (entry.offset) {
     case offsetof(tagQVTabletInfo, Pen.PressureThreshold):
-        return isFrom(0, kHeaviest);
+        return isFrom(0, kQVHighestThreshold);
     case offsetof(tagQVTabletInfo, Key.Scrollbar0):
     case offsetof(tagQVTabletInfo, Key.Scrollbar1):
         return isFrom(0, 1);
     case offsetof(tagQVTabletInfo, Key.ScrollSpeed):
-        return isFrom(1, kFastest);
+        return isFrom(1, kQVFastestScroll);
     case offsetof(tagQVTabletInfo, Monitor.num):
-        return isFrom(0, kMostDisplays);
+        return isFrom(0, kQVMaxDisplays);
     case offsetof(tagQVTabletInfo, Monitor.rotationFlag):
-        return isFrom(0, 0) || isFrom(kUpsideDown, kUpsideDown);
+        return isFrom(0, 0) || isFrom(kQVTurned, kQVTurned);
     case offsetof(tagQVTabletInfo, Monitor.Speed):
         return isFrom(kQVSpeedFast, kQVSpeedFast) || isFrom(kQVSpeedNormal, kQVSpeedNormal);
     case offsetof(tagQVTabletInfo, Monitor.cTabletXmin):

@@ -50,6 +50,16 @@ enum QVMouseButton : std::int16_t {
     kQVMiddleButton = 3,
 };
 
+/** Pen's PressureThreshold: the straight line, and the heaviest curve; 0 is the lightest. */
+inline constexpr std::int16_t kQVStraightThreshold = 100;
+inline constexpr std::int16_t kQVHighestThreshold = 200;
+
+/** Monitor's rotationFlag where the tablet is upside down; otherwise it is 0. */
+inline constexpr std::int16_t kQVTurned = 180;
+
+/** The fastest of Key's ScrollSpeed; the slowest is 1. */
+inline constexpr std::int16_t kQVFastestScroll = 10;
+
 /** Report speeds: the values of Monitor's Speed. */
 inline constexpr std::int16_t kQVSpeedFast = 180;
 inline constexpr std::int16_t kQVSpeedNormal = 220;
@@ -80,7 +90,7 @@ struct tagQVTabletInfoBasic {
 
 /** How the pen responds to pressure. */
 struct tagQVTabletInfoPen {
-    std::int16_t PressureThreshold; ///< 0 to 200; 100 is the straight line
+    std::int16_t PressureThreshold; ///< 0 to kQVHighestThreshold
     std::int16_t Speed;
 };
 
@@ -88,7 +98,7 @@ struct tagQVTabletInfoPen {
 struct tagQVTabletInfoMonitior {
     std::int16_t num; ///< chosen entry of the display list, from 0
     std::int16_t Speed; ///< report mode: kQVSpeedFast or kQVSpeedNormal
-    std::int16_t rotationFlag; ///< degrees: 180 or 0
+    std::int16_t rotationFlag; ///< degrees: kQVTurned or 0
     std::int16_t disableFlag; ///< 1 while a calibration collects points
     std::int16_t XOrg; ///< mapped screen area, in points
     std::int16_t Width;

@@ -29,9 +29,9 @@ tagQVTabletInfo defaults(const QVTabletModel& model, std::uint16_t vendorID)
     record.Basic.PressureMax = static_cast<std::int16_t>(model.pressureMax);
     record.Basic.TabletXmax = model.tabletXmax;
     record.Basic.TabletYmax = model.tabletYmax;
-    record.Pen.PressureThreshold = 100;
+    record.Pen.PressureThreshold = kQVStraightThreshold;
     record.Pen.Speed = 10;
-    record.Monitor.Speed = 220;
+    record.Monitor.Speed = kQVSpeedNormal;
     record.Monitor.Width = 1920;
     record.Monitor.Height = 1080;
     record.Monitor.cTabletXmax = model.tabletXmax;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "PenPipeline.h"
 
+#include "QVPressCurve.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
@@ -49,18 +51,6 @@ std::uint8_t buttonsOf(const ButtonActions& held)
 
 } // namespace
 
-double curvedPressure(double pressure, double curve)
-{
-    const double s = std::abs(curve);
-    const double linear = 1 - s;
-    if (curve >= 0) {
-        return pressure * (linear + s * pressure);
-    }
-    // The positive solution g of s g^2 + (1 - s) g = t, in the form without cancellation.
-    const double root = std::sqrt(linear * linear + 4 * s * pressure);
-    return pressure > 0 ? 2 * pressure / (linear + root) : 0;
-}
-
 PenPipeline::PenPipeline(const PenAxes& tablet, const PenAxes& virtualPen)
     : mTablet(tablet)
     , mVirtual(virtualPen)
@@ -106,7 +96,7 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
                 static_cast<std::uint16_t>(rounded(units.y)),
                 static_cast<std::uint32_t>(std::max(frame.pressure, 0))};
         } else if (settings.isCalibrating && mTouching) {
-            // It was lifted and left in one frame, which tells no place.
+            // It was lifted and left in one frame, which reports no position.
             report = QVPenReport{0, mTouching->x, mTouching->y, 0};
         }
         mTouching = report && report->key != 0 ? report : std::nullopt;
@@ -145,11 +135,11 @@ PenPipeline::Result PenPipeline::next(const PenFrame& frame, const TabletSetting
     pen.x = unitAt(x, edges.left, edges.right, mVirtual.xMax);
     pen.y = unitAt(y, edges.top, edges.bottom, mVirtual.yMax);
     pen.buttons = buttonsOf(buttons);
-    // Some pens tell a little pressure before they touch, which would draw.
+    // Some pens report a little pressure before they touch, which would draw.
     if (mTablet.pressureMax > 0 && frame.isTouching && frame.pressure > 0) {
-        const double pressure =
-            curvedPressure(std::min(1.0, static_cast<double>(frame.pressure) / mTablet.pressureMax),
-                settings.curve);
+        const double pressure = QVPressResponse(
+            std::min(1.0, static_cast<double>(frame.pressure) / mTablet.pressureMax),
+            settings.threshold);
         // The lightest stroke stays one.
         pen.pressure = std::max(1, rounded(pressure * mVirtual.pressureMax));
     } else {

@@ -10,16 +10,6 @@
 
 #include <optional>
 
-/**
- * Applies the pressure curve, the same as the panel draws. With s = |curve|, a heavy curve is the
- * parabola f(t) = (1 - s) t + s t^2, a light one its inverse. Both map 0 to 0 and 1 to 1, and are
- * monotone.
- *
- * @param pressure 0 to 1
- * @param curve -1 (light) to 1 (heavy)
- */
-double curvedPressure(double pressure, double curve);
-
 /** Turns the frames of a tablet's pen into those of the virtual pen. Pure: no clock, no file. */
 class PenPipeline {
 public:

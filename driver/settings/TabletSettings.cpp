@@ -10,9 +10,6 @@
 
 namespace {
 
-/** The threshold of the straight line, and the steps from there to either end. */
-constexpr double kMiddleThreshold = 100;
-
 ButtonAssignment decodeButton(const tagQVTabletInfoSubKey& slot)
 {
     ButtonAssignment button;
@@ -65,12 +62,11 @@ TabletSettings decodeSettings(
         settings.area = settings.range;
     }
     settings.target = target;
-    settings.isTurned = monitor.rotationFlag == 180;
+    settings.isTurned = monitor.rotationFlag == kQVTurned;
     settings.isCalibrating = isCalibrating;
-    settings.curve =
-        std::clamp((record.Pen.PressureThreshold - kMiddleThreshold) / kMiddleThreshold, -1.0, 1.0);
+    settings.threshold = record.Pen.PressureThreshold;
     std::ranges::transform(record.Key.SubKey, settings.buttons.begin(), decodeButton);
     settings.areStripsOn = {record.Key.Scrollbar0 == 0, record.Key.Scrollbar1 == 0};
-    settings.scrollSpeed = std::clamp<int>(record.Key.ScrollSpeed, 1, 10);
+    settings.scrollSpeed = std::clamp<int>(record.Key.ScrollSpeed, 1, kQVFastestScroll);
     return settings;
 }

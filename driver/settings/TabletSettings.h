@@ -41,7 +41,7 @@ struct TabletSettings {
     int desktopTurns = 0;
     bool isTurned = false; ///< by 180 degrees
     bool isCalibrating = false; ///< the pen moves nothing; raw reports go to the panel
-    double curve = 0; ///< of the pressure: -1 (light) to 1 (heavy), 0 is the straight line
+    int threshold = kQVStraightThreshold; ///< of the pressure, for QVPressResponse()
     std::array<ButtonAssignment, kQVSlotCount> buttons{};
     std::array<bool, 2> areStripsOn{true, true};
     int scrollSpeed = 5; ///< 1 to 10

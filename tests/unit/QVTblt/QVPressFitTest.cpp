@@ -3,6 +3,7 @@
 
 // Live pressure: the dot on the curve, and fitting the curve to a hand.
 
+#include "QVPressCurve.h"
 #include "QVPressFit.h"
 
 #include "Accessible.h"
@@ -95,29 +96,6 @@ void press(QVPressFit& dialog, double pressure)
 }
 
 } // namespace
-
-TEST(PressureResponse, isTheCurveThatThePanelDraws)
-{
-    for (int threshold = 0; threshold <= 200; threshold += 10) {
-        for (int j = 1; j < 199; ++j) {
-            // The drawn curve is in steps of 5 of 1023, truncated.
-            EXPECT_NEAR(200 * QVPressResponse(j * 5 / 1023.0, threshold) * 1023 / 1000,
-                QVPressHeight(threshold, j), threshold < 100 ? 1.5 : 6)
-                << threshold << ' ' << j;
-        }
-    }
-}
-
-TEST(PressureResponse, isUndoneByTheMirroredThreshold)
-{
-    for (const int threshold : {-300, 0, 37, 100, 150, 200, 32767}) {
-        for (double pressure = 0; pressure <= 1; pressure += 0.125) {
-            EXPECT_NEAR(QVPressResponse(QVPressResponse(pressure, threshold), 200 - threshold),
-                pressure, 1e-9)
-                << threshold;
-        }
-    }
-}
 
 TEST(FittingThreshold, givesTheMiddleOfTheHandHalfOfTheEffect)
 {

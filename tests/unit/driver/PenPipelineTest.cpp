@@ -206,34 +206,29 @@ TEST_F(PenPipelineTest, aStraightLineKeepsEveryLevel)
 
 TEST_F(PenPipelineTest, everyCurveIsMonotoneFromEndToEnd)
 {
-    for (const double curve : {-1.0, -0.5, -0.01, 0.0, 0.01, 0.5, 1.0}) {
-        settings.curve = curve;
-        EXPECT_EQ(next(pressed(0)).pen.pressure, 0) << curve;
+    for (const int threshold : {0, 50, 99, 100, 101, 150, 200}) {
+        settings.threshold = threshold;
+        EXPECT_EQ(next(pressed(0)).pen.pressure, 0) << threshold;
         std::int32_t last = 0;
         for (std::int32_t level = 1; level <= kTablet.pressureMax; ++level) {
             const std::int32_t pressure = next(pressed(level)).pen.pressure;
-            ASSERT_GE(pressure, std::max(last, 1)) << curve << " at " << level;
+            ASSERT_GE(pressure, std::max(last, 1)) << threshold << " at " << level;
             last = pressure;
         }
-        EXPECT_EQ(last, kVirtual.pressureMax) << curve;
+        EXPECT_EQ(last, kVirtual.pressureMax) << threshold;
     }
 }
 
-TEST_F(PenPipelineTest, theCurveIsTheOneThatThePanelDraws)
+TEST_F(PenPipelineTest, thePressureFollowsTheThreshold)
 {
-    constexpr double kSteps = 1023;
-    for (int threshold = 0; threshold <= 200; threshold += 10) {
-        for (int j = 1; j < 200; ++j) {
-            // The view truncates to its points, five steps high, on both of its axes.
-            const double drawn = 5.0 * QVPressHeight(threshold, j);
-            const double light =
-                kSteps * curvedPressure(5 * (j - 5) / kSteps, (threshold - 100) / 100.0);
-            const double heavy =
-                kSteps * curvedPressure(5 * (j + 6) / kSteps, (threshold - 100) / 100.0);
-            if (j > 5) {
-                EXPECT_GE(drawn, light - 30) << threshold << " at " << j;
-            }
-            EXPECT_LE(drawn, heavy + 30) << threshold << " at " << j;
+    for (const int threshold : {0, 37, 100, 150, 200}) {
+        settings.threshold = threshold;
+        for (std::int32_t level = 1; level <= kTablet.pressureMax; ++level) {
+            const double response =
+                QVPressResponse(static_cast<double>(level) / kTablet.pressureMax, threshold);
+            ASSERT_NEAR(next(pressed(level)).pen.pressure,
+                std::max(1.0, response * kVirtual.pressureMax), 0.5 + 1e-9)
+                << threshold << " at " << level;
         }
     }
 }
@@ -448,7 +443,7 @@ TEST_F(PenPipelineTest, whateverTheFramesThePenStaysInItsRange)
         if (oneIn(100)) {
             settings.isTurned = oneIn(2);
             settings.isCalibrating = oneIn(4);
-            settings.curve = any(-100, 100) / 100.0;
+            settings.threshold = any(0, 200);
             settings.area = {static_cast<double>(any(0, 9000)), static_cast<double>(any(0, 4000)),
                 static_cast<double>(any(9001, 20000)), static_cast<double>(any(4001, 10000))};
             settings.target.left = any(0, 50) / 100.0;

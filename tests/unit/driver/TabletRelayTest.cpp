@@ -430,11 +430,11 @@ TEST_F(TabletRelayTest, unpluggingInAStrokeReleasesEverything)
 TEST_F(TabletRelayTest, settingsAreTakenAsAWholeBetweenFrames)
 {
     // The area is as large as the curve says, so that a mixture of two versions would show.
-    settings.curve = 0;
+    settings.threshold = kQVStraightThreshold;
     settings.area.right *= 2;
     start();
     TabletSettings other = settings;
-    other.curve = 1;
+    other.threshold = kQVHighestThreshold;
     other.area = settings.range;
     std::atomic<bool> isEnough{false};
     std::thread storm([&] {
