@@ -3,8 +3,13 @@
 #pragma once
 
 #include "AppleEvents.h"
+#include "tagQVTabletInfo.h"
+
+#include <QByteArray>
 
 #include <cstdint>
+#include <cstring>
+#include <optional>
 
 /**
  * @file
@@ -25,6 +30,17 @@ inline constexpr platform::FourCharCode kQVConfigProperty = platform::fourCharCo
 /** The settings event, and its parameter: the record's bytes, labelled as text. */
 inline constexpr platform::AEEventID kQVSettingsEvent = platform::fourCharCode("WSnd");
 inline constexpr platform::AEKeyword kQVSettingsData = platform::fourCharCode("data");
+
+/** The record in these bytes; nothing if they are not kQVRecordSize. */
+[[nodiscard]] inline std::optional<tagQVTabletInfo> QVRecordIn(const QByteArray& bytes)
+{
+    if (bytes.size() != kQVRecordSize) {
+        return std::nullopt;
+    }
+    tagQVTabletInfo record{};
+    std::memcpy(&record, bytes.constData(), sizeof record);
+    return record;
+}
 
 /** The type of a pen report. */
 inline constexpr platform::DescType kQVPenReportType = platform::fourCharCode("rprt");

@@ -6,6 +6,7 @@
 #include "LivingBus.h"
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
+#include "QVDriverProtocol.h"
 #include "QVEntryText.h"
 #include "QVProfileImport.h"
 #include "rzkApplication.h"
@@ -18,7 +19,6 @@
 #include <QFile>
 
 #include <chrono>
-#include <cstring>
 #include <utility>
 #include <vector>
 
@@ -121,7 +121,7 @@ void QVPaneProfiles::part()
     // Calls must not be left in a connection that is closed.
     qDeleteAll(findChildren<QDBusPendingCallWatcher*>(QString(), Qt::FindDirectChildrenOnly));
     mPending = 0;
-    mTaken.clear();
+    mTaken.reset();
     if (mObject && mTellSoon.isActive()) {
         mTellSoon.stop();
         mObject->tellChanged();
@@ -236,8 +236,8 @@ void QVPaneProfiles::sendEdits()
 
 void QVPaneProfiles::takeSettings(const QByteArray& record)
 {
-    if (record.size() == kQVRecordSize) {
-        mTaken = record;
+    if (const auto others = QVRecordIn(record)) {
+        mTaken = others;
         merge();
     }
 }
@@ -246,12 +246,10 @@ void QVPaneProfiles::takeSettings(const QByteArray& record)
 void QVPaneProfiles::merge()
 {
     // Until the edits are answered, the owner's record may lack them.
-    if (mTaken.isEmpty() || mPending > 0 || mPanel.isCalibrating() || !mPanel.hasDevice()) {
+    if (!mTaken || mPending > 0 || mPanel.isCalibrating() || !mPanel.hasDevice()) {
         return;
     }
-    tagQVTabletInfo others{};
-    std::memcpy(&others, mTaken.constData(), sizeof others);
-    mTaken.clear();
+    const tagQVTabletInfo others = *std::exchange(mTaken, std::nullopt);
     if (QVProductID(others) != QVProductID(qvTabletInfo)) {
         return;
     }

@@ -5,6 +5,7 @@
 #include "PreferencePane.h"
 #include "QVPanelObject.h"
 #include "QVProfileSwitch.h"
+#include "tagQVTabletInfo.h"
 
 #include <QDBusConnection>
 #include <QFileSystemWatcher>
@@ -43,7 +44,7 @@ public:
 
     /** The panel is shown, with the tablet's settings loaded. */
     void enter();
-    /** It is shown no more, and its settings are saved. */
+    /** The panel is hidden, and its settings are saved. */
     void leave();
     /** The record may have been edited, or a calibration has begun or ended. */
     void noteEdit();
@@ -96,7 +97,7 @@ private:
     std::unique_ptr<QVPanelObject> mObject; ///< null without a bus, and while the panel is hidden
     tagQVTabletInfo mShared{}; ///< the record as far as the owner has it or has been sent it
     QString mProfile; ///< the current one, as last shown
-    QByteArray mTaken; ///< the owner's record, to be taken over; empty if there is none
+    std::optional<tagQVTabletInfo> mTaken; ///< the owner's record, to be taken over
     int mPending = 0; ///< calls with edits that have not been answered
     bool mIsCalibrationTold = false; ///< the owner knows that this panel calibrates
 };

@@ -36,7 +36,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
-#include <cstring>
 
 using platform::Error;
 using platform::Result;
@@ -76,12 +75,10 @@ Result<tagQVTabletInfo> lastRecord()
         return Error{QStringLiteral("the driver does not report its settings: %1")
                          .arg(reply.error().message())};
     }
-    if (reply.value().size() != kQVRecordSize) {
-        return Error{QStringLiteral("the driver has not received any settings yet")};
+    if (const auto record = QVRecordIn(reply.value())) {
+        return *record;
     }
-    tagQVTabletInfo record{};
-    std::memcpy(&record, reply.value().constData(), sizeof record);
-    return record;
+    return Error{QStringLiteral("the driver has not received any settings yet")};
 }
 
 /** The path for a file operand; - is standard input. */
@@ -224,7 +221,7 @@ int runTablet(const Arguments& arguments)
     const bool isList = what == QLatin1String("list");
     const bool isUse = what == QLatin1String("use");
     if (!isList && !isUse && what != QLatin1String("notices")) {
-        return usageError(QStringLiteral("a tablet cannot '%1'").arg(what));
+        return usageError(QStringLiteral("there is no command 'tablet %1'").arg(what));
     }
     if (arguments.operands.size() != (isList ? 1 : 2)) {
         return usageError(isList ? QStringLiteral("extra operand '%1'").arg(arguments.operands[1])
@@ -272,7 +269,8 @@ int runTablet(const Arguments& arguments)
 int runSim(const Arguments& arguments)
 {
     if (arguments.operands[0] != QLatin1String("tap")) {
-        return usageError(QStringLiteral("the pen cannot '%1'").arg(arguments.operands[0]));
+        return usageError(
+            QStringLiteral("there is no command 'sim %1'").arg(arguments.operands[0]));
     }
     QDBusMessage call = simulatorCall("Tap");
     const QStringList point = arguments.operands.mid(1);

@@ -146,7 +146,7 @@ Result<> Driver::attachTablet(const QVTabletModel& model, std::uint16_t vendorID
     if (!installed) {
         return installed;
     }
-    const std::optional<tagQVTabletInfo> last = recordIn(mState.record);
+    const std::optional<tagQVTabletInfo> last = QVRecordIn(mState.record);
     if (last && QVProductID(*last) == model.productID) {
         mSettings = *last;
     } else {
@@ -408,7 +408,7 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
     ++mState.pushes;
     say(QStringLiteral("push %1 from %2: %3")
             .arg(mState.pushes)
-            .arg(senderOf(event), changes(recordIn(mState.record), *record)));
+            .arg(senderOf(event), changes(QVRecordIn(mState.record), *record)));
     mState.record = {reinterpret_cast<const char*>(&*record), kQVRecordSize};
     // A panel may still show another tablet, whose area and keys would make no sense on this one.
     const bool isAboutTablet = mIsSimulation || QVProductID(*record) == mAttached;

@@ -4,6 +4,7 @@
 
 #include "FileSaving.h"
 #include "HomeFolder.h"
+#include "tagQVTabletInfo.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +15,6 @@
 
 #include <cmath>
 #include <cstddef>
-#include <cstring>
 #include <limits>
 
 namespace {
@@ -114,14 +114,4 @@ QString modelKey(std::uint16_t vendorID, std::uint16_t productID)
     return QStringLiteral("%1:%2")
         .arg(vendorID, 4, 16, QLatin1Char('0'))
         .arg(productID, 4, 16, QLatin1Char('0'));
-}
-
-std::optional<tagQVTabletInfo> recordIn(const QByteArray& bytes)
-{
-    if (bytes.size() != kQVRecordSize) {
-        return std::nullopt;
-    }
-    tagQVTabletInfo record{};
-    std::memcpy(&record, bytes.constData(), sizeof record);
-    return record;
 }

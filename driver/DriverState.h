@@ -4,7 +4,6 @@
 
 #include "QVTabletModels.h"
 #include "Result.h"
-#include "tagQVTabletInfo.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -41,6 +40,3 @@ struct DriverState {
 
 /** What a model is remembered by: vendor and product, in hexadecimal, such as "6f3d:0042". */
 [[nodiscard]] QString modelKey(std::uint16_t vendorID, std::uint16_t productID);
-
-/** Copies a record from its bytes; nothing if they are not kQVRecordSize. */
-[[nodiscard]] std::optional<tagQVTabletInfo> recordIn(const QByteArray& bytes);

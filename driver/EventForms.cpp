@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "EventForms.h"
 
-#include "DriverState.h"
 #include "QVDriverProtocol.h"
 
 #include <span>
@@ -101,7 +100,7 @@ Result<tagQVTabletInfo> pushedRecord(const AppleEvent& event)
         return Error{QStringLiteral("'data' is of type %1, not 'utf8'")
                          .arg(QLatin1String(quoted(entry[0].desc.type)))};
     }
-    const std::optional<tagQVTabletInfo> record = recordIn(*bytes);
+    const std::optional<tagQVTabletInfo> record = QVRecordIn(*bytes);
     if (!record) {
         return Error{QStringLiteral("the record has %1 bytes, not %2")
                          .arg(bytes->size())

@@ -3,6 +3,7 @@
 #include "TabletSimulator.h"
 
 #include "QVConfigEntry.h"
+#include "QVDriverProtocol.h"
 #include "QVTabletModels.h"
 
 #include <QDBusMetaType>
@@ -37,7 +38,7 @@ void TabletSimulator::answer(const platform::Result<>& result)
 QVariantMap TabletSimulator::LastRecordDecoded() const
 {
     QVariantMap entries;
-    if (const auto record = recordIn(mDriver.lastRecord())) {
+    if (const auto record = QVRecordIn(mDriver.lastRecord())) {
         for (const QVEntry& entry : kQVEntries) {
             entries.insert(QString::fromStdString(QVEntryPath(entry)),
                 entry.type == QVFieldType::String

@@ -13,7 +13,7 @@ using ModelNames = QMap<ushort, QString>;
 
 /**
  * Controls the simulated tablet over D-Bus, for people and tests. All public members are exported,
- * as org.quorvia.TabletSimulator1; of a driver with real tablets, only those that just tell
+ * as org.quorvia.TabletSimulator1; of a driver with real tablets, only those that just report
  * something, which are marked as scriptable.
  */
 class TabletSimulator final : public QObject, protected QDBusContext {

@@ -4,6 +4,7 @@
 
 #include "ActionText.h"
 #include "Driver.h"
+#include "QVDriverProtocol.h"
 #include "QVTabletModels.h"
 #include "TabletSurface.h"
 
@@ -217,7 +218,7 @@ const QVTabletModel* TabletWindow::model() const
 
 std::optional<tagQVTabletInfo> TabletWindow::settings() const
 {
-    std::optional<tagQVTabletInfo> settings = recordIn(mDriver.lastRecord());
+    std::optional<tagQVTabletInfo> settings = QVRecordIn(mDriver.lastRecord());
     return settings && QVProductID(*settings) == mDriver.attached() ? settings : std::nullopt;
 }
 

@@ -54,7 +54,7 @@ private:
     /** Adds a button that shows its action in the settings when it is pressed. */
     QToolButton& addButton(QLayout& layout, const QString& text, const QString& name,
         std::function<QString(const tagQVTabletInfoKey& keys)> action);
-    /** Has the driver tell when the button is pressed and released. */
+    /** Has the driver report when the button is pressed and released. */
     void reportButton(const QToolButton& button, std::size_t slot);
     const QVTabletModel* model() const;
     /**

@@ -54,7 +54,7 @@ class Ctl(session.Session):
                            (["status", "x"], "extra operand 'x'"),
                            (["what", "x"], "there is no command 'what'"),
                            (["usb-mode", "slow"], "there is no report mode 'slow'"),
-                           (["sim", "draw", "1", "1"], "the pen cannot 'draw'"),
+                           (["sim", "draw", "1", "1"], "there is no command 'sim draw'"),
                            ([], "a command is missing")):
             with self.subTest(words):
                 self.assertTrue(self.ctl(*words).stderr.startswith(f"qvtbltctl: {why}\n"))
