@@ -35,7 +35,7 @@ public:
     void QVShowWindow(QVKeyComboBox* comboBox);
 
     /**
-     * Stores the combination in the record, tells the box by QVKeyComboBox::kStored, and ends the
+     * Stores the combination in the record, informs the box by QVKeyComboBox::kStored, and ends the
      * dialog; the box's item then shows the dialog's own text. Without a key, stores nothing.
      */
     void SaveKeyData();

@@ -53,16 +53,16 @@ public:
 
     /** Whether this has the name. */
     bool isOwner() const { return mRole == Role::Owner; }
-    /** Whether somebody else has it. Neither holds before the bus has answered. */
+    /** Whether another process has it. Neither is true before the bus has answered. */
     bool isSecond() const { return mRole == Role::Second; }
 
-    /** Sets the function to call when this has the name from now on, or somebody else has. */
+    /** Sets the function to call when this gets the name, or another process does. */
     void setRoleHandler(std::function<void()> handler) { mRoleHandler = std::move(handler); }
 
     /** Sets the function to call when another program has saved the settings. */
     void setSavedHandler(std::function<void()> handler) { mSavedHandler = std::move(handler); }
 
-    /** Sets the function to call when the owner, which is not this, tells of another record. */
+    /** Sets the function to call when the owner, another process, has changed the record. */
     void setSettingsHandler(std::function<void(const QByteArray& record)> handler)
     {
         mSettingsHandler = std::move(handler);

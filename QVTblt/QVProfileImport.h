@@ -13,12 +13,12 @@
 #include <vector>
 
 /**
- * A profile from somebody else, made fit for a tablet, and what it would do. Nothing in it starts
- * an application until QVAllowStart() has been called.
+ * A profile from somebody else, adapted to a tablet, and what it would change. Its buttons start no
+ * application before QVAllowStart() is called.
  */
 struct QVProfileImport {
     QVProfile profile; ///< with the tablet's product; keys that start applications have no action
-    QStringList changes; ///< a line for each thing that it sets otherwise than the record
+    QStringList changes; ///< a line for each entry that differs from the record
     QStringList leftOut; ///< what does not fit the tablet, or is no valid setting
 
     /** A button that would start an application. */

@@ -44,13 +44,13 @@ struct QVSelfCheckFacts {
     std::vector<QVConnectedTablet> tablets;
     bool mayMakeDevices = false; ///< /dev/uinput may be opened
     bool hasPenRule = false; ///< 70-tdsg-driver-access.rules is installed
-    bool hasUsbRule = false; ///< 60-quorvia-tablet.rules is
-    QStringList holders; ///< names of the user's programs, but the driver, that have a tablet open
+    bool hasUsbRule = false; ///< 60-quorvia-tablet.rules is installed
+    QStringList holders; ///< the user's programs that have a tablet open, except the driver
 
     enum class File : std::uint8_t { Missing, Unusable, NotWritable, NoRoom, Good };
     File file = File::Missing;
 
-    std::optional<bool> isLastPushTaken; ///< nothing if there was none
+    std::optional<bool> isLastPushTaken; ///< by the driver; nothing if there was no push
 
     enum class Module : std::uint8_t { Missing, OtherQt, Fits };
     Module module = Module::Missing;

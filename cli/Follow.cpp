@@ -43,7 +43,7 @@ constexpr QLatin1String kFollowerService("org.quorvia.TabletFollower");
 
 /** So that a window that is in front only for a moment does not change the profile. */
 constexpr std::chrono::milliseconds kRestOfWindows{150};
-/** A driver that is busy may not answer in time; without one, its arrival tells. */
+/** A driver that is busy may not answer in time; without one, its start is noticed. */
 constexpr std::chrono::milliseconds kFirstPause{1000};
 constexpr int kMostTries = 6;
 constexpr int kAreaTime = 3000; ///< milliseconds
@@ -223,7 +223,7 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     QString mWhy;
 };
 
-/** What tells the window in front on this desktop. */
+/** Creates what reports the window in front on this desktop. */
 Result<std::unique_ptr<FrontWindow>> makeFrontWindow(const QDBusConnection& bus)
 {
     if (KWinFront::isOn(bus)) {
@@ -265,7 +265,7 @@ int runFollow(const Arguments& /*none*/)
         kFollowerService, QDBusConnectionInterface::DontQueueService);
     if (asked.value() != QDBusConnectionInterface::ServiceRegistered) {
         return fail(asked.isValid()
-                ? QStringLiteral("another process follows the application in front already")
+                ? QStringLiteral("another process already follows the application in front")
                 : asked.error().message());
     }
     Follower follower(bus, **front);

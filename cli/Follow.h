@@ -10,15 +10,17 @@
 #include <optional>
 
 /**
- * Uses the profile for the application in front, until a signal ends it. @return kExitBad if that
- * cannot be known here, or if another process does so already
+ * Uses the profile for the application in front, until a signal ends it.
+ *
+ * @return kExitBad if this desktop does not report the application, or if another process already
+ * follows it
  */
 int runFollow(const Arguments& arguments);
 
 /**
  * Prints the mapped area for the display with a number, 0 for all of them: its left and upper edge,
- * width and height. For runFollow(), which has no connection to the window system itself, since it
- * would end with it.
+ * width and height. For runFollow(), which does not connect to the window system itself, since the
+ * loss of that connection would end it.
  */
 int runMappedArea(const Arguments& arguments);
 

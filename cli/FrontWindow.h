@@ -20,7 +20,7 @@ class FrontWindow : public QObject {
     Q_OBJECT
 
 public:
-    /** Has changed() tell of what comes to the front from now on. */
+    /** Reports what is in front, now and after each change, with changed(). */
     virtual void start() { }
 
     /** The application in front; nothing if there is none, or only a part of the desktop. */

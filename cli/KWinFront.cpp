@@ -204,7 +204,7 @@ void KWinFront::check()
 void KWinFront::tryAgain(const QString& why)
 {
     if (++mTries == kTriesToTell) {
-        std::fprintf(stderr, "qvtbltctl: KWin does not tell which window is in front: %s\n",
+        std::fprintf(stderr, "qvtbltctl: KWin does not report which window is in front: %s\n",
             qUtf8Printable(why));
     }
     mPause.start(std::min(kFirstScriptPause * (1 << std::min(mTries, 6)), kLongestScriptPause));

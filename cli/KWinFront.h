@@ -28,16 +28,16 @@ public:
     explicit KWinFront(QDBusConnection bus);
     ~KWinFront() override;
 
-    /** Puts the script into KWin. */
+    /** Loads the script into KWin. */
     void start() override;
 
     std::optional<FrontApplication> application() override { return mApplication; }
 
-    // For the script, and nobody else.
+    // For the script alone.
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
-    /** It runs. */
+    /** The script runs. */
     Q_SCRIPTABLE void Started();
-    /** A window is in front. Texts alone, since scripts have only one kind of number. */
+    /** A window has come to the front. All are strings, since scripts have one type of number. */
     Q_SCRIPTABLE void Activated(const QString& desktopEntry, const QString& windowClass,
         const QString& windowName, const QString& processID);
 

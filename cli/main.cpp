@@ -30,28 +30,28 @@ Commands:
   set ENTRY VALUE     change a setting, for example 'set Pen/PressureThreshold 120':
                       send it to the driver and save the tablet's file
   profile list [--json]
-                      print the tablet's profiles, each with the applications that it
-                      is for; * marks the current one
+                      print the tablet's profiles and the applications that use them;
+                      * marks the current one
   profile use NAME    use the settings of a profile
   profile next        use the next profile
-  profile save NAME   keep the current settings as a profile
+  profile save NAME   save the current settings as a profile
   profile delete NAME
   profile rename NAME NEWNAME
                       delete a profile, or give it another name
   profile import FILE
-                      import a profile, and print what it would change; keys
-                      that would start applications do nothing
+                      import a profile, and print what it would change; buttons
+                      that would start applications get no action
   profile export NAME FILE
-                      write a profile into a new file, for others
-  follow              use the profile for the application in front, until it is ended
+                      write a profile to a new file, for others
+  follow              use the profile for the application in front, until it is stopped
   usb-mode fast|normal
                       set the report speed of the tablet over USB
   tablet list [--json]
                       print the tablets that are plugged in
-  tablet use ID       use a tablet of that list, also when it is plugged in again
+  tablet use ID       use a tablet of that list, now and when it is plugged in again
   tablet notices on|off
-                      show on the screen when a key pauses the pen or moves it to
-                      another display, or do not
+                      whether to show a notice when a key pauses the pen or moves it
+                      to another display
   sim tap X Y         touch a point with the simulated pen, in tablet units,
                       while the panel calibrates
 

@@ -29,7 +29,7 @@ public:
     /**
      * Installs the handlers of the panel's events.
      *
-     * @param bus carries the events, and tells when panels leave it
+     * @param bus carries the events, and reports when panels leave it
      */
     Driver(platform::AppleEvents& events, QDBusConnection bus);
 
@@ -167,7 +167,7 @@ private:
      * gets the reports.
      */
     std::vector<QByteArray> mCalibrating;
-    QDBusServiceWatcher mPanels; ///< tells when one of these panels leaves the bus
+    QDBusServiceWatcher mPanels; ///< reports when one of these panels leaves the bus
     PenReports mReports;
     ReportClock mClock;
     QElapsedTimer mSinceStart;

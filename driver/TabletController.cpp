@@ -346,7 +346,7 @@ void TabletController::obey(const RelayNote& note)
         Q_EMIT alive();
         break;
     case RelayNote::Kind::Gone:
-        // udev tells as well, and perhaps that it is here again.
+        // udev reports this, too, and perhaps that it has come back.
         close();
         mIsGone = true;
         mDriver.detach();

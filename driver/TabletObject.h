@@ -48,7 +48,7 @@ public:
      */
     TabletObject(QDBusConnection bus, List list, User use, Noticer notices);
 
-    /** Shows these facts from now on, and tells what has changed. */
+    /** Shows these facts from now on, and announces those that have changed. */
     void show(const TabletFacts& facts);
 
     QString name() const { return mFacts.name; }
@@ -62,7 +62,7 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     QVTabletList Tablets() const { return mList(); }
     /** Uses a tablet from now on; an error if none with that ID is plugged in. */
     void Use(const QString& id);
-    /** Whether a short notice on the screen tells when a button changes where the pen is. */
+    /** Whether a short notice on the screen says so when a button changes where the pen is. */
     void ShowNotices(bool areShown) { mNotices(areShown); }
 
 Q_SIGNALS:

@@ -13,7 +13,7 @@
 
 namespace platform {
 
-/** What one display says of itself. */
+/** The sign on one display. */
 struct DisplaySign {
     DisplayID display = 0;
     QString number; ///< shown large
@@ -22,8 +22,8 @@ struct DisplaySign {
 };
 
 /**
- * Signs on the displays, in windows that let the pointer and the pen through. They go after three
- * seconds, with Escape, and when the displays change.
+ * Signs on the displays, in windows that let the pointer and the pen through. They disappear after
+ * three seconds, with Escape, and when the displays change.
  */
 class DisplaySigns final : public QObject {
     Q_OBJECT

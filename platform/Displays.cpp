@@ -138,7 +138,7 @@ public:
         if (found == nullptr) {
             return {};
         }
-        // A compositor that scales by a fraction tells Qt the next whole number.
+        // A compositor that scales by a fraction reports the next whole number to Qt.
         if (std::abs(found->devicePixelRatio() / unitsPerPoint(*found) - 1) < 0.01) {
             const Rect place = screenBounds(*found);
             return QSizeF(place.width, place.height).toSize();
@@ -154,7 +154,7 @@ public:
     }
 
 protected:
-    /** Who begins to listen during a change needs to be told of it, too. */
+    /** Announces a change that has begun to those who connect during it, too. */
     void connectNotify(const QMetaMethod& signal) override
     {
         Displays::connectNotify(signal);
@@ -188,7 +188,7 @@ private:
     void watch(QScreen* screen) const
     {
 #if QT_VERSION < QT_VERSION_CHECK(6, 0, 0)
-        // Without it, Qt 5 tells of no change, and keeps the first orientation.
+        // Without it, Qt 5 reports no change, and keeps the first orientation.
         screen->setOrientationUpdateMask(Qt::LandscapeOrientation | Qt::PortraitOrientation
             | Qt::InvertedLandscapeOrientation | Qt::InvertedPortraitOrientation);
 #endif

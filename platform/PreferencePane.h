@@ -39,11 +39,11 @@ public:
         QString path;
     };
 
-    /** What is in a file from somebody else, and what it would do. */
+    /** The contents of a file from somebody else, and what they would change. */
     struct Import {
         QString error; ///< why the file cannot be used; empty if it can
         QString name; ///< what the profile will be called
-        QStringList changes; ///< what it sets otherwise than it is now
+        QStringList changes; ///< what it would change
         QStringList leftOut; ///< what does not fit the device
         QStringList applications; ///< what it is for
         std::vector<Start> starts; ///< have no action unless allowed

@@ -66,6 +66,6 @@ private:
 
     PadDescription mDescription;
     PadFrame mFrame{};
-    bool mSaysTouch = false; ///< ABS_MISC tells whether a finger is on a strip
+    bool mSaysTouch = false; ///< ABS_MISC reports whether a finger is on a strip
     bool mIsTouched = false; ///< what it says
 };

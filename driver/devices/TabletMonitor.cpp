@@ -50,7 +50,7 @@ QString attributeOf(udev_device* node, const char* name)
 /**
  * What the nodes of one physical device have in common. The interfaces of a USB device are inputs
  * of their own. Bluetooth devices share the place and the USB device of their adapter, but have an
- * address; others tell their place.
+ * address; others report their place.
  */
 QString physicalDevice(udev_device* node)
 {

@@ -69,7 +69,7 @@ Result<TabletNodes> TabletNodes::open(const Tablet& tablet)
     const std::optional<PenDescription> described =
         pen == nullptr ? std::nullopt : describePen(*pen);
     if (!described) {
-        return Error{QStringLiteral("%1 does not tell the pen's position").arg(tablet.name)};
+        return Error{QStringLiteral("%1 does not report the position of the pen").arg(tablet.name)};
     }
     nodes.pen = *described;
     if (const NodeState pad = readNode(nodes.padFile->get())) {

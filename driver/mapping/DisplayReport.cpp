@@ -29,7 +29,7 @@ bool isUpright(const QScreen& screen)
     if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
         return false;
     }
-    // For a panel that does not tell its size, Qt makes one up from the rotated picture.
+    // For a panel that does not report its size, Qt makes one up from the rotated picture.
     constexpr double kMadeUp = 25.4 / 100; // millimetres per point
     const QSizeF panel = screen.physicalSize();
     return panel.height() > panel.width() && panel != kMadeUp * QSizeF(screen.geometry().size());

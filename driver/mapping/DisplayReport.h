@@ -5,9 +5,9 @@
 #include <Qt>
 
 /**
- * Has an application object with a connection to the window system, and prints a line of
- * Mapping.h for the displays, now and after each change, until standard input is closed. Runs in a
- * process of its own, see DisplayWatcher.
+ * Connects to the window system, and prints the displays in the form of Mapping.h, one line now
+ * and one after each change, until standard input is closed. Runs in a process of its own, see
+ * DisplayWatcher.
  *
  * @return the exit code of the process
  */

@@ -228,7 +228,7 @@ void Launcher::launch(
                              .arg(QCoreApplication::applicationPid())
                              .arg(++mCount);
     mStarts[unit] = {path, failed};
-    // It tells about jobs only those who ask for it.
+    // It reports jobs only to those who ask for it.
     QDBusMessage subscribe = QDBusMessage::createMethodCall(
         kSystemd, kSystemdPath, kSystemdManager, QStringLiteral("Subscribe"));
     subscribe.setAutoStartService(false);

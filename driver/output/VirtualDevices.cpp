@@ -22,7 +22,7 @@ constexpr int kPenProduct = 0x0001;
 constexpr int kKeyboardProduct = 0x0002;
 constexpr int kPointerProduct = 0x0003;
 
-/** A tablet that does not tell its size is taken for one of this many units per millimetre. */
+/** A tablet that does not report its size is treated as one with this many units per millimetre. */
 constexpr std::int32_t kUsualResolution = 100;
 
 /** The virtual pen claims a size that is this part of the tablet's. */
@@ -124,7 +124,7 @@ Result<VirtualDevice> make(const NodeState& description)
         description.get(), LIBEVDEV_UINPUT_OPEN_MANAGED, &device);
     if (error != 0) {
         return Error{
-            QStringLiteral("No virtual device can be made with /dev/uinput: %1. Install the "
+            QStringLiteral("Cannot create a virtual device with /dev/uinput: %1. Install the "
                            "package tdsg-driver-access.")
                 .arg(qt_error_string(-error))};
     }

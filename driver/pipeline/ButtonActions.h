@@ -43,10 +43,10 @@ private:
     void release(std::size_t slot, Commands& commands);
 
     std::array<bool, kQVSlotCount> mIsDown{};
-    std::array<ButtonAssignment, kQVSlotCount>
-        mHeld{}; ///< what the slots hold, while they are down
+    /** The assignments of the slots that are down, as they were when these were pressed. */
+    std::array<ButtonAssignment, kQVSlotCount> mHeld{};
     std::array<std::uint8_t, KEY_CNT> mKeyHolders{}; ///< how many slots hold a key
-    std::array<std::uint8_t, 4> mMouseHolders{}; ///< likewise, of the keys of the tablet
+    std::array<std::uint8_t, 4> mMouseHolders{}; ///< how many of the tablet's keys hold a button
     int mFine = 0;
     bool mIsPaused = false;
 };

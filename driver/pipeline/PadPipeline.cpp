@@ -65,6 +65,6 @@ std::int64_t PadPipeline::moved(std::size_t strip, const std::optional<std::int3
     if (std::abs(way) * 2 > shape.length) {
         way += way > 0 ? -shape.length : shape.length; // the shorter way around
     }
-    // Some rings do not tell that the finger has left, but no finger is that fast.
+    // Some rings do not report that the finger has left, but no finger is that fast.
     return std::abs(way) * kLeastStepsOfTurn > shape.length ? 0 : way;
 }

@@ -22,7 +22,7 @@ constexpr QLatin1String kFollowUnit("qvtblt-follow.service");
 constexpr int kSystemdAnswerTime = 10000; ///< milliseconds
 constexpr std::chrono::milliseconds kBusTime(100);
 
-/** Whether nobody has got the call. */
+/** Whether the call has reached nobody. */
 bool isUnheard(const QDBusMessage& reply)
 {
     switch (QDBusError(reply).type()) {

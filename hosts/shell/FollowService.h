@@ -38,14 +38,14 @@ public:
     std::optional<bool> isOn() const { return mIsOn; }
 
     /**
-     * For the user: why it cannot be changed, or, where it is on, that it has ended. Empty if it
-     * works, and while that is unknown.
+     * For the user: why this cannot be switched, or that it is on but has ended. Empty if it works,
+     * and before systemd has answered.
      */
     QString fault() const { return mFault; }
 
 Q_SIGNALS:
     void changed();
-    /** set() has failed, or has started what has ended again; the text is for the user. */
+    /** set() has failed, or what it started has ended; the text is for the user. */
     void failed(const QString& text);
 
 private Q_SLOTS:

@@ -185,7 +185,7 @@ class OnKWin(Following):
 
     def test_only_one_follows(self):
         self.prepare()
-        self.refuse("another process follows the application in front already")
+        self.refuse("another process already follows the application in front")
         self.activate("org.test.two")
         self.wait_for_curve(20)
 
