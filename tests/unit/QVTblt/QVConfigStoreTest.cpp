@@ -6,6 +6,7 @@
 #include "FakeDisplays.h"
 #include "Notifications.h"
 #include "QVConfigEntry.h"
+#include "QVEntryText.h"
 #include "SampleConfig.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
@@ -549,6 +550,33 @@ TEST_F(QVConfigStoreFile, tellsOfEachFieldThatTheUserChoosesAndOfNoOther)
         EXPECT_FALSE(mStore.hasUnsavedFields());
     }
     EXPECT_EQ(chosen, 2 + 7 + 3 + 18 * 4);
+}
+
+TEST_F(QVConfigStoreFile, savesASingleEntryAndNothingElse)
+{
+    read();
+    const std::int64_t threshold = numberInFile("Pen", "PressureThreshold");
+    qvTabletInfo.Pen.PressureThreshold = static_cast<std::int16_t>(threshold + 1);
+    qvTabletInfo.Pen.Speed = 77;
+    EXPECT_TRUE(mStore.saveEntry(*findEntry(QStringLiteral("Pen/Speed"))));
+    EXPECT_EQ(numberInFile("Pen", "Speed"), 77);
+    EXPECT_EQ(numberInFile("Pen", "PressureThreshold"), threshold);
+    EXPECT_TRUE(mStore.hasUnsavedFields()) << "the threshold";
+}
+
+TEST_F(QVConfigStoreFile, savesNoEntryWithoutItsDictionaryOrAFile)
+{
+    read();
+    const QVEntry& entry = *findEntry(QStringLiteral("Pen/Speed"));
+    QByteArray withoutPen = sampleConfig();
+    withoutPen.replace("<key>Pen</key>", "<key>Pencil</key>");
+    writeFile(mPath, withoutPen);
+    EXPECT_EQ(
+        errorText(mStore.saveEntry(entry)), "the tablet's file has no dictionary for Pen/Speed");
+    EXPECT_EQ(readFile(mPath), withoutPen);
+    EXPECT_TRUE(QFile::remove(mPath));
+    EXPECT_FALSE(mStore.saveEntry(entry));
+    EXPECT_FALSE(QFile::exists(mPath));
 }
 
 TEST_F(QVConfigStoreFile, holdsUnsavedFieldsAsLongAsTheFileCannotBeSaved)

@@ -3,13 +3,13 @@
 
 // Live pressure: the dot on the curve, and fitting the curve to a hand.
 
-#include "QVPressCurve.h"
 #include "QVPressFit.h"
 
 #include "Accessible.h"
 #include "PaneTest.h"
 #include "PenInput.h"
 #include "QVDrawView.h"
+#include "QVPressCurve.h"
 #include "QVPressView.h"
 
 #include <QApplication>

@@ -43,6 +43,14 @@ TEST(QVTabletModels, haveNoMoreKeysAndStripsThanTheRecord)
     }
 }
 
+TEST(QVTabletModels, havePressureOfAWholeNumberOfBits)
+{
+    for (const QVTabletModel& model : kQVTabletModels) {
+        EXPECT_GT(model.pressureMax, 0) << model.name;
+        EXPECT_EQ(model.pressureMax & (model.pressureMax + 1), 0) << model.name;
+    }
+}
+
 TEST(QVTabletModels, ofOneLayoutHaveOneNumberOfKeys)
 {
     const std::map<QVKeyLayout, int> keys{{QVKeyLayout::A, 8}, {QVKeyLayout::B, 0},
