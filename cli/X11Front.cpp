@@ -4,20 +4,14 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdlib>
 #include <cstring>
 #include <memory>
 #include <span>
 #include <xcb/xcb.h>
 
-namespace {
+using platform::XcbOwned;
 
-/** Replies, events and errors are the C library's. */
-struct Free {
-    void operator()(void* memory) const { std::free(memory); } // NOLINT(*-no-malloc)
-};
-template <class Reply>
-using Owned = std::unique_ptr<Reply, Free>;
+namespace {
 
 /** No name is as long; a property may be. In units of four bytes. */
 constexpr std::uint32_t kMostText = 256;
@@ -50,7 +44,7 @@ struct X11Front::Atoms {
                 connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
         });
         std::ranges::transform(cookies, of.begin(), [&](xcb_intern_atom_cookie_t cookie) {
-            const Owned<xcb_intern_atom_reply_t> reply(
+            const XcbOwned<xcb_intern_atom_reply_t> reply(
                 xcb_intern_atom_reply(connection, cookie, nullptr));
             return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
         });
@@ -60,13 +54,13 @@ struct X11Front::Atoms {
 namespace {
 
 /** Reads the beginning of a property; null if the window is gone. */
-Owned<xcb_get_property_reply_t> readProperty(xcb_connection_t* connection, xcb_window_t window,
+XcbOwned<xcb_get_property_reply_t> readProperty(xcb_connection_t* connection, xcb_window_t window,
     xcb_atom_t atom, xcb_atom_t type, std::uint32_t most)
 {
     xcb_generic_error_t* failed = nullptr;
-    Owned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
+    XcbOwned<xcb_get_property_reply_t> reply(xcb_get_property_reply(
         connection, xcb_get_property(connection, 0, window, atom, type, 0, most), &failed));
-    const Owned<xcb_generic_error_t> error(failed);
+    const XcbOwned<xcb_generic_error_t> error(failed);
     return reply;
 }
 
@@ -82,29 +76,15 @@ std::span<const std::uint8_t> bytesIn(const xcb_get_property_reply_t* reply, int
 
 } // namespace
 
-void X11Disconnect::operator()(xcb_connection_t* connection) const
-{
-    xcb_disconnect(connection);
-}
-
 X11Front::X11Front()
 {
-    int screen = 0;
-    mConnection.reset(xcb_connect(nullptr, &screen));
-    if (!isConnected()) {
+    if (!mConnection.isOpen()) {
         return;
     }
-    xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(mConnection.get()));
-    for (; screen > 0 && screens.rem > 1; --screen) {
-        xcb_screen_next(&screens);
-    }
-    mRoot = screens.data->root;
     mAtoms = std::make_unique<Atoms>(mConnection.get());
-    constexpr std::uint32_t kEvents = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    xcb_change_window_attributes(mConnection.get(), mRoot, XCB_CW_EVENT_MASK, &kEvents);
-    xcb_flush(mConnection.get());
-    mNotifier = std::make_unique<QSocketNotifier>(
-        xcb_get_file_descriptor(mConnection.get()), QSocketNotifier::Read);
+    mConnection.selectRootEvents(XCB_EVENT_MASK_PROPERTY_CHANGE);
+    mNotifier =
+        std::make_unique<QSocketNotifier>(mConnection.fileDescriptor(), QSocketNotifier::Read);
     connect(mNotifier.get(), &QSocketNotifier::activated, this, &X11Front::readEvents);
     mSoon.setSingleShot(true);
     connect(&mSoon, &QTimer::timeout, this, &X11Front::readEvents);
@@ -112,16 +92,11 @@ X11Front::X11Front()
 
 X11Front::~X11Front() = default;
 
-bool X11Front::isConnected() const
-{
-    return xcb_connection_has_error(mConnection.get()) == 0;
-}
-
 std::optional<FrontApplication> X11Front::application()
 {
     std::optional<FrontApplication> application;
     const auto atom = [this](Atoms::Name name) { return mAtoms->of[name]; };
-    if (const auto window = number(mRoot, atom(Atoms::ActiveWindow), XCB_ATOM_WINDOW);
+    if (const auto window = number(mConnection.root(), atom(Atoms::ActiveWindow), XCB_ATOM_WINDOW);
         window.value_or(XCB_WINDOW_NONE) != XCB_WINDOW_NONE && !isPartOfDesktop(*window)) {
         QStringList names{QString::fromUtf8(text(*window, atom(Atoms::DesktopFile))),
             QString::fromUtf8(text(*window, atom(Atoms::GtkApplication)))};
@@ -137,19 +112,20 @@ std::optional<FrontApplication> X11Front::application()
 void X11Front::readEvents()
 {
     bool isOther = false;
-    while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(mConnection.get())}) {
+    while (const XcbOwned<xcb_generic_event_t> event{xcb_poll_for_event(mConnection.get())}) {
         constexpr unsigned kSent = 0x80; // by another client
         if ((event->response_type & ~kSent) == XCB_PROPERTY_NOTIFY) {
             xcb_property_notify_event_t change{};
             std::memcpy(&change, event.get(), sizeof change);
             isOther = isOther
-                || (change.window == mRoot && change.atom == mAtoms->of[Atoms::ActiveWindow]);
+                || (change.window == mConnection.root()
+                    && change.atom == mAtoms->of[Atoms::ActiveWindow]);
         }
     }
     if (isOther) {
         Q_EMIT changed();
     }
-    if (!isConnected() && mNotifier->isEnabled()) {
+    if (!mConnection.isOpen() && mNotifier->isEnabled()) {
         mNotifier->setEnabled(false); // it would report the end for ever
         Q_EMIT lost(QStringLiteral("the X server has ended"));
     }

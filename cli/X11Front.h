@@ -3,6 +3,7 @@
 #pragma once
 
 #include "FrontWindow.h"
+#include "X11Connection.h"
 
 #include <QByteArray>
 #include <QSocketNotifier>
@@ -10,13 +11,6 @@
 
 #include <cstdint>
 #include <memory>
-
-struct xcb_connection_t;
-
-/** Closes a connection to an X server. */
-struct X11Disconnect {
-    void operator()(xcb_connection_t* connection) const;
-};
 
 /**
  * The window in front according to the window manager of an X display, which keeps it in the
@@ -32,7 +26,7 @@ public:
     ~X11Front() override;
 
     /** Whether there is a connection. */
-    bool isConnected() const;
+    bool isConnected() const { return mConnection.isOpen(); }
 
     std::optional<FrontApplication> application() override;
 
@@ -45,9 +39,8 @@ private:
     QByteArray text(std::uint32_t window, std::uint32_t atom);
     bool isPartOfDesktop(std::uint32_t window);
 
-    std::unique_ptr<xcb_connection_t, X11Disconnect> mConnection;
+    platform::X11Connection mConnection;
     std::unique_ptr<Atoms> mAtoms;
-    std::uint32_t mRoot = 0;
     std::unique_ptr<QSocketNotifier> mNotifier;
     QTimer mSoon;
 };

@@ -88,10 +88,10 @@ TabletController::TabletController(
         Q_EMIT changed();
     });
     connect(&mDisplays, &DisplayWatcher::changed, this, [this] {
-        if (mDetour && !displayAt(mDisplays.desktop(), mDetour->to)) {
+        if (mDetour && !displayAt(mDisplays.desktop().displays, mDetour->to)) {
             mDetour.reset(); // that display is gone, or elsewhere
         }
-        mKWin.setDesktop(mDisplays.desktop());
+        mKWin.setDesktop(mDisplays.desktop().displays);
         publish();
     });
     connect(&mKWin, &KWinMapping::changed, this, &TabletController::publish);
@@ -362,7 +362,7 @@ void TabletController::obey(const RelayNote& note)
 
 void TabletController::goToNextDisplay()
 {
-    const Desktop& desktop = mDisplays.desktop();
+    const Desktop& desktop = mDisplays.desktop().displays;
     const std::optional<std::size_t> next = displayAfter(desktop, area());
     if (next) {
         mDetour = Detour{settingsArea(), desktop[*next].bounds};

@@ -4,6 +4,7 @@
 
 #include "Displays.h"
 #include "Mapping.h"
+#include "X11Screen.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -15,6 +16,7 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <memory>
 #include <unistd.h>
 
 namespace {
@@ -35,7 +37,7 @@ bool isUpright(const QScreen& screen)
     return panel.height() > panel.width() && panel != kMadeUp * QSizeF(screen.geometry().size());
 }
 
-Desktop desktopNow()
+Desktop displaysNow()
 {
     Desktop desktop;
     const QList<QScreen*> screens = QGuiApplication::screens();
@@ -50,13 +52,22 @@ Desktop desktopNow()
     return desktop;
 }
 
-/** Prints the displays if they are other ones than before. */
+/** Prints the desktop if it is another one than before. */
 class Reporter {
 public:
+    explicit Reporter(const X11Screen* x11)
+        : mX11(x11)
+    {
+    }
+
     void report()
     {
-        const Desktop desktop = desktopNow();
-        if (!desktop.empty() && desktop != mLast) {
+        DesktopReport desktop{displaysNow(), {}};
+        if (desktop.displays.empty()) {
+            return;
+        }
+        desktop.covered = covered(desktop.displays);
+        if (desktop != mLast) {
             mLast = desktop;
             std::fputs(toLine(desktop).constData(), stdout);
             std::fflush(stdout);
@@ -64,7 +75,18 @@ public:
     }
 
 private:
-    Desktop mLast;
+    /** What the whole range of a pen covers. */
+    QRectF covered(const Desktop& displays) const
+    {
+        if (mX11 == nullptr || mX11->size().isEmpty()) {
+            return boundsOf(displays);
+        }
+        // The places of displays, which are in pixels, too, count from the main one.
+        return {-QPointF(QGuiApplication::primaryScreen()->geometry().topLeft()), mX11->size()};
+    }
+
+    const X11Screen* mX11;
+    DesktopReport mLast;
 };
 
 /** Without a display, Qt calls abort(), which would look like a crash. */
@@ -95,7 +117,13 @@ int reportDisplays(int argc, char** argv)
     qInstallMessageHandler(endQuietly);
     QGuiApplication::setAttribute(Qt::AA_DisableSessionManager); // nothing to be restored
     const QGuiApplication application(argc, argv);
-    Reporter reporter;
+    const std::unique_ptr<X11Screen> x11 = QGuiApplication::platformName() == QLatin1String("xcb")
+        ? std::make_unique<X11Screen>()
+        : nullptr;
+    Reporter reporter(x11.get());
+    if (x11) {
+        QObject::connect(x11.get(), &X11Screen::changed, [&] { reporter.report(); });
+    }
     QTimer soon;
     soon.setInterval(kInterval);
     QObject::connect(&soon, &QTimer::timeout, [&] { reporter.report(); });

@@ -5,8 +5,8 @@
 #include <Qt>
 
 /**
- * Connects to the window system, and prints the displays in the form of Mapping.h, one line now
- * and one after each change, until standard input is closed. Runs in a process of its own, see
+ * Connects to the window system, and prints the desktop in the form of Mapping.h, one line now and
+ * one after each change, until standard input is closed. Runs in a process of its own, see
  * DisplayWatcher.
  *
  * @return the exit code of the process

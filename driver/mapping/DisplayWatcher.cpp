@@ -79,7 +79,7 @@ void DisplayWatcher::stop()
         mProcess->waitForFinished();
         mProcess.reset();
     }
-    mDesktop.clear();
+    mDesktop = {};
 }
 
 void DisplayWatcher::begin()
@@ -152,7 +152,7 @@ void DisplayWatcher::launch(const QStringList& variables)
 void DisplayWatcher::read()
 {
     while (mProcess->canReadLine()) {
-        std::optional<Desktop> desktop = desktopFrom(mProcess->readLine(kMaxLine));
+        std::optional<DesktopReport> desktop = reportFrom(mProcess->readLine(kMaxLine));
         if (desktop && *desktop != mDesktop) {
             mDesktop = std::move(*desktop);
             Q_EMIT changed();

@@ -36,7 +36,7 @@ public:
     /** Ends the process; the displays are no longer known. */
     void stop();
 
-    const Desktop& desktop() const { return mDesktop; }
+    const DesktopReport& desktop() const { return mDesktop; }
 
 Q_SIGNALS:
     /** desktop() has changed. */
@@ -57,5 +57,5 @@ private:
     QElapsedTimer mSinceLaunch;
     bool mIsWatching = false;
     bool mHasFailed = false; ///< with the environment of this process
-    Desktop mDesktop;
+    DesktopReport mDesktop;
 };

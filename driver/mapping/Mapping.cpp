@@ -11,6 +11,8 @@
 
 namespace {
 
+constexpr QLatin1String kDisplays("displays");
+constexpr QLatin1String kCovered("covered");
 constexpr QLatin1String kName("name");
 constexpr QLatin1String kX("x");
 constexpr QLatin1String kY("y");
@@ -30,7 +32,7 @@ bool isAbout(const QRectF& area, const QRectF& bounds)
         && isNear(area.width(), bounds.width()) && isNear(area.height(), bounds.height());
 }
 
-std::optional<DesktopDisplay> displayFrom(const QJsonObject& object)
+std::optional<QRectF> boundsFrom(const QJsonObject& object)
 {
     const auto number = [&](QLatin1String key) {
         const double value = object.value(key).toDouble(2 * kMaxPoints);
@@ -40,11 +42,26 @@ std::optional<DesktopDisplay> displayFrom(const QJsonObject& object)
     const auto y = number(kY);
     const auto width = number(kWidth);
     const auto height = number(kHeight);
-    const int turns = object.value(kTurns).toInt(-1);
-    if (!x || !y || !width || *width <= 0 || !height || *height <= 0 || turns < 0 || turns > 3) {
+    if (!x || !y || !width || *width <= 0 || !height || *height <= 0) {
         return std::nullopt;
     }
-    return DesktopDisplay{object.value(kName).toString(), {*x, *y, *width, *height}, turns};
+    return QRectF(*x, *y, *width, *height);
+}
+
+QJsonObject toObject(const QRectF& bounds)
+{
+    return {
+        {kX, bounds.x()}, {kY, bounds.y()}, {kWidth, bounds.width()}, {kHeight, bounds.height()}};
+}
+
+std::optional<DesktopDisplay> displayFrom(const QJsonObject& object)
+{
+    const std::optional<QRectF> bounds = boundsFrom(object);
+    const int turns = object.value(kTurns).toInt(-1);
+    if (!bounds || turns < 0 || turns > 3) {
+        return std::nullopt;
+    }
+    return DesktopDisplay{object.value(kName).toString(), *bounds, turns};
 }
 
 } // namespace
@@ -84,20 +101,25 @@ std::optional<std::size_t> displayAfter(const Desktop& desktop, const QRectF& ar
     return next;
 }
 
-QByteArray toLine(const Desktop& desktop)
+QByteArray toLine(const DesktopReport& report)
 {
     QJsonArray displays;
-    for (const auto& [name, bounds, turns] : desktop) {
-        displays.append(QJsonObject{{kName, name}, {kX, bounds.x()}, {kY, bounds.y()},
-            {kWidth, bounds.width()}, {kHeight, bounds.height()}, {kTurns, turns}});
+    for (const auto& [name, bounds, turns] : report.displays) {
+        QJsonObject display = toObject(bounds);
+        display.insert(kName, name);
+        display.insert(kTurns, turns);
+        displays.append(display);
     }
-    return QJsonDocument(displays).toJson(QJsonDocument::Compact) + '\n';
+    const QJsonObject all{{kDisplays, displays}, {kCovered, toObject(report.covered)}};
+    return QJsonDocument(all).toJson(QJsonDocument::Compact) + '\n';
 }
 
-std::optional<Desktop> desktopFrom(const QByteArray& line)
+std::optional<DesktopReport> reportFrom(const QByteArray& line)
 {
-    const QJsonArray displays = QJsonDocument::fromJson(line).array();
-    if (displays.isEmpty() || displays.size() > kMaxDisplays) {
+    const QJsonObject all = QJsonDocument::fromJson(line).object();
+    const QJsonArray displays = all.value(kDisplays).toArray();
+    const std::optional<QRectF> covered = boundsFrom(all.value(kCovered).toObject());
+    if (displays.isEmpty() || displays.size() > kMaxDisplays || !covered) {
         return std::nullopt;
     }
     Desktop desktop;
@@ -108,19 +130,19 @@ std::optional<Desktop> desktopFrom(const QByteArray& line)
         }
         desktop.push_back(*read);
     }
-    return desktop;
+    return DesktopReport{desktop, *covered};
 }
 
-TabletRect targetOf(const QRectF& area, const Desktop& desktop)
+TabletRect targetOf(const QRectF& area, const DesktopReport& desktop)
 {
     constexpr TabletRect kWholeDesktop{0, 0, 1, 1};
     const auto isOn = [&](const DesktopDisplay& display) {
         return display.bounds.intersects(area);
     };
-    if (area.isEmpty() || std::ranges::none_of(desktop, isOn)) {
+    if (area.isEmpty() || std::ranges::none_of(desktop.displays, isOn)) {
         return kWholeDesktop;
     }
-    const QRectF covered = boundsOf(desktop);
+    const QRectF& covered = desktop.covered;
     // KWin 5 rounds places to whole points before it looks for a window, so that the last half of
     // the last point is off the display, and a pen there is nowhere. The rest is for displays with
     // a fractional scale, whose size it rounds, too.

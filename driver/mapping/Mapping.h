@@ -15,9 +15,9 @@
 /**
  * @file
  * Where the virtual pen points. Every desktop has its whole range cover all displays together,
- * either by itself or because it is told to; which part of that the tablet reaches is computed here
- * and nowhere else, so that nothing is scaled twice. All rectangles are in points from the upper
- * left corner of the main display.
+ * either by itself or because it is told to, on X11 the whole X screen; which part of that the
+ * tablet reaches is computed here and nowhere else, so that nothing is scaled twice. All rectangles
+ * are in points from the upper left corner of the main display.
  */
 
 /** A display, as the panel sees it. */
@@ -44,17 +44,23 @@ std::optional<std::size_t> displayAt(const Desktop& desktop, const QRectF& area)
  */
 std::optional<std::size_t> displayAfter(const Desktop& desktop, const QRectF& area);
 
-/** A line that describes the displays, with its end. */
-QByteArray toLine(const Desktop& desktop);
+/** What a desktop reports. */
+struct DesktopReport {
+    Desktop displays;
+    QRectF covered; ///< by the virtual pen's whole range
 
-/** Reads such a line; nothing if it is no description of at least one display. */
-std::optional<Desktop> desktopFrom(const QByteArray& line);
+    bool operator==(const DesktopReport&) const = default;
+};
+
+/** A line with the report, with its end. */
+QByteArray toLine(const DesktopReport& report);
+
+/** Reads such a line; nothing if it is no report of at least one display. */
+std::optional<DesktopReport> reportFrom(const QByteArray& line);
 
 /**
  * The part of the virtual pen's range that points at an area of the desktop, up to the beginning of
  * its last points, each side from 0 to 1. All of it if the desktop is not known, or if the area is
  * on no display, such as that of a display that is gone.
- *
- * @param desktop what the whole range covers
  */
-TabletRect targetOf(const QRectF& area, const Desktop& desktop);
+TabletRect targetOf(const QRectF& area, const DesktopReport& desktop);

@@ -68,8 +68,9 @@ protected:
         QFile file(path);
         EXPECT_TRUE(file.open(QIODevice::WriteOnly));
         file.write("#!/bin/sh\n"
-                   "say() { printf '[{\"name\":\"%s\",\"x\":0,\"y\":0,\"width\":%s,\"height\":9,"
-                   "\"turns\":0}]\\n' \"$1\" \"$2\"; }\n"
+                   "say() { printf '{\"displays\":[{\"name\":\"%s\",\"x\":0,\"y\":0,\"width\":%s,"
+                   "\"height\":9,\"turns\":0}],\"covered\":{\"x\":0,\"y\":0,\"width\":99,"
+                   "\"height\":9}}\\n' \"$1\" \"$2\"; }\n"
                    "cd "
             + mFolder.path().toUtf8() + "\n" + script);
         file.close();
@@ -83,7 +84,7 @@ protected:
     {
         return QTest::qWaitFor(
             [&] {
-                const Desktop& desktop = mWatcher->desktop();
+                const Desktop& desktop = mWatcher->desktop().displays;
                 return desktop.size() == 1 && desktop[0].name == QLatin1String(name)
                     && desktop[0].bounds.width() == width;
             },
@@ -103,10 +104,10 @@ protected:
 TEST_F(Watcher, followsWhatItIsTold)
 {
     qputenv("DISPLAY", ":7");
-    start("say DP-1 10; say DP-1 20; echo '[]'; echo nonsense; say DP-1 20; say DP-1 30; read end");
+    start("say DP-1 10; say DP-1 20; echo '{}'; echo nonsense; say DP-1 20; say DP-1 30; read end");
     std::vector<double> widths;
     QObject::connect(&*mWatcher, &DisplayWatcher::changed, &*mWatcher,
-        [&] { widths.push_back(mWatcher->desktop().at(0).bounds.width()); });
+        [&] { widths.push_back(mWatcher->desktop().displays.at(0).bounds.width()); });
     EXPECT_TRUE(sees("DP-1", 30));
     EXPECT_EQ(widths, (std::vector{10.0, 20.0, 30.0})) << "what makes no sense changes nothing";
 }
@@ -123,7 +124,7 @@ TEST_F(Watcher, asksTheServiceManagerWhereTheDesktopIs)
     FakeManager manager(mBus.address());
     start("say \"$WAYLAND_DISPLAY$XDG_CURRENT_DESKTOP$OTHER\" 5; read end");
     EXPECT_TRUE(QTest::qWaitFor([&] { return manager.calls == 2; }, kPatience));
-    EXPECT_TRUE(mWatcher->desktop().empty()) << "there is no desktop as yet";
+    EXPECT_TRUE(mWatcher->desktop().displays.empty()) << "there is no desktop as yet";
     manager.environment = QStringList{QStringLiteral("OTHER=x"),
         QStringLiteral("WAYLAND_DISPLAY=wayland-3"), QStringLiteral("XDG_CURRENT_DESKTOP=KDE")};
     EXPECT_TRUE(sees("wayland-3KDE", 5));
@@ -148,7 +149,7 @@ TEST_F(Watcher, knowsNothingOnceItIsStopped)
     start("say DP-1 10; echo x >> starts; read end");
     EXPECT_TRUE(sees("DP-1", 10));
     mWatcher->stop();
-    EXPECT_TRUE(mWatcher->desktop().empty());
+    EXPECT_TRUE(mWatcher->desktop().displays.empty());
     mWatcher->start();
     EXPECT_TRUE(sees("DP-1", 10));
 }

@@ -99,7 +99,7 @@ TEST(Mapping, anAreaIsAPartOfTheRange)
     const QRectF all(-1000, 0, 2000, 1000);
     // In points: the area up to the beginning of its last ones.
     const auto target = [&](const QRectF& area) {
-        const TabletRect part = targetOf(area, {display(all)});
+        const TabletRect part = targetOf(area, {{display(all)}, all});
         return QRectF(QPointF(all.left() + part.left * all.width(), part.top * all.height()),
             QPointF(all.left() + part.right * all.width() + 0.9, part.bottom * all.height() + 0.9));
     };
@@ -110,11 +110,23 @@ TEST(Mapping, anAreaIsAPartOfTheRange)
         << "what is off the desktop cannot be reached";
 }
 
+TEST(Mapping, thePenCoversWhatIsOnNoDisplayToo)
+{
+    // The left one of two displays is off, and the other has kept its place on the X screen.
+    const DesktopReport desktop{{display({0, 0, 1000, 500})}, {-1000, -100, 2000, 1000}};
+    const TabletRect part = targetOf({0, 0, 1000, 500}, desktop);
+    EXPECT_DOUBLE_EQ(part.left, 0.5);
+    EXPECT_DOUBLE_EQ(part.top, 0.1);
+    EXPECT_DOUBLE_EQ(part.right, (2000 - 0.9) / 2000);
+    EXPECT_DOUBLE_EQ(part.bottom, (600 - 0.9) / 1000);
+}
+
 TEST(Mapping, withoutADesktopOrAnAreaOnItTheTabletReachesAllOfIt)
 {
     const TabletRect all{0, 0, 1, 1};
     EXPECT_EQ(targetOf({0, 0, 100, 100}, {}), all);
-    const Desktop desktop{display({0, 0, 100, 100}), display({200, 0, 100, 100})};
+    const DesktopReport desktop{
+        {display({0, 0, 100, 100}), display({200, 0, 100, 100})}, {0, 0, 300, 100}};
     EXPECT_EQ(targetOf({}, desktop), all);
     EXPECT_EQ(targetOf({300, 0, 100, 100}, desktop), all) << "its display is gone";
     EXPECT_EQ(targetOf({100, 0, 100, 100}, desktop), all) << "it was between those that are left";
@@ -149,31 +161,37 @@ TEST(Mapping, aLineBringsTheDisplaysBack)
     desktop[1].turns = 3;
     desktop[2].bounds.setWidth(1536.5);
     desktop[2].name = QStringLiteral("\"\n{");
-    const QByteArray line = toLine(desktop);
+    const DesktopReport report{desktop, {-1300, -200, 5000, 1300.5}};
+    const QByteArray line = toLine(report);
     EXPECT_EQ(line.count('\n'), 1);
     EXPECT_TRUE(line.endsWith('\n'));
-    EXPECT_EQ(desktopFrom(line), desktop);
+    EXPECT_EQ(reportFrom(line), report);
 }
 
 TEST(Mapping, aLineThatMakesNoSenseIsNone)
 {
-    const auto isNone = [](const char* line) { return !desktopFrom(line); };
-    EXPECT_TRUE(isNone(""));
-    EXPECT_TRUE(isNone("[]"));
-    EXPECT_TRUE(isNone("{}"));
-    EXPECT_TRUE(isNone("[1]"));
-    EXPECT_TRUE(isNone("[{\"x\":0,\"y\":0,\"width\":1,\"turns\":0}]"));
-    const auto withWidth = [](const QByteArray& width, const char* turns = "0") {
-        return QByteArray(
-            "[{\"x\":0,\"y\":0,\"width\":" + width + ",\"height\":9,\"turns\":" + turns + "}]");
+    const auto isNone = [](const QByteArray& line) { return !reportFrom(line); };
+    for (const char* const line : {"", "[]", "{}", "[1]", "{\"displays\":[1]}"}) {
+        EXPECT_TRUE(isNone(line)) << line;
+    }
+    const auto bounds = [](const QByteArray& width) {
+        return "\"x\":0,\"y\":0,\"width\":" + width + ",\"height\":9";
     };
-    EXPECT_FALSE(isNone(withWidth("9")));
-    EXPECT_TRUE(isNone(withWidth("0")));
-    EXPECT_TRUE(isNone(withWidth("-9")));
-    EXPECT_TRUE(isNone(withWidth("1e300")));
-    EXPECT_TRUE(isNone(withWidth("\"9\"")));
-    EXPECT_TRUE(isNone(withWidth("9", "4")));
-    EXPECT_TRUE(isNone(toLine(Desktop(65, display({0, 0, 9, 9})))));
+    const auto report = [&](const QByteArray& display, const QByteArray& covered) {
+        return "{\"displays\":[{" + display + "}],\"covered\":{" + covered + "}}";
+    };
+    const QByteArray good = bounds("9") + ",\"turns\":0";
+    EXPECT_FALSE(isNone(report(good, bounds("9"))));
+    for (const char* const width : {"0", "-9", "1e300", "\"9\""}) {
+        EXPECT_TRUE(isNone(report(bounds(width) + ",\"turns\":0", bounds("9")))) << width;
+        EXPECT_TRUE(isNone(report(good, bounds(width)))) << width;
+    }
+    EXPECT_TRUE(isNone(report(bounds("9") + ",\"turns\":4", bounds("9"))));
+    EXPECT_TRUE(isNone(report(bounds("9"), bounds("9"))));
+    EXPECT_TRUE(isNone(report("\"x\":0,\"y\":0,\"width\":1,\"turns\":0", bounds("9"))));
+    EXPECT_TRUE(isNone(report(good, "")));
+    const QRectF nine(0, 0, 9, 9);
+    EXPECT_TRUE(isNone(toLine({Desktop(65, display(nine)), nine})));
 }
 
 TEST(Mapping, aPanelsOwnPositionIsNoRotation)

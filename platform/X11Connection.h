@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <cstdlib>
+#include <memory>
+
+struct xcb_connection_t;
+
+namespace platform {
+
+/** Frees replies, events and errors of XCB, which are the C library's. */
+struct XcbFree {
+    void operator()(void* memory) const { std::free(memory); } // NOLINT(*-no-malloc)
+};
+template <class Reply>
+using XcbOwned = std::unique_ptr<Reply, XcbFree>;
+
+/** Closes a connection to an X server. */
+struct XcbDisconnect {
+    void operator()(xcb_connection_t* connection) const;
+};
+
+/** A connection to the X server in DISPLAY, and the root window of the screen that it names. */
+class X11Connection {
+public:
+    X11Connection();
+
+    /** Whether it could be opened, and the server has not ended. */
+    bool isOpen() const;
+
+    xcb_connection_t* get() const { return mConnection.get(); }
+    std::uint32_t root() const { return mRoot; }
+    int fileDescriptor() const;
+
+    /** Has the server send the root window's events in an xcb_event_mask_t. */
+    void selectRootEvents(std::uint32_t mask) const;
+
+private:
+    std::unique_ptr<xcb_connection_t, XcbDisconnect> mConnection; ///< never null
+    std::uint32_t mRoot = 0;
+};
+
+} // namespace platform
