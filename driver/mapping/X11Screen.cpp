@@ -22,8 +22,7 @@ X11Screen::X11Screen()
     if (geometry) {
         mSize = {geometry->width, geometry->height};
     }
-    // Events that came before the answer are no longer in the socket.
-    QMetaObject::invokeMethod(this, &X11Screen::readEvents, Qt::QueuedConnection);
+    readEvents(); // those that came before the answer are no longer in the socket
 }
 
 void X11Screen::readEvents()
