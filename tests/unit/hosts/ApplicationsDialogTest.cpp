@@ -109,6 +109,7 @@ TEST_F(Applications, haveTheirNames)
     EXPECT_EQ(names(), texts({"Draw", "org.example.Gone", "Paint"}));
     EXPECT_EQ(mDialog->applications(),
         texts({"org.example.Draw", "org.example.Gone", "org.example.Paint"}));
+    EXPECT_EQ(list().item(0)->toolTip(), QStringLiteral("<span>org.example.Draw</span>"));
 }
 
 TEST_F(Applications, areAddedByTheirDesktopEntryOrTheirFile)
