@@ -62,7 +62,7 @@ QVCalibrateWin::QVCalibrateWin(const Rect& contentRect, QWidget* mainWindow)
     , mMainWindow(mainWindow)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+    if (platform::isOnWayland()) {
         // On Wayland, windows have no opacity, but their contents have.
         mView->setOpacity(kOpacity);
         setAttribute(Qt::WA_TranslucentBackground);

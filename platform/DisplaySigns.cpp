@@ -58,7 +58,7 @@ public:
         windowHandle()->setScreen(&screen);
         // On Wayland, only a full-screen window gets to a display of its own choice. There, it may
         // be translucent.
-        if (QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+        if (isOnWayland()) {
             setAttribute(Qt::WA_TranslucentBackground);
             showFullScreen();
         } else {

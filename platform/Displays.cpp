@@ -42,7 +42,7 @@ std::optional<double> listedFactor(const QString& list, const QString& name, qsi
  */
 double unitsPerPoint(const QScreen& screen)
 {
-    if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+    if (!isOnWayland()) {
         return screen.devicePixelRatio();
     }
     // On Wayland, this includes the compositor's scaling, which its units already contain. Any
@@ -217,6 +217,11 @@ private:
 };
 
 } // namespace
+
+bool isOnWayland()
+{
+    return QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
+}
 
 Rect screenBounds(const QScreen& screen)
 {

@@ -84,6 +84,9 @@ Q_SIGNALS:
     void reconfigured(platform::DisplayID display, std::uint32_t flags);
 };
 
+/** Whether this program shows its windows on a Wayland desktop, and not on X11. */
+bool isOnWayland();
+
 /** A screen's rectangle in global display coordinates. */
 Rect screenBounds(const QScreen& screen);
 

@@ -10,7 +10,7 @@ struct xcb_connection_t;
 
 namespace platform {
 
-/** Frees replies, events and errors of XCB, which are the C library's. */
+/** Frees replies, events and errors of XCB, which come from malloc(). */
 struct XcbFree {
     void operator()(void* memory) const { std::free(memory); } // NOLINT(*-no-malloc)
 };
@@ -25,6 +25,7 @@ struct XcbDisconnect {
 /** A connection to the X server in DISPLAY, and the root window of the screen that it names. */
 class X11Connection {
 public:
+    /** Connects; see isOpen(). */
     X11Connection();
 
     /** Whether it could be opened, and the server has not ended. */
@@ -34,11 +35,15 @@ public:
     std::uint32_t root() const { return mRoot; }
     int fileDescriptor() const;
 
-    /** Has the server send the root window's events in an xcb_event_mask_t. */
+    /**
+     * Asks for events of the root window, in place of those asked for before.
+     *
+     * @param mask of xcb_event_mask_t
+     */
     void selectRootEvents(std::uint32_t mask) const;
 
 private:
-    std::unique_ptr<xcb_connection_t, XcbDisconnect> mConnection; ///< never null
+    std::unique_ptr<xcb_connection_t, XcbDisconnect> mConnection;
     std::uint32_t mRoot = 0;
 };
 

@@ -28,7 +28,7 @@ constexpr std::chrono::milliseconds kInterval{50};
 bool isUpright(const QScreen& screen)
 {
     // On X11, the physical size is rotated, too, and the orientation is the rotation.
-    if (!QGuiApplication::platformName().startsWith(QLatin1String("wayland"))) {
+    if (!platform::isOnWayland()) {
         return false;
     }
     // For a panel that does not report its size, Qt makes one up from the rotated picture.
@@ -52,7 +52,7 @@ Desktop displaysNow()
     return desktop;
 }
 
-/** Prints the desktop if it is another one than before. */
+/** Prints the desktop if it has changed. */
 class Reporter {
 public:
     explicit Reporter(const X11Screen* x11)
@@ -81,7 +81,8 @@ private:
         if (mX11 == nullptr || mX11->size().isEmpty()) {
             return boundsOf(displays);
         }
-        // The places of displays, which are in pixels, too, count from the main one.
+        // Displays, too, are placed in pixels, from the main one. While they change, they may lag
+        // behind the size, and so lie outside of it.
         return {-QPointF(QGuiApplication::primaryScreen()->geometry().topLeft()), mX11->size()};
     }
 
@@ -117,9 +118,10 @@ int reportDisplays(int argc, char** argv)
     qInstallMessageHandler(endQuietly);
     QGuiApplication::setAttribute(Qt::AA_DisableSessionManager); // nothing to be restored
     const QGuiApplication application(argc, argv);
-    const std::unique_ptr<X11Screen> x11 = QGuiApplication::platformName() == QLatin1String("xcb")
-        ? std::make_unique<X11Screen>()
-        : nullptr;
+    // With Xwayland, the pen covers what the Wayland desktop says, whatever the X screen is.
+    const bool isOnX11 = QGuiApplication::platformName() == QLatin1String("xcb")
+        && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY");
+    const auto x11 = isOnX11 ? std::make_unique<X11Screen>() : nullptr;
     Reporter reporter(x11.get());
     if (x11) {
         QObject::connect(x11.get(), &X11Screen::changed, [&] { reporter.report(); });

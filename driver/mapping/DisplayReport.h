@@ -16,7 +16,7 @@ int reportDisplays(int argc, char** argv);
 /**
  * Quarter turns by which the desktop has rotated a display.
  *
- * @param orientation as Qt has it, which takes an upright panel's own position for a rotation
+ * @param orientation as Qt reports it: Qt counts a portrait panel's natural position as rotated
  * @param isUpright whether the panel itself is higher than wide
  */
 int turnsOf(Qt::ScreenOrientation orientation, bool isUpright);

@@ -16,9 +16,9 @@
 #include <memory>
 
 /**
- * Knows the displays of the user's desktop. A connection to the window system takes its process
- * with it when it breaks, so another process has it, which runs reportDisplays(); it is started
- * again when it ends, as it does with the desktop.
+ * Watches the displays of the user's desktop. When a connection to the window system breaks, its
+ * process ends, so a second process has the connection. It runs reportDisplays(), and is restarted
+ * whenever it ends, for instance with the desktop.
  */
 class DisplayWatcher final : public QObject {
     Q_OBJECT

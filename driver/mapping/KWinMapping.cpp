@@ -220,8 +220,10 @@ void KWinMapping::set(const QString& path, const QVariantMap& present)
         call << change.key() << QVariant::fromValue(QDBusVariant(change.value()));
         auto* const answer =
             new QDBusPendingCallWatcher(mBus.asyncCall(call, kKWinAnswerTime), this);
-        connect(answer, &QDBusPendingCallWatcher::finished, answer,
-            &QDBusPendingCallWatcher::deleteLater);
+        connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
+            answer->deleteLater();
+            watchFile(); // KWin may have made the folder only now
+        });
     }
     watchFile();
     setTurns(settings.turns);
@@ -242,10 +244,9 @@ void KWinMapping::watchFile()
     if (!mFile.files().isEmpty()) {
         return;
     }
+    mFile.addPath(folder); // first, so that a file that appears now is noticed
     if (QFile::exists(file) && mFile.addPath(file)) {
         mFile.removePath(folder);
         apply(); // it may have changed before
-    } else {
-        mFile.addPath(folder);
     }
 }

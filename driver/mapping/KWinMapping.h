@@ -18,8 +18,7 @@ struct KWinSettings {
 };
 
 /**
- * The settings with which the pen's whole range covers all displays, and with which KWin does
- * nothing else with it.
+ * The settings with which the pen's whole range covers all displays and KWin changes nothing else.
  *
  * KWin 6 can map a pen to the workspace. KWin 5 maps it to one output; but the part of the output
  * that the pen covers may begin and end outside of it, so that it is all outputs together.
@@ -29,8 +28,8 @@ struct KWinSettings {
 KWinSettings kwinSettings(const QVariantMap& present, const Desktop& desktop);
 
 /**
- * Has KWin map the virtual pen to all displays, when the pen appears, when KWin does, when the
- * displays change, and when somebody else has changed it. Without KWin, it does nothing.
+ * Makes KWin map the virtual pen to all displays: when the pen or KWin appears, when the displays
+ * change, and when another program has changed the mapping. Without KWin, it does nothing.
  */
 class KWinMapping final : public QObject {
     Q_OBJECT
@@ -63,7 +62,7 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     void watchFile();
 
     QDBusConnection mBus;
-    QFileSystemWatcher mFile;
+    QFileSystemWatcher mFile{this};
     QString mPen;
     Desktop mDesktop;
     int mTurns = 0;

@@ -135,22 +135,24 @@ std::optional<DesktopReport> reportFrom(const QByteArray& line)
 
 TabletRect targetOf(const QRectF& area, const DesktopReport& desktop)
 {
-    constexpr TabletRect kWholeDesktop{0, 0, 1, 1};
+    constexpr TabletRect kWholeRange{0, 0, 1, 1};
+    const QRectF& covered = desktop.covered;
     const auto isOn = [&](const DesktopDisplay& display) {
         return display.bounds.intersects(area);
     };
-    if (area.isEmpty() || std::ranges::none_of(desktop.displays, isOn)) {
-        return kWholeDesktop;
+    const bool isOnDisplay = !area.isEmpty() && std::ranges::any_of(desktop.displays, isOn);
+    // All displays may be less than what the pen covers.
+    const QRectF reached = (isOnDisplay ? area : boundsOf(desktop.displays)) & covered;
+    if (reached.isEmpty() || (!isOnDisplay && reached == covered)) {
+        return kWholeRange;
     }
-    const QRectF& covered = desktop.covered;
     // KWin 5 rounds places to whole points before it looks for a window, so that the last half of
     // the last point is off the display, and a pen there is nowhere. The rest is for displays with
     // a fractional scale, whose size it rounds, too.
     constexpr double kLast = 0.9;
     const auto across = [&](double x) { return (x - covered.left()) / covered.width(); };
     const auto down = [&](double y) { return (y - covered.top()) / covered.height(); };
-    const QRectF reached = area & covered;
     const TabletRect target{across(reached.left()), down(reached.top()),
         across(reached.right() - kLast), down(reached.bottom() - kLast)};
-    return target.width() > 0 && target.height() > 0 ? target : kWholeDesktop;
+    return target.width() > 0 && target.height() > 0 ? target : kWholeRange;
 }

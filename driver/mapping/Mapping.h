@@ -14,10 +14,10 @@
 
 /**
  * @file
- * Where the virtual pen points. Every desktop has its whole range cover all displays together,
- * either by itself or because it is told to, on X11 the whole X screen; which part of that the
- * tablet reaches is computed here and nowhere else, so that nothing is scaled twice. All rectangles
- * are in points from the upper left corner of the main display.
+ * Where the virtual pen points. Its whole range covers all displays together, because the desktop
+ * does so by itself or is told to; on X11, it covers the whole X screen, which may be larger. Which
+ * part of that the tablet reaches is computed here and nowhere else, so that nothing is scaled
+ * twice. All rectangles are in points from the upper left corner of the main display.
  */
 
 /** A display, as the panel sees it. */
@@ -44,7 +44,7 @@ std::optional<std::size_t> displayAt(const Desktop& desktop, const QRectF& area)
  */
 std::optional<std::size_t> displayAfter(const Desktop& desktop, const QRectF& area);
 
-/** What a desktop reports. */
+/** What the process that watches the desktop reports; see DisplayReport.h. */
 struct DesktopReport {
     Desktop displays;
     QRectF covered; ///< by the virtual pen's whole range
@@ -60,7 +60,8 @@ std::optional<DesktopReport> reportFrom(const QByteArray& line);
 
 /**
  * The part of the virtual pen's range that points at an area of the desktop, up to the beginning of
- * its last points, each side from 0 to 1. All of it if the desktop is not known, or if the area is
- * on no display, such as that of a display that is gone.
+ * its last points, each side from 0 to 1. For an area on no display, such as that of a display that
+ * is gone, the part that points at all displays. The whole range if the desktop is not known, or if
+ * the pen covers nothing of the area, as may be while displays change.
  */
 TabletRect targetOf(const QRectF& area, const DesktopReport& desktop);

@@ -21,7 +21,7 @@ public:
     /** Connects to the display in DISPLAY. */
     X11Screen();
 
-    /** In pixels; empty without a connection. */
+    /** In pixels; empty if there was no connection. */
     QSize size() const { return mSize; }
 
 Q_SIGNALS:

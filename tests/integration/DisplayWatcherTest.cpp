@@ -123,7 +123,7 @@ TEST_F(Watcher, asksTheServiceManagerWhereTheDesktopIs)
 {
     FakeManager manager(mBus.address());
     start("say \"$WAYLAND_DISPLAY$XDG_CURRENT_DESKTOP$OTHER\" 5; read end");
-    EXPECT_TRUE(QTest::qWaitFor([&] { return manager.calls == 2; }, kPatience));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return manager.calls >= 2; }, kPatience));
     EXPECT_TRUE(mWatcher->desktop().displays.empty()) << "there is no desktop as yet";
     manager.environment = QStringList{QStringLiteral("OTHER=x"),
         QStringLiteral("WAYLAND_DISPLAY=wayland-3"), QStringLiteral("XDG_CURRENT_DESKTOP=KDE")};

@@ -17,6 +17,7 @@
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
 #include <QDir>
+#include <QFileSystemWatcher>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -213,8 +214,11 @@ TEST_F(KWin, isToldAgainWhenItsFileWasDeleted)
     startKWin();
     startDriver();
     EXPECT_TRUE(becomesMapped());
-    expectAnswers();
+    const auto& watched = *mMapping->findChild<QFileSystemWatcher*>();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !watched.files().isEmpty(); }, kPatience));
     EXPECT_TRUE(QFile::remove(mHome.path() + QStringLiteral("/.config/kcminputrc")));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return watched.files().isEmpty(); }, kPatience));
+    expectAnswers();
     for (int times = 0; times < 2; ++times) {
         mKWin->set(QStringLiteral("outputArea"), QRectF(0, 0, 0.5, 0.5));
         EXPECT_TRUE(becomesMapped());

@@ -30,7 +30,8 @@ class DriverDisplays(displays.Displays):
             try:
                 line = self.lines.get(timeout=session.PATIENCE)
             except queue.Empty:
-                raise AssertionError(f"there was no line with {wanted} and {covered}, but {before}") from None
+                raise AssertionError(
+                    f"there was no line with {wanted} and {covered}, but {before}") from None
             report = json.loads(line)
             place = "x", "y", "width", "height"
             shown = (sorted(tuple(display[key] for key in ("name", *place))

@@ -133,6 +133,19 @@ TEST(Mapping, withoutADesktopOrAnAreaOnItTheTabletReachesAllOfIt)
     EXPECT_NE(targetOf({50, 0, 100, 100}, desktop), all) << "half of it is on a display";
 }
 
+TEST(Mapping, anAreaOnNoDisplayIsAllDisplaysOfALargerScreen)
+{
+    const DesktopReport desktop{{display({0, 0, 1000, 500})}, {0, 0, 2000, 1000}};
+    EXPECT_EQ(targetOf({3000, 0, 10, 10}, desktop), targetOf({0, 0, 1000, 500}, desktop));
+    EXPECT_EQ(targetOf({}, desktop), targetOf({0, 0, 1000, 500}, desktop));
+}
+
+TEST(Mapping, anAreaThatThePenDoesNotCoverIsReachedWithAllOfIt)
+{
+    const DesktopReport desktop{{display({1000, 0, 1000, 500})}, {0, 0, 1000, 500}};
+    EXPECT_EQ(targetOf({1000, 0, 1000, 500}, desktop), (TabletRect{0, 0, 1, 1}));
+}
+
 TEST(Mapping, aDisplayIsFoundByItsBoundsWhateverElseChanges)
 {
     EXPECT_EQ(displayAt(kThree, {1920, 0, 1536, 864}), 2U);
