@@ -4,9 +4,11 @@
 
 #include "ConfigFile.h"
 #include "EventForms.h"
+#include "LivingBus.h"
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
 #include "QVDriverProtocol.h"
+#include "QVEntryText.h"
 #include "QVTabletModels.h"
 #include "rzkApplication.h"
 
@@ -43,7 +45,7 @@ QString senderOf(const AppleEvent& event)
 
 QString valueText(const QVEntry& entry, const tagQVTabletInfo& record)
 {
-    const QString text = QString::fromLatin1(QVFieldText(entry, record).c_str());
+    const QString text = entryValue(record, entry);
     return entry.type == QVFieldType::String ? QStringLiteral("\"%1\"").arg(text) : text;
 }
 
@@ -102,7 +104,11 @@ Driver::Driver(AppleEvents& events, QDBusConnection bus)
 
 void Driver::start()
 {
-    mState = DriverState::load().value_or(DriverState());
+    Result<DriverState> state = DriverState::load();
+    if (!state && !state.error().isMissingFile) {
+        say(QStringLiteral("starting afresh: %1").arg(state.error().text));
+    }
+    mState = std::move(state).value_or(DriverState());
 }
 
 Result<> Driver::startSimulation(std::optional<std::uint16_t> productID)
@@ -182,7 +188,7 @@ Result<std::uint16_t> Driver::configNumber(
             return candidate;
         }
     }
-    return Error{QStringLiteral("there are no more numbers for tablets")};
+    return Error{QStringLiteral("all numbers for tablets are in use")};
 }
 
 void Driver::setChosenTablet(const QString& id)
@@ -332,11 +338,8 @@ void Driver::beginCalibration(const QByteArray& panel)
     const QString name = QString::fromUtf8(panel);
     mPanels.addWatchedService(name);
     // It may have left the bus before it was watched.
-    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("NameHasOwner"));
-    call << name;
-    auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
+    auto* const answer =
+        new QDBusPendingCallWatcher(mBus.asyncCall(platform::busCall("NameHasOwner", name)), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this,
         [this, name](QDBusPendingCallWatcher* answered) {
             const QDBusPendingReply<bool> isThere = *answered;

@@ -58,22 +58,24 @@ std::optional<QByteArray> wholeRecord(const QJsonValue& value)
 
 } // namespace
 
-std::optional<DriverState> DriverState::load()
+platform::Result<DriverState> DriverState::load()
 {
-    QFile file(statePath());
-    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
-        return std::nullopt;
+    const QString path = statePath();
+    const QFileInfo info(path);
+    if (!info.isFile()) { // a FIFO would keep the driver waiting
+        return platform::Error{
+            QStringLiteral("%1 is not a regular file").arg(path), !info.exists()};
     }
-    const QJsonDocument document = QJsonDocument::fromJson(file.readAll());
-    if (!document.isObject()) {
-        return std::nullopt;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly)) {
+        return platform::Error{QStringLiteral("cannot read %1: %2").arg(path, file.errorString())};
     }
-    const QJsonObject object = document.object();
+    const QJsonObject object = QJsonDocument::fromJson(file.readAll()).object();
     const auto attached = wholeNumber<std::uint16_t>(object.value(kAttached));
     const auto record = wholeRecord(object.value(kRecord));
     const auto pushes = wholeNumber<std::uint32_t>(object.value(kPushes));
     if (!attached || !record || !pushes) {
-        return std::nullopt;
+        return platform::Error{QStringLiteral("%1 is not a state of this driver").arg(path)};
     }
     DriverState state{*attached, *record, *pushes, object.value(kChosen).toString(), {},
         object.value(kNotices).toBool(true)};

@@ -10,7 +10,6 @@
 #include <QString>
 
 #include <cstdint>
-#include <optional>
 
 /**
  * What the driver keeps over a restart, in the file tdsg-driver/state.json in the user's state
@@ -27,12 +26,10 @@ struct DriverState {
     bool showsNotices = true; ///< on the screen
 
     /**
-     * Reads the file.
-     *
-     * @return nothing if there is none or it is invalid: numbers must be integers in the range of
-     *     their types, and the record must be empty or complete
+     * Reads the file. It is invalid unless its numbers are integers in the range of their types,
+     * and its record is empty or complete.
      */
-    [[nodiscard]] static std::optional<DriverState> load();
+    static platform::Result<DriverState> load();
 
     /** Replaces the file. */
     platform::Result<> save() const;

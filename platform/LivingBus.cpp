@@ -102,6 +102,15 @@ bool sessionBusAnswers(std::chrono::milliseconds limit)
     return true;
 }
 
+QDBusMessage busCall(const char* method, const QString& name)
+{
+    const QString bus = QStringLiteral("org.freedesktop.DBus");
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        bus, QStringLiteral("/org/freedesktop/DBus"), bus, QLatin1String(method));
+    call << name;
+    return call;
+}
+
 bool isUnanswered(const QDBusError& error)
 {
     switch (error.type()) {

@@ -3,6 +3,8 @@
 #pragma once
 
 #include <QDBusError>
+#include <QDBusMessage>
+#include <QString>
 
 #include <chrono>
 
@@ -21,7 +23,10 @@ namespace platform {
  */
 bool sessionBusAnswers(std::chrono::milliseconds limit);
 
-/** Whether the receiver has not answered: it is busy, or has left the bus before. */
+/** Creates a call to the bus itself: a method of org.freedesktop.DBus about a name on the bus. */
+QDBusMessage busCall(const char* method, const QString& name);
+
+/** Whether the error means that the receiver has not answered: it is busy, or has left the bus. */
 bool isUnanswered(const QDBusError& error);
 
 } // namespace platform

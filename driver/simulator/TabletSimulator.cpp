@@ -4,6 +4,7 @@
 
 #include "QVConfigEntry.h"
 #include "QVDriverProtocol.h"
+#include "QVEntryText.h"
 #include "QVTabletModels.h"
 
 #include <QDBusMetaType>
@@ -42,7 +43,7 @@ QVariantMap TabletSimulator::LastRecordDecoded() const
         for (const QVEntry& entry : kQVEntries) {
             entries.insert(QString::fromStdString(QVEntryPath(entry)),
                 entry.type == QVFieldType::String
-                    ? QVariant(QString::fromLatin1(QVFieldText(entry, *record).c_str()))
+                    ? QVariant(entryValue(*record, entry))
                     : QVariant(static_cast<qlonglong>(QVFieldNumber(entry, *record))));
         }
     }

@@ -176,7 +176,8 @@ class Driver(session.Session):
                          '{"attached": 5}'):
             state.write_text(contents)
             with self.subTest(contents):
-                self.stop_driver(self.start_driver())
+                said = self.stop_driver(self.start_driver())
+                self.assertIn(f"starting afresh: {state} is not a state of this driver", said)
 
     def test_attaches_only_models_that_there_are(self):
         self.start_driver()

@@ -8,6 +8,7 @@
 
 #include <QByteArray>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 #include <gtest/gtest.h>
@@ -28,7 +29,7 @@ protected:
     }
 
     /** Loads a file with these three values. */
-    std::optional<DriverState> load(
+    platform::Result<DriverState> load(
         const QByteArray& attached, const QByteArray& record, const QByteArray& pushes) const
     {
         writeFile(path(),
@@ -98,4 +99,17 @@ TEST_F(DriverStateFile, isNoneWithoutAllThreeValues)
     EXPECT_FALSE(DriverState::load());
     writeFile(path(), R"({"record": "", "pushes": 0})");
     EXPECT_FALSE(DriverState::load());
+}
+
+TEST_F(DriverStateFile, saysWhyItCannotBeUsed)
+{
+    EXPECT_TRUE(DriverState::load().error().isMissingFile);
+    writeFile(path(), "{");
+    const auto broken = DriverState::load();
+    EXPECT_EQ(errorText(broken), path().toStdString() + " is not a state of this driver");
+    EXPECT_FALSE(broken.error().isMissingFile);
+    EXPECT_TRUE(QFile::remove(path()) && QDir().mkdir(path()));
+    const auto folder = DriverState::load();
+    EXPECT_EQ(errorText(folder), path().toStdString() + " is not a regular file");
+    EXPECT_FALSE(folder.error().isMissingFile);
 }
