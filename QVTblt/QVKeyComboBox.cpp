@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "QVKeyComboBox.h"
 
+#include "LiteralText.h"
+
 #include <QAbstractItemView>
 #include <QHelpEvent>
 #include <QListView>
@@ -10,7 +12,6 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -66,17 +67,11 @@ Qt::TextElideMode elideModeOf(int item)
     return item == QVKeyComboBox::Application ? Qt::ElideLeft : Qt::ElideMiddle;
 }
 
-/** A tooltip that shows the text literally, whatever a path may contain. */
-QString toolTipOf(const QString& text)
-{
-    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
-}
-
 /** A tooltip with the name of an application above its path, as far as they are known. */
 QString toolTipOf(const QString& name, const QString& path)
 {
     return name.isEmpty()
-        ? toolTipOf(path)
+        ? platform::literalToolTip(path)
         : QStringLiteral("<b>%1</b><br>%2").arg(name.toHtmlEscaped(), path.toHtmlEscaped());
 }
 
@@ -159,7 +154,7 @@ void QVKeyComboBox::replaceItem(Item item, const QString& text)
     }
     removeItem(item);
     insertItem(item, text);
-    setItemData(item, toolTipOf(text), Qt::ToolTipRole);
+    setItemData(item, platform::literalToolTip(text), Qt::ToolTipRole);
     setCurrentIndex(item);
 }
 

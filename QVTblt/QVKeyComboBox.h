@@ -7,9 +7,9 @@
 /**
  * The list of one button's actions. The number of its slot is its property "tag".
  *
- * Two items show what the user has
- * chosen through them; if their text does not fit, the tooltip shows all of it. A path is elided at
- * its beginning, since its end names the program, keys in their middle.
+ * Two items show what the user has chosen through them; if their text does not fit, the tooltip
+ * shows all of it. A path is elided at its beginning, since its end names the program, keys in
+ * their middle.
  */
 class QVKeyComboBox final : public platform::MenuComboBox {
     Q_OBJECT

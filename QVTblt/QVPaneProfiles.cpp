@@ -28,7 +28,7 @@ using platform::Result;
 namespace {
 
 /** How long a bus may take that hangs. */
-constexpr std::chrono::milliseconds kBusLimit{250};
+constexpr std::chrono::milliseconds kPanelBusLimit{250};
 
 /** Why something has failed, for the user; empty if it has not. */
 QString whyNot(const Result<>& result)
@@ -95,7 +95,7 @@ void QVPaneProfiles::join()
         return;
     }
     if (!mBus || !mBus->isConnected()) {
-        if (!platform::sessionBusAnswers(kBusLimit)) {
+        if (!platform::sessionBusAnswers(kPanelBusLimit)) {
             return;
         }
         const QString name =

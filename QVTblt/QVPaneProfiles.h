@@ -10,7 +10,6 @@
 #include <QDBusConnection>
 #include <QFileSystemWatcher>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QTimer>
 
@@ -22,8 +21,8 @@ class QDBusPendingCallWatcher;
 
 /**
  * The panel's profiles, and its place among the programs that change the tablet's settings: while
- * it is shown, it owns the panel's name on the bus, or, if another panel does, sends it its edits
- * and takes over the other's.
+ * it is shown, it owns the panel's name on the bus, or, if another panel owns it, sends its edits
+ * to that panel and takes over that panel's.
  */
 class QVPaneProfiles final : public QObject,
                              public platform::PaneProfiles,
@@ -90,12 +89,12 @@ private:
     std::function<void()> mChangeHandler;
     QFileSystemWatcher mFiles;
     QTimer mJoinOrPart; ///< once a showing has begun or ended: the next may follow at once
-    QTimer mTellSoon; ///< others of edits
+    QTimer mTellSoon; ///< until others are notified of edits
     bool mIsShown = false;
 
     std::optional<QDBusConnection> mBus;
     std::unique_ptr<QVPanelObject> mObject; ///< null without a bus, and while the panel is hidden
-    tagQVTabletInfo mShared{}; ///< the record as far as the owner has it or has been sent it
+    tagQVTabletInfo mShared{}; ///< the record as the owner knows it, with the edits sent to it
     QString mProfile; ///< the current one, as last shown
     std::optional<tagQVTabletInfo> mTaken; ///< the owner's record, to be taken over
     int mPending = 0; ///< calls with edits that have not been answered

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "QVPanelObject.h"
 
+#include "LivingBus.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusMetaType>
@@ -31,15 +33,6 @@ constexpr int kReleaseTime = 250; ///< milliseconds
 constexpr int kReleasePause = 5; ///< milliseconds
 /** Changing the tablet's report speed may take four seconds. */
 constexpr int kAnswerTime = 10000; ///< milliseconds
-
-/** A call of a method of the bus about a name. */
-QDBusMessage busCall(const char* method, const QString& name = kQVPanelService)
-{
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(kBusService, kBusPath, kBusService, QLatin1String(method));
-    call << name;
-    return call;
-}
 
 bool isWithoutObject(const QDBusMessage& reply)
 {
@@ -82,7 +75,7 @@ QVPanelObject::QVPanelObject(QVProfileSwitch& own, Kind kind, QDBusConnection bu
 void QVPanelObject::requestName()
 {
     delete mRequest;
-    QDBusMessage request = busCall("RequestName");
+    QDBusMessage request = platform::busCall("RequestName", kQVPanelService);
     request << (mKind == Kind::Panel ? kReplaceExisting : kAllowReplacement);
     mRequest = new QDBusPendingCallWatcher(mBus.asyncCall(request), this);
     connect(mRequest, &QDBusPendingCallWatcher::finished, this, [this] {
@@ -106,7 +99,7 @@ QVPanelObject::~QVPanelObject()
     qDeleteAll(findChildren<QDBusPendingCallWatcher*>());
     mBus.unregisterObject(kQVPanelPath);
     // Waits, so that what was sent before has arrived when another one gets the name.
-    mBus.call(busCall("ReleaseName"), QDBus::Block, kReleaseTime);
+    mBus.call(platform::busCall("ReleaseName", kQVPanelService), QDBus::Block, kReleaseTime);
 }
 
 void QVPanelObject::setRole(Role role)
@@ -257,8 +250,8 @@ void QVPanelObject::NoteCalibration(bool isOn)
     } else if (caller != mBus.baseService()) { // which may have become the owner meanwhile
         mCalibrating.addWatchedService(caller);
         // It may have left the bus before it was watched.
-        auto* const question =
-            new QDBusPendingCallWatcher(mBus.asyncCall(busCall("NameHasOwner", caller)), this);
+        auto* const question = new QDBusPendingCallWatcher(
+            mBus.asyncCall(platform::busCall("NameHasOwner", caller)), this);
         connect(question, &QDBusPendingCallWatcher::finished, this, [this, question, caller] {
             question->deleteLater();
             const QDBusPendingReply<bool> hasOwner = *question;

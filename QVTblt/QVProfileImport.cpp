@@ -39,7 +39,7 @@ bool isSensible(
     case offsetof(tagQVTabletInfo, Key.Scrollbar1):
         return isFrom(0, 1);
     case offsetof(tagQVTabletInfo, Key.ScrollSpeed):
-        return isFrom(1, kQVFastestScroll);
+        return isFrom(kQVSlowestScroll, kQVFastestScroll);
     case offsetof(tagQVTabletInfo, Monitor.num):
         return isFrom(0, kQVMaxDisplays);
     case offsetof(tagQVTabletInfo, Monitor.rotationFlag):

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 #include "AppleEventWire.h"
-#include "HomeFolder.h"
 #include "LivingBus.h"
 #include "PropertyList.h"
 #include "QVConfigStore.h"
@@ -42,21 +41,11 @@ namespace {
 
 // The bus -----------------------------------------------------------------------------------------
 
-constexpr std::chrono::milliseconds kBusLimit{2000};
+constexpr std::chrono::milliseconds kCheckBusLimit{2000};
 constexpr std::chrono::milliseconds kStartLimit{5000};
 constexpr std::chrono::milliseconds kReadyLimit{2000}; ///< for a driver that has just been started
 constexpr std::chrono::milliseconds kQueryLimit{
     std::int64_t{kQVDriverTimeOut} * 1000 / platform::kTicksPerSecond};
-
-constexpr QLatin1String kBusService("org.freedesktop.DBus");
-
-QDBusMessage busCall(const char* method, const QString& name)
-{
-    QDBusMessage call = QDBusMessage::createMethodCall(kBusService,
-        QStringLiteral("/org/freedesktop/DBus"), kBusService, QString::fromLatin1(method));
-    call << name;
-    return call;
-}
 
 /** Whether the program quits meanwhile. */
 bool isInterrupted()
@@ -78,7 +67,7 @@ QDBusMessage send(QDBusConnection& bus, const QDBusMessage& call, std::chrono::m
 
 bool isOwned(QDBusConnection& bus, const QString& name)
 {
-    const QDBusMessage answer = send(bus, busCall("NameHasOwner", name), kBusLimit);
+    const QDBusMessage answer = send(bus, platform::busCall("NameHasOwner", name), kCheckBusLimit);
     return answer.type() == QDBusMessage::ReplyMessage && answer.arguments().value(0).toBool();
 }
 
@@ -87,7 +76,7 @@ Facts::Driver findDriver(QDBusConnection& bus, const QString& name)
     if (isOwned(bus, name)) {
         return Facts::Driver::Running;
     }
-    QDBusMessage call = busCall("StartServiceByName", name);
+    QDBusMessage call = platform::busCall("StartServiceByName", name);
     call << 0U;
     const QDBusMessage answer = send(bus, call, kStartLimit);
     if (answer.type() == QDBusMessage::ReplyMessage) {
@@ -446,7 +435,7 @@ QVSelfCheckFacts QVGatherFacts(const QVSelfCheckInput& input)
     facts.hasUsbRule = hasRule("60-quorvia-tablet.rules");
 
     QString driverProcess;
-    if (!platform::sessionBusAnswers(kBusLimit)) {
+    if (!platform::sessionBusAnswers(kCheckBusLimit)) {
         facts.bus = Facts::Bus::Hangs;
         facts.desktop = findDesktop(nullptr);
     } else {
@@ -463,10 +452,11 @@ QVSelfCheckFacts QVGatherFacts(const QVSelfCheckInput& input)
             const QString driver = platform::wire::busName(kQVDriverSignature);
             facts.driver = findDriver(bus, driver);
             facts.answer = askDriver(bus, driver, facts);
-            driverProcess = send(bus, busCall("GetConnectionUnixProcessID", driver), kBusLimit)
-                                .arguments()
-                                .value(0)
-                                .toString();
+            driverProcess =
+                send(bus, platform::busCall("GetConnectionUnixProcessID", driver), kCheckBusLimit)
+                    .arguments()
+                    .value(0)
+                    .toString();
             if (!facts.isLastPushTaken) {
                 facts.isLastPushTaken = hasTakenSettings(bus, driver);
             }

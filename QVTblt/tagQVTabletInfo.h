@@ -57,7 +57,9 @@ inline constexpr std::int16_t kQVHighestThreshold = 200;
 /** Monitor's rotationFlag where the tablet is upside down; otherwise it is 0. */
 inline constexpr std::int16_t kQVTurned = 180;
 
-/** The fastest of Key's ScrollSpeed; the slowest is 1. */
+/** Key's ScrollSpeed: the slowest, that of a new tablet, and the fastest. */
+inline constexpr std::int16_t kQVSlowestScroll = 1;
+inline constexpr std::int16_t kQVUsualScroll = 5;
 inline constexpr std::int16_t kQVFastestScroll = 10;
 
 /** Report speeds: the values of Monitor's Speed. */

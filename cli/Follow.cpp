@@ -6,6 +6,7 @@
 #include "Displays.h"
 #include "FrontWindow.h"
 #include "KWinFront.h"
+#include "LivingBus.h"
 #include "QVConfigStore.h"
 #include "QVDriverProtocol.h"
 #include "QVMonitorGeometry.h"
@@ -192,11 +193,9 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
     template <class Value>
     Value ask(const char* method, const QString& name) const
     {
-        QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-            QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-            QLatin1String(method));
-        call << name;
-        return QDBusReply<Value>(mBus.call(call, QDBus::Block, kBusAnswerTime)).value();
+        return QDBusReply<Value>(
+            mBus.call(platform::busCall(method, name), QDBus::Block, kBusAnswerTime))
+            .value();
     }
 
     /** Says once why it fails, and not with every window. */

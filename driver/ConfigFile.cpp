@@ -36,7 +36,7 @@ tagQVTabletInfo defaults(const QVTabletModel& model, std::uint16_t vendorID)
     record.Monitor.Height = 1080;
     record.Monitor.cTabletXmax = model.tabletXmax;
     record.Monitor.cTabletYmax = model.tabletYmax;
-    record.Key.ScrollSpeed = 5;
+    record.Key.ScrollSpeed = kQVUsualScroll;
     // The pen's buttons are the right and the middle mouse button.
     record.Key.SubKey[kQVUpperPenSlot] = {kQVMouseButton, kQVRightButton, 0, {}};
     record.Key.SubKey[kQVLowerPenSlot] = {kQVMouseButton, kQVMiddleButton, 0, {}};

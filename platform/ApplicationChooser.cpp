@@ -4,6 +4,7 @@
 
 #include "Accessible.h"
 #include "HomeFolder.h"
+#include "LiteralText.h"
 
 #include <QAbstractListModel>
 #include <QDialogButtonBox>
@@ -148,7 +149,7 @@ public:
             }
             return *row.icon;
         case Qt::ToolTipRole:
-            return QStringLiteral("<span>%1</span>").arg(row.application.path.toHtmlEscaped());
+            return literalToolTip(row.application.path);
         case Path:
             return row.application.path;
         case Words:

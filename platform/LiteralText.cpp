@@ -21,4 +21,9 @@ QString literalText(QString text)
     return text;
 }
 
+QString literalToolTip(const QString& text)
+{
+    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
+}
+
 } // namespace platform

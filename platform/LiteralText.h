@@ -12,4 +12,7 @@ namespace platform {
  */
 QString literalText(QString text);
 
+/** A tooltip that shows the text as it is, even if it looks like rich text. */
+QString literalToolTip(const QString& text);
+
 } // namespace platform

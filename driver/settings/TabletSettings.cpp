@@ -67,6 +67,7 @@ TabletSettings decodeSettings(
     settings.threshold = record.Pen.PressureThreshold;
     std::ranges::transform(record.Key.SubKey, settings.buttons.begin(), decodeButton);
     settings.areStripsOn = {record.Key.Scrollbar0 == 0, record.Key.Scrollbar1 == 0};
-    settings.scrollSpeed = std::clamp<int>(record.Key.ScrollSpeed, 1, kQVFastestScroll);
+    settings.scrollSpeed =
+        std::clamp<int>(record.Key.ScrollSpeed, kQVSlowestScroll, kQVFastestScroll);
     return settings;
 }

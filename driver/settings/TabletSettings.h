@@ -37,19 +37,19 @@ struct TabletSettings {
     TabletRect area{0, 0, 1, 1}; ///< its part in use, in tablet units of the turned tablet
     /** The part of the virtual pen's range that the area covers, each side from 0 to 1. */
     TabletRect target{0, 0, 1, 1};
-    /** Quarter turns clockwise that the desktop gives the range, and that are undone before. */
+    /** Quarter turns clockwise by which the desktop rotates the range; they are undone first. */
     int desktopTurns = 0;
     bool isTurned = false; ///< by 180 degrees
     bool isCalibrating = false; ///< the pen moves nothing; raw reports go to the panel
     int threshold = kQVStraightThreshold; ///< of the pressure, for QVPressResponse()
     std::array<ButtonAssignment, kQVSlotCount> buttons{};
     std::array<bool, 2> areStripsOn{true, true};
-    int scrollSpeed = 5; ///< 1 to 10
+    int scrollSpeed = kQVUsualScroll; ///< kQVSlowestScroll to kQVFastestScroll
 };
 
 /**
- * Decodes a record. Values that make no sense give those of a new tablet: an empty area is the
- * whole tablet, an unknown action is none.
+ * Decodes a record. Invalid values are replaced: an empty area by the whole tablet, an unknown
+ * action by none.
  *
  * @param target the part of the virtual pen's range that the mapped display area covers
  * @param isCalibrating whether a panel waits for raw reports; a flag left in a file is no panel

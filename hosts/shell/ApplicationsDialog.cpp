@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ApplicationsDialog.h"
 
+#include "LiteralText.h"
 #include "OpenPanel.h"
 
 #include <QDialogButtonBox>
@@ -119,7 +120,7 @@ void ApplicationsDialog::addRow(const QString& id, const platform::Application& 
     mIDs.append(id);
     auto* const item = new QListWidgetItem(platform::iconOf(application), application.name, mList);
     // The text may come from somebody else's file.
-    item->setToolTip(QStringLiteral("<span>%1</span>").arg(id.toHtmlEscaped()));
+    item->setToolTip(platform::literalToolTip(id));
 }
 
 void ApplicationsDialog::add()

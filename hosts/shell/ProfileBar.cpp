@@ -5,16 +5,15 @@
 #include "ApplicationsDialog.h"
 #include "FollowService.h"
 #include "ImportDialog.h"
+#include "LiteralText.h"
 #include "MenuComboBox.h"
 #include "ProfileNameDialog.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
-#include <QCoreApplication>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QHelpEvent>
-#include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
 #include <QMessageBox>
@@ -28,7 +27,6 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <array>
 #include <utility>
 
 using Profiles = platform::PaneProfiles;
@@ -44,18 +42,9 @@ void openOnce(QDialog& dialog)
     dialog.open();
 }
 
-/** A tooltip that shows the text literally. */
-QString literalToolTip(const QString& text)
-{
-    return QStringLiteral("<span>%1</span>").arg(text.toHtmlEscaped());
-}
-
 } // namespace
 
-/**
- * The list of the profiles. Neither the wheel nor a key on the closed list chooses anything, since
- * a choice replaces all settings at once. A long name is elided.
- */
+/** The list of the profiles. A long name is elided. */
 class ProfileBar::List final : public platform::MenuComboBox {
 public:
     explicit List(QWidget* parent)
@@ -83,7 +72,8 @@ public:
             for (const QString& name : std::as_const(mNames)) {
                 //: Item of the list of profiles, while the settings are those of none.
                 addItem(name.isEmpty() ? ProfileBar::tr("None") : name, name);
-                setItemData(count() - 1, literalToolTip(itemText(count() - 1)), Qt::ToolTipRole);
+                setItemData(
+                    count() - 1, platform::literalToolTip(itemText(count() - 1)), Qt::ToolTipRole);
             }
         }
         const int index = hasCurrent ? static_cast<int>(mNames.indexOf(current)) : 0;
@@ -121,7 +111,7 @@ protected:
             initStyleOption(&option);
             if (fontMetrics().horizontalAdvance(currentText()) > textWidth(option)) {
                 const auto& help = static_cast<QHelpEvent&>(*event); // NOLINT(*-downcast): its type
-                QToolTip::showText(help.globalPos(), literalToolTip(currentText()), this);
+                QToolTip::showText(help.globalPos(), platform::literalToolTip(currentText()), this);
                 return true;
             }
         }
