@@ -118,10 +118,10 @@ Result<QVProfile> QVReadProfile(const platform::PropertyList& list)
     const std::optional<platform::Number> version = root.number(kFormatKey);
     const std::optional<platform::Number> product = root.number(kProductKey);
     if (!version || !version->isWhole() || !product) {
-        return Error{ProfileTexts::tr("It is not a profile.")};
+        return Error{ProfileTexts::tr("The file is not a profile.")};
     }
     if (version->longValue() != kFormatVersion) {
-        return Error{ProfileTexts::tr("It is a profile of another version.")};
+        return Error{ProfileTexts::tr("The file is a profile of an unsupported version.")};
     }
     QVProfile profile;
     profile.name = textOf(root.string(kNameKey).value_or(""));

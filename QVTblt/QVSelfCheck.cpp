@@ -72,7 +72,7 @@ bool hasDriver(const Facts& facts)
 Finding checkDriver(const Facts& facts)
 {
     if (facts.bus != Facts::Bus::Answers) {
-        return unchecked(QT_TRANSLATE_NOOP("SelfCheck", "The driver was not looked for."));
+        return unchecked(QT_TRANSLATE_NOOP("SelfCheck", "The driver was not checked."));
     }
     switch (facts.driver) {
     case Facts::Driver::Running:
@@ -152,7 +152,8 @@ Finding checkAccess(const Facts& facts)
         };
     };
     if (std::ranges::any_of(facts.tablets, isShut(true))) {
-        return bad({QT_TRANSLATE_NOOP("SelfCheck", "You may not open the tablet.")},
+        return bad(
+            {QT_TRANSLATE_NOOP("SelfCheck", "You do not have permission to open the tablet.")},
             accessRemedy(facts.hasPenRule, kInstallAccess));
     }
     const bool hasPen = std::ranges::any_of(facts.tablets, &QVConnectedTablet::isPen);
@@ -163,7 +164,8 @@ Finding checkAccess(const Facts& facts)
     }
     if (std::ranges::any_of(facts.tablets, isShut(false))) {
         return bad({QT_TRANSLATE_NOOP("SelfCheck",
-                       "You may not open the tablet over USB, so its speed cannot be set.")},
+                       "You do not have permission to open the tablet over USB, so its speed "
+                       "cannot be set.")},
             accessRemedy(facts.hasUsbRule,
                 QT_TRANSLATE_NOOP(
                     "SelfCheck", "Install the package qvtblt, and plug the tablet in again.")));
@@ -204,7 +206,8 @@ Finding checkFile(const Facts& facts)
                 "SelfCheck", "Move the file away and restart the driver, which makes a new one."));
     case Facts::File::NotWritable:
         return bad({QT_TRANSLATE_NOOP("SelfCheck", "The settings file cannot be written.")},
-            QT_TRANSLATE_NOOP("SelfCheck", "Allow yourself to write the file and its folder."));
+            QT_TRANSLATE_NOOP(
+                "SelfCheck", "Give yourself write permission for the file and its folder."));
     case Facts::File::NoRoom:
         return bad(
             {QT_TRANSLATE_NOOP("SelfCheck", "The disk with the settings file has no room left.")},
@@ -245,8 +248,8 @@ Finding checkModule(const Facts& facts)
     case Facts::Module::Fits:
         break;
     }
-    return good(
-        {QT_TRANSLATE_NOOP("SelfCheck", "The panel fits the version of Qt, %1."), facts.moduleQt});
+    return good({QT_TRANSLATE_NOOP("SelfCheck", "The panel matches the version of Qt, %1."),
+        facts.moduleQt});
 }
 
 Finding checkMapping(const Facts& facts)

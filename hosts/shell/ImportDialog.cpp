@@ -57,13 +57,13 @@ ImportDialog::ImportDialog(platform::PaneProfiles::Import import, QWidget* paren
     mContents->setSelectionMode(QAbstractItemView::NoSelection); // there is nothing to choose
     //: Name of the list, for screen readers.
     mContents->setAccessibleName(tr("What is in the profile"));
-    addLines(mImport.changes.isEmpty() ? tr("It sets everything as it is now.")
+    addLines(mImport.changes.isEmpty() ? tr("It changes nothing.")
                                        //: Heading of a list.
                                        : tr("It changes:"),
         mImport.changes);
     if (!mImport.leftOut.isEmpty()) {
         //: Heading of a list.
-        addLines(tr("It leaves out, since it does not fit your tablet:"), mImport.leftOut);
+        addLines(tr("Left out, because it does not fit your tablet:"), mImport.leftOut);
     }
     if (!mImport.applications.isEmpty()) {
         QStringList names;

@@ -48,7 +48,7 @@ SelfCheckDialog::SelfCheckDialog(platform::PreferencePane& pane, QWidget* parent
     mCheck = buttons->addButton(tr("Check A&gain"), QDialogButtonBox::ActionRole);
     //: Button of the self-check: copies what was found to the clipboard.
     mCopy = buttons->addButton(tr("Copy &Report"), QDialogButtonBox::ActionRole);
-    mCopy->setToolTip(tr("For whoever helps you. It contains nothing personal."));
+    mCopy->setToolTip(tr("For the person who helps you. It contains no personal data."));
     mCopy->setAccessibleDescription(mCopy->toolTip());
     connect(mCheck, &QPushButton::clicked, this, &SelfCheckDialog::check);
     connect(mCopy, &QPushButton::clicked, this, &SelfCheckDialog::copyReport);
@@ -95,7 +95,7 @@ void SelfCheckDialog::showResult(const platform::PreferencePane::SelfCheck& chec
     const bool isGood = problem == check.stages.end();
     mStages->setCurrentRow(isGood ? 0 : static_cast<int>(problem - check.stages.begin()));
     mResult->hide(); // screen readers announce only what appears
-    mResult->setText(isGood ? tr("Nothing wrong was found.")
+    mResult->setText(isGood ? tr("No problems were found.")
                             : tr("Something is wrong. Begin with the first problem:"));
     mResult->show();
     mCheck->setEnabled(true);

@@ -219,15 +219,15 @@
         <translation>Was im Profil steht</translation>
     </message>
     <message>
-        <source>It sets everything as it is now.</source>
-        <translation>Es stellt alles so ein, wie es jetzt ist.</translation>
+        <source>It changes nothing.</source>
+        <translation>Es ändert nichts.</translation>
     </message>
     <message>
         <source>It changes:</source>
         <translation>Es ändert:</translation>
     </message>
     <message>
-        <source>It leaves out, since it does not fit your tablet:</source>
+        <source>Left out, because it does not fit your tablet:</source>
         <extracomment>Heading of a list.</extracomment>
         <translation>Es lässt weg, weil es nicht zu Ihrem Tablett passt:</translation>
     </message>
@@ -918,11 +918,11 @@
         <translation>Der Name enthält Zeichen, die nicht angezeigt werden können.</translation>
     </message>
     <message>
-        <source>It is not a profile.</source>
+        <source>The file is not a profile.</source>
         <translation>Das ist kein Profil.</translation>
     </message>
     <message>
-        <source>It is a profile of another version.</source>
+        <source>The file is a profile of an unsupported version.</source>
         <translation>Das ist ein Profil einer anderen Version.</translation>
     </message>
 </context>
@@ -1439,15 +1439,15 @@
         <translation>Installieren Sie das Paket tdsg-driver-access, und stecken Sie das Tablett neu ein.</translation>
     </message>
     <message>
-        <source>You may not open the tablet.</source>
-        <translation>Sie dürfen das Tablett nicht öffnen.</translation>
+        <source>You do not have permission to open the tablet.</source>
+        <translation>Sie haben keine Berechtigung, das Tablett zu öffnen.</translation>
     </message>
     <message>
         <source>You may not open /dev/uinput, which the driver needs.</source>
         <translation>Sie dürfen /dev/uinput nicht öffnen, das der Treiber braucht.</translation>
     </message>
     <message>
-        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <source>You do not have permission to open the tablet over USB, so its speed cannot be set.</source>
         <translation>Sie dürfen das Tablett nicht über USB öffnen, daher lässt sich seine Geschwindigkeit nicht einstellen.</translation>
     </message>
     <message>
@@ -1491,8 +1491,8 @@
         <translation>Die Einstellungsdatei lässt sich nicht schreiben.</translation>
     </message>
     <message>
-        <source>Allow yourself to write the file and its folder.</source>
-        <translation>Erlauben Sie sich, die Datei und ihren Ordner zu schreiben.</translation>
+        <source>Give yourself write permission for the file and its folder.</source>
+        <translation>Geben Sie sich Schreibrechte für die Datei und ihren Ordner.</translation>
     </message>
     <message>
         <source>The disk with the settings file has no room left.</source>
@@ -1535,7 +1535,7 @@
         <translation>Installieren Sie die Einstellungen aus derselben Ausgabe wie die Arbeitsfläche.</translation>
     </message>
     <message>
-        <source>The panel fits the version of Qt, %1.</source>
+        <source>The panel matches the version of Qt, %1.</source>
         <translation>Die Einstellungen passen zur Version von Qt, %1.</translation>
     </message>
     <message>
@@ -1551,8 +1551,8 @@
         <translation>Der Bildschirm des Stifts ist wählbar.</translation>
     </message>
     <message>
-        <source>The driver was not looked for.</source>
-        <translation>Der Treiber wurde nicht gesucht.</translation>
+        <source>The driver was not checked.</source>
+        <translation>Der Treiber wurde nicht geprüft.</translation>
     </message>
     <message>
         <source>The driver was not asked.</source>
@@ -1602,7 +1602,7 @@
         <translation>&amp;Bericht kopieren</translation>
     </message>
     <message>
-        <source>For whoever helps you. It contains nothing personal.</source>
+        <source>For the person who helps you. It contains no personal data.</source>
         <translation>Für alle, die Ihnen helfen. Er enthält nichts Persönliches.</translation>
     </message>
     <message>
@@ -1610,7 +1610,7 @@
         <translation>Wird geprüft …</translation>
     </message>
     <message>
-        <source>Nothing wrong was found.</source>
+        <source>No problems were found.</source>
         <translation>Es wurde kein Fehler gefunden.</translation>
     </message>
     <message>

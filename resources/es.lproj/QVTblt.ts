@@ -219,15 +219,15 @@
         <translation>Lo que contiene el perfil</translation>
     </message>
     <message>
-        <source>It sets everything as it is now.</source>
-        <translation>Lo deja todo como está ahora.</translation>
+        <source>It changes nothing.</source>
+        <translation>No cambia nada.</translation>
     </message>
     <message>
         <source>It changes:</source>
         <translation>Cambia:</translation>
     </message>
     <message>
-        <source>It leaves out, since it does not fit your tablet:</source>
+        <source>Left out, because it does not fit your tablet:</source>
         <extracomment>Heading of a list.</extracomment>
         <translation>Omite, porque no es para su tableta:</translation>
     </message>
@@ -918,11 +918,11 @@
         <translation>El nombre contiene caracteres que no se pueden mostrar.</translation>
     </message>
     <message>
-        <source>It is not a profile.</source>
+        <source>The file is not a profile.</source>
         <translation>No es un perfil.</translation>
     </message>
     <message>
-        <source>It is a profile of another version.</source>
+        <source>The file is a profile of an unsupported version.</source>
         <translation>Es un perfil de otra versión.</translation>
     </message>
 </context>
@@ -1439,7 +1439,7 @@
         <translation>Instale el paquete tdsg-driver-access y vuelva a conectar la tableta.</translation>
     </message>
     <message>
-        <source>You may not open the tablet.</source>
+        <source>You do not have permission to open the tablet.</source>
         <translation>No tiene permiso para abrir la tableta.</translation>
     </message>
     <message>
@@ -1447,7 +1447,7 @@
         <translation>No tiene permiso para abrir /dev/uinput, que el controlador necesita.</translation>
     </message>
     <message>
-        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <source>You do not have permission to open the tablet over USB, so its speed cannot be set.</source>
         <translation>No tiene permiso para abrir la tableta por USB, así que no se puede ajustar su velocidad.</translation>
     </message>
     <message>
@@ -1491,7 +1491,7 @@
         <translation>No se puede escribir en el archivo de ajustes.</translation>
     </message>
     <message>
-        <source>Allow yourself to write the file and its folder.</source>
+        <source>Give yourself write permission for the file and its folder.</source>
         <translation>Dese permiso para escribir en el archivo y en su carpeta.</translation>
     </message>
     <message>
@@ -1535,7 +1535,7 @@
         <translation>Instale el panel de la misma versión que el escritorio.</translation>
     </message>
     <message>
-        <source>The panel fits the version of Qt, %1.</source>
+        <source>The panel matches the version of Qt, %1.</source>
         <translation>El panel corresponde a la versión de Qt, la %1.</translation>
     </message>
     <message>
@@ -1551,8 +1551,8 @@
         <translation>Se puede elegir la pantalla del lápiz.</translation>
     </message>
     <message>
-        <source>The driver was not looked for.</source>
-        <translation>No se ha buscado el controlador.</translation>
+        <source>The driver was not checked.</source>
+        <translation>No se ha comprobado el controlador.</translation>
     </message>
     <message>
         <source>The driver was not asked.</source>
@@ -1602,7 +1602,7 @@
         <translation>Copiar el &amp;informe</translation>
     </message>
     <message>
-        <source>For whoever helps you. It contains nothing personal.</source>
+        <source>For the person who helps you. It contains no personal data.</source>
         <translation>Para quien le ayude. No contiene nada personal.</translation>
     </message>
     <message>
@@ -1610,7 +1610,7 @@
         <translation>Comprobando…</translation>
     </message>
     <message>
-        <source>Nothing wrong was found.</source>
+        <source>No problems were found.</source>
         <translation>No se ha encontrado ningún problema.</translation>
     </message>
     <message>

@@ -219,15 +219,15 @@
         <translation>Ce que contient le profil</translation>
     </message>
     <message>
-        <source>It sets everything as it is now.</source>
-        <translation>Il règle tout comme c’est maintenant.</translation>
+        <source>It changes nothing.</source>
+        <translation>Il ne change rien.</translation>
     </message>
     <message>
         <source>It changes:</source>
         <translation>Il modifie&#xa0;:</translation>
     </message>
     <message>
-        <source>It leaves out, since it does not fit your tablet:</source>
+        <source>Left out, because it does not fit your tablet:</source>
         <extracomment>Heading of a list.</extracomment>
         <translation>Il laisse de côté, car cela ne convient pas à votre tablette&#xa0;:</translation>
     </message>
@@ -918,11 +918,11 @@
         <translation>Le nom contient des caractères qui ne peuvent pas être affichés.</translation>
     </message>
     <message>
-        <source>It is not a profile.</source>
+        <source>The file is not a profile.</source>
         <translation>Ce n’est pas un profil.</translation>
     </message>
     <message>
-        <source>It is a profile of another version.</source>
+        <source>The file is a profile of an unsupported version.</source>
         <translation>C’est un profil d’une autre version.</translation>
     </message>
 </context>
@@ -1439,7 +1439,7 @@
         <translation>Installez le paquet tdsg-driver-access et rebranchez la tablette.</translation>
     </message>
     <message>
-        <source>You may not open the tablet.</source>
+        <source>You do not have permission to open the tablet.</source>
         <translation>Vous n&apos;avez pas le droit d&apos;ouvrir la tablette.</translation>
     </message>
     <message>
@@ -1447,7 +1447,7 @@
         <translation>Vous n&apos;avez pas le droit d&apos;ouvrir /dev/uinput, dont le pilote a besoin.</translation>
     </message>
     <message>
-        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <source>You do not have permission to open the tablet over USB, so its speed cannot be set.</source>
         <translation>Vous n&apos;avez pas le droit d&apos;ouvrir la tablette par USB&#xa0;: sa vitesse ne peut pas être réglée.</translation>
     </message>
     <message>
@@ -1491,7 +1491,7 @@
         <translation>Le fichier de réglages ne peut pas être écrit.</translation>
     </message>
     <message>
-        <source>Allow yourself to write the file and its folder.</source>
+        <source>Give yourself write permission for the file and its folder.</source>
         <translation>Donnez-vous le droit d&apos;écrire le fichier et son dossier.</translation>
     </message>
     <message>
@@ -1535,7 +1535,7 @@
         <translation>Installez le panneau de la même version que le bureau.</translation>
     </message>
     <message>
-        <source>The panel fits the version of Qt, %1.</source>
+        <source>The panel matches the version of Qt, %1.</source>
         <translation>Le panneau correspond à la version de Qt, %1.</translation>
     </message>
     <message>
@@ -1551,8 +1551,8 @@
         <translation>L&apos;écran du stylet peut être choisi.</translation>
     </message>
     <message>
-        <source>The driver was not looked for.</source>
-        <translation>Le pilote n’a pas été cherché.</translation>
+        <source>The driver was not checked.</source>
+        <translation>Le pilote n’a pas été vérifié.</translation>
     </message>
     <message>
         <source>The driver was not asked.</source>
@@ -1602,7 +1602,7 @@
         <translation>Copier le &amp;rapport</translation>
     </message>
     <message>
-        <source>For whoever helps you. It contains nothing personal.</source>
+        <source>For the person who helps you. It contains no personal data.</source>
         <translation>Pour qui vous aide. Il ne contient rien de personnel.</translation>
     </message>
     <message>
@@ -1610,7 +1610,7 @@
         <translation>Vérification…</translation>
     </message>
     <message>
-        <source>Nothing wrong was found.</source>
+        <source>No problems were found.</source>
         <translation>Aucun problème n&apos;a été trouvé.</translation>
     </message>
     <message>

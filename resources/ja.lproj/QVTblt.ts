@@ -219,15 +219,15 @@
         <translation>プロファイルの内容</translation>
     </message>
     <message>
-        <source>It sets everything as it is now.</source>
-        <translation>すべて現在と同じ設定です。</translation>
+        <source>It changes nothing.</source>
+        <translation>何も変更しません。</translation>
     </message>
     <message>
         <source>It changes:</source>
         <translation>変更される設定:</translation>
     </message>
     <message>
-        <source>It leaves out, since it does not fit your tablet:</source>
+        <source>Left out, because it does not fit your tablet:</source>
         <extracomment>Heading of a list.</extracomment>
         <translation>お使いのタブレットに合わないため除かれる設定:</translation>
     </message>
@@ -918,11 +918,11 @@
         <translation>表示できない文字が名前に含まれています。</translation>
     </message>
     <message>
-        <source>It is not a profile.</source>
+        <source>The file is not a profile.</source>
         <translation>プロファイルではありません。</translation>
     </message>
     <message>
-        <source>It is a profile of another version.</source>
+        <source>The file is a profile of an unsupported version.</source>
         <translation>別のバージョンのプロファイルです。</translation>
     </message>
 </context>
@@ -1439,7 +1439,7 @@
         <translation>パッケージ tdsg-driver-access をインストールして、タブレットを接続し直してください。</translation>
     </message>
     <message>
-        <source>You may not open the tablet.</source>
+        <source>You do not have permission to open the tablet.</source>
         <translation>タブレットを開く権限がありません。</translation>
     </message>
     <message>
@@ -1447,7 +1447,7 @@
         <translation>ドライバーに必要な /dev/uinput を開く権限がありません。</translation>
     </message>
     <message>
-        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <source>You do not have permission to open the tablet over USB, so its speed cannot be set.</source>
         <translation>USB でタブレットを開く権限がないため、速度を設定できません。</translation>
     </message>
     <message>
@@ -1491,7 +1491,7 @@
         <translation>設定ファイルに書き込めません。</translation>
     </message>
     <message>
-        <source>Allow yourself to write the file and its folder.</source>
+        <source>Give yourself write permission for the file and its folder.</source>
         <translation>ファイルとフォルダーに書き込む権限を自分に与えてください。</translation>
     </message>
     <message>
@@ -1535,7 +1535,7 @@
         <translation>デスクトップと同じリリースのパネルをインストールしてください。</translation>
     </message>
     <message>
-        <source>The panel fits the version of Qt, %1.</source>
+        <source>The panel matches the version of Qt, %1.</source>
         <translation>パネルは Qt のバージョン %1 に合っています。</translation>
     </message>
     <message>
@@ -1551,7 +1551,7 @@
         <translation>ペンのディスプレイを選べます。</translation>
     </message>
     <message>
-        <source>The driver was not looked for.</source>
+        <source>The driver was not checked.</source>
         <translation>ドライバーは確認していません。</translation>
     </message>
     <message>
@@ -1602,7 +1602,7 @@
         <translation>レポートをコピー(&amp;R)</translation>
     </message>
     <message>
-        <source>For whoever helps you. It contains nothing personal.</source>
+        <source>For the person who helps you. It contains no personal data.</source>
         <translation>助けてくれる人のためのものです。個人的な情報は含まれません。</translation>
     </message>
     <message>
@@ -1610,7 +1610,7 @@
         <translation>確認中…</translation>
     </message>
     <message>
-        <source>Nothing wrong was found.</source>
+        <source>No problems were found.</source>
         <translation>問題は見つかりませんでした。</translation>
     </message>
     <message>

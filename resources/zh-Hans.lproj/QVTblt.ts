@@ -219,15 +219,15 @@
         <translation>配置方案的内容</translation>
     </message>
     <message>
-        <source>It sets everything as it is now.</source>
-        <translation>它的设置与当前完全相同。</translation>
+        <source>It changes nothing.</source>
+        <translation>它不会更改任何设置。</translation>
     </message>
     <message>
         <source>It changes:</source>
         <translation>它会更改：</translation>
     </message>
     <message>
-        <source>It leaves out, since it does not fit your tablet:</source>
+        <source>Left out, because it does not fit your tablet:</source>
         <extracomment>Heading of a list.</extracomment>
         <translation>由于不适合您的数位板而略去：</translation>
     </message>
@@ -918,11 +918,11 @@
         <translation>名称包含无法显示的字符。</translation>
     </message>
     <message>
-        <source>It is not a profile.</source>
+        <source>The file is not a profile.</source>
         <translation>这不是配置方案。</translation>
     </message>
     <message>
-        <source>It is a profile of another version.</source>
+        <source>The file is a profile of an unsupported version.</source>
         <translation>这是其他版本的配置方案。</translation>
     </message>
 </context>
@@ -1439,7 +1439,7 @@
         <translation>请安装软件包 tdsg-driver-access，然后重新连接数位板。</translation>
     </message>
     <message>
-        <source>You may not open the tablet.</source>
+        <source>You do not have permission to open the tablet.</source>
         <translation>您没有打开数位板的权限。</translation>
     </message>
     <message>
@@ -1447,7 +1447,7 @@
         <translation>您没有打开 /dev/uinput 的权限，而驱动程序需要它。</translation>
     </message>
     <message>
-        <source>You may not open the tablet over USB, so its speed cannot be set.</source>
+        <source>You do not have permission to open the tablet over USB, so its speed cannot be set.</source>
         <translation>您没有通过 USB 打开数位板的权限，因此无法设置其速度。</translation>
     </message>
     <message>
@@ -1491,7 +1491,7 @@
         <translation>无法写入设置文件。</translation>
     </message>
     <message>
-        <source>Allow yourself to write the file and its folder.</source>
+        <source>Give yourself write permission for the file and its folder.</source>
         <translation>请为自己添加该文件及其文件夹的写入权限。</translation>
     </message>
     <message>
@@ -1535,7 +1535,7 @@
         <translation>请安装与桌面同一发行版本的设置面板。</translation>
     </message>
     <message>
-        <source>The panel fits the version of Qt, %1.</source>
+        <source>The panel matches the version of Qt, %1.</source>
         <translation>设置面板与 Qt 版本 %1 相符。</translation>
     </message>
     <message>
@@ -1551,8 +1551,8 @@
         <translation>可以选择笔所用的显示器。</translation>
     </message>
     <message>
-        <source>The driver was not looked for.</source>
-        <translation>没有查找驱动程序。</translation>
+        <source>The driver was not checked.</source>
+        <translation>未检查驱动程序。</translation>
     </message>
     <message>
         <source>The driver was not asked.</source>
@@ -1602,7 +1602,7 @@
         <translation>复制报告(&amp;R)</translation>
     </message>
     <message>
-        <source>For whoever helps you. It contains nothing personal.</source>
+        <source>For the person who helps you. It contains no personal data.</source>
         <translation>供帮助您的人使用，不含任何个人信息。</translation>
     </message>
     <message>
@@ -1610,7 +1610,7 @@
         <translation>正在检查…</translation>
     </message>
     <message>
-        <source>Nothing wrong was found.</source>
+        <source>No problems were found.</source>
         <translation>没有发现问题。</translation>
     </message>
     <message>

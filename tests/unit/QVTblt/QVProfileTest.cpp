@@ -99,11 +99,11 @@ TEST(Profile, isNotReadFromAnythingElse)
     };
     EXPECT_EQ(why([](const auto&) {}), "");
     EXPECT_EQ(why([](const auto& root) { root.setInteger("FormatVersion", 2); }),
-        "It is a profile of another version.");
+        "The file is a profile of an unsupported version.");
     EXPECT_EQ(why([](const auto& root) { root.setString("FormatVersion", "1"); }),
-        "It is not a profile.");
-    EXPECT_EQ(
-        why([](const auto& root) { root.setString("ProductID", "1"); }), "It is not a profile.");
+        "The file is not a profile.");
+    EXPECT_EQ(why([](const auto& root) { root.setString("ProductID", "1"); }),
+        "The file is not a profile.");
     EXPECT_EQ(
         why([](const auto& root) { root.setString("Name", " "); }), "A profile needs a name.");
     EXPECT_EQ(why([](const auto& root) { root.setInteger("Name", 5); }), "A profile needs a name.");

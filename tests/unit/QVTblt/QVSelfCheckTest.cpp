@@ -59,7 +59,7 @@ const Case kCases[] = {
     {"bus", [](Facts& facts) { facts.bus = Facts::Bus::Hangs; }, Status::Problem,
         "The session bus does not answer.", "Log out"},
     {"driver", [](Facts& facts) { facts.bus = Facts::Bus::Hangs; }, Status::NotChecked,
-        "The driver was not looked for.", ""},
+        "The driver was not checked.", ""},
     {"driver", [](Facts& facts) { facts.driver = Facts::Driver::Started; }, Status::Ok,
         "The driver was not running and has been started.", ""},
     {"driver", [](Facts& facts) { facts.driver = Facts::Driver::NotInstalled; }, Status::Problem,
@@ -96,13 +96,14 @@ const Case kCases[] = {
     {"access", [](Facts& facts) { facts.tablets.clear(); }, Status::NotChecked,
         "Access to the tablet was not checked.", ""},
     {"access", [](Facts& facts) { facts.tablets[0].mayBeOpened = false; }, Status::Problem,
-        "You may not open the tablet.", "Plug the tablet in again."},
+        "You do not have permission to open the tablet.", "Plug the tablet in again."},
     {"access",
         [](Facts& facts) {
             facts.tablets[0].mayBeOpened = false;
             facts.hasPenRule = false;
         },
-        Status::Problem, "You may not open the tablet.", "Install the package tdsg-driver-access"},
+        Status::Problem, "You do not have permission to open the tablet.",
+        "Install the package tdsg-driver-access"},
     {"access", [](Facts& facts) { facts.mayMakeDevices = false; }, Status::Problem,
         "You may not open /dev/uinput, which the driver needs.", "Plug the tablet in again."},
     {"access",
@@ -111,7 +112,8 @@ const Case kCases[] = {
             facts.hasUsbRule = false;
             facts.mayMakeDevices = false; // not needed without a pen
         },
-        Status::Problem, "You may not open the tablet over USB, so its speed cannot be set.",
+        Status::Problem,
+        "You do not have permission to open the tablet over USB, so its speed cannot be set.",
         "Install the package qvtblt,"},
     {"holder", [](Facts& /*facts*/) {}, Status::Ok, "None of your programs has the tablet open.",
         ""},
@@ -131,7 +133,7 @@ const Case kCases[] = {
     {"file", [](Facts& facts) { facts.file = Facts::File::Unusable; }, Status::Problem,
         "The settings file cannot be used.", "Move the file away"},
     {"file", [](Facts& facts) { facts.file = Facts::File::NotWritable; }, Status::Problem,
-        "The settings file cannot be written.", "Allow yourself"},
+        "The settings file cannot be written.", "Give yourself"},
     {"file", [](Facts& facts) { facts.file = Facts::File::NoRoom; }, Status::Problem,
         "The disk with the settings file has no room left.", "Delete something"},
     {"push", [](Facts& facts) { facts.answer = 0; }, Status::NotChecked,

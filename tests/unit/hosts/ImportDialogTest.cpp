@@ -74,7 +74,7 @@ TEST_F(Import, showsWhatIsInTheProfile)
     EXPECT_EQ(lines(),
         (QStringList{QStringLiteral("It changes:"), QStringLiteral("Pressure: 50"),
             QStringLiteral("Key 1: Ctrl Z"),
-            QStringLiteral("It leaves out, since it does not fit your tablet:"),
+            QStringLiteral("Left out, because it does not fit your tablet:"),
             QStringLiteral("Key 20"), QStringLiteral("It is for these applications:"),
             QStringLiteral("Paint"), QStringLiteral("org.example.Gone")}));
     EXPECT_EQ(mDialog->findChildren<QCheckBox*>().size(), 0);
@@ -84,7 +84,7 @@ TEST_F(Import, showsWhatIsInTheProfile)
 TEST_F(Import, saysThatItChangesNothing)
 {
     open();
-    EXPECT_EQ(lines(), QStringList{QStringLiteral("It sets everything as it is now.")});
+    EXPECT_EQ(lines(), QStringList{QStringLiteral("It changes nothing.")});
 }
 
 TEST_F(Import, letsNoButtonStartAnApplicationUnlessTheUserAllowsIt)

@@ -469,7 +469,7 @@ TEST_P(Shell, findsTheProblemWhereThereIsNoTablet)
     EXPECT_EQ(list.count(), 0);
     mPane->checkDone({});
     EXPECT_EQ(dialog->findChild<platform::NoticeLabel*>()->text(),
-        QStringLiteral("Nothing wrong was found."));
+        QStringLiteral("No problems were found."));
 }
 
 TEST_P(Shell, showsThePagesInsteadOfTheProblemWhenTheTabletIsThere)
