@@ -66,7 +66,7 @@ struct ReportModeOutcome {
     std::optional<platform::IOReturn> requested;
 };
 
-/** Has the tablet of the record use the record's report speed, by controlUSBDev(). */
+/** Sets the attached tablet's report mode to the record's report speed, with controlUSBDev(). */
 void QVSendReportSpeed();
 
 /** Like controlUSBDev(), but returns the outcome of the request. */

@@ -12,7 +12,6 @@
 #include <QLoggingCategory>
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
 #include <string>
 #include <vector>

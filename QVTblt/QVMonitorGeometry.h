@@ -50,7 +50,8 @@ struct QVTabletArea {
 void QVSetMappedArea(tagQVTabletInfo& info, const platform::Rect& area);
 
 /**
- * Stores the mapped area of the chosen display, or of all: of the only one, whatever the choice is.
+ * Stores the mapped area: the chosen display or all of them; with a single display, that one,
+ * whatever is chosen.
  *
  * @param displays their rectangles, in order; only as many count as the panel supports
  * @return false, with the area unchanged, if there is no display with that number, or none at all

@@ -22,7 +22,7 @@
 
 class QDBusPendingCallWatcher;
 
-/** The name on the session bus of who holds the tablet's settings, and its object. */
+/** The name on the session bus of the program that owns the tablet's settings, and its object. */
 inline constexpr QLatin1String kQVPanelService("org.quorvia.TabletPanel");
 inline constexpr QLatin1String kQVPanelPath("/org/quorvia/TabletPanel");
 inline constexpr QLatin1String kQVPanelInterface("org.quorvia.TabletPanel1");
@@ -95,12 +95,12 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     void Save(const QString& name);
     /** The record: 5077 bytes. */
     QByteArray Settings();
-    /** The caller's panel calibrates, during which nothing may be changed, or has ended that. */
+    /** The caller's panel has begun or ended a calibration; during one, nothing may be changed. */
     void NoteCalibration(bool isOn);
     /** The caller has saved the settings. */
     void NoteSaved();
 
-Q_SIGNALS: // never emitted, but declared for those who ask what there is
+Q_SIGNALS: // never emitted; declared only for introspection
     /** The settings, the profiles or the current one may have changed. */
     void Changed();
     /** The record has changed; sent once somebody has asked for Settings(). */

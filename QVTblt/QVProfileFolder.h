@@ -37,7 +37,7 @@ public:
 
     platform::Result<QVProfile> load(const QString& name) const;
 
-    /** Keeps the profile under its name, in the place of the one that has it. */
+    /** Saves the profile, replacing one of the same name. */
     platform::Result<> save(const QVProfile& profile) const;
     /** The same, but fails if there is one with its name. */
     platform::Result<> saveNew(const QVProfile& profile) const;

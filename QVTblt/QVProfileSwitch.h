@@ -4,7 +4,6 @@
 
 #include "QVProfileFolder.h"
 #include "Result.h"
-#include "tagQVTabletInfo.h"
 
 #include <QByteArray>
 #include <QMap>
@@ -64,9 +63,9 @@ public:
     /** Changes entries and pushes the record, but saves nothing. All of them, or none. */
     platform::Result<> edit(const QMap<QString, QString>& values);
 
-    /** Keeps the current settings as a profile, and takes that for the current one. */
+    /** Saves the current settings as a profile, which becomes the current one. */
     platform::Result<> save(const QString& name);
-    /** Gives a profile another name, also where it is the current one. */
+    /** Renames a profile; the current one stays current. */
     platform::Result<> rename(const QString& name, const QString& newName);
     platform::Result<> remove(const QString& name);
 
@@ -85,7 +84,7 @@ protected:
     /** Called when the record has been changed or loaded, before the push. */
     virtual void show() { }
     /**
-     * Has the mapped area follow from the chosen display. By default, from the displays of this
+     * Derives the mapped area from the chosen display. By default, from the displays of this
      * program's window system, if there is one.
      */
     virtual void map();

@@ -45,7 +45,8 @@ struct QVSelfCheckFacts {
     bool mayMakeDevices = false; ///< /dev/uinput may be opened
     bool hasPenRule = false; ///< 70-tdsg-driver-access.rules is installed
     bool hasUsbRule = false; ///< 60-quorvia-tablet.rules is installed
-    QStringList holders; ///< the user's programs that have a tablet open, except the driver
+    /** Names of the user's programs that have a tablet open, except the driver. */
+    QStringList holders;
 
     enum class File : std::uint8_t { Missing, Unusable, NotWritable, NoRoom, Good };
     File file = File::Missing;
@@ -87,7 +88,7 @@ struct QVStage {
 /** What to do, in the user's language; empty if nothing is to be done. */
 QString QVRemedyText(const QVStage& stage);
 
-/** Decides about all stages, each of which is always there. */
+/** Decides all stages; the result always contains every one. */
 std::vector<QVStage> QVDecideStages(const QVSelfCheckFacts& facts);
 
 /** What QVGatherFacts() cannot find out by itself; made on the main thread. */

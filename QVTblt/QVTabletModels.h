@@ -7,9 +7,8 @@
 #include <cstdint>
 
 /**
- * @file
- * The table of tablet models. Everything that depends on the model uses it: the panel, the driver
- * that comes with it, and the configuration files that this driver installs.
+ * @file The table of tablet models. Everything that depends on the model uses it: the panel, our
+ * driver, and the configuration files that it installs.
  */
 
 /** The USB vendor ID of all models. */
@@ -35,7 +34,7 @@ struct QVTabletModel {
     const char* picture; ///< resource with its type, capitals as they are; null for none
     std::uint16_t keyNum; ///< express keys
     std::uint16_t scrollNum; ///< scroll strips
-    std::uint16_t penButtons; ///< buttons of the pen that comes with it: 1 or 2
+    std::uint16_t penButtons; ///< buttons of its pen: 1 or 2
     std::uint16_t tabletXmax; ///< the active area is from (0, 0), in tablet units
     std::uint16_t tabletYmax;
     std::uint16_t pressureMax; ///< highest pressure value
@@ -67,7 +66,7 @@ inline constexpr auto kQVTabletModels = std::to_array<QVTabletModel>({
     // Five keys
     {0x5113, "Quorvia Etch M", QVKeyLayout::E, "tabletpic1.jpg", 5, 0, 1, 25400, 15875, 2047},
     {0x5114, "Quorvia Etch L", QVKeyLayout::E, "tabletpic1.jpg", 5, 0, 1, 40640, 25400, 2047},
-    // Seven keys; the first comes with a pen of one button
+    // Seven keys; the first has a pen with one button
     {0x5115, "Quorvia Contour Lite", QVKeyLayout::F, "tabletpic2.jpg", 7, 0, 1, 25400, 15875, 1023},
     {0x5116, "Quorvia Contour", QVKeyLayout::F, "tabletpic2.jpg", 7, 0, 2, 30480, 19050, 2047},
     {0x5117, "Quorvia Contour Pro", QVKeyLayout::F, "tabletpic2.jpg", 7, 0, 2, 40640, 25400, 8191},

@@ -3,7 +3,6 @@
 #include "Commands.h"
 #include "PropertyList.h"
 #include "QVConfigEntry.h"
-#include "RecordText.h"
 
 #include <QFile>
 

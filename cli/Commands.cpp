@@ -3,7 +3,6 @@
 #include "Commands.h"
 
 #include "AppleEventWire.h"
-#include "AppleEvents.h"
 #include "Bundle.h"
 #include "Client.h"
 #include "Doctor.h"

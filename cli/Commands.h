@@ -6,7 +6,7 @@
 #include <QStringList>
 
 inline constexpr int kExitGood = 0;
-inline constexpr int kExitBad = 1; ///< no driver, no tablet, or no usable file
+inline constexpr int kExitBad = 1; ///< the command has failed, or doctor has found a problem
 inline constexpr int kExitUsage = 2; ///< the command line is not valid
 
 /** What follows a command. */
@@ -36,7 +36,7 @@ int usageError(const QString& why);
 
 /**
  * Checks a configuration file or a pipe and prints a line for each entry: the verdict, its path,
- * and the problem.
+ * and its value or problem.
  *
  * @return kExitGood if the panel can use every entry: none is missing, of a wrong type or too big
  */

@@ -20,7 +20,7 @@ class FrontWindow : public QObject {
     Q_OBJECT
 
 public:
-    /** Reports what is in front, now and after each change, with changed(). */
+    /** Begins to report with changed(). Before the first report, application() may be unknown. */
     virtual void start() { }
 
     /** The application in front; nothing if there is none, or only a part of the desktop. */
@@ -29,7 +29,7 @@ public:
 Q_SIGNALS:
     /** application() may have changed. */
     void changed();
-    /** Nothing more will be known of the desktop, for this reason. */
+    /** The window in front can no longer be determined; the text says why. */
     void lost(const QString& why);
 };
 

@@ -4,7 +4,6 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusReply>
 #include <QDBusServiceWatcher>
 #include <QDir>
@@ -33,8 +32,8 @@ constexpr std::chrono::milliseconds kLongestScriptPause{5000};
 /** A KWin that has just appeared may not know scripts yet. */
 constexpr int kTriesToTell = 6;
 
-// KWin 5 has clients, KWin 6 windows. The names are bytes in KWin 5. What is special belongs to the
-// desktop: its background, its panels and what they show.
+// KWin 5 has clients, KWin 6 windows. In KWin 5, names are byte arrays. Special windows belong to
+// the desktop: its background, its panels and their pop-ups.
 constexpr const char* kScriptText = R"(
 function text(value) {
     return value === undefined || value === null ? "" : String(value);
@@ -105,7 +104,7 @@ bool KWinFront::isFromKWin() const
 {
     const bool isIts = !mOwner.isEmpty() && message().service() == mOwner;
     if (!isIts) {
-        sendErrorReply(QDBusError::AccessDenied, QStringLiteral("only KWin knows that"));
+        sendErrorReply(QDBusError::AccessDenied, QStringLiteral("only KWin may call this"));
     }
     return isIts;
 }

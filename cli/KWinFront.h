@@ -37,7 +37,7 @@ public:
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     /** The script runs. */
     Q_SCRIPTABLE void Started();
-    /** A window has come to the front. All are strings, since scripts have one type of number. */
+    /** A window has come to the front. All are strings: scripts have one type of number. */
     Q_SCRIPTABLE void Activated(const QString& desktopEntry, const QString& windowClass,
         const QString& windowName, const QString& processID);
 

@@ -9,7 +9,6 @@
 #include "QVProfileFolder.h"
 #include "QVProfileImport.h"
 #include "QVProfileSwitch.h"
-#include "QVTabletFields.h"
 #include "rzkApplication.h"
 
 #include <QDBusConnection>
@@ -42,7 +41,10 @@ Result<QVProfileFolder> profilesOfTablet()
     return QVProfileFolder(QVProductID(*GetqvTabletInfo()));
 }
 
-/** Has whoever holds the settings do something, since a panel has to show it; else does it here. */
+/**
+ * Lets the program that owns the settings do something, since a panel has to show it; if none does,
+ * does it here.
+ */
 template <class Here>
 Result<> throughPanel(const char* method, const QVariantList& operands, const Here& here)
 {

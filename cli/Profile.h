@@ -9,5 +9,5 @@
 /** Lists, uses and keeps the tablet's profiles, and exchanges them with others. */
 int runProfile(const Arguments& arguments);
 
-/** Whether that pushes settings, which depend on the displays. */
+/** Whether the command pushes settings, which depend on the displays. */
 bool profileNeedsDisplays(const Arguments& arguments);

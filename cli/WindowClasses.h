@@ -7,8 +7,8 @@
 #include <QStringList>
 
 /**
- * Which desktop entries the windows of a class belong to. Windows of X11 often have another class
- * than their desktop entry has a name; the entry then says so itself, in StartupWMClass.
+ * Which desktop entries the windows of a class belong to. The class of an X11 window often differs
+ * from the name of its desktop entry; the entry then gives the class in StartupWMClass.
  */
 class WindowClasses {
 public:

@@ -30,7 +30,7 @@ Commands:
   set ENTRY VALUE     change a setting, for example 'set Pen/PressureThreshold 120':
                       send it to the driver and save the tablet's file
   profile list [--json]
-                      print the tablet's profiles and the applications that use them;
+                      print the tablet's profiles and the applications they are for;
                       * marks the current one
   profile use NAME    use the settings of a profile
   profile next        use the next profile
@@ -43,15 +43,15 @@ Commands:
                       that would start applications get no action
   profile export NAME FILE
                       write a profile to a new file, for others
-  follow              use the profile for the application in front, until it is stopped
+  follow              use the profile for the application in front, until stopped
   usb-mode fast|normal
                       set the report speed of the tablet over USB
   tablet list [--json]
                       print the tablets that are plugged in
   tablet use ID       use a tablet of that list, now and when it is plugged in again
   tablet notices on|off
-                      whether to show a notice when a key pauses the pen or moves it
-                      to another display
+                      turn the notices on or off that are shown when a key pauses the
+                      pen or moves it to another display
   sim tap X Y         touch a point with the simulated pen, in tablet units,
                       while the panel calibrates
 

@@ -13,8 +13,8 @@
  * Creates the configuration file of a tablet, "<product ID>.plist", with every entry that a panel
  * knows, and says so. An existing file is never touched, whatever it contains.
  *
- * @param model of the table, or made of what the kernel says of a foreign tablet; the file of one
- *     that is not in the table has its name, for the panel
+ * @param model from the table, or built from the kernel's description of a foreign tablet; the file
+ * of a foreign tablet also holds its name, for the panel
  */
 platform::Result<> installConfigFile(
     const QVTabletModel& model, std::uint16_t vendorID = kQVVendorID);

@@ -80,7 +80,9 @@ public:
     const QString& chosenTablet() const { return mState.chosen; }
     void setChosenTablet(const QString& id);
 
-    /** Whether the user wants a short notice on the screen when a button changes where the pen is.
+    /**
+     * Whether the user wants a short notice on the screen when a key pauses the pen or moves it to
+     * another display.
      */
     bool showsNotices() const { return mState.showsNotices; }
     void setShowsNotices(bool areShown);

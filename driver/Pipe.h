@@ -9,7 +9,7 @@
 #include <memory>
 #include <unistd.h>
 
-/** Both ends of a pipe, which are negative if there is none to be had. */
+/** Both ends of a pipe, both negative if it could not be created. */
 struct Pipe {
     /** @param flags of pipe2(), besides O_CLOEXEC */
     explicit Pipe(int flags = 0)

@@ -340,7 +340,7 @@ void TabletController::obey(const RelayNote& note)
         break;
     case RelayNote::Kind::Busy:
         mIsBusy = true;
-        setProblem(QStringLiteral("Another program has taken %1.").arg(mTablet->name));
+        setProblem(QStringLiteral("Another program is using %1.").arg(mTablet->name));
         break;
     case RelayNote::Kind::Alive:
         Q_EMIT alive();

@@ -27,7 +27,7 @@
 
 struct TabletNodes;
 
-/** What becomes of the tablet. */
+/** The state of the tablet in use. */
 enum class TabletState : std::uint8_t {
     None, ///< none is plugged in
     Attached,
@@ -38,7 +38,7 @@ enum class TabletState : std::uint8_t {
 };
 
 /**
- * Has the tablet in use obey the settings: opens it, starts its input thread, and does what that
+ * Applies the settings to the tablet in use: opens it, starts its input thread, and does what that
  * thread leaves to the main thread. One tablet is in use at a time.
  */
 class TabletController final : public QObject {
@@ -108,7 +108,7 @@ private:
     std::optional<Tablet> mTablet;
     std::unique_ptr<Open> mOpen;
     QString mProblem;
-    bool mIsGone = false; ///< it has just been unplugged; udev has not told yet
+    bool mIsGone = false; ///< it has just been unplugged; udev has not reported it yet
     bool mIsBusy = false; ///< another program has it
     bool mIsPaused = false;
     std::uint32_t mDown = 0; ///< buttons that are down, as bits

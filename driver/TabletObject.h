@@ -62,7 +62,10 @@ public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
     QVTabletList Tablets() const { return mList(); }
     /** Uses a tablet from now on; an error if none with that ID is plugged in. */
     void Use(const QString& id);
-    /** Whether a short notice on the screen says so when a button changes where the pen is. */
+    /**
+     * Sets whether a short notice appears on the screen when a key pauses the pen or moves it to
+     * another display.
+     */
     void ShowNotices(bool areShown) { mNotices(areShown); }
 
 Q_SIGNALS:

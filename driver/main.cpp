@@ -16,7 +16,6 @@
 #include "TabletWindow.h"
 #include "UnixSignals.h"
 #include "Watchdog.h"
-#include "rzkApplication.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -166,7 +165,7 @@ int main(int argc, char* argv[])
 
     QCommandLineParser parser;
     parser.setApplicationDescription(
-        QStringLiteral("Driver of the Quorvia pen tablet, and of others, or of a simulated one."));
+        QStringLiteral("Driver for Quorvia and other pen tablets, or for a simulated one."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption listTabletsOption(

@@ -19,9 +19,9 @@ class QPushButton;
 namespace platform {
 
 /**
- * The dialog for choosing an application: those that were used last, then all others, by name. A
- * search looks at their keywords, too. Applications that cannot be used are there, and say why.
- * Icons are only loaded for rows that are visible.
+ * The dialog for choosing an application: those chosen last, then all others by name. A search
+ * looks at their keywords, too. Applications that cannot be used are listed with the reason. Icons
+ * are only loaded for rows that are visible.
  */
 class ApplicationChooser final : public QDialog {
     Q_OBJECT

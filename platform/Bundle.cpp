@@ -54,8 +54,8 @@ QHash<QString, QString> readTable(const std::optional<QString>& path)
     for (const std::string& key : list->root().keys()) {
         const QString name = QString::fromStdString(key);
         const auto text = list->root().string(key.c_str());
-        // A key that changes on the way, as one that is only a byte-order mark, would take the
-        // place of another.
+        // A key that the conversion changes, such as one that is only a byte-order mark, would
+        // replace another.
         if (text && name.toStdString() == key) {
             strings.insert(name, QString::fromUtf8(text->data(), static_cast<int>(text->size())));
         }

@@ -48,7 +48,8 @@ Result<> writeThrough(QFileDevice& file, std::string_view bytes)
 /** Never replaces a file that was created meanwhile. @return false with errno on failure */
 bool moveWithoutReplacing(const char* from, const char* to)
 {
-    // Some file systems, as those of memory cards, know no links; others, as NFS, not this flag.
+    // Some file systems, such as those of memory cards, have no links; others, such as NFS, do not
+    // support this flag.
     return ::renameat2(AT_FDCWD, from, AT_FDCWD, to, RENAME_NOREPLACE) == 0
         || (errno != EEXIST && ::linkat(AT_FDCWD, from, AT_FDCWD, to, 0) == 0);
 }

@@ -12,7 +12,6 @@
 #include <QStringList>
 
 #include <algorithm>
-#include <utility>
 
 namespace platform {
 

@@ -20,9 +20,9 @@ public:
     using Refusal = std::function<QString(const QString& path)>;
 
     /**
-     * Lets the user choose one application, until the user is done: one of those that are
-     * installed, or the file of any other: a desktop entry, an AppImage or an application bundle.
-     * None that the caller cannot use is ever chosen; the user is told why.
+     * Runs until the user has chosen an application or cancelled: an installed one, or the file of
+     * any other (a desktop entry, an AppImage or an application bundle). An application that the
+     * caller cannot use is refused, with the reason.
      *
      * A bundle is a folder named *.app. It counts as a file: entering it chooses it, even in the
      * desktop's own dialog. No other folder can be chosen.

@@ -23,7 +23,7 @@ namespace platform {
 /**
  * Sets of settings for different kinds of work that a pane keeps for its device: its profiles.
  * Their names are unique. A function that returns a text returns why it has failed, for the user;
- * empty on success.
+ * empty on success, so that a host needs no library for results.
  */
 class PaneProfiles {
 public:
@@ -61,7 +61,7 @@ public:
     /** Makes a profile's settings the device's. @param done is called then, perhaps at once */
     virtual void use(const QString& name, Done done) = 0;
 
-    /** Keeps the current settings under a name, also in the place of a profile that has it. */
+    /** Saves the current settings as a profile, replacing one of that name. */
     virtual QString save(const QString& name) = 0;
     virtual QString rename(const QString& name, const QString& newName) = 0;
     virtual QString duplicate(const QString& name, const QString& newName) = 0;
@@ -135,7 +135,7 @@ public:
         DeviceMayHaveChanged, ///< a driver has appeared, or has another device than before
         ChangedByItself, ///< the settings follow the displays and have not been sent since
         DisplayChosen, ///< a display has been chosen for the device, perhaps the same again
-        DisplaysChanged, ///< there are others, or in other places
+        DisplaysChanged, ///< displays were connected, disconnected or moved
         SettingsReplaced, ///< by those of a profile: there is no way back to earlier ones
     };
     using NewsHandler = std::function<void(News news, const QString& text)>;

@@ -11,8 +11,8 @@
 
 /**
  * Whether this user is at the machine: the session is the active one, not locked, and the machine
- * is not about to sleep. It is logind that says so; without it, the session always is. The machine
- * waits with its sleep for letSleep().
+ * is not about to sleep. logind reports this; without it, the session always counts as active. The
+ * machine does not sleep before letSleep().
  */
 class SeatSession final : public QObject {
     Q_OBJECT
@@ -25,8 +25,8 @@ public:
     bool isOurs() const { return mIsKnown && mIsActive && !mIsLocked && !mIsAsleep; }
 
     /**
-     * Tells that whatever the tablet had pressed is let go, so that the machine may sleep. While
-     * the session is ours, this does nothing: more can be pressed.
+     * Reports that everything the tablet held down is released, so that the machine may sleep.
+     * While the session is ours, this does nothing: more can be pressed.
      */
     void letSleep()
     {
@@ -46,7 +46,7 @@ private Q_SLOTS:
 
 private: // NOLINT(readability-redundant-access-specifiers): moc reads the one before
     void take(const QVariantMap& properties);
-    /** Tells if it has become ours, or is no longer. */
+    /** Emits changed() if isOurs() has changed. */
     void announce(bool wasOurs);
     void delaySleep();
 

@@ -15,8 +15,8 @@
 
 /** A pen tablet that is plugged in. */
 struct Tablet {
-    QString device; ///< what its nodes have in common: the USB device's path, or its like
-    QString name; ///< as the kernel has it
+    QString device; ///< what its nodes have in common: the USB device's path, or an equivalent
+    QString name; ///< as the kernel reports it
     std::uint16_t vendor = 0;
     std::uint16_t product = 0;
     QString serial; ///< empty if it has none
@@ -29,7 +29,7 @@ struct Tablet {
     bool operator==(const Tablet&) const = default;
 };
 
-/** Watches which pen tablets are plugged in. Devices that uinput makes are none. */
+/** Watches which pen tablets are plugged in. Devices made with uinput do not count. */
 class TabletMonitor final : public QObject {
     Q_OBJECT
 

@@ -153,7 +153,8 @@ Result<StartCommand> commandFor(const QString& path)
     if (file.isFile() && path.endsWith(QLatin1String(".desktop"))) {
         const QString gio = QStandardPaths::findExecutable(QStringLiteral("gio"));
         if (gio.isEmpty()) {
-            return Error{QStringLiteral("the program 'gio' is missing, which starts %1").arg(path)};
+            return Error{
+                QStringLiteral("the program 'gio', which starts %1, is missing").arg(path)};
         }
         return StartCommand{{gio, QStringLiteral("launch"), path}, true};
     }

@@ -26,7 +26,7 @@ public:
     /** Releases everything. */
     void releaseAll(Commands& commands);
 
-    /** The pen's buttons that are held, where these act as buttons of a mouse, as bits. */
+    /** Whether a held button of the pen acts as this mouse button. */
     bool penHolds(QVMouseButton button) const;
 
     /** The slots whose buttons are down, as bits. */

@@ -10,7 +10,7 @@ namespace {
 /** Notches for a whole strip or turn, for each step of the speed. */
 constexpr std::int64_t kNotchesPerLength = 2;
 
-/** A ring's turn has at least as many steps from one frame to the next. */
+/** Between two frames, a finger moves at most this part of a ring's turn: an eighth. */
 constexpr std::int64_t kLeastStepsOfTurn = 8;
 
 /** The speed at which a wheel's notch is one. */

@@ -13,8 +13,8 @@ using ModelNames = QMap<ushort, QString>;
 
 /**
  * Controls the simulated tablet over D-Bus, for people and tests. All public members are exported,
- * as org.quorvia.TabletSimulator1; of a driver with real tablets, only those that just report
- * something, which are marked as scriptable.
+ * as org.quorvia.TabletSimulator1; a driver of real tablets exports only those that report
+ * something, marked Q_SCRIPTABLE.
  */
 class TabletSimulator final : public QObject, protected QDBusContext {
     Q_OBJECT

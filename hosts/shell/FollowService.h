@@ -13,10 +13,10 @@
 #include <optional>
 
 /**
- * The user's service that has the profiles follow the application in front, qvtblt-follow.service:
- * whether the user's systemd starts it with each session, whether it runs, and turning it on and
- * off. Asks systemd over the session bus, without ever waiting for an answer, and does not have the
- * bus start it. Main thread only.
+ * Controls qvtblt-follow.service, the user's service that switches profiles with the application in
+ * front: reports whether systemd starts it with each session and whether it runs, and turns it on
+ * and off. Calls systemd over the session bus without waiting for an answer, and never makes the
+ * bus start systemd. Main thread only.
  */
 class FollowService final : public QObject {
     Q_OBJECT
@@ -58,7 +58,7 @@ private: // NOLINT(readability-redundant-access-specifiers): moc reads the one b
         const QString& interface, const QString& name, QObject* receiver, const char* slot);
 
     bool connectToBus();
-    /** Begins or ends to receive what becomes of systemd's jobs. */
+    /** Starts or stops receiving the results of systemd's jobs. */
     void hearOfJobs(Change change);
     void call(const char* method, const QVariantList& arguments, Next next);
     void takeState(const QDBusMessage& reply);

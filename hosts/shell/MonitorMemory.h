@@ -11,9 +11,9 @@
 #include <vector>
 
 /**
- * The number, from 1, of a remembered monitor among those that are there; nothing if it is not, or
- * if that cannot be told. It is known by maker, product and serial number. If several agree in
- * these, such as two of a kind without serial numbers, the connector decides.
+ * The number, from 1, of a remembered monitor among the connected ones; nothing if it is not
+ * connected or cannot be identified. It is identified by maker, product and serial number. If
+ * several agree in these, such as two of a kind without serial numbers, the connector decides.
  */
 std::optional<int> findMonitor(
     const platform::Monitor& remembered, const std::vector<platform::Monitor>& monitors);
@@ -34,7 +34,7 @@ public:
 
     /**
      * The settings may have changed: if they name another display, remembers its monitor. If they
-     * are back at the display of the showing's beginning, as after an undo, remembers what was
+     * name the display from the start of the showing again, as after an undo, restores what was
      * remembered then.
      *
      * @return whether they name another display

@@ -12,13 +12,12 @@
 class QAction;
 
 /**
- * Lets the user undo and redo the edits of one showing, up to a hundred: with
- * the keyboard, and in a menu beside the pane's tabs that names them. Undoing
- * an edit makes the settings what they were before it, which the pane sends and
- * shows.
+ * Lets the user undo and redo the edits of one showing, up to a hundred: with the keyboard, and in
+ * a menu beside the pane's tabs that names them. Undoing an edit makes the settings what they were
+ * before it, which the pane sends and shows.
  *
- * All that one press of a key or a button changes in the same setting is one
- * edit, such as the drag of a slider.
+ * Everything that one press of a key or button changes in the same setting is one edit, such as
+ * dragging a slider.
  */
 class PaneEdits final : public QObject {
     Q_OBJECT
@@ -51,5 +50,5 @@ private:
     QByteArray mLast; ///< the settings after the last edit
     bool mIsPassing = false; ///< the change is not an edit
     int mPresses = 0; ///< how often something was pressed
-    bool mIsPressed = false; ///< the last of these lasts
+    bool mIsPressed = false; ///< the last press has not been released
 };

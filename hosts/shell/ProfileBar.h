@@ -20,14 +20,14 @@ class QToolButton;
 
 /**
  * The row above the pane with its device's profiles: a list to use one, a button to save the
- * settings as one, and a menu with everything else. It is there while the pane has a device and
+ * settings as one, and a menu with everything else. It is visible while the pane has a device and
  * profiles.
  */
 class ProfileBar final : public QWidget {
     Q_OBJECT
 
 public:
-    /** @param pane has to be there until leavePane() */
+    /** @param pane must exist until leavePane() */
     ProfileBar(platform::PreferencePane& pane, QWidget* shell);
 
     /** The pane has a device, or none: shows the profiles of that. */

@@ -31,7 +31,7 @@ public:
     explicit PaneArea(std::unique_ptr<platform::PreferencePane> pane, QWidget* parent = nullptr);
     ~PaneArea() override;
 
-    /** Sets the function that is told whether there is anything to apply or reset. */
+    /** Sets the function to call with whether there is anything to apply or reset. */
     void setChangeHandler(std::function<void(bool)> handler);
 
     /** Saves the pane's settings. */

@@ -11,7 +11,6 @@
 #include <QScreen>
 #include <QTabWidget>
 
-#include <optional>
 #include <utility>
 
 PaneWindow::PaneWindow(std::unique_ptr<platform::PreferencePane> pane)

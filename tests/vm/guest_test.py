@@ -122,7 +122,7 @@ class TheTablet(guest.TestCase):
         other = os.open(wait_for(lambda: guest.Node.find(tablet.name), "its node"), os.O_RDONLY)
         fcntl.ioctl(other, EVIOCGRAB, 1)
         self.world.start_driver()
-        wait_for(lambda: self.world.property("Problem") == f"Another program has taken {tablet.name}.",
+        wait_for(lambda: self.world.property("Problem") == f"Another program is using {tablet.name}.",
                  "the problem")
         self.assertEqual(self.world.property("State"), "no-permission")
         os.close(other)
