@@ -125,11 +125,10 @@ class OnKWin(Following):
                     }}
                 }});
             }});""")
-        # Each has a name of its own, and stays, so that KWin 5 gives no number twice.
         self.scripts += 1
-        number = self.scripting("loadScript", "ss", str(script), f"test {self.scripts}").split()[1]
-        for path in (f"/Scripting/Script{number}", f"/{number}"):
-            self.scripting("run", path=path, interface="org.kde.kwin.Script")
+        self.scripting("loadScript", "ss", str(script), f"test {self.scripts}")
+        # All that do not run yet: its number may be that of another script, which would run.
+        self.scripting("start")
 
     def prepare(self):
         """Starts all and brings the first application to the front."""
