@@ -79,7 +79,9 @@ public:
     void tellSaved();
 
 public Q_SLOTS: // NOLINT(readability-redundant-access-specifiers): moc reads it
+    /** The names of the profiles. */
     QStringList Profiles();
+    /** The name of the current profile; empty if there is none. */
     QString Current();
     /** Uses a profile. */
     void Use(const QString& name);

@@ -35,6 +35,7 @@ public:
     /** The profiles in the order of their names, as the user's language sorts them. */
     std::vector<Item> list() const;
 
+    /** Loads the profile with that name. */
     platform::Result<QVProfile> load(const QString& name) const;
 
     /** Saves the profile, replacing one of the same name. */
@@ -42,7 +43,9 @@ public:
     /** The same, but fails if there is one with its name. */
     platform::Result<> saveNew(const QVProfile& profile) const;
 
+    /** Renames a profile, in the same file. */
     platform::Result<> rename(const QString& name, const QString& newName) const;
+    /** Deletes a profile, with its file and its desktop entry. */
     platform::Result<> remove(const QString& name) const;
 
     /** The name, or, if there is a profile with it, the name with the first free number. */

@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
+
+// Gathers the facts of the self-check: bus, driver, devices, file, module and desktop.
+
 #include "AppleEventWire.h"
 #include "LivingBus.h"
 #include "PropertyList.h"

@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
+
+// The command "check".
+
 #include "Commands.h"
 #include "PropertyList.h"
 #include "QVConfigEntry.h"

@@ -15,6 +15,7 @@ struct Arguments {
     bool asJson = false;
 };
 
+/** A command of qvtbltctl. */
 struct Command {
     const char* name;
     int least; ///< number of operands

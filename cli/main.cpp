@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
+
+// qvtbltctl: its help and its command line.
+
 #include "Commands.h"
 #include "QVEntryText.h"
 #include "Result.h"

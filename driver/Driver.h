@@ -78,6 +78,7 @@ public:
 
     /** The tablet that the user chose, as Tablet::id(); empty for the first one. */
     const QString& chosenTablet() const { return mState.chosen; }
+    /** Remembers the choice. */
     void setChosenTablet(const QString& id);
 
     /**
@@ -85,6 +86,7 @@ public:
      * another display.
      */
     bool showsNotices() const { return mState.showsNotices; }
+    /** Remembers whether they are shown. */
     void setShowsNotices(bool areShown);
 
     /** The settings of the attached tablet: those of the last push, or else those of its file. */
@@ -128,7 +130,9 @@ public:
     void saveState();
 
 Q_SIGNALS:
+    /** attached() has changed. */
     void attachedChanged(ushort productID);
+    /** A push was accepted; count is the number so far. */
     void pushed(uint count);
     /** A panel has begun to calibrate, or none does any longer. */
     void calibratingChanged(bool isCalibrating);

@@ -68,6 +68,7 @@ public:
 Q_SIGNALS:
     /** facts() may have changed. */
     void changed();
+    /** The answer to ask(). */
     void alive();
     /** A button of the tablet or of its pen is down or up. */
     void buttonChanged(ushort slot, bool isDown);

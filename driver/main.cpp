@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
+
+// tdsg-driver: its options, and what is started for them.
+
 #include "AppleEventWire.h"
 #include "Bundle.h"
 #include "DBusAppleEvents.h"

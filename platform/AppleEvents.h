@@ -162,6 +162,7 @@ public:
     virtual OSErr createObjSpecifier(
         DescType desiredClass, AEDesc container, DescType keyForm, AEDesc keyData, AEDesc& result);
 
+    /** Adds a parameter: a descriptor, or plain data with its type. */
     virtual OSErr putParamDesc(AppleEvent& event, AEKeyword keyword, AEDesc desc);
     virtual OSErr putParamPtr(
         AppleEvent& event, AEKeyword keyword, DescType type, std::span<const std::byte> data);
@@ -196,6 +197,7 @@ public:
     /** Installs a handler, replacing the previous one. */
     virtual OSErr installEventHandler(
         AEEventClass eventClass, AEEventID eventID, Handler handler) = 0;
+    /** Removes a handler; errAEHandlerNotFound if there is none. */
     virtual OSErr removeEventHandler(AEEventClass eventClass, AEEventID eventID) = 0;
 
     /**

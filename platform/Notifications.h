@@ -19,6 +19,7 @@
  */
 namespace platform {
 
+/** One notification, with what its observers may need. */
 struct Notification {
     QString name;
     const QObject* object = nullptr; ///< the sender

@@ -18,6 +18,7 @@ class QWidget;
  */
 namespace platform {
 
+/** The type of an event. */
 enum class EventType : std::int32_t {
     LeftMouseDown = 1,
     LeftMouseUp = 2,
@@ -36,6 +37,7 @@ constexpr std::uint32_t eventMask(EventType type)
 /** The subtype of a mouse event that comes from the pen. */
 inline constexpr std::int16_t kTabletPointSubtype = 1;
 
+/** The end of the device that caused an event. */
 enum class PointingDeviceType : std::uint8_t { Unknown = 0, Pen = 1, Cursor = 2, Eraser = 3 };
 
 /** For a mouse, only type, positions and pressure are set; for TabletProximity, only the device. */

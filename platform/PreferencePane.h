@@ -50,6 +50,7 @@ public:
         std::shared_ptr<const void> contents; ///< for the pane
     };
 
+    /** Receives the reason for a failure; empty on success. */
     using Done = std::function<void(const QString& error)>;
 
     virtual ~PaneProfiles() = default;
@@ -58,14 +59,18 @@ public:
     virtual std::vector<Profile> list() const = 0;
     /** The one that was used last; empty if there is none. */
     virtual QString current() const = 0;
-    /** Makes a profile's settings the device's. @param done is called then, perhaps at once */
+    /** Applies a profile's settings to the device. @param done is called then, perhaps at once */
     virtual void use(const QString& name, Done done) = 0;
 
     /** Saves the current settings as a profile, replacing one of that name. */
     virtual QString save(const QString& name) = 0;
+    /** Renames a profile. */
     virtual QString rename(const QString& name, const QString& newName) = 0;
+    /** Copies a profile under a new name. */
     virtual QString duplicate(const QString& name, const QString& newName) = 0;
+    /** Deletes a profile. */
     virtual QString remove(const QString& name) = 0;
+    /** Sets what a profile is for. */
     virtual QString setApplications(const QString& name, const QStringList& applications) = 0;
 
     /** Writes a profile into a file for others. */

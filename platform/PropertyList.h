@@ -79,6 +79,7 @@ public:
     /** Whether there is a dictionary. */
     bool exists() const { return mNode != nullptr; }
 
+    /** The kind of the value for the key; Absent if there is none. */
     EntryKind kind(const char* key) const;
 
     /** The number for the key; nothing if there is none or it is not a number. */

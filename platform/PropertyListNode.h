@@ -52,6 +52,7 @@ inline constexpr std::size_t kPropertyListMaxNodes = 1'000'000;
 /** The beginning of every binary list, of any version. */
 inline constexpr std::string_view kBinaryPropertyList = "bplist";
 
+/** Reads a list in XML, or in binary form. Fails if it is malformed or exceeds a limit. */
 Result<PropertyListNode> readXmlPropertyList(std::string_view bytes);
 Result<PropertyListNode> readBinaryPropertyList(std::string_view bytes);
 

@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
+
+// Reads and writes the XML form of property lists.
+
 #include "PropertyListNode.h"
 
 #include <QRegularExpression>

@@ -17,16 +17,19 @@ namespace platform {
 using TabletDeviceType = QInputDevice::DeviceType;
 using PointerType = QPointingDevice::PointerType;
 
+/** The event's position in its widget. */
 inline QPointF placeOf(const QSinglePointEvent& event)
 {
     return event.position();
 }
 
+/** The event's position on the desktop. */
 inline QPointF globalPlaceOf(const QSinglePointEvent& event)
 {
     return event.globalPosition();
 }
 
+/** The pen's serial number; 0 or less if it has none. */
 inline qint64 uniqueIDOf(const QTabletEvent& event)
 {
     return event.pointingDevice()->uniqueId().numericId();

@@ -98,6 +98,7 @@ class UsbInterfaceInterface {
 public:
     virtual ~UsbInterfaceInterface() = default;
 
+    /** Claims the interface, and releases it. */
     virtual IOReturn open() = 0;
     virtual IOReturn close() = 0;
 };

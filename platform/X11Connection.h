@@ -33,6 +33,7 @@ public:
 
     xcb_connection_t* get() const { return mConnection.get(); }
     std::uint32_t root() const { return mRoot; }
+    /** The socket, to wait for events. */
     int fileDescriptor() const;
 
     /**

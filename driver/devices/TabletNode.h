@@ -22,7 +22,7 @@ using NodeState = std::unique_ptr<libevdev, decltype(&libevdev_free)>;
 /** Reads the description and the present state of an open node, without taking events from it. */
 NodeState readNode(int fd);
 
-/** An axis. */
+/** The range and the resolution of an axis, as the kernel reports them. */
 struct Axis {
     std::int32_t minimum = 0;
     std::int32_t maximum = 0;

@@ -39,6 +39,7 @@ public:
 
     /** The pen from now on: the name of its event node, such as "event7"; empty for none. */
     void setPen(const QString& node);
+    /** The displays that the pen has to cover. */
     void setDesktop(const Desktop& desktop);
 
     /** Quarter turns by which KWin turns the place of the pen. */

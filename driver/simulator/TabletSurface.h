@@ -43,6 +43,7 @@ public:
     QSize minimumSizeHint() const override { return sizeHint() / 3; }
 
 Q_SIGNALS:
+    /** The tip was pressed down, dragged or lifted; in tablet units. */
     void penDown(ushort x, ushort y);
     void penDragged(ushort x, ushort y);
     void penUp();

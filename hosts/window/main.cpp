@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
+
+// qvtblt: the panel in a window.
+
 #include "PaneLoader.h"
 #include "PaneWindow.h"
 #include "QtVersions.h"
