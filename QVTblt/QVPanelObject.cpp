@@ -249,16 +249,7 @@ void QVPanelObject::NoteCalibration(bool isOn)
         endCalibration(caller);
     } else if (caller != mBus.baseService()) { // which may have become the owner meanwhile
         mCalibrating.addWatchedService(caller);
-        // It may have left the bus before it was watched.
-        auto* const question = new QDBusPendingCallWatcher(
-            mBus.asyncCall(platform::busCall("NameHasOwner", caller)), this);
-        connect(question, &QDBusPendingCallWatcher::finished, this, [this, question, caller] {
-            question->deleteLater();
-            const QDBusPendingReply<bool> hasOwner = *question;
-            if (hasOwner.isValid() && !hasOwner.value()) {
-                endCalibration(caller);
-            }
-        });
+        platform::ifGone(mBus, caller, *this, [this, caller] { endCalibration(caller); });
     }
 }
 

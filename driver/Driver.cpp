@@ -13,8 +13,6 @@
 #include "rzkApplication.h"
 
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QStringList>
 #include <QThread>
 
@@ -337,17 +335,7 @@ void Driver::beginCalibration(const QByteArray& panel)
     }
     const QString name = QString::fromUtf8(panel);
     mPanels.addWatchedService(name);
-    // It may have left the bus before it was watched.
-    auto* const answer =
-        new QDBusPendingCallWatcher(mBus.asyncCall(platform::busCall("NameHasOwner", name)), this);
-    connect(answer, &QDBusPendingCallWatcher::finished, this,
-        [this, name](QDBusPendingCallWatcher* answered) {
-            const QDBusPendingReply<bool> isThere = *answered;
-            if (isThere.isValid() && !isThere.value()) {
-                panelHasGone(name);
-            }
-            answered->deleteLater();
-        });
+    platform::ifGone(mBus, name, *this, [this, name] { panelHasGone(name); });
 }
 
 bool Driver::endCalibration(const QByteArray& panel)

@@ -4,6 +4,8 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
 #include <QDeadlineTimer>
 #include <QScopeGuard>
 
@@ -109,6 +111,20 @@ QDBusMessage busCall(const char* method, const QString& name)
         bus, QStringLiteral("/org/freedesktop/DBus"), bus, QLatin1String(method));
     call << name;
     return call;
+}
+
+void ifGone(const QDBusConnection& bus, const QString& name, QObject& context,
+    const std::function<void()>& act)
+{
+    auto* const question =
+        new QDBusPendingCallWatcher(bus.asyncCall(busCall("NameHasOwner", name)), &context);
+    QObject::connect(question, &QDBusPendingCallWatcher::finished, &context, [question, act] {
+        question->deleteLater();
+        const QDBusPendingReply<bool> hasOwner = *question;
+        if (hasOwner.isValid() && !hasOwner.value()) {
+            act();
+        }
+    });
 }
 
 bool isUnanswered(const QDBusError& error)

@@ -2,11 +2,14 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDBusConnection>
 #include <QDBusError>
 #include <QDBusMessage>
+#include <QObject>
 #include <QString>
 
 #include <chrono>
+#include <functional>
 
 namespace platform {
 
@@ -25,6 +28,15 @@ bool sessionBusAnswers(std::chrono::milliseconds limit);
 
 /** Creates a call to the bus itself: a method of org.freedesktop.DBus about a name on the bus. */
 QDBusMessage busCall(const char* method, const QString& name);
+
+/**
+ * Asks the bus whether somebody has the name, for a caller that may have left before it was
+ * watched. If nobody has it, calls the function later.
+ *
+ * @param context gets the pending call as a child, and must delete it before its connection closes
+ */
+void ifGone(const QDBusConnection& bus, const QString& name, QObject& context,
+    const std::function<void()>& act);
 
 /** Whether the error means that the receiver has not answered: it is busy, or has left the bus. */
 bool isUnanswered(const QDBusError& error);
