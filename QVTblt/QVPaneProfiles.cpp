@@ -75,7 +75,7 @@ void QVPaneProfiles::enter()
     mShared = qvTabletInfo;
     mProfile = current();
     QDir().mkpath(folder().path()); // so that it can be watched
-    mJoinOrPart.start(0);
+    mJoinOrPart.start();
     takeRole();
     tellListChanged();
 }
@@ -86,7 +86,7 @@ void QVPaneProfiles::leave()
         mObject->tellChanged();
     }
     mIsShown = false;
-    mJoinOrPart.start(0);
+    mJoinOrPart.start();
 }
 
 void QVPaneProfiles::join()
@@ -122,10 +122,6 @@ void QVPaneProfiles::part()
     qDeleteAll(findChildren<QDBusPendingCallWatcher*>(QString(), Qt::FindDirectChildrenOnly));
     mPending = 0;
     mTaken.reset();
-    if (mObject && mTellSoon.isActive()) {
-        mTellSoon.stop();
-        mObject->tellChanged();
-    }
     mObject.reset();
 }
 
@@ -169,7 +165,7 @@ void QVPaneProfiles::noteEdit()
         && mObject) {
         mObject->tellAnew();
     } else if (mObject && !mTellSoon.isActive()) {
-        mTellSoon.start(0); // many edits may follow, as while a slider is dragged
+        mTellSoon.start(); // many edits may follow, as while a slider is dragged
     }
 }
 

@@ -187,8 +187,7 @@ platform::Result<> PaneShell::willUnselect()
     if (!mNotLoaded.isEmpty() && !hasChanges) {
         reload(); // otherwise a file repaired meanwhile would be overwritten with foreign settings
     }
-    mNotSaved.clear();
-    mPane->willUnselect();
+    mPane->willUnselect(); // says whether it could save
     if (hasChanges && !mNotSaved.isEmpty()) {
         return platform::Error{mNotSaved};
     }

@@ -22,8 +22,10 @@
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstring>
 #include <functional>
+#include <future>
 #include <optional>
 #include <vector>
 
@@ -187,6 +189,23 @@ protected:
         void changed(bool /*isOther*/) override { ++edits; }
     };
 
+    /** Sends this panel the other one's record. */
+    void tell(const tagQVTabletInfo& theirs)
+    {
+        QDBusMessage signal = QDBusMessage::createSignal(
+            kQVPanelPath, kQVPanelInterface, QStringLiteral("SettingsChanged"));
+        signal << QByteArray(reinterpret_cast<const char*>(&theirs), sizeof theirs);
+        mClient.send(signal);
+    }
+    /** Whether this panel shows a pressure of the other one's, and so has all that came before. */
+    bool hears(std::int16_t pressure)
+    {
+        tagQVTabletInfo theirs = qvTabletInfo;
+        theirs.Pen.PressureThreshold = pressure;
+        tell(theirs);
+        return waitFor([&] { return shownPressure() == pressure; });
+    }
+
     QVConfigStore mStore;
     Theirs mTheirs{mStore};
     std::optional<QVPanelObject> mFirst;
@@ -289,6 +308,8 @@ TEST_F(PanelProfiles, areExchangedWithoutTrust)
     EXPECT_EQ(profiles.keepImport(import, {false}), QString());
     EXPECT_EQ(+QVProfileFolder(2).load(QStringLiteral("Mine 2"))->settings.Key.SubKey[1].Valid,
         kQVNoAction);
+    EXPECT_EQ(profiles.keepImport(import, {}), QString()) << "what is not allowed is not";
+    EXPECT_EQ(profiles.remove(QStringLiteral("Mine 2 2")), QString());
     EXPECT_EQ(profiles.keepImport(import, {true}), QString());
     EXPECT_EQ(+QVProfileFolder(2).load(QStringLiteral("Mine 2 2"))->settings.Key.SubKey[1].Valid,
         kQVApplication);
@@ -300,12 +321,60 @@ TEST_F(PanelProfiles, areExchangedWithoutTrust)
 TEST_F(PanelOnBus, doesWhatOthersAsk)
 {
     EXPECT_EQ(ask("Profiles").arguments().value(0).toStringList(), QStringList{mName});
+    const Ear ear(mClient);
     EXPECT_EQ(ask("Use", {mName}).errorMessage(), QString());
     EXPECT_TRUE(waitFor([&] { return shownPressure() == 50; }));
+    EXPECT_TRUE(waitFor([&] { return ear.saves == 1; })) << "other panels load the file";
     EXPECT_EQ(ask("Current").arguments().value(0).toString(), mName);
     EXPECT_EQ(ask("Use", {QStringLiteral("x")}).errorMessage(),
         QString::fromUtf8("There is no profile “x”."));
     EXPECT_EQ(ask("Settings").arguments().value(0).toByteArray().size(), 5077);
+    EXPECT_EQ(ask("Save", {QStringLiteral("Second")}).errorMessage(), QString());
+    EXPECT_EQ(ask("Profiles").arguments().value(0).toStringList().size(), 3);
+    EXPECT_EQ(ask("UseNext").arguments().value(0).toString(), QStringLiteral("Before Painting"));
+    EXPECT_EQ(
+        mPane.profiles()->setApplications(QStringLiteral("Second"), {QStringLiteral("paint")}),
+        QString());
+    EXPECT_EQ(ask("Follow", {QStringList{QStringLiteral("Paint")}}).errorMessage(), QString());
+    EXPECT_EQ(ask("Current").arguments().value(0).toString(), QStringLiteral("Second"));
+}
+
+TEST_F(PanelOnBus, saysWhyItDoesNotDoWhatOthersAsk)
+{
+    EXPECT_EQ(ask("Save", {QString()}).errorMessage(), QVProfileNameFault(QString()));
+    EXPECT_EQ(ask("Edit", {QVariant::fromValue(QVStringMap{{QStringLiteral("Pen"), QString()}})})
+                  .errorMessage(),
+        QStringLiteral("there is no entry Pen"));
+    ASSERT_EQ(mPane.profiles()->remove(mName), QString());
+    EXPECT_EQ(ask("UseNext").errorMessage(), QStringLiteral("There are no profiles."));
+    calibrate();
+    const QString fault = QStringLiteral("The tablet is being calibrated. Finish that first.");
+    EXPECT_EQ(ask("Follow", {QStringList{QStringLiteral("paint")}}).errorMessage(), fault);
+}
+
+TEST_F(PanelOnBus, isToldApartFromNoPanel)
+{
+    // In another thread, since the panel that answers is in this one.
+    const auto askPanel = [this](const QString& name) {
+        auto answer = std::async(
+            std::launch::async, [this, name] { return QVAskPanel(mClient, "Use", {name}); });
+        EXPECT_TRUE(waitFor([&] {
+            return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
+        }));
+        return answer.get();
+    };
+    const auto used = askPanel(mName);
+    ASSERT_TRUE(used);
+    EXPECT_TRUE(*used);
+    const auto unused = askPanel(QStringLiteral("x"));
+    ASSERT_TRUE(unused);
+    EXPECT_EQ(unused->error().text, QString::fromUtf8("There is no profile “x”."));
+    leave();
+    ASSERT_TRUE(waitFor([&] { return !mOwned(); }));
+    EXPECT_FALSE(askPanel(mName).has_value()) << "there is no panel";
+    QDBusConnection::disconnectFromBus(mClient.name());
+    EXPECT_FALSE(QVAskPanel(QDBusConnection(QString()), "Use", {mName}).has_value())
+        << "there is no bus";
 }
 
 TEST_F(PanelOnBus, takesASettingFromOthersBesideItsOwnEdits)
@@ -445,6 +514,59 @@ TEST_F(SecondPanel, sendsTheAreaThatItHasCalibrated)
     EXPECT_EQ(mTheirs.edits, 0);
     view.endCalibration();
     EXPECT_TRUE(waitFor([&] { return mTheirs.edits > 0; }));
+}
+
+TEST_F(SecondPanel, showsWhatTheFirstHasEdited)
+{
+    ASSERT_TRUE(hears(60));
+    tagQVTabletInfo theirs = qvTabletInfo;
+    theirs.Pen.PressureThreshold = 61;
+    qvTabletInfo.Pen.Speed = 44; // not sent yet
+    tell(theirs);
+    EXPECT_TRUE(waitFor([&] { return shownPressure() == 61; }));
+    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 44) << "its own edit";
+    EXPECT_TRUE(waitFor([&] { return mTheirs.edits == 1; })) << "the first does not have it";
+}
+
+TEST_F(SecondPanel, waitsUntilItsOwnEditsAreAnsweredBeforeItTakesTheFirstOnes)
+{
+    ASSERT_TRUE(hears(60));
+    qvTabletInfo.Pen.Speed = 44;
+    mPane.send();
+    EXPECT_TRUE(hears(61)) << "it comes before the answer";
+    EXPECT_EQ(mTheirs.edits, 1);
+}
+
+TEST_F(SecondPanel, showsThatTheFirstUsesAProfile)
+{
+    ASSERT_TRUE(hears(60));
+    int changes = 0;
+    mPane.profiles()->setChangeHandler([&] { ++changes; });
+    QVProfileChoice{mName, mName}.save(QVProductID(qvTabletInfo));
+    EXPECT_TRUE(hears(61));
+    EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 1);
+    EXPECT_GE(changes, 1);
+    EXPECT_TRUE(hears(62));
+    EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 1) << "it is the same one";
+    mPane.profiles()->setChangeHandler(nullptr);
+}
+
+TEST_F(SecondPanel, saysToTheNextOwnerThatItCalibrates)
+{
+    QDBusConnection bus = QDBusConnection::connectToBus(mBus.address(), QStringLiteral("next"));
+    QVPanelObject next(mTheirs, QVPanelObject::Kind::Panel, bus);
+    int changes = 0;
+    next.setRoleHandler([&] { ++changes; });
+    ASSERT_TRUE(waitFor([&] { return queue().value(1) == bus.baseService(); }))
+        << "the bus has it before this panel";
+    ASSERT_TRUE(waitFor([&] { return next.isSecond(); }));
+    calibrate();
+    ASSERT_TRUE(waitFor([&] { return mFirst->isCalibratedByOther(); }));
+    const int before = changes;
+    mFirst.reset();
+    EXPECT_TRUE(waitFor([&] { return next.isCalibratedByOther(); }));
+    EXPECT_EQ(changes, before + 1) << "it has become the owner once";
+    QDBusConnection::disconnectFromBus(bus.name());
 }
 
 TEST_F(SecondPanel, saysThatItHasSaved)
