@@ -42,14 +42,6 @@ QVPaneProfiles::QVPaneProfiles(QVConfigStore& store, Panel panel)
     : QVProfileSwitch(store)
     , mPanel(std::move(panel))
 {
-    mJoinOrPart.setSingleShot(true);
-    connect(&mJoinOrPart, &QTimer::timeout, this, [this] {
-        if (mIsShown) {
-            join();
-        } else {
-            part();
-        }
-    });
     mTellSoon.setSingleShot(true);
     connect(&mTellSoon, &QTimer::timeout, this, [this] {
         if (mObject) {
@@ -75,18 +67,27 @@ void QVPaneProfiles::enter()
     mShared = qvTabletInfo;
     mProfile = current();
     QDir().mkpath(folder().path()); // so that it can be watched
-    mJoinOrPart.start();
+    joinOrPartSoon();
     takeRole();
     tellListChanged();
 }
 
 void QVPaneProfiles::leave()
 {
-    if (mObject && mObject->isOwner()) {
-        mObject->tellChanged();
-    }
     mIsShown = false;
-    mJoinOrPart.start();
+    joinOrPartSoon();
+}
+
+/** Once the host has decided: it may show the panel again at once. */
+void QVPaneProfiles::joinOrPartSoon()
+{
+    QTimer::singleShot(0, this, [this] {
+        if (mIsShown) {
+            join();
+        } else {
+            part();
+        }
+    });
 }
 
 void QVPaneProfiles::join()
@@ -122,7 +123,10 @@ void QVPaneProfiles::part()
     qDeleteAll(findChildren<QDBusPendingCallWatcher*>(QString(), Qt::FindDirectChildrenOnly));
     mPending = 0;
     mTaken.reset();
-    mObject.reset();
+    if (mObject) {
+        mObject->tellChanged();
+        mObject.reset();
+    }
 }
 
 void QVPaneProfiles::takeRole()

@@ -72,6 +72,7 @@ private:
     void changed(bool isOther) override;
 
     bool isSecond() const { return mObject && mObject->isSecond(); }
+    void joinOrPartSoon();
     void join();
     void part();
     void takeRole();
@@ -88,7 +89,6 @@ private:
     Panel mPanel;
     std::function<void()> mChangeHandler;
     QFileSystemWatcher mFiles;
-    QTimer mJoinOrPart; ///< once a showing has begun or ended: the next may follow at once
     QTimer mTellSoon; ///< until others are notified of edits
     bool mIsShown = false;
 

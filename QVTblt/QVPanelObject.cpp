@@ -23,10 +23,9 @@ constexpr QLatin1String kBusPath("/org/freedesktop/DBus");
 
 constexpr QLatin1String kFailed("org.quorvia.TabletPanel1.Error.Failed");
 
-/** Flags of a request for a name, and its answers; D-Bus Specification, "RequestName". */
+/** Flags of a request for a name, and an answer; D-Bus Specification, "RequestName". */
 constexpr std::uint32_t kAllowReplacement = 1;
 constexpr std::uint32_t kReplaceExisting = 2;
-constexpr std::uint32_t kPrimaryOwner = 1;
 constexpr std::uint32_t kInQueue = 2;
 
 constexpr int kReleaseTime = 250; ///< milliseconds
@@ -60,7 +59,6 @@ QVPanelObject::QVPanelObject(QVProfileSwitch& own, Kind kind, QDBusConnection bu
     hear("SettingsChanged", SLOT(takeSettings(QByteArray)));
     hear("Saved", SLOT(takeSaved()));
     mCalibrating.setConnection(mBus);
-    mCalibrating.setWatchMode(QDBusServiceWatcher::WatchForUnregistration);
     connect(&mCalibrating, &QDBusServiceWatcher::serviceUnregistered, this,
         &QVPanelObject::endCalibration);
     auto* const owners = new QDBusServiceWatcher(
@@ -80,10 +78,7 @@ void QVPanelObject::requestName()
     mRequest = new QDBusPendingCallWatcher(mBus.asyncCall(request), this);
     connect(mRequest, &QDBusPendingCallWatcher::finished, this, [this] {
         const QDBusPendingReply<std::uint32_t> reply = *mRequest;
-        std::exchange(mRequest, nullptr)->deleteLater();
-        if (reply.isValid() && reply.value() == kPrimaryOwner) {
-            setRole(Role::Owner);
-        } else if (reply.isValid() && reply.value() == kInQueue) {
+        if (reply.isValid() && reply.value() == kInQueue) { // an owner hears NameAcquired
             // It may have been second before, to another owner.
             mRole = Role::Second;
             if (mRoleHandler) {

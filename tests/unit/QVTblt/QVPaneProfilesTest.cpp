@@ -14,6 +14,7 @@
 #include "Wait.h"
 
 #include <QDBusConnectionInterface>
+#include <QDBusContext>
 #include <QDBusPendingCall>
 #include <QDBusReply>
 #include <QSlider>
@@ -110,6 +111,16 @@ private Q_SLOTS:
     }
 };
 
+/** Those that have or want the panel's name, the owner first. */
+QStringList queue(const QDBusConnection& bus)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("ListQueuedOwners"));
+    call << QString(kQVPanelService);
+    return QDBusReply<QStringList>(bus.call(call)).value();
+}
+
 /** With a bus, on which others ask the panel. */
 class PanelOnBus : public PanelProfiles {
 protected:
@@ -161,16 +172,6 @@ protected:
         mFirst.reset();
     }
 
-    /** Those that have or want the name, the owner first. */
-    QStringList queue()
-    {
-        QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-            QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-            QStringLiteral("ListQueuedOwners"));
-        call << QString(kQVPanelService);
-        return QDBusReply<QStringList>(mClient.call(call)).value();
-    }
-
     /** The other one's settings, which are always there. */
     class Theirs final : public QVProfileSwitch {
     public:
@@ -209,6 +210,105 @@ protected:
     QVConfigStore mStore;
     Theirs mTheirs{mStore};
     std::optional<QVPanelObject> mFirst;
+};
+
+/** A panel with a record of its own, which this one's process does not share. */
+class OtherPanel final : public QObject, protected QDBusContext {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.quorvia.TabletPanel1")
+
+public:
+    explicit OtherPanel(QDBusConnection bus)
+        : mBus(std::move(bus))
+    {
+        mBus.registerObject(kQVPanelPath, this, QDBusConnection::ExportAllSlots);
+        EXPECT_TRUE(mBus.registerService(kQVPanelService));
+    }
+
+    /** Tells its record, or that it has saved it. */
+    void tell() { send("SettingsChanged", {settings()}); }
+    void tellSaved() { send("Saved", {}); }
+    /** Answers the edits that it has held. */
+    void answer() { mBus.send(mHeld.createReply()); }
+
+    tagQVTabletInfo record = qvTabletInfo;
+    std::vector<QVStringMap> edits;
+    QStringList used;
+    QString fault; ///< why it refuses everything; empty if it does not
+    bool holdsEdits = false;
+
+public Q_SLOTS:
+    // NOLINTBEGIN(readability-identifier-naming): the names of the bus
+    QByteArray Settings() { return settings(); }
+    void Edit(const QMap<QString, QString>& values)
+    {
+        edits.push_back(values);
+        setDelayedReply(holdsEdits);
+        mHeld = message();
+        refuse();
+    }
+    void Use(const QString& name)
+    {
+        used.append(name);
+        refuse();
+    }
+    // NOLINTEND(readability-identifier-naming)
+
+private:
+    QByteArray settings() const { return {reinterpret_cast<const char*>(&record), sizeof record}; }
+    void refuse()
+    {
+        if (!fault.isEmpty()) {
+            sendErrorReply(QStringLiteral("org.quorvia.TabletPanel1.Error.Failed"), fault);
+        }
+    }
+    void send(const char* signal, const QVariantList& arguments)
+    {
+        QDBusMessage message =
+            QDBusMessage::createSignal(kQVPanelPath, kQVPanelInterface, QLatin1String(signal));
+        message.setArguments(arguments);
+        mBus.send(message);
+    }
+
+    QDBusConnection mBus;
+    QDBusMessage mHeld;
+};
+
+/** Beside a panel that was there first, with a record of its own. */
+class BesideAnother : public PanelOnBus {
+protected:
+    void SetUp() override
+    {
+        PanelOnBus::SetUp();
+        leave();
+        ASSERT_TRUE(waitFor([&] { return !mOwned(); }));
+        mOther.emplace(mClient);
+        mOther->record.Pen.PressureThreshold = 61;
+        mNews.clear();
+        show();
+        ASSERT_TRUE(waitFor([&] { return shownPressure() == 61; })) << "its edits, not the file";
+    }
+    void TearDown() override { leave(); }
+
+    /** Whether this panel shows what the other one tells, and so has all that came before. */
+    bool hears(std::int16_t pressure)
+    {
+        mOther->record.Pen.PressureThreshold = pressure;
+        mOther->tell();
+        return waitFor([&] { return shownPressure() == pressure; });
+    }
+    /** Edits the pen's speed. */
+    void edit(std::int16_t speed)
+    {
+        qvTabletInfo.Pen.Speed = speed;
+        mPane.send();
+    }
+    static QVStringMap speed(const char* value)
+    {
+        return {{QStringLiteral("Pen/Speed"), QString::fromLatin1(value)}};
+    }
+
+    std::optional<OtherPanel> mOther;
 };
 
 } // namespace
@@ -271,21 +371,45 @@ TEST_F(PanelProfiles, areManagedForTheShell)
     platform::PaneProfiles& profiles = *mPane.profiles();
     int changes = 0;
     profiles.setChangeHandler([&] { ++changes; });
+    const auto expectDone = [&](const QString& why) {
+        EXPECT_EQ(why, QString());
+        EXPECT_GT(std::exchange(changes, 0), 0) << "the list is told of";
+    };
     const QString second = QStringLiteral("Second");
-    EXPECT_EQ(profiles.save(second), QString());
+    const QString third = QStringLiteral("Third");
+    expectDone(profiles.save(second));
     EXPECT_EQ(profiles.current(), second);
-    EXPECT_EQ(profiles.setApplications(second, {QStringLiteral("paint")}), QString());
-    EXPECT_EQ(profiles.duplicate(second, QStringLiteral("Third")), QString());
-    EXPECT_NE(profiles.duplicate(second, QStringLiteral("Third")), QString());
-    EXPECT_EQ(profiles.rename(second, QStringLiteral("2")), QString());
+    expectDone(profiles.setApplications(second, {QStringLiteral("paint")}));
+    expectDone(profiles.duplicate(second, third));
+    EXPECT_NE(profiles.duplicate(second, third), QString());
+    expectDone(profiles.rename(second, QStringLiteral("2")));
     EXPECT_EQ(profiles.current(), QStringLiteral("2"));
-    EXPECT_EQ(profiles.remove(QStringLiteral("Third")), QString());
+    expectDone(profiles.remove(third));
     const auto list = profiles.list();
     ASSERT_EQ(list.size(), 2U);
     EXPECT_EQ(list[0].applications, QStringList{QStringLiteral("paint")});
-    EXPECT_GE(changes, 5);
     EXPECT_NE(profiles.faultOf(QString()), QString());
+    for (const QString& why :
+        {profiles.duplicate(third, second), profiles.setApplications(third, {}),
+            profiles.exportTo(third, mHome.path()), profiles.remove(third)}) {
+        EXPECT_EQ(why, QString::fromUtf8("There is no profile “Third”."));
+    }
+    QVProfileChoice{third, third}.save(QVProductID(qvTabletInfo));
+    EXPECT_EQ(profiles.current(), QString()) << "it is gone";
     profiles.setChangeHandler(nullptr);
+}
+
+TEST_F(PanelProfiles, areAlsoThoseThatOthersSave)
+{
+    int changes = 0;
+    mPane.profiles()->setChangeHandler([&] { ++changes; });
+    leave();
+    show();
+    EXPECT_GE(changes, 1) << "the list may have changed meanwhile";
+    const int before = changes;
+    ASSERT_TRUE(QVProfileFolder(2).save(QVProfileOf(qvTabletInfo, QStringLiteral("Theirs"))));
+    EXPECT_TRUE(waitFor([&] { return changes > before; }));
+    mPane.profiles()->setChangeHandler(nullptr);
 }
 
 TEST_F(PanelProfiles, areExchangedWithoutTrust)
@@ -297,6 +421,8 @@ TEST_F(PanelProfiles, areExchangedWithoutTrust)
     qvTabletInfo.Basic.KeyNum = 16;
     record.Key.SubKey[1].Valid = kQVApplication;
     ASSERT_TRUE(QVProfileFolder(2).save(QVProfileOf(record, QStringLiteral("Mine"))));
+    ASSERT_EQ(
+        profiles.setApplications(QStringLiteral("Mine"), {QStringLiteral("paint")}), QString());
     ASSERT_EQ(profiles.exportTo(QStringLiteral("Mine"), file), QString());
 
     const auto import = profiles.readImport(file);
@@ -304,6 +430,9 @@ TEST_F(PanelProfiles, areExchangedWithoutTrust)
     EXPECT_EQ(import.name, QStringLiteral("Mine 2"));
     ASSERT_EQ(import.starts.size(), 1U);
     EXPECT_EQ(import.starts[0].path, QStringLiteral("/app/1"));
+    EXPECT_FALSE(import.changes.isEmpty());
+    EXPECT_FALSE(import.leftOut.isEmpty());
+    EXPECT_EQ(import.applications, QStringList{QStringLiteral("paint")});
     writeFile(file, "rubbish"); // it has been read
     EXPECT_EQ(profiles.keepImport(import, {false}), QString());
     EXPECT_EQ(+QVProfileFolder(2).load(QStringLiteral("Mine 2"))->settings.Key.SubKey[1].Valid,
@@ -358,9 +487,8 @@ TEST_F(PanelOnBus, isToldApartFromNoPanel)
     const auto askPanel = [this](const QString& name) {
         auto answer = std::async(
             std::launch::async, [this, name] { return QVAskPanel(mClient, "Use", {name}); });
-        EXPECT_TRUE(waitFor([&] {
-            return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready;
-        }));
+        EXPECT_TRUE(waitFor(
+            [&] { return answer.wait_for(std::chrono::seconds(0)) == std::future_status::ready; }));
         return answer.get();
     };
     const auto used = askPanel(mName);
@@ -372,6 +500,7 @@ TEST_F(PanelOnBus, isToldApartFromNoPanel)
     leave();
     ASSERT_TRUE(waitFor([&] { return !mOwned(); }));
     EXPECT_FALSE(askPanel(mName).has_value()) << "there is no panel";
+    EXPECT_FALSE(QVPanelCall("Use").autoStartService()) << "and none is started";
     QDBusConnection::disconnectFromBus(mClient.name());
     EXPECT_FALSE(QVAskPanel(QDBusConnection(QString()), "Use", {mName}).has_value())
         << "there is no bus";
@@ -398,6 +527,9 @@ TEST_F(PanelOnBus, tellsOthersOfEdits)
     qvTabletInfo.Pen.PressureThreshold = 32;
     mPane.send();
     EXPECT_TRUE(waitFor([&] { return ear.changes > 0; }));
+    ask("Current");
+    ask("Current");
+    EXPECT_EQ(ear.changes, 1);
     EXPECT_TRUE(ear.pressures.empty()) << "nobody has asked for the record";
 
     ask("Settings");
@@ -407,6 +539,9 @@ TEST_F(PanelOnBus, tellsOthersOfEdits)
     }
     EXPECT_TRUE(waitFor([&] { return !ear.pressures.empty(); }));
     EXPECT_EQ(ear.pressures, std::vector<int>{35}) << "the last of those that come together";
+    mPane.send();
+    EXPECT_TRUE(waitFor([&] { return ear.changes == 3; }));
+    EXPECT_EQ(ear.pressures, std::vector<int>{35}) << "it is as before";
 
     const QVStringMap values{{QStringLiteral("Pen/PressureThreshold"), QStringLiteral("36")}};
     EXPECT_EQ(ask("Edit", {QVariant::fromValue(values)}).errorMessage(), QString());
@@ -417,6 +552,28 @@ TEST_F(PanelOnBus, tellsOthersOfEdits)
     leave();
     EXPECT_TRUE(waitFor([&] { return ear.pressures.back() == 12; }))
         << "what is discarded, before the name is given up";
+}
+
+TEST_F(PanelOnBus, tellsWhatIsDiscardedAlsoWhenItEndsAtOnce)
+{
+    leave();
+    ASSERT_TRUE(waitFor([&] { return !mOwned(); }));
+    auto pane = std::make_unique<QVTblt_prefPanePref>();
+    pane->initWithBundle(platform::Bundle(QStringLiteral(QVTBLT_STAGE_RESOURCES)));
+    const std::unique_ptr<QWidget> window(pane->loadMainView());
+    pane->willSelect();
+    pane->didSelect();
+    ASSERT_TRUE(waitFor([&] { return mOwned(); }));
+    Ear ear(mClient);
+    ask("Settings");
+    qvTabletInfo.Pen.PressureThreshold = 33;
+    pane->send();
+    EXPECT_TRUE(waitFor([&] { return ear.pressures == std::vector<int>{33}; }));
+    pane->cancel();
+    pane->willUnselect();
+    pane->didUnselect();
+    pane.reset();
+    EXPECT_TRUE(waitFor([&] { return ear.pressures == (std::vector<int>{33, 12}); }));
 }
 
 TEST_F(PanelOnBus, changesNothingWhileAnotherCalibrates)
@@ -463,15 +620,16 @@ TEST_F(PanelOnBus, tellsItsSettingsAnewWhenACalibrationHasEnded)
 {
     Ear ear(mClient);
     ask("Settings");
+    mPane.send();
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 1; }));
     ask("NoteCalibration", {true});
-    EXPECT_TRUE(ear.pressures.empty());
     ask("NoteCalibration", {false});
-    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 1; }))
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 2; }))
         << "others send again what has been refused";
     QVMonitorView& view = calibrate();
-    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 2; })) << "a calibration has begun";
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 3; })) << "a calibration has begun";
     view.endCalibration();
-    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() > 2; }));
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() > 3; }));
 }
 
 TEST_F(SecondPanel, takesNoOwnerForAnotherThatCalibrates)
@@ -557,7 +715,7 @@ TEST_F(SecondPanel, saysToTheNextOwnerThatItCalibrates)
     QVPanelObject next(mTheirs, QVPanelObject::Kind::Panel, bus);
     int changes = 0;
     next.setRoleHandler([&] { ++changes; });
-    ASSERT_TRUE(waitFor([&] { return queue().value(1) == bus.baseService(); }))
+    ASSERT_TRUE(waitFor([&] { return queue(mClient).value(1) == bus.baseService(); }))
         << "the bus has it before this panel";
     ASSERT_TRUE(waitFor([&] { return next.isSecond(); }));
     calibrate();
@@ -584,6 +742,111 @@ TEST_F(SecondPanel, knowsWhatTheFirstHasSaved)
     ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString()));
     mFirst->tellSaved();
     EXPECT_TRUE(waitFor([&] { return !mPane.hasChanges(); }));
+    EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 0);
+}
+
+TEST_F(BesideAnother, sendsItsEdits)
+{
+    qvTabletInfo.Monitor.Width = 5; // what the user does not choose
+    edit(44);
+    ASSERT_TRUE(waitFor([&] { return mOther->edits.size() == 1; }));
+    EXPECT_EQ(mOther->edits[0], speed("44"));
+}
+
+TEST_F(BesideAnother, sendsItsEditsAgainAfterTheyWereRefused)
+{
+    mOther->fault = QStringLiteral("not now");
+    edit(44);
+    ASSERT_TRUE(waitFor([&] { return mOther->edits.size() == 1; }));
+    mOther->fault.clear();
+    EXPECT_TRUE(hears(62));
+    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 44);
+    ASSERT_TRUE(waitFor([&] { return mOther->edits.size() == 2; }));
+    EXPECT_EQ(mOther->edits[1], speed("44"));
+}
+
+TEST_F(BesideAnother, keepsItsEditsWhileTheOtherMayLackThem)
+{
+    mOther->holdsEdits = true;
+    edit(44);
+    ASSERT_TRUE(waitFor([&] { return mOther->edits.size() == 1; }));
+    mOther->record.Pen.PressureThreshold = 62;
+    mOther->tell();
+    ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString()));
+    mOther->tellSaved();
+    ASSERT_TRUE(waitFor([&] { return !mPane.hasChanges(); })) << "it has heard both";
+    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 44);
+    EXPECT_EQ(shownPressure(), 61);
+    mOther->record.Pen.Speed = 44;
+    mOther->tell();
+    mOther->answer();
+    EXPECT_TRUE(waitFor([&] { return shownPressure() == 62; }));
+    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 44);
+}
+
+TEST_F(BesideAnother, beginsAnewWhenItIsLeftBeforeItsEditsAreAnswered)
+{
+    mOther->holdsEdits = true;
+    edit(44);
+    ASSERT_TRUE(waitFor([&] { return mOther->edits.size() == 1; }));
+    leave();
+    ASSERT_TRUE(waitFor([&] { return queue(mClient).size() == 1; }));
+    show();
+    EXPECT_TRUE(hears(63));
+}
+
+TEST_F(BesideAnother, takesNothingWhileItCalibrates)
+{
+    QVMonitorView& view = calibrate();
+    mOther->record.Pen.PressureThreshold = 62;
+    mOther->tell();
+    ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString()));
+    mOther->tellSaved();
+    ASSERT_TRUE(waitFor([&] { return !mPane.hasChanges(); })) << "it has heard both";
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 61);
+    view.endCalibration();
+    EXPECT_TRUE(waitFor([&] { return qvTabletInfo.Pen.PressureThreshold == 62; }));
+}
+
+TEST_F(BesideAnother, hasTheOtherUseProfiles)
+{
+    QStringList answers;
+    const auto useBy = [&] {
+        mPane.profiles()->use(mName, [&](const QString& error) { answers.append(error); });
+    };
+    useBy();
+    EXPECT_TRUE(waitFor([&] { return answers == QStringList{QString()}; }));
+    EXPECT_EQ(mOther->used, QStringList{mName});
+    EXPECT_EQ(shownPressure(), 61) << "the other one tells when it has";
+    mOther->fault = QStringLiteral("not now");
+    useBy();
+    EXPECT_TRUE(waitFor([&] { return answers.value(1) == mOther->fault; }));
+}
+
+TEST_F(BesideAnother, knowsTheProfileThatWasUsedBeforeItCame)
+{
+    leave();
+    QVProfileChoice{mName, mName}.save(QVProductID(qvTabletInfo));
+    mNews.clear();
+    mOther->record.Pen.PressureThreshold = 64;
+    show();
+    EXPECT_TRUE(waitFor([&] { return shownPressure() == 64; }));
+    EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 0);
+}
+
+TEST_F(BesideAnother, saysThatItNoLongerCalibratesWhenTheTabletIsAnother)
+{
+    // A driver with another tablet is sent nothing, so that no edit ends the calibration.
+    mOther.reset();
+    QVConfigStore store;
+    QVProfileSwitch own(store);
+    QVPanelObject first(own, QVPanelObject::Kind::Panel, mClient);
+    calibrate();
+    ASSERT_TRUE(waitFor([&] { return first.isCalibratedByOther(); }));
+    mEvents.answer(8);
+    EXPECT_EQ(mPane.checkDevice(), Pane::Device::Other);
+    leave();
+    EXPECT_TRUE(waitFor([&] { return !first.isCalibratedByOther(); }));
 }
 
 TEST_F(SecondPanel, comesBeforeAFollowerThatWasThereEarlier)
@@ -596,11 +859,11 @@ TEST_F(SecondPanel, comesBeforeAFollowerThatWasThereEarlier)
     constexpr uint kBeforeOthers = 2;
     request << QString(kQVPanelService) << (kAllowReplacement | kBeforeOthers);
     bus.call(request);
-    const QStringList before = queue();
+    const QStringList before = queue(mClient);
     ASSERT_EQ(before.indexOf(bus.baseService()), 1);
     mFirst.reset();
-    EXPECT_TRUE(waitFor([&] { return queue().value(0) == before.value(2); }))
-        << queue().join(u' ').toStdString();
+    EXPECT_TRUE(waitFor([&] { return queue(mClient).value(0) == before.value(2); }))
+        << queue(mClient).join(u' ').toStdString();
     QDBusConnection::disconnectFromBus(bus.name());
 }
 
@@ -608,7 +871,7 @@ TEST_F(SecondPanel, asksTheNextOwnerForItsSettings)
 {
     QDBusConnection bus = QDBusConnection::connectToBus(mBus.address(), QStringLiteral("next"));
     QVPanelObject next(mTheirs, QVPanelObject::Kind::Panel, bus);
-    ASSERT_TRUE(waitFor([&] { return queue().value(1) == bus.baseService(); }))
+    ASSERT_TRUE(waitFor([&] { return queue(mClient).value(1) == bus.baseService(); }))
         << "the bus has it before this panel";
     ASSERT_TRUE(waitFor([&] { return next.isSecond(); }));
     const Ear ear(bus);
@@ -663,6 +926,10 @@ TEST_F(PanelOnBus, takesTheNameFromAFollowerAndGivesItBack)
     EXPECT_TRUE(waitFor([&] { return !follower.isOwner(); }));
     leave();
     EXPECT_TRUE(waitFor([&] { return follower.isOwner(); }));
+    mEvents.answer(0);
+    for (const char* const method : {"Profiles", "Current", "Settings", "UseNext"}) {
+        EXPECT_EQ(ask(method).errorMessage(), QStringLiteral("no tablet is attached")) << method;
+    }
 }
 
 #include "QVPaneProfilesTest.moc"
