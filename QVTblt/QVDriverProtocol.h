@@ -31,6 +31,12 @@ inline constexpr platform::FourCharCode kQVConfigProperty = platform::fourCharCo
 inline constexpr platform::AEEventID kQVSettingsEvent = platform::fourCharCode("WSnd");
 inline constexpr platform::AEKeyword kQVSettingsData = platform::fourCharCode("data");
 
+/** The bytes of a record. */
+[[nodiscard]] inline QByteArray QVBytesOf(const tagQVTabletInfo& record)
+{
+    return {reinterpret_cast<const char*>(&record), kQVRecordSize};
+}
+
 /** The record in these bytes; nothing if they are not kQVRecordSize. */
 [[nodiscard]] inline std::optional<tagQVTabletInfo> QVRecordIn(const QByteArray& bytes)
 {

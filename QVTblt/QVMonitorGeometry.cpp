@@ -69,6 +69,18 @@ bool QVMapChosenDisplay(tagQVTabletInfo& info, std::span<const Rect> displays)
     return true;
 }
 
+QVTabletArea QVWholeArea(const tagQVTabletInfo& info)
+{
+    return {
+        info.Basic.TabletXmin, info.Basic.TabletXmax, info.Basic.TabletYmin, info.Basic.TabletYmax};
+}
+
+QVTabletArea QVUsedArea(const tagQVTabletInfo& info)
+{
+    return {info.Monitor.cTabletXmin, info.Monitor.cTabletXmax, info.Monitor.cTabletYmin,
+        info.Monitor.cTabletYmax};
+}
+
 void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area)
 {
     info.Monitor.cTabletXmin = area.xmin;

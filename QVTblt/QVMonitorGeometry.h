@@ -58,6 +58,12 @@ void QVSetMappedArea(tagQVTabletInfo& info, const platform::Rect& area);
  */
 bool QVMapChosenDisplay(tagQVTabletInfo& info, std::span<const platform::Rect> displays);
 
+/** The whole tablet, as the driver has it. */
+QVTabletArea QVWholeArea(const tagQVTabletInfo& info);
+
+/** The part of the tablet that maps onto the displays. */
+QVTabletArea QVUsedArea(const tagQVTabletInfo& info);
+
 /** Stores the used part of the tablet. */
 void QVSetUsedArea(tagQVTabletInfo& info, const QVTabletArea& area);
 

@@ -35,18 +35,6 @@ constexpr double kPictureTop = kQVPictureArea.y + kQVPictureArea.height;
 /** Whether displays have begun to change; shared by all views. */
 bool DisplayConfigurationChanged = false;
 
-QVTabletArea wholeArea(const tagQVTabletInfo& info)
-{
-    return {
-        info.Basic.TabletXmin, info.Basic.TabletXmax, info.Basic.TabletYmin, info.Basic.TabletYmax};
-}
-
-QVTabletArea usedArea(const tagQVTabletInfo& info)
-{
-    return {info.Monitor.cTabletXmin, info.Monitor.cTabletXmax, info.Monitor.cTabletYmin,
-        info.Monitor.cTabletYmax};
-}
-
 /** The index of the chosen item; -1 if there is none. */
 int chosenIn(const QComboBox* list)
 {
@@ -245,9 +233,9 @@ bool QVMonitorView::updateMappedArea()
 
 void QVMonitorView::updatePicturePoints()
 {
-    const QVTabletArea whole = wholeArea(*pQVInfo);
+    const QVTabletArea whole = QVWholeArea(*pQVInfo);
     mTabletPicLeftUp = {kPictureLeft, kPictureTop};
-    mTabletPicRightDn = QVPictureCorner(usedArea(*pQVInfo), whole);
+    mTabletPicRightDn = QVPictureCorner(QVUsedArea(*pQVInfo), whole);
     const bool hasArea = whole.xmin != whole.xmax && whole.ymin != whole.ymax;
     if (!hasArea && mHasTabletArea) { // once, not with each redraw
         qCWarning(lcMonitor, "the tablet's active area has no width or no height");
@@ -385,7 +373,7 @@ void QVMonitorView::SelectUseMode()
 
 void QVMonitorView::setTabletDefaultArea()
 {
-    QVSetUsedArea(*pQVInfo, wholeArea(*pQVInfo));
+    QVSetUsedArea(*pQVInfo, QVWholeArea(*pQVInfo));
     PushQVTabletInfo();
 }
 
@@ -393,7 +381,7 @@ void QVMonitorView::AutoCalibrate()
 {
     mTabletPicLeftUp = {kPictureLeft, kPictureTop};
     mTabletPicRightDn = {kPictureRight, kPictureBottom};
-    const QVTabletArea whole = wholeArea(*pQVInfo);
+    const QVTabletArea whole = QVWholeArea(*pQVInfo);
     const auto fitted = QVAspectFit(whole, pQVInfo->Monitor.Width, pQVInfo->Monitor.Height);
     if (fitted) {
         QVSetUsedArea(*pQVInfo, *fitted);

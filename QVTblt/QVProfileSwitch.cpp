@@ -6,6 +6,7 @@
 #include "Displays.h"
 #include "QVConfigEntry.h"
 #include "QVConfigStore.h"
+#include "QVDriverProtocol.h"
 #include "QVEntryText.h"
 #include "QVMonitorGeometry.h"
 #include "rzkApplication.h"
@@ -348,5 +349,5 @@ Result<QByteArray> QVProfileSwitch::record()
     if (const Result<> attached = attach(); !attached) {
         return attached.error();
     }
-    return QByteArray(reinterpret_cast<const char*>(&qvTabletInfo), kQVRecordSize);
+    return QVBytesOf(qvTabletInfo);
 }

@@ -5,6 +5,7 @@
 
 #include "Client.h"
 #include "QVConfigEntry.h"
+#include "QVDriverProtocol.h"
 #include "QVEntryName.h"
 #include "QVKeyComboBox.h"
 #include "QVTblt_prefPanePref.h"
@@ -12,8 +13,7 @@
 
 #include <QSignalBlocker>
 
-#include <algorithm>
-#include <cstring>
+#include <optional>
 
 namespace {
 
@@ -27,14 +27,6 @@ void copyChosen(const tagQVTabletInfo& from, tagQVTabletInfo& to)
     }
 }
 
-tagQVTabletInfo recordOf(const QByteArray& settings)
-{
-    tagQVTabletInfo record{};
-    std::memcpy(&record, settings.constData(),
-        std::min(static_cast<std::size_t>(settings.size()), sizeof record));
-    return record;
-}
-
 } // namespace
 
 QByteArray QVTblt_prefPanePref::settings() const
@@ -44,16 +36,17 @@ QByteArray QVTblt_prefPanePref::settings() const
     }
     tagQVTabletInfo record{};
     copyChosen(qvTabletInfo, record);
-    return {reinterpret_cast<const char*>(&record), sizeof record};
+    return QVBytesOf(record);
 }
 
 void QVTblt_prefPanePref::setSettings(const QByteArray& settings)
 {
-    if (this->settings().isEmpty()) {
+    const std::optional<tagQVTabletInfo> record = QVRecordIn(settings);
+    if (!record || this->settings().isEmpty()) {
         return;
     }
     const std::int16_t speed = qvTabletInfo.Monitor.Speed;
-    copyChosen(recordOf(settings), qvTabletInfo);
+    copyChosen(*record, qvTabletInfo);
     showSettings();
     if (qvTabletInfo.Monitor.Speed != speed) {
         QVSendReportSpeed();
@@ -79,8 +72,8 @@ void QVTblt_prefPanePref::showSettings()
 
 QString QVTblt_prefPanePref::nameOfEdit(const QByteArray& before, const QByteArray& after) const
 {
-    const tagQVTabletInfo one = recordOf(before);
-    const tagQVTabletInfo other = recordOf(after);
+    const tagQVTabletInfo one = QVRecordIn(before).value_or(tagQVTabletInfo{});
+    const tagQVTabletInfo other = QVRecordIn(after).value_or(tagQVTabletInfo{});
     QString name;
     for (const QVEntry& entry : kQVEntries) {
         if (!QVIsChosen(entry) || QVIsSameField(entry, one, other)) {

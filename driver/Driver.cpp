@@ -400,7 +400,7 @@ OSErr Driver::takeSettings(const AppleEvent& event, AppleEvent& reply)
     say(QStringLiteral("push %1 from %2: %3")
             .arg(mState.pushes)
             .arg(senderOf(event), changes(QVRecordIn(mState.record), *record)));
-    mState.record = {reinterpret_cast<const char*>(&*record), kQVRecordSize};
+    mState.record = QVBytesOf(*record);
     // A panel may still show another tablet, whose area and keys would make no sense on this one.
     const bool isAboutTablet = mIsSimulation || QVProductID(*record) == mAttached;
     if (isAboutTablet) {

@@ -31,8 +31,7 @@ std::uint16_t clamped(int value, std::uint16_t low, std::uint16_t high)
 QVTabletArea tabletRange(const QVTabletModel& model, const tagQVTabletInfo* settings)
 {
     if (settings != nullptr && QVProductID(*settings) == model.productID) {
-        const QVTabletArea range{settings->Basic.TabletXmin, settings->Basic.TabletXmax,
-            settings->Basic.TabletYmin, settings->Basic.TabletYmax};
+        const QVTabletArea range = QVWholeArea(*settings);
         if (!isEmpty(range)) {
             return range;
         }

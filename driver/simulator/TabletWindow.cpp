@@ -359,8 +359,7 @@ void TabletWindow::showSettings()
         mMapped->setText(tr("unknown until the panel sends its settings"));
         return;
     }
-    const QVTabletArea mapped{known->Monitor.cTabletXmin, known->Monitor.cTabletXmax,
-        known->Monitor.cTabletYmin, known->Monitor.cTabletYmax};
+    const QVTabletArea mapped = QVUsedArea(*known);
     mSurface->setMapped(mapped);
     //: Follows the label "Frame:"; x and y are ranges in tablet units.
     mMapped->setText(tr("the part that covers the screen, x %1 to %2, y %3 to %4")

@@ -24,7 +24,6 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstring>
 #include <functional>
 #include <future>
 #include <optional>
@@ -104,10 +103,9 @@ private Q_SLOTS:
     void noteSave() { ++saves; }
     void noteRecord(const QByteArray& bytes)
     {
-        tagQVTabletInfo record{};
-        ASSERT_EQ(bytes.size(), kQVRecordSize);
-        std::memcpy(&record, bytes.constData(), sizeof record);
-        pressures.push_back(record.Pen.PressureThreshold);
+        const auto record = QVRecordIn(bytes);
+        ASSERT_TRUE(record);
+        pressures.push_back(record->Pen.PressureThreshold);
     }
 };
 
@@ -195,7 +193,7 @@ protected:
     {
         QDBusMessage signal = QDBusMessage::createSignal(
             kQVPanelPath, kQVPanelInterface, QStringLiteral("SettingsChanged"));
-        signal << QByteArray(reinterpret_cast<const char*>(&theirs), sizeof theirs);
+        signal << QVBytesOf(theirs);
         mClient.send(signal);
     }
     /** Whether this panel shows a pressure of the other one's, and so has all that came before. */
@@ -255,7 +253,7 @@ public Q_SLOTS:
     // NOLINTEND(readability-identifier-naming)
 
 private:
-    QByteArray settings() const { return {reinterpret_cast<const char*>(&record), sizeof record}; }
+    QByteArray settings() const { return QVBytesOf(record); }
     void refuse()
     {
         if (!fault.isEmpty()) {

@@ -38,7 +38,7 @@ protected:
     void push(const tagQVTabletInfo& settings)
     {
         platform::AppleEvent reply;
-        const QByteArray record(reinterpret_cast<const char*>(&settings), sizeof settings);
+        const QByteArray record = QVBytesOf(settings);
         const auto handler = mEvents.handlers.at({kQVDriverSignature, kQVSettingsEvent});
         testing::internal::CaptureStdout();
         EXPECT_EQ(handler({kQVDriverSignature, kQVSettingsEvent,
