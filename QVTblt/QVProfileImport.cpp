@@ -17,7 +17,7 @@ using platform::Result;
 
 namespace {
 
-/** Whether a value is one that the panel itself could set, for the tablet of the record. */
+/** Whether a number is one that the panel itself could set, for the tablet of the record. */
 bool isSensible(
     const QVEntry& entry, const tagQVTabletInfo& settings, const tagQVTabletInfo& record)
 {
@@ -25,11 +25,10 @@ bool isSensible(
                             std::int64_t most) { return value >= least && value <= most; };
     const std::string_view key(entry.key);
     if (entry.slot != nullptr) {
-        const std::int64_t keys = QVFieldNumber(entry, settings) >> 24U;
+        const std::int64_t keys = QVFieldNumber(entry, settings) >> 24U; // where it is "Key"
         return key == "Valid" ? isFrom(kQVNoAction, kQVPauseTablet)
             : key == "Mouse"  ? isFrom(kQVLeftButton, kQVMiddleButton)
-            : key == "Key"    ? keys <= kQVMaxKeys
-                              : true;
+                              : keys <= kQVMaxKeys;
     }
     const auto& all = record.Basic;
     switch (entry.offset) {
@@ -174,7 +173,7 @@ Result<QVProfileImport> QVImport(const platform::PropertyList& list, const tagQV
     for (std::size_t slot = 0; slot < kQVSlotCount; ++slot) {
         tagQVTabletInfoSubKey& button = settings.Key.SubKey[slot];
         const QVEntry& entry = QVEntriesOf(kQVKeySection, kQVSlotKeys[slot]).front();
-        if (!hasPlaceFor(entry, record) || button.Valid != kQVApplication
+        if (!hasPlaceFor(entry, record)
             || read->settings.Key.SubKey[slot].Valid != kQVApplication) {
             continue;
         }

@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "QVProfileImport.h"
 
+#include "QVMonitorGeometry.h"
+#include "SampleConfig.h"
+
 #include <QString>
 
 #include <gtest/gtest.h>
@@ -60,6 +63,7 @@ TEST(ProfileImport, takesWhatFits)
     theirs.Key.ScrollSpeed = 9;
     theirs.Monitor.num = 2;
     theirs.Monitor.cTabletXmax = 5000;
+    theirs.Monitor.cTabletYmax = 3000;
     const QVProfileImport read = import(theirs);
     EXPECT_EQ(read.profile.productID, 2);
     EXPECT_EQ(read.leftOut, QStringList());
@@ -134,7 +138,7 @@ TEST(ProfileImport, takesNoValueThatThePanelCannotSet)
     tagQVTabletInfo theirs = ownRecord();
     theirs.Pen.PressureThreshold = 201;
     theirs.Monitor.num = 5;
-    theirs.Monitor.rotationFlag = 90;
+    theirs.Monitor.rotationFlag = 1;
     theirs.Monitor.Speed = 1;
     theirs.Monitor.cTabletXmax = 10001;
     theirs.Key.ScrollSpeed = 11;
@@ -160,16 +164,91 @@ TEST(ProfileImport, takesNoValueThatThePanelCannotSet)
     EXPECT_EQ(read.leftOut.size(), 10);
 }
 
+TEST(ProfileImport, takesEveryValueThatThePanelCanSet)
+{
+    tagQVTabletInfo own = ownRecord();
+    own.Basic.ScrollNum = 2;
+    own.Key.Scrollbar0 = 1;
+    own.Key.Scrollbar1 = 1;
+    own.Monitor.num = 2;
+    own.Monitor.rotationFlag = kQVTurned;
+    tagQVTabletInfo lowest = ownRecord();
+    lowest.Pen.PressureThreshold = 0;
+    lowest.Key.ScrollSpeed = kQVSlowestScroll;
+    lowest.Monitor.Speed = kQVSpeedFast;
+    tagQVTabletInfo read = applied(import(lowest, own));
+    EXPECT_TRUE(sameBytes(read, lowest));
+
+    own.Monitor.Speed = kQVSpeedFast;
+    tagQVTabletInfo highest = ownRecord();
+    highest.Pen = {kQVHighestThreshold, 50};
+    highest.Key.ScrollSpeed = kQVFastestScroll;
+    highest.Key.Scrollbar0 = 1;
+    highest.Key.Scrollbar1 = 1;
+    highest.Monitor.num = 4;
+    highest.Monitor.rotationFlag = kQVTurned;
+    highest.Key.SubKey[0] = {kQVPauseTablet, kQVMiddleButton, 0x03060504, {}};
+    highest.Key.SubKey[kQVUpperPenSlot].Valid = kQVFinePositioning;
+    read = applied(import(highest, own));
+    EXPECT_TRUE(sameBytes(read, highest));
+}
+
 TEST(ProfileImport, takesAnAreaAsAWholeOrNotAtAll)
 {
     tagQVTabletInfo own = ownRecord();
-    own.Monitor.cTabletXmax = 1000;
+    own.Basic.TabletXmin = 100;
+    own.Basic.TabletYmin = 100;
+    const QVTabletArea ownArea{200, 9000, 200, 5000};
+    QVSetUsedArea(own, ownArea);
+    const auto areaAfter = [&own](const QVTabletArea& area) {
+        tagQVTabletInfo theirs = own;
+        QVSetUsedArea(theirs, area);
+        const QVProfileImport read = import(theirs, own);
+        const auto& monitor = read.profile.settings.Monitor;
+        return QVTabletArea{
+            monitor.cTabletXmin, monitor.cTabletXmax, monitor.cTabletYmin, monitor.cTabletYmax};
+    };
+    const QVTabletArea whole{100, 10000, 100, 6000};
+    EXPECT_EQ(areaAfter(whole), whole);
+    for (const QVTabletArea& beyond :
+        {QVTabletArea{99, 8000, 300, 4000}, QVTabletArea{300, 10001, 300, 4000},
+            QVTabletArea{300, 8000, 99, 4000}, QVTabletArea{300, 8000, 300, 6001},
+            QVTabletArea{300, 300, 300, 4000}, QVTabletArea{300, 8000, 300, 300}}) {
+        EXPECT_EQ(areaAfter(beyond), ownArea)
+            << beyond.xmin << " to " << beyond.xmax << ", " << beyond.ymin << " to " << beyond.ymax;
+    }
+}
+
+TEST(ProfileImport, leavesAsItIsWhatTheFileLacks)
+{
+    platform::PropertyList list =
+        QVWriteProfile(QVProfileOf(ownRecord(), QStringLiteral("Theirs")));
+    list.root().dictionary("Pen").setString("PressureThreshold", "none");
+    // An area without its left edge is none.
+    list.root().dictionary("Monitor").setString("cTabletXmin", "none");
+    list.root().dictionary("Key").dictionary("Key2").setString("Valid", "none");
+    tagQVTabletInfo own = ownRecord();
+    own.Monitor.cTabletXmax = 9000;
+    start(own, 2, "/usr/bin/own");
+    const auto read = QVImport(list, own);
+    ASSERT_TRUE(read);
+    EXPECT_TRUE(sameBytes(read->profile.settings, QVProfileOf(own, {}).settings));
+    EXPECT_EQ(read->changes, QStringList());
+    EXPECT_EQ(read->leftOut, QStringList{QStringLiteral("area of the tablet")});
+}
+
+TEST(ProfileImport, forATabletWithoutStripsNamesWhatIsForThem)
+{
+    tagQVTabletInfo own = ownRecord();
+    own.Basic.ScrollNum = 0;
     tagQVTabletInfo theirs = ownRecord();
-    theirs.Monitor.cTabletXmin = 5000;
-    theirs.Monitor.cTabletXmax = 65000;
+    theirs.Key.Scrollbar0 = 1;
+    theirs.Key.ScrollSpeed = 7;
     const QVProfileImport read = import(theirs, own);
-    EXPECT_EQ(+read.profile.settings.Monitor.cTabletXmin, 0);
-    EXPECT_EQ(+read.profile.settings.Monitor.cTabletXmax, 1000);
+    EXPECT_EQ(read.leftOut,
+        (QStringList{QStringLiteral("left scroll strip"), QStringLiteral("scroll speed")}));
+    EXPECT_EQ(+read.profile.settings.Key.Scrollbar0, 0);
+    EXPECT_EQ(+read.profile.settings.Key.ScrollSpeed, 5);
 }
 
 TEST(ProfileImport, takesNoPlaceOnTheDesktop)
@@ -186,23 +265,13 @@ TEST(ProfileImport, takesNoPlaceOnTheDesktop)
 
 TEST(ProfileImport, hasANameThatShowsWhatItIs)
 {
-    const QString name = QString::fromUtf8("a\u202Eb\u200D");
+    const QString name = QString::fromUtf8("a\u202Eb\u200Dc\u200C");
     QVProfile profile = QVProfileOf(ownRecord(), name);
-    profile.applications = QStringList{QString::fromUtf8("c\u2028d")};
+    profile.applications = QStringList{QString::fromUtf8("c\u2028d\u2029")};
     const auto read = QVImport(QVWriteProfile(profile), ownRecord());
     ASSERT_TRUE(read);
-    EXPECT_EQ(read->profile.name, QString::fromUtf8("a\uFFFDb\u200D"));
-    EXPECT_EQ(read->profile.applications, QStringList{QString::fromUtf8("c\uFFFDd")});
-}
-
-TEST(ProfileImport, takesNoAreaWithoutASize)
-{
-    tagQVTabletInfo theirs = ownRecord();
-    theirs.Monitor.cTabletXmin = 5000;
-    theirs.Monitor.cTabletXmax = 5000;
-    const tagQVTabletInfo record = applied(import(theirs));
-    EXPECT_EQ(+record.Monitor.cTabletXmin, 0);
-    EXPECT_EQ(+record.Monitor.cTabletXmax, 10000);
+    EXPECT_EQ(read->profile.name, QString::fromUtf8("a\uFFFDb\u200Dc\u200C"));
+    EXPECT_EQ(read->profile.applications, QStringList{QString::fromUtf8("c\uFFFDd\uFFFD")});
 }
 
 TEST(ProfileImport, refusesWhatIsNoProfile)
