@@ -8,10 +8,20 @@
 
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstring>
+#include <string>
+#include <sys/inotify.h>
 #include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+#include <vector>
 
 namespace {
 
@@ -31,8 +41,62 @@ QStringList namesIn(const QVProfileFolder& folder)
     return names;
 }
 
+/** The language of the user, for its lifetime. */
+class UserLanguage {
+public:
+    explicit UserLanguage(QLocale::Language language) { QLocale::setDefault(QLocale(language)); }
+    ~UserLanguage() { QLocale::setDefault(mBefore); }
+
+private:
+    QLocale mBefore;
+};
+
+/** Notes which files of a folder are opened, from its construction on. */
+class OpenedFiles {
+public:
+    explicit OpenedFiles(const QString& folder)
+        : mNotices(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC))
+    {
+        EXPECT_GE(::inotify_add_watch(mNotices, qPrintable(folder), IN_OPEN), 0);
+    }
+    ~OpenedFiles() { ::close(mNotices); }
+
+    /** Their names, without the folder itself. */
+    QStringList names()
+    {
+        QStringList names;
+        std::array<char, 4096> bytes{};
+        for (ssize_t size = 0; (size = ::read(mNotices, bytes.data(), bytes.size())) > 0;) {
+            for (std::size_t at = 0; at < static_cast<std::size_t>(size);) {
+                inotify_event notice{};
+                std::memcpy(&notice, &bytes.at(at), sizeof notice);
+                at += sizeof notice;
+                if (notice.len > 0) {
+                    names.append(QString::fromUtf8(&bytes.at(at))); // with NULs up to its length
+                }
+                at += notice.len;
+            }
+        }
+        names.removeDuplicates();
+        return names;
+    }
+
+private:
+    int mNotices;
+};
+
 class Profiles : public testing::Test {
 protected:
+    /** Writes a file into the folder, as if it were copied there. */
+    void copy(const QString& file, const QString& name, std::int16_t speed)
+    {
+        QVProfile profile = sample(name);
+        profile.settings.Pen.Speed = speed;
+        QDir().mkpath(mFolder.path());
+        const QString path = QDir(mFolder.path()).filePath(file);
+        ASSERT_TRUE(QVWriteProfile(profile).saveNew(path.toStdString()));
+    }
+
     QString entryOf(const QString& slug) const
     {
         return mHome.path()
@@ -125,20 +189,39 @@ TEST(Profile, hasANameOfUpTo64Characters)
     EXPECT_FALSE(QVProfileNameFault(QString(QChar(0xD800))).isEmpty());
 }
 
-TEST(Profile, hasNoMoreApplicationsThanAreSensible)
+TEST(Profile, takesWhatDoesNotFitAsAConfigurationFileDoes)
 {
     platform::PropertyList list = QVWriteProfile(sample(QStringLiteral("A")));
-    std::vector<std::string> names{"", std::string(256, 'a'), "two\nlines", "b", "b"};
-    for (int i = 0; i < 200; ++i) {
-        names.push_back("app" + std::to_string(i));
-    }
-    list.root().setStrings("Applications", names);
+    list.root().dictionary("Pen").setInteger("Speed", 0x10007);
     const auto read = QVReadProfile(list);
     ASSERT_TRUE(read);
-    EXPECT_EQ(read->applications.constFirst(), QStringLiteral("b"));
-    EXPECT_LE(read->applications.size(), 100);
+    tagQVTabletInfo record{};
+    QVApplyProfile(*read, record);
+    EXPECT_EQ(+record.Pen.Speed, 7);
+}
+
+TEST(Profile, hasOnlyApplicationsThatThereCanBe)
+{
+    platform::PropertyList list = QVWriteProfile(sample(QStringLiteral("A")));
+    const std::string longest(255, 'a');
+    list.root().setStrings("Applications", {"", longest + 'a', "two\nlines", longest, "b", "b"});
+    EXPECT_EQ(QVReadProfile(list)->applications,
+        (QStringList{QString::fromStdString(longest), QStringLiteral("b")}));
     list.root().setString("Applications", "app");
     EXPECT_TRUE(QVReadProfile(list)->applications.isEmpty());
+}
+
+TEST(Profile, hasUpTo100Applications)
+{
+    std::vector<std::string> names;
+    for (int i = 0; i < 101; ++i) {
+        names.push_back("app" + std::to_string(i));
+    }
+    platform::PropertyList list = QVWriteProfile(sample(QStringLiteral("A")));
+    list.root().setStrings("Applications", names);
+    const QStringList read = QVReadProfile(list)->applications;
+    EXPECT_EQ(read.size(), 100);
+    EXPECT_EQ(read.constLast(), QStringLiteral("app99"));
 }
 
 TEST_F(Profiles, areListedByName)
@@ -159,6 +242,35 @@ TEST_F(Profiles, areListedByName)
     EXPECT_EQ(files.join(u' '),
         QStringLiteral("alpha.plist beta.plist profile.plist under.plist x.plist"));
     EXPECT_EQ(QVProfileFolder(3).list().size(), 0U) << "another tablet's";
+}
+
+TEST_F(Profiles, areInTheOrderOfTheUsersLanguage)
+{
+    const UserLanguage german(QLocale::German);
+    const QStringList expected{QStringLiteral("alpha"), QString::fromUtf8("Ämter"),
+        QStringLiteral("Beta"), QStringLiteral("zeta")};
+    for (const QString& name : expected) {
+        ASSERT_TRUE(mFolder.save(sample(name)));
+    }
+    EXPECT_EQ(namesIn(mFolder), expected);
+}
+
+TEST_F(Profiles, haveShortFileNamesOfPlainLetters)
+{
+    const std::array<std::pair<QString, QString>, 4> names{{
+        {QStringLiteral("AB yz, 0189!"), QStringLiteral("ab-yz-0189")},
+        {QString::fromUtf8("«Été» – 3D"), QStringLiteral("ete-3d")},
+        {QString(39, u'x') + QStringLiteral(" y"), QString(39, u'x')},
+        // Without a limit, its file name would be too long for a disk.
+        {QString(64, QChar(0x3389)), QStringLiteral("kcal").repeated(10)},
+    }};
+    QStringList files;
+    for (const auto& [name, file] : names) {
+        ASSERT_TRUE(mFolder.save(sample(name)));
+        files.append(file + QStringLiteral(".plist"));
+    }
+    files.sort();
+    EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files, QDir::Name), files);
 }
 
 TEST_F(Profiles, haveFilesThatOnlyTheirUserCanRead)
@@ -183,7 +295,36 @@ TEST_F(Profiles, whoseFileNamesAgreeAreKeptApart)
     other.settings.Pen.Speed = 78;
     ASSERT_TRUE(mFolder.save(other));
     EXPECT_EQ(+mFolder.load(QStringLiteral("a?"))->settings.Pen.Speed, 78);
-    EXPECT_EQ(namesIn(mFolder).size(), 2);
+    ASSERT_TRUE(mFolder.save(sample(QStringLiteral("a."))));
+    EXPECT_EQ(namesIn(mFolder).size(), 3);
+    EXPECT_EQ(QDir(mFolder.path()).entryList(QDir::Files, QDir::Name).join(u' '),
+        QStringLiteral("a-2.plist a-3.plist a.plist"));
+}
+
+TEST_F(Profiles, whoseFilesWereCopiedCountOncePerName)
+{
+    // For this order, the names are the same: a soft hyphen has no weight.
+    const UserLanguage german(QLocale::German);
+    const QString name = QStringLiteral("ab");
+    const QString hyphenated = QString::fromUtf8("a\u00ADb");
+    copy(QStringLiteral("1.plist"), name, 1);
+    copy(QStringLiteral("2.plist"), hyphenated, 2);
+    copy(QStringLiteral("3.plist"), name, 3);
+    copy(QStringLiteral("4.plist"), hyphenated, 4);
+    EXPECT_EQ(namesIn(mFolder), (QStringList{name, hyphenated}));
+    EXPECT_EQ(+mFolder.load(name)->settings.Pen.Speed, 1);
+    EXPECT_EQ(+mFolder.load(hyphenated)->settings.Pen.Speed, 2);
+}
+
+TEST_F(Profiles, areReadAloneWhenTheirFileHasTheirName)
+{
+    ASSERT_TRUE(mFolder.save(sample(QStringLiteral("A"))));
+    ASSERT_TRUE(mFolder.save(sample(QStringLiteral("B"))));
+    OpenedFiles opened(mFolder.path());
+    EXPECT_TRUE(mFolder.load(QStringLiteral("B")));
+    EXPECT_EQ(opened.names(), QStringList{QStringLiteral("b.plist")});
+    EXPECT_FALSE(mFolder.load(QStringLiteral("b")));
+    EXPECT_TRUE(opened.names().contains(QStringLiteral("a.plist"))) << "it might be in any file";
 }
 
 TEST_F(Profiles, areNeitherMadeTwiceNorRenamedToOneThatIsThere)
@@ -203,8 +344,22 @@ TEST_F(Profiles, areNeitherMadeTwiceNorRenamedToOneThatIsThere)
     EXPECT_FALSE(mFolder.remove(QStringLiteral("C")));
     EXPECT_EQ(mFolder.load(QStringLiteral("C")).error().text,
         QString::fromUtf8("There is no profile “C”."));
-    EXPECT_EQ(mFolder.freeName(QStringLiteral("B")), QStringLiteral("B 2"));
-    EXPECT_EQ(mFolder.freeName(QStringLiteral("D")), QStringLiteral("D"));
+}
+
+TEST_F(Profiles, areNumberedWhereANameIsTaken)
+{
+    const QString name = QStringLiteral("B");
+    for (const char* const expected : {"B", "B 2", "B 3"}) {
+        EXPECT_EQ(mFolder.freeName(name), QLatin1String(expected));
+        ASSERT_TRUE(mFolder.save(sample(QLatin1String(expected))));
+    }
+    const QString pen = QStringLiteral("🖊");
+    for (const QString& character : {QStringLiteral("a"), pen}) {
+        // The number takes as little room of the 64 characters as it can.
+        ASSERT_TRUE(mFolder.save(sample(character.repeated(63))));
+        EXPECT_EQ(mFolder.freeName(character.repeated(63)),
+            character.repeated(62) + QStringLiteral(" 2"));
+    }
 }
 
 TEST_F(Profiles, passOverFilesThatAreNone)
@@ -243,4 +398,7 @@ TEST_F(Profiles, rememberTheChoiceForEachTablet)
     EXPECT_EQ(QVProfileChoice::load(2).current, QString::fromUtf8("ö, \"b\""));
     EXPECT_EQ(QVProfileChoice::load(2).chosen, QStringLiteral("c"));
     EXPECT_EQ(QVProfileChoice::load(3).chosen, QString());
+    QVProfileChoice{QStringLiteral("d"), QStringLiteral("e")}.save(3);
+    EXPECT_EQ(QVProfileChoice::load(2).chosen, QStringLiteral("c"));
+    EXPECT_EQ(QVProfileChoice::load(3).chosen, QStringLiteral("e"));
 }
