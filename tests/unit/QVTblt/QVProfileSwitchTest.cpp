@@ -4,6 +4,7 @@
 
 #include "FakeDisplays.h"
 #include "FakeEvents.h"
+#include "FakeUsb.h"
 #include "QVConfigStore.h"
 #include "QVDriverProtocol.h"
 #include "SampleConfig.h"
@@ -13,12 +14,48 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <csignal>
 #include <cstring>
+#include <string>
+#include <sys/resource.h>
 #include <utility>
 #include <vector>
 
 namespace {
+
+/** Notes what it has told. */
+class NotedSwitch final : public QVProfileSwitch {
+public:
+    using QVProfileSwitch::QVProfileSwitch;
+
+    std::vector<int> shown; ///< the pressures to be shown
+    std::vector<bool> changes; ///< whether the settings were those of another profile
+
+protected:
+    void show() override { shown.push_back(qvTabletInfo.Pen.PressureThreshold); }
+    void changed(bool isOther) override { changes.push_back(isOther); }
+};
+
+/** No file can be written, for its lifetime. */
+class FullDisk {
+public:
+    FullDisk()
+        : mHandlerBefore(std::signal(SIGXFSZ, SIG_IGN))
+    {
+        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &mBefore), 0);
+        const rlimit none{0, mBefore.rlim_max};
+        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
+    }
+    ~FullDisk()
+    {
+        ::setrlimit(RLIMIT_FSIZE, &mBefore);
+        std::signal(SIGXFSZ, mHandlerBefore);
+    }
+
+private:
+    void (*mHandlerBefore)(int);
+    rlimit mBefore{};
+};
 
 /** A driver with the sample's tablet, and no panel. */
 class Switch : public testing::Test {
@@ -74,7 +111,7 @@ protected:
     FakeEvents mEvents;
     FakeDisplays mDisplays{{{0, 0, 100, 100}, {100, 0, 200, 100}}};
     QVConfigStore mStore;
-    QVProfileSwitch mSwitch{mStore};
+    NotedSwitch mSwitch{mStore};
 };
 
 const QString kA = QStringLiteral("A");
@@ -154,22 +191,85 @@ TEST_F(Switch, keepsWhatNoProfileHas)
     EXPECT_EQ(names(), (QStringList{kA, kB, before, QStringLiteral("Before B 2")}));
 }
 
-TEST_F(Switch, keepsANameWithinItsLimit)
+TEST_F(Switch, shortensALongNameAsLittleAsItCan)
 {
-    QString name;
-    for (int i = 0; i < 32; ++i) {
-        name += QString::fromUtf8("🖊x");
-    }
-    make(name, 50);
     make(kA, 12);
+    int pressure = 55;
+    for (const QString& character : {QStringLiteral("x"), QStringLiteral("🖊")}) {
+        const QString name = character.repeated(64);
+        make(name, 50);
+        ASSERT_TRUE(mSwitch.use(kA));
+        ASSERT_TRUE(
+            mSwitch.set(QStringLiteral("Pen/PressureThreshold"), QString::number(pressure++)));
+        ASSERT_TRUE(mSwitch.use(name));
+        const QString before = QStringLiteral("Before ") + character.repeated(57);
+        EXPECT_TRUE(names().contains(before)) << names().join(u'\n').toStdString();
+    }
+}
+
+TEST_F(Switch, changesNothingWhenTheDiskIsFull)
+{
+    make(kA, 50, {QStringLiteral("paint")});
+    {
+        // There is no room for a profile with the settings as they are.
+        const FullDisk full;
+        EXPECT_FALSE(mSwitch.use(kA));
+        EXPECT_FALSE(mSwitch.useFor({QStringLiteral("paint")}));
+        EXPECT_FALSE(mSwitch.save(kB));
+    }
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 12);
+    make(kB, 12);
+    ASSERT_TRUE(mSwitch.use(kB));
+    pushes();
+    mSwitch.changes.clear();
+    {
+        // Nor is there for the tablet's file.
+        const FullDisk full;
+        EXPECT_FALSE(mSwitch.use(kA));
+        EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 12);
+    }
+    EXPECT_TRUE(pushes().empty());
+    EXPECT_EQ(*mSwitch.current(), kB);
+    EXPECT_TRUE(mSwitch.changes.empty());
+}
+
+TEST_F(Switch, tellsWhetherTheSettingsAreThoseOfAnotherProfile)
+{
+    const QString pressure = QStringLiteral("Pen/PressureThreshold");
+    using Changes = std::vector<bool>;
+    const auto told = [this] { return std::exchange(mSwitch.changes, {}); };
+    make(kA, 50);
+    EXPECT_FALSE(mSwitch.use(kB));
+    EXPECT_EQ(told(), Changes());
     ASSERT_TRUE(mSwitch.use(kA));
-    ASSERT_TRUE(mSwitch.set(QStringLiteral("Pen/PressureThreshold"), QStringLiteral("55")));
-    ASSERT_TRUE(mSwitch.use(name));
-    const QStringList all = names();
-    const auto before = std::ranges::find_if(
-        all, [](const QString& one) { return one.startsWith(QStringLiteral("Before ")); });
-    ASSERT_NE(before, all.end());
-    EXPECT_EQ(before->toUcs4().size(), 64);
+    EXPECT_EQ(told(), Changes{true});
+    ASSERT_TRUE(mSwitch.set(pressure, QStringLiteral("55")));
+    EXPECT_EQ(told(), Changes{false});
+    ASSERT_TRUE(mSwitch.edit({{pressure, QStringLiteral("56")}}));
+    EXPECT_EQ(told(), Changes{false});
+    ASSERT_TRUE(mSwitch.save(kB));
+    EXPECT_EQ(told(), Changes{false});
+    ASSERT_TRUE(mSwitch.rename(kB, QStringLiteral("C")));
+    EXPECT_EQ(told(), Changes{false});
+    ASSERT_TRUE(mSwitch.remove(QStringLiteral("C")));
+    EXPECT_EQ(told(), Changes{false});
+    EXPECT_EQ(mSwitch.shown, (std::vector<int>{50, 55, 56}));
+}
+
+TEST_F(Switch, asksTheTabletForTheReportSpeedOfAProfile)
+{
+    FakeUsb usb;
+    usb.devices.resize(1);
+    tagQVTabletInfo record = sampleRecord();
+    record.Monitor.Speed = kQVSpeedFast;
+    ASSERT_TRUE(QVProfileFolder(2).save(QVProfileOf(record, kA)));
+    record.Pen.PressureThreshold = 50;
+    ASSERT_TRUE(QVProfileFolder(2).save(QVProfileOf(record, kB)));
+    ASSERT_TRUE(mSwitch.use(kA));
+    ASSERT_EQ(usb.data.size(), 1U);
+    EXPECT_EQ(usb.data[0], (std::vector<std::uint8_t>{4, 1}));
+    ASSERT_TRUE(mSwitch.use(kB));
+    EXPECT_EQ(usb.data.size(), 1U) << "it has that speed already";
 }
 
 TEST_F(Switch, goesRoundWithNext)
@@ -226,6 +326,32 @@ TEST_F(Switch, changesOneEntryOfTheFile)
     EXPECT_TRUE(pushes().empty());
 }
 
+TEST_F(Switch, readsNumbersAndTextsOfEntries)
+{
+    const QString speed = QStringLiteral("Pen/Speed");
+    for (const auto& [words, number] :
+        {std::pair("31", 31), {"0x1f", 31}, {"0X1F", 31}, {"-5", -5}}) {
+        ASSERT_TRUE(mSwitch.set(speed, QLatin1String(words))) << words;
+        EXPECT_EQ(+inFile().Pen.Speed, number) << words;
+    }
+    EXPECT_EQ(
+        text(mSwitch.set(speed, QStringLiteral("0x1g"))), QStringLiteral("'0x1g' is not a number"));
+    EXPECT_EQ(
+        text(mSwitch.set(speed, QStringLiteral("70000"))), QStringLiteral("70000 does not fit"));
+
+    const QString path = QStringLiteral("Key/Key3/App");
+    const std::string longest(255, 'a');
+    ASSERT_TRUE(mSwitch.set(path, QString::fromStdString(longest)));
+    EXPECT_EQ(QVText(inFile().Key.SubKey[3].App), longest);
+    for (const QString& unfit : {QString(256, u'a'), QString::fromUtf8("ö")}) {
+        EXPECT_EQ(text(mSwitch.set(path, unfit)),
+            QStringLiteral("the text must be ASCII and at most 255 characters long"));
+    }
+    EXPECT_EQ(text(mSwitch.set(path, QStringLiteral("a\x01"))),
+        QStringLiteral("the text must not contain control characters"));
+    EXPECT_EQ(QVText(inFile().Key.SubKey[3].App), longest);
+}
+
 TEST_F(Switch, changesAllEntriesOrNone)
 {
     const QString pressure = QStringLiteral("Pen/PressureThreshold");
@@ -279,4 +405,16 @@ TEST_F(Switch, savesWhatAnApplicationUsesWithoutMakingItTheUsersChoice)
     ASSERT_TRUE(mSwitch.useFor({QStringLiteral("paint")}));
     ASSERT_TRUE(mSwitch.save(kA));
     EXPECT_EQ(QVProfileChoice::load(2).chosen, kB);
+}
+
+TEST_F(Switch, makesWhatTheUserSavesTheirChoice)
+{
+    make(kA, 50, {QStringLiteral("paint")});
+    ASSERT_TRUE(mSwitch.use(kA));
+    ASSERT_TRUE(mSwitch.save(kB));
+    EXPECT_EQ(QVProfileChoice::load(2).chosen, kB);
+    ASSERT_TRUE(mSwitch.useFor({QStringLiteral("paint")}));
+    ASSERT_TRUE(mSwitch.remove(kB));
+    ASSERT_TRUE(mSwitch.save(kA));
+    EXPECT_EQ(QVProfileChoice::load(2).chosen, kA) << "there is no other choice any more";
 }
