@@ -5,7 +5,9 @@
 #include "TemporaryHome.h"
 
 #include <QFile>
+#include <QRegularExpression>
 #include <QScopeGuard>
+#include <QSysInfo>
 
 #include <gtest/gtest.h>
 
@@ -68,6 +70,10 @@ const Case kCases[] = {
         "The driver cannot be started.", "Log out"},
     {"answer", [](Facts& facts) { facts.driver = Facts::Driver::NotStarted; }, Status::NotChecked,
         "The driver was not asked.", ""},
+    {"answer", [](Facts& facts) { facts.bus = Facts::Bus::Hangs; }, Status::NotChecked,
+        "The driver was not asked.", ""},
+    {"answer", [](Facts& facts) { facts.driver = Facts::Driver::Started; }, Status::Ok,
+        "The driver answers in time.", ""},
     {"answer", [](Facts& facts) { facts.answer.reset(); }, Status::Problem,
         "The driver does not answer in time.", "Restart the driver"},
     {"tablet", [](Facts& facts) { facts.tablets.clear(); }, Status::Ok,
@@ -227,8 +233,29 @@ TEST(SelfCheck, reportsVersionsDesktopTabletsAndStages)
     const QStringList lines = QVSelfCheckReport(goodFacts()).split(u'\n');
     EXPECT_TRUE(lines[0].startsWith(
         QStringLiteral("QVTblt " QVTBLT_VERSION ", Qt %1, ").arg(QLatin1String(qVersion()))));
+    const QRegularExpression system(QStringLiteral(", ([a-z]+) [0-9.]*, Linux [0-9]+[0-9.]*$"));
+    const QString product = QSysInfo::productType();
+    const bool isPlain =
+        std::ranges::all_of(product, [](QChar letter) { return letter.isLower(); });
+    EXPECT_EQ(system.match(lines[0]).captured(1), isPlain ? product : QStringLiteral("other"))
+        << qPrintable(lines[0]);
     EXPECT_EQ(lines[1], QStringLiteral("Desktop: GNOME, wayland"));
     EXPECT_EQ(lines[2], QStringLiteral("Tablet: 1234:0042, event device"));
     EXPECT_EQ(lines[3], QStringLiteral("ok           bus      The session bus answers."));
     EXPECT_EQ(lines.size(), 3 + 10 + 1);
+}
+
+TEST(SelfCheck, givesThePanelItsStagesAndTheReport)
+{
+    Facts facts = goodFacts();
+    facts.holders = QStringList{QStringLiteral("secret")};
+    const auto result = QVSelfCheckResult(facts);
+    ASSERT_EQ(result.stages.size(), 10U);
+    EXPECT_EQ(result.stages[5].id, QStringLiteral("holder"));
+    EXPECT_EQ(result.stages[5].status, Status::Problem);
+    EXPECT_EQ(
+        result.stages[5].text, QStringLiteral("Another program has the tablet open: secret."));
+    EXPECT_EQ(
+        result.stages[5].remedy, QStringLiteral("End that program, and plug the tablet in again."));
+    EXPECT_TRUE(result.report.contains(QStringLiteral("Another program has the tablet open: ….")));
 }
