@@ -76,13 +76,9 @@ ApplicationsDialog::ApplicationsDialog(
     mRemove = new QPushButton(tr("&Remove"), this);
     auto* const buttons = new QDialogButtonBox(this);
     //: Button: takes the list of applications.
-    auto* const take = buttons->addButton(tr("&OK"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(tr("&OK"), QDialogButtonBox::AcceptRole);
     //: Button: closes the dialog, and changes nothing.
-    auto* const cancel = buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
-    for (QPushButton* const button : {another, mRemove, cancel}) {
-        button->setAutoDefault(false);
-    }
-    take->setDefault(true);
+    buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
     connect(another, &QPushButton::clicked, this, &ApplicationsDialog::add);
     connect(mRemove, &QPushButton::clicked, this, &ApplicationsDialog::remove);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -102,7 +98,6 @@ ApplicationsDialog::ApplicationsDialog(
         addRow(applications[static_cast<int>(i)], all[i]);
     }
     mList->setCurrentRow(0);
-    mList->setFocus();
     updateButton();
     resize(sizeHint());
 }

@@ -9,7 +9,6 @@
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
@@ -90,15 +89,12 @@ ImportDialog::ImportDialog(platform::PaneProfiles::Import import, QWidget* paren
     }
     auto* const buttons = new QDialogButtonBox(this);
     //: Button: keeps what is in the file as a profile.
-    auto* const take = buttons->addButton(tr("&Import"), QDialogButtonBox::AcceptRole);
+    buttons->addButton(tr("&Import"), QDialogButtonBox::AcceptRole);
     //: Button: closes the dialog, and changes nothing.
-    auto* const cancel = buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setAutoDefault(false);
-    take->setDefault(true);
+    buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    mContents->setFocus();
     constexpr double kMostOfScreen = 0.9;
     resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
 }

@@ -31,13 +31,11 @@ ProfileNameDialog::ProfileNameDialog(
     mFault->setWordWrap(true);
     // So that the window keeps its size, whatever the text.
     mFault->setMinimumHeight(2 * fontMetrics().lineSpacing());
-    mFault->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    mFault->setAlignment(Qt::AlignTop);
     auto* const buttons = new QDialogButtonBox(this);
     mTake = buttons->addButton(button, QDialogButtonBox::AcceptRole);
     //: Button: closes the dialog, and changes nothing.
-    auto* const cancel = buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
-    cancel->setAutoDefault(false);
-    mTake->setDefault(true);
+    buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
     connect(mName, &QLineEdit::textChanged, this, &ProfileNameDialog::check);
     connect(buttons, &QDialogButtonBox::accepted, this, [this] { Q_EMIT chosen(mName->text()); });
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
@@ -49,7 +47,6 @@ ProfileNameDialog::ProfileNameDialog(
     layout->addLayout(row);
     layout->addWidget(mFault, 1);
     layout->addWidget(buttons);
-    mName->setFocus();
     check();
 }
 

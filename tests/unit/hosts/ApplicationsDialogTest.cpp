@@ -5,9 +5,14 @@
 #include "OpenPanel.h"
 #include "Service.h"
 #include "TemporaryHome.h"
+#include "Wait.h"
 
+#include <QApplication>
+#include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScrollBar>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -54,10 +59,12 @@ protected:
         writeFile(entry(id), "[Desktop Entry]\nType=Application\nExec=true\nName=" + name + "\n");
     }
 
-    void open(const QStringList& ids)
+    void open(const QStringList& ids, const QString& profile = QStringLiteral("Painting"))
     {
-        mDialog = std::make_unique<ApplicationsDialog>(QStringLiteral("Painting"), ids, nullptr);
+        mDialog = std::make_unique<ApplicationsDialog>(profile, ids, nullptr);
         mDialog->show();
+        mDialog->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(mDialog.get(), kPatience));
     }
     QListWidget& list() { return *mDialog->findChild<QListWidget*>(); }
     QStringList names()
@@ -142,6 +149,78 @@ TEST_F(Applications, areRemoved)
     button("Remove").click();
     EXPECT_EQ(mDialog->applications(), QStringList());
     EXPECT_FALSE(button("Remove").isEnabled());
+}
+
+TEST_F(Applications, areThoseOfTheProfileInTheText)
+{
+    const QString profile = QStringLiteral("<b>Ink</b> & wash");
+    open(texts({"org.example.Draw"}), profile);
+    EXPECT_EQ(mDialog->windowTitle(), QStringLiteral("Applications of the Profile"));
+    const auto& label = *mDialog->findChild<QLabel*>();
+    EXPECT_TRUE(label.text().contains(profile));
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_GE(label.height(), 2 * label.fontMetrics().lineSpacing()) << "it wraps";
+    EXPECT_GE(label.height(), label.heightForWidth(label.width()));
+    EXPECT_LT(label.geometry().bottom(), list().y());
+}
+
+TEST_F(Applications, canBeChangedWithTheKeyboardAlone)
+{
+    open(texts({"org.example.Draw", "org.example.Paint"}));
+    EXPECT_EQ(QApplication::focusWidget(), &list());
+    EXPECT_EQ(list().currentRow(), 0);
+    QTest::keyClick(&list(), Qt::Key_Down);
+    EXPECT_EQ(list().currentRow(), 1);
+    for (const char* const text : {"Add…", "Remove"}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        EXPECT_EQ(QApplication::focusWidget(), &button(text));
+    }
+    QTest::keyClick(&button("Remove"), Qt::Key_Return);
+    EXPECT_TRUE(mDialog->isVisible());
+    EXPECT_EQ(mDialog->applications(), texts({"org.example.Draw"}));
+    list().setFocus();
+    QTest::keyClick(&list(), Qt::Key_Return);
+    EXPECT_EQ(mDialog->result(), QDialog::Accepted);
+    EXPECT_FALSE(mDialog->isVisible());
+}
+
+TEST_F(Applications, stayAsTheyWereAfterCancel)
+{
+    const auto cancel = [this](const auto& how) {
+        open(texts({"org.example.Draw"}));
+        how();
+        EXPECT_FALSE(mDialog->isVisible());
+        EXPECT_EQ(mDialog->result(), QDialog::Rejected);
+    };
+    cancel([this] { button("Cancel").click(); });
+    cancel([this] { QTest::keyClick(&list(), Qt::Key_Escape); });
+    cancel([this] {
+        button("Cancel").setFocus();
+        QTest::keyClick(&button("Cancel"), Qt::Key_Return);
+    });
+}
+
+TEST_F(Applications, haveRoomForSeveralAndForLongNames)
+{
+    const QString name(300, u'n');
+    install("org.example.Long", name.toUtf8());
+    open(texts({"org.example.Draw", "org.example.Long", "org.example.Paint"}));
+    EXPECT_EQ(list().verticalScrollBar()->maximum(), 0);
+    EXPECT_FALSE(list().horizontalScrollBar()->isVisible());
+    EXPECT_GE(list().width(), 40 * list().fontMetrics().averageCharWidth());
+    EXPECT_LT(list().geometry().bottom(), button("Add…").y());
+    EXPECT_EQ(button("Add…").y(), button("Remove").y());
+    EXPECT_LT(button("Remove").x(), mDialog->width() / 2) << "both are on the left";
+    const QPoint corner = button("OK").mapTo(mDialog.get(), QPoint(0, 0));
+    EXPECT_GT(corner.y(), button("Add…").geometry().bottom());
+    // A long name is shown with its beginning and its end.
+    const auto drawn = [this](const QString& text) {
+        list().item(1)->setText(text);
+        return list().grab().toImage();
+    };
+    const QImage before = drawn(name);
+    EXPECT_NE(drawn(QString(name).replace(0, 1, u'O')), before);
+    EXPECT_NE(drawn(QString(name).replace(299, 1, u'O')), before);
 }
 
 TEST_F(Applications, mayGoWhileOneIsChosen)

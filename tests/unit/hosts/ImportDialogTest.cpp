@@ -3,13 +3,16 @@
 #include "ImportDialog.h"
 
 #include "TemporaryHome.h"
+#include "Wait.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QScrollBar>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -31,13 +34,26 @@ protected:
     {
         mDialog = std::make_unique<ImportDialog>(mImport, nullptr);
         mDialog->show();
+        mDialog->activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(mDialog.get(), kPatience));
+    }
+    QListWidget& list() { return *mDialog->findChild<QListWidget*>(); }
+    QPushButton& button(const char* text)
+    {
+        const auto buttons = mDialog->findChildren<QPushButton*>();
+        for (QPushButton* const button : buttons) {
+            if (QString(button->text()).remove(u'&') == QString::fromUtf8(text)) {
+                return *button;
+            }
+        }
+        ADD_FAILURE() << "there is no button " << text;
+        return *buttons.constFirst();
     }
     QStringList lines()
     {
-        const auto& list = *mDialog->findChild<QListWidget*>();
         QStringList lines;
-        for (int row = 0; row < list.count(); ++row) {
-            lines.append(list.item(row)->text());
+        for (int row = 0; row < list().count(); ++row) {
+            lines.append(list().item(row)->text());
         }
         return lines;
     }
@@ -77,6 +93,13 @@ TEST_F(Import, showsWhatIsInTheProfile)
             QStringLiteral("Left out, because it does not fit your tablet:"),
             QStringLiteral("Key 20"), QStringLiteral("It is for these applications:"),
             QStringLiteral("Paint"), QStringLiteral("org.example.Gone")}));
+    QList<int> headings;
+    for (int row = 0; row < list().count(); ++row) {
+        if (list().item(row)->font().bold()) {
+            headings.append(row);
+        }
+    }
+    EXPECT_EQ(headings, (QList<int>{0, 3, 5}));
     EXPECT_EQ(mDialog->findChildren<QCheckBox*>().size(), 0);
     EXPECT_EQ(mDialog->allowed(), std::vector<bool>());
 }
@@ -123,6 +146,73 @@ TEST_F(Import, showsThingsLiterallyAndPathsWhole)
     ASSERT_EQ(labels.size(), 2);
     EXPECT_GT(labels[0]->height(), 3 * labels[0]->fontMetrics().lineSpacing());
     EXPECT_GE(labels[0]->height(), labels[0]->heightForWidth(labels[0]->width()));
+}
+
+TEST_F(Import, isReadAndTakenWithTheKeyboardAlone)
+{
+    mImport.changes = QStringList{QStringLiteral("Pressure: 50"), QStringLiteral("Key 1: Ctrl Z")};
+    open();
+    EXPECT_EQ(mDialog->windowTitle(), QStringLiteral("Import Profile"));
+    EXPECT_EQ(QApplication::focusWidget(), &list());
+    EXPECT_EQ(list().currentRow(), 0);
+    QTest::keyClick(&list(), Qt::Key_Down);
+    EXPECT_EQ(list().currentRow(), 1);
+    EXPECT_TRUE(list().selectedItems().isEmpty()) << "there is nothing to choose";
+    QTest::keyClick(&list(), Qt::Key_Return);
+    EXPECT_EQ(mDialog->result(), QDialog::Accepted);
+    EXPECT_FALSE(mDialog->isVisible());
+}
+
+TEST_F(Import, isNotTakenAfterCancel)
+{
+    const auto cancel = [this](const auto& how) {
+        open();
+        how();
+        EXPECT_FALSE(mDialog->isVisible());
+        EXPECT_EQ(mDialog->result(), QDialog::Rejected);
+    };
+    cancel([this] { button("Cancel").click(); });
+    cancel([this] { QTest::keyClick(&list(), Qt::Key_Escape); });
+    cancel([this] {
+        button("Cancel").setFocus();
+        QTest::keyClick(&button("Cancel"), Qt::Key_Return);
+    });
+}
+
+TEST_F(Import, hasItsPartsBelowEachOtherWithRoomForTheStarts)
+{
+    open();
+    const int height = mDialog->height();
+    mImport.starts = {{QStringLiteral("Express key 1"), QStringLiteral("/usr/bin/one")}};
+    open();
+    EXPECT_GT(mDialog->height(), height);
+    int bottom = -1;
+    const auto labels = mDialog->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
+    ASSERT_EQ(labels.size(), 2);
+    auto* const area = mDialog->findChild<QScrollArea*>();
+    for (const QWidget* const part : {static_cast<QWidget*>(labels[0]),
+             static_cast<QWidget*>(&list()), static_cast<QWidget*>(labels[1]),
+             static_cast<QWidget*>(area), button("Import").parentWidget()}) {
+        EXPECT_GT(part->y(), bottom);
+        EXPECT_EQ(part->width(), labels[0]->width());
+        bottom = part->geometry().bottom();
+    }
+    EXPECT_LT(bottom, mDialog->height());
+    EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
+}
+
+TEST_F(Import, wrapsLongLines)
+{
+    mImport.changes =
+        QStringList{QStringLiteral("Key 1: ") + QString(QStringLiteral("text ")).repeated(60)};
+    open();
+    const QRect line = list().visualItemRect(list().item(1));
+    EXPECT_LE(line.width(), list().viewport()->width());
+    EXPECT_GE(line.height(), 3 * list().fontMetrics().lineSpacing());
+    EXPECT_FALSE(list().horizontalScrollBar()->isVisible());
+    const QImage before = list().grab().toImage();
+    list().item(1)->setText(mImport.changes.constFirst().chopped(2) + u'X');
+    EXPECT_NE(list().grab().toImage(), before) << "its end is drawn";
 }
 
 TEST_F(Import, scrollsWhatIsLong)
