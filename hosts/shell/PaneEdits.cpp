@@ -103,7 +103,6 @@ void PaneEdits::makeMenu(const QWidget& view) const
     button->setText(tr("Edit"));
     button->setAutoRaise(true);
     button->setPopupMode(QToolButton::InstantPopup);
-    button->setFocusPolicy(Qt::TabFocus);
     auto* const menu = new QMenu(button);
     menu->addAction(mUndo);
     menu->addAction(mRedo);
@@ -141,7 +140,6 @@ void PaneEdits::note()
     const QByteArray before = std::exchange(mLast, settings);
     if (!before.isEmpty()) {
         mStack.push(new Edit(*this, before, settings));
-        updateActions(); // an edit that joins another one keeps the stack's index
     }
 }
 

@@ -182,7 +182,6 @@ void ProfileBar::makeMenu()
     mMore->setToolTip(tr("Manage the profiles"));
     mMore->setAccessibleDescription(mMore->toolTip());
     mMore->setPopupMode(QToolButton::InstantPopup);
-    mMore->setFocusPolicy(Qt::TabFocus);
     auto* const menu = new QMenu(mMore);
     menu->setToolTipsVisible(true);
     const auto add = [this, menu](const QString& text, void (ProfileBar::*act)()) {
@@ -355,7 +354,6 @@ void ProfileBar::askWhetherToDelete()
         tr("&Delete"), this, [this, name] {
             if (Profiles* const there = profiles()) {
                 tell(there->remove(name));
-                refresh();
             }
         });
 }
@@ -371,7 +369,6 @@ void ProfileBar::askForApplications()
     connect(dialog, &QDialog::accepted, this, [this, dialog, name = found->name] {
         if (Profiles* const there = profiles()) {
             tell(there->setApplications(name, dialog->applications()));
-            refresh();
         }
     });
     openOnce(*dialog);
@@ -410,7 +407,6 @@ void ProfileBar::keepImport(ImportDialog& dialog)
 {
     if (Profiles* const there = profiles()) {
         tell(there->keepImport(dialog.import(), dialog.allowed()));
-        refresh();
     }
 }
 
@@ -420,7 +416,6 @@ void ProfileBar::askWhereToExport()
     //: Title of the dialog.
     auto* const dialog = new QFileDialog(this, tr("Export Profile"));
     dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setFileMode(QFileDialog::AnyFile);
     dialog->setDefaultSuffix(kProfileSuffix);
     dialog->setNameFilters({tr("Profiles") + QStringLiteral(" (*.%1)").arg(kProfileSuffix)});
     dialog->selectFile(QString(name).replace(u'/', u'-') + u'.' + kProfileSuffix);
@@ -458,7 +453,6 @@ void ProfileBar::take(ProfileNameDialog& dialog, const QString& name, const Act&
 {
     Profiles* const there = profiles();
     const QString fault = there == nullptr ? QString() : act(*there, name);
-    refresh();
     if (fault.isEmpty()) {
         dialog.accept();
     } else {
