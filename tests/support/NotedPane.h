@@ -6,6 +6,7 @@
 
 #include <QCheckBox>
 #include <QStringList>
+#include <QTabWidget>
 #include <QVBoxLayout>
 
 #include <gtest/gtest.h>
@@ -29,6 +30,7 @@ struct PaneLife {
     platform::PreferencePane::SelfCheck selfCheck; ///< what one finds
     QString deviceID;
     int display = 0; ///< the chosen one
+    bool hasTabs = false; ///< in its main view
     bool hasProfiles = false;
     std::vector<platform::PaneProfiles::Profile> profiles;
     QString profile; ///< the current one
@@ -281,7 +283,15 @@ private:
         auto* const view = new View(mLife);
         view->setWindowTitle(QStringLiteral("Noted"));
         view->resize(300, 200);
-        (new QVBoxLayout(view))->addWidget(new QCheckBox(QStringLiteral("Noted")));
+        auto* const layout = new QVBoxLayout(view);
+        auto* const box = new QCheckBox(QStringLiteral("Noted"));
+        if (mLife.hasTabs) {
+            auto* const tabs = new QTabWidget;
+            tabs->addTab(box, QStringLiteral("Page"));
+            layout->addWidget(tabs);
+        } else {
+            layout->addWidget(box);
+        }
         return view;
     }
 

@@ -75,6 +75,36 @@ TEST_F(Follow, saysWhetherTheServiceIsStartedWithTheSession)
     EXPECT_EQ(systemd.calls, (QStringList{kAsked, kAsked, kListed}));
 }
 
+TEST_F(Follow, asksOnceWhileItWaitsForAnAnswer)
+{
+    const FakeSystemd& systemd = startSystemd();
+    andWait([this] {
+        mService.refresh();
+        mService.refresh();
+    });
+    FollowService other; // whose answer comes after all others
+    bool isAnswered = false;
+    QObject::connect(&other, &FollowService::changed, [&] { isAnswered = true; });
+    other.refresh();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isAnswered; }, kPatience));
+    EXPECT_EQ(systemd.calls, (QStringList{kAsked, kAsked}));
+    EXPECT_EQ(mChanges, 1);
+}
+
+TEST_F(Follow, takesOnlyTheEndOfItsOwnJobForThat)
+{
+    FakeSystemd& systemd = startSystemd();
+    set(true);
+    systemd.calls.clear();
+    QDBusMessage ended = QDBusMessage::createSignal(QStringLiteral("/org/freedesktop/systemd1"),
+        QStringLiteral("org.freedesktop.systemd1.Manager"), QStringLiteral("JobRemoved"));
+    ended << 2U << QVariant::fromValue(QDBusObjectPath(QStringLiteral("/job/2")))
+          << QStringLiteral("qvtblt-follow.service") << QStringLiteral("done");
+    EXPECT_TRUE(QDBusConnection(QStringLiteral("systemd")).send(ended));
+    refresh();
+    EXPECT_EQ(systemd.calls, (QStringList{kAsked, kListed})) << "only what was asked for here";
+}
+
 TEST_F(Follow, turnsTheServiceOnForAllSessionsAndStartsIt)
 {
     const FakeSystemd& systemd = startSystemd();

@@ -8,6 +8,8 @@
 #include <QCoreApplication>
 #include <QDialog>
 #include <QHideEvent>
+#include <QMessageBox>
+#include <QTest>
 #include <QVBoxLayout>
 #include <QtTest/qtestspontaneevent.h>
 
@@ -216,6 +218,28 @@ TEST_F(Area, givesUpTheChangesThatCannotBeSavedWhenTheUserDiscardsThem)
         (QStringList{QStringLiteral("will unselect"), QStringLiteral("cancel"),
             QStringLiteral("did unselect")}));
     EXPECT_EQ(mTold, false);
+}
+
+TEST_F(Area, givesUpTheChangesThatCannotBeSavedWhenTheQuestionIsDismissed)
+{
+    show();
+    mPane->edit();
+    mLife.canSave = false;
+    mWindow->hide();
+    bool isDismissed = false;
+    QTimer::singleShot(0, mWindow.get(), [&isDismissed] {
+        auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->textFormat(), Qt::PlainText);
+        QTest::keyClick(box, Qt::Key_Escape);
+        isDismissed = !box->isVisible();
+        box->reject();
+    });
+    settle();
+    EXPECT_TRUE(isDismissed);
+    EXPECT_EQ(calls(),
+        (QStringList{QStringLiteral("will unselect"), QStringLiteral("cancel"),
+            QStringLiteral("did unselect")}));
 }
 
 TEST_F(Area, asksNothingWhenItIsDestroyed)

@@ -5,11 +5,17 @@
 
 #include "NotedPane.h"
 #include "PaneShell.h"
+#include "Wait.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QCheckBox>
+#include <QMenu>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
+#include <QToolButton>
+#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -201,4 +207,69 @@ TEST_P(Edits, ofAKeyThatIsHeldAreOne)
     undo();
     undo();
     EXPECT_EQ(mLife.take(), texts({"set a2", "set a0"}));
+}
+
+TEST_P(Edits, areUndoneOnlyByAKeyInThePane)
+{
+    QWidget window;
+    auto* const other = new QCheckBox(&window);
+    auto* const layout = new QVBoxLayout(&window);
+    layout->addWidget(mShell.get());
+    layout->addWidget(other);
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window, kPatience));
+    mLife.take();
+    edit("a1");
+    other->setFocus();
+    QTest::keyClick(other, Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(mLife.take(), QStringList()) << "the host may have a use for it";
+    box().setFocus();
+    undo();
+    EXPECT_EQ(mLife.take(), texts({"set a0"}));
+    mShell->setParent(nullptr);
+}
+
+TEST(EditsOfTabs, areInAMenuBesideThem)
+{
+    PaneLife life;
+    life.hasTabs = true;
+    life.settings = "a0";
+    auto noted = std::make_unique<NotedPane>(life);
+    NotedPane& pane = *noted;
+    PaneShell shell(std::move(noted), PaneShell::Host::Window);
+    shell.willSelect();
+    shell.show();
+    shell.didSelect();
+    shell.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&shell, kPatience));
+    for (const char* const settings : {"a1", "b1"}) {
+        life.settings = settings;
+        pane.edit();
+    }
+    auto& tabs = *shell.view().findChild<QTabWidget*>();
+    auto* const button = qobject_cast<QToolButton*>(tabs.cornerWidget());
+    ASSERT_NE(button, nullptr);
+    EXPECT_TRUE(button->isVisible());
+    EXPECT_EQ(button->text(), QStringLiteral("Edit"));
+    tabs.tabBar()->setFocus();
+    QTest::keyClick(tabs.tabBar(), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), button);
+    QTest::keyClick(button, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), tabs.currentWidget());
+
+    life.take();
+    QMenu& menu = *button->menu();
+    QStringList items;
+    QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&] {
+        const auto actions = menu.actions();
+        for (const QAction* const action : actions) {
+            items.append(QString(action->text()).remove(u'&'));
+        }
+        QMetaObject::invokeMethod(
+            &menu, [&menu] { QTest::keyClick(&menu, Qt::Key_U); }, Qt::QueuedConnection);
+    });
+    QTest::mouseClick(button, Qt::LeftButton);
+    EXPECT_EQ(items, texts({"Undo: b1", "Redo"}));
+    EXPECT_EQ(life.take(), texts({"set a1"}));
 }

@@ -17,6 +17,8 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QTest>
 #include <QTimer>
 
@@ -350,6 +352,59 @@ TEST_P(Shell, saysNothingOfAFailedSaveWithoutATablet)
     EXPECT_EQ(notice(), QString());
 }
 
+TEST_P(Shell, saysWhatIsWrongLiterallyAndWhole)
+{
+    show();
+    mShell->resize(500, 400);
+    const QString reason =
+        QStringLiteral("<b>disk</b> ") + QStringLiteral("a long reason ").repeated(12);
+    mPane->tell(News::NotSaved, reason);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(notice().contains(reason));
+    auto& label = *mShell->findChild<platform::NoticeLabel*>();
+    EXPECT_EQ(label.textFormat(), Qt::PlainText);
+    EXPECT_EQ(mShell->width(), 500);
+    EXPECT_GE(label.height(), 2 * label.fontMetrics().lineSpacing()) << "it wraps";
+    EXPECT_GE(label.height(), label.heightForWidth(label.width()));
+    EXPECT_GT(button("Try Again")->x(), label.geometry().right());
+    // It can be copied.
+    const QPoint start = label.rect().topLeft() + QPoint(1, label.fontMetrics().ascent());
+    QTest::mouseDClick(&label, Qt::LeftButton, {}, start);
+    EXPECT_EQ(label.selectedText(), QStringLiteral("The"));
+}
+
+TEST_P(Shell, hasScrollBarsInAWindowThatIsTooSmall)
+{
+    mShell->view().setMinimumSize(300, 200);
+    show();
+    const auto* const area = mShell->findChild<QScrollArea*>();
+    if (GetParam() == PaneShell::Host::SettingsApplication) {
+        EXPECT_EQ(area, nullptr) << "the host has its own";
+    } else {
+        ASSERT_NE(area, nullptr);
+        mShell->resize(200, 150);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(mShell->size(), QSize(200, 150));
+        EXPECT_GT(area->horizontalScrollBar()->maximum(), 0);
+        EXPECT_GT(area->verticalScrollBar()->maximum(), 0);
+    }
+    mShell->resize(700, 600);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mShell->view().width(), 700);
+}
+
+TEST_P(Shell, leavesThePaneTheWholeHeightWhereNothingIsBelowIt)
+{
+    show();
+    const int bottom =
+        mShell->view().mapTo(mShell.get(), mShell->view().rect().bottomLeft()).y() + 1;
+    if (GetParam() == PaneShell::Host::SettingsApplication) {
+        EXPECT_EQ(bottom, mShell->height());
+    } else {
+        EXPECT_EQ(bottom, mShell->height() - mShell->bottomHeight());
+    }
+}
+
 TEST_P(Shell, beginsEachShowingWithoutALine)
 {
     show();
@@ -368,6 +423,16 @@ TEST_P(Shell, showsThePaneAnewAfterCancel)
     mPane->tell(News::ChangeNotTaken);
     mShell->cancel();
     EXPECT_EQ(mLife.take(), calls({"cancel"}) + kLeaving + kComing);
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(Shell, savesNothingThatCancelHasLoaded)
+{
+    mLife.canLoad = false;
+    show();
+    mLife.canLoad = true;
+    mShell->cancel();
+    EXPECT_EQ(mLife.take(), calls({"cancel"}) + kLeaving + kComing) << "all is loaded";
     EXPECT_EQ(notice(), QString());
 }
 
@@ -400,13 +465,20 @@ TEST_P(Shell, hasSaveAndCancelWhereTheHostHasNone)
     if (isWindow) {
         press("Save");
         EXPECT_EQ(mLife.take(), calls({"save"}));
+        EXPECT_EQ(button("Save")->toolTip(), QStringLiteral("Save the current settings"));
         press("Cancel");
         EXPECT_EQ(mLife.take(), calls({"cancel"}) + kLeaving + kComing);
+        EXPECT_EQ(button("Cancel")->toolTip(), QStringLiteral("Go back to the saved settings"));
+        EXPECT_LT(button("Cancel")->x(), button("Save")->x());
+        EXPECT_EQ(button("Save")->width(), button("Save")->sizeHint().width());
+        const int height = mShell->bottomHeight();
+        EXPECT_GE(height, button("Save")->height());
         mLife.hasDevice = false;
         leave();
         show();
         EXPECT_EQ(button("Save"), nullptr);
         EXPECT_EQ(button("Cancel"), nullptr);
+        EXPECT_LT(mShell->bottomHeight(), height);
     }
 }
 
@@ -443,6 +515,13 @@ TEST_P(Shell, findsTheProblemWhereThereIsNoTablet)
     leave();
     mLife.hasDevice = false;
     show();
+    QPushButton& find = *button("Find the Problem…");
+    EXPECT_EQ(find.toolTip(), QStringLiteral("Check the tablet, its driver and the panel"));
+    EXPECT_EQ(find.accessibleDescription(), find.toolTip());
+    EXPECT_EQ(find.width(), find.sizeHint().width());
+    EXPECT_GE(find.mapTo(mShell.get(), QPoint(0, 0)).y(),
+        mShell->view().mapTo(mShell.get(), QPoint(0, mShell->view().height())).y())
+        << "it is below the pane";
     press("Find the Problem…");
     EXPECT_EQ(mLife.take(), calls({"check self"}));
     auto* const dialog = mShell->findChild<SelfCheckDialog*>();
@@ -606,6 +685,54 @@ TEST_P(Shell, forgetsWhatWentWrongWithSettingsThatAProfileReplaces)
     EXPECT_NE(notice(), QString());
     mPane->tell(News::SettingsReplaced);
     EXPECT_EQ(notice(), QString());
+    mPane->edit();
+    mShell->cancel();
+    mPane->edit();
+    mLife.device = Device::Other;
+    mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
+    EXPECT_NE(notice(), QString()) << "the former tablet's changes are lost";
+    mPane->tell(News::SettingsReplaced);
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(ShellWithMonitors, forgetsTheFormerMonitorWhenAllAreChosen)
+{
+    show();
+    mLife.display = 0;
+    mPane->tell(News::DisplayChosen);
+    leave();
+    mLife.display = 2; // as another program has set it
+    mDisplays.monitors = {kRight, kLeft};
+    show();
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(ShellWithMonitors, remembersNoMonitorWhereThereIsNoChoice)
+{
+    mDisplays.change({{0, 0, 100, 100}});
+    mDisplays.monitors = {kLeft};
+    mLife.display = 1;
+    show();
+    mDisplays.change({{0, 0, 100, 100}, {100, 0, 100, 100}});
+    mDisplays.monitors = {kRight, kLeft};
+    mPane->tell(News::DisplaysChanged);
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(ShellWithMonitors, saysThatAMonitorHasMovedAlsoAfterAProfileForIt)
+{
+    show();
+    mDisplays.monitors = {kRight, kLeft};
+    mLife.display = 1;
+    mPane->tell(News::SettingsReplaced);
+    EXPECT_EQ(notice(), QString()) << "the profile is for the right one";
+    leave();
+    show();
+    EXPECT_EQ(notice(), QString());
+    mDisplays.monitors = {kLeft, kRight};
+    mPane->tell(News::DisplaysChanged);
+    EXPECT_NE(notice(), QString());
 }
 
 TEST_P(ShellWithMonitors, remembersNothingOfSettingsThatAreNotTheTablets)

@@ -70,6 +70,16 @@ TEST_F(Window, staysOpenWhenTheQuestionIsDismissed)
     EXPECT_TRUE(mWindow->isVisible());
 }
 
+TEST_F(Window, staysOpenByDefault)
+{
+    mPane->edit();
+    mLife.canSave = false;
+    const AlertAnswer answer(Qt::Key_Return);
+    QTimer::singleShot(0, &answer, [this] { mLife.canSave = true; });
+    EXPECT_FALSE(mWindow->close());
+    EXPECT_TRUE(mWindow->isVisible());
+}
+
 TEST_F(Window, givesTheChangesUpAtTheDriverTooWhenTheUserDiscardsThem)
 {
     mPane->edit();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ProfileBar.h"
 
+#include "Accessible.h"
 #include "ApplicationsDialog.h"
 #include "FakeSystemd.h"
 #include "FollowService.h"
@@ -10,6 +11,7 @@
 #include "PaneShell.h"
 #include "PrivateBus.h"
 #include "ProfileNameDialog.h"
+#include "SameImage.h"
 #include "TemporaryHome.h"
 #include "Wait.h"
 
@@ -17,6 +19,7 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QFileDialog>
+#include <QHelpEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -24,8 +27,11 @@
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyleFactory>
 #include <QTest>
 #include <QToolButton>
+#include <QToolTip>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
@@ -154,6 +160,20 @@ protected:
         message->reject();
     }
     QPushButton& saveAs() { return *bar().findChild<QPushButton*>(); }
+    QToolButton& more() { return *bar().findChild<QToolButton*>(); }
+    void activate(QWidget& window)
+    {
+        window.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window, kPatience));
+    }
+    /** The tool tip that appears where the mouse rests. */
+    static QString toolTipAt(QWidget& widget, const QPoint& place)
+    {
+        QHelpEvent rest(QEvent::ToolTip, place, widget.mapToGlobal(place));
+        QCoreApplication::sendEvent(&widget, &rest);
+        return QToolTip::text();
+    }
+    static QString toolTipOf(QWidget& widget) { return toolTipAt(widget, widget.rect().center()); }
 
     TemporaryHome mHome;
     PaneLife mLife;
@@ -180,6 +200,49 @@ TEST_F(Bar, showsTheProfilesAndWhichOneIsCurrent)
     EXPECT_TRUE(bar().isVisible());
     EXPECT_EQ(names(), calls({"Modelling", "Painting", "R&D <b>"}));
     EXPECT_EQ(list().currentText(), QStringLiteral("Painting"));
+}
+
+TEST_F(Bar, hasItsLabelAndItsButtonsBesideTheList)
+{
+    show();
+    activate(*mShell);
+    const auto& label = *bar().findChild<QLabel*>();
+    EXPECT_EQ(label.text(), QStringLiteral("&Profile:"));
+    int right = -1;
+    for (const QWidget* const part :
+        std::initializer_list<const QWidget*>{&label, &list(), &saveAs(), &more()}) {
+        EXPECT_GT(part->x(), right);
+        right = part->geometry().right();
+    }
+    EXPECT_EQ(saveAs().width(), saveAs().sizeHint().width()) << "what is left stays empty";
+    saveAs().setFocus();
+    QTest::keyClick(&saveAs(), Qt::Key_P, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), &list());
+}
+
+TEST_F(Bar, explainsItsControls)
+{
+    show();
+    EXPECT_EQ(toolTipOf(list()),
+        QStringLiteral("Each profile has all settings of the tablet for one kind of work."));
+    EXPECT_EQ(toolTipOf(saveAs()), QStringLiteral("Save the current settings as a profile"));
+    EXPECT_EQ(toolTipOf(more()), QStringLiteral("Manage the profiles"));
+    for (const QWidget* const control :
+        std::initializer_list<const QWidget*>{&list(), &saveAs(), &more()}) {
+        EXPECT_EQ(control->accessibleDescription(), control->toolTip());
+    }
+}
+
+TEST_F(Bar, drawsTheListAsAnyOther)
+{
+    show();
+    saveAs().setFocus();
+    QComboBox other(&bar());
+    other.addItems(names());
+    other.setCurrentText(list().currentText());
+    other.setFocusPolicy(list().focusPolicy());
+    other.resize(list().size());
+    expectSameImage(list().grab().toImage(), other.grab().toImage());
 }
 
 TEST_F(Bar, isOnlyThereWithADeviceThatHasProfiles)
@@ -306,8 +369,40 @@ TEST_F(Bar, elidesALongNameAndShowsAllOfItOnRequest)
     const QImage elided = list().grab().toImage();
     list().setItemText(0, QString(63, u'W') + u'X');
     EXPECT_EQ(list().grab().toImage(), elided) << "its end is not drawn";
+    list().setItemText(0, longName);
+    EXPECT_EQ(toolTipOf(list()), QStringLiteral("<span>%1</span>").arg(longName));
     list().showPopup();
-    EXPECT_GT(list().view()->width(), list().width()) << "where there is room";
+    QAbstractItemView& view = *list().view();
+    EXPECT_GT(view.width(), list().width()) << "where there is room";
+    EXPECT_EQ(toolTipAt(*view.viewport(), view.visualRect(list().model()->index(0, 0)).center()),
+        QStringLiteral("<span>%1</span>").arg(longName));
+}
+
+TEST_F(Bar, makesTheOpenListAsWideAsItsNamesUpToHalfTheScreen)
+{
+    const int room = mShell->screen()->availableSize().width() / 2;
+    const QFontMetrics metrics = list().fontMetrics();
+    QString name = QStringLiteral("W");
+    while (metrics.horizontalAdvance(name) < room * 4 / 5) {
+        name += u'W';
+    }
+    mLife.profiles = {{name, {}}, {QStringLiteral("R&D <b>"), {}}};
+    mLife.profile = name;
+    show();
+    // In a style that opens a list below the closed one instead of a menu.
+    const std::unique_ptr<QStyle> style(QStyleFactory::create(QStringLiteral("Windows")));
+    list().setStyle(style.get());
+    list().showPopup();
+    QAbstractItemView& view = *list().view();
+    EXPECT_GE(view.viewport()->width(), view.sizeHintForColumn(0));
+    EXPECT_EQ(toolTipAt(*view.viewport(), view.visualRect(list().model()->index(1, 0)).center()),
+        QStringLiteral("<span>R&amp;D &lt;b&gt;</span>"));
+    list().hidePopup();
+    mLife.profiles.front().name = name.repeated(4);
+    mPane->noted.change();
+    list().showPopup();
+    EXPECT_LE(view.width(), room + 4);
+    list().setStyle(nullptr);
 }
 
 // Saving ------------------------------------------------------------------------------------------
@@ -385,12 +480,100 @@ TEST_F(Bar, takesNoNameThatCannotBeOneAndSaysWhy)
     EXPECT_FALSE(dialog->isVisible());
 }
 
+TEST_F(Bar, asksForANameInADialogThatKeepsItsSize)
+{
+    show();
+    saveAs().click();
+    auto* const dialog = this->dialog<ProfileNameDialog>();
+    ASSERT_NE(dialog, nullptr);
+    activate(*dialog);
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Save Profile"));
+    auto& line = *dialog->findChild<QLineEdit*>();
+    EXPECT_EQ(QApplication::focusWidget(), &line);
+    auto& fault = *dialog->findChild<platform::NoticeLabel*>();
+    const auto labels = dialog->findChildren<QLabel*>();
+    const auto label = std::ranges::find(labels, QStringLiteral("&Name:"), &QLabel::text);
+    ASSERT_NE(label, labels.end());
+    EXPECT_LT((*label)->geometry().right(), line.x());
+    EXPECT_LT(line.geometry().bottom(), fault.y());
+    EXPECT_LT(fault.geometry().bottom(), defaultButton(*dialog)->parentWidget()->y());
+    EXPECT_GE(line.width(), 40 * line.fontMetrics().averageCharWidth());
+    defaultButton(*dialog)->setFocus();
+    QTest::keyClick(dialog, Qt::Key_N, Qt::AltModifier);
+    EXPECT_EQ(QApplication::focusWidget(), &line);
+
+    const QSize size = dialog->size();
+    dialog->showFault(QStringLiteral("<b>Short.</b>"));
+    EXPECT_EQ(fault.textFormat(), Qt::PlainText);
+    const QImage drawn = fault.grab().toImage();
+    const auto hasText = [&drawn](int top, int height) {
+        const QImage part = drawn.copy(0, top, drawn.width(), height);
+        QImage empty = part;
+        empty.fill(part.pixelColor(part.width() - 1, part.height() - 1));
+        return part != empty;
+    };
+    const int half = drawn.height() / 2;
+    EXPECT_TRUE(hasText(0, half)) << "it is close to the line";
+    EXPECT_FALSE(hasText(half, drawn.height() - half));
+    dialog->showFault(QStringLiteral("word ").repeated(
+        fault.width() / fault.fontMetrics().horizontalAdvance(QStringLiteral("word ")) * 3 / 2));
+    QCoreApplication::processEvents();
+    EXPECT_EQ(dialog->size(), size);
+    EXPECT_GE(fault.height(), fault.heightForWidth(fault.width()));
+    EXPECT_GE(fault.heightForWidth(fault.width()), 2 * fault.fontMetrics().lineSpacing());
+}
+
+TEST_F(Bar, savesNothingAfterCancel)
+{
+    show();
+    const auto cancel = [this](const auto& how) {
+        saveAs().click();
+        auto* const dialog = this->dialog<ProfileNameDialog>();
+        ASSERT_NE(dialog, nullptr);
+        activate(*dialog);
+        const auto buttons = dialog->findChildren<QPushButton*>();
+        const auto button =
+            std::ranges::find(buttons, QStringLiteral("&Cancel"), &QPushButton::text);
+        ASSERT_NE(button, buttons.end());
+        how(*dialog, **button);
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        EXPECT_EQ(mLife.take(), QStringList());
+    };
+    cancel([](QDialog&, QPushButton& button) { button.click(); });
+    cancel([](QDialog& dialog, QPushButton&) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    cancel([](QDialog&, QPushButton& button) {
+        button.setFocus();
+        QTest::keyClick(&button, Qt::Key_Return);
+    });
+}
+
 // The menu ----------------------------------------------------------------------------------------
+
+TEST_F(Bar, opensItsMenuAtOnce)
+{
+    const PrivateBus bus;
+    show();
+    QMenu& menu = *more().menu();
+    QStringList texts;
+    QObject::connect(&menu, &QMenu::aboutToShow, &menu, [&] {
+        const auto actions = menu.actions();
+        for (const QAction* const action : actions) {
+            texts.append(
+                action->isSeparator() ? QStringLiteral("-") : QString(action->text()).remove(u'&'));
+        }
+        QMetaObject::invokeMethod(&menu, &QMenu::close, Qt::QueuedConnection);
+    });
+    QTest::mouseClick(&more(), Qt::LeftButton);
+    EXPECT_EQ(texts,
+        calls({"Rename…", "Duplicate…", "Delete…", "Applications…", "-", "Import…", "Export…", "-",
+            "Follow Applications"}));
+}
 
 TEST_F(Bar, offersNothingOfTheCurrentProfileWithoutOne)
 {
     show();
     EXPECT_EQ(disabled(), calls({"Follow Applications"})) << "while that is unknown";
+    EXPECT_FALSE(action("Follow Applications")->isChecked());
     mLife.profile.clear();
     mPane->noted.change();
     EXPECT_EQ(disabled(),
@@ -407,6 +590,7 @@ TEST_F(Bar, renamesTheCurrentProfile)
     auto& line = *dialog->findChild<QLineEdit*>();
     EXPECT_EQ(line.text(), QStringLiteral("Painting"));
     EXPECT_EQ(line.selectedText(), QStringLiteral("Painting"));
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Rename Profile"));
     QTest::keyClicks(&line, QStringLiteral("Ink & wash"));
     press(*dialog, "Rename");
     EXPECT_EQ(mLife.take(), calls({"rename Painting Ink & wash"}));
@@ -419,14 +603,18 @@ TEST_F(Bar, renamesTheCurrentProfile)
 
 TEST_F(Bar, duplicatesTheCurrentProfileUnderAFreeName)
 {
-    mLife.profiles.push_back({QStringLiteral("Painting 2"), {}});
     show();
-    trigger("Duplicate…");
-    auto* const dialog = this->dialog<ProfileNameDialog>();
-    ASSERT_NE(dialog, nullptr);
-    EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), QStringLiteral("Painting 3"));
-    press(*dialog, "Duplicate");
-    EXPECT_EQ(mLife.take(), calls({"duplicate Painting Painting 3"}));
+    for (const char* const free : {"Painting 2", "Painting 3"}) {
+        trigger("Duplicate…");
+        auto* const dialog = this->dialog<ProfileNameDialog>();
+        ASSERT_NE(dialog, nullptr);
+        EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Duplicate Profile"));
+        EXPECT_EQ(dialog->findChild<QLineEdit*>()->text(), QString::fromLatin1(free));
+        press(*dialog, "Duplicate");
+        EXPECT_EQ(mLife.take(),
+            QStringList{QStringLiteral("duplicate Painting ") + QString::fromLatin1(free)});
+        EXPECT_TRUE(names().contains(QString::fromLatin1(free)));
+    }
     EXPECT_EQ(list().currentText(), QStringLiteral("Painting"));
 }
 
@@ -438,6 +626,8 @@ TEST_F(Bar, deletesTheCurrentProfileOnlyOnPurpose)
     ASSERT_NE(question, nullptr);
     EXPECT_EQ(question->text(),
         QStringLiteral("Delete the profile “Painting”? The tablet keeps its settings."));
+    EXPECT_EQ(question->windowTitle(), mShell->windowTitle());
+    EXPECT_EQ(question->textFormat(), Qt::PlainText);
     QTest::keyClick(question, Qt::Key_Return);
     EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_EQ(mLife.take(), QStringList()) << "by default, it is kept";
@@ -470,6 +660,10 @@ TEST_F(Bar, exportsTheCurrentProfileToTheChosenFile)
     EXPECT_EQ(dialog->acceptMode(), QFileDialog::AcceptSave);
     EXPECT_EQ(
         QFileInfo(dialog->selectedFiles().value(0)).fileName(), QStringLiteral("Ink-wash.plist"));
+    EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Export Profile"));
+    EXPECT_EQ(dialog->nameFilters(), calls({"Profiles (*.plist)"}));
+    dialog->selectFile(QStringLiteral("mine"));
+    EXPECT_EQ(QFileInfo(dialog->selectedFiles().value(0)).fileName(), QStringLiteral("mine.plist"));
     const QString file = mHome.path() + QStringLiteral("/mine.plist");
     mLife.profileFault = QStringLiteral("The disk is full.");
     Q_EMIT dialog->fileSelected(file);
@@ -491,6 +685,8 @@ TEST_F(Bar, importsWhatTheUserHasSeen)
         auto* const dialog = this->dialog<QFileDialog>();
         ASSERT_NE(dialog, nullptr);
         EXPECT_EQ(dialog->fileMode(), QFileDialog::ExistingFile);
+        EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Choose a Profile to Import"));
+        EXPECT_EQ(dialog->nameFilters(), calls({"Profiles (*.plist)", "All files (*)"}));
         dialog->reject();
         Q_EMIT dialog->fileSelected(file);
     };
