@@ -291,7 +291,6 @@ int PaneShell::askAboutUnsaved(const platform::Error& error, bool canStay)
         //: Button: the window stays open, with its unsaved changes.
         QPushButton* const keep = question->addButton(tr("&Keep Open"), QMessageBox::RejectRole);
         question->setDefaultButton(keep);
-        question->setEscapeButton(keep);
     } else {
         question->setEscapeButton(QMessageBox::Discard);
     }

@@ -470,7 +470,6 @@ void ProfileBar::ask(
     //: Button of a question: does nothing.
     QPushButton* const no = question->addButton(tr("&Cancel"), QMessageBox::RejectRole);
     question->setDefaultButton(no);
-    question->setEscapeButton(no);
     connect(yes, &QPushButton::clicked, this, act);
     openOnce(*question);
 }

@@ -191,6 +191,22 @@ TEST_F(Follow, saysThatThereIsNoServiceManager)
     EXPECT_EQ(mService.fault(), QString());
 }
 
+TEST_F(Follow, takesAServiceManagerThatDoesNotAnswerForNone)
+{
+    FakeSystemd& systemd = startSystemd();
+    systemd.failing = QStringLiteral("GetUnitFileState");
+    for (const char* const error :
+        {"ServiceUnknown", "NoServer", "NoReply", "TimedOut", "Timeout", "Disconnected"}) {
+        systemd.errorName = QStringLiteral("org.freedesktop.DBus.Error.") + QLatin1String(error);
+        refresh();
+        EXPECT_EQ(mService.isOn(), std::nullopt);
+        EXPECT_EQ(mService.fault(),
+            QStringLiteral(
+                "Your session has no systemd user manager, which would start the service."))
+            << error;
+    }
+}
+
 TEST_F(Follow, saysThatTheServiceIsNotInstalled)
 {
     FakeSystemd& systemd = startSystemd();

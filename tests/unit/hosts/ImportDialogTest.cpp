@@ -118,8 +118,13 @@ TEST_F(Import, letsNoButtonStartAnApplicationUnlessTheUserAllowsIt)
     open();
     EXPECT_EQ(mDialog->allowed(), (std::vector{false, false, false}));
     EXPECT_TRUE(labels().contains(QStringLiteral("Upper pen button\n/usr/bin/two")));
+    const auto labels = mDialog->findChild<QScrollArea*>()->findChildren<QLabel*>();
+    ASSERT_EQ(labels.size(), 3);
+    EXPECT_EQ(labels[1]->accessibleName(), QStringLiteral("Upper pen button: /usr/bin/two"));
     const auto boxes = mDialog->findChildren<QCheckBox*>();
     ASSERT_EQ(boxes.size(), 3);
+    EXPECT_GT(boxes[1]->y(), labels[1]->geometry().bottom());
+    EXPECT_LT(boxes[1]->geometry().bottom(), labels[2]->y());
     EXPECT_EQ(boxes[1]->text(), QStringLiteral("Let this button start it"));
     EXPECT_EQ(boxes[1]->accessibleName(),
         QStringLiteral("Upper pen button: let this button start /usr/bin/two"));

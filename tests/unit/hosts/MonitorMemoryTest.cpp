@@ -96,3 +96,23 @@ TEST(MonitorMemory, worksWithoutAFileThatItCanWrite)
     displays.monitors = {displays.monitors[1], displays.monitors[0]};
     EXPECT_EQ(memory.moved(pane), 1) << "as long as it lives";
 }
+
+TEST(MonitorMemory, offersNoDisplayThatTheTabletCannotBeMappedTo)
+{
+    const TemporaryHome home;
+    const platform::Rect bounds{0, 0, 100, 100};
+    FakeDisplays displays{{bounds, bounds, bounds, bounds, bounds}};
+    const Monitor chosen = monitor("A", "1", "DP-1");
+    const Monitor other = monitor("B", "2", "DP-2");
+    displays.monitors = {chosen, other, other, other, other};
+    PaneLife life;
+    life.deviceID = QStringLiteral("7");
+    life.display = 1;
+    const NotedPane pane(life);
+    MonitorMemory memory;
+    memory.show(pane);
+    displays.monitors = {other, other, other, chosen, other};
+    EXPECT_EQ(memory.moved(pane), 4);
+    displays.monitors = {other, other, other, other, chosen};
+    EXPECT_EQ(memory.moved(pane), std::nullopt);
+}

@@ -405,6 +405,14 @@ TEST_P(Shell, leavesThePaneTheWholeHeightWhereNothingIsBelowIt)
     }
 }
 
+TEST_P(Shell, hasOnlyThePaneBeforeItIsSelected)
+{
+    mShell->show();
+    const QWidget& view = mShell->view();
+    EXPECT_EQ(view.mapTo(mShell.get(), QPoint(0, 0)), QPoint(0, 0));
+    EXPECT_EQ(view.size(), mShell->size());
+}
+
 TEST_P(Shell, beginsEachShowingWithoutALine)
 {
     show();
