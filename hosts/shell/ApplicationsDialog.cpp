@@ -99,7 +99,6 @@ ApplicationsDialog::ApplicationsDialog(
     }
     mList->setCurrentRow(0);
     updateButton();
-    resize(sizeHint());
 }
 
 QSize ApplicationsDialog::sizeHint() const

@@ -131,7 +131,6 @@ QWidget* ImportDialog::makeStarts()
     }
     layout->addStretch(1);
     area->setWidgetResizable(true);
-    area->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     area->setFocusPolicy(Qt::NoFocus); // it scrolls to the focused check box
     area->setWidget(contents);
     return area;

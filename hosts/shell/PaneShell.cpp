@@ -225,7 +225,6 @@ void PaneShell::didUnselect()
 
 void PaneShell::end()
 {
-    mPane->setNewsHandler(nullptr); // the line is no longer visible
     if (std::exchange(mIsSelected, false)) {
         mPane->willUnselect();
         mPane->didUnselect();
