@@ -164,6 +164,14 @@ public:
         , mLife(life)
     {
     }
+    ~NotedPane() override
+    {
+        // Nobody hears what it tells now, or asks it anything.
+        mIsEnding = true;
+        EXPECT_FALSE(mLife.hasProfiles && noted.isListenedTo());
+        tell(News::ChangeTaken);
+        mayHaveChanged();
+    }
 
     void willSelect() override
     {
@@ -214,7 +222,11 @@ public:
         note("check");
         return mLife.device;
     }
-    QByteArray settings() const override { return mLife.settings; }
+    QByteArray settings() const override
+    {
+        EXPECT_FALSE(mIsEnding);
+        return mLife.settings;
+    }
     void setSettings(const QByteArray& settings) override
     {
         note(("set " + settings.toStdString()).c_str());
@@ -226,7 +238,11 @@ public:
         // The letter is the setting, the number its value.
         return QString::fromLatin1(after.left(1) == before.left(1) ? after.left(1) : after);
     }
-    bool hasDevice() const override { return mLife.hasDevice; }
+    bool hasDevice() const override
+    {
+        EXPECT_FALSE(mIsEnding);
+        return mLife.hasDevice;
+    }
     bool hasChanges() const override { return mLife.hasChanges; }
     platform::PaneProfiles* profiles() override { return mLife.hasProfiles ? &noted : nullptr; }
     void setButtonsShown(bool shown) override { note(shown ? "buttons shown" : "buttons hidden"); }
@@ -296,4 +312,5 @@ private:
     }
 
     PaneLife& mLife;
+    bool mIsEnding = false;
 };

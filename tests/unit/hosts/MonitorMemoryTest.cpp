@@ -116,3 +116,19 @@ TEST(MonitorMemory, offersNoDisplayThatTheTabletCannotBeMappedTo)
     displays.monitors = {other, other, other, other, chosen};
     EXPECT_EQ(memory.moved(pane), std::nullopt);
 }
+
+TEST(MonitorMemory, remembersNothingForATabletWithoutAnID)
+{
+    const TemporaryHome home;
+    FakeDisplays displays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
+    displays.monitors = {monitor("A", "1", "DP-1"), monitor("B", "2", "DP-2")};
+    PaneLife life;
+    life.display = 2;
+    const NotedPane pane(life);
+    MonitorMemory memory;
+    memory.show(pane);
+    memory.choose(pane);
+    displays.monitors = {displays.monitors[1], displays.monitors[0]};
+    EXPECT_EQ(memory.moved(pane), std::nullopt);
+    EXPECT_FALSE(memory.note(pane)) << "the number is the same";
+}

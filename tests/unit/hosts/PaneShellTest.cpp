@@ -405,9 +405,85 @@ TEST_P(Shell, leavesThePaneTheWholeHeightWhereNothingIsBelowIt)
     }
 }
 
+TEST_P(Shell, hasEachNewLineAppearSoThatScreenReadersReadIt)
+{
+    show();
+    mPane->tell(News::ChangeNotTaken);
+    auto& label = *mShell->findChild<platform::NoticeLabel*>();
+    class Counter final : public QObject {
+    public:
+        bool eventFilter(QObject* /*watched*/, QEvent* event) override
+        {
+            shown += event->type() == QEvent::Show ? 1 : 0;
+            return false;
+        }
+        int shown = 0;
+    } counter;
+    label.installEventFilter(&counter);
+    mPane->tell(News::ChangeNotTaken);
+    EXPECT_EQ(counter.shown, 0) << "it says the same";
+    mPane->tell(News::NotSaved, QStringLiteral("the disk is full"));
+    EXPECT_EQ(counter.shown, 1);
+    label.removeEventFilter(&counter);
+}
+
+TEST_P(Shell, closesThePanesDialogsWhenItLoadsTheSettingsAgain)
+{
+    mLife.canLoad = false;
+    show();
+    mLife.canLoad = true;
+    QDialog dialog(&mShell->view());
+    QTimer::singleShot(0, mShell.get(), [this] {
+        mPane->tell(News::DeviceMayHaveChanged);
+        QCoreApplication::processEvents();
+    });
+    EXPECT_EQ(dialog.exec(), QDialog::Rejected);
+}
+
+TEST_P(Shell, asksADriverThatHasAnsweredOnlyOnce)
+{
+    show();
+    mPane->tell(News::DeviceMayHaveChanged);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mLife.take(), calls({"check"}));
+    mPane->tell(News::ChangeTaken);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(mLife.take(), QStringList());
+}
+
+TEST_P(Shell, forgetsThatNothingCouldBeLoadedWhenAllIsSaved)
+{
+    mLife.canLoad = false;
+    show();
+    EXPECT_NE(notice(), QString());
+    mShell->save();
+    EXPECT_EQ(notice(), QString()) << "the file is what the pages show";
+}
+
+TEST_P(Shell, hasOneButtonToFindTheProblem)
+{
+    mLife.hasDevice = false;
+    show();
+    mPane->tell(News::ChangeNotTaken);
+    mPane->tell(News::DisplaysChanged);
+    int found = 0;
+    const auto buttons = mShell->findChildren<QPushButton*>();
+    for (const QPushButton* const button : buttons) {
+        found += button->isVisible() ? 1 : 0;
+    }
+    EXPECT_EQ(found, 1);
+    press("Find the Problem…");
+    const QPointer<SelfCheckDialog> dialog = mShell->findChild<SelfCheckDialog*>();
+    ASSERT_FALSE(dialog.isNull());
+    dialog->close();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(dialog.isNull()) << "the next one begins anew";
+}
+
 TEST_P(Shell, hasOnlyThePaneBeforeItIsSelected)
 {
     mShell->show();
+    EXPECT_EQ(mShell->windowTitle(), QStringLiteral("Noted"));
     const QWidget& view = mShell->view();
     EXPECT_EQ(view.mapTo(mShell.get(), QPoint(0, 0)), QPoint(0, 0));
     EXPECT_EQ(view.size(), mShell->size());

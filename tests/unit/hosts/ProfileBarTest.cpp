@@ -535,8 +535,11 @@ TEST_F(Bar, savesNothingAfterCancel)
         const auto button =
             std::ranges::find(buttons, QStringLiteral("&Cancel"), &QPushButton::text);
         ASSERT_NE(button, buttons.end());
+        const QPointer<ProfileNameDialog> closed = dialog;
         how(*dialog, **button);
         EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_TRUE(closed.isNull());
         EXPECT_EQ(mLife.take(), QStringList());
     };
     cancel([](QDialog&, QPushButton& button) { button.click(); });
@@ -745,6 +748,7 @@ TEST_F(Bar, saysWhyProfilesCannotFollowApplications)
         QStringLiteral("Your session has no systemd user manager, which would start the service.");
     EXPECT_TRUE(QTest::qWaitFor([&] { return follow.toolTip() == fault; }, kPatience));
     EXPECT_FALSE(follow.isEnabled());
+    EXPECT_EQ(follow.text(), QStringLiteral("&Follow Applications"));
     EXPECT_TRUE(menu.toolTipsVisible());
 }
 
