@@ -72,7 +72,6 @@ ImportDialog::ImportDialog(platform::PaneProfiles::Import import, QWidget* paren
         //: Heading of a list.
         addLines(tr("It is for these applications:"), names);
     }
-    mContents->setCurrentRow(0);
 
     auto* const layout = new QVBoxLayout(this);
     layout->addWidget(makeLabel(
