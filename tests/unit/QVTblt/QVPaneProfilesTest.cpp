@@ -16,7 +16,9 @@
 #include <QDBusConnectionInterface>
 #include <QDBusContext>
 #include <QDBusPendingCall>
+#include <QDBusPendingCallWatcher>
 #include <QDBusReply>
+#include <QDir>
 #include <QSlider>
 #include <QTabWidget>
 #include <QTest>
@@ -379,6 +381,7 @@ TEST_F(PanelProfiles, areManagedForTheShell)
     EXPECT_EQ(profiles.current(), second);
     expectDone(profiles.setApplications(second, {QStringLiteral("paint")}));
     expectDone(profiles.duplicate(second, third));
+    EXPECT_TRUE(profiles.list().back().applications.isEmpty()) << "each has one profile";
     EXPECT_NE(profiles.duplicate(second, third), QString());
     expectDone(profiles.rename(second, QStringLiteral("2")));
     EXPECT_EQ(profiles.current(), QStringLiteral("2"));
@@ -402,6 +405,7 @@ TEST_F(PanelProfiles, areAlsoThoseThatOthersSave)
     int changes = 0;
     mPane.profiles()->setChangeHandler([&] { ++changes; });
     leave();
+    QDir(QVProfileFolder(2).path()).removeRecursively();
     show();
     EXPECT_GE(changes, 1) << "the list may have changed meanwhile";
     const int before = changes;
@@ -418,6 +422,7 @@ TEST_F(PanelProfiles, areExchangedWithoutTrust)
     record.Basic.KeyNum = 16;
     qvTabletInfo.Basic.KeyNum = 16;
     record.Key.SubKey[1].Valid = kQVApplication;
+    record.Key.SubKey[3].Valid = kQVApplication;
     ASSERT_TRUE(QVProfileFolder(2).save(QVProfileOf(record, QStringLiteral("Mine"))));
     ASSERT_EQ(
         profiles.setApplications(QStringLiteral("Mine"), {QStringLiteral("paint")}), QString());
@@ -426,7 +431,7 @@ TEST_F(PanelProfiles, areExchangedWithoutTrust)
     const auto import = profiles.readImport(file);
     EXPECT_EQ(import.error, QString());
     EXPECT_EQ(import.name, QStringLiteral("Mine 2"));
-    ASSERT_EQ(import.starts.size(), 1U);
+    ASSERT_EQ(import.starts.size(), 2U);
     EXPECT_EQ(import.starts[0].path, QStringLiteral("/app/1"));
     EXPECT_FALSE(import.changes.isEmpty());
     EXPECT_FALSE(import.leftOut.isEmpty());
@@ -437,8 +442,12 @@ TEST_F(PanelProfiles, areExchangedWithoutTrust)
         kQVNoAction);
     EXPECT_EQ(profiles.keepImport(import, {}), QString()) << "what is not allowed is not";
     EXPECT_EQ(profiles.remove(QStringLiteral("Mine 2 2")), QString());
-    EXPECT_EQ(profiles.keepImport(import, {true}), QString());
-    EXPECT_EQ(+QVProfileFolder(2).load(QStringLiteral("Mine 2 2"))->settings.Key.SubKey[1].Valid,
+    int changes = 0;
+    profiles.setChangeHandler([&] { ++changes; });
+    EXPECT_EQ(profiles.keepImport(import, {false, true, true}), QString());
+    EXPECT_EQ(changes, 1);
+    profiles.setChangeHandler(nullptr);
+    EXPECT_EQ(+QVProfileFolder(2).load(QStringLiteral("Mine 2 2"))->settings.Key.SubKey[3].Valid,
         kQVApplication);
     const auto refused = profiles.readImport(file);
     EXPECT_TRUE(refused.error.startsWith(QStringLiteral("cannot use ")));
@@ -542,8 +551,14 @@ TEST_F(PanelOnBus, tellsOthersOfEdits)
     EXPECT_EQ(ear.pressures, std::vector<int>{35}) << "it is as before";
 
     const QVStringMap values{{QStringLiteral("Pen/PressureThreshold"), QStringLiteral("36")}};
-    EXPECT_EQ(ask("Edit", {QVariant::fromValue(values)}).errorMessage(), QString());
-    EXPECT_TRUE(waitFor([&] { return ear.pressures.back() == 36; }));
+    const QDBusPendingCallWatcher edit(
+        mClient.asyncCall(QVPanelCall("Edit", {QVariant::fromValue(values)})));
+    int pressureAtAnswer = 0;
+    QObject::connect(&edit, &QDBusPendingCallWatcher::finished,
+        [&] { pressureAtAnswer = ear.pressures.back(); });
+    EXPECT_TRUE(waitFor([&] { return pressureAtAnswer != 0; }));
+    EXPECT_FALSE(edit.isError());
+    EXPECT_EQ(pressureAtAnswer, 36) << "told before the answer";
     EXPECT_TRUE(mPane.hasChanges());
 
     mPane.cancel();
@@ -627,7 +642,12 @@ TEST_F(PanelOnBus, tellsItsSettingsAnewWhenACalibrationHasEnded)
     QVMonitorView& view = calibrate();
     EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 3; })) << "a calibration has begun";
     view.endCalibration();
-    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() > 3; }));
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 4; }));
+    view.setTabletDefaultArea();
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 5; }));
+    calibrate();
+    view.endCalibration();
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() == 6; })) << "the same ones again";
 }
 
 TEST_F(SecondPanel, takesNoOwnerForAnotherThatCalibrates)
@@ -738,8 +758,12 @@ TEST_F(SecondPanel, knowsWhatTheFirstHasSaved)
     qvTabletInfo.Pen.PressureThreshold = 32;
     EXPECT_TRUE(mPane.hasChanges());
     ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString()));
+    bool isTold = false;
+    mPane.setChangeHandler([&] { isTold = true; });
     mFirst->tellSaved();
-    EXPECT_TRUE(waitFor([&] { return !mPane.hasChanges(); }));
+    EXPECT_TRUE(waitFor([&] { return isTold; }));
+    EXPECT_FALSE(mPane.hasChanges());
+    mPane.setChangeHandler(nullptr);
     EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 0);
 }
 
@@ -825,11 +849,33 @@ TEST_F(BesideAnother, knowsTheProfileThatWasUsedBeforeItCame)
 {
     leave();
     QVProfileChoice{mName, mName}.save(QVProductID(qvTabletInfo));
+    qvTabletInfo.Pen.PressureThreshold = 30; // no edit, but in the file
+    ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString()));
     mNews.clear();
     mOther->record.Pen.PressureThreshold = 64;
     show();
     EXPECT_TRUE(waitFor([&] { return shownPressure() == 64; }));
+    EXPECT_TRUE(mOther->edits.empty());
     EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 0);
+}
+
+TEST_F(BesideAnother, tellsItsShellOnlyOfWhatHasChanged)
+{
+    int changes = 0;
+    mPane.setChangeHandler([&] { ++changes; });
+    mOther->tell();
+    EXPECT_TRUE(hears(62));
+    EXPECT_EQ(changes, 1);
+    mPane.setChangeHandler(nullptr);
+}
+
+TEST_F(BesideAnother, knowsThatTheOtherHasSavedWhatItHasChanged)
+{
+    qvTabletInfo.Pen.PressureThreshold = 62;
+    ASSERT_TRUE(QVConfigStore().saveRecord(mHome.configFile(7).toStdString()));
+    qvTabletInfo.Pen.PressureThreshold = 61;
+    EXPECT_TRUE(hears(62));
+    EXPECT_FALSE(mPane.hasChanges());
 }
 
 TEST_F(BesideAnother, saysThatItNoLongerCalibratesWhenTheTabletIsAnother)
