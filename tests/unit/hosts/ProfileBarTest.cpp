@@ -163,8 +163,10 @@ protected:
     QToolButton& more() { return *bar().findChild<QToolButton*>(); }
     void activate(QWidget& window)
     {
+        // A dialog of an active window is taken for active, too.
         window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&window, kPatience));
+        ASSERT_TRUE(QTest::qWaitFor(
+            [&window] { return QApplication::activeWindow() == &window; }, kPatience));
     }
     /** The tool tip that appears where the mouse rests. */
     static QString toolTipAt(QWidget& widget, const QPoint& place)
@@ -519,7 +521,7 @@ TEST_F(Bar, asksForANameInADialogThatKeepsItsSize)
         fault.width() / fault.fontMetrics().horizontalAdvance(QStringLiteral("word ")) * 3 / 2));
     QCoreApplication::processEvents();
     EXPECT_EQ(dialog->size(), size);
-    EXPECT_GE(fault.height(), fault.heightForWidth(fault.width()));
+    EXPECT_GE(fault.height() + 1, fault.heightForWidth(fault.width())) << "Qt 5 rounds up";
     EXPECT_GE(fault.heightForWidth(fault.width()), 2 * fault.fontMetrics().lineSpacing());
 }
 
