@@ -116,9 +116,6 @@ void QVPaneProfiles::join()
 
 void QVPaneProfiles::part()
 {
-    if (std::exchange(mIsCalibrationTold, false) && isSecond()) {
-        mBus->send(QVPanelCall("NoteCalibration", {false}));
-    }
     // Calls must not be left in a connection that is closed.
     qDeleteAll(findChildren<QDBusPendingCallWatcher*>(QString(), Qt::FindDirectChildrenOnly));
     mPending = 0;

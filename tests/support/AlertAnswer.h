@@ -36,7 +36,7 @@ public:
     }
     ~AlertAnswer() override { EXPECT_FALSE(mText.isNull()) << "no alert was open"; }
 
-    /** The alert's text. */
+    /** The alert's text, and below it the informative one. */
     QString text() const { return mText; }
 
 private:
@@ -46,6 +46,9 @@ private:
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             ASSERT_NE(box, nullptr) << "no alert is open";
             mText = box->text();
+            if (!box->informativeText().isEmpty()) {
+                mText += u'\n' + box->informativeText();
+            }
             how(*box);
         });
     }

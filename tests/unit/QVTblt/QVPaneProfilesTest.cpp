@@ -773,6 +773,15 @@ TEST_F(BesideAnother, sendsItsEdits)
     edit(44);
     ASSERT_TRUE(waitFor([&] { return mOther->edits.size() == 1; }));
     EXPECT_EQ(mOther->edits[0], speed("44"));
+    edit(45);
+    edit(46);
+    ASSERT_TRUE(waitFor([&] { return mOther->edits.size() == 3; }));
+    EXPECT_EQ(mOther->edits[2], speed("46"));
+    qvTabletInfo.Pen.PressureThreshold = 20;
+    mPane.send();
+    ASSERT_TRUE(waitFor([&] { return mOther->edits.size() == 4; }));
+    EXPECT_EQ(mOther->edits[3].keys(), QStringList{QStringLiteral("Pen/PressureThreshold")})
+        << "it has the others";
 }
 
 TEST_F(BesideAnother, sendsItsEditsAgainAfterTheyWereRefused)
@@ -880,7 +889,7 @@ TEST_F(BesideAnother, knowsThatTheOtherHasSavedWhatItHasChanged)
 
 TEST_F(BesideAnother, saysThatItNoLongerCalibratesWhenTheTabletIsAnother)
 {
-    // A driver with another tablet is sent nothing, so that no edit ends the calibration.
+    // A driver with another tablet is sent nothing when the calibration ends.
     mOther.reset();
     QVConfigStore store;
     QVProfileSwitch own(store);

@@ -53,7 +53,8 @@ TEST_F(Window, staysOpenWhereChangesCannotBeSavedAndTheUserWantsToKeepIt)
     const AlertAnswer answer("Keep Open");
     EXPECT_FALSE(mWindow->close());
     EXPECT_EQ(answer.text(),
-        QStringLiteral("The tablet's settings could not be saved: the disk is full"));
+        QStringLiteral("The tablet's settings could not be saved: the disk is full\n"
+                       "Close the window and discard the changes?"));
     EXPECT_TRUE(mWindow->isVisible());
     EXPECT_EQ(mLife.take(), QStringList{QStringLiteral("will unselect")});
     mLife.canSave = true;
@@ -90,6 +91,16 @@ TEST_F(Window, givesTheChangesUpAtTheDriverTooWhenTheUserDiscardsThem)
     EXPECT_EQ(mLife.take(),
         (QStringList{QStringLiteral("will unselect"), QStringLiteral("cancel"),
             QStringLiteral("did unselect")}));
+}
+
+TEST_F(Window, isLeftOnceWhenTheProgramIsToldToEndWhileItAsks)
+{
+    mPane->edit();
+    mLife.canSave = false;
+    QTimer::singleShot(0, mWindow.get(), [this] { mWindow->unselect(); });
+    const AlertAnswer answer("Discard");
+    EXPECT_FALSE(mWindow->close());
+    EXPECT_EQ(mLife.take(), QStringList{QStringLiteral("will unselect")} + kLeaving);
 }
 
 TEST_F(Window, asksNobodyWhenTheProgramIsToldToEnd)
