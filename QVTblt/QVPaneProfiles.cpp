@@ -116,6 +116,10 @@ void QVPaneProfiles::join()
 
 void QVPaneProfiles::part()
 {
+    // The calibration's window, whose end is told as an edit, may be destroyed only later.
+    if (std::exchange(mIsCalibrationTold, false) && isSecond()) {
+        mBus->send(QVPanelCall("NoteCalibration", {false}));
+    }
     // Calls must not be left in a connection that is closed.
     qDeleteAll(findChildren<QDBusPendingCallWatcher*>(QString(), Qt::FindDirectChildrenOnly));
     mPending = 0;
