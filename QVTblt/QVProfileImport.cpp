@@ -21,14 +21,15 @@ namespace {
 bool isSensible(
     const QVEntry& entry, const tagQVTabletInfo& settings, const tagQVTabletInfo& record)
 {
-    const auto isFrom = [value = QVFieldNumber(entry, settings)](std::int64_t least,
-                            std::int64_t most) { return value >= least && value <= most; };
+    const std::int64_t value = QVFieldNumber(entry, settings);
+    const auto isFrom = [value](std::int64_t least, std::int64_t most) {
+        return value >= least && value <= most;
+    };
     const std::string_view key(entry.key);
     if (entry.slot != nullptr) {
-        const std::int64_t keys = QVFieldNumber(entry, settings) >> 24U; // where it is "Key"
         return key == "Valid" ? isFrom(kQVNoAction, kQVPauseTablet)
             : key == "Mouse"  ? isFrom(kQVLeftButton, kQVMiddleButton)
-                              : keys <= kQVMaxKeys;
+                              : value >> 24U <= kQVMaxKeys; // how many keys
     }
     const auto& all = record.Basic;
     switch (entry.offset) {

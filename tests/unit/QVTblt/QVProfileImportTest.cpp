@@ -203,10 +203,7 @@ TEST(ProfileImport, takesAnAreaAsAWholeOrNotAtAll)
     const auto areaAfter = [&own](const QVTabletArea& area) {
         tagQVTabletInfo theirs = own;
         QVSetUsedArea(theirs, area);
-        const QVProfileImport read = import(theirs, own);
-        const auto& monitor = read.profile.settings.Monitor;
-        return QVTabletArea{
-            monitor.cTabletXmin, monitor.cTabletXmax, monitor.cTabletYmin, monitor.cTabletYmax};
+        return QVUsedArea(import(theirs, own).profile.settings);
     };
     const QVTabletArea whole{100, 10000, 100, 6000};
     EXPECT_EQ(areaAfter(whole), whole);
