@@ -5,6 +5,7 @@
 #include "FakeDisplays.h"
 #include "FakeEvents.h"
 #include "FakeUsb.h"
+#include "FileSizeLimit.h"
 #include "QVConfigStore.h"
 #include "QVDriverProtocol.h"
 #include "SampleConfig.h"
@@ -14,10 +15,8 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <cstring>
 #include <string>
-#include <sys/resource.h>
 #include <utility>
 #include <vector>
 
@@ -34,27 +33,6 @@ public:
 protected:
     void show() override { shown.push_back(qvTabletInfo.Pen.PressureThreshold); }
     void changed(bool isOther) override { changes.push_back(isOther); }
-};
-
-/** No file can be written, for its lifetime. */
-class FullDisk {
-public:
-    FullDisk()
-        : mHandlerBefore(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        EXPECT_EQ(::getrlimit(RLIMIT_FSIZE, &mBefore), 0);
-        const rlimit none{0, mBefore.rlim_max};
-        EXPECT_EQ(::setrlimit(RLIMIT_FSIZE, &none), 0);
-    }
-    ~FullDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &mBefore);
-        std::signal(SIGXFSZ, mHandlerBefore);
-    }
-
-private:
-    void (*mHandlerBefore)(int);
-    rlimit mBefore{};
 };
 
 /** A driver with the sample's tablet, and no panel. */
@@ -212,7 +190,7 @@ TEST_F(Switch, changesNothingWhenTheDiskIsFull)
     make(kA, 50, {QStringLiteral("paint")});
     {
         // There is no room for a profile with the settings as they are.
-        const FullDisk full;
+        const FileSizeLimit full(0);
         EXPECT_FALSE(mSwitch.use(kA));
         EXPECT_FALSE(mSwitch.useFor({QStringLiteral("paint")}));
         EXPECT_FALSE(mSwitch.save(kB));
@@ -224,7 +202,7 @@ TEST_F(Switch, changesNothingWhenTheDiskIsFull)
     mSwitch.changes.clear();
     {
         // Nor is there for the tablet's file.
-        const FullDisk full;
+        const FileSizeLimit full(0);
         EXPECT_FALSE(mSwitch.use(kA));
         EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 12);
     }

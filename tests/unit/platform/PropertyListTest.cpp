@@ -3,6 +3,7 @@
 #include "PropertyList.h"
 
 #include "ErrorText.h"
+#include "FileSizeLimit.h"
 #include "SampleConfig.h"
 #include "TemporaryHome.h"
 
@@ -17,7 +18,6 @@
 #include <chrono>
 #include <clocale>
 #include <cmath>
-#include <csignal>
 #include <cstddef>
 #include <cstdio>
 #include <cstdlib>
@@ -28,7 +28,6 @@
 #include <malloc.h>
 #include <memory>
 #include <sys/prctl.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
 #include <system_error>
@@ -724,15 +723,10 @@ TEST(PropertyList, saysWhyNoMoreThanAByteCanBeWritten)
 {
     const TemporaryHome home;
     const std::string path = home.path().toStdString() + "/list.plist";
-    auto* const handlerBefore = std::signal(SIGXFSZ, SIG_IGN);
-    struct rlimit before { };
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &before), 0);
-    struct rlimit one = before;
-    one.rlim_cur = 1;
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &one), 0);
-    const Result<> saved = PropertyList().save(path);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &before), 0);
-    std::signal(SIGXFSZ, handlerBefore);
+    const Result<> saved = [&path] {
+        const FileSizeLimit limit(1);
+        return PropertyList().save(path);
+    }();
     EXPECT_EQ(
         errorText(saved), "cannot write " + path + ": " + std::system_category().message(EFBIG));
 }
