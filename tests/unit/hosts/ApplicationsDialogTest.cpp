@@ -2,10 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "ApplicationsDialog.h"
 
+#include "Dialogs.h"
 #include "OpenPanel.h"
 #include "Service.h"
 #include "TemporaryHome.h"
-#include "Wait.h"
 
 #include <QApplication>
 #include <QLabel>
@@ -63,8 +63,7 @@ protected:
     {
         mDialog = std::make_unique<ApplicationsDialog>(profile, ids, nullptr);
         mDialog->show();
-        mDialog->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(mDialog.get(), kPatience));
+        activate(*mDialog);
     }
     QListWidget& list() { return *mDialog->findChild<QListWidget*>(); }
     QStringList names()
@@ -75,17 +74,7 @@ protected:
         }
         return names;
     }
-    QPushButton& button(const char* text)
-    {
-        const auto buttons = mDialog->findChildren<QPushButton*>();
-        for (QPushButton* const button : buttons) {
-            if (QString(button->text()).remove(u'&') == QString::fromUtf8(text)) {
-                return *button;
-            }
-        }
-        ADD_FAILURE() << "there is no button " << text;
-        return *buttons.constFirst();
-    }
+    QPushButton& button(const char* text) { return buttonOf(*mDialog, text); }
     /** Adds what the user chooses in the panel. */
     void add(const QString& path)
     {
@@ -186,18 +175,15 @@ TEST_F(Applications, canBeChangedWithTheKeyboardAlone)
 
 TEST_F(Applications, stayAsTheyWereAfterCancel)
 {
-    const auto cancel = [this](const auto& how) {
-        open(texts({"org.example.Draw"}));
-        how();
-        EXPECT_FALSE(mDialog->isVisible());
-        EXPECT_EQ(mDialog->result(), QDialog::Rejected);
-    };
-    cancel([this] { button("Cancel").click(); });
-    cancel([this] { QTest::keyClick(&list(), Qt::Key_Escape); });
-    cancel([this] {
-        button("Cancel").setFocus();
-        QTest::keyClick(&button("Cancel"), Qt::Key_Return);
-    });
+    cancelInEachWay(
+        [this] {
+            open(texts({"org.example.Draw"}));
+            return mDialog.get();
+        },
+        [this] {
+            EXPECT_FALSE(mDialog->isVisible());
+            EXPECT_EQ(mDialog->result(), QDialog::Rejected);
+        });
 }
 
 TEST_F(Applications, haveRoomForSeveralAndForLongNames)

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "ImportDialog.h"
 
+#include "Dialogs.h"
 #include "TemporaryHome.h"
-#include "Wait.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -34,21 +34,10 @@ protected:
     {
         mDialog = std::make_unique<ImportDialog>(mImport, nullptr);
         mDialog->show();
-        mDialog->activateWindow();
-        EXPECT_TRUE(QTest::qWaitForWindowActive(mDialog.get(), kPatience));
+        activate(*mDialog);
     }
     QListWidget& list() { return *mDialog->findChild<QListWidget*>(); }
-    QPushButton& button(const char* text)
-    {
-        const auto buttons = mDialog->findChildren<QPushButton*>();
-        for (QPushButton* const button : buttons) {
-            if (QString(button->text()).remove(u'&') == QString::fromUtf8(text)) {
-                return *button;
-            }
-        }
-        ADD_FAILURE() << "there is no button " << text;
-        return *buttons.constFirst();
-    }
+    QPushButton& button(const char* text) { return buttonOf(*mDialog, text); }
     QStringList lines()
     {
         QStringList lines;
@@ -170,18 +159,15 @@ TEST_F(Import, isReadAndTakenWithTheKeyboardAlone)
 
 TEST_F(Import, isNotTakenAfterCancel)
 {
-    const auto cancel = [this](const auto& how) {
-        open();
-        how();
-        EXPECT_FALSE(mDialog->isVisible());
-        EXPECT_EQ(mDialog->result(), QDialog::Rejected);
-    };
-    cancel([this] { button("Cancel").click(); });
-    cancel([this] { QTest::keyClick(&list(), Qt::Key_Escape); });
-    cancel([this] {
-        button("Cancel").setFocus();
-        QTest::keyClick(&button("Cancel"), Qt::Key_Return);
-    });
+    cancelInEachWay(
+        [this] {
+            open();
+            return mDialog.get();
+        },
+        [this] {
+            EXPECT_FALSE(mDialog->isVisible());
+            EXPECT_EQ(mDialog->result(), QDialog::Rejected);
+        });
 }
 
 TEST_F(Import, hasItsPartsBelowEachOtherWithRoomForTheStarts)

@@ -4,6 +4,7 @@
 
 #include "Accessible.h"
 #include "ApplicationsDialog.h"
+#include "Dialogs.h"
 #include "FakeSystemd.h"
 #include "FollowService.h"
 #include "ImportDialog.h"
@@ -130,15 +131,9 @@ protected:
     }
     static void press(QDialog& dialog, const char* text)
     {
-        const auto buttons = dialog.findChildren<QPushButton*>();
-        for (QPushButton* const button : buttons) {
-            if (QString(button->text()).remove(u'&') == QString::fromUtf8(text)) {
-                EXPECT_TRUE(button->isEnabled()) << text;
-                button->click();
-                return;
-            }
-        }
-        ADD_FAILURE() << "there is no button " << text;
+        QPushButton& button = buttonOf(dialog, text);
+        EXPECT_TRUE(button.isEnabled()) << text;
+        button.click();
     }
     static QPushButton* defaultButton(const QDialog& dialog)
     {
@@ -161,13 +156,6 @@ protected:
     }
     QPushButton& saveAs() { return *bar().findChild<QPushButton*>(); }
     QToolButton& more() { return *bar().findChild<QToolButton*>(); }
-    void activate(QWidget& window)
-    {
-        // A dialog of an active window is taken for active, too.
-        window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor(
-            [&window] { return QApplication::activeWindow() == &window; }, kPatience));
-    }
     /** The tool tip that appears where the mouse rests. */
     static QString toolTipAt(QWidget& widget, const QPoint& place)
     {
@@ -528,28 +516,22 @@ TEST_F(Bar, asksForANameInADialogThatKeepsItsSize)
 TEST_F(Bar, savesNothingAfterCancel)
 {
     show();
-    const auto cancel = [this](const auto& how) {
-        saveAs().click();
-        auto* const dialog = this->dialog<ProfileNameDialog>();
-        ASSERT_NE(dialog, nullptr);
-        activate(*dialog);
-        const auto buttons = dialog->findChildren<QPushButton*>();
-        const auto button =
-            std::ranges::find(buttons, QStringLiteral("&Cancel"), &QPushButton::text);
-        ASSERT_NE(button, buttons.end());
-        const QPointer<ProfileNameDialog> closed = dialog;
-        how(*dialog, **button);
-        EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        EXPECT_TRUE(closed.isNull());
-        EXPECT_EQ(mLife.take(), QStringList());
-    };
-    cancel([](QDialog&, QPushButton& button) { button.click(); });
-    cancel([](QDialog& dialog, QPushButton&) { QTest::keyClick(&dialog, Qt::Key_Escape); });
-    cancel([](QDialog&, QPushButton& button) {
-        button.setFocus();
-        QTest::keyClick(&button, Qt::Key_Return);
-    });
+    QPointer<ProfileNameDialog> dialog;
+    cancelInEachWay(
+        [&] {
+            saveAs().click();
+            dialog = this->dialog<ProfileNameDialog>();
+            if (dialog != nullptr) {
+                activate(*dialog);
+            }
+            return dialog.data();
+        },
+        [&] {
+            EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            EXPECT_TRUE(dialog.isNull());
+            EXPECT_EQ(mLife.take(), QStringList());
+        });
 }
 
 // The menu ----------------------------------------------------------------------------------------

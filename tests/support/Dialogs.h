@@ -1,0 +1,61 @@
+// SPDX-FileCopyrightText: 2026 The QVTblt developers
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "Wait.h"
+
+#include <QApplication>
+#include <QDialog>
+#include <QPushButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <initializer_list>
+
+/** Waits until a window itself is active; a dialog of an active window is taken for active, too. */
+inline void activate(QWidget& window)
+{
+    window.activateWindow();
+    ASSERT_TRUE(
+        QTest::qWaitFor([&window] { return QApplication::activeWindow() == &window; }, kPatience));
+}
+
+/** The button of a window with that text, without its mnemonic. */
+inline QPushButton& buttonOf(const QWidget& window, const char* text)
+{
+    const auto buttons = window.findChildren<QPushButton*>();
+    for (QPushButton* const button : buttons) {
+        if (QString(button->text()).remove(u'&') == QString::fromUtf8(text)) {
+            return *button;
+        }
+    }
+    ADD_FAILURE() << "there is no button " << text;
+    return *buttons.constFirst();
+}
+
+/**
+ * Cancels a dialog in each way: by its button, by Escape, and by Return on the button.
+ *
+ * @param open opens it, active, and returns it
+ * @param expectCancelled called after each
+ */
+inline void cancelInEachWay(
+    const std::function<QDialog*()>& open, const std::function<void()>& expectCancelled)
+{
+    using Way = void (*)(QDialog&);
+    for (const Way cancel :
+        std::initializer_list<Way>{[](QDialog& dialog) { buttonOf(dialog, "Cancel").click(); },
+            [](QDialog& dialog) { QTest::keyClick(dialog.focusWidget(), Qt::Key_Escape); },
+            [](QDialog& dialog) {
+                QPushButton& button = buttonOf(dialog, "Cancel");
+                button.setFocus();
+                QTest::keyClick(&button, Qt::Key_Return);
+            }}) {
+        QDialog* const dialog = open();
+        ASSERT_NE(dialog, nullptr);
+        cancel(*dialog);
+        expectCancelled();
+    }
+}
