@@ -5,6 +5,7 @@
 
 #include "QVPaneProfiles.h"
 
+#include "LivingBus.h"
 #include "PaneTest.h"
 #include "PrivateBus.h"
 #include "QVKeyComboBox.h"
@@ -114,11 +115,8 @@ private Q_SLOTS:
 /** Those that have or want the panel's name, the owner first. */
 QStringList queue(const QDBusConnection& bus)
 {
-    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("ListQueuedOwners"));
-    call << QString(kQVPanelService);
-    return QDBusReply<QStringList>(bus.call(call)).value();
+    return QDBusReply<QStringList>(bus.call(platform::busCall("ListQueuedOwners", kQVPanelService)))
+        .value();
 }
 
 /** With a bus, on which others ask the panel. */
@@ -140,10 +138,7 @@ protected:
     /** Calls the panel without blocking it, which is in this process. */
     QDBusMessage ask(const char* method, const QVariantList& arguments = {})
     {
-        QDBusMessage call = QDBusMessage::createMethodCall(
-            kQVPanelService, kQVPanelPath, kQVPanelInterface, QLatin1String(method));
-        call.setArguments(arguments);
-        const QDBusPendingCall pending = mClient.asyncCall(call);
+        const QDBusPendingCall pending = mClient.asyncCall(QVPanelCall(method, arguments));
         EXPECT_TRUE(waitFor([&] { return pending.isFinished(); })) << method;
         return pending.reply();
     }
@@ -189,23 +184,6 @@ protected:
         platform::Result<> push() override { return {}; }
         void changed(bool /*isOther*/) override { ++edits; }
     };
-
-    /** Sends this panel the other one's record. */
-    void tell(const tagQVTabletInfo& theirs)
-    {
-        QDBusMessage signal = QDBusMessage::createSignal(
-            kQVPanelPath, kQVPanelInterface, QStringLiteral("SettingsChanged"));
-        signal << QVBytesOf(theirs);
-        mClient.send(signal);
-    }
-    /** Whether this panel shows a pressure of the other one's, and so has all that came before. */
-    bool hears(std::int16_t pressure)
-    {
-        tagQVTabletInfo theirs = qvTabletInfo;
-        theirs.Pen.PressureThreshold = pressure;
-        tell(theirs);
-        return waitFor([&] { return shownPressure() == pressure; });
-    }
 
     QVConfigStore mStore;
     Theirs mTheirs{mStore};
@@ -694,41 +672,6 @@ TEST_F(SecondPanel, sendsTheAreaThatItHasCalibrated)
     EXPECT_TRUE(waitFor([&] { return mTheirs.edits > 0; }));
 }
 
-TEST_F(SecondPanel, showsWhatTheFirstHasEdited)
-{
-    ASSERT_TRUE(hears(60));
-    tagQVTabletInfo theirs = qvTabletInfo;
-    theirs.Pen.PressureThreshold = 61;
-    qvTabletInfo.Pen.Speed = 44; // not sent yet
-    tell(theirs);
-    EXPECT_TRUE(waitFor([&] { return shownPressure() == 61; }));
-    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 44) << "its own edit";
-    EXPECT_TRUE(waitFor([&] { return mTheirs.edits == 1; })) << "the first does not have it";
-}
-
-TEST_F(SecondPanel, waitsUntilItsOwnEditsAreAnsweredBeforeItTakesTheFirstOnes)
-{
-    ASSERT_TRUE(hears(60));
-    qvTabletInfo.Pen.Speed = 44;
-    mPane.send();
-    EXPECT_TRUE(hears(61)) << "it comes before the answer";
-    EXPECT_EQ(mTheirs.edits, 1);
-}
-
-TEST_F(SecondPanel, showsThatTheFirstUsesAProfile)
-{
-    ASSERT_TRUE(hears(60));
-    int changes = 0;
-    mPane.profiles()->setChangeHandler([&] { ++changes; });
-    QVProfileChoice{mName, mName}.save(QVProductID(qvTabletInfo));
-    EXPECT_TRUE(hears(61));
-    EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 1);
-    EXPECT_GE(changes, 1);
-    EXPECT_TRUE(hears(62));
-    EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 1) << "it is the same one";
-    mPane.profiles()->setChangeHandler(nullptr);
-}
-
 TEST_F(SecondPanel, saysToTheNextOwnerThatItCalibrates)
 {
     QDBusConnection bus = QDBusConnection::connectToBus(mBus.address(), QStringLiteral("next"));
@@ -767,6 +710,35 @@ TEST_F(SecondPanel, knowsWhatTheFirstHasSaved)
     EXPECT_FALSE(mPane.hasChanges());
     mPane.setChangeHandler(nullptr);
     EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 0);
+}
+
+TEST_F(BesideAnother, showsWhatTheOtherHasEdited)
+{
+    qvTabletInfo.Pen.Speed = 44; // not sent yet
+    EXPECT_TRUE(hears(62));
+    EXPECT_EQ(+qvTabletInfo.Pen.Speed, 44) << "its own edit";
+    EXPECT_TRUE(waitFor([&] { return mOther->edits.size() == 1; })) << "the other does not have it";
+}
+
+TEST_F(BesideAnother, waitsUntilItsOwnEditsAreAnsweredBeforeItTakesTheOtherOnes)
+{
+    edit(44);
+    mOther->record.Pen.Speed = 44;
+    EXPECT_TRUE(hears(62)) << "it comes before the answer";
+    EXPECT_EQ(mOther->edits.size(), 1U);
+}
+
+TEST_F(BesideAnother, showsThatTheOtherUsesAProfile)
+{
+    int changes = 0;
+    mPane.profiles()->setChangeHandler([&] { ++changes; });
+    QVProfileChoice{mName, mName}.save(QVProductID(qvTabletInfo));
+    EXPECT_TRUE(hears(62));
+    EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 1);
+    EXPECT_GE(changes, 1);
+    EXPECT_TRUE(hears(63));
+    EXPECT_EQ(std::ranges::count(mNews, Pane::News::SettingsReplaced), 1) << "it is the same one";
+    mPane.profiles()->setChangeHandler(nullptr);
 }
 
 TEST_F(BesideAnother, sendsItsEdits)
@@ -907,12 +879,10 @@ TEST_F(BesideAnother, saysThatItNoLongerCalibratesWhenTheTabletIsAnother)
 TEST_F(SecondPanel, comesBeforeAFollowerThatWasThereEarlier)
 {
     QDBusConnection bus = QDBusConnection::connectToBus(mBus.address(), QStringLiteral("follower"));
-    QDBusMessage request = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"),
-        QStringLiteral("RequestName"));
+    QDBusMessage request = platform::busCall("RequestName", kQVPanelService);
     constexpr uint kAllowReplacement = 1;
     constexpr uint kBeforeOthers = 2;
-    request << QString(kQVPanelService) << (kAllowReplacement | kBeforeOthers);
+    request << (kAllowReplacement | kBeforeOthers);
     bus.call(request);
     const QStringList before = queue(mClient);
     ASSERT_EQ(before.indexOf(bus.baseService()), 1);
