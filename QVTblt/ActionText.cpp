@@ -6,6 +6,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace {
 
 /** The context of the translations. */
@@ -13,35 +15,58 @@ struct ActionText {
     Q_DECLARE_TR_FUNCTIONS(ActionText)
 };
 
-QString mouseText(std::int16_t button)
+} // namespace
+
+constexpr std::array<Action, kActionCount> kActions{{
+    {kQVNoAction, {},
+        //: Action of a tablet key; must fit into the narrow lists of the key page.
+        QT_TRANSLATE_NOOP("ActionText", "No action")},
+    {kQVMouseButton, kQVLeftButton,
+        //: Action of a tablet key: clicks with this button of a mouse; must fit into a narrow list.
+        QT_TRANSLATE_NOOP("ActionText", "Left mouse button")},
+    {kQVMouseButton, kQVRightButton,
+        //: Action of a tablet key: clicks with this button of a mouse; must fit into a narrow list.
+        QT_TRANSLATE_NOOP("ActionText", "Right mouse button")},
+    {kQVMouseButton, kQVMiddleButton,
+        //: Action of a tablet key: clicks with this button of a mouse; must fit into a narrow list.
+        QT_TRANSLATE_NOOP("ActionText", "Middle mouse button")},
+    {kQVMouseButton, kQVBackButton,
+        //: The mouse button that goes back, as in a browser; must fit into a narrow list.
+        QT_TRANSLATE_NOOP("ActionText", "Back mouse button")},
+    {kQVApplication, {},
+        //: Action of a tablet key, which asks for the application; must fit into a narrow list.
+        QT_TRANSLATE_NOOP("ActionText", "Open an application…")},
+    {kQVKeyCombination, {},
+        //: Action of a tablet key, which asks for keys; must fit into a narrow list.
+        QT_TRANSLATE_NOOP("ActionText", "Press keys…")},
+    {kQVNextDisplay, {},
+        //: Maps the tablet to the next of several displays; must fit into a narrow list.
+        QT_TRANSLATE_NOOP("ActionText", "Go to the next display")},
+    {kQVFinePositioning, {},
+        //: Slows the pointer down while the key is held; must fit into a narrow list.
+        QT_TRANSLATE_NOOP("ActionText", "Move finely while held")},
+    {kQVPauseTablet, {},
+        //: The pen is ignored until the key is pressed again; must fit into a narrow list.
+        QT_TRANSLATE_NOOP("ActionText", "Pause the tablet")},
+}};
+
+std::size_t actionOf(const tagQVTabletInfoSubKey& slot)
 {
-    switch (button) {
-    case kQVLeftButton:
-        //: Action of a tablet key: clicks with this button of a mouse.
-        return ActionText::tr("Left mouse button");
-    case kQVRightButton:
-        //: Action of a tablet key: clicks with this button of a mouse.
-        return ActionText::tr("Right mouse button");
-    case kQVMiddleButton:
-        //: Action of a tablet key: clicks with this button of a mouse.
-        return ActionText::tr("Middle mouse button");
-    case kQVBackButton:
-        //: The mouse button that goes back, as in a browser.
-        return ActionText::tr("Back mouse button");
-    default:
-        //: Action of a tablet key: it does nothing.
-        return ActionText::tr("No action");
-    }
+    const auto* const found = std::ranges::find_if(kActions, [&slot](const Action& action) {
+        return action.valid == slot.Valid
+            && (action.valid != kQVMouseButton || action.mouse == slot.Mouse);
+    });
+    return found == kActions.end() ? 0 : static_cast<std::size_t>(found - kActions.begin());
 }
 
-} // namespace
+QString actionText(const Action& action)
+{
+    return ActionText::tr(action.text);
+}
 
 QString actionText(const tagQVTabletInfoSubKey& slot)
 {
-    switch (slot.Valid) {
-    case kQVMouseButton:
-        return mouseText(slot.Mouse);
-    case kQVApplication: {
+    if (slot.Valid == kQVApplication) {
         const std::string_view path = QVText(slot.App);
         if (path.empty()) {
             //: Action of a tablet key.
@@ -51,7 +76,7 @@ QString actionText(const tagQVTabletInfoSubKey& slot)
         return ActionText::tr("Open %1").arg(
             QString::fromLatin1(path.data(), static_cast<int>(path.size())));
     }
-    case kQVKeyCombination: {
+    if (slot.Valid == kQVKeyCombination) {
         const QString keys = QString::fromStdU16String(QVKeyCombinationText(slot.Key)).trimmed();
         if (keys.isEmpty()) {
             //: Action of a tablet key: a key combination without keys.
@@ -60,19 +85,7 @@ QString actionText(const tagQVTabletInfoSubKey& slot)
         //: Action of a tablet key; %1 is a key combination, such as "Ctrl Z".
         return ActionText::tr("Press %1").arg(keys);
     }
-    case kQVNextDisplay:
-        //: Action of a tablet key: maps the tablet to the next of several displays.
-        return ActionText::tr("Go to the next display");
-    case kQVFinePositioning:
-        //: Action of a tablet key: slows the pointer down while the key is held.
-        return ActionText::tr("Move finely while held");
-    case kQVPauseTablet:
-        //: Action of a tablet key: the pen is ignored until the key is pressed again.
-        return ActionText::tr("Pause the tablet");
-    default:
-        //: Action of a tablet key: it does nothing.
-        return ActionText::tr("No action");
-    }
+    return actionText(kActions.at(actionOf(slot)));
 }
 
 QString stripText(std::int16_t field, std::int16_t speed)

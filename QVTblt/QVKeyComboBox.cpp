@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "QVKeyComboBox.h"
 
+#include "ActionText.h"
 #include "LiteralText.h"
 
 #include <QAbstractItemView>
@@ -12,41 +13,15 @@
 #include <QStyledItemDelegate>
 #include <QToolTip>
 
-#include <array>
 #include <utility>
 
 namespace {
-
-/** The initial texts of the items, in their order. */
-constexpr std::array kTextsAtFirst{
-    //: Action of a tablet key; must fit into the narrow lists of the key page.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "No action"),
-    //: Action of a tablet key; must fit into the narrow lists of the key page.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "Left mouse button"),
-    //: Action of a tablet key; must fit into the narrow lists of the key page.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "Right mouse button"),
-    //: Action of a tablet key; must fit into the narrow lists of the key page.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "Middle mouse button"),
-    //: The mouse button that goes back, as in a browser; must fit into a narrow list.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "Back mouse button"),
-    //: Action of a tablet key, which asks for the application; must fit into a narrow list.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "Open an application…"),
-    //: Action of a tablet key, which asks for keys of the keyboard; must fit into a narrow
-    //: list.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "Press keys…"),
-    //: Action of a tablet key; must fit into the narrow lists of the key page.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "Go to the next display"),
-    //: Slows the pointer down while the key is held; must fit into a narrow list.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "Move finely while held"),
-    //: Action of a tablet key; must fit into the narrow lists of the key page.
-    QT_TRANSLATE_NOOP("QVKeyComboBox", "Pause the tablet"),
-};
 
 /** The initial text of an item; empty without an item. */
 QString textAtFirst(int item)
 {
     const auto index = static_cast<std::size_t>(item); // a negative one is too large
-    return index < kTextsAtFirst.size() ? QVKeyComboBox::tr(kTextsAtFirst[index]) : QString();
+    return index < kActionCount ? actionText(kActions.at(index)) : QString();
 }
 
 /** An item's text as drawn: on one line, and never empty. */

@@ -15,7 +15,7 @@ class QVKeyComboBox final : public platform::MenuComboBox {
     Q_OBJECT
 
 public:
-    /** The items. */
+    /** The items, in the order of kActions. */
     enum Item {
         NoAction,
         LeftButton,

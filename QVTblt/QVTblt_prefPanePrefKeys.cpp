@@ -3,6 +3,7 @@
 
 // The key page of the panel: its layouts, and the actions of its controls.
 
+#include "ActionText.h"
 #include "Client.h"
 #include "InstalledApplications.h"
 #include "OpenPanel.h"
@@ -31,29 +32,6 @@ constexpr std::size_t kBankSize = 8;
 
 /** Distance from a box to its number, in points. */
 constexpr double kLabelDistance = 20.0;
-
-/** What an item of a button's list stores in the button's slot. */
-struct Choice {
-    std::int16_t valid;
-    std::int16_t mouse; ///< stored for a mouse button only
-};
-
-/** In the order of QVKeyComboBox::Item. */
-constexpr std::array<Choice, 10> kChoices{
-    {{kQVNoAction, 0}, {kQVMouseButton, kQVLeftButton}, {kQVMouseButton, kQVRightButton},
-        {kQVMouseButton, kQVMiddleButton}, {kQVMouseButton, kQVBackButton}, {kQVApplication, 0},
-        {kQVKeyCombination, 0}, {kQVNextDisplay, 0}, {kQVFinePositioning, 0}, {kQVPauseTablet, 0}}};
-
-/** The item for a slot; NoAction if its values are unknown. */
-QVKeyComboBox::Item itemOf(const tagQVTabletInfoSubKey& slot)
-{
-    const auto* const found = std::ranges::find_if(kChoices, [&slot](const Choice& choice) {
-        return choice.valid == slot.Valid
-            && (choice.valid != kQVMouseButton || choice.mouse == slot.Mouse);
-    });
-    return found == kChoices.end() ? QVKeyComboBox::NoAction
-                                   : static_cast<QVKeyComboBox::Item>(found - kChoices.begin());
-}
 
 /** A field's text up to its NUL, with replacement characters for non-ASCII bytes. */
 QString textOf(const QVString& field)
@@ -321,7 +299,7 @@ void QVTblt_prefPanePref::InitSingleComboBoxWithKey(
     QVKeyComboBox* comboBox, std::int32_t keyNo) const
 {
     const tagQVTabletInfoSubKey& slot = qvTabletInfo.Key.SubKey[static_cast<std::size_t>(keyNo)];
-    const QVKeyComboBox::Item item = itemOf(slot);
+    const auto item = static_cast<QVKeyComboBox::Item>(actionOf(slot));
     if (item == QVKeyComboBox::Application) {
         showApplication(*comboBox, textOf(slot.App));
     } else if (item == QVKeyComboBox::KeyCombination) {
@@ -343,8 +321,8 @@ void QVTblt_prefPanePref::SelectKey(QVKeyComboBox* comboBox)
     }
     if (item == QVKeyComboBox::Application) {
         takeApplication(*comboBox, slot);
-    } else if (item >= 0 && static_cast<std::size_t>(item) < kChoices.size()) {
-        const Choice& choice = kChoices[static_cast<std::size_t>(item)];
+    } else if (item >= 0 && static_cast<std::size_t>(item) < kActionCount) {
+        const Action& choice = kActions.at(static_cast<std::size_t>(item));
         slot.Valid = choice.valid;
         if (choice.valid == kQVMouseButton) {
             slot.Mouse = choice.mouse;

@@ -4,29 +4,54 @@
 <context>
     <name>ActionText</name>
     <message>
+        <source>No action</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
+        <translation>Ninguna acción</translation>
+    </message>
+    <message>
         <source>Left mouse button</source>
-        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse; must fit into a narrow list.</extracomment>
         <translation>Botón izquierdo del ratón</translation>
     </message>
     <message>
         <source>Right mouse button</source>
-        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse; must fit into a narrow list.</extracomment>
         <translation>Botón derecho del ratón</translation>
     </message>
     <message>
         <source>Middle mouse button</source>
-        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse; must fit into a narrow list.</extracomment>
         <translation>Botón central del ratón</translation>
     </message>
     <message>
         <source>Back mouse button</source>
-        <extracomment>The mouse button that goes back, as in a browser.</extracomment>
+        <extracomment>The mouse button that goes back, as in a browser; must fit into a narrow list.</extracomment>
         <translation>Botón Atrás del ratón</translation>
     </message>
     <message>
-        <source>No action</source>
-        <extracomment>Action of a tablet key: it does nothing.</extracomment>
-        <translation>Ninguna acción</translation>
+        <source>Open an application…</source>
+        <extracomment>Action of a tablet key, which asks for the application; must fit into a narrow list.</extracomment>
+        <translation>Abrir una aplicación…</translation>
+    </message>
+    <message>
+        <source>Press keys…</source>
+        <extracomment>Action of a tablet key, which asks for keys; must fit into a narrow list.</extracomment>
+        <translation>Pulsar teclas…</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <extracomment>Maps the tablet to the next of several displays; must fit into a narrow list.</extracomment>
+        <translation>Ir a la pantalla siguiente</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <extracomment>Slows the pointer down while the key is held; must fit into a narrow list.</extracomment>
+        <translation>Precisión (mantener)</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <extracomment>The pen is ignored until the key is pressed again; must fit into a narrow list.</extracomment>
+        <translation>Pausar la tableta</translation>
     </message>
     <message>
         <source>Open an application (unknown path)</source>
@@ -47,21 +72,6 @@
         <source>Press %1</source>
         <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
         <translation>Pulsar %1</translation>
-    </message>
-    <message>
-        <source>Go to the next display</source>
-        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
-        <translation>Ir a la pantalla siguiente</translation>
-    </message>
-    <message>
-        <source>Move finely while held</source>
-        <extracomment>Action of a tablet key: slows the pointer down while the key is held.</extracomment>
-        <translation>Precisión (mantener)</translation>
-    </message>
-    <message>
-        <source>Pause the tablet</source>
-        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
-        <translation>Pausar la tableta</translation>
     </message>
     <message>
         <source>No action: the strip is off</source>
@@ -613,59 +623,6 @@
         <source>Pressure %1 %</source>
         <extracomment>Read by screen readers for the drawing pad; %1 is 0 to 100.</extracomment>
         <translation>Presión %1&#xa0;%</translation>
-    </message>
-</context>
-<context>
-    <name>QVKeyComboBox</name>
-    <message>
-        <source>No action</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>Ninguna acción</translation>
-    </message>
-    <message>
-        <source>Left mouse button</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>Botón izquierdo del ratón</translation>
-    </message>
-    <message>
-        <source>Right mouse button</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>Botón derecho del ratón</translation>
-    </message>
-    <message>
-        <source>Middle mouse button</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>Botón central del ratón</translation>
-    </message>
-    <message>
-        <source>Back mouse button</source>
-        <extracomment>The mouse button that goes back, as in a browser; must fit into a narrow list.</extracomment>
-        <translation>Botón Atrás del ratón</translation>
-    </message>
-    <message>
-        <source>Open an application…</source>
-        <extracomment>Action of a tablet key, which asks for the application; must fit into a narrow list.</extracomment>
-        <translation>Abrir una aplicación…</translation>
-    </message>
-    <message>
-        <source>Press keys…</source>
-        <extracomment>Action of a tablet key, which asks for keys of the keyboard; must fit into a narrow list.</extracomment>
-        <translation>Pulsar teclas…</translation>
-    </message>
-    <message>
-        <source>Go to the next display</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>Ir a la pantalla siguiente</translation>
-    </message>
-    <message>
-        <source>Move finely while held</source>
-        <extracomment>Slows the pointer down while the key is held; must fit into a narrow list.</extracomment>
-        <translation>Precisión (mantener)</translation>
-    </message>
-    <message>
-        <source>Pause the tablet</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>Pausar la tableta</translation>
     </message>
 </context>
 <context>

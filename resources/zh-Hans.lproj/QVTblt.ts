@@ -4,29 +4,54 @@
 <context>
     <name>ActionText</name>
     <message>
+        <source>No action</source>
+        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
+        <translation>无操作</translation>
+    </message>
+    <message>
         <source>Left mouse button</source>
-        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse; must fit into a narrow list.</extracomment>
         <translation>鼠标左键</translation>
     </message>
     <message>
         <source>Right mouse button</source>
-        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse; must fit into a narrow list.</extracomment>
         <translation>鼠标右键</translation>
     </message>
     <message>
         <source>Middle mouse button</source>
-        <extracomment>Action of a tablet key: clicks with this button of a mouse.</extracomment>
+        <extracomment>Action of a tablet key: clicks with this button of a mouse; must fit into a narrow list.</extracomment>
         <translation>鼠标中键</translation>
     </message>
     <message>
         <source>Back mouse button</source>
-        <extracomment>The mouse button that goes back, as in a browser.</extracomment>
+        <extracomment>The mouse button that goes back, as in a browser; must fit into a narrow list.</extracomment>
         <translation>鼠标后退键</translation>
     </message>
     <message>
-        <source>No action</source>
-        <extracomment>Action of a tablet key: it does nothing.</extracomment>
-        <translation>无操作</translation>
+        <source>Open an application…</source>
+        <extracomment>Action of a tablet key, which asks for the application; must fit into a narrow list.</extracomment>
+        <translation>打开应用程序…</translation>
+    </message>
+    <message>
+        <source>Press keys…</source>
+        <extracomment>Action of a tablet key, which asks for keys; must fit into a narrow list.</extracomment>
+        <translation>按下按键…</translation>
+    </message>
+    <message>
+        <source>Go to the next display</source>
+        <extracomment>Maps the tablet to the next of several displays; must fit into a narrow list.</extracomment>
+        <translation>切换到下一个显示器</translation>
+    </message>
+    <message>
+        <source>Move finely while held</source>
+        <extracomment>Slows the pointer down while the key is held; must fit into a narrow list.</extracomment>
+        <translation>按住时精细移动</translation>
+    </message>
+    <message>
+        <source>Pause the tablet</source>
+        <extracomment>The pen is ignored until the key is pressed again; must fit into a narrow list.</extracomment>
+        <translation>暂停数位板</translation>
     </message>
     <message>
         <source>Open an application (unknown path)</source>
@@ -47,21 +72,6 @@
         <source>Press %1</source>
         <extracomment>Action of a tablet key; %1 is a key combination, such as &quot;Ctrl Z&quot;.</extracomment>
         <translation>按下 %1</translation>
-    </message>
-    <message>
-        <source>Go to the next display</source>
-        <extracomment>Action of a tablet key: maps the tablet to the next of several displays.</extracomment>
-        <translation>切换到下一个显示器</translation>
-    </message>
-    <message>
-        <source>Move finely while held</source>
-        <extracomment>Action of a tablet key: slows the pointer down while the key is held.</extracomment>
-        <translation>按住时精细移动</translation>
-    </message>
-    <message>
-        <source>Pause the tablet</source>
-        <extracomment>Action of a tablet key: the pen is ignored until the key is pressed again.</extracomment>
-        <translation>暂停数位板</translation>
     </message>
     <message>
         <source>No action: the strip is off</source>
@@ -613,59 +623,6 @@
         <source>Pressure %1 %</source>
         <extracomment>Read by screen readers for the drawing pad; %1 is 0 to 100.</extracomment>
         <translation>压力 %1%</translation>
-    </message>
-</context>
-<context>
-    <name>QVKeyComboBox</name>
-    <message>
-        <source>No action</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>无操作</translation>
-    </message>
-    <message>
-        <source>Left mouse button</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>鼠标左键</translation>
-    </message>
-    <message>
-        <source>Right mouse button</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>鼠标右键</translation>
-    </message>
-    <message>
-        <source>Middle mouse button</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>鼠标中键</translation>
-    </message>
-    <message>
-        <source>Back mouse button</source>
-        <extracomment>The mouse button that goes back, as in a browser; must fit into a narrow list.</extracomment>
-        <translation>鼠标后退键</translation>
-    </message>
-    <message>
-        <source>Open an application…</source>
-        <extracomment>Action of a tablet key, which asks for the application; must fit into a narrow list.</extracomment>
-        <translation>打开应用程序…</translation>
-    </message>
-    <message>
-        <source>Press keys…</source>
-        <extracomment>Action of a tablet key, which asks for keys of the keyboard; must fit into a narrow list.</extracomment>
-        <translation>按下按键…</translation>
-    </message>
-    <message>
-        <source>Go to the next display</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>切换到下一个显示器</translation>
-    </message>
-    <message>
-        <source>Move finely while held</source>
-        <extracomment>Slows the pointer down while the key is held; must fit into a narrow list.</extracomment>
-        <translation>按住时精细移动</translation>
-    </message>
-    <message>
-        <source>Pause the tablet</source>
-        <extracomment>Action of a tablet key; must fit into the narrow lists of the key page.</extracomment>
-        <translation>暂停数位板</translation>
     </message>
 </context>
 <context>
