@@ -8,10 +8,16 @@
 
 using platform::Error;
 
-const QVEntry* findEntry(const QString& path)
+platform::Result<const QVEntry*> findSetting(const QString& path)
 {
     const auto* const found = std::ranges::find(kQVEntries, path.toStdString(), QVEntryPath);
-    return found == kQVEntries.end() ? nullptr : found;
+    if (found == kQVEntries.end()) {
+        return Error{QStringLiteral("there is no entry %1").arg(path)};
+    }
+    if (!found->section->saved) {
+        return Error{QStringLiteral("%1 describes the tablet and cannot be set").arg(path)};
+    }
+    return found;
 }
 
 std::optional<qint64> numberIn(const QString& words)

@@ -14,8 +14,11 @@
  * Entries and their values as text, as on the command line and on the bus.
  */
 
-/** Returns the entry with a path such as "Monitor/XOrg"; null if there is none. */
-const QVEntry* findEntry(const QString& path);
+/**
+ * Finds the entry with a path such as "Monitor/XOrg". Fails if there is none, or if it describes
+ * the tablet and cannot be set.
+ */
+platform::Result<const QVEntry*> findSetting(const QString& path);
 
 /** Parses a number: decimal, even with leading zeros, or hexadecimal with the prefix 0x. */
 std::optional<qint64> numberIn(const QString& words);

@@ -241,7 +241,7 @@ Result<> QVProfileSwitch::set(const QString& entry, const QString& value)
     if (Result<> changed = change({{entry, value}}); !changed) {
         return changed;
     }
-    Result<> saved = mStore.saveEntry(*findEntry(entry));
+    Result<> saved = mStore.saveEntry(**findSetting(entry));
     // What the driver has is what the panel shows, even if it could not be saved.
     changed(false);
     return saved;
@@ -264,13 +264,11 @@ Result<> QVProfileSwitch::change(const QMap<QString, QString>& values)
     }
     tagQVTabletInfo record = qvTabletInfo;
     for (auto value = values.begin(); value != values.end(); ++value) {
-        const QVEntry* const entry = findEntry(value.key());
-        if (entry == nullptr || !entry->section->saved) {
-            return Error{entry != nullptr
-                    ? QStringLiteral("%1 describes the tablet and cannot be set").arg(value.key())
-                    : QStringLiteral("there is no entry %1").arg(value.key())};
+        const Result<const QVEntry*> entry = findSetting(value.key());
+        if (!entry) {
+            return entry.error();
         }
-        if (Result<> set = setEntry(record, *entry, value.value()); !set) {
+        if (Result<> set = setEntry(record, **entry, value.value()); !set) {
             return set;
         }
     }

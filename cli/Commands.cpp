@@ -169,20 +169,18 @@ int runSet(const Arguments& arguments)
 {
     const QString& entry = arguments.operands[0];
     const QString& value = arguments.operands[1];
-    const QVEntry* const found = findEntry(entry);
-    if (found == nullptr || !found->section->saved) {
-        fail(found != nullptr
-                ? QStringLiteral("%1 describes the tablet and cannot be set").arg(entry)
-                : QStringLiteral("there is no entry %1; 'show' lists them all").arg(entry));
+    const Result<const QVEntry*> found = findSetting(entry);
+    if (!found) {
+        fail(QStringLiteral("%1; 'show' lists all entries").arg(found.error().text));
         return kExitUsage;
     }
     tagQVTabletInfo other{};
-    if (const Result<> fits = setEntry(other, *found, value); !fits) {
+    if (const Result<> fits = setEntry(other, **found, value); !fits) {
         fail(fits.error().text);
         return kExitUsage;
     }
     const auto asked = QVAskPanel(QDBusConnection::sessionBus(), "Set", {entry, value});
-    if (const Result<> set = asked ? *asked : setInFile(*found, value); !set) {
+    if (const Result<> set = asked ? *asked : setInFile(**found, value); !set) {
         return fail(set.error().text);
     }
     std::printf("set %s to %s\n", qUtf8Printable(entry), qUtf8Printable(value));

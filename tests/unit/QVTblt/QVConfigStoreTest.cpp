@@ -4,6 +4,8 @@
 
 #include "ErrorText.h"
 #include "FakeDisplays.h"
+#include "FakeEvents.h"
+#include "FileSizeLimit.h"
 #include "Notifications.h"
 #include "QVConfigEntry.h"
 #include "QVEntryText.h"
@@ -558,7 +560,7 @@ TEST_F(QVConfigStoreFile, savesASingleEntryAndNothingElse)
     const std::int64_t threshold = numberInFile("Pen", "PressureThreshold");
     qvTabletInfo.Pen.PressureThreshold = static_cast<std::int16_t>(threshold + 1);
     qvTabletInfo.Pen.Speed = 77;
-    EXPECT_TRUE(mStore.saveEntry(*findEntry(QStringLiteral("Pen/Speed"))));
+    EXPECT_TRUE(mStore.saveEntry(**findSetting(QStringLiteral("Pen/Speed"))));
     EXPECT_EQ(numberInFile("Pen", "Speed"), 77);
     EXPECT_EQ(numberInFile("Pen", "PressureThreshold"), threshold);
     EXPECT_TRUE(mStore.hasUnsavedFields()) << "the threshold";
@@ -567,7 +569,7 @@ TEST_F(QVConfigStoreFile, savesASingleEntryAndNothingElse)
 TEST_F(QVConfigStoreFile, savesNoEntryWithoutItsDictionaryOrAFile)
 {
     read();
-    const QVEntry& entry = *findEntry(QStringLiteral("Pen/Speed"));
+    const QVEntry& entry = **findSetting(QStringLiteral("Pen/Speed"));
     QByteArray withoutPen = sampleConfig();
     withoutPen.replace("<key>Pen</key>", "<key>Pencil</key>");
     writeFile(mPath, withoutPen);
@@ -588,4 +590,59 @@ TEST_F(QVConfigStoreFile, holdsUnsavedFieldsAsLongAsTheFileCannotBeSaved)
     EXPECT_TRUE(mStore.hasUnsavedFields());
     read();
     EXPECT_TRUE(mStore.hasUnsavedFields()) << "what is not there cannot be gone back to";
+}
+
+TEST_F(QVConfigStoreFile, holdsNothingUnsavedOnceItsOnlyEditWasSavedAlone)
+{
+    read();
+    qvTabletInfo.Pen.Speed = 77;
+    const QVEntry& entry = **findSetting(QStringLiteral("Pen/Speed"));
+    {
+        const FileSizeLimit limit(1);
+        EXPECT_FALSE(mStore.saveEntry(entry));
+    }
+    EXPECT_TRUE(mStore.hasUnsavedFields());
+    EXPECT_TRUE(mStore.saveEntry(entry));
+    EXPECT_FALSE(mStore.hasUnsavedFields());
+}
+
+TEST_F(QVConfigStoreFile, comparesWithWhatAnotherHasSavedAndKeepsItsOwnEdits)
+{
+    read();
+    qvTabletInfo.Pen.PressureThreshold = 5;
+    QVConfigStore other;
+    other.WriteQVConfigPlist();
+    EXPECT_TRUE(mStore.hasUnsavedFields());
+    mStore.noteSaved();
+    EXPECT_FALSE(mStore.hasUnsavedFields());
+    qvTabletInfo.Pen.PressureThreshold = 6;
+    mStore.noteSaved();
+    EXPECT_EQ(+qvTabletInfo.Pen.PressureThreshold, 6);
+    EXPECT_TRUE(mStore.hasUnsavedFields());
+    ASSERT_TRUE(QFile::remove(mPath));
+    qvTabletInfo.Pen.PressureThreshold = 5;
+    mStore.noteSaved();
+    EXPECT_FALSE(mStore.hasUnsavedFields()) << "as in the file that there was";
+}
+
+TEST_F(QVConfigStoreFile, isThatOfTheTabletThatTheDriverNames)
+{
+    FakeEvents driver;
+    driver.sendResult = platform::errAETimeout;
+    *GetPListName() = '\0';
+    EXPECT_EQ(errorText(mStore.loadAttachedTablet()), "the driver does not answer");
+    driver.sendResult = platform::noErr;
+    driver.answer(0);
+    EXPECT_EQ(errorText(mStore.loadAttachedTablet()), "no tablet is attached");
+    driver.answer(8);
+    QByteArray config = sampleConfig();
+    config.replace(
+        "<key>VendorID</key>", "<key>Name</key><string>Pen \xC3\x89</string><key>VendorID</key>");
+    writeFile(mHome.configFile(8), config);
+    EXPECT_EQ(errorText(mStore.loadAttachedTablet()), "");
+    EXPECT_EQ(mStore.tabletName(), QString::fromUtf8("Pen \xC3\x89"));
+    EXPECT_TRUE(sameBytes(qvTabletInfo, sampleRecord()));
+    driver.answer(7);
+    EXPECT_EQ(errorText(mStore.loadAttachedTablet()), "");
+    EXPECT_EQ(mStore.tabletName(), QString()) << "a file without a name";
 }
