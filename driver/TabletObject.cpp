@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "TabletObject.h"
 
+#include "BusNames.h"
 #include "Driver.h"
 #include "QVDriverProtocol.h"
 
@@ -48,7 +49,7 @@ void TabletObject::show(const TabletFacts& facts)
         return;
     }
     QDBusMessage signal = QDBusMessage::createSignal(QLatin1String(kQVTabletPath),
-        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"));
+        platform::kBusProperties, QStringLiteral("PropertiesChanged"));
     signal << QLatin1String(kQVTabletInterface) << changed << QStringList();
     mBus.send(signal);
 }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "SeatSession.h"
 
+#include "BusNames.h"
 #include "LivingBus.h"
 
 #include <QDBusArgument>
@@ -21,7 +22,6 @@ constexpr QLatin1String kLoginPath("/org/freedesktop/login1");
 constexpr QLatin1String kLoginManager("org.freedesktop.login1.Manager");
 constexpr QLatin1String kSession("org.freedesktop.login1.Session");
 constexpr QLatin1String kUser("org.freedesktop.login1.User");
-constexpr QLatin1String kProperties("org.freedesktop.DBus.Properties");
 
 } // namespace
 
@@ -32,8 +32,8 @@ SeatSession::SeatSession(QDBusConnection bus, QObject* parent)
     mBus.connect(kLogin, kLoginPath, kLoginManager, QStringLiteral("PrepareForSleep"), this,
         SLOT(prepareForSleep(bool)));
     // Of every session: the user's graphical one may begin after this program.
-    mBus.connect(kLogin, QString(), kProperties, QStringLiteral("PropertiesChanged"), this,
-        SLOT(takeProperties(QDBusMessage)));
+    mBus.connect(kLogin, QString(), platform::kBusProperties, QStringLiteral("PropertiesChanged"),
+        this, SLOT(takeProperties(QDBusMessage)));
     ask();
 }
 
@@ -71,8 +71,9 @@ void SeatSession::ask()
         return;
     }
     // A service of the user belongs to no session, so it is the user's graphical one that counts.
-    QDBusMessage call = QDBusMessage::createMethodCall(kLogin,
-        QStringLiteral("/org/freedesktop/login1/user/self"), kProperties, QStringLiteral("Get"));
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(kLogin, QStringLiteral("/org/freedesktop/login1/user/self"),
+            platform::kBusProperties, QStringLiteral("Get"));
     call << QString(kUser) << QStringLiteral("Display");
     auto* const answer = new QDBusPendingCallWatcher(mBus.asyncCall(call), this);
     connect(answer, &QDBusPendingCallWatcher::finished, this, [this, answer] {
@@ -97,7 +98,7 @@ void SeatSession::ask()
             return;
         }
         QDBusMessage properties = QDBusMessage::createMethodCall(
-            kLogin, path.path(), kProperties, QStringLiteral("GetAll"));
+            kLogin, path.path(), platform::kBusProperties, QStringLiteral("GetAll"));
         properties << QString(kSession);
         auto* const all = new QDBusPendingCallWatcher(mBus.asyncCall(properties), this);
         connect(all, &QDBusPendingCallWatcher::finished, this, [this, all] {

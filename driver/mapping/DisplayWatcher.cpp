@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "DisplayWatcher.h"
 
+#include "BusNames.h"
+
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -88,10 +90,9 @@ void DisplayWatcher::begin()
         launch({});
         return;
     }
-    QDBusMessage call = QDBusMessage::createMethodCall(QStringLiteral("org.freedesktop.systemd1"),
-        QStringLiteral("/org/freedesktop/systemd1"),
-        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
-    call << QStringLiteral("org.freedesktop.systemd1.Manager") << QStringLiteral("Environment");
+    QDBusMessage call = QDBusMessage::createMethodCall(platform::kSystemd, platform::kSystemdPath,
+        platform::kBusProperties, QStringLiteral("Get"));
+    call << QString(platform::kSystemdManager) << QStringLiteral("Environment");
     call.setAutoStartService(false);
     auto* const answer =
         new QDBusPendingCallWatcher(mBus.asyncCall(call, kEnvironmentAnswerTime), this);

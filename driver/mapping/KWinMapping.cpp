@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "KWinMapping.h"
 
+#include "BusNames.h"
 #include "LivingBus.h"
 #include "VirtualDevices.h"
 
@@ -24,7 +25,6 @@ constexpr QLatin1String kKWin("org.kde.KWin");
 constexpr QLatin1String kDevicesPath("/org/kde/KWin/InputDevice");
 constexpr QLatin1String kDeviceManager("org.kde.KWin.InputDeviceManager");
 constexpr QLatin1String kDevice("org.kde.KWin.InputDevice");
-constexpr QLatin1String kKWinProperties("org.freedesktop.DBus.Properties");
 
 constexpr QLatin1String kMapToWorkspace("mapToWorkspace");
 constexpr QLatin1String kOutputName("outputName");
@@ -38,8 +38,8 @@ constexpr double kLittle = 1e-6;
 
 QDBusMessage propertiesCall(const QString& path, const char* method)
 {
-    QDBusMessage call =
-        QDBusMessage::createMethodCall(kKWin, path, kKWinProperties, QLatin1String(method));
+    QDBusMessage call = QDBusMessage::createMethodCall(
+        kKWin, path, platform::kBusProperties, QLatin1String(method));
     call << QString(kDevice);
     call.setAutoStartService(false);
     return call;

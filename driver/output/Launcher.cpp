@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "Launcher.h"
 
+#include "BusNames.h"
+
 #include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMessage>
@@ -18,6 +20,9 @@
 #include <utility>
 
 using platform::Error;
+using platform::kSystemd;
+using platform::kSystemdManager;
+using platform::kSystemdPath;
 using platform::Result;
 
 namespace {
@@ -99,10 +104,6 @@ Q_DECLARE_METATYPE(UnitCommand)
 Q_DECLARE_METATYPE(AuxiliaryUnit)
 
 namespace {
-
-constexpr QLatin1String kSystemd("org.freedesktop.systemd1");
-constexpr QLatin1String kSystemdPath("/org/freedesktop/systemd1");
-constexpr QLatin1String kSystemdManager("org.freedesktop.systemd1.Manager");
 
 /** What starts an application. */
 struct StartCommand {

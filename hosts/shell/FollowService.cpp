@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "FollowService.h"
 
+#include "BusNames.h"
 #include "LivingBus.h"
 
 #include <QDBusArgument>
@@ -13,11 +14,12 @@
 #include <chrono>
 #include <utility>
 
+using platform::kSystemd;
+using platform::kSystemdManager;
+using platform::kSystemdPath;
+
 namespace {
 
-constexpr QLatin1String kSystemd("org.freedesktop.systemd1");
-constexpr QLatin1String kSystemdPath("/org/freedesktop/systemd1");
-constexpr QLatin1String kSystemdManager("org.freedesktop.systemd1.Manager");
 constexpr QLatin1String kFollowUnit("qvtblt-follow.service");
 constexpr int kSystemdAnswerTime = 10000; ///< milliseconds
 constexpr std::chrono::milliseconds kBusTime(100);
@@ -25,17 +27,16 @@ constexpr std::chrono::milliseconds kBusTime(100);
 /** Whether the call has reached nobody. */
 bool isUnheard(const QDBusMessage& reply)
 {
-    switch (QDBusError(reply).type()) {
+    const QDBusError error(reply);
+    switch (error.type()) {
     case QDBusError::ServiceUnknown:
     case QDBusError::NoServer:
-    case QDBusError::NoReply:
-    case QDBusError::TimedOut:
-    case QDBusError::Timeout:
     case QDBusError::Disconnected:
         return true;
     default:
-        // Sent where the service must not be started; it has no type of its own.
-        return reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner");
+        // The last is sent where the service must not be started; it has no type of its own.
+        return platform::isUnanswered(error)
+            || reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner");
     }
 }
 
