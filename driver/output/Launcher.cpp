@@ -173,9 +173,15 @@ void startWithoutManager(QObject* owner, const StartCommand& command, const QStr
 {
     const QString program = command.words.front();
     const QStringList arguments = command.words.mid(1);
+    const auto fail = [=](const QString& reason) {
+        failed(QStringLiteral("%1 could not be started: %2").arg(path, reason));
+    };
     if (!command.endsOnceStarted) {
-        if (!QProcess::startDetached(program, arguments)) {
-            failed(QStringLiteral("%1 could not be started").arg(path));
+        QProcess process;
+        process.setProgram(program);
+        process.setArguments(arguments);
+        if (!process.startDetached()) {
+            fail(process.errorString());
         }
         return;
     }
@@ -185,13 +191,13 @@ void startWithoutManager(QObject* owner, const StartCommand& command, const QStr
         [=](int code, QProcess::ExitStatus status) {
             process->deleteLater();
             if (status != QProcess::NormalExit || code != 0) {
-                failed(QStringLiteral("%1 could not be started").arg(path));
+                fail(QStringLiteral("%1 has failed").arg(program));
             }
         });
     QObject::connect(process, &QProcess::errorOccurred, owner, [=](QProcess::ProcessError error) {
         if (error == QProcess::FailedToStart) { // no other signal follows
             process->deleteLater();
-            failed(QStringLiteral("%1 could not be started").arg(path));
+            fail(process->errorString());
         }
     });
     process->start(program, arguments);

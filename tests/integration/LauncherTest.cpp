@@ -13,6 +13,7 @@
 #include <QDBusObjectPath>
 #include <QDBusVirtualObject>
 #include <QFile>
+#include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -161,7 +162,8 @@ TEST_F(LauncherTest, tellsOfADesktopEntryThatCannotBeStartedWithoutAServiceManag
     file.write("[Desktop Entry]\nType=Application\nName=Broken\nExec=/nowhere/program\n");
     file.close();
     launch(0, entry);
-    EXPECT_TRUE(hasProblem(entry + QStringLiteral(" could not be started")));
+    EXPECT_TRUE(hasProblem(QStringLiteral("%1 could not be started: %2 has failed")
+                               .arg(entry, QStandardPaths::findExecutable(QStringLiteral("gio")))));
 }
 
 } // namespace
