@@ -7,6 +7,7 @@
 #include <QCloseEvent>
 #include <QCoreApplication>
 #include <QDir>
+#include <QImageWriter>
 #include <QPixmap>
 #include <QScreen>
 #include <QTabWidget>
@@ -78,10 +79,10 @@ bool PaneWindow::hasPages() const
     return tabs != nullptr && !tabs->isHidden();
 }
 
-QStringList PaneWindow::render(const QString& folder)
+platform::Result<QStringList> PaneWindow::render(const QString& folder)
 {
     QStringList files;
-    const auto save = [&](const QString& name) {
+    const auto save = [&](const QString& name) -> platform::Result<> {
         const QString file = QDir(folder).filePath(name + QStringLiteral(".png"));
         // Unlike a screen, a picture has room for everything.
         resize(naturalSize().expandedTo(mShell->view().minimumSizeHint()
@@ -92,23 +93,25 @@ QStringList PaneWindow::render(const QString& folder)
             grab();
             QCoreApplication::sendPostedEvents();
         }
-        if (!grab().save(file)) {
-            return false;
+        QImageWriter writer(file);
+        if (!writer.write(grab().toImage())) {
+            return platform::Error{
+                QStringLiteral("cannot write %1: %2").arg(file, writer.errorString())};
         }
         files.append(file);
-        return true;
+        return {};
     };
     mShell->willSelect();
     ensurePolished();
     if (!hasPages()) {
-        save(QStringLiteral("noDevice"));
-        return files;
+        const platform::Result<> saved = save(QStringLiteral("noDevice"));
+        return saved ? platform::Result<QStringList>(files) : saved.error();
     }
     QTabWidget* const tabs = pages();
     for (int page = 0; page < tabs->count(); ++page) {
         tabs->setCurrentIndex(page);
-        if (!save(tabs->widget(page)->objectName())) {
-            return {};
+        if (const platform::Result<> saved = save(tabs->widget(page)->objectName()); !saved) {
+            return saved.error();
         }
     }
     return files;

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "Result.h"
+
 #include <QMainWindow>
 #include <QSize>
 
@@ -36,9 +38,9 @@ public:
      * Writes a picture of each of the pane's pages to the folder, named after the page, or of the
      * whole pane if it has no pages. The pane is shown but never left, so nothing is saved.
      *
-     * @return the files; empty if one could not be written
+     * @return the files, or the reason why one could not be written
      */
-    QStringList render(const QString& folder);
+    platform::Result<QStringList> render(const QString& folder);
 
     /** Whether the pane has pages, as it does with a tablet. */
     bool hasPages() const;

@@ -58,12 +58,16 @@ int render(PaneWindow& window, const QString& folder)
         say(stderr, QStringLiteral("qvtblt: cannot create the folder %1").arg(folder));
         return kFailure;
     }
-    const QStringList files = window.render(folder);
-    for (const QString& file : files) {
+    const platform::Result<QStringList> files = window.render(folder);
+    if (!files) {
+        say(stderr, QStringLiteral("qvtblt: ") + files.error().text);
+        return kFailure;
+    }
+    for (const QString& file : *files) {
         say(stdout, file);
     }
-    if (files.isEmpty() || (window.hasPages() && !renderWithoutTablet(folder))) {
-        say(stderr, QStringLiteral("qvtblt: cannot write the pictures into %1").arg(folder));
+    if (window.hasPages() && !renderWithoutTablet(folder)) {
+        say(stderr, QStringLiteral("qvtblt: cannot write all pictures into %1").arg(folder));
         return kFailure;
     }
     return 0;

@@ -338,6 +338,9 @@ class WithoutDisplay(session.Session):
             result = self.panel("--render", folder)
             self.assertEqual(result.returncode, 1)
             self.assertIn("qvtblt: cannot", result.stderr)
+        result = self.panel("--render", "/proc")
+        self.assertEqual(result.returncode, 1)
+        self.assertRegex(result.stderr, "qvtblt: cannot write /proc/noDevice.png: .")
 
     def test_says_when_the_module_is_missing(self):
         copy = self.folder / "qvtblt"
