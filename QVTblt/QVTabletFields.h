@@ -57,12 +57,15 @@ struct QVEntry {
     QVFieldType type;
 };
 
+/** The number of entries. */
+inline constexpr std::size_t kQVEntryCount = 102;
+
 /** All entries, in the order of loading; those of a dictionary are consecutive. */
-inline constexpr std::array<QVEntry, 102> kQVEntries = [] {
+inline constexpr std::array<QVEntry, kQVEntryCount> kQVEntries = [] {
     using enum QVFieldType;
     using Record = tagQVTabletInfo;
     using Slot = tagQVTabletInfoSubKey;
-    std::array<QVEntry, 102> entries{};
+    std::array<QVEntry, kQVEntryCount> entries{};
     std::size_t count = 0;
     const auto add = [&](const QVSection& section, const char* key, std::size_t offset,
                          QVFieldType type, const char* slot = nullptr) {

@@ -7,7 +7,7 @@
 /** The module's plug-in, with which a host creates the panel. */
 class QVTbltModule final : public QObject, public platform::PreferencePanePlugin {
     Q_OBJECT
-    Q_PLUGIN_METADATA(IID "org.quorvia.PreferencePanePlugin/5")
+    Q_PLUGIN_METADATA(IID QVTBLT_PLUGIN_IID)
     Q_INTERFACES(platform::PreferencePanePlugin)
 
 public:

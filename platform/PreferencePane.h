@@ -273,4 +273,7 @@ public:
 
 } // namespace platform
 
-Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, "org.quorvia.PreferencePanePlugin/5")
+/** The ID of the plug-in's interface, with its version. */
+// NOLINTNEXTLINE(*-macro-usage): moc reads it
+#define QVTBLT_PLUGIN_IID "org.quorvia.PreferencePanePlugin/5"
+Q_DECLARE_INTERFACE(platform::PreferencePanePlugin, QVTBLT_PLUGIN_IID)
