@@ -3,13 +3,13 @@
 #include "ImportDialog.h"
 
 #include "ApplicationsDialog.h"
+#include "DialogSize.h"
 #include "LiteralText.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
 #include <QLabel>
 #include <QListWidget>
-#include <QScreen>
 #include <QScrollArea>
 #include <QVBoxLayout>
 
@@ -19,18 +19,21 @@ using platform::literalText;
 
 namespace {
 
-/** A path that a label can wrap after each character, so that all of it is shown. */
-QString wrappable(const QString& path)
+/** A text that can be wrapped within its long words, such as paths, so that all of it is shown. */
+QString wrappable(const QString& text)
 {
     constexpr QChar kZeroWidthSpace(0x200b);
-    QString text;
-    for (const QChar character : path) {
-        text += character;
-        if (!character.isHighSurrogate()) {
-            text += kZeroWidthSpace;
+    constexpr int kLongest = 20; // characters of a word that is not wrapped
+    QString wrapped;
+    int length = 0; // of the word so far
+    for (const QChar character : text) {
+        length = character.isSpace() ? 0 : length + 1;
+        if (length > kLongest && !character.isLowSurrogate()) {
+            wrapped += kZeroWidthSpace;
         }
+        wrapped += character;
     }
-    return text;
+    return wrapped;
 }
 
 QLabel* makeLabel(const QString& text, QWidget* parent)
@@ -51,8 +54,6 @@ ImportDialog::ImportDialog(platform::PaneProfiles::Import import, QWidget* paren
     //: Title of the dialog.
     setWindowTitle(tr("Import Profile"));
     mContents->setWordWrap(true);
-    mContents->setTextElideMode(Qt::ElideNone);
-    mContents->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     mContents->setSelectionMode(QAbstractItemView::NoSelection); // there is nothing to choose
     //: Name of the list, for screen readers.
     mContents->setAccessibleName(tr("What is in the profile"));
@@ -94,8 +95,7 @@ ImportDialog::ImportDialog(platform::PaneProfiles::Import import, QWidget* paren
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
     layout->addWidget(buttons);
-    constexpr double kMostOfScreen = 0.9;
-    resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
+    resizeWithinScreen(*this);
 }
 
 void ImportDialog::addLines(const QString& heading, const QStringList& lines)
@@ -105,7 +105,9 @@ void ImportDialog::addLines(const QString& heading, const QStringList& lines)
     bold.setBold(true);
     item->setFont(bold);
     for (const QString& line : lines) {
-        mContents->addItem(literalText(line));
+        const QString text = literalText(line);
+        auto* const wrapped = new QListWidgetItem(wrappable(text), mContents);
+        wrapped->setData(Qt::AccessibleTextRole, text);
     }
 }
 

@@ -3,6 +3,7 @@
 #include "SelfCheckDialog.h"
 
 #include "Accessible.h"
+#include "DialogSize.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -10,7 +11,6 @@
 #include <QListWidget>
 #include <QPointer>
 #include <QPushButton>
-#include <QScreen>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -59,8 +59,7 @@ SelfCheckDialog::SelfCheckDialog(platform::PreferencePane& pane, QWidget* parent
     layout->addWidget(buttons);
     mStages->setFocus();
     // Otherwise, Qt makes it as low as the layout allows, since the text wraps.
-    constexpr double kMostOfScreen = 0.9;
-    resize(sizeHint().boundedTo(screen()->availableSize() * kMostOfScreen));
+    resizeWithinScreen(*this);
     check();
 }
 

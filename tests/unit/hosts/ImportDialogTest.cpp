@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "ImportDialog.h"
 
+#include "DialogSize.h"
 #include "Dialogs.h"
 #include "TemporaryHome.h"
 
@@ -10,6 +11,7 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QPushButton>
+#include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QTest>
@@ -42,7 +44,7 @@ protected:
     {
         QStringList lines;
         for (int row = 0; row < list().count(); ++row) {
-            lines.append(list().item(row)->text());
+            lines.append(QString(list().item(row)->text()).remove(QChar(0x200b)));
         }
         return lines;
     }
@@ -177,6 +179,8 @@ TEST_F(Import, hasItsPartsBelowEachOtherWithRoomForTheStarts)
     mImport.starts = {{QStringLiteral("Express key 1"), QStringLiteral("/usr/bin/one")}};
     open();
     EXPECT_GT(mDialog->height(), height);
+    EXPECT_EQ(mDialog->size(),
+        mDialog->sizeHint().boundedTo(mDialog->screen()->availableSize() * kMostOfScreen));
     int bottom = -1;
     const auto labels = mDialog->findChildren<QLabel*>(QString(), Qt::FindDirectChildrenOnly);
     ASSERT_EQ(labels.size(), 2);
@@ -192,18 +196,46 @@ TEST_F(Import, hasItsPartsBelowEachOtherWithRoomForTheStarts)
     EXPECT_EQ(area->verticalScrollBar()->maximum(), 0);
 }
 
-TEST_F(Import, wrapsLongLines)
+TEST_F(Import, wrapsLongLinesAndLongWords)
 {
     mImport.changes =
-        QStringList{QStringLiteral("Key 1: ") + QString(QStringLiteral("text ")).repeated(60)};
+        QStringList{QStringLiteral("Key 1: ") + QString(QStringLiteral("text ")).repeated(60),
+            QStringLiteral("Key 2: Open /") + QString(300, u'x')};
     open();
-    const QRect line = list().visualItemRect(list().item(1));
-    EXPECT_LE(line.width(), list().viewport()->width());
-    EXPECT_GE(line.height(), 3 * list().fontMetrics().lineSpacing());
     EXPECT_FALSE(list().horizontalScrollBar()->isVisible());
-    const QImage before = list().grab().toImage();
-    list().item(1)->setText(mImport.changes.constFirst().chopped(2) + u'X');
-    EXPECT_NE(list().grab().toImage(), before) << "its end is drawn";
+    for (int row = 1; row <= 2; ++row) {
+        QListWidgetItem& item = *list().item(row);
+        const QRect line = list().visualItemRect(&item);
+        EXPECT_LE(line.width(), list().viewport()->width());
+        EXPECT_GE(line.height(), 3 * list().fontMetrics().lineSpacing());
+        EXPECT_EQ(item.data(Qt::AccessibleTextRole), mImport.changes[row - 1]) << "read as it is";
+        const QImage before = list().grab().toImage();
+        item.setText(item.text().chopped(2) + u'X');
+        EXPECT_NE(list().grab().toImage(), before) << "its end is drawn";
+    }
+}
+
+TEST_F(Import, breaksNoWordThatIsNotLong)
+{
+    mImport.changes = QStringList{QString(20, u'a') + u' ' + QString(20, u'b'), QString(21, u'c'),
+        QString(20, u'd') + QStringLiteral("\U0001F58A")};
+    open();
+    EXPECT_EQ(list().item(1)->text(), mImport.changes[0]);
+    EXPECT_EQ(list().item(2)->text(), QString(20, u'c') + QStringLiteral("\u200bc"));
+    EXPECT_EQ(list().item(3)->text(), QString(20, u'd') + QStringLiteral("\u200b\U0001F58A"));
+}
+
+TEST_F(Import, wrapsLinesBesideItsScrollBar)
+{
+    for (int i = 0; i < 100; ++i) {
+        mImport.changes.append(QString(QStringLiteral("text ")).repeated(20 + i));
+    }
+    open();
+    for (int row = 1; row <= 100; ++row) {
+        EXPECT_LE(list().visualItemRect(list().item(row)).width(), list().viewport()->width());
+    }
+    EXPECT_GT(list().verticalScrollBar()->maximum(), 0);
+    EXPECT_FALSE(list().horizontalScrollBar()->isVisible());
 }
 
 TEST_F(Import, scrollsWhatIsLong)
