@@ -150,10 +150,8 @@ void QVMonitorView::updateCalibrate()
     const QString help = hasOneDisplay
         ? mCalibrateHelp
         : tr("Choose one display first: only one display can be calibrated at a time.");
-    // This is called for each redraw, and screen readers announce each change of a description.
-    if (mDoCalibrate->isEnabledTo(mDoCalibrate->parentWidget()) == hasOneDisplay
-        && mDoCalibrate->toolTip() == help && mDoCalibrate->accessibleDescription() == help) {
-        return;
+    if (mDoCalibrate->accessibleDescription() == help) {
+        return; // screen readers would announce it again
     }
     mDoCalibrate->setEnabled(hasOneDisplay);
     mDoCalibrate->setToolTip(help);
@@ -227,7 +225,6 @@ bool QVMonitorView::updateMappedArea()
         mUnknownDisplay = num;
         qCWarning(lcMonitor, "there is no display %d: the mapped area is not changed", num);
     }
-    updateCalibrate();
     return area() != before;
 }
 

@@ -50,7 +50,7 @@ std::optional<double> pressureOf(const QEvent& event)
 int QVFittingThreshold(double lightest, double hardest)
 {
     constexpr double kHalf = 0.5;
-    const double m = std::clamp((lightest + hardest) / 2, 0.0, 1.0);
+    const double m = (lightest + hardest) / 2;
     // Below the half, m = h (1 - s + s h) with h = 1/2; above it, h = m (1 - s + s m).
     const double s = m < kHalf ? (m - kHalf) / (kHalf * kHalf)
         : m < 1                ? (m - kHalf) / (m * (1 - m))
@@ -191,7 +191,7 @@ QVPressFit::QVPressFit(int threshold, QWidget* parent)
     mAgain = buttons->addButton(tr("Start &Again"), QDialogButtonBox::ResetRole);
     connect(mAgain, &QPushButton::clicked, this, [this] { begin(Step::Lightest); });
     //: Button: closes the dialog, and leaves the pressure curve as it is.
-    auto* const cancel = buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
+    buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
     //: Button: takes the new pressure curve.
     mUse = buttons->addButton(tr("&Use"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
@@ -204,12 +204,10 @@ QVPressFit::QVPressFit(int threshold, QWidget* parent)
     layout->addWidget(mText);
     layout->addLayout(views, 1);
     layout->addWidget(buttons);
-    mAgain->setAutoDefault(false);
-    cancel->setAutoDefault(false);
     begin(Step::Lightest);
     // So that the window keeps its size, whatever the text.
     mText->setMinimumHeight(3 * fontMetrics().lineSpacing());
-    mText->setAlignment(Qt::AlignLeading | Qt::AlignTop);
+    mText->setAlignment(Qt::AlignTop);
 }
 
 QString QVPressFit::textOf(Step step) const
@@ -243,7 +241,9 @@ void QVPressFit::begin(Step step)
     mText->show();
     mAgain->setEnabled(step != Step::Lightest);
     mUse->setEnabled(step == Step::Done);
-    mUse->setDefault(step == Step::Done);
+    if (step == Step::Done) {
+        mUse->setFocus();
+    }
     mCurves->setFitting(mFitting);
 }
 

@@ -33,11 +33,8 @@ QString nameOf(const platform::Event& pen)
 /** Draws a line one point wide that ends at the end of its path. */
 void strokeLine(QPainter& painter, const QPainterPath& path)
 {
-    constexpr double kLongestMitre = 10; // in line widths; sharper corners are bevelled
-    QPen pen(Qt::black, 1, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin);
-    pen.setMiterLimit(kLongestMitre);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.strokePath(path, pen);
+    painter.strokePath(path, QPen(Qt::black, 1, Qt::SolidLine, Qt::FlatCap, Qt::SvgMiterJoin));
 }
 
 } // namespace

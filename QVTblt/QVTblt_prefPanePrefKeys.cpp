@@ -121,7 +121,6 @@ void QVTblt_prefPanePref::setUpKeyPage()
 {
     // Widgets of a previous main view have been destroyed with it.
     mEnabledAtFirst.clear();
-    mLaidOutProduct.reset();
     keyCanvas->takePlaces();
     keyFrame_org = platform::frame(*mKey1_1);
     keyFrame_org_scroll_l = platform::frame(*mKeyLScroll);

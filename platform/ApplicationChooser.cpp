@@ -240,7 +240,7 @@ ApplicationChooser::ApplicationChooser(
     other->setObjectName(QStringLiteral("otherFile"));
     connect(other, &QPushButton::clicked, this, &ApplicationChooser::chooseOther);
     //: Button: leaves the dialog without choosing an application.
-    auto* const cancel = buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
+    buttons->addButton(tr("&Cancel"), QDialogButtonBox::RejectRole);
     //: Button: takes the selected application.
     mChoose = buttons->addButton(tr("C&hoose"), QDialogButtonBox::AcceptRole);
     connect(buttons, &QDialogButtonBox::accepted, this, &ApplicationChooser::chooseCurrent);
@@ -251,10 +251,6 @@ ApplicationChooser::ApplicationChooser(
     layout->addWidget(mList, 1);
     layout->addWidget(mNothing);
     layout->addWidget(buttons);
-    // In the search field, Return chooses.
-    other->setAutoDefault(false);
-    cancel->setAutoDefault(false);
-    mChoose->setDefault(true);
     search({});
     const int line = fontMetrics().height();
     resize(line * 30, line * 32);

@@ -139,7 +139,6 @@ void ApplicationsDialog::remove()
     if (row >= 0) {
         mIDs.removeAt(row);
         delete mList->takeItem(row);
-        updateButton();
     }
 }
 

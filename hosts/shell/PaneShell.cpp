@@ -86,9 +86,7 @@ void PaneShell::makeNotice()
     mNoticeLabel->setTextFormat(Qt::PlainText);
     mNoticeLabel->setWordWrap(true);
     mNoticeLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    mNoticeLabel->hide();
     mRetry = new QPushButton(mBottom);
-    mRetry->hide();
     connect(mRetry, &QPushButton::clicked, this, &PaneShell::retry);
     auto* const row = static_cast<QHBoxLayout*>(mBottom->layout()); // NOLINT(*-downcast): made so
     if (mSave != nullptr) {

@@ -171,7 +171,6 @@ ProfileBar::ProfileBar(platform::PreferencePane& pane, QWidget* shell)
     row->addWidget(mMore);
     row->addStretch(1);
     setTabOrder(mList, saveAs);
-    setTabOrder(saveAs, mMore);
     hide();
 }
 

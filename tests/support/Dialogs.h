@@ -13,6 +13,7 @@
 
 #include <functional>
 #include <initializer_list>
+#include <stdexcept>
 
 /** Waits until a window itself is active; a dialog of an active window is taken for active, too. */
 inline void activate(QWidget& window)
@@ -33,6 +34,18 @@ inline QPushButton& buttonOf(const QWidget& window, const char* text)
     }
     ADD_FAILURE() << "there is no button " << text;
     return *buttons.constFirst();
+}
+
+/** The widget in a window with that accessible name. */
+inline QWidget& widgetNamed(const QWidget& window, const char* accessibleName)
+{
+    const auto children = window.findChildren<QWidget*>();
+    for (QWidget* const child : children) {
+        if (child->accessibleName() == QString::fromUtf8(accessibleName)) {
+            return *child;
+        }
+    }
+    throw std::logic_error("no such widget");
 }
 
 /**

@@ -6,6 +6,7 @@
 
 #include "ApplicationChooser.h"
 
+#include "Dialogs.h"
 #include "TemporaryHome.h"
 
 #include <QIcon>
@@ -138,6 +139,25 @@ TEST_F(Chooser, choosesWithTheKeyboardFromTheSearchField)
     QTest::keyClick(&search(), Qt::Key_Return);
     EXPECT_EQ(mChooser->result(), QDialog::Accepted);
     EXPECT_EQ(mChooser->chosen(), paint);
+}
+
+TEST_F(Chooser, pressesTheButtonThatHasTheFocusWithReturn)
+{
+    install(QStringLiteral("d"), "Draw");
+    const auto openActive = [this] {
+        open();
+        activate(*mChooser);
+        return mChooser.get();
+    };
+    cancelInEachWay(openActive, [this] {
+        EXPECT_FALSE(mChooser->isVisible());
+        EXPECT_EQ(mChooser->result(), QDialog::Rejected);
+    });
+    mOtherFile = file("other");
+    openActive();
+    other().setFocus();
+    QTest::keyClick(&other(), Qt::Key_Return);
+    EXPECT_EQ(mChooser->chosen(), mOtherFile);
 }
 
 TEST_F(Chooser, showsOneThatCannotBeUsedAndSaysWhy)
