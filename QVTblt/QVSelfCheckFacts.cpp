@@ -137,12 +137,12 @@ std::optional<std::int32_t> askOnce(QDBusConnection& bus, const QString& name)
 std::optional<std::int32_t> askDriver(QDBusConnection& bus, const QString& name, const Facts& facts)
 {
     constexpr unsigned long kPause = 50; // milliseconds
-    // It may own its name before it can answer, and answer before it has taken the tablet.
-    const QDeadlineTimer deadline(
-        facts.driver == Facts::Driver::Started ? kReadyLimit : std::chrono::milliseconds(0));
+    const QDeadlineTimer deadline(kReadyLimit);
     for (;;) {
         const std::optional<std::int32_t> answer = askOnce(bus, name);
-        const bool isReady = answer && (*answer != 0 || facts.tablets.empty());
+        // It may own its name before it can answer, and answer before it has taken the tablet.
+        const bool isReady = facts.driver != Facts::Driver::Started
+            || (answer && (*answer != 0 || facts.tablets.empty()));
         if (isReady || deadline.hasExpired() || isInterrupted()) {
             return answer;
         }
@@ -167,8 +167,7 @@ std::optional<bool> hasTakenSettings(QDBusConnection& bus, const QString& name)
 QByteArray contents(const QString& path)
 {
     QFile file(path);
-    constexpr qint64 kLongest = 4096;
-    return file.open(QIODevice::ReadOnly) ? file.read(kLongest).trimmed() : QByteArray();
+    return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed() : QByteArray();
 }
 
 QString attribute(const QString& path)
@@ -377,8 +376,7 @@ Facts::File checkFile(const std::string& folder, std::int32_t answer)
     }
     constexpr unsigned long kRoom = 1UL << 20U; // bytes: several times the largest file
     struct statvfs disk { };
-    if (::statvfs(path.c_str(), &disk) == 0
-        && disk.f_bavail < kRoom / std::max(disk.f_frsize, 1UL)) {
+    if (::statvfs(path.c_str(), &disk) == 0 && disk.f_bavail * disk.f_frsize < kRoom) {
         return Facts::File::NoRoom;
     }
     return Facts::File::Good;
@@ -444,7 +442,7 @@ QVSelfCheckFacts QVGatherFacts(const QVSelfCheckInput& input)
     } else {
         // Of its own, since it is used on another thread.
         const QString connection =
-            QStringLiteral("QVSelfCheck-%1").arg(reinterpret_cast<quintptr>(&facts), 0, 16);
+            QStringLiteral("QVSelfCheck-%1").arg(reinterpret_cast<quintptr>(&facts));
         QDBusConnection bus =
             QDBusConnection::connectToBus(QDBusConnection::SessionBus, connection);
         const auto disconnecting =

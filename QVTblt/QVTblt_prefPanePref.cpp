@@ -247,7 +247,7 @@ void QVTblt_prefPanePref::checkSelf(std::function<void(const SelfCheck& check)> 
     connect(thread, &QThread::finished, thread, &QObject::deleteLater);
     // It uses D-Bus, which must not end before it. Interrupted, it stops doing so within the limit.
     // It may still wait for a disk that does not answer, with nothing but what it owns.
-    connect(qApp, &QCoreApplication::aboutToQuit, thread, [thread] {
+    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, thread, [thread] {
         constexpr unsigned long kLimit = 3000; // milliseconds; a bus has 2000 of them
         thread->requestInterruption();
         thread->wait(kLimit);
