@@ -11,6 +11,7 @@
 #include <QDBusMessage>
 #include <QDBusPendingCall>
 #include <QDBusPendingCallWatcher>
+#include <QDBusReply>
 #include <QDBusServiceWatcher>
 #include <QDBusVirtualObject>
 #include <QElapsedTimer>
@@ -342,11 +343,12 @@ private:
         }
         if (!mOwner) {
             // A call may have arrived before the connection was lost.
-            QDBusConnectionInterface* const bus = mConnection ? mConnection->interface() : nullptr;
-            if (bus == nullptr) {
+            if (!mConnection) {
                 return false;
             }
-            mOwner = bus->serviceOwner(wire::busName(*mSource)).value();
+            const QDBusReply<QString> owner =
+                mConnection->call(busCall("GetNameOwner", wire::busName(*mSource)));
+            mOwner = owner.value();
         }
         return !sender.isEmpty() && sender == *mOwner;
     }
