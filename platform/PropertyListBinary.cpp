@@ -150,10 +150,9 @@ private:
         if (object.type < 4 || object.type == 8 || object.count != 15) {
             return true;
         }
-        const std::size_t width =
-            has(object.at, 1) ? std::size_t{1} << (byteAt(object.at) & 0xFU) : 0;
-        if (!has(object.at, 1) || byteAt(object.at) >> 4U != 1 || width > 8
-            || !has(object.at + 1, width)) {
+        const std::size_t head = has(object.at, 1) ? byteAt(object.at) : 0; // 0: no integer
+        const std::size_t width = std::size_t{1} << (head & 0xFU);
+        if (head >> 4U != 1 || width > 8 || !has(object.at + 1, width)) {
             return refuse("a count is not an integer");
         }
         object.count = number(object.at + 1, width);

@@ -289,8 +289,8 @@ private:
         return std::nullopt;
     }
 
-    /** Rejects an invalid scalar. */
-    void check(const Node& node)
+    /** Rejects an invalid scalar, and drops blanks in a boolean, which is written without text. */
+    void check(Node& node)
     {
         const std::string_view text = trimmed(node.text);
         switch (node.kind) {
@@ -315,6 +315,7 @@ private:
             if (!text.empty()) {
                 refuse(shown(text) + " in a boolean");
             }
+            node.text.clear();
             break;
         default:
             break;

@@ -5,6 +5,7 @@
 
 #include "ErrorText.h"
 #include "PropertyList.h"
+#include "TemporaryHome.h"
 
 #include <gtest/gtest.h>
 
@@ -249,6 +250,10 @@ TEST(PropertyListBinary, followsTheReferencesOfContainers)
         errorOfBinary(lastObject(std::string("\xA1\0", 2))), "containers nest deeper than 64");
     EXPECT_EQ(
         errorOfBinary(lastObject("\xA1\1")), "a container refers to an object that does not exist");
+    for (const std::string& entry : {std::string("\xD1\0\1", 3), std::string("\xD1\1\0", 3)}) {
+        EXPECT_EQ(errorOfBinary(lastObject(entry)),
+            "a container refers to an object that does not exist");
+    }
     EXPECT_EQ(errorOfBinary(lastObject("\xA1")), "a container is longer than the list");
     EXPECT_EQ(errorOfBinary(lastObject(std::string("\xD1\0\0", 3))), "a key is not a string");
     EXPECT_EQ(
@@ -315,6 +320,9 @@ TEST(PropertyListBinary, a128BitIntegerHasToBeWhole)
         high[at] = '\1';
         EXPECT_EQ(errorOfBinary(lastObject(high)), "an integer does not fit into 64 bits");
     }
+    EXPECT_EQ(errorOfBinary(lastObject('\x14' + std::string(8, '\xFF') + std::string(8, '\x7F'))),
+        "an integer does not fit into 64 bits")
+        << "less than the least";
 }
 
 TEST(PropertyListBinary, aBinaryListMayExpandToAMillionValues)
@@ -333,27 +341,36 @@ TEST(PropertyListBinary, aBinaryListMayExpandToAMillionValues)
 
 TEST(PropertyListBinary, aTextThatIsSharedCountsForEachThatSharesIt)
 {
-    constexpr std::size_t kSize = 60'000;
-    const auto shared = [](std::size_t times) {
+    constexpr std::size_t kSize = std::size_t{1} << 14U;
+    const auto shared = [](const std::string& marker, std::size_t count, std::size_t times) {
         Binary list;
         const std::size_t text =
-            list.add("\x5F\x11" + Binary::number(kSize, 2) + std::string(kSize, 'x'));
+            list.add(marker + '\x11' + Binary::number(count, 2) + std::string(kSize, 'x'));
         return errorOfBinary(list.finish(list.addArray(std::vector<std::size_t>(times, text))));
     };
-    EXPECT_EQ(shared(kPropertyListMaxSize / kSize), "");
-    EXPECT_EQ(shared(kPropertyListMaxSize / kSize + 1), "its texts are longer than 16777216 bytes");
+    constexpr std::size_t kMost = kPropertyListMaxSize / kSize;
+    EXPECT_EQ(shared("\x5F", kSize, kMost), "");
+    EXPECT_EQ(shared("\x5F", kSize, kMost + 1), "its texts are longer than 16777216 bytes");
+    EXPECT_EQ(shared("\x6F", kSize / 2, kMost), "");
+    EXPECT_EQ(shared("\x6F", kSize / 2, kMost + 1), "its texts are longer than 16777216 bytes")
+        << "with two bytes for each character";
 }
 
 namespace {
 
+/** A binary list of one entry. */
+std::string listOf(const std::string& key, const std::string& value)
+{
+    Binary list;
+    const std::size_t name = list.add(key);
+    const std::size_t object = list.add(value);
+    return list.finish(list.add('\xD1' + Binary::number(name, 2) + Binary::number(object, 2)));
+}
+
 /** The XML of a list's only entry, k; or the error. */
 std::string xmlOf(const std::string& object)
 {
-    Binary list;
-    const std::size_t key = list.add("\x51k");
-    const std::size_t value = list.add(object);
-    const std::size_t root = list.add("\xD1" + Binary::number(key, 2) + Binary::number(value, 2));
-    const auto parsed = PropertyList::parse(list.finish(root));
+    const auto parsed = PropertyList::parse(listOf("\x51k", object));
     if (!parsed) {
         return errorText(parsed);
     }
@@ -378,6 +395,8 @@ TEST(PropertyListBinary, isWrittenInXmlWithAllItsValues)
     EXPECT_EQ(xmlOf("\x12\xFF\xFF\xFF\xFF"), "<integer>4294967295</integer>");
     EXPECT_EQ(xmlOf("\x13" + std::string(8, '\xFF')), "<integer>-1</integer>");
     EXPECT_EQ(xmlOf("\x13\x7F" + std::string(7, '\xFF')), "<integer>9223372036854775807</integer>");
+    EXPECT_EQ(xmlOf("\x13\x80" + std::string(7, '\0')), "<integer>-9223372036854775808</integer>");
+    EXPECT_EQ(xmlOf("\x14" + std::string(15, '\0') + '\5'), "<integer>5</integer>");
     EXPECT_EQ(xmlOf("\x14" + std::string(8, '\0') + std::string(8, '\xFF')),
         "<integer>18446744073709551615</integer>");
     EXPECT_EQ(xmlOf("\x14" + std::string(15, '\xFF') + '\xFE'), "<integer>-2</integer>");
@@ -385,6 +404,8 @@ TEST(PropertyListBinary, isWrittenInXmlWithAllItsValues)
     EXPECT_EQ(xmlOf("\x23" + bits(5e-324)), "<real>5e-324</real>");
     EXPECT_EQ(xmlOf("\x22\x3F\x80" + std::string(2, '\0')), "<real>1</real>");
     EXPECT_EQ(xmlOf("\x43\x01\x02\x03"), "<data>AQID</data>");
+    EXPECT_EQ(
+        xmlOf("\x4F\x10\x10" + std::string(16, '\0')), "<data>AAAAAAAAAAAAAAAAAAAAAA==</data>");
     EXPECT_EQ(xmlOf("\x53x&y"), "<string>x&amp;y</string>");
     EXPECT_EQ(xmlOf("\x53x\ry"), "<string>x&#13;y</string>");
     EXPECT_EQ(xmlOf(std::string("\x62\0\xE9\x20\xAC", 5)), "<string>\xC3\xA9\xE2\x82\xAC</string>");
@@ -413,8 +434,19 @@ TEST(PropertyListBinary, datesShowTheirFractionsOfASecond)
     const auto date = [](double seconds) { return xmlOf("\x33" + bits(seconds)); };
     EXPECT_EQ(date(-0.25), "<date>2000-12-31T23:59:59.750Z</date>");
     EXPECT_EQ(date(817'008'360.75), "<date>2026-11-22T02:46:00.750Z</date>");
+    EXPECT_EQ(date(0.9995), "<date>2001-01-01T00:00:00.999Z</date>") << "never a later second";
     EXPECT_EQ(date(5e-324), "<date>2001-01-01T00:00:00.000Z</date>");
     EXPECT_EQ(date(-5e-324), "<date>2001-01-01T00:00:00.000Z</date>");
+}
+
+TEST(PropertyListBinary, aValueMayEndWhereTheListEnds)
+{
+    const std::string zeros(8, '\0');
+    for (const std::string& value : {'\x13' + zeros, '\x14' + zeros + zeros,
+             '\x22' + zeros.substr(4), '\x23' + zeros, '\x33' + zeros, std::string("\x42xy"),
+             std::string("\x52xy"), std::string("\x62\0x\0y", 5), '\x87' + zeros}) {
+        EXPECT_EQ(errorOfBinary(lastObject(value)), "") << testing::PrintToString(value);
+    }
 }
 
 TEST(PropertyListBinary, refusesValuesThatAreCutOff)
@@ -433,5 +465,40 @@ TEST(PropertyListBinary, refusesValuesThatAreCutOff)
     EXPECT_EQ(errorOfBinary(lastObject("\x5F\x13" + std::string(8, '\xFF'))),
         "a text is longer than the list");
     EXPECT_EQ(errorOfBinary(lastObject("\x81\x01")), "a reference is longer than the list");
+    EXPECT_EQ(errorOfBinary(lastObject("\x88" + std::string(9, '\0'))),
+        "a reference is longer than the list")
+        << "none has nine bytes";
+    EXPECT_EQ(errorOfBinary(lastObject("\x8F" + std::string(16, '\0'))),
+        "a reference is longer than the list");
     EXPECT_EQ(errorOfBinary(lastObject("\x51\xE9")), "a string is not valid text");
+}
+
+TEST(PropertyListBinary, aKeyIsATextOfEitherKind)
+{
+    const auto keyOf = [](const std::string& key) {
+        const auto parsed = PropertyList::parse(listOf(key, kTrue));
+        return parsed ? parsed->root().keys().front() : errorText(parsed);
+    };
+    EXPECT_EQ(keyOf("\x52xy"), "xy");
+    EXPECT_EQ(keyOf(std::string("\x61\0\xE9", 3)), "\xC3\xA9");
+    EXPECT_EQ(keyOf("\x51\xE9"), "a string is not valid text");
+    std::string outside = listOf("\x51k", kTrue);
+    outside[outside.size() - 32 - 5] = '\7'; // of its offset, the lower byte
+    EXPECT_EQ(errorOfBinary(outside), "an object is outside the list");
+}
+
+TEST(PropertyListBinary, halfASurrogatePairIsReadButNotSaved)
+{
+    const TemporaryHome home;
+    const std::string path = home.path().toStdString() + "/new.plist";
+    const auto saved = [&path](const std::string& text) {
+        const auto parsed = PropertyList::parse(listOf("\x51k", text));
+        return parsed ? errorText(parsed->saveNew(path)) : errorText(parsed);
+    };
+    for (const std::string& half : {std::string("\x61\xD8\x3D"), std::string("\x61\xDD\x8A")}) {
+        EXPECT_EQ(saved(half),
+            "cannot create " + path
+                + ": it contains text that XML cannot represent: it is not valid UTF-8");
+    }
+    EXPECT_EQ(saved("\x62\xD8\x3D\xDD\x8A"), "");
 }

@@ -6,6 +6,7 @@
 #include "FileSizeLimit.h"
 #include "SampleConfig.h"
 #include "TemporaryHome.h"
+#include "Wait.h"
 
 #include <QFileInfo>
 #include <QProcess>
@@ -25,12 +26,15 @@
 #include <limits>
 #include <linux/filter.h>
 #include <linux/seccomp.h>
+#include <locale>
 #include <malloc.h>
 #include <memory>
 #include <sys/prctl.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/wait.h>
 #include <system_error>
+#include <thread>
 #include <unistd.h>
 #include <vector>
 
@@ -251,6 +255,21 @@ TEST(PropertyList, realsSurviveALocaleWithADecimalComma)
     std::array<char, 8> text{};
     std::snprintf(text.data(), text.size(), "%.2f", 2.75);
     EXPECT_STREQ(text.data(), "2,75") << "the host goes on in its own locale";
+}
+
+TEST(PropertyList, realsBeyondAllRangesSurviveTheHostsLocaleOfStreams)
+{
+    struct Comma final : std::numpunct<char> {
+        char do_decimal_point() const override { return ','; }
+    };
+    struct Locale {
+        std::locale before = std::locale::global(std::locale(std::locale(), new Comma));
+        ~Locale() { std::locale::global(before); }
+    } const locale;
+    const PropertyList list =
+        parsed("<key>big</key><real>-1.5e999</real><key>small</key><real>1.5e-999</real>");
+    EXPECT_EQ(list.root().number("big")->longValue(), std::numeric_limits<std::int64_t>::min());
+    EXPECT_FALSE(list.root().number("small")->boolValue());
 }
 
 TEST(PropertyList, theBinaryFormIsLoadedAndWrittenAsXml)
@@ -798,4 +817,99 @@ TEST(PropertyList, setsBooleansAsBooleans)
     const std::string xml = list.toXml();
     EXPECT_NE(xml.find("<key>yes</key>\n\t<true/>"), std::string::npos) << xml;
     EXPECT_NE(xml.find("<key>no</key>\n\t<false/>"), std::string::npos) << xml;
+}
+
+TEST(PropertyList, blanksInABooleanAreNoTextToKeep)
+{
+    const Saved saved(
+        plist("<dict><key>yes</key><true>\n</true><key>no</key><false> </false></dict>"));
+    ASSERT_TRUE(saved.isSaved()) << saved.why();
+    EXPECT_EQ(saved.inPython("p"), "{'yes': True, 'no': False, 'ours': 1}");
+}
+
+TEST(PropertyList, findsTheStringsOfAnArray)
+{
+    const PropertyList list =
+        parsed("<key>a</key><array><string>x</string><integer>1</integer><string>y</string><dict/>"
+               "</array><key>d</key><dict><key>k</key><string>z</string></dict>");
+    EXPECT_EQ(list.root().strings("a"), (std::vector<std::string>{"x", "y"}));
+    EXPECT_TRUE(list.root().strings("d").empty()) << "a dictionary has keys";
+    EXPECT_TRUE(list.root().strings("none").empty());
+    EXPECT_TRUE(list.root().dictionary("none").strings("a").empty());
+}
+
+TEST(PropertyList, whatReplacesAContainerKeepsNothingOfIt)
+{
+    const TemporaryHome home;
+    PropertyList list = parsed("<key>a</key><array><string>x</string></array>"
+                               "<key>d</key><dict><key>k</key><true/></dict>"
+                               "<key>e</key><dict><key>k</key><true/></dict>");
+    list.root().setStrings("a", {"y", "z"});
+    EXPECT_EQ(list.root().strings("a"), (std::vector<std::string>{"y", "z"}));
+    EXPECT_TRUE(list.root().addDictionary("d").keys().empty());
+    list.root().setInteger("e", 7);
+    EXPECT_EQ(
+        errorText(list.save((home.path() + QStringLiteral("/list.plist")).toStdString())), "");
+}
+
+TEST(PropertyList, isSavedUpToTheGreatestSize)
+{
+    const TemporaryHome home;
+    const std::string path = home.path().toStdString() + "/list.plist";
+    PropertyList list;
+    list.root().setString("k", "");
+    const std::size_t rest = kPropertyListMaxSize - list.toXml().size();
+    list.root().setString("k", std::string(rest, 'x'));
+    EXPECT_EQ(errorText(list.save(path)), "");
+    EXPECT_EQ(errorText(PropertyList::load(path)), "");
+    list.root().setString("k", std::string(rest + 1, 'x'));
+    EXPECT_EQ(errorText(list.save(path)),
+        "cannot write " + path + ": in XML, it is larger than 16777216 bytes");
+}
+
+TEST(PropertyList, aFileThatIsBeingReadIsNotPassedToAProgramThatStarts)
+{
+    const TemporaryHome home;
+    const std::string fifo = home.path().toStdString() + "/fifo";
+    ASSERT_EQ(::mkfifo(fifo.c_str(), S_IRUSR | S_IWUSR), 0);
+    std::string error = "not read";
+    std::thread reading([&fifo, &error] {
+        error = errorText(PropertyList::load(fifo, PropertyListSource::AnyFile));
+    });
+    const int writer = ::open(fifo.c_str(), O_WRONLY | O_CLOEXEC);
+    // More than a FIFO holds, so that some of it has been read when all of it is written.
+    const QByteArray config = sampleConfig() + QByteArray(1 << 20, ' ');
+    EXPECT_EQ(::write(writer, config.constData(), static_cast<std::size_t>(config.size())),
+        config.size());
+    QProcess program;
+    program.start(QStringLiteral("ls"), {QStringLiteral("-l"), QStringLiteral("/proc/self/fd")});
+    EXPECT_TRUE(program.waitForFinished(kPatience));
+    const QByteArray files = program.readAll();
+    ::close(writer);
+    reading.join();
+    EXPECT_EQ(error, "");
+    EXPECT_TRUE(files.contains("pipe:")) << files.constData();
+    EXPECT_FALSE(files.contains("/fifo")) << files.constData();
+}
+
+TEST(PropertyList, aTerminalInItsPlaceDoesNotBecomeThatOfTheProcess)
+{
+    const int master = ::posix_openpt(O_RDWR | O_NOCTTY | O_CLOEXEC);
+    if (master < 0) {
+        GTEST_SKIP() << "there are no terminals here: " << std::system_category().message(errno);
+    }
+    ASSERT_EQ(::grantpt(master), 0);
+    ASSERT_EQ(::unlockpt(master), 0);
+    const std::string terminal = ::ptsname(master);
+    const pid_t child = ::fork();
+    ASSERT_GE(child, 0);
+    if (child == 0) {
+        ::setsid(); // its first terminal would be that of the new session
+        const bool isRefused = !PropertyList::load(terminal);
+        ::_exit(isRefused && ::open("/dev/tty", O_RDONLY | O_CLOEXEC) < 0 ? 0 : 1);
+    }
+    int status = 1;
+    EXPECT_EQ(::waitpid(child, &status, 0), child);
+    EXPECT_EQ(status, 0);
+    ::close(master);
 }

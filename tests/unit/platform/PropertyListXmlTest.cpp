@@ -266,6 +266,11 @@ TEST(PropertyListXml, isReadInTheEncodingThatItDeclares)
     EXPECT_EQ(stringIn("\xEF\xBB\xBF" + entry("<string>x</string>")), "x");
     EXPECT_EQ(stringIn(declared("UTF-8", "caf\xE9")), "it is not valid UTF-8");
     EXPECT_EQ(stringIn(entry("<string>\xED\xA0\x80</string>")), "it is not valid UTF-8");
+    EXPECT_EQ(stringIn("<?xml version=\"1.0\"?>" + entry("<string>caf\xE9</string>")),
+        "it is not valid UTF-8");
+    EXPECT_EQ(stringIn(declared("ISO-8859-1", "\xE9</true>")),
+        stringIn(declared("ISO-8859-1", "e</true>")))
+        << "its bytes are no fault";
     EXPECT_NE(errorOfBytes(declared("nothing", "x")), "");
 }
 
@@ -288,6 +293,8 @@ TEST(PropertyListXml, isReadInUtf16OfEitherOrder)
         const QString lone =
             QStringLiteral("<string>") + QChar(0xD800) + QStringLiteral("</string>");
         EXPECT_EQ(stringIn(utf16(lone, isBigEndian, true)), "it is not valid UTF-16");
+        EXPECT_EQ(errorOfBytes(utf16(QStringLiteral("<array><dict></array>"), isBigEndian, true)),
+            errorOfBytes("<array><dict></array>"));
     }
 }
 
@@ -295,6 +302,8 @@ TEST(PropertyListXml, refusesCharactersThatAreNone)
 {
     EXPECT_NE(errorOfEntry("<string>&#1;</string>"), "");
     EXPECT_NE(errorOfEntry("<string>&#0;</string>"), "");
+    EXPECT_EQ(errorOfBytes(std::string("<d\0ct/>", 7)).find("UTF-16"), std::string::npos)
+        << "a NUL there makes no other encoding of it";
     const std::string why = errorOfEntry("<string>\x1b</string>");
     EXPECT_NE(why, "");
     EXPECT_EQ(why.find('\x1b'), std::string::npos) << "it stands in a log";
