@@ -10,6 +10,7 @@
 #include <QScopeGuard>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstddef>
 #include <cstring>
@@ -57,10 +58,11 @@ std::optional<QByteArray> socketName(const QByteArray& address)
 
 bool waitForAnswer(int socket, const QDeadlineTimer& deadline)
 {
-    pollfd wanted{socket, POLLIN, 0};
+    std::array wanted{pollfd{socket, POLLIN, 0}};
     int ready = 0;
     do {
-        ready = ::poll(&wanted, 1, static_cast<int>(std::max<qint64>(deadline.remainingTime(), 0)));
+        ready = ::poll(wanted.data(), wanted.size(),
+            static_cast<int>(std::max<qint64>(deadline.remainingTime(), 0)));
     } while (ready < 0 && errno == EINTR);
     return ready > 0;
 }

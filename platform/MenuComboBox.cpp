@@ -21,7 +21,7 @@ bool isPrintable(const QKeyEvent& event)
 /** Whether the key would normally choose another item of a closed list at once. */
 bool wouldChoose(const QKeyEvent& event)
 {
-    constexpr std::array<int, 6> kMoves{
+    constexpr std::array kMoves{
         Qt::Key_Up, Qt::Key_Down, Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Home, Qt::Key_End};
     return std::ranges::find(kMoves, event.key()) != kMoves.end() || isPrintable(event);
 }
