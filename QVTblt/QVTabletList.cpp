@@ -27,8 +27,8 @@ QString QVTabletListText(const QVTabletList& tablets)
         if (tablet.contains(QStringLiteral("pressureLevels"))) {
             if (entry("width").toDouble() > 0) {
                 facts += QStringLiteral("%1 x %2 mm")
-                             .arg(entry("width").toDouble(), 0, 'f', 0)
-                             .arg(entry("height").toDouble(), 0, 'f', 0);
+                             .arg(QString::number(entry("width").toDouble(), 'f', 0),
+                                 QString::number(entry("height").toDouble(), 'f', 0));
             }
             facts += number("pressureLevels", "pressure levels");
             facts += entry("tilt").toBool() ? QStringLiteral("tilt") : QStringLiteral("no tilt");

@@ -27,13 +27,15 @@ TEST(QVTabletList, saysOfEachTabletWhatItHas)
     second[QStringLiteral("width")] = 0.0;
     second[QStringLiteral("tilt")] = false;
     second[QStringLiteral("eraser")] = true;
+    second[QStringLiteral("keys")] = 1U;
+    second[QStringLiteral("strips")] = 2U;
     EXPECT_EQ(QVTabletListText({tablet(), second}).toStdString(),
         "6f3d:0042  Pen M (in use)\n"
         "    /dev/input/event7, 240 x 150 mm, 8192 pressure levels, tilt, no eraser, 8 keys, "
         "1 strip or ring\n"
         "6f3d:0042  Pen M\n"
-        "    /dev/input/event7, 8192 pressure levels, no tilt, eraser, 8 keys, 1 strip or "
-        "ring\n");
+        "    /dev/input/event7, 8192 pressure levels, no tilt, eraser, 1 key, 2 strips or "
+        "rings\n");
 }
 
 TEST(QVTabletList, saysWhyATabletCannotBeUsed)
