@@ -49,9 +49,16 @@ public:
         return index < monitors.size() ? monitors[index] : platform::Monitor();
     }
 
+    QSize pixels(platform::DisplayID display) const override
+    {
+        const std::size_t index = display - kFirstID;
+        return index < sizes.size() ? sizes[index] : QSize();
+    }
+
     QScreen* screen(platform::DisplayID display) const override
     {
-        return display == kFirstID + main ? QGuiApplication::primaryScreen() : nullptr;
+        return sharesScreen || display == kFirstID + main ? QGuiApplication::primaryScreen()
+                                                          : nullptr;
     }
 
     /** Changes the displays as the desktop does, with notifications for each before and after. */
@@ -71,6 +78,8 @@ public:
 
     std::uint32_t main = 0; ///< index of the main display
     std::vector<platform::Monitor> monitors; ///< in the order of the displays
+    std::vector<QSize> sizes; ///< in pixels, in the same order
+    bool sharesScreen = false; ///< the others are shown on the main display's screen, too
     bool failCount = false; ///< the window system does not return the number of displays
     bool failList = false; ///< nor the list
 

@@ -14,6 +14,8 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+
 /** A unit in the answer of ListUnitsByNames. */
 struct FakeUnit {
     QString state; ///< such as "active"
@@ -61,6 +63,9 @@ public:
                     : argument.toString());
         }
         calls.append(words.join(u' '));
+        if (heard) {
+            heard(call.member());
+        }
         if (call.member() == failing) {
             bus.send(call.createErrorReply(errorName, QStringLiteral("It does not work.")));
             return true;
@@ -77,8 +82,9 @@ public:
             results.append(QVariant::fromValue(QList<FakeUnit>{{activeState}}));
         }
         bus.send(call.createReply(results));
-        if (call.member() == QLatin1String("StartUnit")
-            || call.member() == QLatin1String("StopUnit")) {
+        if (endsJobs
+            && (call.member() == QLatin1String("StartUnit")
+                || call.member() == QLatin1String("StopUnit"))) {
             QDBusMessage ended = QDBusMessage::createSignal(
                 call.path(), call.interface(), QStringLiteral("JobRemoved"));
             ended << 1U << QVariant::fromValue(QDBusObjectPath(QStringLiteral("/job/1")))
@@ -93,6 +99,8 @@ public:
     QString failing; ///< the method that fails
     QString errorName = QStringLiteral("org.freedesktop.DBus.Error.FileNotFound");
     QStringList calls; ///< with their signatures and arguments
+    bool endsJobs = true; ///< at once
+    std::function<void(const QString& method)> heard; ///< is called before each answer
 
 private:
     QDBusConnection mBus;

@@ -43,7 +43,8 @@ public:
     void press(const QPointF& at, qreal pressure) { move(at, pressure); }
     void move(const QPointF& at, qreal pressure) { put(at, Qt::LeftButton, pressure); }
     void release(const QPointF& at) { put(at, Qt::NoButton, 0); }
-    void hover(const QPointF& at) { put(at, Qt::NoButton, 0); }
+    /** Some pens go on to report the pressure of their last touch. */
+    void hover(const QPointF& at, qreal pressure = 0) { put(at, Qt::NoButton, pressure); }
 
     /** The other end of the same pen. */
     void turn() { mEnd = mEnd == End::Tip ? End::Eraser : End::Tip; }

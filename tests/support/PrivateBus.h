@@ -2,11 +2,16 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDBusReply>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 /**
  * A private session bus, a real dbus-daemon, for its lifetime. Optionally starts the driver of this
@@ -78,4 +83,26 @@ private:
     QProcess mDaemon;
     QByteArray mAddress;
     QByteArray mBefore;
+};
+
+/** How many clients a bus has, this one included. */
+class BusClients {
+public:
+    explicit BusClients(const PrivateBus& bus)
+        : mBus(QDBusConnection::connectToBus(bus.address(), QString::fromLatin1(kName)))
+    {
+    }
+    ~BusClients() { QDBusConnection::disconnectFromBus(QString::fromLatin1(kName)); }
+    Q_DISABLE_COPY_MOVE(BusClients)
+
+    qsizetype count() const
+    {
+        const QStringList names = mBus.interface()->registeredServiceNames();
+        return std::ranges::count_if(names, [](const QString& name) { return name[0] == u':'; });
+    }
+
+private:
+    static constexpr const char* kName = "clients";
+
+    QDBusConnection mBus;
 };

@@ -193,7 +193,8 @@ TEST_F(Applications, haveRoomForSeveralAndForLongNames)
     open(texts({"org.example.Draw", "org.example.Long", "org.example.Paint"}));
     EXPECT_EQ(list().verticalScrollBar()->maximum(), 0);
     EXPECT_FALSE(list().horizontalScrollBar()->isVisible());
-    EXPECT_GE(list().width(), 40 * list().fontMetrics().averageCharWidth());
+    EXPECT_EQ(list().iconSize(), QSize(32, 32)) << "a size that themes have";
+    EXPECT_GE(mDialog->sizeHint().width(), 60 * mDialog->fontMetrics().averageCharWidth());
     EXPECT_LT(list().geometry().bottom(), button("Add…").y());
     EXPECT_EQ(button("Add…").y(), button("Remove").y());
     EXPECT_LT(button("Remove").x(), mDialog->width() / 2) << "both are on the left";
@@ -207,6 +208,10 @@ TEST_F(Applications, haveRoomForSeveralAndForLongNames)
     const QImage before = drawn(name);
     EXPECT_NE(drawn(QString(name).replace(0, 1, u'O')), before);
     EXPECT_NE(drawn(QString(name).replace(299, 1, u'O')), before);
+    QFont large = mDialog->font();
+    large.setPointSize(3 * QFontInfo(large).pointSize());
+    mDialog->setFont(large);
+    EXPECT_GE(mDialog->sizeHint().height(), 18 * mDialog->fontMetrics().lineSpacing());
 }
 
 TEST_F(Applications, mayGoWhileOneIsChosen)

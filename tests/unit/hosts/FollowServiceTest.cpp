@@ -6,10 +6,14 @@
 #include "PrivateBus.h"
 #include "Wait.h"
 
+#include <QDBusPendingCallWatcher>
+#include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <memory>
 #include <optional>
 
 namespace {
@@ -37,6 +41,13 @@ protected:
     {
         andWait([this] { mService.refresh(); });
     }
+    /** Has another service ask, and waits for its answer. */
+    static void refresh(FollowService& other)
+    {
+        QSignalSpy changes(&other, &FollowService::changed);
+        other.refresh();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !changes.isEmpty(); }, kPatience));
+    }
     void set(bool isOn)
     {
         andWait([&] { mService.set(isOn); });
@@ -51,6 +62,7 @@ protected:
 
 const QString kSubscribed = QStringLiteral("Subscribe ");
 const QString kAsked = QStringLiteral("GetUnitFileState s qvtblt-follow.service");
+const QString kStarted = QStringLiteral("StartUnit");
 const QString kListed = QStringLiteral("ListUnitsByNames as qvtblt-follow.service");
 
 } // namespace
@@ -83,12 +95,75 @@ TEST_F(Follow, asksOnceWhileItWaitsForAnAnswer)
         mService.refresh();
     });
     FollowService other; // whose answer comes after all others
-    bool isAnswered = false;
-    QObject::connect(&other, &FollowService::changed, [&] { isAnswered = true; });
-    other.refresh();
-    EXPECT_TRUE(QTest::qWaitFor([&] { return isAnswered; }, kPatience));
+    refresh(other);
     EXPECT_EQ(systemd.calls, (QStringList{kAsked, kAsked}));
     EXPECT_EQ(mChanges, 1);
+}
+
+TEST_F(Follow, changesNothingElseWhileAChangeIsUnderWay)
+{
+    FakeSystemd& systemd = startSystemd();
+    set(true);
+    const QStringList once = systemd.calls;
+    systemd.calls.clear();
+    andWait([this] {
+        mService.set(true);
+        mService.set(false);
+        mService.refresh();
+    });
+    EXPECT_EQ(systemd.calls, once);
+    // Nor while it asks for the state.
+    systemd.calls.clear();
+    const int changes = mChanges;
+    andWait([this] {
+        mService.refresh();
+        mService.set(false);
+    });
+    EXPECT_EQ(systemd.calls, (QStringList{kAsked, kListed}));
+    EXPECT_EQ(mChanges, changes + 1);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [this] { return mService.findChildren<QDBusPendingCallWatcher*>().isEmpty(); }, kPatience))
+        << "answers are kept";
+}
+
+TEST_F(Follow, changesNothingWhileItAsksWhetherTheServiceRuns)
+{
+    FakeSystemd& systemd = startSystemd();
+    systemd.state = QStringLiteral("enabled");
+    systemd.heard = [this](const QString& method) {
+        if (method == QLatin1String("ListUnitsByNames")) {
+            mService.set(false);
+        }
+    };
+    refresh();
+    systemd.heard = {};
+    refresh();
+    EXPECT_EQ(systemd.calls, (QStringList{kAsked, kListed, kAsked, kListed}));
+}
+
+TEST_F(Follow, asksForNothingBeforeTheServiceHasStarted)
+{
+    FakeSystemd& systemd = startSystemd();
+    systemd.endsJobs = false;
+    mService.set(true);
+    EXPECT_TRUE(
+        QTest::qWaitFor([&] { return systemd.calls.join(u' ').contains(kStarted); }, kPatience));
+    systemd.calls.clear();
+    for (int i = 0; i < 3; ++i) {
+        FollowService other; // whose answer comes after all others
+        refresh(other);
+    }
+    EXPECT_EQ(systemd.calls.count(kAsked), 3) << "only the others ask";
+}
+
+TEST_F(Follow, leavesTheBusWhenItEnds)
+{
+    const BusClients clients(mBus);
+    auto other = std::make_unique<FollowService>();
+    refresh(*other);
+    EXPECT_EQ(clients.count(), 2);
+    other.reset();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return clients.count() == 1; }, kPatience));
 }
 
 TEST_F(Follow, takesOnlyTheEndOfItsOwnJobForThat)
@@ -177,6 +252,19 @@ TEST_F(Follow, saysWhyTheServiceWasNotTurnedOnAndWhatItIsThen)
             mFailure, QStringLiteral("“Follow Applications” was not changed: It does not work."));
         EXPECT_EQ(mService.isOn(), systemd.state == QStringLiteral("enabled"));
     }
+    systemd.errorName = QStringLiteral("org.freedesktop.systemd1.NoSuchUnit");
+    mFailure.clear();
+    set(true);
+    EXPECT_NE(mFailure, QString()) << "what does not exist cannot be started";
+}
+
+TEST_F(Follow, saysWhyTheServiceWasNotTurnedOff)
+{
+    FakeSystemd& systemd = startSystemd();
+    systemd.state = QStringLiteral("enabled");
+    systemd.failing = QStringLiteral("StopUnit");
+    set(false);
+    EXPECT_EQ(mFailure, QStringLiteral("“Follow Applications” was not changed: It does not work."));
 }
 
 TEST_F(Follow, saysThatThereIsNoServiceManager)
@@ -245,6 +333,30 @@ TEST_F(Follow, findsABusThatHasComeBack)
     startSystemd();
     refresh();
     EXPECT_EQ(mService.isOn(), false);
+}
+
+TEST_F(Follow, saysThatNoBusAnswers)
+{
+    const QString fault = QStringLiteral("Your session has no bus that answers.");
+    ::kill(static_cast<pid_t>(mBus.pid()), SIGSTOP);
+    mService.refresh();
+    EXPECT_EQ(mService.fault(), fault) << "it hangs";
+    ::kill(static_cast<pid_t>(mBus.pid()), SIGCONT);
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            refresh();
+            return mService.fault() != fault;
+        },
+        kPatience))
+        << "it goes on";
+    mBus.stop();
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&] {
+            mService.set(true);
+            return mService.fault() == fault;
+        },
+        kPatience))
+        << qPrintable(mService.fault());
 }
 
 TEST_F(Follow, neverHasTheBusStartAServiceManager)

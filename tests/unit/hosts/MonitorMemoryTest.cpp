@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <optional>
+#include <utility>
 
 using platform::Monitor;
 
@@ -54,6 +55,37 @@ const Case kCases[] = {
         {monitor("A", "1", "DP-1")}, {}},
 };
 
+/** A tablet that reaches the second of two displays. */
+class RememberedMonitor : public testing::Test {
+protected:
+    RememberedMonitor()
+    {
+        mDisplays.monitors = {kFirst, kSecond};
+        mLife.deviceID = QStringLiteral("7");
+        mLife.display = 2;
+    }
+
+    void swapMonitors() { std::swap(mDisplays.monitors[0], mDisplays.monitors[1]); }
+
+    /** The user goes back to the second display after its monitor has become the first. */
+    void chooseTheFirstSwapAndGoBack()
+    {
+        mLife.display = 1;
+        mMemory.choose(mPane);
+        swapMonitors();
+        mLife.display = 2;
+        EXPECT_TRUE(mMemory.note(mPane));
+    }
+
+    const Monitor kFirst = monitor("A", "1", "DP-1");
+    const Monitor kSecond = monitor("B", "2", "DP-2");
+    TemporaryHome mHome;
+    FakeDisplays mDisplays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
+    PaneLife mLife;
+    NotedPane mPane{mLife};
+    MonitorMemory mMemory;
+};
+
 } // namespace
 
 TEST(MonitorMemory, findsTheMonitorByWhatItIsAndTwinsByTheirConnector)
@@ -63,72 +95,59 @@ TEST(MonitorMemory, findsTheMonitorByWhatItIsAndTwinsByTheirConnector)
     }
 }
 
-TEST(MonitorMemory, keepsWhateverAMonitorCallsItself)
+TEST_F(RememberedMonitor, isKeptWhateverItCallsItself)
 {
-    const TemporaryHome home;
-    FakeDisplays displays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
     const Monitor odd{QStringLiteral("[x]\n7-offscreen/maker=\"y\";%"), QString(5000, u'p'),
         QStringLiteral("\u00e9\u4e2d\x01"), QStringLiteral("DP-1, DP-2")};
-    displays.monitors = {monitor("A", "1", "DP-1"), odd};
-    PaneLife life;
-    life.deviceID = QStringLiteral("7");
-    life.display = 2;
-    const NotedPane pane(life);
-    MonitorMemory().show(pane);
-    displays.monitors = {odd, monitor("A", "1", "DP-1")};
-    MonitorMemory memory;
-    memory.show(pane);
-    EXPECT_EQ(memory.moved(pane), 1);
+    mDisplays.monitors[1] = odd;
+    MonitorMemory().show(mPane);
+    swapMonitors();
+    mMemory.show(mPane);
+    EXPECT_EQ(mMemory.moved(mPane), 1);
 }
 
-TEST(MonitorMemory, worksWithoutAFileThatItCanWrite)
+TEST_F(RememberedMonitor, isKnownWithoutAFileThatCanBeWritten)
 {
-    const TemporaryHome home;
-    writeFile(home.path() + QStringLiteral("/.local"), "not a folder");
-    FakeDisplays displays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
-    displays.monitors = {monitor("A", "1", "DP-1"), monitor("B", "2", "DP-2")};
-    PaneLife life;
-    life.deviceID = QStringLiteral("7");
-    life.display = 2;
-    const NotedPane pane(life);
-    MonitorMemory memory;
-    memory.show(pane);
-    displays.monitors = {displays.monitors[1], displays.monitors[0]};
-    EXPECT_EQ(memory.moved(pane), 1) << "as long as it lives";
+    writeFile(mHome.path() + QStringLiteral("/.local"), "not a folder");
+    mMemory.show(mPane);
+    swapMonitors();
+    EXPECT_EQ(mMemory.moved(mPane), 1) << "as long as the memory lives";
 }
 
-TEST(MonitorMemory, offersNoDisplayThatTheTabletCannotBeMappedTo)
+TEST_F(RememberedMonitor, isNotOfferedWhereTheTabletCannotBeMappedToIt)
 {
-    const TemporaryHome home;
     const platform::Rect bounds{0, 0, 100, 100};
-    FakeDisplays displays{{bounds, bounds, bounds, bounds, bounds}};
-    const Monitor chosen = monitor("A", "1", "DP-1");
-    const Monitor other = monitor("B", "2", "DP-2");
-    displays.monitors = {chosen, other, other, other, other};
-    PaneLife life;
-    life.deviceID = QStringLiteral("7");
-    life.display = 1;
-    const NotedPane pane(life);
-    MonitorMemory memory;
-    memory.show(pane);
-    displays.monitors = {other, other, other, chosen, other};
-    EXPECT_EQ(memory.moved(pane), 4);
-    displays.monitors = {other, other, other, other, chosen};
-    EXPECT_EQ(memory.moved(pane), std::nullopt);
+    FakeDisplays five{{bounds, bounds, bounds, bounds, bounds}};
+    five.monitors = {kFirst, kSecond, kFirst, kFirst, kFirst};
+    mMemory.show(mPane);
+    five.monitors = {kFirst, kFirst, kFirst, kSecond, kFirst};
+    EXPECT_EQ(mMemory.moved(mPane), 4);
+    five.monitors = {kFirst, kFirst, kFirst, kFirst, kSecond};
+    EXPECT_EQ(mMemory.moved(mPane), std::nullopt);
 }
 
-TEST(MonitorMemory, remembersNothingForATabletWithoutAnID)
+TEST_F(RememberedMonitor, isNotRememberedForATabletWithoutAnID)
 {
-    const TemporaryHome home;
-    FakeDisplays displays{{{0, 0, 100, 100}, {100, 0, 100, 100}}};
-    displays.monitors = {monitor("A", "1", "DP-1"), monitor("B", "2", "DP-2")};
-    PaneLife life;
-    life.display = 2;
-    const NotedPane pane(life);
-    MonitorMemory memory;
-    memory.show(pane);
-    memory.choose(pane);
-    displays.monitors = {displays.monitors[1], displays.monitors[0]};
-    EXPECT_EQ(memory.moved(pane), std::nullopt);
-    EXPECT_FALSE(memory.note(pane)) << "the number is the same";
+    mLife.deviceID.clear();
+    mMemory.show(mPane);
+    mMemory.choose(mPane);
+    swapMonitors();
+    EXPECT_EQ(mMemory.moved(mPane), std::nullopt);
+    EXPECT_FALSE(mMemory.note(mPane)) << "the number is the same";
+}
+
+TEST_F(RememberedMonitor, isThatWhichWasShownWhenTheUserGoesBackToItsNumber)
+{
+    mMemory.show(mPane);
+    chooseTheFirstSwapAndGoBack();
+    EXPECT_EQ(mMemory.moved(mPane), 1);
+}
+
+TEST_F(RememberedMonitor, isThatWhichWasChosenLastWithTheNumberThatTheUserGoesBackTo)
+{
+    mMemory.show(mPane);
+    swapMonitors();
+    mMemory.choose(mPane); // the same number, for what is there now
+    chooseTheFirstSwapAndGoBack();
+    EXPECT_EQ(mMemory.moved(mPane), 1);
 }

@@ -9,6 +9,7 @@
 #include "SelfCheckDialog.h"
 #include "TemporaryHome.h"
 #include "Wait.h"
+#include "WatchedEvents.h"
 
 #include <QClipboard>
 #include <QCoreApplication>
@@ -57,6 +58,17 @@ protected:
         mShell->hide();
         mShell->didUnselect();
         mLife.take();
+    }
+
+    /** The tablet is another, and the changes for the former one cannot be saved. */
+    void showAnotherTabletWithoutSaving()
+    {
+        show();
+        mPane->edit();
+        mLife.canSave = false;
+        mLife.device = Device::Other;
+        mPane->tell(News::DeviceMayHaveChanged);
+        QCoreApplication::processEvents();
     }
 
     /** The text of the line; empty if there is none. */
@@ -193,18 +205,22 @@ TEST_P(Shell, asksADriverThatDidNotAnswerAgainWhenItTakesSomething)
 
 TEST_P(Shell, saysThatTheFormerTabletsChangesAreLost)
 {
-    show();
-    mPane->edit();
-    mLife.canSave = false;
-    mLife.device = Device::Other;
-    mPane->tell(News::DeviceMayHaveChanged);
-    QCoreApplication::processEvents();
+    showAnotherTabletWithoutSaving();
     EXPECT_EQ(notice(),
         QStringLiteral("The previous tablet's settings were not saved: the disk is full"));
     mLife.canSave = true;
     mShell->save();
     EXPECT_EQ(notice(), QString()) << "the user has gone on with this tablet";
     EXPECT_EQ(button("Try Again"), nullptr) << "there is nothing left to save";
+    leave();
+    show();
+    EXPECT_EQ(notice(), QString());
+}
+
+TEST_P(Shell, saysNothingOfAFormerTabletOnceItIsShownAgain)
+{
+    showAnotherTabletWithoutSaving();
+    EXPECT_NE(notice(), QString());
     leave();
     show();
     EXPECT_EQ(notice(), QString());
@@ -217,6 +233,18 @@ TEST_P(Shell, loadsWhatCouldNotBeLoadedBeforeItSavesOnLeaving)
     mLife.canLoad = true; // the file was repaired meanwhile
     EXPECT_EQ(errorText(mShell->willUnselect()), "");
     EXPECT_EQ(mLife.take(), calls({"did unselect"}) + kComing + calls({"will unselect"}));
+}
+
+TEST_P(Shell, loadsNothingOnLeavingOnceTheTabletHasGone)
+{
+    mLife.canLoad = false;
+    mLife.canSave = false;
+    show();
+    leave();
+    mLife.hasDevice = false;
+    show();
+    EXPECT_EQ(errorText(mShell->willUnselect()), "");
+    EXPECT_EQ(mLife.take(), calls({"will unselect"}));
 }
 
 TEST_P(Shell, savesWhatTheUserHasChangedAlsoWhereNothingCouldBeLoaded)
@@ -410,21 +438,11 @@ TEST_P(Shell, hasEachNewLineAppearSoThatScreenReadersReadIt)
     show();
     mPane->tell(News::ChangeNotTaken);
     auto& label = *mShell->findChild<platform::NoticeLabel*>();
-    class Counter final : public QObject {
-    public:
-        bool eventFilter(QObject* /*watched*/, QEvent* event) override
-        {
-            shown += event->type() == QEvent::Show ? 1 : 0;
-            return false;
-        }
-        int shown = 0;
-    } counter;
-    label.installEventFilter(&counter);
+    const WatchedEvents shown(label, QEvent::Show);
     mPane->tell(News::ChangeNotTaken);
-    EXPECT_EQ(counter.shown, 0) << "it says the same";
+    EXPECT_EQ(shown.count, 0) << "it says the same";
     mPane->tell(News::NotSaved, QStringLiteral("the disk is full"));
-    EXPECT_EQ(counter.shown, 1);
-    label.removeEventFilter(&counter);
+    EXPECT_EQ(shown.count, 1);
 }
 
 TEST_P(Shell, closesThePanesDialogsWhenItLoadsTheSettingsAgain)
@@ -755,6 +773,20 @@ TEST_P(ShellWithMonitors, saysNothingOfTheFormerMonitorWhenAProfileNamesAnother)
         notice(), QStringLiteral("The monitor that you chose for the tablet is now display 2."));
     mPane->tell(News::SettingsReplaced); // for the same display
     EXPECT_NE(notice(), QString());
+}
+
+TEST_P(ShellWithMonitors, goesBackToTheMonitorThatAProfileNames)
+{
+    show();
+    mLife.display = 1;
+    mPane->tell(News::SettingsReplaced);
+    mLife.display = 2;
+    mPane->tell(News::DisplayChosen);
+    mDisplays.monitors = {kRight, kLeft};
+    mLife.display = 1;
+    mPane->edit(); // as an undo does
+    EXPECT_EQ(
+        notice(), QStringLiteral("The monitor that you chose for the tablet is now display 2."));
 }
 
 TEST_P(Shell, forgetsWhatWentWrongWithSettingsThatAProfileReplaces)

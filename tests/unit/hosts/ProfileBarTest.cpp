@@ -15,6 +15,7 @@
 #include "SameImage.h"
 #include "TemporaryHome.h"
 #include "Wait.h"
+#include "WatchedEvents.h"
 
 #include <QAction>
 #include <QApplication>
@@ -353,12 +354,29 @@ TEST_F(Bar, elidesALongNameAndShowsAllOfItOnRequest)
     mLife.profiles = {{longName, {}}};
     mLife.profile = longName;
     show();
+    const auto widthOf = [&](const QString& text) {
+        return list().fontMetrics().horizontalAdvance(text);
+    };
+    EXPECT_LT(list().sizeHint().width(), widthOf(longName));
     const int width = bar().minimumSizeHint().width();
     EXPECT_LT(width, 700);
     EXPECT_EQ(list().itemText(0), longName);
     const QImage elided = list().grab().toImage();
     list().setItemText(0, QString(63, u'W') + u'X');
     EXPECT_EQ(list().grab().toImage(), elided) << "its end is not drawn";
+    QStyleOptionComboBox option;
+    option.initFrom(&list());
+    const int room =
+        list()
+            .style()
+            ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &list())
+            .width();
+    bool endsInDots = false;
+    for (QString part = QStringLiteral("\u2026"); widthOf(part) < room; part.prepend(u'W')) {
+        list().setItemText(0, part);
+        endsInDots = endsInDots || list().grab().toImage() == elided;
+    }
+    EXPECT_TRUE(endsInDots);
     list().setItemText(0, longName);
     EXPECT_EQ(toolTipOf(list()), QStringLiteral("<span>%1</span>").arg(longName));
     list().showPopup();
@@ -460,14 +478,29 @@ TEST_F(Bar, takesNoNameThatCannotBeOneAndSaysWhy)
     EXPECT_FALSE(says("That is no name."));
     EXPECT_TRUE(defaultButton(*dialog)->isEnabled());
     mLife.profileFault = QStringLiteral("The disk is full.");
+    const WatchedEvents shows(*dialog->findChild<platform::NoticeLabel*>(), QEvent::Show);
     QTest::keyClick(&line, Qt::Key_Return);
     EXPECT_EQ(mLife.take(), calls({"save good"}));
     EXPECT_TRUE(dialog->isVisible()) << "for another attempt";
     EXPECT_TRUE(says("The disk is full."));
+    EXPECT_EQ(shows.count, 1) << "screen readers announce it";
     mLife.profileFault.clear();
     QTest::keyClick(&line, Qt::Key_Return);
     EXPECT_EQ(mLife.take(), calls({"save good"}));
     EXPECT_FALSE(dialog->isVisible());
+}
+
+TEST_F(Bar, saysAtOnceThatTheProposedNameCannotBeOne)
+{
+    mLife.profiles = {{QStringLiteral("bad"), {}}};
+    mLife.profile = QStringLiteral("bad");
+    show();
+    saveAs().click();
+    auto* const dialog = this->dialog<ProfileNameDialog>();
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_FALSE(defaultButton(*dialog)->isEnabled());
+    EXPECT_EQ(
+        dialog->findChild<platform::NoticeLabel*>()->text(), QStringLiteral("That is no name."));
 }
 
 TEST_F(Bar, asksForANameInADialogThatKeepsItsSize)
@@ -624,6 +657,7 @@ TEST_F(Bar, deletesTheCurrentProfileOnlyOnPurpose)
     press(*question, "Delete");
     EXPECT_EQ(mLife.take(), calls({"remove Painting"}));
     EXPECT_EQ(names(), calls({"None", "Modelling", "R&D <b>"}));
+    EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << "there is nothing to tell";
 }
 
 TEST_F(Bar, saysWhyAProfileWasNotDeleted)
