@@ -131,6 +131,8 @@ TEST(Mapping, withoutADesktopOrAnAreaOnItTheTabletReachesAllOfIt)
     EXPECT_EQ(targetOf({300, 0, 100, 100}, desktop), all) << "its display is gone";
     EXPECT_EQ(targetOf({100, 0, 100, 100}, desktop), all) << "it was between those that are left";
     EXPECT_NE(targetOf({50, 0, 100, 100}, desktop), all) << "half of it is on a display";
+    EXPECT_EQ(targetOf({0, 0, 0.9, 100}, desktop), all) << "no place of the pen is on it";
+    EXPECT_EQ(targetOf({0, 0, 100, 0.9}, desktop), all);
 }
 
 TEST(Mapping, anAreaOnNoDisplayIsAllDisplaysOfALargerScreen)
@@ -151,6 +153,8 @@ TEST(Mapping, aDisplayIsFoundByItsBoundsWhateverElseChanges)
     EXPECT_EQ(displayAt(kThree, {1920, 0, 1536, 864}), 2U);
     EXPECT_EQ(displayAt({kThree[2], kThree[0]}, {1920, 0, 1536, 864}), 0U);
     EXPECT_EQ(displayAt({display({0, 0, 1920.5, 1080})}, {0, 0, 1920, 1080}), 0U);
+    EXPECT_EQ(displayAt({display({1, -1, 1921, 1079})}, {0, 0, 1920, 1080}), 0U);
+    EXPECT_FALSE(displayAt({display({2, 0, 1920, 1080})}, {0, 0, 1920, 1080}));
     EXPECT_FALSE(displayAt({kThree[0], kThree[1]}, {1920, 0, 1536, 864}));
     EXPECT_FALSE(displayAt(kThree, boundsOf(kThree)));
     EXPECT_FALSE(displayAt({}, {0, 0, 1920, 1080}));
@@ -165,6 +169,9 @@ TEST(Mapping, theNextDisplayIsThatAfterTheOneInUse)
     EXPECT_EQ(displayAfter(kThree, {}), 0U);
     EXPECT_EQ(displayAfter({display({0, 0, 1920.5, 1080})}, {0, 0, 1920, 1080}), 0U)
         << "the only one, with a fraction of a point";
+    EXPECT_EQ(displayAfter({kThree[0], kThree[0], kThree[0], kThree[2]}, {0, 0, 1920, 1080}), 3U)
+        << "two others show the same";
+    EXPECT_EQ(displayAfter({kThree[0], kThree[0], kThree[1], kThree[2]}, {0, 0, 1920, 1080}), 2U);
     EXPECT_FALSE(displayAfter({}, {0, 0, 1920, 1080}));
 }
 
@@ -187,23 +194,30 @@ TEST(Mapping, aLineThatMakesNoSenseIsNone)
     for (const char* const line : {"", "[]", "{}", "[1]", "{\"displays\":[1]}"}) {
         EXPECT_TRUE(isNone(line)) << line;
     }
-    const auto bounds = [](const QByteArray& width) {
-        return "\"x\":0,\"y\":0,\"width\":" + width + ",\"height\":9";
+    const auto bounds = [](const QByteArray& width, const QByteArray& height = "9") {
+        return "\"x\":0,\"y\":0,\"width\":" + width + ",\"height\":" + height;
     };
     const auto report = [&](const QByteArray& display, const QByteArray& covered) {
         return "{\"displays\":[{" + display + "}],\"covered\":{" + covered + "}}";
     };
     const QByteArray good = bounds("9") + ",\"turns\":0";
     EXPECT_FALSE(isNone(report(good, bounds("9"))));
-    for (const char* const width : {"0", "-9", "1e300", "\"9\""}) {
+    EXPECT_FALSE(isNone(report(good, bounds("0.5", "0.5"))));
+    EXPECT_FALSE(isNone(report(good, bounds("1000000", "1000000"))));
+    for (const char* const width : {"0", "-9", "1000001", "1e300", "\"9\""}) {
         EXPECT_TRUE(isNone(report(bounds(width) + ",\"turns\":0", bounds("9")))) << width;
         EXPECT_TRUE(isNone(report(good, bounds(width)))) << width;
+        EXPECT_TRUE(isNone(report(good, bounds("9", width)))) << width;
+    }
+    for (const char* const missing : {"x", "y", "width", "height"}) {
+        EXPECT_TRUE(isNone(report(good, QByteArray(bounds("9")).replace(missing, "z")))) << missing;
     }
     EXPECT_TRUE(isNone(report(bounds("9") + ",\"turns\":4", bounds("9"))));
     EXPECT_TRUE(isNone(report(bounds("9"), bounds("9"))));
     EXPECT_TRUE(isNone(report("\"x\":0,\"y\":0,\"width\":1,\"turns\":0", bounds("9"))));
     EXPECT_TRUE(isNone(report(good, "")));
     const QRectF nine(0, 0, 9, 9);
+    EXPECT_FALSE(isNone(toLine({Desktop(64, display(nine)), nine})));
     EXPECT_TRUE(isNone(toLine({Desktop(65, display(nine)), nine})));
 }
 

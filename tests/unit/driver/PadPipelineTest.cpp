@@ -75,6 +75,14 @@ TEST_F(PadPipelineTest, whatWasPressedIsReleasedAfterTheSettingChanged)
     EXPECT_EQ(keys(1), (std::vector<Command>{{Kind::KeyDown, KEY_B}}));
 }
 
+TEST_F(PadPipelineTest, leavesThePensButtonsToThePen)
+{
+    assignKeys(kQVUpperPenSlot, {KEY_A});
+    buttons.set(kQVUpperPenSlot, true, settings, commands);
+    EXPECT_TRUE(keys(0).empty());
+    EXPECT_EQ(buttons.down(), 1U << kQVUpperPenSlot);
+}
+
 TEST_F(PadPipelineTest, aKeyThatTwoButtonsHoldIsReleasedByTheLast)
 {
     assignKeys(0, {KEY_LEFTCTRL});
@@ -133,12 +141,42 @@ TEST_F(PadPipelineTest, slowScrollingLosesNothing)
     EXPECT_EQ(sum, -240);
 }
 
+TEST_F(PadPipelineTest, forgetsTheFingerAndWhatWasTooLittleToScroll)
+{
+    settings.scrollSpeed = 1;
+    finger(0, 50);
+    EXPECT_EQ(finger(0, 49), 2); // 2.4 of them
+    pipeline.forget();
+    EXPECT_EQ(finger(0, 10), 0) << "it touches elsewhere";
+    EXPECT_EQ(finger(0, 9), 2);
+    EXPECT_EQ(finger(0, 8), 2) << "4.8, and not 7.2";
+}
+
+TEST_F(PadPipelineTest, aStripMayBeOneUnitLong)
+{
+    pipeline = PadPipeline(PadStrips{{{1, false}}});
+    settings.scrollSpeed = 5;
+    finger(0, 0);
+    EXPECT_EQ(finger(0, 1), -1200);
+}
+
 TEST_F(PadPipelineTest, aRingScrollsOverItsEnd)
 {
     settings.scrollSpeed = 6;
     finger(1, 70);
     EXPECT_EQ(finger(1, 1), -60); // 3 of 72 clockwise
     EXPECT_EQ(finger(1, 70), 60);
+}
+
+TEST_F(PadPipelineTest, noFingerMovesMoreThanAnEighthOfARingAtOnce)
+{
+    settings.scrollSpeed = 6;
+    finger(1, 0);
+    EXPECT_EQ(finger(1, 9), -180);
+    EXPECT_EQ(finger(1, 19), 0) << "it has left, and touches elsewhere";
+    EXPECT_EQ(finger(1, 49), 0);
+    EXPECT_EQ(finger(1, 13), 0) << "half a turn";
+    EXPECT_EQ(finger(1, 4), 180);
 }
 
 TEST_F(PadPipelineTest, aWheelScrollsByItsNotches)
@@ -175,11 +213,13 @@ TEST_F(PadPipelineTest, releasesEverythingAtOnce)
     settings.buttons[1] = {kQVMouseButton, kQVRightButton, {}, 0};
     settings.buttons[2].action = kQVFinePositioning;
     keys(7);
+    EXPECT_EQ(buttons.down(), 7U);
     commands.clear();
     buttons.releaseAll(commands);
     EXPECT_EQ((std::vector<Command>{commands.all().begin(), commands.all().end()}),
         (std::vector<Command>{{Kind::KeyUp, KEY_A}, {Kind::MouseUp, kQVRightButton}}));
     EXPECT_FALSE(buttons.isFine());
+    EXPECT_EQ(buttons.down(), 0U);
 }
 
 TEST_F(PadPipelineTest, whateverIsPressedIsReleased)

@@ -126,6 +126,41 @@ TEST_F(PenPipelineTest, theTurnsOfTheDesktopAreUndoneLast)
     EXPECT_EQ(place(3), std::pair(120000, 40000));
 }
 
+TEST_F(PenPipelineTest, thePenStaysInItsTargetHoweverTheDesktopIsTurned)
+{
+    for (int turns = 0; turns < 4; ++turns) {
+        settings.desktopTurns = turns;
+        settings.target = {0.2, 0.1, 0.5, 0.7};
+        // A quarter turn back takes the right edge to the lower one, and so on.
+        TabletRect turned = settings.target;
+        for (int turn = 0; turn < turns; ++turn) {
+            turned = {turned.top, 1 - turned.right, turned.bottom, 1 - turned.left};
+        }
+        double left = 1;
+        double top = 1;
+        double right = 0;
+        double bottom = 0;
+        for (const auto& [x, y] : {std::pair(0, 0), {40000, 0}, {0, 20000}, {40000, 20000}}) {
+            const PenFrame pen = next(at(x, y)).pen;
+            const double across = pen.x / (kVirtual.xMax + 1.0);
+            const double down = pen.y / (kVirtual.yMax + 1.0);
+            left = std::min(left, across);
+            top = std::min(top, down);
+            right = std::max(right, across);
+            bottom = std::max(bottom, down);
+        }
+        constexpr double kUnit = 1.0 / 80000;
+        EXPECT_GE(left, turned.left) << turns;
+        EXPECT_GE(top, turned.top) << turns;
+        EXPECT_LT(right, turned.right) << turns;
+        EXPECT_LT(bottom, turned.bottom) << turns;
+        EXPECT_NEAR(left, turned.left, kUnit) << turns;
+        EXPECT_NEAR(top, turned.top, kUnit) << turns;
+        EXPECT_NEAR(right, turned.right, 2 * kUnit) << turns;
+        EXPECT_NEAR(bottom, turned.bottom, 2 * kUnit) << turns;
+    }
+}
+
 TEST_F(PenPipelineTest, aStrokeEndsWhereItIsWhenItsTargetMoves)
 {
     settings.target = {0, 0, 0.5, 1};
@@ -185,6 +220,11 @@ TEST_F(PenPipelineTest, rotationTurnsPlaceTiltAndTwist)
     EXPECT_EQ(pen.tiltX, -30);
     EXPECT_EQ(pen.tiltY, 12);
     EXPECT_EQ(pen.twist, 900);
+    frame.twist = 900;
+    EXPECT_EQ(next(frame).pen.twist, 2700);
+    pipeline = PenPipeline({40000, 20000, 8191, 0}, kVirtual);
+    frame.twist = 0;
+    EXPECT_EQ(next(frame).pen.twist, 0) << "the tablet does not tell a pen's twist";
 }
 
 TEST_F(PenPipelineTest, theAreaIsOneOfTheTurnedTablet)
@@ -237,6 +277,10 @@ TEST_F(PenPipelineTest, moreThanTheFullPressureIsTheFullPressure)
 {
     EXPECT_EQ(next(pressed(9000)).pen.pressure, kVirtual.pressureMax);
     EXPECT_EQ(next(pressed(-5)).pen.pressure, 0);
+    pipeline = PenPipeline({40000, 20000, 1, 3600}, kVirtual);
+    EXPECT_EQ(next(pressed(1)).pen.pressure, kVirtual.pressureMax) << "with one level, all or none";
+    pipeline = PenPipeline({40000, 20000, 0, 3600}, kVirtual);
+    EXPECT_EQ(next(pressed(1)).pen.pressure, 0) << "the tablet does not tell it";
 }
 
 TEST_F(PenPipelineTest, carriesThroughWhatNoSettingConcerns)
@@ -289,8 +333,9 @@ TEST_F(PenPipelineTest, aButtonIsReleasedWhenThePenLeaves)
     ASSERT_EQ(commands.all().size(), 1U);
     EXPECT_EQ(commands.all()[0], (Command{Command::Kind::KeyDown, KEY_A}));
     PenFrame gone;
+    gone.time = std::chrono::microseconds(1234);
     gone.buttons = kPenLower; // a tablet that never says that it is up
-    next(gone);
+    EXPECT_EQ(next(gone).pen.time, gone.time);
     ASSERT_EQ(commands.all().size(), 1U);
     EXPECT_EQ(commands.all()[0], (Command{Command::Kind::KeyUp, KEY_A}));
 }
@@ -338,6 +383,35 @@ TEST_F(PenPipelineTest, finePositioningMovesAQuarterFromWhereItBegan)
     EXPECT_EQ(next(frame).pen.x, 44000);
     EXPECT_EQ(next(frame).pen.y, 36000);
     EXPECT_EQ(next(at(14000, 6000)).pen.x, 56000);
+}
+
+TEST_F(PenPipelineTest, finePositioningBeginsAtTheEdgeWhereThePenIsOffTheArea)
+{
+    settings.area = {5000, 2500, 15000, 7500};
+    assign(kQVLowerPenSlot, kQVFinePositioning);
+    PenFrame frame = at(40000, 20000);
+    frame.buttons = kPenLower;
+    EXPECT_EQ(next(frame).pen.x, 160000);
+    frame.x = frame.y = 10000; // the area's left edge, and the middle of its height
+    EXPECT_EQ(next(frame).pen.x, 120000);
+    EXPECT_EQ(next(frame).pen.y, 70000);
+}
+
+TEST_F(PenPipelineTest, finePositioningBeginsAnewEachTime)
+{
+    assign(kQVLowerPenSlot, kQVFinePositioning);
+    const auto beginAt = [&](std::int32_t x) {
+        PenFrame frame = at(x, 100);
+        frame.buttons = kPenLower;
+        return next(frame).pen.x;
+    };
+    EXPECT_EQ(beginAt(10000), 40000);
+    next(at(20000, 100));
+    EXPECT_EQ(beginAt(30000), 120000) << "after the button was let go";
+    assign(0, kQVFinePositioning);
+    buttons.set(0, true, settings, commands);
+    next(PenFrame());
+    EXPECT_EQ(next(at(10000, 100)).pen.x, 40000) << "after the pen had left, with a key still down";
 }
 
 TEST_F(PenPipelineTest, aStrokeDoesNotJumpWhenFinePositioningEnds)
