@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "Client.h"
 
+#include "ErrorText.h"
 #include "FakeEvents.h"
 #include "Notifications.h"
 #include "rzkApplication.h"
@@ -94,10 +95,14 @@ TEST(ConnectToDriver, sendsAsManyBytesAsItIsTold)
 {
     FakeEvents events;
     const auto record = markedRecord();
-    bool result = false;
-    pushAndCapture(record.data(), 400, result);
-    ASSERT_EQ(events.sent.size(), 1U);
-    EXPECT_EQ(events.sent.front().event.parameters.front().desc.bytes()->size(), 400);
+    for (const std::int32_t length : {0, 1, 400}) {
+        events.sent.clear();
+        bool result = false;
+        pushAndCapture(record.data(), length, result);
+        EXPECT_TRUE(result);
+        ASSERT_EQ(events.sent.size(), 1U);
+        EXPECT_EQ(events.sent.front().event.parameters.front().desc.bytes()->size(), length);
+    }
 }
 
 TEST(ConnectToDriver, printsExactlyTwoLines)
@@ -172,4 +177,22 @@ TEST(ConnectToDriver, tellsThatItHasPushedWhetherOrNotItCould)
     events.putParamResult = errAECoercionFail;
     pushAndCapture(record.data(), 5077, result);
     EXPECT_EQ(told, 2);
+}
+
+TEST(PushAndWait, saysWhetherTheDriverHasTheRecord)
+{
+    FakeEvents events;
+    const auto push = [] {
+        testing::internal::CaptureStderr();
+        const Result<> pushed = QVPushAndWait();
+        testing::internal::GetCapturedStderr();
+        return errorText(pushed);
+    };
+    EXPECT_EQ(push(), "");
+    ASSERT_EQ(events.sent.size(), 1U);
+    EXPECT_EQ(events.sent.front().event.parameters.front().desc.bytes()->size(), kQVRecordSize);
+    events.sendResult = errAETimeout;
+    EXPECT_EQ(push(), "the driver did not accept the record (error -1712)");
+    events.putParamResult = errAECoercionFail;
+    EXPECT_EQ(push(), "the record could not be sent");
 }

@@ -143,6 +143,16 @@ protected:
         tap(19200, 10600);
         tap(1000, 10600);
     }
+    /** Taps once more than needed; the last two taps are in one event. */
+    void tapFiveTimes()
+    {
+        tap(1000, 800);
+        tap(19200, 800);
+        tap(19200, 10600);
+        const QByteArray skipped;
+        deliver({report(1, 1000, 10600), skipped, report(0, 1000, 10600), skipped,
+            report(1, 40000, 40000), skipped, report(0, 40000, 40000)});
+    }
     int points() { return view().changenPointValue(0); }
     static std::vector<int> area()
     {
@@ -707,6 +717,7 @@ TEST_F(Calibration, whatMeansEscapeEndsItWhereverItLies)
     QKeyEvent event(
         QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, 66, 0, 0); // the position of Caps Lock
     QCoreApplication::sendEvent(window(), &event);
+    EXPECT_TRUE(event.isAccepted()) << "nobody else uses it";
     EXPECT_EQ(window(), nullptr);
     EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0}));
 }
@@ -716,7 +727,8 @@ TEST_F(Calibration, closingItsWindowByOtherMeansFreesTheDriver)
     start();
     window()->close();
     EXPECT_EQ(window(), nullptr);
-    EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0}));
+    leave(); // before the window is deleted
+    EXPECT_EQ(pushedFlags(), (std::vector<int>{1, 0})) << "once";
 }
 
 TEST_F(Calibration, leavingThePanelEndsIt)
@@ -863,6 +875,25 @@ TEST_F(Calibration, reportsAfterItsEndCountNoMore)
     EXPECT_EQ(area(), mBefore);
 }
 
+TEST_F(Calibration, reportsInTheEventThatEndsItCountNoMore)
+{
+    startFarFromTheLastPoint();
+    QVCalibrateView& last = view();
+    tapFiveTimes();
+    EXPECT_EQ(mAlerts.shown.size(), 1U);
+    EXPECT_EQ(window(), nullptr);
+    EXPECT_EQ(last.changenPointValue(0), 0);
+}
+
+TEST_F(Calibration, reportsInTheEventThatBeginsItAgainCount)
+{
+    startFarFromTheLastPoint();
+    mAlerts.answer = kAlertStdAlertCancelButton;
+    tapFiveTimes();
+    EXPECT_EQ(mAlerts.shown.size(), 1U);
+    EXPECT_EQ(points(), 1);
+}
+
 TEST_F(Calibration, anotherGoesOnFromWhereTheLastOneEnded)
 {
     startFarFromTheLastPoint();
@@ -975,6 +1006,43 @@ TEST_F(Calibration, withOneDisplayThatOneIsCovered)
     EXPECT_EQ(window()->view().size(), QSize(700, 500));
 }
 
+TEST_F(Calibration, itsWindowHasATitleForListsOfWindows)
+{
+    start();
+    EXPECT_EQ(window()->windowTitle(), QStringLiteral("Calibration"));
+}
+
+TEST_F(Calibration, itsWindowLetsTheDesktopShineThrough)
+{
+    start();
+    EXPECT_NEAR(window()->windowOpacity(), 0.7, 0.01);
+}
+
+TEST_F(Calibration, itsWindowFillsTheScreenOfADisplay)
+{
+    const Rect screen = platform::screenBounds(*QGuiApplication::primaryScreen());
+    mDisplays.change({{0, 0, screen.width + 1, screen.height}});
+    start();
+    EXPECT_FALSE(window()->isFullScreen()) << "the screen is smaller than the display";
+    leave();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    mDisplays.change({{0, 0, screen.width, screen.height}});
+    show();
+    start();
+    EXPECT_TRUE(window()->isFullScreen());
+}
+
+TEST_F(Calibration, saysNothingOfACrossThatIsErased)
+{
+    start();
+    view().setDrawEraseFlag(QVCalibrateView::kDrawCross);
+    EXPECT_FALSE(view().spokenContents().isEmpty());
+    for (const int flag : {QVCalibrateView::kDrawCross + 4, QVCalibrateView::kEraseCross}) {
+        view().setDrawEraseFlag(flag);
+        EXPECT_TRUE(view().spokenContents().isEmpty()) << flag;
+    }
+}
+
 TEST_F(Calibration, itsWindowStaysOnTop)
 {
     start();
@@ -987,6 +1055,15 @@ TEST_F(Calibration, escapeInAWindowThatIsNobodysGoesOn)
     QWidget other;
     window()->sethCalibrateWin(&other);
     mEvents.sent.clear();
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(window(), &escape);
+    EXPECT_FALSE(escape.isAccepted()) << "others may use it";
+    EXPECT_NE(window(), nullptr);
+    EXPECT_TRUE(pushes().empty());
+    {
+        QWidget gone;
+        window()->sethCalibrateWin(&gone);
+    }
     QTest::keyClick(window(), Qt::Key_Escape);
     EXPECT_NE(window(), nullptr);
     EXPECT_TRUE(pushes().empty());

@@ -11,6 +11,7 @@
 #include "QVNSView.h"
 #include "QVPenStats.h"
 #include "SameImage.h"
+#include "WatchedEvents.h"
 
 #include <QCheckBox>
 #include <QLabel>
@@ -19,6 +20,7 @@
 #include <QMouseEvent>
 #include <QPainterPath>
 #include <QPushButton>
+#include <QRegion>
 #include <QTabWidget>
 #include <QTest>
 
@@ -98,6 +100,12 @@ protected:
         pen().press(from, 1);
         pen().move(to, 1);
         pen().release(to);
+    }
+    /** Where an event is that is at a point of the pad, from its upper left corner. */
+    QPointF inWindow(const QPoint& at)
+    {
+        const QPoint place = pad().mapTo(mWindow.get(), at);
+        return {double(place.x()), double(mWindow->height() - place.y())};
     }
     void useFixedWidth() { outlet<QCheckBox>("mAdjustSize").click(); }
     void comeIntoReach(platform::PointingDeviceType type)
@@ -342,6 +350,15 @@ TEST_F(DrawingPad, keepsThePressureOfADragThatUpdatesTheStatistics)
     EXPECT_EQ(raw(), QStringLiteral("24575.63"));
 }
 
+TEST_F(DrawingPad, showsThePressureWithWhichATabletPointIsDrawn)
+{
+    Event point;
+    point.type = EventType::TabletPoint;
+    point.pressure = 0.5F;
+    pad().tabletPoint(point);
+    EXPECT_EQ(raw(), QStringLiteral("3640.83")) << "smoothed";
+}
+
 TEST_F(DrawingPad, withFixedWidthEveryStrokeIs25PointsWideAndThePressureIsRaw)
 {
     useFixedWidth();
@@ -349,6 +366,7 @@ TEST_F(DrawingPad, withFixedWidthEveryStrokeIs25PointsWideAndThePressureIsRaw)
     pen().move({300, 200}, 0.5);
     PenInput::deliver();
     EXPECT_EQ(raw(), QStringLiteral("32767.5"));
+    EXPECT_EQ(pad().spokenContents(), QStringLiteral("Pressure 50 %"));
     expectLines({{50, 50, 300, 200}});
 }
 
@@ -367,22 +385,78 @@ TEST_F(DrawingPad, aTabletPointWithoutPressureIsSkippedByTheLoopButDrawnFromTheQ
 
 TEST_F(DrawingPad, whatArrivesTogetherIsShownAtOnce)
 {
-    struct Paints final : QObject {
-        int count = 0;
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            count += event->type() == QEvent::Paint ? 1 : 0;
-            return QObject::eventFilter(watched, event);
-        }
-    } paints;
     pen().press({10, 10}, 1);
     PenInput::deliver();
-    pad().installEventFilter(&paints);
+    const WatchedEvents paints(pad(), QEvent::Paint);
     for (int x = 11; x < 300; ++x) {
         pen().move(QPointF(x, 10), 1);
     }
     PenInput::deliver();
     EXPECT_EQ(paints.count, 1);
+}
+
+TEST_F(DrawingPad, whatIsDrawnIsPaintedBeforeTheNextEventsAreAwaited)
+{
+    const WatchedEvents paints(pad(), QEvent::Paint);
+    Event event;
+    event.type = EventType::TabletPoint;
+    event.pressure = 0.5F;
+    pad().tabletPoint(event);
+    EXPECT_EQ(paints.count, 1);
+    event.type = EventType::LeftMouseDown;
+    pad().queue().post(event);
+    event.type = EventType::LeftMouseDragged;
+    event.locationInWindow = inWindow({100, 200});
+    pad().queue().post(event);
+    pad().queue().handOver();
+    EXPECT_EQ(paints.count, 2);
+}
+
+TEST_F(DrawingPad, aStepPaintsWhatItHasChangedAndHardlyAnythingElse)
+{
+    useFixedWidth();
+    drawLine({20, 20}, {30, 20}); // so that the texts below the pad have their final length
+    PenInput::deliver();
+    const double density = pad().devicePixelRatioF();
+    const auto changed = [density](const QImage& before, const QImage& after) {
+        QRegion pixels;
+        for (int y = 0; y < after.height(); ++y) {
+            for (int x = 0; x < after.width(); ++x) {
+                if (before.pixel(x, y) != after.pixel(x, y)) {
+                    pixels +=
+                        QRect(static_cast<int>(x / density), static_cast<int>(y / density), 1, 1);
+                }
+            }
+        }
+        return pixels;
+    };
+    for (const QLineF& step : {QLineF(100, 100, 160, 130), QLineF(300, 200, 250, 150),
+             QLineF(60, 250, 60, 250), QLineF(300, 60, 250, 90)}) {
+        pen().press(step.p1(), 1);
+        PenInput::deliver();
+        const QImage before = shown();
+        const WatchedEvents paints(pad(), QEvent::Paint);
+        const WatchedEvents behind(*pad().parentWidget(), QEvent::Paint);
+        pen().move(step.p2(), 1);
+        PenInput::deliver();
+        const QRegion painted = paints.painted;
+        const QRegion pixels = changed(before, shown());
+        EXPECT_FALSE(pixels.isEmpty());
+        EXPECT_TRUE((pixels - painted).isEmpty()) << "all that has changed";
+        EXPECT_TRUE(pixels.boundingRect().adjusted(-1, -1, 1, 1).contains(painted.boundingRect()))
+            << "and a pixel around it";
+        EXPECT_FALSE(behind.painted.intersects(pad().geometry())) << "nothing shows through";
+        pen().release(step.p2());
+        PenInput::deliver();
+    }
+}
+
+TEST_F(DrawingPad, strokesLeaveNothingInTheLog)
+{
+    testing::internal::CaptureStderr();
+    drawLine({50, 50}, {300, 50});
+    PenInput::deliver();
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
 // Wiping -----------------------------------------------------------------------------------------
@@ -663,8 +737,7 @@ TEST_F(DrawingPad, aDragWithoutAPressIsDrawnAndAnnounced)
     Event drag;
     drag.type = EventType::LeftMouseDragged;
     drag.pressure = 0.5F;
-    drag.locationInWindow = pad().mapTo(mWindow.get(), QPoint(100, 200));
-    drag.locationInWindow.setY(mWindow->height() - drag.locationInWindow.y());
+    drag.locationInWindow = inWindow({100, 200});
     pad().mouseDragged(drag);
     EXPECT_EQ(mUpdates, 1);
     expectLines({{0, 300, 100, 200}});
@@ -688,6 +761,7 @@ TEST_F(DrawingPad, withoutStatisticsADragWithoutAPressIsFollowedToItsEnd)
     send(QEvent::MouseMove, {200, 200}, Qt::LeftButton);
     send(QEvent::MouseButtonRelease, {200, 200}, Qt::NoButton);
     EXPECT_EQ(mUpdates, 0);
+    EXPECT_EQ(raw(), QStringLiteral("65535")) << "that of a mouse";
     paintStep(expected.painter, {0, 300}, {100, 200}, 25);
     paintStep(expected.painter, {100, 200}, {200, 200}, 25);
     expectShown(expected);
@@ -720,9 +794,14 @@ TEST_F(DrawingPad, aDragWithoutAPressWhoseReleaseNeverComesEndsWithThePage)
     PenInput::deliver();
     doStroke();
     EXPECT_EQ(pad().stats().mEventType, EventType::LeftMouseUp);
+    EmptyPad curved(pad()); // it begins its curve where the drag was
+    QPainterPath path(QPointF(50, 250));
+    path.cubicTo(QPointF(150, 175), QPointF(150, 175), QPointF(200, 250));
+    curved.painter.strokePath(path, QPen(Qt::black, 25, Qt::SolidLine, Qt::RoundCap));
+    expectShown(curved);
     pad().doClean();
     PenInput::deliver();
-    doStroke(); // the first one began its curve where the drag was
+    doStroke();
     expectLines({{50, 50, 200, 50}});
 
     // The same if the page stays, and the mouse moves without its button.
@@ -764,4 +843,20 @@ TEST_F(DrawingPad, aLineSaysTheStatisticsForPeople)
                        "At %1, %2 on the desktop · Pen number 77")
             .arg(place.x())
             .arg(place.y()));
+}
+
+TEST_F(DrawingPad, theLineNamesNoPenBeforeOneHasCome)
+{
+    const QString rest = QStringLiteral(" · Tilt 0° right, 0° down · Rotation 0° · "
+                                        "At 0, 0 on the desktop");
+    EXPECT_EQ(line(), QStringLiteral("Pressure 0 %") + rest);
+    Event drag;
+    drag.type = EventType::LeftMouseDragged;
+    drag.pressure = 1;
+    pad().mouseDragged(drag);
+    EXPECT_EQ(line(), QStringLiteral("Pressure 100 %") + rest);
+    drag.subtype = platform::kTabletPointSubtype;
+    drag.deviceID = 1;
+    pad().mouseDragged(drag);
+    EXPECT_EQ(line(), QStringLiteral("Pressure 100 %") + rest + QStringLiteral(" · Pen number 1"));
 }

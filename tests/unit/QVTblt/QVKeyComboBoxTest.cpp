@@ -2,8 +2,11 @@
 // SPDX-License-Identifier: MIT
 #include "QVKeyComboBox.h"
 
+#include "WatchedEvents.h"
+
 #include <QAbstractItemView>
 #include <QHelpEvent>
+#include <QPixmap>
 #include <QProxyStyle>
 #include <QSignalSpy>
 #include <QStyleOption>
@@ -18,12 +21,44 @@
 
 namespace {
 
+/** Leaves a small margin before the text, like some styles in low boxes. */
+class TightStyle final : public QProxyStyle {
+public:
+    explicit TightStyle(int margin)
+        : mMargin(margin)
+    {
+    }
+    QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option, SubControl part,
+        const QWidget* widget) const override
+    {
+        if (control != CC_ComboBox || part != SC_ComboBoxEditField) {
+            return QProxyStyle::subControlRect(control, option, part, widget);
+        }
+        const QRect field = option->rect.adjusted(mMargin, 0, -20, 0);
+        return visualRect(option->direction, option->rect, field);
+    }
+
+private:
+    int mMargin;
+};
+
 class KeyBox : public testing::Test {
 protected:
     KeyBox()
     {
         mBox.resize(200, 24);
         mBox.show();
+    }
+
+    /** What the tooltip says; empty if there is none. */
+    QString toolTip()
+    {
+        QToolTip::hideText();
+        QHelpEvent event(QEvent::ToolTip, QPoint(10, 10), mBox.mapToGlobal(QPoint(10, 10)));
+        const bool isShown = QCoreApplication::sendEvent(&mBox, &event) && event.isAccepted();
+        const QString text = isShown ? QToolTip::text() : QString();
+        QToolTip::hideText();
+        return text;
     }
 
     QVKeyComboBox mBox;
@@ -185,46 +220,109 @@ TEST_F(KeyBox, aTextThatFitsIsDrawnAsInAnyBox)
     EXPECT_EQ(mBox.grab().toImage(), plain.grab().toImage());
 }
 
-TEST_F(KeyBox, keepsItsTextOffTheFrameWhereTheStyleHasNoMargin)
+TEST_F(KeyBox, keepsItsTextOffTheFrameWhereTheStyleHasHardlyAnyMargin)
 {
-    /** Behaves like some styles in low boxes. */
-    class TightStyle final : public QProxyStyle {
-    public:
-        QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,
-            SubControl part, const QWidget* widget) const override
-        {
-            if (control != CC_ComboBox || part != SC_ComboBoxEditField) {
-                return QProxyStyle::subControlRect(control, option, part, widget);
-            }
-            const QRect field = option->rect.adjusted(0, 0, -20, 0);
-            return visualRect(option->direction, option->rect, field);
-        }
-    } style;
-    mBox.setStyle(&style);
+    TightStyle none(0);
+    TightStyle small(1);
     for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
         mBox.setLayoutDirection(direction);
         const auto drawn = [this](const QString& text) {
             mBox.replaceItem(QVKeyComboBox::Application, text);
             return mBox.grab().toImage();
         };
-        // Only the texts differ.
-        const QImage one = drawn(QStringLiteral("MMMM"));
-        const QImage other = drawn(QStringLiteral("...."));
-        int first = one.width();
-        int last = 0;
-        for (int x = 0; x < one.width(); ++x) {
-            for (int y = 0; y < one.height(); ++y) {
-                if (one.pixel(x, y) != other.pixel(x, y)) {
-                    first = std::min(first, x);
-                    last = x;
+        const auto margin = [&](QStyle& style) {
+            mBox.setStyle(&style);
+            // Only the texts differ.
+            const QImage one = drawn(QStringLiteral("MMMM"));
+            const QImage other = drawn(QStringLiteral("...."));
+            int first = one.width();
+            int last = 0;
+            for (int x = 0; x < one.width(); ++x) {
+                for (int y = 0; y < one.height(); ++y) {
+                    if (one.pixel(x, y) != other.pixel(x, y)) {
+                        first = std::min(first, x);
+                        last = std::max(last, x);
+                    }
                 }
             }
-        }
-        const int margin = direction == Qt::LeftToRight ? first : one.width() - 1 - last;
-        EXPECT_GE(margin, 4) << direction;
-        EXPECT_LE(margin, 10) << direction;
+            return direction == Qt::LeftToRight ? first : one.width() - 1 - last;
+        };
+        EXPECT_GE(margin(none), 4) << direction;
+        EXPECT_LE(margin(none), 10) << direction;
+        EXPECT_EQ(margin(none), margin(small)) << direction;
     }
     mBox.setStyle(nullptr);
+}
+
+TEST_F(KeyBox, leavesTheTextWhereAStyleWithAMarginHasIt)
+{
+    TightStyle style(2);
+    QComboBox plain;
+    plain.addItem(mBox.currentText());
+    plain.setFocusPolicy(mBox.focusPolicy());
+    plain.resize(mBox.size());
+    plain.setStyle(&style);
+    mBox.setStyle(&style);
+    EXPECT_EQ(mBox.grab().toImage(), plain.grab().toImage());
+    mBox.setStyle(nullptr);
+    plain.setStyle(nullptr);
+}
+
+TEST_F(KeyBox, hasAFrameInTheColourOfSelectionsWhileItsButtonIsPressed)
+{
+    const auto painted = [this] { return WatchedEvents(mBox, QEvent::Paint).wait(); };
+    QCoreApplication::processEvents();
+    const QImage before = mBox.grab().toImage();
+    mBox.setMarked(true);
+    EXPECT_TRUE(painted());
+    const QImage marked = mBox.grab().toImage();
+    const int width = static_cast<int>(2 * mBox.devicePixelRatioF());
+    const QRect inner = marked.rect().adjusted(width, width, -width, -width);
+    for (int y = 0; y < marked.height(); ++y) {
+        for (int x = 0; x < marked.width(); ++x) {
+            const bool isInside = inner.contains(x, y);
+            const bool isCorner = !isInside && (x < width || x >= marked.width() - width)
+                && (y < width || y >= marked.height() - width);
+            if (isCorner) {
+                continue; // cut off between two lines
+            }
+            ASSERT_EQ(marked.pixelColor(x, y),
+                isInside ? before.pixelColor(x, y) : mBox.palette().color(QPalette::Highlight))
+                << x << ' ' << y;
+        }
+    }
+    mBox.setMarked(false);
+    EXPECT_TRUE(painted());
+    EXPECT_EQ(mBox.grab().toImage(), before);
+}
+
+TEST_F(KeyBox, isDescribedByTheApplicationForAsLongAsItShowsThat)
+{
+    const QString path = QStringLiteral("/a");
+    const QString own = QStringLiteral("Key of the tablet");
+    for (const QString& description : {QString(), own}) {
+        mBox.setAccessibleDescription(description);
+        mBox.showApplication(path, QStringLiteral("Draw"), {});
+        EXPECT_EQ(mBox.accessibleDescription(), QStringLiteral("Draw"));
+        mBox.showApplication(path, QStringLiteral("Paint"), {});
+        EXPECT_EQ(mBox.accessibleDescription(), QStringLiteral("Paint"));
+        EXPECT_EQ(toolTip(), QStringLiteral("<b>Paint</b><br>/a"));
+        EXPECT_TRUE(mBox.showsApplication(path));
+        mBox.replaceItem(QVKeyComboBox::KeyCombination, QStringLiteral("Ctrl"));
+        EXPECT_EQ(mBox.accessibleDescription(), description);
+        EXPECT_EQ(toolTip(), QString());
+        mBox.setCurrentIndex(QVKeyComboBox::Application);
+        EXPECT_EQ(mBox.accessibleDescription(), QStringLiteral("Paint"));
+        mBox.replaceItem(QVKeyComboBox::Application, path);
+        EXPECT_EQ(mBox.accessibleDescription(), description);
+        EXPECT_EQ(toolTip(), QString());
+        EXPECT_FALSE(mBox.showsApplication(path));
+    }
+    mBox.showApplication(path, QStringLiteral("Draw"), {});
+    mBox.resetItems();
+    EXPECT_EQ(mBox.accessibleDescription(), own);
+    mBox.setCurrentIndex(QVKeyComboBox::Application);
+    EXPECT_EQ(mBox.accessibleDescription(), own) << "of the former application nothing is left";
 }
 
 TEST_F(KeyBox, otherKeysOpenNothing)
@@ -260,24 +358,30 @@ TEST_F(KeyBox, aTextThatFitsHasNoTooltip)
 
 TEST_F(KeyBox, hasATooltipFromTheFirstPixelThatIsMissing)
 {
-    mBox.replaceItem(QVKeyComboBox::Application, QStringLiteral("/opt/draw.AppImage"));
-    const auto tooltip = [this] {
-        QToolTip::hideText();
-        QHelpEvent event(QEvent::ToolTip, QPoint(10, 10), mBox.mapToGlobal(QPoint(10, 10)));
-        return QCoreApplication::sendEvent(&mBox, &event) && QToolTip::isVisible();
-    };
-    // The label is drawn two pixels in from both ends of its field.
-    QStyleOptionComboBox option;
-    option.initFrom(&mBox);
-    const QRect field = mBox.style()->subControlRect(
-        QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &mBox);
-    const int needed = mBox.fontMetrics().horizontalAdvance(mBox.currentText()) + 4;
-    const int fitting = mBox.width() - field.width() + needed;
-    mBox.resize(fitting, mBox.height());
-    EXPECT_FALSE(tooltip());
-    mBox.resize(fitting - 1, mBox.height());
-    EXPECT_TRUE(tooltip());
-    QToolTip::hideText();
+    const QString path = QStringLiteral("/opt/draw.AppImage");
+    QPixmap square(64, 64);
+    square.fill(Qt::blue);
+    TightStyle tight(0);
+    for (QStyle* const style : {static_cast<QStyle*>(nullptr), static_cast<QStyle*>(&tight)}) {
+        mBox.setStyle(style);
+        for (const QIcon& icon : {QIcon(), QIcon(square)}) {
+            mBox.showApplication(path, {}, icon);
+            // The label is drawn two pixels in from both ends of its field, four from an icon, and
+            // four from the frame where the style does not keep it off.
+            QStyleOptionComboBox option;
+            option.initFrom(&mBox);
+            const QRect field = mBox.style()->subControlRect(
+                QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, &mBox);
+            const int needed = mBox.fontMetrics().horizontalAdvance(path) + 4
+                + (icon.isNull() ? 0 : mBox.iconSize().width() + 4) + (style == nullptr ? 0 : 4);
+            const int fitting = mBox.width() - field.width() + needed;
+            mBox.resize(fitting, mBox.height());
+            EXPECT_EQ(toolTip(), QString());
+            mBox.resize(fitting - 1, mBox.height());
+            EXPECT_TRUE(toolTip().contains(path));
+        }
+    }
+    mBox.setStyle(nullptr);
 }
 
 TEST_F(KeyBox, aReplacedItemTellsItsWholeTextInTheList)

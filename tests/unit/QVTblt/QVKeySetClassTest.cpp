@@ -10,6 +10,7 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScreen>
 #include <QScrollArea>
 #include <QScrollBar>
@@ -410,7 +411,52 @@ TEST_F(KeySet, needsNoScrollingWhereThereIsRoom)
         EXPECT_EQ(area.horizontalScrollBar()->maximum(), 0) << points;
         EXPECT_EQ(area.verticalScrollBar()->maximum(), 0) << points;
         EXPECT_LT(dialog.width(), 200 * points) << "and takes no more than it needs";
+        EXPECT_LT(area.viewport()->height(), area.widget()->sizeHint().height() + 2 * points);
+        const auto& field = *dialog.findChild<QLineEdit*>();
+        const QFontMetrics metrics = field.fontMetrics();
+        const int text = metrics.horizontalAdvance(field.placeholderText());
+        EXPECT_GE(field.minimumWidth(), text);
+        EXPECT_LE(field.minimumWidth(), text + 5 * metrics.horizontalAdvance(u'x'));
+        // The narrowest room in which it keeps its width leaves it its height, too.
+        const QSize size = dialog.size();
+        int width = size.width();
+        do {
+            dialog.fitInto({width, 2000});
+        } while (dialog.width() < size.width() && ++width < 4000);
+        EXPECT_EQ(dialog.size(), size) << points;
     }
+}
+
+TEST_F(KeySet, keepsItsSizeWhenItIsShownWhileItIsVisible)
+{
+    const QSize size = mDialog.size() + QSize(20, 20);
+    mDialog.resize(size);
+    mDialog.show();
+    EXPECT_EQ(mDialog.size(), size) << "the user has chosen it";
+}
+
+TEST_F(KeySet, leavesRoomForTheFrameAndNotForAllOfTheWindowThatItBelongsTo)
+{
+    mDialog.fitInto({4000, 2000});
+    QWidget owner;
+    owner.resize(1800, 900);
+    owner.show();
+    QVKeySetClass dialog(&owner);
+    dialog.fitInto({4000, 2000});
+    EXPECT_EQ(dialog.size(), mDialog.size());
+}
+
+TEST_F(KeySet, measuresItsTextInTheFontOfFields)
+{
+    // Also forgets the fonts of classes.
+    const auto restoring = qScopeGuard([] { QApplication::setFont(QApplication::font()); });
+    QFont large = QApplication::font("QLineEdit");
+    large.setPointSize(3 * QFontInfo(large).pointSize());
+    QApplication::setFont(large, "QLineEdit");
+    QVKeySetClass dialog;
+    dialog.fitInto({4000, 2000});
+    const auto& field = *dialog.findChild<QLineEdit*>();
+    EXPECT_GE(field.minimumWidth(), QFontMetrics(large).horizontalAdvance(field.placeholderText()));
 }
 
 TEST_F(KeySet, showsWhichKeyHasTheFocus)
@@ -447,6 +493,15 @@ TEST_F(KeySet, afterTheLastKeyIsDeletedTheFocusIsOnTheFirst)
     QTest::keyClick(&child<QPushButton>("delBtn"), Qt::Key_Space);
     EXPECT_EQ(text(), QString());
     EXPECT_EQ(QApplication::focusWidget(), &child<QToolButton>("keyCtrl"));
+    // A key combination of the button deletes without taking the focus.
+    click({"B"});
+    child<QPushButton>("okBtn").setFocus();
+    child<QPushButton>("delBtn").click();
+    EXPECT_EQ(QApplication::focusWidget(), &child<QToolButton>("keyCtrl"));
+    click({"B"});
+    child<QToolButton>("keyC").setFocus();
+    child<QPushButton>("delBtn").click();
+    EXPECT_EQ(QApplication::focusWidget(), &child<QToolButton>("keyC")) << "which is enabled";
 }
 
 TEST_F(KeySet, spacePressesTheKeyThatHasTheFocus)

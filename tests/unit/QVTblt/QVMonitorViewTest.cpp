@@ -10,6 +10,7 @@
 #include "PaneTest.h"
 #include "QVTabletModels.h"
 #include "Wait.h"
+#include "WatchedEvents.h"
 #include "rzkBundle.h"
 
 #include <QAbstractItemView>
@@ -61,28 +62,18 @@ protected:
     template <class Action>
     bool isDrawnAfter(const Action& action)
     {
-        struct Paints final : QObject {
-            bool eventFilter(QObject* watched, QEvent* event) override
-            {
-                seen = seen || event->type() == QEvent::Paint;
-                return QObject::eventFilter(watched, event);
-            }
-            bool seen = false;
-        };
         QWidget neighbour(view().parentWidget());
         neighbour.show();
         const auto isPainted = [&neighbour] {
-            Paints paints;
-            neighbour.installEventFilter(&paints);
+            const WatchedEvents paints(neighbour, QEvent::Paint);
             neighbour.update();
-            return QTest::qWaitFor([&] { return paints.seen; }, kPatience);
+            return paints.wait();
         };
         EXPECT_TRUE(isPainted()); // and with it whatever was pending
-        Paints paints;
-        view().installEventFilter(&paints);
+        const WatchedEvents paints(view(), QEvent::Paint);
         action();
         EXPECT_TRUE(isPainted());
-        return paints.seen;
+        return paints.count > 0;
     }
     QImage draw()
     {
@@ -170,10 +161,14 @@ TEST_F(DisplayPage, keepsItsListWhenTheDisplaysAreNotTold)
     mDisplays.failList = true;
     view().interrogateHardware();
     EXPECT_EQ(list().count(), 3);
-    mDisplays.failList = false;
+    const auto& calibrate = outlet<QPushButton>("mDoCalibrate");
+    EXPECT_FALSE(calibrate.isEnabled());
     mDisplays.failCount = true;
     view().interrogateHardware();
-    EXPECT_EQ(items(), QStringList{QStringLiteral("Display #1")}) << "not counted, it is one";
+    EXPECT_TRUE(calibrate.isEnabled()) << "not counted, it is one";
+    mDisplays.failList = false;
+    view().interrogateHardware();
+    EXPECT_EQ(items(), QStringList{QStringLiteral("Display #1")});
 }
 
 TEST_F(DisplayPage, isToldNothingMoreWhenTheViewHasGone)
@@ -409,26 +404,33 @@ TEST_F(DisplayPage, allDisplaysTogetherCannotBeCalibratedAndTheButtonSaysSo)
     expect(true, "one is left");
 }
 
+TEST_F(DisplayPage, withoutAnyDisplayNothingCanBeCalibrated)
+{
+    mDisplays.change({});
+    QVMonitorView bare;
+    QComboBox displays;
+    QComboBox speed;
+    QComboBox mode;
+    QPushButton calibrate;
+    bare.setOutlets(&displays, &speed, &mode, &calibrate);
+    bare.awakeFromNib();
+    bare.interrogateHardware();
+    EXPECT_FALSE(calibrate.isEnabled());
+    EXPECT_FALSE(bare.updateMappedArea());
+}
+
 TEST_F(DisplayPage, aRedrawSetsTheHelpOfCalibrateOnlyWhenItIsAnother)
 {
-    class Counter : public QObject {
-    public:
-        bool eventFilter(QObject* watched, QEvent* event) override
-        {
-            count += event->type() == QEvent::ToolTipChange ? 1 : 0;
-            return QObject::eventFilter(watched, event);
-        }
-        int count = 0;
-    };
     auto& button = outlet<QPushButton>("mDoCalibrate");
     draw();
-    Counter counter;
-    button.installEventFilter(&counter);
+    const WatchedEvents changes(button, QEvent::ToolTipChange);
     draw();
-    EXPECT_EQ(counter.count, 0);
-    choose(list(), 2);
-    draw();
-    EXPECT_EQ(counter.count, 1);
+    EXPECT_EQ(changes.count, 0);
+    for (const int display : {2, 1}) {
+        choose(list(), display);
+        draw();
+        EXPECT_EQ(changes.count, 1);
+    }
 }
 
 // Changes of the displays -------------------------------------------------------------------------
@@ -490,6 +492,7 @@ TEST_F(DisplayPage, withoutItsListsItDoesWhatItCan)
         EXPECT_FALSE(bare.grab().toImage().isNull());
         bare.updateMappedArea();
         bare.SelectMonitor();
+        EXPECT_EQ(+qvTabletInfo.Monitor.num, -1) << "nothing is chosen";
         bare.SelectSpeed();
         bare.SelectUseMode();
         bare.setTabletDefaultArea();
@@ -807,22 +810,32 @@ TEST_F(DisplayPage, theWheelTurnsItsListsOnlyWithTheFocus)
     }
 }
 
-TEST_F(DisplayPage, itsPictureIsReadWhenItIsMade)
+TEST_F(DisplayPage, itsPictureIsReadWhenItIsMadeAndWhenTheThemeChanges)
 {
     const QString copy = QDir(mHome.path()).filePath(QStringLiteral("backgroundregion.jpg"));
     ASSERT_TRUE(QFile::copy(QStringLiteral(QVTBLT_STAGE_RESOURCES "/backgroundregion.jpg"), copy));
     const platform::Bundle bundle = rzkBundle;
     rzkBundle = platform::Bundle(mHome.path());
     QVMonitorView made;
-    QComboBox list;
-    QComboBox speed;
-    QComboBox mode;
-    made.setOutlets(&list, &speed, &mode);
-    made.resize(600, 360);
-    made.awakeFromNib();
+    QVMonitorView neverDrawn;
+    for (QVMonitorView* const picture : {&made, &neverDrawn}) {
+        picture->resize(600, 360);
+        picture->awakeFromNib();
+    }
     ASSERT_TRUE(QFile::remove(copy)); // like a package update
-    const QPoint onPicture(500, 300);
-    const QColor color = made.grab().toImage().pixelColor(onPicture);
-    EXPECT_EQ(color, view().grab().toImage().pixelColor(onPicture));
+    const auto drawn = [](QVMonitorView& picture) {
+        return picture.grab().toImage().pixelColor(500, 300);
+    };
+    const QColor color = drawn(made);
+    EXPECT_EQ(color, drawn(view()));
+    QPalette palette = made.palette();
+    palette.setColor(QPalette::Highlight, Qt::red);
+    made.setPalette(palette);
+    EXPECT_EQ(drawn(made), color) << "the theme is the same";
+    palette.setColor(QPalette::Window, QColor(0x20, 0x23, 0x26));
+    for (QVMonitorView* const picture : {&made, &neverDrawn}) {
+        picture->setPalette(palette);
+        EXPECT_NE(drawn(*picture), color) << "there is no picture for this one";
+    }
     rzkBundle = bundle;
 }

@@ -29,6 +29,7 @@
 #include <chrono>
 #include <functional>
 #include <future>
+#include <memory>
 #include <optional>
 #include <vector>
 
@@ -607,6 +608,22 @@ TEST_F(PanelOnBus, forgetsTheCalibrationOfOneThatLeftTheBusBeforeItWasHeard)
     EXPECT_TRUE(waitFor([&] { return use(mName).isEmpty(); }));
 }
 
+TEST_F(PanelOnBus, leavesTheBusWithItsPane)
+{
+    const BusClients clients(mBus);
+    const auto before = clients.count();
+    {
+        QVTblt_prefPanePref other;
+        other.initWithBundle(platform::Bundle(QStringLiteral(QVTBLT_STAGE_RESOURCES)));
+        const std::unique_ptr<QWidget> window(other.loadMainView());
+        other.willSelect();
+        EXPECT_TRUE(waitFor([&] { return clients.count() > before; }));
+        other.willUnselect();
+        other.didUnselect();
+    }
+    EXPECT_TRUE(waitFor([&] { return clients.count() == before; }));
+}
+
 TEST_F(PanelOnBus, tellsItsSettingsAnewWhenACalibrationHasEnded)
 {
     Ear ear(mClient);
@@ -628,6 +645,14 @@ TEST_F(PanelOnBus, tellsItsSettingsAnewWhenACalibrationHasEnded)
     calibrate();
     view.endCalibration();
     EXPECT_TRUE(waitFor([&] { return ear.pressures.size() > told; })) << "the same ones again";
+    told = ear.pressures.size();
+    calibrate();
+    EXPECT_TRUE(waitFor([&] { return ear.pressures.size() > told; }));
+    told = ear.pressures.size();
+    mPane.send();
+    ask("Settings");
+    QCoreApplication::processEvents();
+    EXPECT_EQ(ear.pressures.size(), told) << "not before its end";
 }
 
 TEST_F(SecondPanel, takesNoOwnerForAnotherThatCalibrates)

@@ -38,8 +38,14 @@ TEST(QVTabletModels, haveNoMoreKeysAndStripsThanTheRecord)
     for (const QVTabletModel& model : kQVTabletModels) {
         EXPECT_LE(model.keyNum, 16) << model.name;
         EXPECT_LE(model.scrollNum, 2) << model.name;
-        EXPECT_GT(model.tabletXmax, 0) << model.name;
-        EXPECT_GT(model.tabletYmax, 0) << model.name;
+    }
+}
+
+TEST(QVTabletModels, haveSurfacesOfUsualProportions)
+{
+    for (const QVTabletModel& model : kQVTabletModels) {
+        EXPECT_GT(10 * model.tabletXmax, 14 * model.tabletYmax) << model.name;
+        EXPECT_LT(10 * model.tabletXmax, 18 * model.tabletYmax) << model.name;
     }
 }
 

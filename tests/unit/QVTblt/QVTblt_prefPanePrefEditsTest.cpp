@@ -4,13 +4,18 @@
 // The panel's settings as a whole: going back and forth between edits, and
 // their names.
 
+#include "FakeUsb.h"
 #include "PaneTest.h"
 #include "QVKeyComboBox.h"
 #include "QVMonitorView.h"
 #include "QVPressView.h"
+#include "Wait.h"
 
 #include <QCheckBox>
+#include <QComboBox>
+#include <QPushButton>
 #include <QSlider>
+#include <QTest>
 
 #include <cstring>
 #include <functional>
@@ -66,6 +71,83 @@ TEST_F(Settings, goBackToWhatTheyWereAreShownAndPushedOnce)
     showPage("penPage");
     outlet<QVPressView>("mPressView").grab();
     EXPECT_EQ(outlet<QSlider>("mSlider").value(), record.Pen.PressureThreshold * 10);
+}
+
+TEST_F(Settings, areShownAgainOnWhateverPageIsOpen)
+{
+    const QByteArray before = mPane.settings();
+    const auto isShown = [](const std::function<bool()>& condition) {
+        return QTest::qWaitFor(condition, kPatience);
+    };
+    showPage("keyPage");
+    auto& speed = outlet<QSlider>("mScrollSpeed");
+    for (tagQVTabletInfoSubKey& slot : qvTabletInfo.Key.SubKey) {
+        slot.Valid = kQVPauseTablet;
+    }
+    qvTabletInfo.Key.ScrollSpeed = 3;
+    const QByteArray edited = mPane.settings();
+    mPane.setSettings(edited);
+    const auto boxes = mWindow->findChildren<QVKeyComboBox*>();
+    EXPECT_EQ(boxes.size(), 18);
+    for (const QVKeyComboBox* const box : boxes) {
+        EXPECT_EQ(box->currentIndex(), QVKeyComboBox::PauseTablet) << box->tag();
+    }
+    EXPECT_EQ(speed.value(), 3);
+    speed.setEnabled(false); // as where a tablet has no strip
+    qvTabletInfo.Key.ScrollSpeed = 2;
+    mPane.setSettings(mPane.settings());
+    EXPECT_EQ(speed.value(), 3);
+
+    showPage("penPage");
+    auto& pressure = outlet<QSlider>("mSlider");
+    ASSERT_TRUE(isShown([&] { return pressure.value() == 120; })) << "as in the file";
+    qvTabletInfo.Pen.PressureThreshold = 17;
+    mPane.setSettings(mPane.settings());
+    EXPECT_TRUE(isShown([&] { return pressure.value() == 170; }));
+
+    showPage("displayPage");
+    auto& turned = outlet<QComboBox>("mComboBoxUseMode");
+    for (const int degrees : {180, 0, 180}) {
+        qvTabletInfo.Monitor.rotationFlag = static_cast<std::int16_t>(degrees);
+        mPane.setSettings(mPane.settings());
+        EXPECT_TRUE(isShown([&] { return turned.currentIndex() == (degrees == 0 ? 1 : 0); }));
+    }
+    mPane.setSettings(before);
+}
+
+TEST_F(Settings, tellTheTabletItsReportSpeedWhereThatChangesAlone)
+{
+    FakeUsb usb;
+    usb.devices.resize(1);
+    qvTabletInfo.Monitor.Speed = kQVSpeedFast;
+    const QByteArray fast = mPane.settings();
+    mPane.setSettings(fast);
+    EXPECT_TRUE(usb.data.empty());
+    qvTabletInfo.Monitor.Speed = kQVSpeedNormal;
+    mPane.setSettings(fast);
+    EXPECT_EQ(usb.data, (std::vector<std::vector<std::uint8_t>>{{4, 1}}));
+}
+
+TEST_F(Settings, areNoneWhileTheAreaIsBeingCalibrated)
+{
+    const QByteArray before = mPane.settings();
+    mPane.chooseDisplay(1);
+    outlet<QPushButton>("mDoCalibrate").click();
+    EXPECT_EQ(mPane.settings(), QByteArray());
+    mEvents.sent.clear();
+    mPane.setSettings(before);
+    EXPECT_EQ(+qvTabletInfo.Monitor.num, 1);
+    EXPECT_EQ(pushes().size(), 0U);
+    outlet<QVMonitorView>("mMonitorView").endCalibration();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !mPane.settings().isEmpty(); }, kPatience));
+}
+
+TEST_F(Settings, areNotTakenFromWhatIsNoRecord)
+{
+    const tagQVTabletInfo before = qvTabletInfo;
+    mPane.setSettings("nonsense");
+    EXPECT_EQ(std::memcmp(&qvTabletInfo, &before, sizeof before), 0);
+    EXPECT_EQ(pushes().size(), 0U);
 }
 
 TEST_F(Settings, mapTheTabletAgainToTheDisplayOfTheEdit)

@@ -3,6 +3,7 @@
 
 // The key page: every layout, every choice, every slot that a file may contain.
 
+#include "Accessible.h"
 #include "LayoutModels.h"
 #include "OpenPanel.h"
 #include "PaneTest.h"
@@ -10,6 +11,7 @@
 #include "QVKeyComboBox.h"
 #include "QVKeySetClass.h"
 #include "QVTabletModels.h"
+#include "WatchedEvents.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -599,9 +601,22 @@ TEST_F(KeyPage, aKeyIsMarkedAsLongAsItIsPressedOnTheTablet)
     EXPECT_TRUE(box(2).isMarked());
     EXPECT_TRUE(box(17).isMarked());
     EXPECT_FALSE(box(3).isMarked());
+    auto& spoken = *box(2).parentWidget()->findChild<platform::NoticeLabel*>();
+    EXPECT_EQ(spoken.size(), QSize(1, 1)) << "what screen readers say is not seen";
+    EXPECT_FALSE(spoken.isHidden());
+    EXPECT_EQ(spoken.text(), box(17).accessibleName() + QStringLiteral(" is pressed"));
+    const WatchedEvents shows(spoken, QEvent::Show);
+    press(2, true);
+    EXPECT_EQ(shows.count, 1) << "each key is announced";
+    EXPECT_EQ(spoken.text(), box(2).accessibleName() + QStringLiteral(" is pressed"));
     press(2, false);
+    EXPECT_TRUE(spoken.isHidden());
     EXPECT_FALSE(box(2).isMarked());
     EXPECT_TRUE(box(17).isMarked());
+    outlet<QWidget>("keyCanvas").hide();
+    press(3, true);
+    EXPECT_TRUE(spoken.isHidden()) << "another page is shown";
+    outlet<QWidget>("keyCanvas").show();
     press(18, true); // there is no such slot
     press(70000, true);
     show();
@@ -695,6 +710,17 @@ TEST_F(KeyPage, everyCombinationIsShownWithoutHarm)
         ASSERT_EQ(box(2).count(), 10);
         ASSERT_EQ(box(2).currentText(), mPane.GetSubKeyString(2));
     }
+}
+
+TEST_F(KeyPage, anApplicationWithoutAPathIsAnItemWithoutText)
+{
+    edit([](tagQVTabletInfo& record) {
+        record.Key.SubKey[3].Valid = kQVApplication;
+        record.Key.SubKey[3].App = {};
+    });
+    show();
+    EXPECT_EQ(box(3).currentIndex(), QVKeyComboBox::Application);
+    EXPECT_EQ(box(3).currentText(), QString());
 }
 
 TEST_F(KeyPage, aPathWithoutItsNulIsReadToTheFieldsEndOnly)

@@ -4,14 +4,19 @@
 
 #include "Notifications.h"
 #include "PaneTest.h"
+#include "QVMonitorView.h"
+#include "QVTabletModels.h"
 #include "Wait.h"
 #include "rzkBundle.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QSlider>
 #include <QTabWidget>
@@ -37,6 +42,21 @@ protected:
         });
     }
     static void post(QLatin1String name) { platform::notifications().post({name, nullptr, {}}); }
+    /** The numbers on the displays, each with what a screen reader says about it. */
+    QStringList signs() const
+    {
+        QStringList texts;
+        const auto windows = QApplication::topLevelWidgets();
+        for (const QWidget* const window : windows) {
+            if (window->isVisible() && window != mWindow.get()) {
+                const auto* const number = window->findChild<QLabel*>();
+                EXPECT_NE(number, nullptr) << qPrintable(window->windowTitle());
+                texts.append(number->text() + QStringLiteral(" - ") + window->windowTitle());
+            }
+        }
+        texts.sort();
+        return texts;
+    }
 
     std::vector<News> mNews;
     QString mNewsText; ///< of the last one
@@ -173,6 +193,7 @@ TEST_F(Pane, saysUnderTheLabelWhatToTryAndNeverOutOfSight)
         show();
         const QLabel& help = outlet<QLabel>("NoDevHelp");
         EXPECT_TRUE(help.isVisible());
+        EXPECT_EQ(mWindow->focusWidget(), &help) << "so that it is read out";
         EXPECT_TRUE(mWindow->rect().contains(help.geometry())) << showing;
         if (showing == 1) {
             EXPECT_GE(help.geometry().top(), outlet<QLabel>("NoDevTitle").geometry().bottom());
@@ -182,6 +203,54 @@ TEST_F(Pane, saysUnderTheLabelWhatToTryAndNeverOutOfSight)
     mEvents.answer(7);
     show();
     EXPECT_FALSE(outlet<QLabel>("NoDevHelp").isVisible());
+}
+
+TEST_F(Pane, growsWithTheTextAlsoWhereItsControlsHaveFixedPlaces)
+{
+    show();
+    const auto size = [this](const char* name) { return outlet<QWidget>(name).minimumSize(); };
+    const QSize keys = size("keyCanvas");
+    const QSize pressure = size("pressCanvas");
+    QFont font = QApplication::font();
+    font.setPointSizeF(2 * QFontInfo(font).pointSizeF());
+    mWindow->setFont(font);
+    EXPECT_GT(size("keyCanvas").width(), keys.width());
+    EXPECT_GT(size("pressCanvas").width(), pressure.width());
+}
+
+TEST_F(Pane, withoutATabletItsTextsFollowTheWindowsWidthInBothDirections)
+{
+    mEvents.answer(0);
+    const QLabel& title = outlet<QLabel>("NoDevTitle");
+    const QLabel& help = outlet<QLabel>("NoDevHelp");
+    const int first = title.x();
+    for (const bool isMirrored : {false, true}) {
+        mWindow->setLayoutDirection(isMirrored ? Qt::RightToLeft : Qt::LeftToRight);
+        show();
+        for (const int width : {1000, 1200}) {
+            mWindow->resize(width, mWindow->height());
+            QCoreApplication::processEvents();
+            ASSERT_EQ(mWindow->width(), width);
+            EXPECT_EQ(isMirrored ? width - title.x() - title.width() : title.x(),
+                first + (isMirrored ? 40 : 20));
+            EXPECT_EQ(help.x(), width - help.x() - help.width());
+            EXPECT_GT(help.x(), 0);
+        }
+        leave();
+    }
+}
+
+TEST_F(Pane, itsTextsAreInPlaceWhenTheTabletGoesFromAWindowThatStays)
+{
+    show();
+    mPane.willUnselect();
+    mPane.didUnselect();
+    mEvents.answer(0);
+    mPane.willSelect();
+    mPane.didSelect();
+    const QLabel& help = outlet<QLabel>("NoDevHelp");
+    EXPECT_EQ(help.x(), mWindow->width() - help.x() - help.width());
+    EXPECT_GE(help.y(), outlet<QLabel>("NoDevTitle").geometry().bottom());
 }
 
 TEST_F(Pane, tellsItsHostWhatBecomesOfWhatItHasAskedFor)
@@ -226,10 +295,12 @@ TEST_F(Pane, hasNoDeviceBeforeItIsShownAndWithoutATablet)
     EXPECT_FALSE(mPane.hasDevice());
     show();
     EXPECT_TRUE(mPane.hasDevice());
+    EXPECT_EQ(mPane.deviceID(), QStringLiteral("7")) << "as its file is called";
     leave();
     mEvents.answer(0);
     show();
     EXPECT_FALSE(mPane.hasDevice());
+    EXPECT_EQ(mPane.deviceID(), QString());
 }
 
 TEST_F(Pane, knowsTheSameTabletFromAnother)
@@ -329,8 +400,93 @@ TEST_F(Pane, isMappedToNoDisplayThatItsListDoesNotHave)
     }
     EXPECT_EQ(std::memcmp(&qvTabletInfo, &before, sizeof before), 0);
     EXPECT_EQ(pushes().size(), 0U);
+    for (const int number : {2, 0}) {
+        mPane.chooseDisplay(number);
+        EXPECT_EQ(+qvTabletInfo.Monitor.num, number);
+    }
+}
+
+TEST_F(Pane, tellsItsHostWhoeverHasChosenTheDisplay)
+{
+    show();
+    showPage("displayPage");
+    mNews.clear();
+    auto& list = outlet<QComboBox>("mComboBox");
+    QTest::keyClick(&list, Qt::Key_Down); // the user
+    EXPECT_EQ(mNews, std::vector{News::DisplayChosen});
+    EXPECT_EQ(mPane.chosenDisplay(), 1);
     mPane.chooseDisplay(2);
-    EXPECT_EQ(+qvTabletInfo.Monitor.num, 2);
+    EXPECT_EQ(mNews, (std::vector{News::DisplayChosen, News::DisplayChosen}));
+    EXPECT_EQ(mPane.chosenDisplay(), 2);
+}
+
+TEST_F(Pane, tellsItsHostThatTheAreaOfAnEndedCalibrationIsTheUsers)
+{
+    show();
+    mPane.chooseDisplay(1);
+    std::vector<bool> areThere;
+    mPane.setChangeHandler([&] { areThere.push_back(!mPane.settings().isEmpty()); });
+    QTest::mouseClick(&outlet<QPushButton>("mDoCalibrate"), Qt::LeftButton);
+    ASSERT_FALSE(areThere.empty());
+    EXPECT_FALSE(areThere.back());
+    outlet<QVMonitorView>("mMonitorView").endCalibration();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return areThere.back(); }, kPatience));
+}
+
+TEST_F(Pane, showsOnEachDisplayWhichOneItIsUntilTheButtonIsPressedAgainOrItIsLeft)
+{
+    mDisplays.sharesScreen = true;
+    mDisplays.monitors = {
+        {QStringLiteral("Acme"), QStringLiteral("A1"), {}, QStringLiteral("DP-1")},
+        {{}, {}, {}, QStringLiteral("DP-2")}, {QStringLiteral("Acme")}};
+    mDisplays.sizes = {QSize(1920, 1080), QSize(800, 600)};
+    mDisplays.change(std::vector<Rect>(5, {0, 0, 100, 100}));
+    show();
+    showPage("displayPage");
+    auto& button = outlet<QPushButton>("mIdentify");
+    button.click();
+    EXPECT_EQ(signs(),
+        (QStringList{QStringLiteral("1 - Display #1: Acme A1, 1920 × 1080 pixels"),
+            QStringLiteral("2 - Display #2: DP-2, 800 × 600 pixels"),
+            QStringLiteral("3 - Display #3: Acme"), QStringLiteral("4 - Display #4: ")}))
+        << "of the four that it knows";
+    button.click();
+    EXPECT_EQ(signs(), QStringList());
+    button.click();
+    EXPECT_EQ(signs().size(), 4);
+    leave();
+    EXPECT_EQ(signs(), QStringList());
+}
+
+TEST_F(Pane, inALowWindowThePictureScrollsFromTheTabletOn)
+{
+    show();
+    showPage("displayPage");
+    auto& area = outlet<QScrollArea>("mMonitorScroll");
+    const QScrollBar& bar = *area.verticalScrollBar();
+    area.setFixedHeight(360);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.maximum(), 0);
+    area.setFixedHeight(200);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(bar.maximum(), 160);
+    EXPECT_EQ(bar.value(), 160);
+}
+
+TEST_F(Pane, besideThePictureIsThePagesOwnGround)
+{
+    show();
+    showPage("displayPage");
+    mWindow->resize(1200, 700);
+    QCoreApplication::processEvents();
+    auto& area = outlet<QScrollArea>("mMonitorScroll");
+    QPalette red = area.palette();
+    red.setColor(area.viewport()->backgroundRole(), Qt::red);
+    area.viewport()->setPalette(red);
+    const QImage page = outlet<QWidget>("displayPage").grab().toImage();
+    const QPoint beside = area.mapTo(&outlet<QWidget>("displayPage"), QPoint(2, 2));
+    EXPECT_FALSE(outlet<QWidget>("mMonitorView").geometry().contains(2, 2));
+    EXPECT_NE(page.pixelColor(beside * page.devicePixelRatio()), QColor(Qt::red));
 }
 
 TEST_F(Pane, putsTheFocusOnMSoft)
@@ -343,8 +499,28 @@ TEST_F(Pane, putsTheFocusOnMSoft)
 
 TEST_F(Pane, namesTheTablet)
 {
-    show();
-    EXPECT_EQ(outlet<QLabel>("mSoft").text(), QStringLiteral("Unknown tablet, product 0002"));
+    const auto shown = [this](int product, const char* name) {
+        QByteArray config = sampleConfig();
+        config.replace("<key>ProductID</key><integer>2</integer>",
+            "<key>ProductID</key><integer>" + QByteArray::number(product) + "</integer>" + name);
+        writeFile(mHome.configFile(7), config);
+        show();
+        const QString text = outlet<QLabel>("mSoft").text();
+        leave();
+        return text;
+    };
+    EXPECT_EQ(shown(2, ""), QStringLiteral("Unknown tablet, product 0002"));
+    EXPECT_EQ(shown(0xABC, ""), QStringLiteral("Unknown tablet, product 0abc"));
+    const auto* const name = "<key>Name</key><string>Acme &lt;b&gt;Pen&lt;/b&gt;</string>";
+    EXPECT_EQ(shown(2, name), QStringLiteral("Acme <b>Pen</b>"));
+    const QLabel& label = outlet<QLabel>("mSoft");
+    QLabel plain;
+    plain.setTextFormat(Qt::PlainText);
+    plain.setFont(label.font());
+    plain.setText(label.text());
+    EXPECT_EQ(label.sizeHint(), plain.sizeHint()) << "the tags are part of the name";
+    const QVTabletModel& model = kQVTabletModels.front();
+    EXPECT_EQ(shown(model.productID, name), QString::fromUtf8(model.name));
 }
 
 TEST_F(Pane, pushesTheStripsAtOnceWhenABoxIsClicked)

@@ -120,11 +120,15 @@ TEST_F(Query, anAnswerOfAnotherTypeIs0)
 
 TEST_F(Query, ofALongerAnswerTheFirstFourBytesCount)
 {
-    const std::int64_t number = 0x7'0000'0009;
-    mEvents.answer(
-        typeLongInteger, {reinterpret_cast<const char*>(&number), static_cast<int>(sizeof number)});
-    EXPECT_TRUE(rzkgetQVDevice());
+    const auto answer = [this](std::int64_t number) {
+        mEvents.answer(typeLongInteger,
+            {reinterpret_cast<const char*>(&number), static_cast<int>(sizeof number)});
+        return rzkgetQVDevice();
+    };
+    EXPECT_TRUE(answer(0x7'0000'0009));
     EXPECT_STREQ(GetPListName(), "9.plist");
+    EXPECT_FALSE(answer(0x7'0000'0000));
+    EXPECT_STREQ(GetPListName(), "0.plist");
 }
 
 TEST_F(Query, ofAShorterAnswerTheMissingBytesAreZero)

@@ -79,6 +79,11 @@ TEST(tagQVTabletInfo, namesTheNumbersThatFilesAndDriversHave)
         (std::array<int, 7>{0, 1, 2, 3, 4, 5, 6}));
     EXPECT_EQ((std::array<int, 4>{kQVLeftButton, kQVRightButton, kQVBackButton, kQVMiddleButton}),
         (std::array<int, 4>{0, 1, 2, 3}));
+    EXPECT_EQ((std::array<int, 3>{kQVStraightThreshold, kQVHighestThreshold, kQVTurned}),
+        (std::array<int, 3>{100, 200, 180}));
+    EXPECT_EQ((std::array<int, 3>{kQVSlowestScroll, kQVUsualScroll, kQVFastestScroll}),
+        (std::array<int, 3>{1, 5, 10}));
+    EXPECT_EQ((std::array<int, 2>{kQVSpeedFast, kQVSpeedNormal}), (std::array<int, 2>{180, 220}));
     EXPECT_STREQ(kQVSlotKeys[kQVUpperPenSlot], "penKeyU");
     EXPECT_STREQ(kQVSlotKeys[kQVLowerPenSlot], "penKeyL");
 }
@@ -149,5 +154,6 @@ TEST(QVTabletFields, leaveTheTabletSectionOutOfSaving)
 {
     for (const QVSection* const section : kQVSections) {
         EXPECT_EQ(section->saved, std::string(section->key) != "Tablet");
+        EXPECT_EQ(section->hasSlots, std::string(section->key) == "Key");
     }
 }
