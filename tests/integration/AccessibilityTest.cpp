@@ -7,11 +7,13 @@
 #include "ApplicationChooser.h"
 #include "ApplicationsDialog.h"
 #include "Contrast.h"
+#include "Dialogs.h"
 #include "ImportDialog.h"
 #include "LayoutModels.h"
 #include "NotedPane.h"
 #include "PaneShell.h"
 #include "PaneTest.h"
+#include "PenInput.h"
 #include "ProfileNameDialog.h"
 #include "QVCalibrateWin.h"
 #include "QVDrawView.h"
@@ -375,6 +377,27 @@ TEST_F(Accessibility, saysWhatIsInTheDialogThatFitsThePressure)
     QVPressFit dialog(100, nullptr);
     dialog.show();
     expectNoFaults(dialog, 5);
+    QWidget& pad = widgetNamed(dialog, "Pad to press on");
+    QWidget& curve = widgetNamed(dialog, "Pressure curve");
+    EXPECT_EQ(contents(pad), "Press here with the pen.");
+    EXPECT_EQ(contents(curve),
+        "Programs receive 25 % of the full pressure at a quarter of it, 50 % at half and 75 % at "
+        "three quarters.");
+    const Told told;
+    const QPointF at = pad.rect().center();
+    PenInput pen(pad, 7);
+    for (const double pressure : {0.1, 0.5}) {
+        pen.press(at, pressure);
+        pen.release(at);
+        PenInput::deliver();
+        EXPECT_EQ(
+            Told::count(*dialog.findChild<platform::NoticeLabel*>(), QAccessible::ObjectShow), 1);
+    }
+    EXPECT_TRUE(QTest::qWaitFor(
+        [&curve] { return Told::count(curve, QAccessible::DescriptionChanged) > 0; }, kPatience));
+    EXPECT_EQ(contents(curve),
+        "Programs receive 45 % of the full pressure at a quarter of it, 68 % at half and 85 % at "
+        "three quarters.");
 }
 
 TEST_F(Accessibility, saysWhichCrossToTouch)
@@ -561,6 +584,19 @@ TEST_F(Accessibility, saysThePressureAndDoesNotFlood)
         const int count = Told::count(*object, what);
         EXPECT_GE(count, 1) << object->objectName().toStdString();
         EXPECT_LE(count, most) << object->objectName().toStdString();
+    }
+}
+
+TEST_F(Accessibility, tellsThatThePicturesAreDisabledWithTheirPage)
+{
+    showProduct(productOf(QVKeyLayout::A));
+    for (const char* const name : {"mKeyView", "mMonitorView"}) {
+        auto& picture = outlet<QWidget>(name);
+        const Told told;
+        for (const bool isEnabled : {false, true}) {
+            picture.parentWidget()->setEnabled(isEnabled);
+            EXPECT_EQ(Told::count(picture, QAccessible::StateChanged), 1) << name;
+        }
     }
 }
 

@@ -8,6 +8,7 @@
 #include "DBusAppleEvents.h"
 #include "DriverProcess.h"
 #include "ErrorText.h"
+#include "LivingBus.h"
 #include "Notifications.h"
 #include "Peer.h"
 #include "PlainWire.h"
@@ -1270,4 +1271,33 @@ TEST_F(DriverLink, nobodyTakesTheNameFromTheDriver)
     Peer other(mBus);
     EXPECT_FALSE(other.connection().registerService(kDriverName));
     EXPECT_TRUE(rzkgetQVDevice());
+}
+
+TEST_F(DriverLink, actsForANameThatNobodyHas)
+{
+    const QDBusConnection bus = mEvents.connection();
+    QObject context;
+    int gone = 0;
+    const auto ask = [&] { ifGone(bus, kDriverName, context, [&gone] { ++gone; }); };
+    const auto isAnswered = [&context] {
+        return waitUntil([&context] {
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+            return context.children().isEmpty();
+        });
+    };
+    ask();
+    EXPECT_TRUE(isAnswered());
+    EXPECT_EQ(gone, 1);
+    {
+        const Peer driver(mBus, kDriverName);
+        ask();
+        EXPECT_TRUE(isAnswered());
+        EXPECT_EQ(gone, 1) << "it is there";
+    }
+    const auto daemon = static_cast<pid_t>(mBus.pid());
+    ::kill(daemon, SIGSTOP);
+    ask();
+    ::kill(daemon, SIGKILL);
+    EXPECT_TRUE(isAnswered());
+    EXPECT_EQ(gone, 1) << "the bus has not said so";
 }

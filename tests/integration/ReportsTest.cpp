@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The QVTblt developers
 // SPDX-License-Identifier: MIT
 
-// Pen reports end to end: over a real session bus to a calibrating panel.
+// The panel and a driver on a real session bus; above all pen reports, end to end.
 
 #include "AppleEventWire.h"
 #include "Client.h"
@@ -11,6 +11,7 @@
 #include "PrivateBus.h"
 #include "QVCalibrateWin.h"
 #include "QVDriverProtocol.h"
+#include "QVKeyComboBox.h"
 #include "QVTblt_prefPanePref.h"
 #include "SampleConfig.h"
 #include "Service.h"
@@ -25,6 +26,7 @@
 #include <QPushButton>
 #include <QTabWidget>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 #include <QWindow>
 
@@ -37,6 +39,7 @@
 #include <cstring>
 #include <memory>
 #include <numeric>
+#include <optional>
 #include <thread>
 #include <vector>
 
@@ -64,7 +67,8 @@ std::uint32_t numberOf(const QByteArray& report)
 }
 
 /**
- * A driver that answers the query with 7 and pushes with nothing, and records when pushes arrive.
+ * A driver that answers the query with 7 and pushes with nothing, or an error if it refuses them,
+ * and records when pushes arrive.
  */
 class ReportingDriver {
 public:
@@ -74,7 +78,9 @@ public:
         mPeer.answer = [this](const QDBusMessage& call) {
             if (call.arguments()[1].toUInt() == kQVSettingsEvent) {
                 ++mPushes;
-                return call.createReply(parameters({}));
+                return refusesPushes
+                    ? call.createErrorReply(QDBusError::Failed, QStringLiteral("no"))
+                    : call.createReply(parameters({}));
             }
             const std::int32_t number = 7;
             return call.createReply(parameters({TestParameter{keyDirectObject,
@@ -87,13 +93,15 @@ public:
     Peer& peer() { return mPeer; }
     int pushes() const { return mPushes; }
 
+    std::atomic<bool> refusesPushes = false;
+
 private:
     std::atomic<int> mPushes = 0;
     Peer mPeer;
 };
 
-/** The panel in its window during a calibration. */
-class Reports : public testing::Test {
+/** The panel in its window, with the driver. */
+class Panel : public testing::Test {
 protected:
     void SetUp() override
     {
@@ -104,6 +112,30 @@ protected:
         mPane.willSelect();
         mWindow->show();
         mPane.didSelect();
+    }
+
+    /** Runs the panel until the condition holds. */
+    template <class Condition>
+    static void waitUntil(const Condition& condition)
+    {
+        ASSERT_TRUE(QTest::qWaitFor(condition, kPatience));
+    }
+
+    TemporaryHome mHome;
+    PrivateBus mBus;
+    DBusAppleEvents mEvents;
+    ServiceScope<AppleEvents> mScope{mEvents};
+    ReportingDriver mDriver{mBus};
+    QVTblt_prefPanePref mPane;
+    std::unique_ptr<QWidget> mWindow;
+};
+
+/** The panel during a calibration. */
+class Reports : public Panel {
+protected:
+    void SetUp() override
+    {
+        Panel::SetUp();
         mWindow->findChild<QTabWidget*>()->setCurrentWidget(
             mWindow->findChild<QWidget*>(QStringLiteral("displayPage")));
         button("mDoCalibrate").click();
@@ -118,13 +150,6 @@ protected:
     QVCalibrateWin* window() { return mWindow->findChild<QVCalibrateWin*>(); }
     QVCalibrateView& view() { return window()->view(); }
     int points() { return view().changenPointValue(0); }
-
-    /** Runs the panel until the condition holds. */
-    template <class Condition>
-    static void waitUntil(const Condition& condition)
-    {
-        ASSERT_TRUE(QTest::qWaitFor(condition, kPatience));
-    }
 
     QDBusMessage eventOf(const Descriptors& items)
     {
@@ -149,14 +174,6 @@ protected:
         waitUntil([&pending] { return pending.isFinished(); });
         return pending.reply();
     }
-
-    TemporaryHome mHome;
-    PrivateBus mBus;
-    DBusAppleEvents mEvents;
-    ServiceScope<AppleEvents> mScope{mEvents};
-    ReportingDriver mDriver{mBus};
-    QVTblt_prefPanePref mPane;
-    std::unique_ptr<QWidget> mWindow;
 };
 
 /** How the flood is made. */
@@ -189,6 +206,49 @@ Descriptors floodEvent(std::uint32_t n)
 }
 
 } // namespace
+
+TEST_F(Panel, marksTheKeyThatIsPressedOnTheTablet)
+{
+    const auto* const box = mWindow->findChild<QVKeyComboBox*>(QStringLiteral("mKey1_3"));
+    for (const bool isDown : {true, false}) {
+        QDBusMessage signal = QDBusMessage::createSignal(QLatin1String(kQVTabletPath),
+            QLatin1String(kQVTabletInterface), QLatin1String(kQVButtonSignal));
+        signal << QVariant::fromValue(ushort{2}) << isDown;
+        EXPECT_TRUE(mDriver.peer().connection().send(signal));
+        waitUntil([&] { return box->isMarked() == isDown; });
+    }
+}
+
+TEST_F(Panel, checksWithoutBlockingWhetherItsLastChangeWasTaken)
+{
+    using Status = PreferencePane::CheckedStage::Status;
+    int told = 0;
+    mPane.setNewsHandler([&told](PreferencePane::News news, const QString&) {
+        using News = PreferencePane::News;
+        told += news == News::ChangeTaken || news == News::ChangeNotTaken ? 1 : 0;
+    });
+    const auto pushed = [&] {
+        std::optional<Status> status;
+        mPane.checkSelf([&status](const PreferencePane::SelfCheck& check) {
+            EXPECT_EQ(QThread::currentThread(), QCoreApplication::instance()->thread());
+            const auto stage = std::ranges::find(
+                check.stages, QStringLiteral("push"), &PreferencePane::CheckedStage::id);
+            ASSERT_NE(stage, check.stages.end());
+            status = stage->status;
+        });
+        EXPECT_FALSE(status);
+        waitUntil([&status] { return status.has_value(); });
+        return status;
+    };
+    EXPECT_EQ(pushed(), Status::NotChecked) << "there was none";
+    for (const bool refuses : {false, true, false}) {
+        mDriver.refusesPushes = refuses;
+        const int before = told;
+        mPane.send();
+        waitUntil([&] { return told != before; });
+        EXPECT_EQ(pushed(), refuses ? Status::Problem : Status::Ok);
+    }
+}
 
 TEST_F(Reports, aFloodLosesNothingAndLeavesThePanelAnswering)
 {

@@ -8,6 +8,7 @@
 #include "FakeDisplays.h"
 #include "QVConfigStore.h"
 #include "SampleConfig.h"
+#include "SeparateMounts.h"
 #include "TemporaryHome.h"
 #include "rzkApplication.h"
 
@@ -19,7 +20,6 @@
 #include <csignal>
 #include <cstring>
 #include <random>
-#include <sched.h>
 #include <sys/mount.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
@@ -61,15 +61,6 @@ protected:
     FakeDisplays mDisplays{{{0, 0, 10, 10}, {10, 0, 10, 10}}};
     QVConfigStore mStore;
 };
-
-/** Moves this process into a mount namespace of its own. @return false without permission */
-bool separateMounts()
-{
-    if (::unshare(CLONE_NEWNS) != 0 && ::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) {
-        return false;
-    }
-    return ::mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
-}
 
 /** Sets fields from the beginning to the end of the file to a value. */
 void setGeneration(std::int16_t generation)
