@@ -683,7 +683,7 @@ TEST_F(Bar, exportsTheCurrentProfileToTheChosenFile)
         QFileInfo(dialog->selectedFiles().value(0)).fileName(), QStringLiteral("Ink-wash.plist"));
     EXPECT_EQ(dialog->windowTitle(), QStringLiteral("Export Profile"));
     EXPECT_EQ(dialog->nameFilters(), calls({"Profiles (*.plist)"}));
-    dialog->selectFile(QStringLiteral("mine"));
+    dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(QStringLiteral("mine"));
     EXPECT_EQ(QFileInfo(dialog->selectedFiles().value(0)).fileName(), QStringLiteral("mine.plist"));
     const QString file = mHome.path() + QStringLiteral("/mine.plist");
     mLife.profileFault = QStringLiteral("The disk is full.");

@@ -56,6 +56,14 @@ std::optional<QString> chooseBy(
     return platform::openPanel().chooseApplication(nullptr, refusal);
 }
 
+/** Picks a file as a desktop's own dialog does, which may also return what is no application. */
+void pick(QFileDialog& dialog, const QString& file)
+{
+    // QFileDialog::selectFile() leaves the name that is there while its field has the focus.
+    dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file);
+    static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+}
+
 /** Picks the file, or none, in the open panel's window, and returns the answer. */
 std::optional<QString> choose(
     const QString& file, const platform::OpenPanel::Refusal& refusal = noRefusal)
@@ -67,8 +75,7 @@ std::optional<QString> choose(
                 dialog.reject();
                 return;
             }
-            dialog.selectFile(file);
-            static_cast<QDialog&>(dialog).done(QDialog::Accepted);
+            pick(dialog, file);
         },
         refusal);
 }
@@ -129,13 +136,12 @@ TEST_F(OpenPanel, asksAgainForWhatIsNoApplication)
             ++told;
             message->accept();
         } else if (auto* const dialog = qobject_cast<QFileDialog*>(shown); told > 0 && dialog) {
-            dialog->selectFile(file);
-            static_cast<QDialog*>(dialog)->done(QDialog::Accepted);
+            pick(*dialog, file);
         }
     });
     answer.start(10);
     EXPECT_EQ(choose(tool), QFileInfo(file).canonicalFilePath());
-    EXPECT_GE(told, 1);
+    EXPECT_EQ(told, 1);
 }
 
 TEST_F(OpenPanel, saysWhyAFileCannotBeUsedAndChoosesNone)
@@ -272,7 +278,6 @@ TEST_F(OpenPanel, opensAnyOtherFolderAndChoosesNone)
 
 TEST_F(OpenPanel, asksAgainForAFolderThatIsNoBundle)
 {
-    // As a desktop's own dialog may return it.
     const QString folder = makeBundle(mHome.path(), QStringLiteral("tools.desktop"));
     int told = 0;
     QTimer answer;
