@@ -59,7 +59,9 @@ std::optional<QString> chooseBy(
 /** Picks a file as a desktop's own dialog does, which may also return what is no application. */
 void pick(QFileDialog& dialog, const QString& file)
 {
-    // QFileDialog::selectFile() leaves the name that is there while its field has the focus.
+    // This takes back what was selected, which counts before the name. But it leaves the name that
+    // is there while its field has the focus.
+    dialog.selectFile(file);
     dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"))->setText(file);
     static_cast<QDialog&>(dialog).done(QDialog::Accepted);
 }
