@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "LiteralText.h"
 
+#include <QTextBoundaryFinder>
+
 namespace platform {
 
 QString literalText(QString text)
@@ -19,6 +21,24 @@ QString literalText(QString text)
         }
     }
     return text;
+}
+
+QString wrappableText(const QString& text)
+{
+    constexpr QChar kZeroWidthSpace(0x200b);
+    constexpr int kLongest = 20; // characters that stay together
+    QTextBoundaryFinder lines(QTextBoundaryFinder::Line, text);
+    QString wrapped;
+    int length = 0; // of what the character stays together with
+    for (int at = 0; at < text.size(); ++at) {
+        lines.setPosition(at);
+        length = text[at].isSpace() || lines.isAtBoundary() ? 0 : length + 1;
+        if (length >= kLongest && !text[at].isLowSurrogate()) {
+            wrapped += kZeroWidthSpace;
+        }
+        wrapped += text[at];
+    }
+    return wrapped;
 }
 
 QString literalToolTip(const QString& text)

@@ -12,6 +12,12 @@ namespace platform {
  */
 QString literalText(QString text);
 
+/**
+ * A text that can be wrapped within its long words, such as paths, where a list or a label would
+ * otherwise cut them off.
+ */
+QString wrappableText(const QString& text);
+
 /** A tooltip that shows the text as it is, even if it looks like rich text. */
 QString literalToolTip(const QString& text);
 

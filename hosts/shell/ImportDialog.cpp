@@ -16,25 +16,9 @@
 #include <utility>
 
 using platform::literalText;
+using platform::wrappableText;
 
 namespace {
-
-/** A text that can be wrapped within its long words, such as paths, so that all of it is shown. */
-QString wrappable(const QString& text)
-{
-    constexpr QChar kZeroWidthSpace(0x200b);
-    constexpr int kLongest = 20; // characters of a word that is not wrapped
-    QString wrapped;
-    int length = 0; // of the word so far
-    for (const QChar character : text) {
-        length = character.isSpace() ? 0 : length + 1;
-        if (length > kLongest && !character.isLowSurrogate()) {
-            wrapped += kZeroWidthSpace;
-        }
-        wrapped += character;
-    }
-    return wrapped;
-}
 
 QLabel* makeLabel(const QString& text, QWidget* parent)
 {
@@ -106,7 +90,7 @@ void ImportDialog::addLines(const QString& heading, const QStringList& lines)
     item->setFont(bold);
     for (const QString& line : lines) {
         const QString text = literalText(line);
-        auto* const wrapped = new QListWidgetItem(wrappable(text), mContents);
+        auto* const wrapped = new QListWidgetItem(wrappableText(text), mContents);
         wrapped->setData(Qt::AccessibleTextRole, text);
     }
 }
@@ -119,7 +103,7 @@ QWidget* ImportDialog::makeStarts()
     for (const platform::PaneProfiles::Start& start : mImport.starts) {
         const QString path = literalText(start.path);
         const QString button = literalText(start.button);
-        QLabel* const label = makeLabel(button + u'\n' + wrappable(path), contents);
+        QLabel* const label = makeLabel(button + u'\n' + wrappableText(path), contents);
         //: Read by screen readers; %1 is a button of the tablet, %2 the path of an application.
         label->setAccessibleName(tr("%1: %2").arg(button, path));
         //: Check box: a button of the tablet may start the application whose path is above.

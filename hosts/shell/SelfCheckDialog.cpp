@@ -4,6 +4,7 @@
 
 #include "Accessible.h"
 #include "DialogSize.h"
+#include "LiteralText.h"
 
 #include <QClipboard>
 #include <QDialogButtonBox>
@@ -38,8 +39,6 @@ SelfCheckDialog::SelfCheckDialog(platform::PreferencePane& pane, QWidget* parent
     mResult->setTextFormat(Qt::PlainText);
     mResult->setWordWrap(true);
     mStages->setWordWrap(true);
-    mStages->setTextElideMode(Qt::ElideNone);
-    mStages->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     mStages->setSpacing(2);
     //: Name of the list, for screen readers.
     mStages->setAccessibleName(tr("What was checked"));
@@ -57,7 +56,6 @@ SelfCheckDialog::SelfCheckDialog(platform::PreferencePane& pane, QWidget* parent
     layout->addWidget(mResult);
     layout->addWidget(mStages, 1);
     layout->addWidget(buttons);
-    mStages->setFocus();
     // Otherwise, Qt makes it as low as the layout allows, since the text wraps.
     resizeWithinScreen(*this);
     check();
@@ -105,8 +103,8 @@ void SelfCheckDialog::showResult(const platform::PreferencePane::SelfCheck& chec
 void SelfCheckDialog::add(const Stage& stage)
 {
     const bool isProblem = stage.status == Status::Problem;
-    auto* const item = new QListWidgetItem(
-        stage.remedy.isEmpty() ? stage.text : stage.text + u'\n' + stage.remedy, mStages);
+    const QString text = stage.remedy.isEmpty() ? stage.text : stage.text + u'\n' + stage.remedy;
+    auto* const item = new QListWidgetItem(platform::wrappableText(text), mStages);
     if (stage.status != Status::NotChecked) {
         item->setIcon(style()->standardIcon(pictureOf(stage.status), nullptr, this));
     }
@@ -117,7 +115,7 @@ void SelfCheckDialog::add(const Stage& stage)
         : stage.status == Status::Ok ? tr("OK")
                                      : tr("Not checked");
     //: Read by screen readers; %1 is OK, Problem or Not checked, %2 what was found.
-    item->setData(Qt::AccessibleTextRole, tr("%1: %2").arg(status, item->text()));
+    item->setData(Qt::AccessibleTextRole, tr("%1: %2").arg(status, text));
 }
 
 void SelfCheckDialog::copyReport() const

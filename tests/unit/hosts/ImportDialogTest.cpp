@@ -215,16 +215,6 @@ TEST_F(Import, wrapsLongLinesAndLongWords)
     }
 }
 
-TEST_F(Import, breaksNoWordThatIsNotLong)
-{
-    mImport.changes = QStringList{QString(20, u'a') + u' ' + QString(20, u'b'), QString(21, u'c'),
-        QString(20, u'd') + QStringLiteral("\U0001F58A")};
-    open();
-    EXPECT_EQ(list().item(1)->text(), mImport.changes[0]);
-    EXPECT_EQ(list().item(2)->text(), QString(20, u'c') + QStringLiteral("\u200bc"));
-    EXPECT_EQ(list().item(3)->text(), QString(20, u'd') + QStringLiteral("\u200b\U0001F58A"));
-}
-
 TEST_F(Import, wrapsLinesBesideItsScrollBar)
 {
     for (int i = 0; i < 100; ++i) {

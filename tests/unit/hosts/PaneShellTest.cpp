@@ -634,15 +634,6 @@ TEST_P(Shell, findsTheProblemWhereThereIsNoTablet)
     EXPECT_FALSE(button("Check Again")->isEnabled());
     mPane->checkDone(foundProblem());
     EXPECT_EQ(list.count(), 3);
-    EXPECT_GT(list.height(), 20 * list.fontMetrics().lineSpacing()) << "room for most stages";
-    EXPECT_EQ(list.currentRow(), 1) << "the first problem";
-    EXPECT_EQ(list.item(1)->text(), QStringLiteral("There is no driver.\nInstall one."));
-    EXPECT_EQ(list.item(1)->data(Qt::AccessibleTextRole).toString(),
-        QStringLiteral("Problem: There is no driver.\nInstall one."));
-    EXPECT_EQ(list.item(2)->data(Qt::AccessibleTextRole).toString(),
-        QStringLiteral("Not checked: Not yet."));
-    press("Copy Report");
-    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("the report"));
     QCoreApplication::processEvents();
     EXPECT_EQ(mLife.take(), calls({"check"})) << "the tablet may be there by now";
     press("Check Again");
