@@ -9,7 +9,9 @@
 #include <QClipboard>
 #include <QDialogButtonBox>
 #include <QGuiApplication>
+#include <QIcon>
 #include <QListWidget>
+#include <QPixmap>
 #include <QPointer>
 #include <QPushButton>
 #include <QStyle>
@@ -21,9 +23,18 @@ using Status = platform::PreferencePane::CheckedStage::Status;
 
 namespace {
 
-QStyle::StandardPixmap pictureOf(Status status)
+/** The picture of a stage's result; empty if it was not checked, so that all texts are aligned. */
+QIcon iconOf(Status status, const QListWidget& list)
 {
-    return status == Status::Ok ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning;
+    if (status == Status::NotChecked) {
+        constexpr int kLarge = 64; // in pixels; a list draws it smaller
+        QPixmap nothing(kLarge, kLarge);
+        nothing.fill(Qt::transparent);
+        return {nothing};
+    }
+    return list.style()->standardIcon(
+        status == Status::Ok ? QStyle::SP_DialogApplyButton : QStyle::SP_MessageBoxWarning, nullptr,
+        &list);
 }
 
 } // namespace
@@ -105,9 +116,7 @@ void SelfCheckDialog::add(const Stage& stage)
     const bool isProblem = stage.status == Status::Problem;
     const QString text = stage.remedy.isEmpty() ? stage.text : stage.text + u'\n' + stage.remedy;
     auto* const item = new QListWidgetItem(platform::wrappableText(text), mStages);
-    if (stage.status != Status::NotChecked) {
-        item->setIcon(style()->standardIcon(pictureOf(stage.status), nullptr, this));
-    }
+    item->setIcon(iconOf(stage.status, *mStages));
     QFont font = mStages->font();
     font.setBold(isProblem);
     item->setFont(font);
