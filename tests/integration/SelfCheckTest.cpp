@@ -12,6 +12,7 @@
 #include "QVSelfCheck.h"
 #include "QVTblt_prefPanePref.h"
 #include "SampleConfig.h"
+#include "ScopedVariable.h"
 #include "SeparateMounts.h"
 #include "Service.h"
 #include "TemporaryHome.h"
@@ -94,28 +95,6 @@ void setMode(const std::string& path, mode_t mode)
 {
     EXPECT_EQ(::chmod(path.c_str(), mode), 0) << path << ": " << std::strerror(errno);
 }
-
-/** For its lifetime, an environment variable has that value; empty is unset. */
-class ScopedVariable {
-public:
-    ScopedVariable(const char* name, const char* value)
-        : mName(name)
-        , mBefore(qgetenv(name))
-    {
-        set(value);
-    }
-    ~ScopedVariable() { set(mBefore); }
-    Q_DISABLE_COPY_MOVE(ScopedVariable)
-
-private:
-    void set(const QByteArray& value)
-    {
-        value.isEmpty() ? qunsetenv(mName) : qputenv(mName, value);
-    }
-
-    const char* mName;
-    QByteArray mBefore;
-};
 
 /** The number of an event node that no other test has now: programs are found by their files. */
 int nodeNumber(int digit)

@@ -5,6 +5,7 @@
 
 #include "LivingBus.h"
 
+#include "ScopedVariable.h"
 #include "Wait.h"
 
 #include <QDir>
@@ -73,13 +74,6 @@ private:
 
 class LivingBus : public testing::Test {
 protected:
-    LivingBus() { qunsetenv("XDG_RUNTIME_DIR"); }
-    ~LivingBus() override
-    {
-        qputenv("DBUS_SESSION_BUS_ADDRESS", mAddressBefore);
-        qputenv("XDG_RUNTIME_DIR", mFolderBefore);
-    }
-
     /** Whether the bus at an address answers, or there is none. */
     static bool answers(
         const QByteArray& address, std::chrono::milliseconds limit = std::chrono::milliseconds(1))
@@ -88,8 +82,8 @@ protected:
         return sessionBusAnswers(limit);
     }
 
-    QByteArray mAddressBefore = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    QByteArray mFolderBefore = qgetenv("XDG_RUNTIME_DIR");
+    ScopedVariable mAddressScope{"DBUS_SESSION_BUS_ADDRESS", ""};
+    ScopedVariable mFolderScope{"XDG_RUNTIME_DIR", ""};
     QTemporaryDir mTemporary;
     QByteArray mFolder = mTemporary.path().toUtf8();
     QByteArray mPath = mFolder + "/bus";
