@@ -6,6 +6,8 @@
 
 #include <QApplication>
 #include <QDialog>
+#include <QImage>
+#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 
@@ -71,4 +73,16 @@ inline void cancelInEachWay(
         cancel(*dialog);
         expectCancelled();
     }
+}
+
+/** Expects an item of a list to be wrapped within the list, and all of its text to be drawn. */
+inline void expectWrapped(QListWidget& list, int row)
+{
+    QListWidgetItem& item = *list.item(row);
+    const QRect lines = list.visualItemRect(&item);
+    EXPECT_LE(lines.width(), list.viewport()->width()) << row;
+    EXPECT_GE(lines.height(), 3 * list.fontMetrics().lineSpacing()) << row;
+    const QImage before = list.grab().toImage();
+    item.setText(item.text().chopped(2) + u'X');
+    EXPECT_NE(list.grab().toImage(), before) << row << ": its end is drawn";
 }

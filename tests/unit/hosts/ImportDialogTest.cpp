@@ -204,14 +204,9 @@ TEST_F(Import, wrapsLongLinesAndLongWords)
     open();
     EXPECT_FALSE(list().horizontalScrollBar()->isVisible());
     for (int row = 1; row <= 2; ++row) {
-        QListWidgetItem& item = *list().item(row);
-        const QRect line = list().visualItemRect(&item);
-        EXPECT_LE(line.width(), list().viewport()->width());
-        EXPECT_GE(line.height(), 3 * list().fontMetrics().lineSpacing());
-        EXPECT_EQ(item.data(Qt::AccessibleTextRole), mImport.changes[row - 1]) << "read as it is";
-        const QImage before = list().grab().toImage();
-        item.setText(item.text().chopped(2) + u'X');
-        EXPECT_NE(list().grab().toImage(), before) << "its end is drawn";
+        EXPECT_EQ(list().item(row)->data(Qt::AccessibleTextRole), mImport.changes[row - 1])
+            << "read as it is";
+        expectWrapped(list(), row);
     }
 }
 
